@@ -1,0 +1,32 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Warnings, definitions and sanitizers of all targets of this project.
+
+add_library(kestrune_options INTERFACE)
+target_include_directories(kestrune_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_definitions(kestrune_options INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_FOREACH
+    QT_NO_KEYWORDS
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_STRICT_ITERATORS
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400
+)
+
+if(MSVC)
+    target_compile_options(kestrune_options INTERFACE /W4 /WX /utf-8 /permissive-)
+else()
+    target_compile_options(kestrune_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+endif()
+
+if(KESTRUNE_SANITIZERS)
+    target_compile_options(kestrune_options INTERFACE
+        -fsanitize=${KESTRUNE_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(kestrune_options INTERFACE -fsanitize=${KESTRUNE_SANITIZERS})
+endif()
+if(KESTRUNE_COVERAGE)
+    target_compile_options(kestrune_options INTERFACE --coverage)
+    target_link_options(kestrune_options INTERFACE --coverage)
+endif()

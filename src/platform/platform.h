@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The seam: what the logic needs of an operating system.
+
+#pragma once
+
+#include "registrykey.h"
+
+#include <QList>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+/** A string of a DLL's string table, or why there is none. */
+struct DllString
+{
+    bool loaded = false;         ///< the DLL could be opened
+    std::optional<QString> text; ///< the string; empty where the table has none of that number
+    quint32 error = 0;           ///< the system's error code of a failed opening
+};
+
+/** The steps of a WMI query that can fail. */
+enum class WmiStep { InitializeCom, CreateLocator, Connect, SetBlanket, Query };
+
+struct WmiFailure
+{
+    WmiStep step = WmiStep::Query;
+    qint32 code = 0; ///< the HRESULT as a signed number
+};
+
+/** What a WMI query gave: for each instance, in order, the texts of the properties asked for, in the order asked. */
+struct WmiAnswer
+{
+    QList<QStringList> instances;
+    QList<WmiFailure> failures;
+};
+
+/** One file, folder or link that a walk meets. */
+struct WalkEntry
+{
+    QString path;    ///< host path
+    qint64 size = 0; ///< bytes; 0 for a folder
+};
+
+/** How the shell is asked to start a program. */
+struct ShellStart
+{
+    QString verb;       ///< "open", or "runas" for an elevated start
+    QString file;       ///< host path of this program's own file, or a Windows path
+    QString parameters; ///< one text, as the shell takes it; may be empty
+};
+
+class Platform
+{
+public:
+    Platform() = default;
+    virtual ~Platform() = default;
+    Q_DISABLE_COPY_MOVE(Platform)
+
+    /** Opens a key by its full path, hive name first. Never null. Any thread; the object belongs to one thread. */
+    virtual std::unique_ptr<RegistryKey> openKey(const QString &path) const = 0;
+
+    /**
+     * The file on this computer behind a Windows path, with "\" or "/" between its parts. On Windows the same text; on a
+     * rehearsal machine a path below its drive, found without regard to case. A path without a drive, and a bare drive
+     * ("C:"), mean the drive's root. A file that isn't there gives the path where it would be.
+     */
+    virtual QString hostPath(const QString &windowsPath) const = 0;
+    /** Host path of the folder that log.txt and the backups are written to, without a slash at its end. */
+    virtual QString programFolder() const = 0;
+    /** Host path of the folder that holds img and Translations, without a slash at its end. */
+    virtual QString resourceFolder() const = 0;
+
+    /**
+     * Visits everything below a folder, given as a Windows path, as QDirIterator does on Windows with its default
+     * filters: hidden entries are left out and not entered, links are named but not followed, "." and ".." don't come. An
+     * unreadable or missing folder gives nothing. The walk ends where @p visit returns false.
+     */
+    virtual void walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const = 0;
+
+    /** The file to start for a program name, a path, or a path in double quotes; empty where there is no such program. */
+    virtual QString programFile(const QString &program) const = 0;
+    /**
+     * The 32-bit exit code of a process of this program that has ended by itself.
+     * @param reported what QProcess says of it, which some systems cut to 8 bits
+     */
+    virtual int exitCode(qint64 processId, int reported) const = 0;
+
+    /** Whether this process has an elevated token; false where that can't be told. */
+    virtual bool isElevated() const = 0;
+    /** Starts a program through the shell and doesn't wait. A refusal or failure is silent. */
+    virtual void shellExecute(const ShellStart &start) const = 0;
+
+    /** Reads a string of a DLL, given by its Windows path, without running code of the DLL. */
+    virtual DllString dllString(const QString &windowsPath, uint id) const = 0;
+    /** Reads properties of all instances of a class in ROOT\CIMV2. A failure ends the query with what was read by then. */
+    virtual WmiAnswer queryWmi(const QString &className, const QStringList &properties) const = 0;
+
+    /**
+     * Pauses the calling thread. Real in use, shortened or only recorded on a rehearsal machine. Ends early when the
+     * calling QThread is asked to be interrupted.
+     */
+    virtual void pause(int milliseconds) const = 0;
+};
+
+/** The platform in force. main() sets it before anything else; without one the program ends. */
+Platform &platform();
+void setPlatform(std::unique_ptr<Platform> newPlatform);

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One opened key of the registry.
+
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+/**
+ * A key of the registry and what lies below it, with the operations and the manners of QSettings' native format.
+ *
+ * - Look-ups ignore case; a name keeps the case it was first written with.
+ * - In a name "/" separates levels, and a backslash is an ordinary character, which the registry stores as "/".
+ * - The last component "Default" or "." means the unnamed value; listings show it as ".".
+ * - The key is made at the first use if it is missing. Without the right to write, and on a path that doesn't begin with
+ *   a hive's name, reads give their defaults and writes and removals do nothing, silently.
+ */
+class RegistryKey
+{
+public:
+    RegistryKey() = default;
+    virtual ~RegistryKey() = default;
+    Q_DISABLE_COPY_MOVE(RegistryKey)
+
+    /**
+     * The value of that name: texts for REG_SZ and REG_EXPAND_SZ (not expanded), a signed int for REG_DWORD, a 64-bit
+     * integer for REG_QWORD, a list of texts for REG_MULTI_SZ, a text of size/2 code units for REG_BINARY. A missing
+     * value, and the empty name, give @p fallback.
+     */
+    virtual QVariant value(const QString &name, const QVariant &fallback = {}) const = 0;
+    /** Writes int and uint as REG_DWORD, 64-bit integers as REG_QWORD, lists of texts as REG_MULTI_SZ, all else REG_SZ. */
+    virtual void setValue(const QString &name, const QVariant &value) = 0;
+    /** Removes the value of that name and the whole subkey of that name; an absent name is silent. */
+    virtual void remove(const QString &name) = 0;
+    virtual bool contains(const QString &name) const = 0;
+
+    /** All values at and below the key, "/" between levels, sorted by UTF-16 code unit. */
+    virtual QStringList allKeys() const = 0;
+    /** The key's own values, sorted by UTF-16 code unit. */
+    virtual QStringList childKeys() const = 0;
+    /** The direct subkeys, also those without values, sorted by UTF-16 code unit. */
+    virtual QStringList childGroups() const = 0;
+
+    /** Goes down to a subkey; names are relative to it until endGroup(). */
+    virtual void beginGroup(const QString &name) = 0;
+    virtual void endGroup() = 0;
+};
