@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SQLite, wrapped just enough to be safe.
+
+#include "database.h"
+
+#include "machine.h"
+
+#include <QDir>
+
+#include <sqlite3.h>
+
+#ifdef Q_OS_UNIX
+#include <pthread.h>
+#endif
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int busyTimeout = 10000; // milliseconds
+
+} // namespace
+
+Database::Hold::Hold(std::recursive_mutex &lock)
+    : lock_(lock)
+{
+#ifdef Q_OS_UNIX
+    pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &cancelState_);
+#endif
+    lock_.lock();
+}
+
+Database::Hold::~Hold()
+{
+    lock_.unlock();
+#ifdef Q_OS_UNIX
+    pthread_setcancelstate(cancelState_, nullptr);
+#endif
+}
+
+Database::Database(const QString &file)
+    : file_(file)
+{
+    // Locking is done here, so that SQLite needn't do it again.
+    constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
+    const int result = sqlite3_open_v2(file.toUtf8().constData(), &handle_, flags, nullptr);
+    try {
+        if (result != SQLITE_OK)
+            fail("can't be opened");
+        sqlite3_extended_result_codes(handle_, 1);
+        sqlite3_busy_timeout(handle_, busyTimeout);
+        // A rehearsal survives a crash of any program; after a power cut it is made anew.
+        execute("PRAGMA synchronous = OFF");
+    } catch (const MachineError &) {
+        sqlite3_close_v2(handle_);
+        throw;
+    }
+}
+
+Database::~Database()
+{
+    for (const auto &[sql, statement] : statements_)
+        sqlite3_finalize(statement.handle);
+    sqlite3_close_v2(handle_);
+}
+
+void Database::fail(const char *what) const
+{
+    const QString reason = handle_ ? QString::fromUtf8(sqlite3_errmsg(handle_)) : u"out of memory"_s;
+    throw MachineError{u"%1: %2: %3"_s.arg(QDir::toNativeSeparators(file_), QString::fromUtf8(what), reason)};
+}
+
+void Database::execute(const char *statements)
+{
+    const Hold hold(lock_);
+    if (sqlite3_exec(handle_, statements, nullptr, nullptr, nullptr) != SQLITE_OK)
+        fail("can't be used");
+}
+
+sqlite3_stmt *Database::prepare(const char *sql)
+{
+    sqlite3_stmt *statement = nullptr;
+    if (sqlite3_prepare_v3(handle_, sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) != SQLITE_OK)
+        fail("can't be used");
+    return statement;
+}
+
+Database::Query Database::query(const char *sql)
+{
+    return Query(*this, sql);
+}
+
+Database::Query::Query(Database &database, const char *sql)
+    : hold_(database.lock_)
+    , database_(database)
+{
+    Statement &shared = database_.statements_[sql];
+    if (shared.inUse) { // by a query around this one, whose rows must not be disturbed
+        statement_ = database_.prepare(sql);
+        return;
+    }
+    if (!shared.handle)
+        shared.handle = database_.prepare(sql);
+    shared.inUse = true;
+    shared_ = &shared;
+    statement_ = shared.handle;
+}
+
+Database::Query::~Query()
+{
+    if (!shared_) {
+        sqlite3_finalize(statement_);
+        return;
+    }
+    sqlite3_reset(statement_);
+    sqlite3_clear_bindings(statement_);
+    shared_->inUse = false;
+}
+
+Database::Query &Database::Query::bind(const QVariant &parameter)
+{
+    const int index = ++bound_;
+    int result = SQLITE_OK;
+    switch (parameter.typeId()) {
+    case QMetaType::UnknownType:
+    case QMetaType::Nullptr:
+        result = sqlite3_bind_null(statement_, index);
+        break;
+    case QMetaType::QByteArray: {
+        const QByteArray bytes = parameter.toByteArray(); // never null: a null pointer would be stored as NULL
+        result =
+            sqlite3_bind_blob64(statement_, index, bytes.constData(), sqlite3_uint64(bytes.size()), SQLITE_TRANSIENT);
+        break;
+    }
+    case QMetaType::QString: {
+        const QByteArray text = parameter.toString().toUtf8();
+        result = sqlite3_bind_text64(statement_, index, text.constData(), sqlite3_uint64(text.size()), SQLITE_TRANSIENT,
+                                     SQLITE_UTF8);
+        break;
+    }
+    default:
+        Q_ASSERT_X(parameter.canConvert<qint64>(), "Database", "a parameter is integer, text, bytes or null");
+        result = sqlite3_bind_int64(statement_, index, parameter.toLongLong());
+    }
+    if (result != SQLITE_OK)
+        database_.fail("can't be used");
+    return *this;
+}
+
+bool Database::Query::next()
+{
+    const int result = sqlite3_step(statement_);
+    if (result != SQLITE_ROW && result != SQLITE_DONE)
+        database_.fail("can't be used");
+    return result == SQLITE_ROW;
+}
+
+void Database::Query::run()
+{
+    while (next()) {
+    }
+}
+
+bool Database::Query::isNull(int column) const
+{
+    return sqlite3_column_type(statement_, column) == SQLITE_NULL;
+}
+
+qint64 Database::Query::integer(int column) const
+{
+    return sqlite3_column_int64(statement_, column);
+}
+
+QString Database::Query::text(int column) const
+{
+    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(statement_, column));
+    return QString::fromUtf8(text, sqlite3_column_bytes(statement_, column));
+}
+
+QByteArray Database::Query::bytes(int column) const
+{
+    const auto *bytes = static_cast<const char *>(sqlite3_column_blob(statement_, column));
+    return QByteArray(bytes, sqlite3_column_bytes(statement_, column));
+}
+
+Database::Transaction::Transaction(Database &database)
+    : hold_(database.lock_)
+    , database_(database)
+{
+    // The outermost one takes the right to write at once: taken later it could be refused, when another process has
+    // written since the first reading.
+    database_.execute(database_.depth_ == 0 ? "BEGIN IMMEDIATE" : "SAVEPOINT nested");
+    ++database_.depth_;
+}
+
+Database::Transaction::~Transaction()
+{
+    if (!open_)
+        return;
+    --database_.depth_;
+    // A failure here means that SQLite has already undone all of it.
+    const char *undo = database_.depth_ == 0 ? "ROLLBACK" : "ROLLBACK TO nested; RELEASE nested";
+    sqlite3_exec(database_.handle_, undo, nullptr, nullptr, nullptr);
+}
+
+void Database::Transaction::commit()
+{
+    database_.execute(database_.depth_ == 1 ? "COMMIT" : "RELEASE nested");
+    --database_.depth_;
+    open_ = false;
+}

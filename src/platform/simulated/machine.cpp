@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A rehearsal machine: making and opening one, and its tools.
+
+#include "machine.h"
+
+#include "database.h"
+#include "machineschema.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView tools[] = {u"sc", u"cmd"};
+constexpr qint64 smallestDatabase = 512; // bytes; the least page there is
+const char *const stateFolders[] = {"drive_c", "program", "tools"};
+
+[[noreturn]] void fail(const QString &path, const QString &reason)
+{
+    throw MachineError{u"%1: %2"_s.arg(QDir::toNativeSeparators(path), reason)};
+}
+
+QString databaseFile(const QString &folder)
+{
+    return folder + u"/machine.sqlite"_s;
+}
+
+QString cleanFolder(const QString &folder)
+{
+    return QDir::cleanPath(QDir(folder).absolutePath());
+}
+
+void makeFolders(const QString &folder)
+{
+    for (const char *name : stateFolders) {
+        if (!QDir(folder).mkpath(QString::fromLatin1(name)))
+            fail(folder, u"can't be written"_s);
+    }
+}
+
+/** Looks before SQLite does, which takes an empty file for a new database. */
+void checkHeader(const QString &path)
+{
+    QFile file(path);
+    if (!file.exists())
+        fail(QFileInfo(path).path(), u"is no rehearsal machine"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        fail(path, file.errorString());
+    if (file.size() < smallestDatabase || !file.read(16).startsWith("SQLite format 3"))
+        fail(path, u"is damaged"_s);
+}
+
+void checkVersion(Database &database, const QString &path)
+{
+    auto table = database.query("SELECT 1 FROM sqlite_schema WHERE name = 'meta'");
+    if (!table.next())
+        fail(path, u"is no rehearsal machine"_s);
+    auto query = database.query("SELECT value FROM meta WHERE name = 'version'");
+    if (!query.next())
+        fail(path, u"is no rehearsal machine"_s);
+    const qint64 version = query.integer(0);
+    if (version > Machine::formatVersion) {
+        fail(path,
+             u"is of version %1, and this program knows those up to %2"_s.arg(version).arg(Machine::formatVersion));
+    }
+    if (version < 1)
+        fail(path, u"is damaged"_s);
+}
+
+/** A JSON text without the brackets that a document needs around it. */
+QByteArray jsonText(const QString &text)
+{
+    return QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact).sliced(1).chopped(1);
+}
+
+} // namespace
+
+Machine::Machine(const QString &folder, std::unique_ptr<Database> database)
+    : folder_(folder)
+    , database_(std::move(database))
+    , registry_(*database_)
+{
+}
+
+Machine::~Machine() = default;
+
+std::unique_ptr<Machine> Machine::create(const QString &folder)
+{
+    const QString path = cleanFolder(folder);
+    if (QFileInfo::exists(path) && !QFileInfo(path).isDir())
+        fail(path, u"is no folder"_s);
+    if (!QDir(path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
+        fail(path, u"isn't empty"_s);
+    makeFolders(path);
+    auto database = std::make_unique<Database>(databaseFile(path));
+    database->execute("PRAGMA journal_mode = WAL");
+    Database::Transaction transaction(*database);
+    database->execute(machineSchema);
+    database->query("INSERT INTO meta VALUES ('version', ?)").bind(formatVersion).run();
+    transaction.commit();
+    return std::unique_ptr<Machine>(new Machine(path, std::move(database)));
+}
+
+std::unique_ptr<Machine> Machine::open(const QString &folder)
+{
+    const QString path = cleanFolder(folder);
+    const QString file = databaseFile(path);
+    checkHeader(file);
+    auto database = std::make_unique<Database>(file);
+    checkVersion(*database, file);
+    makeFolders(path); // empty ones get lost in some archives
+    return std::unique_ptr<Machine>(new Machine(path, std::move(database)));
+}
+
+void Machine::logCommand(const QString &program, const QStringList &arguments, int exitCode) const
+{
+    QByteArray line = "{\"program\":" + jsonText(program) + ",\"arguments\":";
+    line += QJsonDocument(QJsonArray::fromStringList(arguments)).toJson(QJsonDocument::Compact);
+    line += ",\"exitCode\":" + QByteArray::number(exitCode) + "}\n";
+    // The database keeps other processes away, since appending alone isn't safe on every system.
+    const Database::Transaction transaction(*database_);
+    QFile log(folder_ + u"/commands.log"_s);
+    if (!log.open(QIODevice::Append | QIODevice::Unbuffered) || log.write(line) != line.size())
+        fail(log.fileName(), log.errorString());
+}
+
+QStringList Machine::toolNames()
+{
+    QStringList names;
+    for (const QStringView tool : tools)
+        names << tool.toString();
+    return names;
+}
+
+void Machine::placeTools(const QString &stockTool) const
+{
+    const QFileInfo source(stockTool);
+    for (const QString &name : toolNames()) {
+#ifdef Q_OS_WIN
+        const QString place = toolsFolder() + u'/' + name + u".exe"_s;
+        const QFileInfo present(place);
+        const bool placed =
+            present.exists() && present.size() == source.size() && present.lastModified() >= source.lastModified();
+        const bool done = placed || (QFile::remove(place), QFile::copy(source.absoluteFilePath(), place));
+#else
+        const QString place = toolsFolder() + u'/' + name;
+        const bool placed = QFileInfo(place).symLinkTarget() == source.absoluteFilePath();
+        if (!placed)
+            QFile::remove(place);
+        const bool done = placed || QFile::link(source.absoluteFilePath(), place);
+#endif
+        if (!done)
+            fail(place, u"can't be written"_s);
+    }
+}

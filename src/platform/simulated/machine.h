@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A rehearsal machine: the folder that holds a whole simulated Windows.
+
+#pragma once
+
+#include "registrystore.h"
+
+#include <QJsonObject>
+#include <QMap>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+class Database;
+
+/** What went wrong with a machine, in one line for a person. */
+struct MachineError
+{
+    QString message;
+};
+
+/** What a tool of a machine is told to do instead of its work. */
+struct ToolFault
+{
+    bool missing = false;          ///< there is no such program
+    bool hang = false;             ///< runs until it is ended
+    std::optional<int> exitCode;   ///< ends with this code, having changed nothing
+    std::optional<QString> output; ///< prints this instead of its own text
+    int repeat = 1;                ///< how often it prints it
+};
+
+/**
+ * The machine's folder:
+ *
+ *     machine.sqlite   registry, run states, processes, attributes, WMI, DLL strings, environment, faults
+ *     drive_c/         the files the program can see
+ *     program/         the program folder: log.txt, backup_svc, backup_tasks
+ *     tools/           sc, cmd, ... all of them kestrune-stocktool
+ *     commands.log     one JSON line for each tool run: program, arguments, exitCode
+ *
+ * Several processes may hold one machine open at a time, and several threads one object.
+ */
+class Machine
+{
+public:
+    static constexpr int formatVersion = 1;
+
+    /** Makes an empty machine. Throws MachineError where the folder holds something or can't be written. */
+    static std::unique_ptr<Machine> create(const QString &folder);
+    /** Opens a machine. Throws MachineError where there is none, or it is damaged or of a newer version. */
+    static std::unique_ptr<Machine> open(const QString &folder);
+    ~Machine();
+
+    QString folder() const { return folder_; }
+    QString driveFolder() const { return folder_ + QStringLiteral("/drive_c"); }
+    QString programFolder() const { return folder_ + QStringLiteral("/program"); }
+    QString toolsFolder() const { return folder_ + QStringLiteral("/tools"); }
+
+    Database &database() const { return *database_; }
+    RegistryStore &registry() { return registry_; }
+
+    /** A text of one line that names the machine. */
+    QString name() const;
+    void setName(const QString &name);
+
+    /** Environment variables by the name they were given with. */
+    QMap<QString, QString> environment() const;
+    void setEnvironment(const QMap<QString, QString> &variables);
+
+    /** Run states of services, by name without regard to case. A service that never ran has none. */
+    std::optional<bool> isRunning(const QString &service) const;
+    void setRunning(const QString &service, bool running);
+    QMap<QString, bool> runStates() const;
+
+    QStringList processes() const;
+    void setProcesses(const QStringList &names);
+
+    /** A string of a DLL; null text where the DLL has no such string, null altogether where the file is no DLL. */
+    std::optional<std::optional<QString>> dllString(const QString &windowsPath, uint id) const;
+    void setDllStrings(const QString &windowsPath, const QMap<uint, QString> &strings);
+
+    /** Instances of a WMI class, by name without regard to case, each a JSON object of its properties. */
+    QList<QJsonObject> wmiInstances(const QString &className) const;
+    /** Whether the machine has the class, if only without instances. */
+    bool hasWmiClass(const QString &className) const;
+    void setWmiInstances(const QString &className, const QList<QJsonObject> &instances);
+
+    /** A file's attribute word as Windows has it (0x2 hidden, 0x4 system, 0x10 folder, 0x20 archive ...). */
+    quint32 attributes(const QString &windowsPath) const;
+    void setAttributes(const QString &windowsPath, quint32 word);
+    /** Host paths of all files and folders with all of the given attribute bits, for walks. */
+    QStringList pathsWithAttribute(quint32 bits) const;
+
+    /** Whether a fault is set for a tool with these arguments: its key is the tool, or the tool and its first
+     * arguments. */
+    std::optional<ToolFault> fault(const QString &tool, const QStringList &arguments = {}) const;
+    void setFault(const QString &command, const ToolFault &fault);
+    void clearFault(const QString &command);
+
+    /** 32-bit exit codes of tools, left by the tool for the process that started it. */
+    void leaveExitCode(qint64 processId, int code);
+    void dropExitCode(qint64 processId);
+    std::optional<int> takeExitCode(qint64 processId);
+
+    /** Appends a line to commands.log. */
+    void logCommand(const QString &program, const QStringList &arguments, int exitCode) const;
+
+    /** The file behind a Windows path, see Platform::hostPath. */
+    QString hostPath(const QString &windowsPath) const;
+    /** The Windows path of a file below drive_c, with backslashes and its drive; others stay as they are. */
+    QString windowsPath(const QString &hostPath) const;
+
+    /** Puts the stock tools into tools/, each a link to or a copy of the given program. */
+    void placeTools(const QString &stockTool) const;
+    static QStringList toolNames();
+
+private:
+    /** A file by its folder in the machine ("drive_c") and the names below it. */
+    struct Location
+    {
+        QString top;
+        QStringList names;
+    };
+
+    Machine(const QString &folder, std::unique_ptr<Database> database);
+    Location locate(const QString &path) const;
+    QString pathKey(const QString &path) const;
+
+    QString folder_;
+    std::unique_ptr<Database> database_;
+    RegistryStore registry_;
+};

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A rehearsal machine: its files, found as Windows finds them, and their attribute words.
+
+#include "machine.h"
+
+#include "database.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint32 folderBit = 0x10;
+constexpr quint32 archiveBit = 0x20;
+
+#ifdef Q_OS_WIN
+constexpr Qt::CaseSensitivity hostCase = Qt::CaseInsensitive;
+#else
+constexpr Qt::CaseSensitivity hostCase = Qt::CaseSensitive;
+#endif
+
+bool isSeparator(QChar unit)
+{
+    return unit == u'\\' || unit == u'/';
+}
+
+/** The names of a path, without empty ones and "."; ".." takes one away and never leads out. */
+QStringList namesOf(const QString &path)
+{
+    QStringList names;
+    for (const QString &name : QString(path).replace(u'\\', u'/').split(u'/', Qt::SkipEmptyParts)) {
+        if (name == u".." && !names.isEmpty())
+            names.removeLast();
+        else if (name != u"." && name != u"..")
+            names << name;
+    }
+    return names;
+}
+
+bool isPresent(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+/** The entry of a folder by its name in another case; the first in order where there are several. */
+QString entryLike(const QString &folder, const QString &name)
+{
+    const QString fold = foldName(name);
+    const QStringList entries =
+        QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    for (const QString &entry : entries) {
+        if (foldName(entry) == fold)
+            return entry;
+    }
+    return {};
+}
+
+} // namespace
+
+Machine::Location Machine::locate(const QString &path) const
+{
+    const bool inside =
+        path.startsWith(folder_, hostCase) && (path.size() == folder_.size() || isSeparator(path.at(folder_.size())));
+    if (inside) {
+        QStringList names = namesOf(path.mid(folder_.size()));
+        const QString top = names.isEmpty() ? QString() : names.takeFirst();
+        return {top, names};
+    }
+    QString rest = path;
+    if (rest.startsWith(u"\\\\?\\"))
+        rest.remove(0, 4);
+    if (rest.startsWith(u"\\\\")) // another computer's share
+        return {u"drive_unc"_s, namesOf(rest)};
+    if (rest.size() >= 2 && rest.at(1) == u':' && rest.at(0).isLetter())
+        return {u"drive_"_s + rest.at(0).toLower(), namesOf(rest.mid(2))};
+    return {u"drive_c"_s, namesOf(rest)};
+}
+
+QString Machine::hostPath(const QString &windowsPath) const
+{
+    // A file that a walk named stays itself, even one with a backslash in its name.
+    const bool below = windowsPath.startsWith(folder_ + u'/');
+    if (below && !QStringView(windowsPath).sliced(folder_.size()).contains(u"/.") && isPresent(windowsPath))
+        return QDir::cleanPath(windowsPath);
+
+    const Location location = locate(windowsPath);
+    QString path = location.top.isEmpty() ? folder_ : folder_ + u'/' + location.top;
+    const QString exact = (QStringList(path) + location.names).join(u'/');
+    if (isPresent(exact))
+        return exact;
+    for (qsizetype i = 0; i < location.names.size(); ++i) {
+        const QString &name = location.names.at(i);
+        if (isPresent(path + u'/' + name)) {
+            path += u'/' + name;
+            continue;
+        }
+        const QString entry = entryLike(path, name);
+        if (entry.isEmpty())
+            return (QStringList(path) + location.names.mid(i)).join(u'/');
+        path += u'/' + entry;
+    }
+    return path;
+}
+
+QString Machine::windowsPath(const QString &hostPath) const
+{
+    const Location location = locate(hostPath);
+    const QString drive = location.top.startsWith(u"drive_") ? location.top.mid(6) : QString();
+    if (drive.size() != 1)
+        return hostPath;
+    return drive.toUpper() + u":\\"_s + location.names.join(u'\\');
+}
+
+/** One text for each file, whichever way its path is written. */
+QString Machine::pathKey(const QString &path) const
+{
+    return foldName(windowsPath(path));
+}
+
+quint32 Machine::attributes(const QString &windowsPath) const
+{
+    const bool folder = QFileInfo(hostPath(windowsPath)).isDir();
+    auto query = database_->query("SELECT word FROM attribute WHERE fold = ?");
+    const bool stored = query.bind(pathKey(windowsPath)).next();
+    if (folder)
+        return (stored ? quint32(query.integer(0)) : 0) | folderBit;
+    return stored ? quint32(query.integer(0)) & ~folderBit : archiveBit;
+}
+
+void Machine::setAttributes(const QString &windowsPath, quint32 word)
+{
+    database_
+        ->query("INSERT INTO attribute (fold, path, word) VALUES (?, ?, ?) "
+                "ON CONFLICT (fold) DO UPDATE SET word = excluded.word")
+        .bind(pathKey(windowsPath))
+        .bind(this->windowsPath(windowsPath))
+        .bind(word)
+        .run();
+}
+
+QStringList Machine::pathsWithAttribute(quint32 bits) const
+{
+    QStringList windowsPaths;
+    {
+        auto query = database_->query("SELECT path FROM attribute WHERE (word & ?1) = ?1 ORDER BY fold");
+        query.bind(bits);
+        while (query.next())
+            windowsPaths << query.text(0);
+    }
+    QStringList hostPaths;
+    for (const QString &path : windowsPaths)
+        hostPaths << hostPath(path);
+    return hostPaths;
+}

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The registry of a rehearsal machine: keys and typed values in its database.
+
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+class Database;
+
+/** Types of registry values, numbered as the registry does. */
+enum class RegistryType : quint32 {
+    None = 0,
+    String = 1,
+    ExpandString = 2,
+    Binary = 3,
+    DWord = 4,
+    DWordBigEndian = 5,
+    Link = 6,
+    MultiString = 7,
+    ResourceList = 8,
+    FullResourceDescriptor = 9,
+    ResourceRequirementsList = 10,
+    QWord = 11,
+};
+
+/** One value as the registry holds it: texts are UTF-16LE with their closing zero, numbers little-endian. */
+struct RegistryValue
+{
+    QString name; ///< empty for the unnamed value
+    RegistryType type = RegistryType::String;
+    QByteArray data;
+
+    friend bool operator==(const RegistryValue &, const RegistryValue &) = default;
+};
+
+/**
+ * The store itself, with real key paths ("HKEY_LOCAL_MACHINE\SOFTWARE\x", backslashes between levels) and real value
+ * names. Look-ups ignore case. HKEY_LOCAL_MACHINE\SYSTEM\ControlSet001 and ...\CurrentControlSet are one key, listed as
+ * CurrentControlSet, and so are HKEY_CLASSES_ROOT and HKEY_LOCAL_MACHINE\SOFTWARE\Classes. Any thread may use it.
+ */
+class RegistryStore
+{
+public:
+    using KeyId = qint64;
+
+    explicit RegistryStore(Database &database);
+
+    /** Splits nothing off: true when the path is a hive's full or short name (HKLM, HKCU, HKCR, HKU) or lies below one.
+     */
+    static bool isHivePath(const QString &path);
+
+    std::optional<KeyId> find(const QString &path) const;
+    std::optional<KeyId> find(KeyId parent, const QString &relativePath) const;
+    /** Makes the key and every key on the way; the key itself where it is there already. Null outside the hives. */
+    std::optional<KeyId> make(const QString &path);
+    /** Below a key that is gone nothing is made; the id that comes back then finds and takes nothing. */
+    KeyId make(KeyId parent, const QString &relativePath);
+    /** Removes the key with all below it; an absent one is silent. A hive itself is only emptied. */
+    void removeKey(KeyId key);
+    /** The key's full path, with the case its names were made with; empty where there is none. */
+    QString path(KeyId key) const;
+
+    /** Direct subkeys by name, sorted by UTF-16 code unit. */
+    QList<QString> subkeys(KeyId key) const;
+    /** The key's own values, sorted by name by UTF-16 code unit. */
+    QList<RegistryValue> values(KeyId key) const;
+    /** The names of the key's own values, sorted by UTF-16 code unit. */
+    QStringList valueNames(KeyId key) const;
+    /** All values at and below the key, each as its path below this key, backslashes between levels; unsorted. */
+    QStringList valuePaths(KeyId key) const;
+    std::optional<RegistryValue> value(KeyId key, const QString &name) const;
+    /** Writes a value; where it exists it keeps the case of its name. A key that is gone takes nothing. */
+    void setValue(KeyId key, const RegistryValue &value);
+    void removeValue(KeyId key, const QString &name);
+
+private:
+    std::optional<KeyId> child(KeyId parent, const QString &name) const;
+    bool isSystemKey(KeyId key) const;
+    QString realName(KeyId parent, const QString &name) const;
+
+    Database &database_;
+};
+
+/** A name as look-ups compare it: each code unit in upper case, as Windows does for keys, values and files. */
+QString foldName(const QString &name);
+
+/** Helpers between texts and the data of values. */
+QByteArray registryText(const QString &text);
+QByteArray registryTexts(const QStringList &texts);
+QString textOf(const QByteArray &data);
+QStringList textsOf(const QByteArray &data);
+QByteArray registryDWord(quint32 number);
+QByteArray registryQWord(quint64 number);

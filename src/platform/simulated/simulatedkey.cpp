@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A key of a rehearsal machine's registry, with the manners of QSettings' native format.
+
+#include "simulatedkey.h"
+
+#include "machine.h"
+#include "settingsvalue.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using KeyId = RegistryStore::KeyId;
+
+/** The only beginnings of a path that are understood, and these with their case. */
+constexpr QStringView hiveNames[] = {
+    u"HKEY_CURRENT_USER", u"HKCU", u"HKEY_LOCAL_MACHINE", u"HKLM", u"HKEY_CLASSES_ROOT", u"HKCR", u"HKEY_USERS", u"HKU",
+};
+
+bool beginsWithHive(QStringView path, QStringView hive)
+{
+    return path.startsWith(hive) && (path.size() == hive.size() || path.at(hive.size()) == u'\\');
+}
+
+/** Slashes and backslashes change their parts between a name here and one in the registry. */
+QString swapSlashes(QString name)
+{
+    for (QChar &unit : name) {
+        if (unit == u'\\')
+            unit = u'/';
+        else if (unit == u'/')
+            unit = u'\\';
+    }
+    return name;
+}
+
+/** Without the slashes at both ends, and one where there are several. */
+QString normalised(const QString &name)
+{
+    return name.split(u'/', Qt::SkipEmptyParts).join(u'/');
+}
+
+/** A name as the registry has it: the path of the key, and the value's name in it. */
+struct Place
+{
+    QString key;
+    QString name;
+};
+
+Place placeOf(const QString &name)
+{
+    const QString path = swapSlashes(name);
+    const qsizetype end = path.lastIndexOf(u'\\');
+    Place place{path.left(std::max<qsizetype>(end, 0)), path.mid(end + 1)};
+    if (place.name == u"Default" || place.name == u".")
+        place.name.clear();
+    return place;
+}
+
+QStringList listed(QStringList names)
+{
+    for (QString &name : names)
+        name = name.isEmpty() ? u"."_s : swapSlashes(name);
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+/** A registry never throws; what is wrong with the machine is said and the operation fails as a registry's would. */
+template<typename Result, typename Operation>
+Result guarded(Operation operation)
+{
+    try {
+        return operation();
+    } catch (const MachineError &error) {
+        qWarning("%s", qUtf8Printable(error.message));
+        return Result();
+    }
+}
+
+} // namespace
+
+SimulatedKey::SimulatedKey(RegistryStore &store, const QString &path, bool elevated)
+    : store_(store)
+{
+    const QString trimmed = path.startsWith(u'\\') ? path.mid(1) : path;
+    const bool known = std::any_of(std::begin(hiveNames), std::end(hiveNames), [&trimmed](QStringView hive) {
+        return beginsWithHive(trimmed, hive);
+    });
+    if (!known)
+        return;
+    path_ = trimmed;
+    writable_ = elevated || beginsWithHive(path_, u"HKEY_CURRENT_USER") || beginsWithHive(path_, u"HKCU");
+}
+
+std::optional<KeyId> SimulatedKey::base() const
+{
+    if (!base_ && !path_.isEmpty())
+        base_ = writable_ ? store_.make(path_) : store_.find(path_);
+    return base_;
+}
+
+std::optional<KeyId> SimulatedKey::currentGroup() const
+{
+    const std::optional<KeyId> key = base();
+    return key ? store_.find(*key, swapSlashes(prefix_)) : key;
+}
+
+std::optional<RegistryValue> SimulatedKey::read(const QString &name) const
+{
+    const Place place = placeOf(prefix_ + normalised(name));
+    std::optional<KeyId> key = base();
+    if (key)
+        key = store_.find(*key, place.key);
+    return key ? store_.value(*key, place.name) : std::nullopt;
+}
+
+QVariant SimulatedKey::value(const QString &name, const QVariant &fallback) const
+{
+    if (name.isEmpty())
+        return {};
+    const auto found = guarded<std::optional<RegistryValue>>([&] {
+        return read(name);
+    });
+    return found ? variantOf(*found) : fallback;
+}
+
+bool SimulatedKey::contains(const QString &name) const
+{
+    return guarded<bool>([&] {
+        return read(name).has_value();
+    });
+}
+
+void SimulatedKey::setValue(const QString &name, const QVariant &value)
+{
+    if (name.isEmpty())
+        return;
+    guarded<void>([&] {
+        const std::optional<KeyId> key = base();
+        if (!key || !writable_)
+            return;
+        const Place place = placeOf(prefix_ + normalised(name));
+        store_.setValue(store_.make(*key, place.key), registryValueOf(place.name, value));
+    });
+}
+
+void SimulatedKey::remove(const QString &name)
+{
+    guarded<void>([&] {
+        const std::optional<KeyId> key = base();
+        if (!key || !writable_)
+            return;
+        const QString full = normalised(prefix_ + name);
+        if (full.isEmpty()) { // the key itself stays
+            for (const QString &value : store_.valueNames(*key))
+                store_.removeValue(*key, value);
+            for (const QString &subkey : store_.subkeys(*key)) {
+                if (const std::optional<KeyId> child = store_.find(*key, subkey))
+                    store_.removeKey(*child);
+            }
+            return;
+        }
+        const Place place = placeOf(full);
+        if (const std::optional<KeyId> parent = store_.find(*key, place.key))
+            store_.removeValue(*parent, place.name);
+        if (const std::optional<KeyId> subkey = store_.find(*key, swapSlashes(full)))
+            store_.removeKey(*subkey);
+    });
+}
+
+QStringList SimulatedKey::allKeys() const
+{
+    return guarded<QStringList>([&] {
+        const std::optional<KeyId> key = currentGroup();
+        QStringList paths = key ? store_.valuePaths(*key) : QStringList();
+        for (QString &path : paths) {
+            if (path.isEmpty() || path.endsWith(u'\\'))
+                path += u'.';
+        }
+        return listed(paths);
+    });
+}
+
+QStringList SimulatedKey::childKeys() const
+{
+    return guarded<QStringList>([&] {
+        const std::optional<KeyId> key = currentGroup();
+        return key ? listed(store_.valueNames(*key)) : QStringList();
+    });
+}
+
+QStringList SimulatedKey::childGroups() const
+{
+    return guarded<QStringList>([&] {
+        const std::optional<KeyId> key = currentGroup();
+        return key ? listed(store_.subkeys(*key)) : QStringList();
+    });
+}
+
+void SimulatedKey::beginGroup(const QString &name)
+{
+    groups_ << normalised(name);
+    if (!groups_.constLast().isEmpty())
+        prefix_ += groups_.constLast() + u'/';
+}
+
+void SimulatedKey::endGroup()
+{
+    if (groups_.isEmpty())
+        return;
+    const QString group = groups_.takeLast();
+    if (!group.isEmpty())
+        prefix_.chop(group.size() + 1);
+}
