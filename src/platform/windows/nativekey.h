@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A key of the real registry.
+
+#pragma once
+
+#include "platform/registrykey.h"
+
+#include <QSettings>
+
+/** QSettings in native format, whose manners are the contract of RegistryKey. */
+class NativeKey final : public RegistryKey
+{
+public:
+    explicit NativeKey(const QString &path)
+        : settings_(path, QSettings::NativeFormat)
+    {
+    }
+
+    QVariant value(const QString &name, const QVariant &fallback) const override;
+    void setValue(const QString &name, const QVariant &value) override { settings_.setValue(name, value); }
+    void remove(const QString &name) override { settings_.remove(name); }
+    bool contains(const QString &name) const override { return settings_.contains(name); }
+    QStringList allKeys() const override { return settings_.allKeys(); }
+    QStringList childKeys() const override { return settings_.childKeys(); }
+    QStringList childGroups() const override { return settings_.childGroups(); }
+    void beginGroup(const QString &name) override { settings_.beginGroup(name); }
+    void endGroup() override { settings_.endGroup(); }
+
+private:
+    QSettings settings_;
+};

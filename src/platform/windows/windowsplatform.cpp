@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "windowsplatform.h"
+
+#include "nativekey.h"
+#include "wmiquery.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QDirIterator>
+#include <QThread>
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const wchar_t *wide(const QString &text)
+{
+    return reinterpret_cast<const wchar_t *>(text.utf16());
+}
+
+struct HandleCloser
+{
+    void operator()(void *handle) const { CloseHandle(handle); }
+};
+using Handle = std::unique_ptr<void, HandleCloser>;
+
+struct ModuleCloser
+{
+    void operator()(HMODULE module) const { FreeLibrary(module); }
+};
+using Module = std::unique_ptr<std::remove_pointer_t<HMODULE>, ModuleCloser>;
+
+} // namespace
+
+std::unique_ptr<RegistryKey> WindowsPlatform::openKey(const QString &path) const
+{
+    return std::make_unique<NativeKey>(path);
+}
+
+QString WindowsPlatform::hostPath(const QString &windowsPath) const
+{
+    return windowsPath;
+}
+
+QString WindowsPlatform::programFolder() const
+{
+    return QCoreApplication::applicationDirPath();
+}
+
+QString WindowsPlatform::resourceFolder() const
+{
+    return QCoreApplication::applicationDirPath();
+}
+
+void WindowsPlatform::walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const
+{
+    // A bare drive would be read as that drive's current folder.
+    const bool bareDrive = windowsPath.size() == 2 && windowsPath.endsWith(u':');
+    QDirIterator entries(bareDrive ? windowsPath + u'/' : windowsPath, QDir::AllEntries | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString path = entries.next();
+        const QFileInfo info = entries.fileInfo();
+        if (!visit({path, info.isDir() ? 0 : info.size()}))
+            return;
+    }
+}
+
+QString WindowsPlatform::programFile(const QString &program) const
+{
+    const bool quoted = program.size() > 1 && program.startsWith(u'"') && program.endsWith(u'"');
+    return quoted ? program.sliced(1).chopped(1) : program;
+}
+
+int WindowsPlatform::exitCode(qint64, int reported) const
+{
+    return reported;
+}
+
+bool WindowsPlatform::isElevated() const
+{
+    HANDLE opened = nullptr;
+    if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &opened))
+        return false;
+    const Handle token(opened);
+    TOKEN_ELEVATION elevation{};
+    DWORD size = sizeof(elevation);
+    return GetTokenInformation(token.get(), TokenElevation, &elevation, size, &size) && elevation.TokenIsElevated != 0;
+}
+
+void WindowsPlatform::shellExecute(const ShellStart &start) const
+{
+    const QString file = QDir::toNativeSeparators(start.file);
+    ShellExecuteW(nullptr, wide(start.verb), wide(file), start.parameters.isEmpty() ? nullptr : wide(start.parameters),
+                  nullptr, SW_SHOW);
+}
+
+DllString WindowsPlatform::dllString(const QString &windowsPath, uint id) const
+{
+    // As data: loading it as code would run its start-up code, with this process's rights.
+    const Module module(
+        LoadLibraryExW(wide(windowsPath), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE));
+    if (!module)
+        return {.error = GetLastError()};
+    DllString result{.loaded = true};
+    wchar_t buffer[2048];
+    if (const int length = LoadStringW(module.get(), id, buffer, static_cast<int>(std::size(buffer))); length > 0)
+        result.text = QString::fromWCharArray(buffer, length);
+    return result;
+}
+
+WmiAnswer WindowsPlatform::queryWmi(const QString &className, const QStringList &properties) const
+{
+    return readWmi(className, properties);
+}
+
+void WindowsPlatform::pause(int milliseconds) const
+{
+    constexpr qint64 slice = 10;
+    const QThread *thread = QThread::currentThread();
+    for (const QDeadlineTimer deadline(milliseconds); !deadline.hasExpired() && !thread->isInterruptionRequested();)
+        QThread::msleep(static_cast<unsigned long>(qMin(deadline.remainingTime(), slice)));
+}

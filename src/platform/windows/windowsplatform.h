@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The real Windows behind the seam.
+
+#pragma once
+
+#include "platform/platform.h"
+
+class WindowsPlatform final : public Platform
+{
+public:
+    std::unique_ptr<RegistryKey> openKey(const QString &path) const override;
+    QString hostPath(const QString &windowsPath) const override;
+    QString programFolder() const override;
+    QString resourceFolder() const override;
+    void walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const override;
+    QString programFile(const QString &program) const override;
+    int exitCode(qint64 processId, int reported) const override;
+    bool isElevated() const override;
+    void shellExecute(const ShellStart &start) const override;
+    DllString dllString(const QString &windowsPath, uint id) const override;
+    WmiAnswer queryWmi(const QString &className, const QStringList &properties) const override;
+    void pause(int milliseconds) const override;
+};
