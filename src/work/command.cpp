@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "command.h"
+
+#include "errorlog.h"
+#include "interruption.h"
+#include "platform/platform.h"
+
+#include <QDeadlineTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Short enough for a worker that is asked to end to be gone before anyone loses patience with it.
+constexpr int slice = 10;
+
+} // namespace
+
+Command::~Command()
+{
+    close();
+}
+
+void Command::start(const QString &program, const QStringList &arguments)
+{
+    close();
+    failedToStart_ = false;
+    ended_ = false;
+    exitCode_.reset();
+
+    const QString file = platform().programFile(program);
+    if (file.isEmpty()) {
+        failedToStart_ = true;
+        return;
+    }
+    process_.start(file, arguments, QIODevice::ReadWrite);
+    // Elsewhere than on Windows a failed start shows only now.
+    failedToStart_ = !process_.waitForStarted();
+    processId_ = process_.processId();
+}
+
+QString Command::errorString() const
+{
+    return failedToStart_ ? u"Process failed to start: The system cannot find the file specified."_s
+                          : process_.errorString();
+}
+
+template<typename Wait>
+void Command::waitInSlices(Wait wait)
+{
+    const QDeadlineTimer deadline(timeLimit);
+    while (process_.state() != QProcess::NotRunning && !wait() && !deadline.hasExpired())
+        endIfInterrupted();
+}
+
+void Command::waitForFinished()
+{
+    waitInSlices([this] { return process_.waitForFinished(slice); });
+}
+
+void Command::waitForReadyRead()
+{
+    waitInSlices([this] { return process_.bytesAvailable() > 0 || process_.waitForReadyRead(slice); });
+}
+
+QByteArray Command::readAllStandardOutput()
+{
+    // A command that never started has no open channel to read from.
+    return process_.isOpen() ? process_.readAllStandardOutput() : QByteArray();
+}
+
+int Command::exitCode() const
+{
+    if (ended_)
+        return endedByForce;
+    if (failedToStart_ || processId_ == 0 || process_.state() != QProcess::NotRunning)
+        return 0;
+    if (!exitCode_)
+        exitCode_ = platform().exitCode(processId_, process_.exitCode());
+    return *exitCode_;
+}
+
+void Command::close()
+{
+    if (process_.state() != QProcess::NotRunning) {
+        process_.kill();
+        process_.waitForFinished(-1);
+        ended_ = true;
+    }
+    process_.close();
+}
+
+bool startListing(Command &command, const QString &routine, const QString &tool, const QStringList &arguments)
+{
+    const QString prefix = routine + u": "_s + tool + u" process error"_s;
+    command.start(tool, arguments);
+    if (command.failedToStart()) {
+        LogError(prefix + u": "_s + command.errorString());
+        return false;
+    }
+    if (const int code = command.exitCode(); code != 0) {
+        LogError(prefix + u", exitCode: "_s + QString::number(code));
+        command.close();
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The one way in which stock tools are run.
+
+#pragma once
+
+#include <QProcess>
+#include <QStringList>
+
+#include <atomic>
+
+/**
+ * A stock tool that is started and waited for. It gives the answers that QProcess gives on Windows, on every system:
+ * a missing program is known right after start() and leaves the exit code 0, exit codes have 32 bits, a path may stand in
+ * double quotes, and a program that still runs reads 0 until close() ends it.
+ *
+ * May be used for several commands, one after another; start() ends one that still runs.
+ */
+class Command
+{
+public:
+    /** How long a command is waited for, in milliseconds. Always 30 s; tests of hanging tools lower it. */
+    static inline std::atomic<int> timeLimit = 30000;
+    /** What a program reads as that had to be ended. */
+    static constexpr int endedByForce = 0xf291;
+
+    Command() = default;
+    ~Command();
+    Q_DISABLE_COPY_MOVE(Command)
+
+    void start(const QString &program, const QStringList &arguments);
+    bool failedToStart() const { return failedToStart_; }
+    QString errorString() const;
+
+    /** Waits up to timeLimit. Throws JobInterrupted on a worker that is asked to end. */
+    void waitForFinished();
+    /** Waits up to timeLimit for output; a command that has ended gives none. Throws JobInterrupted likewise. */
+    void waitForReadyRead();
+    QByteArray readAllStandardOutput();
+
+    /** 0 also for a command that runs, or that never started. */
+    int exitCode() const;
+    /** Ends the command if it still runs. */
+    void close();
+
+private:
+    /** Calls a wait of QProcess again and again in short slices until it holds, the limit passes or the job ends. */
+    template<typename Wait>
+    void waitInSlices(Wait wait);
+
+    QProcess process_;
+    qint64 processId_ = 0;
+    bool failedToStart_ = false;
+    bool ended_ = false;
+    mutable std::optional<int> exitCode_;
+};
+
+/**
+ * Starts a tool whose output a routine is going to read. False where it can't be started; the reason is in the log then,
+ * and the command is closed.
+ */
+bool startListing(Command &command, const QString &routine, const QString &tool, const QStringList &arguments);

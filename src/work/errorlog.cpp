@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "errorlog.h"
+
+#include "platform/platform.h"
+#include "settings.h"
+
+#include <QDateTime>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+void LogError(const QString &message)
+{
+    if (openSettings()->value(u"LogError"_s, 0).toInt() != 1)
+        return;
+    QFile file(platform().programFolder() + u"/log.txt"_s);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text))
+        return;
+    // One write for a line, so that two workers' lines don't mix within a line.
+    file.write(QString(QDate::currentDate().toString(Qt::TextDate) + u" - "_s
+                       + QTime::currentTime().toString(Qt::TextDate) + u": "_s + message + u'\n')
+                   .toUtf8());
+}

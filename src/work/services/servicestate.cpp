@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Disabling and enabling services.
+
+#include "work/command.h"
+#include "work/errorlog.h"
+#include "work/interruption.h"
+#include "platform/platform.h"
+#include "work/settings.h"
+#include "work/workthread.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int startAutomatic = 2;
+constexpr int startDisabled = 4;
+constexpr int errorAlreadyRunning = 1056;
+
+/** How services are handled in one run, which differs by the generation of Windows. */
+struct Manner
+{
+    bool onWindows10;  ///< the registry is written, sc is left alone
+    bool noStartStop;  ///< start modes change, services go on as they are
+    int settleDelay;   ///< milliseconds after each step
+};
+
+Manner mannerFor(const QString &winName)
+{
+    const bool onWindows10 = winName.contains("10"_L1);
+    const bool wished = openSettings()->value(u"DoNotStartOrStopSvc"_s, 0).toInt() != 0;
+    return {onWindows10, onWindows10 || wished, onWindows10 ? 1020 : 300};
+}
+
+/** One service, with the one command object that its steps share: its exit code is that of the last step by sc. */
+class ServiceChange
+{
+public:
+    ServiceChange(const QString &name, const Manner &manner)
+        : name_(name)
+        , manner_(manner)
+    {
+    }
+
+    void disable()
+    {
+        if (!manner_.noStartStop)
+            run({u"stop"_s, name_});
+        setStartMode(startDisabled, u"start=disabled"_s);
+        if (exitCode() == 0)
+            openRecords(u"SVC"_s)->setValue(name_, 1);
+    }
+
+    void enable()
+    {
+        setStartMode(startAutomatic, u"start=auto"_s);
+        if (!manner_.noStartStop)
+            run({u"start"_s, name_});
+        openRecords(u"SVC"_s)->remove(name_);
+    }
+
+    /** 0 also where no command was needed: a write to the registry counts as done. */
+    int exitCode() const { return sc_.exitCode(); }
+
+private:
+    void run(const QStringList &arguments)
+    {
+        sc_.start(u"sc"_s, arguments);
+        sc_.waitForFinished();
+        pauseFor(manner_.settleDelay);
+    }
+
+    void setStartMode(int start, const QString &argument)
+    {
+        // Windows 10 guards the key of this one service; sc gets through.
+        if (!manner_.onWindows10 || name_ == "TrkWks"_L1) {
+            run({u"config"_s, name_, argument});
+            return;
+        }
+        platform().openKey(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s + name_)
+            ->setValue(u"Start"_s, start);
+        pauseFor(manner_.settleDelay);
+    }
+
+    QString name_;
+    Manner manner_;
+    Command sc_;
+};
+
+/** The Automatizer's line for a service, with "%1" for its name. */
+QString outcomeText(bool onWindows10, bool enable, bool failed)
+{
+    const auto outcome = [failed](const QString &what) {
+        return what + u' ' + (failed ? WorkThread::tr("error") : WorkThread::tr("done"));
+    };
+    if (!enable)
+        return outcome(onWindows10 ? WorkThread::tr("Service: disable %1") : WorkThread::tr("Service: disable and stop %1"));
+    if (failed)
+        return outcome(onWindows10 ? WorkThread::tr("Service: enable %1") : WorkThread::tr("Service: enable and start %1"));
+    return onWindows10 ? WorkThread::tr("Service: enable %1 done") : WorkThread::tr("Service: enable and start %1 done");
+}
+
+} // namespace
+
+int WorkThread::SvcStopOrStart(QStringList list, bool enable)
+{
+    list.sort(Qt::CaseInsensitive);
+    const bool forAutomatizer = optimizeRunning != 0 || restoreRunning != 0;
+    if (!forAutomatizer)
+        report(u"pgr:max:"_s + QString::number(list.size()));
+    const Manner manner = mannerFor(winName);
+
+    int counter = 1;
+    for (const QString &name : list) {
+        ServiceChange change(name, manner);
+        enable ? change.enable() : change.disable();
+        const int exitCode = change.exitCode();
+
+        const QString progress = u"pgr:value:"_s + QString::number(counter);
+        if (!forAutomatizer && analyzeRunning == 0) {
+            report(progress);
+            report(name);
+        }
+        if (forAutomatizer) {
+            QString message = exitCode == errorAlreadyRunning
+                                  ? tr("Service: enable and start %1, already running!")
+                                  : outcomeText(manner.onWindows10, enable, exitCode != 0);
+            reportToAutomatizer(message.replace(u"%1"_s, name));
+            reportToAutomatizer(progress);
+        }
+        if (exitCode != 0) {
+            LogError(u"SvcStopOrStart: "_s + name + u", sc process error! exit code : "_s
+                     + QString::number(exitCode));
+        }
+        ++counter;
+    }
+    report(u"pgr:SvcStopOrStart=finished"_s);
+    return 0;
+}

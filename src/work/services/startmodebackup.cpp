@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "startmodebackup.h"
+
+#include "platform/platform.h"
+#include "servicecatalogue.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A text file on Windows turns the line feed of "\r\n" into "\r\n" once more. The registry editor reads such files, and the
+// backups people already have look like this.
+const QString lineEnd = u"\r\r\n"_s;
+
+const QString servicesPath = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services"_s;
+
+QString startModes()
+{
+    QString script = u"Windows Registry Editor Version 5.00"_s + lineEnd + lineEnd;
+    const QStringList exclusions = startModeBackupExclusions();
+    const auto services = platform().openKey(servicesPath);
+    for (const QString &name : services->childGroups()) {
+        if (exclusions.contains(name))
+            continue;
+        services->beginGroup(name);
+        const QString type = services->value(u"Type"_s).toString();
+        const QString start = services->value(u"Start"_s).toString();
+        services->endGroup();
+        if (type != "32"_L1)
+            continue;
+        script += u'[' + servicesPath + u'\\' + name + u']' + lineEnd;
+        // Start modes have one digit, so that seven zeros make it eight.
+        script += u"\"Start\"=dword:0000000"_s + start + lineEnd;
+    }
+    return script;
+}
+
+} // namespace
+
+QString startModeBackupFile()
+{
+    return platform().programFolder() + u"/backup_svc/StartMode.reg"_s;
+}
+
+int WriteStartModeBackup()
+try {
+    QDir().mkpath(platform().programFolder() + u"/backup_svc"_s);
+    QFile file(startModeBackupFile());
+    if (file.exists() || !file.open(QIODevice::WriteOnly | QIODevice::Append))
+        return -1;
+    file.write(startModes().toUtf8());
+    return 0;
+} catch (QFileDevice::FileError) {
+    return 2;
+} catch (const std::exception &) {
+    return 1;
+}

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The one-time backup of how services were set to start.
+
+#pragma once
+
+#include <QString>
+
+/** Host path of the backup, a registry script. */
+QString startModeBackupFile();
+
+/**
+ * Writes the start modes of all shared-process services to the backup, unless it is there already: it is a snapshot of
+ * the system as it was before the program's first run, and that is its whole worth.
+ * @return 0 written; -1 there already, or can't be opened; 1 and 2 an exception of the runtime, or of a file
+ */
+int WriteStartModeBackup();

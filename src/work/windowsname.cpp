@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "windowsname.h"
+
+#include "platform/platform.h"
+#include "workthread.h"
+
+using namespace Qt::StringLiterals;
+
+WindowsName readWindowsName()
+{
+    constexpr int firstBuildOfWindows11 = 22000;
+
+    const auto key = platform().openKey(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion"_s);
+    WindowsName name;
+    name.product = key->value(u"ProductName"_s, WorkThread::tr("unknown")).toString();
+    name.build = key->value(u"CurrentBuild"_s, WorkThread::tr("unknown")).toString();
+    if (name.product.contains(u"Windows 10"_s, Qt::CaseInsensitive) && name.build.toInt() >= firstBuildOfWindows11)
+        name.product.replace(u"Windows 10"_s, u"Windows 11"_s, Qt::CaseInsensitive);
+    return name;
+}

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "workthread.h"
+
+#include "interruption.h"
+#include "services/servicecatalogue.h"
+#include "tasks/taskcatalogue.h"
+
+WorkThread::WorkThread(QObject *parent)
+    : QThread(parent)
+    , nonVitalServices(nonVitalServiceNames())
+    , nonVitalTasks(nonVitalTaskNames())
+{
+}
+
+void WorkThread::startJob(int number)
+{
+    job = number;
+    ++run_;
+    start(QThread::InheritPriority);
+}
+
+bool WorkThread::endJob()
+{
+    constexpr int patience = 30;
+
+    ++run_;
+    requestInterruption();
+    if (wait(patience))
+        return true;
+    terminate();
+    return wait(patience);
+}
+
+void WorkThread::run()
+{
+    runOfThread_ = run_;
+    try {
+        runJob(job);
+    } catch (const JobInterrupted &) {
+        // Whoever ended the job knows; there is nobody to tell.
+    }
+}
+
+void WorkThread::runJob(int number)
+{
+    switch (number) {
+    case JobSvcMakeList:
+        SvcMakeList();
+        break;
+    case JobWinSxsSize:
+        WinSxsSize();
+        break;
+    case JobSvcDisable:
+        SvcStopOrStart(servicesToChange, false);
+        break;
+    case JobSvcEnable:
+        SvcStopOrStart(servicesToChange, true);
+        break;
+    default:
+        break;
+    }
+}
+
+void WorkThread::send(LineSignal signal, const QString &line)
+{
+    if (QThread::currentThread() == thread()) {
+        Q_EMIT(this->*signal)(line);
+        return;
+    }
+    const auto deliver = [this, signal, line, run = runOfThread_] {
+        if (run == run_)
+            Q_EMIT(this->*signal)(line);
+    };
+    QMetaObject::invokeMethod(this, deliver, Qt::QueuedConnection);
+}
