@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Administrator rights: whether there are some, and how to get them.
+
+#pragma once
+
+class Kestrune;
+
+/** Whether this process has an elevated token; false where that can't be told. */
+bool isProcessElevated();
+
+/** Starts this program once more with administrator rights. Refusal and failure are silent. */
+void startElevatedInstance();
+
+/** Remembers the page for the elevated instance, starts that, and ends this one without waiting for it. */
+void moveToElevatedInstance(Kestrune *window);
+
+/** Tells that an action needs administrator rights and offers to start again with them. */
+void showAdminRequiredDialog(Kestrune *window);

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "keeplist.h"
+
+#include "kestrune.h"
+#include "work/settings.h"
+
+#include <QStandardItemModel>
+
+using namespace Qt::StringLiterals;
+
+QStandardItemModel *const keepModel = new QStandardItemModel;
+
+namespace {
+
+struct KeepFeature
+{
+    const char *text;
+    const char *toolTip;
+    std::atomic<int> WorkThread::*member;
+};
+
+/** Row 0 is the title; row n belongs to the setting Keep_n. */
+// clang-format off
+constexpr KeepFeature keepFeatures[] = {
+    {QT_TRANSLATE_NOOP("Kestrune", "Keep features"), nullptr, nullptr},
+    {QT_TRANSLATE_NOOP("Kestrune", "Printer"),
+     QT_TRANSLATE_NOOP("Kestrune", "If you don't have any printers, you can uncheck this"),
+     &WorkThread::keepPrinter},
+    {QT_TRANSLATE_NOOP("Kestrune", "Bluetooth audio"),
+     QT_TRANSLATE_NOOP("Kestrune", "If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this"),
+     &WorkThread::keepBluetoothAudio},
+    {QT_TRANSLATE_NOOP("Kestrune", "Files sharing"),
+     QT_TRANSLATE_NOOP("Kestrune", "Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)\r\n(by default it is not used but activated!)"),
+     &WorkThread::keepFilesSharing},
+    {QT_TRANSLATE_NOOP("Kestrune", "Xbox App"),
+     QT_TRANSLATE_NOOP("Kestrune", "Application to play PC games if you have a Gamepass account (paid)"),
+     &WorkThread::keepXboxApp},
+    {QT_TRANSLATE_NOOP("Kestrune", "UPnP network services"),
+     QT_TRANSLATE_NOOP("Kestrune", "Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)\r\n(by default it is not used but activated!)"),
+     &WorkThread::keepUpnp},
+    {QT_TRANSLATE_NOOP("Kestrune", "Proxy and VPN"),
+     QT_TRANSLATE_NOOP("Kestrune", "Proxy or VPN functionality to improve the security of your network traffic\r\n(by default it is not used but activated!)"),
+     &WorkThread::keepProxyVpn},
+    {QT_TRANSLATE_NOOP("Kestrune", "NFC"),
+     QT_TRANSLATE_NOOP("Kestrune", "Quick setup of some bluetooth headsets\r\n(by default it is not used but activated!)"),
+     &WorkThread::keepNfc},
+    {QT_TRANSLATE_NOOP("Kestrune", "Xbox game bar"),
+     QT_TRANSLATE_NOOP("Kestrune", "XBOX Game Bar that appears at the top of the screen, above a game. If you don't use it, uncheck this box"),
+     &WorkThread::keepXboxGameBar},
+    {QT_TRANSLATE_NOOP("Kestrune", "Microsoft Codecs extensions"),
+     QT_TRANSLATE_NOOP("Kestrune", "Microsoft codecs for video encoding/decoding. If you are not using Windows internal features for streaming,encoding or playing videos, uncheck this box"),
+     &WorkThread::keepCodecs},
+};
+// clang-format on
+
+QString keepSetting(int row)
+{
+    return u"Keep_"_s + QString::number(row);
+}
+
+} // namespace
+
+void Kestrune::buildKeepList()
+{
+    ui.cbSvcFeatures->clear();
+    ui.cbAutorunFeatures->clear();
+    keepModel->setRowCount(0);
+    keepModel->setColumnCount(1);
+
+    const auto settings = openSettings();
+    for (const KeepFeature &feature : keepFeatures) {
+        const int row = keepModel->rowCount();
+        // An item is finished before it is appended: earlier connections would store a half-made row.
+        auto *item = new QStandardItem(tr(feature.text));
+        item->setTextAlignment(Qt::AlignCenter);
+        if (feature.member == nullptr) {
+            item->setEnabled(false);
+        } else {
+            item->setFlags(Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
+            const int stored = settings->value(keepSetting(row), Qt::Checked).toInt();
+            if (stored == Qt::Checked || stored == Qt::Unchecked)
+                item->setCheckState(static_cast<Qt::CheckState>(stored));
+            if (stored == Qt::Unchecked)
+                workThread->*feature.member = Qt::Unchecked;
+            item->setToolTip(tr(feature.toolTip));
+        }
+        keepModel->appendRow(item);
+    }
+
+    for (QComboBox *box : {ui.cbSvcFeatures, ui.cbAutorunFeatures}) {
+        box->setModel(keepModel);
+        box->setCurrentText(tr("Keep features"));
+    }
+    connect(keepModel, &QStandardItemModel::dataChanged, this, &Kestrune::onKeepModelChanged, Qt::UniqueConnection);
+}
+
+void Kestrune::onKeepModelChanged(const QModelIndex &first, const QModelIndex &last)
+{
+    onKeepItemChanged(first.row(), last.row());
+}
+
+void Kestrune::onKeepItemChanged(int firstRow, int lastRow)
+{
+    const auto settings = openSettings();
+    for (int row = firstRow; row <= lastRow; ++row) {
+        const int state = keepModel->item(row)->checkState();
+        if (const auto member = keepFeatures[row].member; member != nullptr)
+            workThread->*member = state;
+        settings->setValue(keepSetting(row), state);
+    }
+}

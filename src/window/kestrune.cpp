@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window's beginning and end.
+
+#include "kestrune.h"
+
+#include "work/settings.h"
+#include "work/windowsname.h"
+
+#include <QGuiApplication>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+Kestrune::Kestrune()
+{
+    setVisible(false);
+    QTimer::singleShot(0, this, &Kestrune::StartAsAdmin);
+    ui.setupUi(this);
+    makeWorkers();
+
+    const WindowsName windows = readWindowsName();
+    workThread->winName = windows.product;
+    workThread->winBuild = windows.build;
+    startPalette = QGuiApplication::palette();
+
+    applyPalette();
+
+    // From here on a page may open a box, whose event loop may bring anything: all that is needed is set by now.
+    const auto settings = openSettings();
+    showPage(settings->value(u"lastPage"_s, 0).toInt());
+    settings->remove(u"lastPage"_s);
+}
+
+Kestrune::~Kestrune()
+{
+    for (WorkThread *worker : {workThread, workThreadWinSxs, workThreadMonitor}) {
+        // A thread that can't be ended is abandoned: deleting it would end the process the hard way.
+        if (worker->isRunning() && !worker->endJob())
+            worker->setParent(nullptr);
+    }
+}
+
+void Kestrune::makeWorkers()
+{
+    workThread = new WorkThread(this);
+    connect(workThread, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueChanged);
+    workThreadWinSxs = new WorkThread(this);
+    workThreadMonitor = new WorkThread(this);
+}
+
+void Kestrune::waitForLastInstructions()
+{
+    constexpr int patience = 200;
+    workThread->wait(patience);
+}
+
+void Kestrune::leave()
+{
+    left_ = true;
+    close();
+}

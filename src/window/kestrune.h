@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The main window.
+
+#pragma once
+
+#include "ui_kestrune.h"
+#include "work/workthread.h"
+
+#include <QColor>
+#include <QMainWindow>
+#include <QPalette>
+
+class Kestrune : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    Kestrune();
+    ~Kestrune() override;
+
+    QString appVersion; ///< set once the window stands
+    QString screenName; ///< likewise
+
+    /** Number of the page that is shown, 0 to 8. */
+    int currentPage() const { return ui.tabWidget->currentIndex(); }
+    /** The one way to a page: shows it and brings it up to date. Does nothing while a job runs. */
+    void showPage(int page);
+
+    // What a change of language or theme leaves behind, and what runs again after each. May run at any time.
+    /** Puts the tables' columns and the context menus right, and hides what the pages show in their own time. */
+    void prepareForm();
+    /** Fills both Keep lists anew with the stored states. */
+    void buildKeepList();
+    /** Does both, and puts the stored theme in force. */
+    void applyPalette();
+
+    /** Ends the program in favour of an elevated instance, also while the window is still being built. */
+    void leave();
+    /** True when the program has ended itself: the window isn't to be shown any more. */
+    bool hasLeft() const { return left_; }
+
+public Q_SLOTS:
+    void StartAsAdmin();
+    void onWorkThreadValueChanged(const QString &line);
+
+private Q_SLOTS:
+    // Menu
+    void on_btnMenuHome_clicked() { showPage(0); }
+    void on_btnMenuService_clicked() { showPage(1); }
+    void on_btnMenuTask_clicked() { showPage(2); }
+    void on_btnMenuPackage_clicked();
+    void on_btnMenuTweak_clicked() { showPage(5); }
+    void on_btnMenuInfo_clicked() { showPage(6); }
+    void on_btnMenuOptions_clicked() { showPage(7); }
+    void on_btnMenuAbout_clicked() { showPage(8); }
+
+    // Services page
+    void on_btnSvcDisable_clicked();
+    void on_btnSvcAssist_clicked();
+    void on_btnSvcRestore_clicked();
+    void on_btnSvcViewDisabled_clicked();
+
+    // Context menu of the lists
+    void showContextMenu();
+    void refreshPage();
+    void uncheckAll();
+    void checkAll();
+    void setServiceManualStart();
+    void setServiceAutomaticStart();
+
+    void onKeepModelChanged(const QModelIndex &first, const QModelIndex &last);
+
+private:
+    // Start-up
+    void makeWorkers();
+    /** Waits until the job whose closing line has come is over, so that the next one can start. */
+    void waitForLastInstructions();
+    void onKeepItemChanged(int firstRow, int lastRow);
+
+    // Navigation
+    void openPage(int page);
+    void selectMenuButton(const QString &objectName);
+    void styleMenuButton(const QString &objectName);
+    void applyActiveMenuStyle(QPushButton *button, const QString &imageName);
+
+    // Theme
+    void applyLightTheme();
+    void applyDarkTheme();
+    void applySystemTheme();
+    bool isViewButton(const QPushButton *button) const;
+    void styleButtons(const QString &viewStyle, const QString &actionStyle, bool flat);
+    void styleTables(const QString &style);
+    template<typename Widget>
+    void styleAll(const QString &style);
+    void colorTexts();
+
+    // Services page
+    void showServicesPage();
+    void onServiceJobLine(QString &line);
+    void fillServiceTable();
+    void addServiceRow(const ServiceRow &row, int greyed);
+    void setServiceView(bool disabledView);
+    void restoreRecordedServices();
+    void setServiceStart(const QString &argument);
+
+    Ui::KestruneClass ui;
+    QString currentLang = QStringLiteral("en");
+    WorkThread *workThread = nullptr;
+    WorkThread *workThreadWinSxs = nullptr;
+    WorkThread *workThreadMonitor = nullptr;
+    QPalette startPalette; ///< the system's own palette
+    QColor previousLinkColor; ///< of the theme before the present one
+    int currentTheme = 0; ///< a Theme
+    int svcDisabledCount = 0;
+    int svcStartedCount = 0;
+    int svcStoppedCount = 0;
+    bool left_ = false;
+};

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The menu on the left and the pages behind it.
+
+#include "kestrune.h"
+
+#include "platform/platform.h"
+#include "theme.h"
+#include "themestyles.h"
+
+#include <QCursor>
+#include <QMenu>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Page
+{
+    QLatin1StringView menuButton;
+    QLatin1StringView image; ///< name of the image file without its ending
+};
+
+// clang-format off
+constexpr Page pages[] = {
+    {"btnMenuHome"_L1,    "optimizer"_L1},
+    {"btnMenuService"_L1, "services"_L1},
+    {"btnMenuTask"_L1,    "tasks"_L1},
+    {"btnMenuPackage"_L1, "programs"_L1},
+    {"btnMenuPackage"_L1, "programs"_L1},
+    {"btnMenuTweak"_L1,   "features"_L1},
+    {"btnMenuInfo"_L1,    "info"_L1},
+    {"btnMenuOptions"_L1, "options"_L1},
+    {"btnMenuAbout"_L1,   "about"_L1},
+};
+// clang-format on
+constexpr int pageCount = std::size(pages);
+constexpr int lastRefreshablePage = 3;
+
+QString imageFile(QLatin1StringView image, bool dark)
+{
+    return image + (dark ? u"-w.png"_s : u".png"_s);
+}
+
+/** Idle and active buttons share all but the text's place and colour. */
+QString menuButtonStyle(const QString &image, const QString &alignment, QPalette::ColorRole textRole)
+{
+    const QPalette palette = QGuiApplication::palette();
+    const QString text = palette.color(textRole).name();
+    const QString mid = palette.color(QPalette::Mid).name();
+    const QString link = palette.color(QPalette::Link).name();
+    return u"QPushButton { background-image:url("_s + platform().resourceFolder() + u"/img/"_s + image
+           + u"); background-repeat: no-repeat; background-position: left; border-radius: 6px; "_s + alignment
+           + u"margin-left: 12px; color: "_s + text + u"; }QPushButton:hover { background-color: "_s + mid
+           + u"; color: "_s + link + u";}QPushButton:pressed { color: "_s + link
+           + u"; }QPushButton:flat { border: none; }"_s;
+}
+
+} // namespace
+
+void Kestrune::showPage(int page)
+{
+    if (workThread->optimizeRunning == 1 || workThread->analyzeRunning == 1 || workThread->isRunning())
+        return;
+    ui.lblStatus->clear();
+    ui.pgrBar->hide();
+    // Nobody waits any more for the size that the Features page asked for.
+    if (workThreadWinSxs->isRunning())
+        workThreadWinSxs->endJob();
+    if (page < 0 || page >= pageCount)
+        return;
+
+    openPage(page);
+    if (page == 1)
+        showServicesPage();
+}
+
+void Kestrune::openPage(int page)
+{
+    const QString button = pages[page].menuButton;
+    selectMenuButton(button);
+    ui.tabWidget->setCurrentIndex(page);
+    applyActiveMenuStyle(ui.wgtLeftMenu->findChild<QPushButton *>(button),
+                         imageFile(pages[page].image, currentTheme == DarkTheme));
+}
+
+void Kestrune::refreshPage()
+{
+    if (currentPage() <= lastRefreshablePage)
+        showPage(currentPage());
+}
+
+void Kestrune::selectMenuButton(const QString &objectName)
+{
+    for (QPushButton *button : ui.wgtLeftMenu->findChildren<QPushButton *>()) {
+        styleMenuButton(button->objectName());
+        button->setFont(QFont(u"Segoe UI"_s, 11, button->objectName() == objectName ? 700 : 400, false));
+    }
+}
+
+void Kestrune::styleMenuButton(const QString &objectName)
+{
+    for (const Page &page : pages) {
+        if (page.menuButton != objectName)
+            continue;
+        ui.wgtLeftMenu->findChild<QPushButton *>(objectName)->setStyleSheet(
+            menuButtonStyle(imageFile(page.image, currentTheme == DarkTheme), u"text-align: center; "_s, QPalette::Text));
+        return;
+    }
+}
+
+void Kestrune::applyActiveMenuStyle(QPushButton *button, const QString &imageName)
+{
+    button->setStyleSheet(menuButtonStyle(imageName, QString(), QPalette::Link));
+}
+
+void Kestrune::prepareForm()
+{
+    struct Widths
+    {
+        QTableWidget *table;
+        QList<int> columns;
+    };
+    const Widths tables[] = {
+        {ui.tblSvc, {240, 100, 1400}},
+        {ui.tblTasks, {400, 400, 0}},
+        {ui.tblPackages, {200, 200, 400}},
+        {ui.tblAutorun, {200, 460}},
+    };
+
+    ui.tabWidget->tabBar()->hide();
+    ui.pgrBar->hide();
+    for (const Widths &widths : tables) {
+        for (int column = 0; column < widths.columns.size(); ++column)
+            widths.table->setColumnWidth(column, widths.columns.at(column));
+    }
+    const QList<QWidget *> lists{ui.tblSvc, ui.tblTasks, ui.tblPackages, ui.tblAutorun, ui.scrollArea};
+    for (QWidget *list : lists) {
+        list->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(list, &QWidget::customContextMenuRequested, this, &Kestrune::showContextMenu, Qt::UniqueConnection);
+    }
+}
+
+void Kestrune::on_btnMenuPackage_clicked()
+{
+    QMenu menu;
+    menu.setStyleSheet(popupMenuStyle(PopupMenu::Programs));
+    menu.addAction(tr("Automatically started programs"), this, [this] { showPage(3); });
+    menu.addAction(tr("Windows packages installed"), this, [this] { showPage(4); });
+    menu.exec(QCursor::pos());
+}

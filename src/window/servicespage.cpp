@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The Services page: the running services, and those that are disabled. The texts of its buttons tell which it shows.
+
+#include "kestrune.h"
+
+#include "elevation.h"
+#include "messagebox.h"
+#include "servicerow.h"
+#include "work/command.h"
+#include "work/services/servicecatalogue.h"
+#include "work/services/startmodebackup.h"
+#include "work/settings.h"
+
+#include <QDesktopServices>
+#include <QFile>
+#include <QSignalBlocker>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/** The first cells of all rows; rows may move while they are changed. */
+QList<QTableWidgetItem *> firstCells(const QTableWidget *table)
+{
+    QList<QTableWidgetItem *> cells;
+    for (int row = 0; row < table->rowCount(); ++row)
+        cells.append(table->item(row, 0));
+    return cells;
+}
+
+} // namespace
+
+void Kestrune::showServicesPage()
+{
+    ui.tblSvc->setSortingEnabled(false);
+    ui.btnSvcViewDisabled->setText(tr("View disabled services"));
+    ui.btnSvcDisable->setText(tr("DISABLE checked services"));
+    svcDisabledCount = 0;
+    workThread->startJob(JobSvcMakeList);
+}
+
+void Kestrune::setServiceView(bool disabledView)
+{
+    if (disabledView) {
+        ui.btnSvcViewDisabled->setText(tr("View started services"));
+        ui.btnSvcDisable->setText(tr("ENABLE checked services"));
+        ui.label_3->setText(tr("Grayed out services refer to those disabled outside this tab"));
+    } else {
+        ui.btnSvcViewDisabled->setText(tr("View disabled services"));
+        ui.btnSvcDisable->setText(tr("DISABLE checked services"));
+        ui.label_3->setText(tr("Grayed out services are considered necessary or critical"));
+    }
+}
+
+void Kestrune::onServiceJobLine(QString &line)
+{
+    const bool disabling = workThread->job == JobSvcDisable;
+    // The prefix is cut off before the next look at the line, so a maximum doesn't show the bar, and a number stands in
+    // the status until the name comes.
+    if (line.startsWith("pgr:max:"_L1)) {
+        line.remove(0, 8);
+        ui.pgrBar->setMaximum(line.toInt());
+    }
+    if (line.startsWith("pgr:"_L1))
+        ui.pgrBar->show();
+    if (line.startsWith("pgr:value:"_L1)) {
+        line.remove(0, 10);
+        ui.pgrBar->setValue(line.toInt());
+    }
+    if (line.startsWith("pgr:"_L1)) {
+        if (line.endsWith("finished"_L1)) {
+            ui.lblStatus->setText((disabling ? tr("Disable checked services finished")
+                                             : tr("Enable checked services finished"))
+                                  + u"  "_s);
+            waitForLastInstructions();
+            refreshPage();
+        }
+        return;
+    }
+    ui.lblStatus->setText((disabling ? tr("Stop service:") : tr("Start service:")) + u"  "_s + line);
+}
+
+void Kestrune::fillServiceTable()
+{
+    ui.tblSvc->setRowCount(0);
+    svcDisabledCount = svcStartedCount = svcStoppedCount = 0;
+    for (const ServiceRow &row : workThread->services) {
+        if (row.running) {
+            ++svcStartedCount;
+            addServiceRow(row, 0);
+        } else {
+            ++svcStoppedCount;
+        }
+        if (row.start == "4"_L1)
+            ++svcDisabledCount;
+    }
+    const auto count = [](const QString &label, qsizetype number) { return label + u' ' + QString::number(number); };
+    ui.lblStatus->setText(count(tr("Services:"), workThread->services.size()) + u"  |  "_s
+                          + count(tr("started:"), svcStartedCount) + u"  |  "_s
+                          + count(tr("stopped:"), svcStoppedCount) + u"  |  "_s
+                          + count(tr("disabled:"), svcDisabledCount) + u"  "_s);
+}
+
+void Kestrune::addServiceRow(const ServiceRow &row, int greyed)
+{
+    const QString texts[] = {row.displayName.isEmpty() ? row.name : row.displayName, startModeText(row.start),
+                             row.description};
+    const QString toolTip = rowToolTip(row.name, row.description);
+    const bool locked = greyed == 1 || isCriticalService(row);
+
+    const int index = ui.tblSvc->rowCount();
+    ui.tblSvc->setRowCount(index + 1);
+    ui.tblSvc->setRowHeight(index, 6);
+    // The first cell comes last: where the table is sorted, it moves the row.
+    for (int column = 2; column >= 0; --column) {
+        auto *item = new QTableWidgetItem(texts[column]);
+        item->setToolTip(toolTip);
+        item->setFlags(item->flags() & ~Qt::ItemIsEditable);
+        if (locked)
+            item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
+        if (column == 0)
+            item->setCheckState(Qt::Unchecked);
+        ui.tblSvc->setItem(index, column, item);
+    }
+}
+
+void Kestrune::on_btnSvcDisable_clicked()
+{
+    if (workThread->isRunning())
+        return;
+    QStringList names;
+    for (const QTableWidgetItem *item : firstCells(ui.tblSvc)) {
+        if (item->checkState() == Qt::Checked)
+            names.append(nameFromToolTip(item->toolTip()));
+    }
+    if (names.isEmpty())
+        return;
+    if (!isProcessElevated()) {
+        showAdminRequiredDialog(this);
+        return;
+    }
+    workThread->servicesToChange = names;
+    if (ui.btnSvcDisable->text() == tr("DISABLE checked services"))
+        workThread->startJob(JobSvcDisable);
+    else if (ui.btnSvcDisable->text() == tr("ENABLE checked services"))
+        workThread->startJob(JobSvcEnable);
+    else
+        workThread->startJob(workThread->job);
+}
+
+void Kestrune::on_btnSvcAssist_clicked()
+{
+    if (ui.btnSvcDisable->text() == tr("ENABLE checked services"))
+        return;
+    addServicesOfFeaturesGivenUp(*workThread);
+    int count = 0;
+    for (QTableWidgetItem *item : firstCells(ui.tblSvc)) {
+        const bool wanted =
+            workThread->nonVitalServices.contains(nameFromToolTip(item->toolTip()), Qt::CaseInsensitive)
+            && ui.tblSvc->item(item->row(), 1)->toolTip() != "4"_L1;
+        item->setCheckState(wanted ? Qt::Checked : Qt::Unchecked);
+        count += wanted ? 1 : 0;
+    }
+    if (count < 1) {
+        ui.lblStatus->setText(tr("Assistant - no services to deactivate"));
+        return;
+    }
+    if (!isProcessElevated()) {
+        showAdminRequiredDialog(this);
+        return;
+    }
+    const auto answer = ask({.text = tr("Disable checked services"),
+                             .informativeText = tr("Are you sure to disable all checked services?"),
+                             .defaultButton = QMessageBox::No});
+    if (answer == QMessageBox::Yes)
+        on_btnSvcDisable_clicked();
+}
+
+void Kestrune::restoreRecordedServices()
+{
+    workThread->servicesToChange = recordedNames(u"SVC"_s);
+    workThread->startJob(JobSvcEnable);
+}
+
+void Kestrune::on_btnSvcRestore_clicked()
+{
+    if (workThread->isRunning())
+        return;
+    if (!isProcessElevated()) {
+        showAdminRequiredDialog(this);
+        return;
+    }
+    const QString backup = startModeBackupFile();
+    if (!QFile::exists(backup)) {
+        restoreRecordedServices();
+        return;
+    }
+    const auto answer =
+        ask({.text = tr("Backup file exists"),
+             .informativeText = tr("Do you want to restore start mode option of all services?\r\n\r\nIf you click No "
+                                   "(recommended),\r\nthen restore only the services you have disabled"),
+             .buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+             .defaultButton = QMessageBox::No,
+             .minimumWidth = 400});
+    if (answer == QMessageBox::No)
+        restoreRecordedServices();
+    else if (answer == QMessageBox::Yes)
+        QDesktopServices::openUrl(QUrl::fromLocalFile(backup));
+    else
+        return;
+    ui.lblStatus->setText(tr("Restore services finished"));
+}
+
+void Kestrune::on_btnSvcViewDisabled_clicked()
+{
+    if (workThread->isRunning())
+        return;
+    ui.tblSvc->setRowCount(0);
+    if (ui.btnSvcViewDisabled->text() != tr("View disabled services")) {
+        setServiceView(false);
+        showPage(1);
+        return;
+    }
+    setServiceView(true);
+
+    // Blocked, so that the rows don't jump while the table fills.
+    const QSignalBlocker blocker(ui.tblSvc->horizontalHeader());
+    ui.tblSvc->horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
+    const auto records = openRecords(u"SVC"_s);
+    for (const ServiceRow &row : workThread->services) {
+        if (records->value(row.name, 0).toInt() == 1)
+            addServiceRow(row, 0);
+        else if (row.start == "4"_L1)
+            addServiceRow(row, 1);
+    }
+}
+
+void Kestrune::setServiceManualStart()
+{
+    setServiceStart(u"start=demand"_s);
+}
+
+void Kestrune::setServiceAutomaticStart()
+{
+    setServiceStart(u"start=auto"_s);
+}
+
+void Kestrune::setServiceStart(const QString &argument)
+{
+    if (!isProcessElevated()) {
+        showAdminRequiredDialog(this);
+        return;
+    }
+    QStringList names;
+    for (const QTableWidgetItem *item : ui.tblSvc->selectedItems()) {
+        if (item->toolTip().contains(u':'))
+            names.append(nameFromToolTip(item->toolTip()));
+    }
+    for (const QString &name : names) {
+        Command sc;
+        sc.start(u"sc"_s, {u"config"_s, name, argument});
+        sc.waitForFinished();
+        refreshPage();
+    }
+}

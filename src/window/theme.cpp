@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Putting a theme in force: palette, style sheets and the coloured texts.
+
+#include "theme.h"
+
+#include "kestrune.h"
+#include "platform/platform.h"
+#include "themepalette.h"
+#include "themestyles.h"
+#include "work/settings.h"
+
+#include <QApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString linkColor()
+{
+    return QGuiApplication::palette().color(QPalette::Link).name();
+}
+
+} // namespace
+
+QString storedTheme()
+{
+    return openSettings()->value(u"palette"_s, u"dark"_s).toString();
+}
+
+bool meansDark(const QString &stored)
+{
+    return stored == "dark"_L1 || stored == "possible values: 'light' or 'dark' or 'system'"_L1;
+}
+
+void Kestrune::applyPalette()
+{
+    prepareForm();
+    buildKeepList();
+
+    // With nothing stored, Windows 10 gets light and Windows 11 dark; Windows 10 has no dark theme at all.
+    const bool onWindows10 = workThread->winName.contains("Windows 10"_L1, Qt::CaseInsensitive);
+    const bool onWindows11 = workThread->winName.contains("Windows 11"_L1, Qt::CaseInsensitive);
+    const QString stored = storedTheme();
+    const bool nothingStored = !openSettings()->contains(u"palette"_s);
+    if (stored == "light"_L1 || (onWindows10 && nothingStored))
+        applyLightTheme();
+    else if (onWindows11 && meansDark(stored))
+        applyDarkTheme();
+    else if (stored == "system"_L1)
+        applySystemTheme();
+    colorTexts();
+}
+
+bool Kestrune::isViewButton(const QPushButton *button) const
+{
+    return button == ui.btnSvcViewDisabled || button == ui.btnPackagesViewDisabled || button == ui.btnAutorunViewDisabled;
+}
+
+void Kestrune::styleButtons(const QString &viewStyle, const QString &actionStyle, bool flat)
+{
+    for (QPushButton *button : ui.wgtMain->findChildren<QPushButton *>()) {
+        const bool view = isViewButton(button);
+        if (!view)
+            button->setFlat(flat);
+        button->setStyleSheet(view ? viewStyle : actionStyle);
+    }
+}
+
+void Kestrune::styleTables(const QString &style)
+{
+    for (QTableWidget *table : {ui.tblSvc, ui.tblTasks, ui.tblAutorun, ui.tblPackages})
+        table->setStyleSheet(style);
+}
+
+template<typename Widget>
+void Kestrune::styleAll(const QString &style)
+{
+    for (Widget *widget : ui.wgtMain->findChildren<Widget *>())
+        widget->setStyleSheet(style);
+}
+
+void Kestrune::applyLightTheme()
+{
+    const QPalette palette = lightPalette();
+    QApplication::setPalette(palette);
+    const QColor link = palette.color(QPalette::Link);
+    const ButtonColors buttons{palette.color(QPalette::Button), QColor(220, 220, 220), palette.color(QPalette::Text), link};
+    styleButtons(viewButtonStyle(buttons), actionButtonStyle(buttons), true);
+    styleAll<QComboBox>(lightComboBoxStyle(platform().resourceFolder(), link));
+    styleAll<QCheckBox>(lightCheckBoxStyle(workThread->winName.contains("Windows 10"_L1, Qt::CaseInsensitive), link));
+    ui.txtAutomatizer->setStyleSheet(u"border-radius: 6px; border: 1px solid "_s + QColor(220, 220, 220).name() + u';');
+    styleTables(tableSelectionStyle(u"lightGray"_s));
+    openSettings()->setValue(u"palette"_s, u"light"_s);
+    currentTheme = LightTheme;
+}
+
+void Kestrune::applyDarkTheme()
+{
+    const QPalette palette = darkPalette();
+    QApplication::setPalette(palette);
+    const ButtonColors buttons{QColor(50, 50, 50), QColor(56, 56, 56), palette.color(QPalette::Text),
+                               palette.color(QPalette::Link)};
+    styleButtons(viewButtonStyle(buttons), actionButtonStyle(buttons), true);
+    styleAll<QCheckBox>(QString());
+    ui.txtAutomatizer->setStyleSheet(QString());
+    styleTables(tableSelectionStyle(QColor(35, 35, 35).name()));
+    openSettings()->setValue(u"palette"_s, u"dark"_s);
+    currentTheme = DarkTheme;
+}
+
+void Kestrune::applySystemTheme()
+{
+    QApplication::setPalette(startPalette);
+    styleButtons(QString(), QString(), false);
+    styleAll<QComboBox>(QString());
+    styleAll<QCheckBox>(QString());
+    ui.txtAutomatizer->setStyleSheet(QString());
+    styleTables(QString());
+    openSettings()->setValue(u"palette"_s, u"system"_s);
+    currentTheme = SystemTheme;
+}
+
+void Kestrune::colorTexts()
+{
+    QTextBrowser *const browsers[] = {ui.txtAbout,    ui.txtInfo,     ui.txtGaming011,
+                                      ui.txtGaming11, ui.txtGaming12, ui.txtSsd8};
+    QLabel *const headings[] = {ui.lblSvcTop,  ui.lblTaskTop,  ui.lblPackageTop, ui.lblAutorunTop, ui.lblTweakTop,
+                                ui.lblHomeTop, ui.lblAboutTop, ui.lblInfoTop,    ui.lblOptionsTop};
+    const QString window = QGuiApplication::palette().color(QPalette::Window).name();
+    const QString link = linkColor();
+    for (QTextBrowser *browser : browsers)
+        browser->setStyleSheet(u"background-color: "_s + window);
+    for (QLabel *heading : headings)
+        heading->setStyleSheet(u"color: "_s + link);
+    // The form's texts carry black where they follow the theme; after a change of theme they carry the last one's colour.
+    for (QTextBrowser *browser : browsers) {
+        QString html = browser->toHtml();
+        html.replace(u"color:#000000"_s, u"color:"_s + link);
+        html.replace(u"color:"_s + previousLinkColor.name(), u"color:"_s + link);
+        browser->setText(html);
+    }
+}

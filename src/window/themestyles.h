@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The style sheets of the themes.
+
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+/** Colours of the buttons below a page's list. */
+struct ButtonColors
+{
+    QColor background;
+    QColor hover;
+    QColor text;
+    QColor link;
+};
+
+/** The flat buttons that switch a page's view. */
+QString viewButtonStyle(const ButtonColors &colors);
+/** All other buttons of the pages. */
+QString actionButtonStyle(const ButtonColors &colors);
+
+QString lightComboBoxStyle(const QString &resourceFolder, const QColor &link);
+QString lightCheckBoxStyle(bool onWindows10, const QColor &link);
+QString tableSelectionStyle(const QString &background);
+
+/** Colours of a popup menu. */
+struct MenuColors
+{
+    QColor background;
+    QColor border;
+    QColor hover;
+};
+QString menuStyle(const MenuColors &colors);
+
+/** Which of the two popup menus; in the light theme they differ. */
+enum class PopupMenu { Programs, Context };
+/** The style of a popup menu by the theme that is stored; empty for the system's own. */
+QString popupMenuStyle(PopupMenu menu);
