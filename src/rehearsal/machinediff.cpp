@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "machinediff.h"
+
+#include "filediff.h"
+#include "registrydiff.h"
+
+#include <algorithm>
+#include <tuple>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString stateText(std::optional<bool> running)
+{
+    if (!running)
+        return u"never started"_s;
+    return *running ? u"running"_s : u"stopped"_s;
+}
+
+void compareServices(const Machine &before, const Machine &after, QList<DiffRow> &rows)
+{
+    QMap<QString, QString> names;
+    for (const Machine *machine : {&after, &before}) {
+        for (const QString &name : machine->runStates().keys())
+            names.insert(foldName(name), name);
+    }
+    for (const QString &name : names) {
+        const QString left = stateText(before.isRunning(name));
+        const QString right = stateText(after.isRunning(name));
+        if (left != right)
+            rows.append({DiffKind::Service, name, QString(), left, right});
+    }
+}
+
+bool isBefore(const DiffRow &left, const DiffRow &right)
+{
+    if (left.kind != right.kind)
+        return left.kind < right.kind;
+    if (const int order = left.path.compare(right.path, Qt::CaseInsensitive); order != 0)
+        return order < 0;
+    return left.name.compare(right.name, Qt::CaseInsensitive) < 0;
+}
+
+} // namespace
+
+QString kindName(DiffKind kind)
+{
+    switch (kind) {
+    case DiffKind::Service:
+        return u"service"_s;
+    case DiffKind::Registry:
+        return u"registry"_s;
+    case DiffKind::File:
+        return u"file"_s;
+    case DiffKind::Attribute:
+        return u"attribute"_s;
+    }
+    return QString();
+}
+
+QList<DiffRow> compareMachines(Machine &before, Machine &after, const ProgressCallback &progress)
+{
+    constexpr int steps = 3;
+
+    const auto tell = [&progress](const QString &step, int done) {
+        if (progress)
+            progress(step, done, steps);
+    };
+    QList<DiffRow> rows;
+    tell(u"services"_s, 0);
+    compareServices(before, after, rows);
+    tell(u"registry"_s, 1);
+    compareRegistries(before.registry(), after.registry(), rows);
+    tell(u"files"_s, 2);
+    compareFiles(before, after, rows);
+    std::stable_sort(rows.begin(), rows.end(), isBefore);
+    return rows;
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// machine.json: everything of a rehearsal machine that isn't registry.
+
+#pragma once
+
+#include "platform/simulated/machine.h"
+
+/** A file or folder that a machine has on its drive. */
+struct FileDescription
+{
+    QString path;               ///< Windows path with a drive, without a backslash at its end
+    bool folder = false;        ///< written with a backslash at its end
+    std::optional<qint64> size; ///< bytes; what the content doesn't fill is a hole
+    std::optional<QByteArray> content;
+    std::optional<quint32> attributes; ///< the whole attribute word
+};
+
+/** What a machine.json says; a part that it doesn't name is empty. */
+struct MachineDescription
+{
+    std::optional<QString> name;
+    QMap<QString, QString> environment;
+    QStringList running;
+    std::optional<QStringList> processes;
+    QMap<QString, QList<QJsonObject>> wmi;
+    QList<FileDescription> files;
+    QMap<QString, QMap<uint, QString>> dlls;
+    QMap<QString, ToolFault> faults;
+};
+
+/** Reads a machine.json. Throws MachineError with "file:line: reason" or "file: key: reason". */
+MachineDescription parseMachineJson(const QByteArray &bytes, const QString &fileName);

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// kestrune-rehearse: makes rehearsal machines, runs the logic on them, shows what it changes.
+
+#include "platform/simulated/machine.h"
+#include "rehearse/subcommands.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto program = "kestrune-rehearse"_L1;
+
+constexpr const Subcommand *subcommands[] = {
+    &newSubcommand,    &listSubcommand, &runSubcommand, &importSubcommand,
+    &exportSubcommand, &diffSubcommand, &guiSubcommand,
+};
+
+QString optionsOf(const Subcommand &subcommand)
+{
+    QString text;
+    for (const OptionRow &option : subcommand.options) {
+        QString word = u"  --"_s + option.name;
+        if (!option.value.isEmpty())
+            word += u' ' + QString(option.value);
+        text += word.leftJustified(26) + u"  "_s + option.help + u'\n';
+    }
+    return text + u"  --help                    display this help and exit\n"_s;
+}
+
+void printHelp(const Subcommand &subcommand)
+{
+    print(u"Usage: %1 %2 %3%4\n"_s.arg(program, subcommand.name, subcommand.operands,
+                                       subcommand.options.empty() ? ""_L1 : " [OPTION]..."_L1));
+    QString summary = subcommand.summary;
+    summary[0] = summary.at(0).toUpper();
+    print(summary + u".\n\n"_s + optionsOf(subcommand));
+    if (subcommand.moreHelp != nullptr) {
+        if (const QString more = subcommand.moreHelp(); !more.isEmpty())
+            print(u'\n' + more);
+    }
+}
+
+void printHelp()
+{
+    print(u"Usage: %1 COMMAND [ARG]...\n"
+          "Rehearse changes to Windows on a copy: a rehearsal machine, which is a folder.\n\n"
+          "Commands:\n"_s.arg(program));
+    for (const Subcommand *subcommand : subcommands)
+        print(u"  "_s + QString(subcommand->name).leftJustified(8) + subcommand->summary + u'\n');
+    print(u"\nOptions:\n"
+          "  --help     display this help and exit\n"
+          "  --version  output version information and exit\n\n"
+          "Exit status: 0 done, 1 the job reported a failure, 2 bad arguments, 3 the machine can't be read.\n"
+          "'%1 COMMAND --help' tells more of a command.\n"_s.arg(program));
+}
+
+const Subcommand &findSubcommand(const QStringList &words)
+{
+    if (words.isEmpty())
+        throw UsageError{u"missing command"_s};
+    for (const Subcommand *subcommand : subcommands) {
+        if (words.first() == subcommand->name)
+            return *subcommand;
+    }
+    if (words.first().startsWith(u'-'))
+        throw UsageError{u"unrecognized option '%1'"_s.arg(words.first())};
+    throw UsageError{u"unknown command '%1'"_s.arg(words.first())};
+}
+
+/** Whether help is asked for, before the words that are no options any more. */
+bool asksForHelp(const QStringList &words)
+{
+    const qsizetype end = words.indexOf(u"--"_s);
+    return words.first(end < 0 ? words.size() : end).contains(u"--help"_s);
+}
+
+int run(const QStringList &words)
+{
+    if (words.value(0) == "--help"_L1) {
+        printHelp();
+        return ExitDone;
+    }
+    if (words.value(0) == "--version"_L1) {
+        print(u"%1 (Kestrune) %2\n"_s.arg(program, QLatin1StringView(KESTRUNE_VERSION)));
+        return ExitDone;
+    }
+    const Subcommand &subcommand = findSubcommand(words);
+    if (asksForHelp(words.mid(1))) {
+        printHelp(subcommand);
+        return ExitDone;
+    }
+    return subcommand.run(
+        Arguments(words.mid(1), subcommand.options, subcommand.fewestOperands, subcommand.mostOperands));
+}
+
+void complain(const QString &message)
+{
+    std::fflush(stdout);
+    std::fprintf(stderr, "%s: %s\n", program.data(), message.toUtf8().constData());
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    try {
+        return run(QCoreApplication::arguments().mid(1));
+    } catch (const UsageError &error) {
+        complain(error.message);
+        std::fprintf(stderr, "Try '%s --help' for more information.\n", program.data());
+        return ExitBadArguments;
+    } catch (const Failure &failure) {
+        complain(failure.message);
+        return failure.code;
+    } catch (const MachineError &error) {
+        complain(error.message);
+        return ExitJobFailed;
+    }
+}

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// kestrune-rehearse diff
+
+#include "progress.h"
+#include "rehearsal/diffreport.h"
+#include "subcommands.h"
+
+#include <QSaveFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void writePage(const QString &path, const QString &page)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(page.toUtf8()) < 0 || !file.commit())
+        throw Failure{ExitJobFailed, u"%1: %2"_s.arg(path, file.errorString())};
+}
+
+int runDiff(const Arguments &arguments)
+{
+    if (arguments.has("json"_L1) && arguments.has("html"_L1))
+        throw UsageError{u"--json and --html can't be given together"_s};
+    const std::unique_ptr<Machine> before = openMachine(arguments.operand(0));
+    const std::unique_ptr<Machine> after = openMachine(arguments.operand(1));
+    Progress progress;
+    const QList<DiffRow> rows = compareMachines(*before, *after, progress.callback());
+    progress.clear();
+    if (arguments.has("html"_L1))
+        writePage(arguments.value("html"_L1), diffHtml(rows, before->folder(), after->folder()));
+    else if (arguments.has("json"_L1))
+        print(diffJson(rows));
+    else
+        print(diffText(rows));
+    return ExitDone;
+}
+
+// clang-format off
+constexpr OptionRow options[] = {
+    {"json"_L1, {},        "print JSON"_L1},
+    {"html"_L1, "FILE"_L1, "write a web page"_L1},
+};
+// clang-format on
+
+} // namespace
+
+const Subcommand diffSubcommand{
+    "diff"_L1, "A B"_L1, "show what differs between two machines"_L1, options, 2, 2, runDiff,
+};

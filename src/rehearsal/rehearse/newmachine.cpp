@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// kestrune-rehearse new
+
+#include "progress.h"
+#include "subcommands.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString builtInFolder()
+{
+    return QCoreApplication::applicationDirPath() + u"/machines"_s;
+}
+
+/** The folder of sources that is meant: a built-in one by its name, or any other. */
+QString sourcesFor(const QString &from)
+{
+    if (const QString builtIn = builtInFolder() + u'/' + from; !from.contains(u'/') && QFileInfo(builtIn).isDir())
+        return builtIn;
+    if (!QFileInfo(from).isDir())
+        throw Failure{ExitBadArguments, u"'%1' is neither a built-in machine nor a folder"_s.arg(from)};
+    return from;
+}
+
+int runNew(const Arguments &arguments)
+{
+    const QString folder = arguments.operand(0);
+    if (folder.isEmpty())
+        throw UsageError{u"the folder of a machine must have a name"_s};
+    QString sources;
+    if (arguments.has("from"_L1))
+        sources = sourcesFor(arguments.value("from"_L1));
+    Progress progress;
+    makeMachine(folder, sources, arguments.has("force"_L1) ? Existing::Replace : Existing::Keep, progress.callback());
+    return ExitDone;
+}
+
+QString builtInMachines()
+{
+    const QStringList names = QDir(builtInFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    return names.isEmpty() ? QString() : u"Built-in machines: %1.\n"_s.arg(names.join(", "_L1));
+}
+
+// clang-format off
+constexpr OptionRow options[] = {
+    {"from"_L1,  "SOURCE"_L1, "fill it from a built-in machine, or from a folder of .reg files and machine.json"_L1},
+    {"force"_L1, {},          "replace the machine that is there"_L1},
+};
+// clang-format on
+
+} // namespace
+
+const Subcommand newSubcommand{
+    "new"_L1, "DIR"_L1,        "make a rehearsal machine, empty unless --from is given"_L1, options, 1, 1,
+    runNew,   builtInMachines,
+};

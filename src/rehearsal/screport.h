@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Reads what "sc query state= all" printed on a PC.
+
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+/** One service of a report. */
+struct ServiceReport
+{
+    QString name;
+    bool running = false;
+    bool everRan = true; ///< false for one that was never started since the PC was
+};
+
+/** Whether a text looks like a report, in any language. */
+bool isServiceReport(const QString &text);
+/** Reads a report. Throws MachineError with "file:line: reason". */
+QList<ServiceReport> parseServiceReport(const QString &text, const QString &fileName);

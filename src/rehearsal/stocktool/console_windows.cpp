@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "console.h"
+
+#include <fcntl.h>
+#include <io.h>
+
+#include <cstdio>
+
+void useBinaryOutput()
+{
+    _setmode(_fileno(stdout), _O_BINARY);
+}
+
+bool starterIsGone()
+{
+    return false;
+}

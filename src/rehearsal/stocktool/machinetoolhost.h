@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A rehearsal machine for the stock tools.
+
+#pragma once
+
+#include "toolhost.h"
+
+class Machine;
+
+class MachineToolHost final : public ToolHost
+{
+public:
+    MachineToolHost(Machine &machine, bool elevated);
+
+    bool isElevated() const override { return elevated_; }
+    std::unique_ptr<RegistryKey> openKey(const QString &path) const override;
+    QString resolveText(const QString &text) const override;
+    QString hostPath(const QString &windowsPath) const override;
+    std::optional<bool> isRunning(const QString &service) const override;
+    void setRunning(const QString &service, bool running) override;
+    QStringList runningServices() const override;
+
+private:
+    Machine &machine_;
+    bool elevated_;
+};

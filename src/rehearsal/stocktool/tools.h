@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The stock tools of a rehearsal machine, one function each.
+
+#pragma once
+
+#include "toolhost.h"
+
+/** What a tool gave: its 32-bit exit code and the bytes of its standard output, lines ended by CR LF. */
+struct ToolResult
+{
+    int exitCode = 0;
+    QByteArray output;
+};
+
+/** The exit code of a program that the command interpreter doesn't find. */
+constexpr int exitNoSuchProgram = 9009;
+
+ToolResult runSc(ToolHost &host, const QStringList &arguments);
+ToolResult runCmd(ToolHost &host, const QStringList &arguments);
