@@ -1,0 +1,46 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# What the project needs of Debian's packages, by purpose. Sourced by other scripts.
+
+packages_for() {
+    case $1 in
+    build) echo "g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools libsqlite3-dev" ;;
+    window) echo "fonts-open-sans fonts-dejavu-core" ;;
+    bench) echo "libbenchmark-dev" ;;
+    coverage) echo "gcovr" ;;
+    format) echo "clang-format" ;;
+    tidy) echo "clang-tidy" ;;
+    esac
+}
+
+reason_for() {
+    case $1 in
+    build) echo "to build the program" ;;
+    window) echo "to draw its window" ;;
+    bench) echo "to measure its speed" ;;
+    coverage) echo "to measure what the tests reach" ;;
+    format) echo "to format the sources" ;;
+    tidy) echo "to check the sources" ;;
+    esac
+}
+
+is_installed() {
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+# Installs what is missing for the given purposes; does nothing where all is there.
+install_packages() {
+    local purpose package missing all=()
+    for purpose in "$@"; do
+        missing=()
+        for package in $(packages_for "$purpose"); do
+            is_installed "$package" || missing+=("$package")
+        done
+        [ ${#missing[@]} -eq 0 ] || echo "Installing $(reason_for "$purpose"): ${missing[*]}" >&2
+        all+=("${missing[@]}")
+    done
+    [ ${#all[@]} -gt 0 ] || return 0
+    local root=()
+    [ "$(id -u)" = 0 ] || root=(sudo)
+    "${root[@]}" apt-get update -qq
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${all[@]}" >&2
+}

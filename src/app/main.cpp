@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The program: on Windows it works on the real machine, elsewhere on a rehearsal machine.
+
+#include "window/kestrune.h"
+
+#ifdef Q_OS_WIN
+#include "platform/windows/windowsplatform.h"
+#else
+#include "platform/simulated/simulatedplatform.h"
+#include "standinfonts.h"
+#endif
+
+#include <QApplication>
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+#ifdef Q_OS_WIN
+
+bool choosePlatform()
+{
+    setPlatform(std::make_unique<WindowsPlatform>());
+    return true;
+}
+
+#else
+
+/** The environment names the machine; kestrune-rehearse sets it. */
+bool choosePlatform()
+{
+    const QString folder = qEnvironmentVariable("KESTRUNE_MACHINE");
+    if (folder.isEmpty()) {
+        qCritical("kestrune: works on a rehearsal machine here; start it by 'kestrune-rehearse gui DIR'");
+        return false;
+    }
+    try {
+        SimulatedOptions options;
+        options.elevated = qEnvironmentVariable("KESTRUNE_ELEVATED", u"1"_s) != "0"_L1;
+        options.pace = 1;
+        setPlatform(std::make_unique<SimulatedPlatform>(folder, options));
+    } catch (const MachineError &error) {
+        qCritical("kestrune: %s", qUtf8Printable(error.message));
+        return false;
+    }
+    useStandInFonts();
+    return true;
+}
+
+#endif
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    constexpr int noMachine = 3;
+
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationVersion(u"0.3.14"_s);
+    if (!choosePlatform())
+        return noMachine;
+
+    Kestrune window;
+    if (window.hasLeft())
+        return 0;
+    window.appVersion = QCoreApplication::applicationVersion();
+    window.screenName = window.screen()->name();
+    window.show();
+    return QApplication::exec();
+}
