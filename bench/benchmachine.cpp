@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "benchmachine.h"
+
+#include "platform/simulated/database.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+BenchMachine::BenchMachine()
+{
+    const QString folder = folder_.path() + u"/machine"_s;
+    Machine::create(folder)->setEnvironment({{u"SystemRoot"_s, u"C:\\Windows"_s}, {u"windir"_s, u"C:\\Windows"_s}});
+    auto platform = std::make_unique<SimulatedPlatform>(folder, SimulatedOptions{});
+    platform_ = platform.get();
+    setPlatform(std::move(platform));
+}
+
+BenchMachine::~BenchMachine()
+{
+    setPlatform(nullptr);
+}
+
+void BenchMachine::addServices(int count)
+{
+    Database::Transaction transaction(machine().database());
+    RegistryStore &registry = machine().registry();
+    const auto services = *registry.make(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services"_s);
+    for (int i = 0; i < count; ++i) {
+        const QString name = u"Service%1"_s.arg(i, 6, 10, u'0');
+        const auto key = registry.make(services, name);
+        registry.setValue(key, {u"Type"_s, RegistryType::DWord, registryDWord(32)});
+        registry.setValue(key, {u"Start"_s, RegistryType::DWord, registryDWord(2)});
+        registry.setValue(key, {u"DisplayName"_s, RegistryType::String, registryText(u"A service, number "_s + name)});
+        registry.setValue(key, {u"Description"_s, RegistryType::String,
+                                registryText(u"Does what service %1 is there for, and nothing else."_s.arg(i))});
+    }
+    transaction.commit();
+}
+
+void BenchMachine::silenceTools()
+{
+    const QString sc = machine().toolsFolder() + u"/sc"_s;
+    QFile::remove(sc);
+    QFile::link(u"/bin/true"_s, sc);
+}

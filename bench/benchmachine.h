@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A rehearsal machine of a benchmark.
+
+#pragma once
+
+#include "platform/simulated/simulatedplatform.h"
+
+#include <QTemporaryDir>
+
+/** A machine that is there, and in force, as long as the object. */
+class BenchMachine
+{
+public:
+    BenchMachine();
+    ~BenchMachine();
+    Q_DISABLE_COPY_MOVE(BenchMachine)
+
+    Machine &machine() { return platform_->machine(); }
+    /** Adds services, half of them running, each with a display name and a description of its own. */
+    void addServices(int count);
+    /** Lets sc do nothing, so that only the program's own work is measured. */
+    void silenceTools();
+
+private:
+    QTemporaryDir folder_;
+    SimulatedPlatform *platform_ = nullptr;
+};

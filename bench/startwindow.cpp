@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Shows the window on the given machine, or an empty one, until it is painted for the first time.
+
+#include "platform/simulated/simulatedplatform.h"
+#include "window/kestrune.h"
+
+#include <QApplication>
+
+namespace {
+
+int showUntilPainted(QMainWindow &window)
+{
+    window.show();
+    window.grab();
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    if (argc < 2) {
+        QMainWindow window;
+        window.resize(800, 640);
+        return showUntilPainted(window);
+    }
+    setPlatform(std::make_unique<SimulatedPlatform>(QString::fromLocal8Bit(argv[1]), SimulatedOptions{}));
+    Kestrune window;
+    return showUntilPainted(window);
+}
