@@ -26,7 +26,7 @@ public:
     /**
      * The value of that name: texts for REG_SZ and REG_EXPAND_SZ (not expanded), a signed int for REG_DWORD, a 64-bit
      * integer for REG_QWORD, a list of texts for REG_MULTI_SZ, a text of size/2 code units for REG_BINARY. A missing
-     * value, and the empty name, give @p fallback.
+     * value gives @p fallback, the empty name an invalid variant.
      */
     virtual QVariant value(const QString &name, const QVariant &fallback = {}) const = 0;
     /** Writes int and uint as REG_DWORD, 64-bit integers as REG_QWORD, lists of texts as REG_MULTI_SZ, all else REG_SZ. */

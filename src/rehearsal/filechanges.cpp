@@ -8,8 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <ranges>
-
 using namespace Qt::StringLiterals;
 
 FileChanges::~FileChanges()
@@ -19,11 +17,11 @@ FileChanges::~FileChanges()
             QFile::remove(entry.aside);
         return;
     }
-    for (const QString &path : made_ | std::views::reverse) {
-        if (QFileInfo(path).isDir())
-            QDir().rmdir(path);
+    for (auto path = made_.crbegin(); path != made_.crend(); ++path) {
+        if (QFileInfo(*path).isDir())
+            QDir().rmdir(*path);
         else
-            QFile::remove(path);
+            QFile::remove(*path);
     }
     for (const SetAside &entry : setAside_)
         QFile::rename(entry.aside, entry.file);
@@ -49,7 +47,7 @@ void FileChanges::write(const QString &file, const QByteArray &content, qint64 s
     makeFolder(QFileInfo(file).path());
     if (QFileInfo(file).isDir())
         throw MachineError{u"%1: is a folder, not a file"_s.arg(file)};
-    if (QFileInfo::exists(file)) {
+    if (QFileInfo::exists(file) && !made_.contains(file)) {
         const QString aside = file + u".before-import"_s;
         QFile::remove(aside);
         if (!QFile::rename(file, aside))

@@ -66,7 +66,7 @@ QString JsonReader::name(const QJsonValue &value, const QString &key) const
 QStringList JsonReader::names(const QJsonValue &value, const QString &key) const
 {
     QStringList list;
-    for (const QJsonValue &entry : array(value, key))
+    for (const QJsonValue entry : array(value, key))
         list.append(name(entry, keyAt(key, list.size())));
     return list;
 }

@@ -38,13 +38,13 @@ public:
     MachineDescription parse(const QByteArray &bytes);
 
 private:
-    using Part = void (MachineJsonParser::*)(const QJsonValue &value, const QString &key);
-    struct PartRow
+    using Section = void (MachineJsonParser::*)(const QJsonValue &value, const QString &key);
+    struct SectionRow
     {
         QLatin1StringView key;
-        Part read;
+        Section read;
     };
-    static const std::array<PartRow, 9> parts;
+    static const std::array<SectionRow, 9> sections;
 
     void readFormatVersion(const QJsonValue &value, const QString &key);
     void readName(const QJsonValue &value, const QString &key);
@@ -59,14 +59,14 @@ private:
     QString windowsPath(const QString &path, const QString &key) const;
     FileDescription file(const QJsonValue &value, const QString &key) const;
     quint32 attributes(const QJsonValue &value, const QString &key, bool folder) const;
-    ToolFault fault(const QJsonValue &value, const QString &key) const;
+    std::optional<ToolFault> fault(const QJsonValue &value, const QString &key) const;
 
     JsonReader read_;
     MachineDescription result_;
 };
 
 // clang-format off
-const std::array<MachineJsonParser::PartRow, 9> MachineJsonParser::parts{{
+const std::array<MachineJsonParser::SectionRow, 9> MachineJsonParser::sections{{
     {"formatVersion"_L1, &MachineJsonParser::readFormatVersion},
     {"name"_L1,          &MachineJsonParser::readName},
     {"environment"_L1,   &MachineJsonParser::readEnvironment},
@@ -82,15 +82,15 @@ const std::array<MachineJsonParser::PartRow, 9> MachineJsonParser::parts{{
 MachineDescription MachineJsonParser::parse(const QByteArray &bytes)
 {
     const QJsonObject document = read_.document(bytes);
-    std::array<QLatin1StringView, parts.size()> known;
-    for (std::size_t i = 0; i < parts.size(); ++i)
-        known[i] = parts[i].key;
+    std::array<QLatin1StringView, sections.size()> known;
+    for (std::size_t i = 0; i < sections.size(); ++i)
+        known[i] = sections[i].key;
     // The version first: a newer file may well have keys that this program doesn't know.
-    readFormatVersion(document.value(parts[0].key), parts[0].key);
+    readFormatVersion(document.value(sections[0].key), sections[0].key);
     read_.checkKeys(document, QString(), known);
-    for (const PartRow &part : parts) {
-        if (document.contains(part.key))
-            (this->*part.read)(document.value(part.key), part.key);
+    for (const SectionRow &section : sections) {
+        if (document.contains(section.key))
+            (this->*section.read)(document.value(section.key), section.key);
     }
     return result_;
 }
@@ -137,7 +137,7 @@ void MachineJsonParser::readWmi(const QJsonValue &value, const QString &key)
     for (auto it = classes.begin(); it != classes.end(); ++it) {
         const QString below = keyBelow(key, it.key());
         QList<QJsonObject> instances;
-        for (const QJsonValue &instance : read_.array(it.value(), below))
+        for (const QJsonValue instance : read_.array(it.value(), below))
             instances.append(read_.object(instance, keyAt(below, instances.size())));
         result_.wmi.insert(it.key(), instances);
     }
@@ -145,7 +145,7 @@ void MachineJsonParser::readWmi(const QJsonValue &value, const QString &key)
 
 void MachineJsonParser::readFiles(const QJsonValue &value, const QString &key)
 {
-    for (const QJsonValue &entry : read_.array(value, key))
+    for (const QJsonValue entry : read_.array(value, key))
         result_.files.append(file(entry, keyAt(key, result_.files.size())));
 }
 
@@ -232,7 +232,7 @@ quint32 MachineJsonParser::attributes(const QJsonValue &value, const QString &ke
     return word;
 }
 
-ToolFault MachineJsonParser::fault(const QJsonValue &value, const QString &key) const
+std::optional<ToolFault> MachineJsonParser::fault(const QJsonValue &value, const QString &key) const
 {
     static constexpr std::array known{"missing"_L1, "hang"_L1, "exitCode"_L1, "output"_L1, "repeat"_L1};
     constexpr int most = std::numeric_limits<int>::max();
@@ -240,6 +240,8 @@ ToolFault MachineJsonParser::fault(const QJsonValue &value, const QString &key) 
 
     const QJsonObject entry = read_.object(value, key);
     read_.checkKeys(entry, key, known);
+    if (entry.isEmpty())
+        return std::nullopt;
     ToolFault fault;
     for (auto it = entry.begin(); it != entry.end(); ++it) {
         const QString below = keyBelow(key, it.key());

@@ -25,7 +25,7 @@ struct MachineDescription
     QMap<QString, QList<QJsonObject>> wmi;
     QList<FileDescription> files;
     QMap<QString, QMap<uint, QString>> dlls;
-    QMap<QString, ToolFault> faults;
+    QMap<QString, std::optional<ToolFault>> faults; ///< nothing: an end to the fault
 };
 
 /** Reads a machine.json. Throws MachineError with "file:line: reason" or "file: key: reason". */

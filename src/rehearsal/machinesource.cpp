@@ -63,6 +63,7 @@ private:
     void apply(const MachineDescription &description);
     void apply(const QList<FileDescription> &files);
     void apply(const QList<ServiceReport> &services);
+    void addVariables(const QMap<QString, QString> &added);
     void addDll(const QString &path, const QMap<uint, QString> &strings);
 
     Machine &machine_;
@@ -90,17 +91,7 @@ void Import::apply(const MachineDescription &description)
 {
     if (description.name)
         machine_.setName(*description.name);
-    if (!description.environment.isEmpty()) {
-        QMap<QString, QString> variables = machine_.environment();
-        for (auto it = description.environment.begin(); it != description.environment.end(); ++it) {
-            // Names of variables are one whatever their case.
-            variables.removeIf([&it](std::pair<const QString &, QString &> entry) {
-                return entry.first.compare(it.key(), Qt::CaseInsensitive) == 0;
-            });
-            variables.insert(it.key(), it.value());
-        }
-        machine_.setEnvironment(variables);
-    }
+    addVariables(description.environment);
     for (const QString &service : description.running)
         machine_.setRunning(service, true);
     if (description.processes)
@@ -110,8 +101,27 @@ void Import::apply(const MachineDescription &description)
     apply(description.files);
     for (auto it = description.dlls.begin(); it != description.dlls.end(); ++it)
         addDll(it.key(), it.value());
-    for (auto it = description.faults.begin(); it != description.faults.end(); ++it)
-        machine_.setFault(it.key(), it.value());
+    for (auto it = description.faults.begin(); it != description.faults.end(); ++it) {
+        if (it.value())
+            machine_.setFault(it.key(), *it.value());
+        else
+            machine_.clearFault(it.key());
+    }
+}
+
+void Import::addVariables(const QMap<QString, QString> &added)
+{
+    if (added.isEmpty())
+        return;
+    QMap<QString, QString> variables = machine_.environment();
+    for (auto it = added.begin(); it != added.end(); ++it) {
+        // Names of variables are one whatever their case.
+        variables.removeIf([&it](std::pair<const QString &, QString &> entry) {
+            return entry.first.compare(it.key(), Qt::CaseInsensitive) == 0;
+        });
+        variables.insert(it.key(), it.value());
+    }
+    machine_.setEnvironment(variables);
 }
 
 void Import::apply(const QList<FileDescription> &files)

@@ -109,7 +109,10 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     try {
-        return run(QCoreApplication::arguments().mid(1));
+        const int code = run(QCoreApplication::arguments().mid(1));
+        if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+            throw Failure{ExitJobFailed, u"standard output can't be written"_s};
+        return code;
     } catch (const UsageError &error) {
         complain(error.message);
         std::fprintf(stderr, "Try '%s --help' for more information.\n", program.data());

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One program behind all stock tools of a rehearsal machine: it answers as the tool by whose name it is started.
 
+#include "console.h"
 #include "platform/simulated/machine.h"
-#include "stocktool/console.h"
 #include "stocktool/machinetoolhost.h"
 #include "stocktool/tools.h"
 

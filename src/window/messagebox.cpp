@@ -5,6 +5,7 @@
 #include "kestrune.h"
 
 #include <QAbstractButton>
+#include <QGridLayout>
 
 namespace {
 
@@ -12,6 +13,17 @@ void nameButton(QMessageBox &box, QMessageBox::StandardButton button, const QStr
 {
     if (QAbstractButton *shown = box.button(button))
         shown->setText(text);
+}
+
+/** A box works out its own size when it is shown, whatever it was told before; what stands in its grid holds. */
+void widen(QMessageBox &box, int minimumWidth)
+{
+    auto *grid = qobject_cast<QGridLayout *>(box.layout());
+    if (grid == nullptr)
+        return;
+    const QMargins margins = grid->contentsMargins();
+    auto *spacer = new QSpacerItem(minimumWidth - margins.left() - margins.right(), 0);
+    grid->addItem(spacer, grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 } // namespace
@@ -29,6 +41,6 @@ QMessageBox::StandardButton ask(const Question &question)
     if (question.defaultButton != QMessageBox::NoButton)
         box.setDefaultButton(question.defaultButton);
     if (question.minimumWidth > 0)
-        box.setMinimumWidth(question.minimumWidth);
+        widen(box, question.minimumWidth);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The walk with the system's own calls: half a million files are asked for one by one, and QDirIterator takes four
-// times as long.
+// The walk with the system's own calls, as fast as the disk gives the entries; QDirIterator takes half as long again.
 
 #include "folderwalk.h"
 

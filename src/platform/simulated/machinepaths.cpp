@@ -6,6 +6,7 @@
 #include "database.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -49,13 +50,15 @@ bool isPresent(const QString &path)
 QString entryLike(const QString &folder, const QString &name)
 {
     const QString fold = foldName(name);
-    const QStringList entries =
-        QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
-    for (const QString &entry : entries) {
-        if (foldName(entry) == fold)
-            return entry;
+    QString found;
+    QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    while (entries.hasNext()) {
+        entries.next();
+        const QString entry = entries.fileName();
+        if (entry.size() == fold.size() && foldName(entry) == fold && (found.isEmpty() || entry < found))
+            found = entry;
     }
-    return {};
+    return found;
 }
 
 } // namespace

@@ -17,9 +17,8 @@ public:
     ScriptOpener(Machine &machine, bool elevated);
     ~ScriptOpener() override;
 
-public Q_SLOTS:
     /** Imports a .reg file, if elevated; any other file is ignored, since nothing of the host is to be opened. */
-    void open(const QUrl &address);
+    Q_INVOKABLE void open(const QUrl &address);
 
 private:
     Machine &machine_;

@@ -245,9 +245,10 @@ void SimulatedPlatform::pause(int milliseconds) const
         const std::lock_guard lock(pausesLock_);
         pauses_ << milliseconds;
     }
-    for (double left = milliseconds * options_.pace; left > 0; left -= pauseSlice) {
+    const auto length = qint64(milliseconds * options_.pace);
+    for (qint64 left = length; left > 0; left -= pauseSlice) {
         if (QThread::currentThread()->isInterruptionRequested())
             return;
-        QThread::msleep(static_cast<unsigned long>(std::min<double>(left, pauseSlice)));
+        QThread::msleep(static_cast<unsigned long>(std::min<qint64>(left, pauseSlice)));
     }
 }

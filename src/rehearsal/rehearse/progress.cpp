@@ -2,15 +2,16 @@
 
 #include "progress.h"
 
+#include "rehearsal/console.h"
+
 #include <QDeadlineTimer>
 
 #include <cstdio>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 Progress::Progress()
-    : terminal_(isatty(STDERR_FILENO) != 0)
+    : terminal_(errorsGoToTerminal())
 {
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Registry strings that stand for a string in a DLL.
 
-#include "work/errorlog.h"
 #include "platform/platform.h"
+#include "work/errorlog.h"
 #include "work/workthread.h"
 
 #include <QFileInfo>
@@ -41,6 +41,12 @@ void addFolder(QString &text)
         text.prepend(qEnvironmentVariable("SystemRoot") + u"\\System32\\"_s);
 }
 
+/** An empty path is nowhere, and not the drive's root. */
+bool isThere(const QString &windowsPath)
+{
+    return !windowsPath.isEmpty() && QFileInfo::exists(platform().hostPath(windowsPath));
+}
+
 } // namespace
 
 QString WorkThread::ExpandResourceString(const QString &text)
@@ -58,8 +64,7 @@ QString WorkThread::ExpandResourceString(const QString &text)
     QString result = text;
     if (reference.contains(",-"_L1)) {
         const QStringList parts = reference.split(u",-"_s);
-        result = QFileInfo::exists(platform().hostPath(parts.at(0))) ? GetResourceInDll(parts.at(0), parts.at(1))
-                                                                      : tr("no description");
+        result = isThere(parts.at(0)) ? GetResourceInDll(parts.at(0), parts.at(1)) : tr("no description");
     }
     // The Bluetooth service of one vendor names itself by its program's path.
     if (result.contains("RtkBtManServ"_L1))
@@ -69,13 +74,21 @@ QString WorkThread::ExpandResourceString(const QString &text)
 
 QString WorkThread::GetResourceInDll(const QString &dllPath, const QString &id)
 {
-    const DllString string = platform().dllString(dllPath, id.toUInt());
-    if (string.loaded)
-        return string.text.value_or(tr("no description"));
-    // This one is no DLL, and every machine has it.
-    if (!dllPath.endsWith("perfhost.exe"_L1)) {
-        LogError(u"GetResourceInDll: HInstance of LoadLibrary is null! "_s + dllPath + u", UID="_s + id
-                 + u", ERROR_CODE="_s + QString::number(string.error));
+    DllString string;
+    const auto log = [&](const QString &what) {
+        LogError(u"GetResourceInDll: "_s + what + dllPath + u", UID="_s + id + u", ERROR_CODE="_s
+                 + QString::number(string.error));
+    };
+    try {
+        string = platform().dllString(dllPath, id.toUInt());
+        // An empty string counts as none.
+        if (string.loaded && string.text && !string.text->isEmpty())
+            return *string.text;
+        // This one is no DLL, and every machine has it.
+        if (!string.loaded && !dllPath.endsWith("perfhost.exe"_L1))
+            log(u"HInstance of LoadLibrary is null! "_s);
+    } catch (const std::exception &) {
+        log({});
     }
     return tr("no description");
 }

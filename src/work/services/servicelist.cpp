@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The list of services: the registry tells what there is, sc tells what runs.
 
-#include "work/command.h"
-#include "work/interruption.h"
 #include "platform/platform.h"
 #include "startmodebackup.h"
+#include "work/command.h"
+#include "work/interruption.h"
 #include "work/workthread.h"
 
 #include <QSet>
@@ -38,8 +38,12 @@ bool saysRunning(QStringView record)
 
 QSet<QString> runningServices(const QString &report)
 {
+    const QString mark = u"SERVICE_NAME: "_s;
+
     QSet<QString> names;
-    for (const QStringView record : QStringView(report).split(u"SERVICE_NAME: "_s)) {
+    if (!report.contains(mark))
+        return names;
+    for (const QStringView record : QStringView(report).split(mark)) {
         if (saysRunning(record))
             names.insert(record.left(record.indexOf(u"\r\n"_s)).toString());
     }

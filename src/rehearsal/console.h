@@ -5,5 +5,7 @@
 
 /** Makes standard output carry bytes as they are written. */
 void useBinaryOutput();
+/** Whether someone may be reading standard error as it is written. */
+bool errorsGoToTerminal();
 /** Whether the program that started this one has gone; false where that can't be told. */
 bool starterIsGone();

@@ -12,6 +12,11 @@ const pid_t starter = getppid();
 
 void useBinaryOutput() {}
 
+bool errorsGoToTerminal()
+{
+    return isatty(STDERR_FILENO) != 0;
+}
+
 bool starterIsGone()
 {
     return getppid() != starter;

@@ -12,6 +12,11 @@ void useBinaryOutput()
     _setmode(_fileno(stdout), _O_BINARY);
 }
 
+bool errorsGoToTerminal()
+{
+    return _isatty(_fileno(stderr)) != 0;
+}
+
 bool starterIsGone()
 {
     return false;

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Runs the programs under test as processes.
+
+#pragma once
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+
+/** What a process left behind. */
+struct Ended
+{
+    qint64 processId = 0;
+    int exitCode = -1;
+    QByteArray output;
+    QByteArray errors;
+};
+
+using Variables = QMap<QString, QString>;
+
+inline Ended runProgram(const QString &program, const QStringList &arguments, const Variables &variables = {})
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (auto it = variables.begin(); it != variables.end(); ++it)
+        environment.insert(it.key(), it.value());
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
+    Ended ended;
+    if (process.waitForStarted())
+        ended.processId = process.processId();
+    if (process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit)
+        ended.exitCode = process.exitCode();
+    ended.output = process.readAllStandardOutput();
+    ended.errors = process.readAllStandardError();
+    return ended;
+}
+
+/** A program of the project, all of which lie beside the test. */
+inline QString builtProgram(const QString &name)
+{
+    return QCoreApplication::applicationDirPath() + u'/' + name;
+}
+
+inline void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("%s can't be written", qPrintable(path));
+}
+
+inline QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The real window, driven by the names of its widgets.
+
+#pragma once
+
+#include "testmachine.h"
+#include "window/kestrune.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTableWidget>
+
+#include <memory>
+
+/** How long a wait for a job lasts at most, in milliseconds. */
+constexpr int patience = 20000;
+
+/** A machine on which this process has no administrator rights. */
+inline SimulatedOptions notElevated()
+{
+    SimulatedOptions options;
+    options.elevated = false;
+    return options;
+}
+
+/** A machine on which the deliberate pauses are slept, so that a job lasts. */
+inline SimulatedOptions realPauses()
+{
+    SimulatedOptions options;
+    options.pace = 1;
+    return options;
+}
+
+/** Builds the window on the platform in force and shows it; the platform must outlive it. */
+class WindowDriver
+{
+public:
+    WindowDriver();
+    ~WindowDriver();
+    Q_DISABLE_COPY_MOVE(WindowDriver)
+
+    Kestrune &window() const { return *window_; }
+    /** Ends the window, as the end of the program does. */
+    void end() { window_.reset(); }
+
+    /** The widget of that name; ends the test program where there is none. */
+    template<typename Widget>
+    Widget *get(const QString &name) const
+    {
+        auto *widget = window_->findChild<Widget *>(name);
+        if (widget == nullptr)
+            qFatal("the window has no %s", qUtf8Printable(name));
+        return widget;
+    }
+    QPushButton *button(const QString &name) const { return get<QPushButton>(name); }
+    QTableWidget *services() const { return get<QTableWidget>(QStringLiteral("tblSvc")); }
+    QProgressBar *bar() const { return get<QProgressBar>(QStringLiteral("pgrBar")); }
+    QString status() const { return get<QLabel>(QStringLiteral("lblStatus"))->text(); }
+
+    /** The workers, in the order in which they were made: ordinary jobs, WinSxS, monitor. */
+    WorkThread &worker() const { return *workers().at(0); }
+    WorkThread &winSxsWorker() const { return *workers().at(1); }
+    QList<WorkThread *> workers() const;
+
+    /** Clicks a button with the mouse. */
+    void click(const QString &name) const;
+    /** Calls a slot of the window by its name. */
+    void call(const char *slot) const;
+
+    /** Shows the Services page by its menu button; false where its list doesn't come. */
+    bool openServices() const;
+    /** Waits until a listing has come that none of the earlier calls has waited for, and nothing runs any more. */
+    bool waitForList() const;
+    /** Fills the Services table with these rows, as the closing line of a listing does. */
+    void list(const QList<ServiceRow> &rows) const;
+
+    /** The cell of a service by the name in its tool tip; null where it has no row. */
+    QTableWidgetItem *cell(const QString &service, int column = 0) const;
+    /** The names of the listed services, from top to bottom. */
+    QStringList listed() const;
+    /** The names of the services whose rows are checked, from top to bottom. */
+    QStringList checked() const;
+    /** Clicks the check box of a service's row with the mouse. */
+    void clickCheckBox(const QString &service) const;
+
+private:
+    std::unique_ptr<Kestrune> window_;
+    int listings_ = 0;
+    mutable int awaited_ = 0;
+};

@@ -1,0 +1,396 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The Keep list: what its rows say, what is stored, and what the workers are told.
+
+#include "support/windowdriver.h"
+
+#include "window/keeplist.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QStandardItemModel>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Feature
+{
+    QString text;
+    QString toolTip;
+    std::atomic<int> WorkThread::*member;
+};
+
+// clang-format off
+const QList<Feature> features{
+    {u"Printer"_s,
+     u"If you don't have any printers, you can uncheck this"_s,
+     &WorkThread::keepPrinter},
+    {u"Bluetooth audio"_s,
+     u"If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this"_s,
+     &WorkThread::keepBluetoothAudio},
+    {u"Files sharing"_s,
+     u"Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)\r\n(by default it is not used but activated!)"_s,
+     &WorkThread::keepFilesSharing},
+    {u"Xbox App"_s,
+     u"Application to play PC games if you have a Gamepass account (paid)"_s,
+     &WorkThread::keepXboxApp},
+    {u"UPnP network services"_s,
+     u"Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)\r\n(by default it is not used but activated!)"_s,
+     &WorkThread::keepUpnp},
+    {u"Proxy and VPN"_s,
+     u"Proxy or VPN functionality to improve the security of your network traffic\r\n(by default it is not used but activated!)"_s,
+     &WorkThread::keepProxyVpn},
+    {u"NFC"_s,
+     u"Quick setup of some bluetooth headsets\r\n(by default it is not used but activated!)"_s,
+     &WorkThread::keepNfc},
+    {u"Xbox game bar"_s,
+     u"XBOX Game Bar that appears at the top of the screen, above a game. If you don't use it, uncheck this box"_s,
+     &WorkThread::keepXboxGameBar},
+    {u"Microsoft Codecs extensions"_s,
+     u"Microsoft codecs for video encoding/decoding. If you are not using Windows internal features for streaming,encoding or playing videos, uncheck this box"_s,
+     &WorkThread::keepCodecs},
+};
+// clang-format on
+
+QString setting(int row)
+{
+    return u"Keep_"_s + QString::number(row);
+}
+
+QVariant stored(const TestMachine &machine, int row)
+{
+    return machine.read(settingsKey, setting(row));
+}
+
+int member(const WindowDriver &driver, int row)
+{
+    return driver.worker().*features.at(row - 1).member;
+}
+
+QComboBox *servicesBox(const WindowDriver &driver)
+{
+    return driver.get<QComboBox>(u"cbSvcFeatures"_s);
+}
+
+QComboBox *homeBox(const WindowDriver &driver)
+{
+    return driver.get<QComboBox>(u"cbAutorunFeatures"_s);
+}
+
+/** Checks or unchecks a row as a combo box's own list does it. */
+bool setCheck(QComboBox *box, int row, Qt::CheckState state)
+{
+    return box->model()->setData(box->model()->index(row, 0), state, Qt::CheckStateRole);
+}
+
+/** Clicks the check box of a row in the list that a combo box opens. */
+void clickInPopup(QComboBox *box, int row)
+{
+    box->showPopup();
+    QAbstractItemView *view = box->view();
+    const QRect place = view->visualRect(box->model()->index(row, 0));
+    QTest::mouseMove(view->viewport(), place.center());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place.center());
+    box->hidePopup();
+}
+
+void addRows()
+{
+    QTest::addColumn<int>("row");
+    for (int row = 1; row <= features.size(); ++row)
+        QTest::newRow(qPrintable(features.at(row - 1).text)) << row;
+}
+
+} // namespace
+
+class TestKeepList : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyFeatureIsCheckedOnAFirstRun();
+    void rowsHaveTheirTextsAndToolTips();
+    void titleRowIsDisabledAndBelongsToNoMember();
+    void featuresCanBeCheckedAndNothingElse();
+    void bothBoxesShareOneModelAndShowItsTitle();
+
+    void uncheckingTakesEffectAtOnce_data() { addRows(); }
+    void uncheckingTakesEffectAtOnce();
+    void featureIsUncheckedInBothBoxes();
+    void checkingAgainStoresTwoAndGivesTheMemberTwo_data() { addRows(); }
+    void checkingAgainStoresTwoAndGivesTheMemberTwo();
+    void uncheckedFeatureIsGivenUpAtTheNextStart_data() { addRows(); }
+    void uncheckedFeatureIsGivenUpAtTheNextStart();
+    void clickInTheListTogglesAFeature();
+    void titleRowCannotBeCheckedByAClick();
+    void changeOfTheTitleRowStoresItsStateAndTouchesNoMember();
+    void changeOfSeveralRowsStoresEach();
+
+    void oddStoredValueLeavesNoCheckStateAndTheMemberAlone_data();
+    void oddStoredValueLeavesNoCheckStateAndTheMemberAlone();
+
+    void builtAgainItShowsTheStoredStates();
+    void builtAgainItDoesNotRaiseAMember();
+    void builtAgainItStoresNothingItself();
+    void builtAgainItStillHearsOfChanges();
+    void secondWindowTakesTheListOver();
+};
+
+void TestKeepList::everyFeatureIsCheckedOnAFirstRun()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    for (int row = 1; row <= 9; ++row) {
+        QCOMPARE(keepModel->item(row)->checkState(), Qt::Checked);
+        QCOMPARE(member(driver, row), 2);
+        QVERIFY(!stored(machine, row).isValid());
+    }
+}
+
+void TestKeepList::rowsHaveTheirTextsAndToolTips()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    QCOMPARE(keepModel->rowCount(), 10);
+    QCOMPARE(keepModel->columnCount(), 1);
+    QCOMPARE(keepModel->item(0)->text(), u"Keep features"_s);
+    QCOMPARE(keepModel->item(0)->toolTip(), QString());
+    for (int row = 1; row <= 9; ++row) {
+        QCOMPARE(keepModel->item(row)->text(), features.at(row - 1).text);
+        QCOMPARE(keepModel->item(row)->toolTip(), features.at(row - 1).toolTip);
+    }
+    for (int row = 0; row <= 9; ++row)
+        QCOMPARE(keepModel->item(row)->textAlignment(), Qt::AlignCenter);
+}
+
+void TestKeepList::titleRowIsDisabledAndBelongsToNoMember()
+{
+    TestMachine machine;
+    machine.write(settingsKey, u"Keep_0"_s, 0);
+    const WindowDriver driver;
+    const QStandardItem *title = keepModel->item(0);
+    QVERIFY(!title->isEnabled());
+    QVERIFY(!title->isCheckable());
+    QVERIFY(!title->data(Qt::CheckStateRole).isValid());
+    for (int row = 1; row <= 9; ++row)
+        QCOMPARE(member(driver, row), 2);
+}
+
+void TestKeepList::featuresCanBeCheckedAndNothingElse()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    for (int row = 1; row <= 9; ++row)
+        QCOMPARE(keepModel->item(row)->flags(), Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
+}
+
+void TestKeepList::bothBoxesShareOneModelAndShowItsTitle()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    for (const QComboBox *box : {servicesBox(driver), homeBox(driver)}) {
+        QCOMPARE(box->model(), keepModel);
+        QCOMPARE(box->currentText(), u"Keep features"_s);
+        QCOMPARE(box->currentIndex(), 0);
+    }
+}
+
+void TestKeepList::uncheckingTakesEffectAtOnce()
+{
+    QFETCH(const int, row);
+    TestMachine machine;
+    const WindowDriver driver;
+    QVERIFY(setCheck(servicesBox(driver), row, Qt::Unchecked));
+    QCOMPARE(stored(machine, row), QVariant(0));
+    QCOMPARE(stored(machine, row).typeId(), int(QMetaType::Int));
+    for (int other = 1; other <= 9; ++other) {
+        QCOMPARE(member(driver, other), other == row ? 0 : 2);
+        QCOMPARE(stored(machine, other).isValid(), other == row);
+    }
+}
+
+void TestKeepList::featureIsUncheckedInBothBoxes()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    setCheck(homeBox(driver), 6, Qt::Unchecked);
+    QCOMPARE(servicesBox(driver)->itemData(6, Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
+    setCheck(servicesBox(driver), 6, Qt::Checked);
+    QCOMPARE(homeBox(driver)->itemData(6, Qt::CheckStateRole).toInt(), int(Qt::Checked));
+}
+
+void TestKeepList::checkingAgainStoresTwoAndGivesTheMemberTwo()
+{
+    QFETCH(const int, row);
+    TestMachine machine;
+    machine.write(settingsKey, setting(row), 0);
+    const WindowDriver driver;
+    QCOMPARE(member(driver, row), 0);
+    setCheck(homeBox(driver), row, Qt::Checked);
+    QCOMPARE(member(driver, row), 2);
+    QCOMPARE(stored(machine, row), QVariant(2));
+}
+
+void TestKeepList::uncheckedFeatureIsGivenUpAtTheNextStart()
+{
+    QFETCH(const int, row);
+    TestMachine machine;
+    {
+        const WindowDriver driver;
+        setCheck(servicesBox(driver), row, Qt::Unchecked);
+    }
+    const WindowDriver driver;
+    for (int other = 1; other <= 9; ++other) {
+        QCOMPARE(member(driver, other), other == row ? 0 : 2);
+        QCOMPARE(keepModel->item(other)->checkState(), other == row ? Qt::Unchecked : Qt::Checked);
+    }
+}
+
+void TestKeepList::clickInTheListTogglesAFeature()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    driver.window().showPage(1);
+    QVERIFY(driver.waitForList());
+    clickInPopup(servicesBox(driver), 7);
+    QCOMPARE(keepModel->item(7)->checkState(), Qt::Unchecked);
+    QCOMPARE(driver.worker().keepNfc.load(), 0);
+    QCOMPARE(stored(machine, 7), QVariant(0));
+}
+
+void TestKeepList::titleRowCannotBeCheckedByAClick()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    driver.window().showPage(1);
+    QVERIFY(driver.waitForList());
+    clickInPopup(servicesBox(driver), 0);
+    QVERIFY(!keepModel->item(0)->data(Qt::CheckStateRole).isValid());
+    QVERIFY(!stored(machine, 0).isValid());
+    QCOMPARE(servicesBox(driver)->currentText(), u"Keep features"_s);
+}
+
+void TestKeepList::changeOfTheTitleRowStoresItsStateAndTouchesNoMember()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    keepModel->item(0)->setToolTip(u"changed"_s);
+    QCOMPARE(stored(machine, 0), QVariant(0));
+    for (int row = 1; row <= 9; ++row) {
+        QCOMPARE(member(driver, row), 2);
+        QVERIFY(!stored(machine, row).isValid());
+    }
+}
+
+void TestKeepList::changeOfSeveralRowsStoresEach()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    {
+        const QSignalBlocker blocker(keepModel);
+        keepModel->item(4)->setCheckState(Qt::Unchecked);
+    }
+    Q_EMIT keepModel->dataChanged(keepModel->index(3, 0), keepModel->index(5, 0));
+    for (int row = 1; row <= 9; ++row) {
+        const bool changed = row >= 3 && row <= 5;
+        QCOMPARE(stored(machine, row), changed ? QVariant(row == 4 ? 0 : 2) : QVariant());
+        QCOMPARE(member(driver, row), row == 4 ? 0 : 2);
+    }
+}
+
+void TestKeepList::oddStoredValueLeavesNoCheckStateAndTheMemberAlone_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::newRow("1") << 1;
+    QTest::newRow("3") << 3;
+    QTest::newRow("-1") << -1;
+}
+
+void TestKeepList::oddStoredValueLeavesNoCheckStateAndTheMemberAlone()
+{
+    QFETCH(const int, value);
+    TestMachine machine;
+    machine.write(settingsKey, u"Keep_5"_s, value);
+    const WindowDriver driver;
+    QVERIFY(!keepModel->item(5)->data(Qt::CheckStateRole).isValid());
+    QCOMPARE(keepModel->item(5)->flags(), Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
+    QCOMPARE(keepModel->item(5)->toolTip(), features.at(4).toolTip);
+    QCOMPARE(member(driver, 5), 2);
+    QCOMPARE(stored(machine, 5), QVariant(value));
+    QCOMPARE(keepModel->item(4)->checkState(), Qt::Checked);
+    QCOMPARE(keepModel->item(6)->checkState(), Qt::Checked);
+}
+
+void TestKeepList::builtAgainItShowsTheStoredStates()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    setCheck(servicesBox(driver), 2, Qt::Unchecked);
+    driver.window().buildKeepList();
+    QCOMPARE(keepModel->rowCount(), 10);
+    for (int row = 1; row <= 9; ++row) {
+        QCOMPARE(keepModel->item(row)->text(), features.at(row - 1).text);
+        QCOMPARE(keepModel->item(row)->checkState(), row == 2 ? Qt::Unchecked : Qt::Checked);
+    }
+    for (const QComboBox *box : {servicesBox(driver), homeBox(driver)}) {
+        QCOMPARE(box->count(), 10);
+        QCOMPARE(box->currentText(), u"Keep features"_s);
+    }
+    // The keys stay those of the first building.
+    QStringList keys = machine.names(settingsKey).filter(u"Keep_"_s);
+    QCOMPARE(keys, QStringList(u"Keep_2"_s));
+}
+
+void TestKeepList::builtAgainItDoesNotRaiseAMember()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    driver.worker().keepUpnp = 0;
+    driver.window().buildKeepList();
+    QCOMPARE(driver.worker().keepUpnp.load(), 0);
+    QCOMPARE(keepModel->item(5)->checkState(), Qt::Checked);
+
+    machine.write(settingsKey, u"Keep_6"_s, 0);
+    driver.window().buildKeepList();
+    QCOMPARE(driver.worker().keepProxyVpn.load(), 0);
+}
+
+void TestKeepList::builtAgainItStoresNothingItself()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    driver.window().buildKeepList();
+    driver.window().applyPalette();
+    QCOMPARE(machine.names(settingsKey).filter(u"Keep_"_s), QStringList());
+}
+
+void TestKeepList::builtAgainItStillHearsOfChanges()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    for (int i = 0; i < 3; ++i)
+        driver.window().buildKeepList();
+    setCheck(homeBox(driver), 9, Qt::Unchecked);
+    QCOMPARE(driver.worker().keepCodecs.load(), 0);
+    QCOMPARE(stored(machine, 9), QVariant(0));
+    setCheck(homeBox(driver), 9, Qt::Checked);
+    QCOMPARE(driver.worker().keepCodecs.load(), 2);
+    QCOMPARE(stored(machine, 9), QVariant(2));
+}
+
+void TestKeepList::secondWindowTakesTheListOver()
+{
+    TestMachine machine;
+    {
+        const WindowDriver first;
+    }
+    const WindowDriver second;
+    QCOMPARE(keepModel->rowCount(), 10);
+    setCheck(servicesBox(second), 1, Qt::Unchecked);
+    QCOMPARE(second.worker().keepPrinter.load(), 0);
+    QCOMPARE(stored(machine, 1), QVariant(0));
+}
+
+QTEST_MAIN(TestKeepList)
+#include "tst_keeplist.moc"

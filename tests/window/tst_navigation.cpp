@@ -1,0 +1,534 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The menu on the left, the pages behind it, and what keeps a busy program on its page.
+
+#include "support/menus.h"
+#include "support/windowdriver.h"
+
+#include <QScrollArea>
+#include <QSignalSpy>
+#include <QTabBar>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct MenuButton
+{
+    QString name;
+    QString image;
+    int page; ///< the page a click shows; -1 where a click opens a menu
+};
+
+const QList<MenuButton> menuButtons{
+    {u"btnMenuHome"_s, u"optimizer"_s, 0},    {u"btnMenuService"_s, u"services"_s, 1},
+    {u"btnMenuTask"_s, u"tasks"_s, 2},        {u"btnMenuPackage"_s, u"programs"_s, -1},
+    {u"btnMenuTweak"_s, u"features"_s, 5},    {u"btnMenuInfo"_s, u"info"_s, 6},
+    {u"btnMenuOptions"_s, u"options"_s, 7},   {u"btnMenuAbout"_s, u"about"_s, 8},
+};
+
+const QStringList tabs{u"tabAutomatizer"_s, u"tabService"_s, u"tabTask"_s,    u"tabAutorun"_s, u"tabPackage"_s,
+                       u"tabTweak"_s,       u"tabInfo"_s,    u"tabOptions"_s, u"tabAbout"_s};
+
+QString menuButtonOf(int page)
+{
+    const QStringList names{u"btnMenuHome"_s,    u"btnMenuService"_s, u"btnMenuTask"_s,
+                            u"btnMenuPackage"_s, u"btnMenuPackage"_s, u"btnMenuTweak"_s,
+                            u"btnMenuInfo"_s,    u"btnMenuOptions"_s, u"btnMenuAbout"_s};
+    return names.at(page);
+}
+
+QString color(QPalette::ColorRole role)
+{
+    return QGuiApplication::palette().color(role).name();
+}
+
+QString idleStyle(const QString &image)
+{
+    return u"QPushButton { background-image:url("_s + QCoreApplication::applicationDirPath() + u"/img/"_s + image
+           + u"); background-repeat: no-repeat; background-position: left; border-radius: 6px; text-align: center; margin-left: 12px; color: "_s
+           + color(QPalette::Text) + u"; }QPushButton:hover { background-color: "_s + color(QPalette::Mid)
+           + u"; color: "_s + color(QPalette::Link) + u";}QPushButton:pressed { color: "_s + color(QPalette::Link)
+           + u"; }QPushButton:flat { border: none; }"_s;
+}
+
+QString activeStyle(const QString &image)
+{
+    return u"QPushButton { background-image:url("_s + QCoreApplication::applicationDirPath() + u"/img/"_s + image
+           + u"); background-repeat: no-repeat; background-position: left; border-radius: 6px; margin-left: 12px; color: "_s
+           + color(QPalette::Link) + u"; }QPushButton:hover { background-color: "_s + color(QPalette::Mid)
+           + u"; color: "_s + color(QPalette::Link) + u";}QPushButton:pressed { color: "_s + color(QPalette::Link)
+           + u"; }QPushButton:flat { border: none; }"_s;
+}
+
+/** All that a page switch changes. */
+struct State
+{
+    int page;
+    QString status;
+    bool barHidden;
+    QStringList styles;
+    QList<QFont> fonts;
+
+    friend bool operator==(const State &, const State &) = default;
+};
+
+State stateOf(const WindowDriver &driver)
+{
+    State state{driver.window().currentPage(), driver.status(), driver.bar()->isHidden(), {}, {}};
+    for (const MenuButton &button : menuButtons) {
+        state.styles.append(driver.button(button.name)->styleSheet());
+        state.fonts.append(driver.button(button.name)->font());
+    }
+    return state;
+}
+
+/** A window on the About page whose status and bar tell whether a page switch has begun. */
+void markState(const WindowDriver &driver)
+{
+    driver.window().showPage(8);
+    driver.get<QLabel>(u"lblStatus"_s)->setText(u"untouched"_s);
+    driver.bar()->show();
+}
+
+/** Keeps the worker for ordinary jobs busy, in a pause. */
+bool keepBusy(const WindowDriver &driver)
+{
+    QSignalSpy lines(&driver.worker(), &WorkThread::valueChanged);
+    driver.worker().startJob(JobWinSxsSize);
+    return QTest::qWaitFor([&lines] { return lines.size() == 3; }, patience) && driver.worker().isRunning();
+}
+
+} // namespace
+
+class TestNavigation : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Pages and marks
+    void pageHasTheTabOfItsNumber();
+    void menuButtonShowsItsPage_data();
+    void menuButtonShowsItsPage();
+    void shownPagesButtonAloneIsBoldAndActive_data();
+    void shownPagesButtonAloneIsBoldAndActive();
+    void showingAPageEmptiesTheStatusAndHidesTheBar_data();
+    void showingAPageEmptiesTheStatusAndHidesTheBar();
+    void homePageStartsNoJobAndKeepsTheAutomatizersText();
+    void numberOfNoPageDoesTheHeadAlone_data();
+    void numberOfNoPageDoesTheHeadAlone();
+
+    // Guards
+    void runningJobKeepsThePage_data();
+    void runningJobKeepsThePage();
+    void automatizerPhaseKeepsThePage_data();
+    void automatizerPhaseKeepsThePage();
+    void restoringDoesNotKeepThePage();
+    void monitorDoesNotKeepThePage();
+
+    // WinSxS
+    void switchingThePageEndsTheWinSxsCount_data();
+    void switchingThePageEndsTheWinSxsCount();
+    void guardedSwitchLeavesTheWinSxsCountAlone();
+
+    // Refresh
+    void refreshShowsThePagesZeroToThreeAlone_data();
+    void refreshShowsThePagesZeroToThreeAlone();
+
+    // Programs menu
+    void programsMenuOffersTwoPages_data();
+    void programsMenuOffersTwoPages();
+    void programsMenuLeftByEscapeShowsNoPage();
+    void programsMenuIsStyledByThePaletteSetting_data();
+    void programsMenuIsStyledByThePaletteSetting();
+
+    // The form
+    void formIsPrepared();
+    void formPreparedAgainConnectsTheContextMenusOnce();
+    void formPreparedAgainPutsWidthsBack();
+};
+
+void TestNavigation::pageHasTheTabOfItsNumber()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    auto *pages = driver.get<QTabWidget>(u"tabWidget"_s);
+    QCOMPARE(pages->count(), 9);
+    for (int page = 0; page < 9; ++page)
+        QCOMPARE(pages->widget(page)->objectName(), tabs.at(page));
+}
+
+void TestNavigation::menuButtonShowsItsPage_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<int>("page");
+    for (const MenuButton &button : menuButtons) {
+        if (button.page >= 0)
+            QTest::newRow(qPrintable(button.name)) << button.name << button.page;
+    }
+}
+
+void TestNavigation::menuButtonShowsItsPage()
+{
+    QFETCH(const QString, button);
+    QFETCH(const int, page);
+    TestMachine machine;
+    const WindowDriver driver;
+    driver.window().showPage(page == 8 ? 0 : 8);
+    QVERIFY(driver.window().currentPage() != page);
+    driver.click(button);
+    QCOMPARE(driver.window().currentPage(), page);
+    QCOMPARE(driver.get<QTabWidget>(u"tabWidget"_s)->currentWidget()->objectName(), tabs.at(page));
+}
+
+void TestNavigation::shownPagesButtonAloneIsBoldAndActive_data()
+{
+    QTest::addColumn<QString>("theme");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("imageEnd");
+    for (const char *theme : {"dark", "light", "system"}) {
+        for (int page = 0; page < 9; ++page) {
+            QTest::addRow("%s, page %d", theme, page)
+                << QString::fromLatin1(theme) << page << (QByteArray(theme) == "dark" ? u"-w.png"_s : u".png"_s);
+        }
+    }
+}
+
+void TestNavigation::shownPagesButtonAloneIsBoldAndActive()
+{
+    QFETCH(const QString, theme);
+    QFETCH(const int, page);
+    QFETCH(const QString, imageEnd);
+    TestMachine machine;
+    machine.write(settingsKey, u"palette"_s, theme);
+    const WindowDriver driver;
+    driver.window().showPage(page);
+    for (const MenuButton &button : menuButtons) {
+        const bool active = button.name == menuButtonOf(page);
+        const QString image = button.image + imageEnd;
+        QPushButton *shown = driver.button(button.name);
+        QCOMPARE(shown->styleSheet(), active ? activeStyle(image) : idleStyle(image));
+        QCOMPARE(shown->font().family(), u"Segoe UI"_s);
+        QCOMPARE(shown->font().pointSize(), 11);
+        QCOMPARE(shown->font().weight(), active ? QFont::Bold : QFont::Normal);
+        QVERIFY(!shown->font().italic());
+    }
+}
+
+void TestNavigation::showingAPageEmptiesTheStatusAndHidesTheBar_data()
+{
+    QTest::addColumn<int>("page");
+    for (const int page : {0, 7, 8})
+        QTest::addRow("page %d", page) << page;
+}
+
+void TestNavigation::showingAPageEmptiesTheStatusAndHidesTheBar()
+{
+    QFETCH(const int, page);
+    TestMachine machine;
+    const WindowDriver driver;
+    markState(driver);
+    driver.window().showPage(page);
+    QCOMPARE(driver.status(), QString());
+    QVERIFY(driver.bar()->isHidden());
+}
+
+void TestNavigation::homePageStartsNoJobAndKeepsTheAutomatizersText()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    auto *text = driver.get<QTextEdit>(u"txtAutomatizer"_s);
+    text->setPlainText(u"as it was"_s);
+    driver.window().showPage(8);
+    driver.click(u"btnMenuHome"_s);
+    QCOMPARE(text->toPlainText(), u"as it was"_s);
+    for (const WorkThread *worker : driver.workers())
+        QVERIFY(!worker->isRunning());
+}
+
+void TestNavigation::numberOfNoPageDoesTheHeadAlone_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::newRow("one too many") << 9;
+    QTest::newRow("far too many") << 1000;
+    QTest::newRow("below the first") << -1;
+}
+
+void TestNavigation::numberOfNoPageDoesTheHeadAlone()
+{
+    QFETCH(const int, page);
+    TestMachine machine;
+    const WindowDriver driver;
+    markState(driver);
+    const State before = stateOf(driver);
+    driver.window().showPage(page);
+    const State after = stateOf(driver);
+    QCOMPARE(after.status, QString());
+    QVERIFY(after.barHidden);
+    QCOMPARE(after.page, before.page);
+    QCOMPARE(after.styles, before.styles);
+    QCOMPARE(after.fonts, before.fonts);
+}
+
+void TestNavigation::runningJobKeepsThePage_data()
+{
+    menuButtonShowsItsPage_data();
+}
+
+void TestNavigation::runningJobKeepsThePage()
+{
+    QFETCH(const QString, button);
+    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
+    const WindowDriver driver;
+    markState(driver);
+    if (button == "btnMenuAbout"_L1) {
+        driver.window().showPage(0);
+        driver.get<QLabel>(u"lblStatus"_s)->setText(u"untouched"_s);
+    }
+    QVERIFY(keepBusy(driver));
+    const State before = stateOf(driver);
+    driver.click(button);
+    QVERIFY(driver.worker().isRunning());
+    QVERIFY(stateOf(driver) == before);
+}
+
+void TestNavigation::automatizerPhaseKeepsThePage_data()
+{
+    QTest::addColumn<int>("analyze");
+    QTest::addColumn<int>("optimize");
+    QTest::newRow("Analyze") << 1 << 0;
+    QTest::newRow("Optimize") << 0 << 1;
+    QTest::newRow("both") << 1 << 1;
+}
+
+void TestNavigation::automatizerPhaseKeepsThePage()
+{
+    QFETCH(const int, analyze);
+    QFETCH(const int, optimize);
+    TestMachine machine;
+    const WindowDriver driver;
+    markState(driver);
+    driver.worker().analyzeRunning = analyze;
+    driver.worker().optimizeRunning = optimize;
+    const State before = stateOf(driver);
+    for (int page = 0; page < 9; ++page) {
+        driver.window().showPage(page);
+        QVERIFY(stateOf(driver) == before);
+    }
+    driver.click(u"btnMenuHome"_s);
+    QVERIFY(stateOf(driver) == before);
+
+    driver.worker().analyzeRunning = 0;
+    driver.worker().optimizeRunning = 0;
+    driver.click(u"btnMenuHome"_s);
+    QCOMPARE(driver.window().currentPage(), 0);
+}
+
+void TestNavigation::restoringDoesNotKeepThePage()
+{
+    // After a restore with features the mark stays until the program ends; the pages must stay within reach.
+    TestMachine machine;
+    const WindowDriver driver;
+    driver.worker().restoreRunning = 1;
+    driver.click(u"btnMenuAbout"_s);
+    QCOMPARE(driver.window().currentPage(), 8);
+}
+
+void TestNavigation::monitorDoesNotKeepThePage()
+{
+    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
+    const WindowDriver driver;
+    WorkThread &monitor = *driver.workers().at(2);
+    QSignalSpy lines(&monitor, &WorkThread::valueChanged);
+    monitor.startJob(JobWinSxsSize);
+    QTRY_COMPARE(lines.size(), 3);
+    driver.click(u"btnMenuAbout"_s);
+    QCOMPARE(driver.window().currentPage(), 8);
+    QVERIFY(monitor.isRunning());
+}
+
+void TestNavigation::switchingThePageEndsTheWinSxsCount_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::newRow("another page") << 0;
+    QTest::newRow("the Features page again") << 5;
+    QTest::newRow("no page") << 99;
+}
+
+void TestNavigation::switchingThePageEndsTheWinSxsCount()
+{
+    QFETCH(const int, page);
+    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
+    const WindowDriver driver;
+    driver.window().showPage(5);
+    WorkThread &counter = driver.winSxsWorker();
+    counter.endJob();
+    QSignalSpy lines(&counter, &WorkThread::valueChanged);
+    counter.startJob(JobWinSxsSize);
+    QTRY_COMPARE(lines.size(), 3);
+    QVERIFY(counter.isRunning());
+    QSignalSpy finished(&counter, &QThread::finished);
+    driver.window().showPage(page);
+    QTRY_VERIFY(finished.size() > 0);
+    // The count's own closing line, an empty one, didn't come any more.
+    for (const QList<QVariant> &line : lines.mid(3))
+        QVERIFY(!line.at(0).toString().isEmpty());
+}
+
+void TestNavigation::guardedSwitchLeavesTheWinSxsCountAlone()
+{
+    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
+    const WindowDriver driver;
+    QSignalSpy lines(&driver.winSxsWorker(), &WorkThread::valueChanged);
+    driver.winSxsWorker().startJob(JobWinSxsSize);
+    QTRY_COMPARE(lines.size(), 3);
+    driver.worker().analyzeRunning = 1;
+    driver.window().showPage(0);
+    QVERIFY(driver.winSxsWorker().isRunning());
+}
+
+void TestNavigation::refreshShowsThePagesZeroToThreeAlone_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<bool>("refreshes");
+    for (int page = 0; page < 9; ++page)
+        QTest::addRow("page %d", page) << page << (page <= 3);
+}
+
+void TestNavigation::refreshShowsThePagesZeroToThreeAlone()
+{
+    QFETCH(const int, page);
+    QFETCH(const bool, refreshes);
+    TestMachine machine;
+    const WindowDriver driver;
+    driver.window().showPage(page);
+    QTRY_VERIFY(!driver.worker().isRunning() && !driver.winSxsWorker().isRunning());
+    QCoreApplication::processEvents();
+    driver.bar()->show();
+    driver.call("refreshPage");
+    QCOMPARE(driver.window().currentPage(), page);
+    QCOMPARE(driver.bar()->isHidden(), refreshes);
+}
+
+void TestNavigation::programsMenuOffersTwoPages_data()
+{
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<int>("page");
+    QTest::newRow("autorun") << u"Automatically started programs"_s << 3;
+    QTest::newRow("packages") << u"Windows packages installed"_s << 4;
+}
+
+void TestNavigation::programsMenuOffersTwoPages()
+{
+    QFETCH(const QString, choice);
+    QFETCH(const int, page);
+    TestMachine machine;
+    const WindowDriver driver;
+    Menus menus;
+    menus.choose(choice);
+    driver.click(u"btnMenuPackage"_s);
+    QCOMPARE(menus.shown().size(), 1);
+    QCOMPARE(menus.shown().at(0).actions,
+             QStringList({u"Automatically started programs"_s, u"Windows packages installed"_s}));
+    QVERIFY(!menus.shown().at(0).hasParent);
+    QCOMPARE(driver.window().currentPage(), page);
+}
+
+void TestNavigation::programsMenuLeftByEscapeShowsNoPage()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    markState(driver);
+    const State before = stateOf(driver);
+    Menus menus;
+    menus.choose(QString());
+    driver.click(u"btnMenuPackage"_s);
+    QVERIFY(stateOf(driver) == before);
+}
+
+void TestNavigation::programsMenuIsStyledByThePaletteSetting_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QStringList>("colors");
+    const QStringList dark{u"#323232"_s, u"#464646"_s, u"#3c3c3c"_s};
+    QTest::newRow("dark") << u"dark"_s << dark;
+    QTest::newRow("light") << u"light"_s << QStringList{u"#f8f8f8"_s, u"#e0e0e0"_s, u"#e6e6e6"_s};
+    QTest::newRow("system") << u"system"_s << QStringList();
+}
+
+void TestNavigation::programsMenuIsStyledByThePaletteSetting()
+{
+    QFETCH(const QString, stored);
+    QFETCH(const QStringList, colors);
+    TestMachine machine;
+    machine.write(settingsKey, u"palette"_s, stored);
+    const WindowDriver driver;
+    Menus menus;
+    menus.choose(QString());
+    driver.click(u"btnMenuPackage"_s);
+    QString style;
+    if (!colors.isEmpty()) {
+        style = u"QMenu { background-color: %1; border-radius: 6px; border: 1px solid %2; }"
+                "QMenu::item { padding: 6px; background: transparent; }"
+                "QMenu:item:hover  { background-color: %3; border-radius: 6px; }"
+                "QMenu:item:selected  { background-color: %3; border-radius: 6px; }"_s.arg(colors.at(0), colors.at(1),
+                                                                                            colors.at(2));
+    }
+    QCOMPARE(menus.shown().at(0).styleSheet, style);
+}
+
+void TestNavigation::formIsPrepared()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    QVERIFY(driver.get<QTabWidget>(u"tabWidget"_s)->tabBar()->isHidden());
+    QVERIFY(driver.bar()->isHidden());
+    const QList<std::pair<QString, QList<int>>> widths{
+        {u"tblSvc"_s, {240, 100, 1400}},
+        {u"tblTasks"_s, {400, 400, 0}},
+        {u"tblPackages"_s, {200, 200, 400}},
+        {u"tblAutorun"_s, {200, 460}},
+    };
+    for (const auto &[name, columns] : widths) {
+        auto *table = driver.get<QTableWidget>(name);
+        for (int column = 0; column < columns.size(); ++column)
+            QCOMPARE(table->columnWidth(column), columns.at(column));
+        QCOMPARE(table->contextMenuPolicy(), Qt::CustomContextMenu);
+    }
+    QCOMPARE(driver.get<QScrollArea>(u"scrollArea"_s)->contextMenuPolicy(), Qt::CustomContextMenu);
+}
+
+void TestNavigation::formPreparedAgainConnectsTheContextMenusOnce()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    driver.window().prepareForm();
+    driver.window().prepareForm();
+    driver.window().showPage(5);
+    QTRY_VERIFY(!driver.worker().isRunning());
+    for (const char *name : {"tblSvc", "tblTasks", "tblPackages", "tblAutorun", "scrollArea"}) {
+        Menus menus;
+        menus.choose(QString());
+        auto *list = driver.get<QWidget>(QString::fromLatin1(name));
+        Q_EMIT list->customContextMenuRequested(QPoint());
+        QCOMPARE(menus.shown().size(), 1);
+    }
+}
+
+void TestNavigation::formPreparedAgainPutsWidthsBack()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    driver.services()->setColumnWidth(0, 10);
+    driver.get<QTableWidget>(u"tblTasks"_s)->setColumnWidth(2, 10);
+    driver.bar()->show();
+    driver.get<QTabWidget>(u"tabWidget"_s)->tabBar()->show();
+    driver.window().prepareForm();
+    QCOMPARE(driver.services()->columnWidth(0), 240);
+    QCOMPARE(driver.get<QTableWidget>(u"tblTasks"_s)->columnWidth(2), 0);
+    QVERIFY(driver.bar()->isHidden());
+    QVERIFY(driver.get<QTabWidget>(u"tabWidget"_s)->tabBar()->isHidden());
+}
+
+QTEST_MAIN(TestNavigation)
+#include "tst_navigation.moc"

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A platform whose answers a test gives one by one, for failures that a rehearsal machine doesn't know.
+
+#pragma once
+
+#include "platform/platform.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+/** A key that holds nothing but the wish for an error log. */
+class FakeKey : public RegistryKey
+{
+public:
+    QVariant value(const QString &name, const QVariant &fallback) const override
+    {
+        return name == QLatin1StringView("LogError") ? QVariant(1) : fallback;
+    }
+    void setValue(const QString &, const QVariant &) override {}
+    void remove(const QString &) override {}
+    bool contains(const QString &) const override { return false; }
+    QStringList allKeys() const override { return {}; }
+    QStringList childKeys() const override { return {}; }
+    QStringList childGroups() const override { return {}; }
+    void beginGroup(const QString &) override {}
+    void endGroup() override {}
+};
+
+/** A system where nothing is there and everything may be written down. */
+class FakePlatform : public Platform
+{
+public:
+    std::unique_ptr<RegistryKey> openKey(const QString &) const override { return std::make_unique<FakeKey>(); }
+    QString hostPath(const QString &windowsPath) const override { return windowsPath; }
+    QString programFolder() const override { return folder_.path(); }
+    QString resourceFolder() const override { return folder_.path(); }
+    void walk(const QString &, const std::function<bool(const WalkEntry &)> &) const override {}
+    QString programFile(const QString &) const override { return {}; }
+    int exitCode(qint64, int reported) const override { return reported; }
+    bool isElevated() const override { return true; }
+    void shellExecute(const ShellStart &) const override {}
+    DllString dllString(const QString &, uint) const override { return {}; }
+    WmiAnswer queryWmi(const QString &, const QStringList &) const override { return {}; }
+    void pause(int) const override {}
+
+    /** The lines of log.txt, without date and time. */
+    QStringList errorLog() const
+    {
+        QFile file(folder_.path() + QStringLiteral("/log.txt"));
+        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+            return {};
+        QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+        for (QString &line : lines)
+            line = line.sliced(line.indexOf(QStringLiteral(": ")) + 2);
+        return lines;
+    }
+
+private:
+    QTemporaryDir folder_;
+};
+
+/** Puts a platform in force and takes it away again. */
+template<typename Fake>
+class PlatformInForce
+{
+public:
+    PlatformInForce()
+    {
+        auto fake = std::make_unique<Fake>();
+        fake_ = fake.get();
+        setPlatform(std::move(fake));
+    }
+    ~PlatformInForce() { setPlatform(nullptr); }
+    Q_DISABLE_COPY_MOVE(PlatformInForce)
+
+    Fake *operator->() const { return fake_; }
+
+private:
+    Fake *fake_ = nullptr;
+};

@@ -1,0 +1,400 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Tests of how stock tools are run, with real processes.
+
+#include "support/testmachine.h"
+#include "work/command.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTest>
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString startFailure = u"Process failed to start: The system cannot find the file specified."_s;
+
+/** Runs a command to its end. */
+int exitCodeOf(Command &command, const QString &program, const QStringList &arguments)
+{
+    command.start(program, arguments);
+    command.waitForFinished();
+    return command.exitCode();
+}
+
+/** How many programs run out of the machine's folder; -1 where that can't be told. */
+int runningTools(const TestMachine &machine)
+{
+    if (!QDir(u"/proc/self"_s).exists())
+        return -1;
+    int count = 0;
+    for (const QString &process : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
+        QFile file(u"/proc/"_s + process + u"/cmdline"_s);
+        if (file.open(QIODevice::ReadOnly) && file.readAll().startsWith(machine.machine().toolsFolder().toLocal8Bit()))
+            ++count;
+    }
+    return count;
+}
+
+} // namespace
+
+class TestCommand : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { Command::timeLimit = 30000; }
+
+    void theTimeLimitIs30Seconds();
+    void aProgramThatIsMissingIsKnownRightAfterTheStart_data();
+    void aProgramThatIsMissingIsKnownRightAfterTheStart();
+    void noProgramOfTheHostIsEverStarted_data();
+    void noProgramOfTheHostIsEverStarted();
+    void aProgramMayStandInQuotes_data();
+    void aProgramMayStandInQuotes();
+    void aQuotedProgramThatIsMissingFailsToStart();
+    void exitCodesHave32Bits_data();
+    void exitCodesHave32Bits();
+    void theExitCodeReads0WhileTheProgramRuns();
+    void theExitCodeStaysWhenItIsReadAgain();
+    void argumentsArriveAsTheyAre_data();
+    void argumentsArriveAsTheyAre();
+    void aHangingProgramReads0BeforeItIsClosedAndAFailureAfter();
+    void closingEndsTheProgram();
+    void destroyingEndsTheProgram();
+    void closingAProgramThatHasEndedKeepsItsExitCode();
+    void theNextCommandRunsThoughTheFirstOneHangs();
+    void theLastCommandsExitCodeCounts();
+    void aMissingProgramAfterAFailureReads0();
+    void whatAHangingProgramHasPrintedCanBeRead();
+    void tenMegabytesOfOutputArriveWhole();
+    void theNextCommandDoesNotGetTheFirstOnesOutput();
+    void waitingForOutputOfAProgramThatHasEndedIsDoneAtOnce();
+    void waitingForOutputOfASilentProgramEndsAtTheTimeLimit();
+    void waitingForOutputEndsWhenThereIsSome();
+};
+
+void TestCommand::theTimeLimitIs30Seconds()
+{
+    QCOMPARE(Command::timeLimit.load(), 30000);
+}
+
+void TestCommand::aProgramThatIsMissingIsKnownRightAfterTheStart_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::newRow("unknown name") << u"nosuchtool"_s;
+    QTest::newRow("stock tool that this machine lacks") << u"sc"_s;
+    QTest::newRow("full path") << u"C:\\Windows\\System32\\nosuchtool.exe"_s;
+    QTest::newRow("empty") << QString();
+    QTest::newRow("two quotes") << u"\"\""_s;
+    QTest::newRow("blank") << u" "_s;
+}
+
+void TestCommand::aProgramThatIsMissingIsKnownRightAfterTheStart()
+{
+    QFETCH(const QString, program);
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.missing = true});
+    Command command;
+    command.start(program, {u"query"_s});
+    QVERIFY(command.failedToStart());
+    QCOMPARE(command.errorString(), startFailure);
+    QCOMPARE(command.exitCode(), 0);
+    command.waitForFinished();
+    command.waitForReadyRead();
+    QCOMPARE(command.readAllStandardOutput(), QByteArray());
+    QCOMPARE(command.exitCode(), 0);
+    command.close();
+    QCOMPARE(command.exitCode(), 0);
+    QCOMPARE(machine.commands(), QList<LoggedCommand>());
+}
+
+void TestCommand::noProgramOfTheHostIsEverStarted_data()
+{
+    QTest::addColumn<QString>("program");
+    for (const char *program : {"ls", "sh", "true", "/bin/sh", "\"/bin/sh\"", "\\bin\\sh", "../../../../../bin/sh",
+                                "C:\\..\\..\\..\\..\\bin\\sh", "/usr/bin/env", "notepad", "explorer.exe"})
+        QTest::newRow(program) << QString::fromLatin1(program);
+}
+
+void TestCommand::noProgramOfTheHostIsEverStarted()
+{
+    QFETCH(const QString, program);
+    const TestMachine machine;
+    Command command;
+    command.start(program, {});
+    QVERIFY(command.failedToStart());
+}
+
+void TestCommand::aProgramMayStandInQuotes_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::newRow("bare name") << u"sc"_s;
+    QTest::newRow("bare name in quotes") << u"\"sc\""_s;
+    QTest::newRow("path") << u"C:\\Windows\\System32\\sc.exe"_s;
+    QTest::newRow("path in quotes") << u"\"C:\\Windows\\System32\\sc.exe\""_s;
+    QTest::newRow("path with a blank in quotes") << u"\"C:\\Program Files\\Tools\\sc.exe\""_s;
+}
+
+void TestCommand::aProgramMayStandInQuotes()
+{
+    QFETCH(const QString, program);
+    TestMachine machine;
+    machine.addFile(u"C:\\Windows\\System32\\sc.exe"_s);
+    machine.addFile(u"C:\\Program Files\\Tools\\sc.exe"_s);
+    machine.machine().setFault(u"sc"_s, {.exitCode = 1062});
+    Command command;
+    QCOMPARE(exitCodeOf(command, program, {u"stop"_s, u"x"_s}), 1062);
+    QVERIFY(!command.failedToStart());
+    QCOMPARE(machine.commands(), (QList<LoggedCommand>{{u"sc"_s, {u"stop"_s, u"x"_s}, 1062}}));
+}
+
+void TestCommand::aQuotedProgramThatIsMissingFailsToStart()
+{
+    const TestMachine machine;
+    Command command;
+    command.start(u"\"C:\\Windows\\SysWOW64\\sc.exe\""_s, {});
+    QVERIFY(command.failedToStart());
+    QCOMPARE(command.exitCode(), 0);
+}
+
+void TestCommand::exitCodesHave32Bits_data()
+{
+    QTest::addColumn<int>("code");
+    for (const int code : {0, 1, 5, 128, 255, 256, 1051, 1056, 1058, 1060, 1062, 1072, 65536, -1, -1073741510,
+                           std::numeric_limits<int>::max(), std::numeric_limits<int>::min()})
+        QTest::addRow("%d", code) << code;
+}
+
+void TestCommand::exitCodesHave32Bits()
+{
+    QFETCH(const int, code);
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.exitCode = code});
+    Command command;
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"query"_s}), code);
+    QVERIFY(!command.failedToStart());
+}
+
+void TestCommand::theExitCodeReads0WhileTheProgramRuns()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.exitCode = 1060});
+    Command command;
+    command.start(u"sc"_s, {u"query"_s});
+    QCOMPARE(command.exitCode(), 0);
+    // Even when it has ended meanwhile: nobody has waited for it yet.
+    // (Events aren't processed here, as on a worker.)
+    for (const QDeadlineTimer deadline(20000); machine.commands().isEmpty() && !deadline.hasExpired();)
+        QTest::qSleep(10);
+    QTest::qSleep(50);
+    QCOMPARE(machine.commands().size(), 1);
+    QCOMPARE(command.exitCode(), 0);
+    command.waitForFinished();
+    QCOMPARE(command.exitCode(), 1060);
+}
+
+void TestCommand::theExitCodeStaysWhenItIsReadAgain()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.exitCode = 1056});
+    Command command;
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"query"_s}), 1056);
+    QCOMPARE(command.exitCode(), 1056);
+    QCOMPARE(command.exitCode(), 1056);
+}
+
+void TestCommand::argumentsArriveAsTheyAre_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("listing") << QStringList{u"query"_s, u"state="_s, u"all"_s};
+    QTest::newRow("blanks") << QStringList{u"stop"_s, u" My  Service "_s};
+    QTest::newRow("quotes") << QStringList{u"stop"_s, u"My \"own\" 'Service'"_s, u"\""_s};
+    QTest::newRow("colon") << QStringList{u"stop"_s, u"Vendor: Updater"_s};
+    QTest::newRow("backslashes") << QStringList{u"stop"_s, u"a\\"_s, u"\\\\b\\\""_s};
+    QTest::newRow("an empty one") << QStringList{u"stop"_s, QString(u""_s), u"x"_s};
+    QTest::newRow("other letters") << QStringList{u"stop"_s, u"Dienst für Überprüfung"_s, u"服务"_s};
+    QTest::newRow("signs of shells") << QStringList{u"stop"_s, u"$HOME %windir% `x` | > & ; *"_s};
+}
+
+void TestCommand::argumentsArriveAsTheyAre()
+{
+    QFETCH(const QStringList, arguments);
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.exitCode = 0});
+    Command command;
+    QCOMPARE(exitCodeOf(command, u"sc"_s, arguments), 0);
+    QCOMPARE(machine.commands(), (QList<LoggedCommand>{{u"sc"_s, arguments, 0}}));
+}
+
+void TestCommand::aHangingProgramReads0BeforeItIsClosedAndAFailureAfter()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.hang = true});
+    Command::timeLimit = 200;
+    Command command;
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"query"_s}), 0);
+    QVERIFY(timer.elapsed() >= 200);
+    QVERIFY(!command.failedToStart());
+    command.close();
+    QCOMPARE(command.exitCode(), 0xf291); // what Qt ends programs with on Windows
+    command.close();
+    QCOMPARE(command.exitCode(), 0xf291);
+}
+
+void TestCommand::closingEndsTheProgram()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.hang = true});
+    Command command;
+    command.start(u"sc"_s, {u"query"_s});
+    if (runningTools(machine) < 0)
+        QSKIP("this system doesn't list its processes as files");
+    QTRY_COMPARE(runningTools(machine), 1);
+    command.close();
+    QCOMPARE(runningTools(machine), 0);
+}
+
+void TestCommand::destroyingEndsTheProgram()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.hang = true});
+    {
+        Command command;
+        command.start(u"sc"_s, {u"query"_s});
+        if (runningTools(machine) < 0)
+            QSKIP("this system doesn't list its processes as files");
+        QTRY_COMPARE(runningTools(machine), 1);
+    }
+    QCOMPARE(runningTools(machine), 0);
+}
+
+void TestCommand::closingAProgramThatHasEndedKeepsItsExitCode()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.exitCode = 1060});
+    Command command;
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"query"_s}), 1060);
+    command.close();
+    QCOMPARE(command.exitCode(), 1060);
+}
+
+void TestCommand::theNextCommandRunsThoughTheFirstOneHangs()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc stop"_s, {.hang = true});
+    machine.machine().setFault(u"sc config"_s, {.exitCode = 1072});
+    Command::timeLimit = 200;
+    Command command;
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"stop"_s, u"x"_s}), 0);
+    Command::timeLimit = 30000;
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"config"_s, u"x"_s}), 1072);
+    QCOMPARE(machine.commands(), (QList<LoggedCommand>{{u"sc"_s, {u"config"_s, u"x"_s}, 1072}}));
+    QVERIFY(runningTools(machine) <= 0);
+}
+
+void TestCommand::theLastCommandsExitCodeCounts()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc stop"_s, {.exitCode = 1062});
+    machine.machine().setFault(u"sc config"_s, {.exitCode = 0});
+    Command command;
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"stop"_s, u"x"_s}), 1062);
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"config"_s, u"x"_s}), 0);
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"stop"_s, u"x"_s}), 1062);
+}
+
+void TestCommand::aMissingProgramAfterAFailureReads0()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.exitCode = 5});
+    Command command;
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"stop"_s, u"x"_s}), 5);
+    QCOMPARE(exitCodeOf(command, u"nosuchtool"_s, {}), 0);
+    QVERIFY(command.failedToStart());
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"stop"_s, u"x"_s}), 5);
+    QVERIFY(!command.failedToStart());
+}
+
+void TestCommand::whatAHangingProgramHasPrintedCanBeRead()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.hang = true, .output = u"SERVICE_NAME: Spo"_s});
+    Command::timeLimit = 500;
+    Command command;
+    command.start(u"sc"_s, {u"query"_s});
+    command.waitForFinished();
+    command.waitForReadyRead();
+    QCOMPARE(command.readAllStandardOutput(), "SERVICE_NAME: Spo"_ba);
+}
+
+void TestCommand::tenMegabytesOfOutputArriveWhole()
+{
+    constexpr int lines = 10 * 1024 * 1024 / 16;
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.output = u"0123456789abcd\r\n"_s, .repeat = lines});
+    Command command;
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"query"_s}), 0);
+    command.waitForReadyRead();
+    const QByteArray output = command.readAllStandardOutput();
+    QCOMPARE(output.size(), lines * 16);
+    QVERIFY(output == "0123456789abcd\r\n"_ba.repeated(lines));
+}
+
+void TestCommand::theNextCommandDoesNotGetTheFirstOnesOutput()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc stop"_s, {.output = u"first"_s});
+    machine.machine().setFault(u"sc config"_s, {.output = u"second"_s});
+    Command command;
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"stop"_s}), 0);
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"config"_s}), 0);
+    QCOMPARE(command.readAllStandardOutput(), "second"_ba);
+}
+
+void TestCommand::waitingForOutputOfAProgramThatHasEndedIsDoneAtOnce()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.output = QString()});
+    Command command;
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"query"_s}), 0);
+    QElapsedTimer timer;
+    timer.start();
+    command.waitForReadyRead();
+    QVERIFY(timer.elapsed() < 15000); // and not the whole limit
+}
+
+void TestCommand::waitingForOutputOfASilentProgramEndsAtTheTimeLimit()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.hang = true});
+    Command::timeLimit = 200;
+    Command command;
+    command.start(u"sc"_s, {u"query"_s});
+    QElapsedTimer timer;
+    timer.start();
+    command.waitForReadyRead();
+    QVERIFY(timer.elapsed() >= 200);
+    QCOMPARE(command.readAllStandardOutput(), QByteArray());
+}
+
+void TestCommand::waitingForOutputEndsWhenThereIsSome()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.hang = true, .output = u"text"_s});
+    Command command;
+    command.start(u"sc"_s, {u"query"_s});
+    QElapsedTimer timer;
+    timer.start();
+    command.waitForReadyRead();
+    QVERIFY(timer.elapsed() < 15000); // and not the whole limit
+    QCOMPARE(command.readAllStandardOutput(), "text"_ba);
+}
+
+QTEST_GUILESS_MAIN(TestCommand)
+#include "tst_command.moc"

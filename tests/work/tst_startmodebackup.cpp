@@ -1,0 +1,363 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Tests of the one-time backup of start modes.
+
+#include "fakeplatform.h"
+#include "joblines.h"
+#include "platform/simulated/regfile.h"
+#include "support/testmachine.h"
+#include "work/services/startmodebackup.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QTest>
+
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray header = "Windows Registry Editor Version 5.00\r\r\n\r\r\n";
+
+QByteArray entry(const QByteArray &name, const QByteArray &start)
+{
+    return "[HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\" + name + "]\r\r\n\"Start\"=dword:0000000"
+           + start + "\r\r\n";
+}
+
+QByteArray backup()
+{
+    QFile file(startModeBackupFile());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/** A registry that can't be opened. */
+class ThrowingRegistry : public FakePlatform
+{
+public:
+    std::unique_ptr<RegistryKey> openKey(const QString &) const override { throw std::runtime_error("an accident"); }
+};
+
+/** A file operation that reports by exception. */
+class ThrowingFile : public FakePlatform
+{
+public:
+    std::unique_ptr<RegistryKey> openKey(const QString &) const override { throw QFileDevice::WriteError; }
+};
+
+} // namespace
+
+class TestStartModeBackup : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itLiesInTheProgramFolder();
+    void bytesAreThoseOfARegistryScript();
+    void aMachineWithoutServicesGivesTheHeaderAlone();
+    void onlySharedProcessServicesAreWritten_data();
+    void onlySharedProcessServicesAreWritten();
+    void excludedServicesAreNeverInTheFile_data();
+    void excludedServicesAreNeverInTheFile();
+    void anExclusionIsMeantInItsExactCase();
+    void aTypeThatIsTextCountsAsItReads();
+    void aServiceWithoutTypeIsLeftOut();
+    void startValueIsWrittenAsItReads_data();
+    void startValueIsWrittenAsItReads();
+    void namesAreWrittenAsTheyAre_data();
+    void namesAreWrittenAsTheyAre();
+    void aFileThatIsThereStaysAsItIs();
+    void anEmptyFileThatIsThereStaysToo();
+    void aSecondListingLeavesBytesAndTimeUntouched();
+    void aFileThatWasDeletedIsWrittenAnewWithTheStateOfThen();
+    void anUnwritableProgramFolderGivesNoFileAndNoMessage();
+    void theListingGoesOnWithoutBackup();
+    void theListingWritesItEvenWhereServicesCantBeAsked();
+    void exceptionsAreCaught();
+    void theWindowsRegistryEditorWouldReadItBack();
+};
+
+void TestStartModeBackup::itLiesInTheProgramFolder()
+{
+    const TestMachine machine;
+    const QString folder = machine.platform().programFolder();
+    QVERIFY(!QFile::exists(folder + u"/backup_svc"_s));
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{u"backup_svc"_s});
+    QCOMPARE(QDir(folder + u"/backup_svc"_s).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+             QStringList{u"StartMode.reg"_s});
+    QCOMPARE(QFileInfo(startModeBackupFile()), QFileInfo(folder + u"/backup_svc/StartMode.reg"_s));
+}
+
+void TestStartModeBackup::bytesAreThoseOfARegistryScript()
+{
+    TestMachine machine;
+    machine.add({.name = u"stisvc"_s, .type = 32, .start = 3});
+    machine.add({.name = u"Appinfo"_s, .type = 32, .start = 2});
+    machine.add({.name = u"Spooler"_s, .type = 272, .start = 2});
+    machine.add({.name = u"WinRM"_s, .type = 32, .start = 4});
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(backup(), header + entry("Appinfo", "2") + entry("WinRM", "4") + entry("stisvc", "3"));
+}
+
+void TestStartModeBackup::aMachineWithoutServicesGivesTheHeaderAlone()
+{
+    const TestMachine machine;
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(backup(), header);
+}
+
+void TestStartModeBackup::onlySharedProcessServicesAreWritten_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("written");
+    for (const int type : {0, 1, 2, 4, 8, 16, 33, 48, 80, 96, 208, 224, 256, 272, 288, -32, 320})
+        QTest::addRow("%d", type) << type << false;
+    QTest::addRow("%d", 32) << 32 << true;
+}
+
+void TestStartModeBackup::onlySharedProcessServicesAreWritten()
+{
+    QFETCH(const int, type);
+    QFETCH(const bool, written);
+    TestMachine machine;
+    machine.add({.name = u"Test"_s, .type = type, .start = 2});
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(backup(), written ? header + entry("Test", "2") : header);
+}
+
+void TestStartModeBackup::excludedServicesAreNeverInTheFile_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name :
+         {"DPS", "DcomLaunch", "RpcSs", "SamSs", "TrkWks", "WdiServiceHost", "WdiSystemHost", "gpsvc", "wscsvc"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TestStartModeBackup::excludedServicesAreNeverInTheFile()
+{
+    QFETCH(const QString, name);
+    TestMachine machine;
+    machine.add({.name = name, .type = 32, .start = 2});
+    machine.add({.name = u"Other"_s, .type = 32, .start = 3});
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(backup(), header + entry("Other", "3"));
+}
+
+void TestStartModeBackup::anExclusionIsMeantInItsExactCase()
+{
+    TestMachine machine;
+    machine.add({.name = u"dcomlaunch"_s, .type = 32, .start = 2});
+    machine.add({.name = u"GPSVC"_s, .type = 32, .start = 2});
+    machine.add({.name = u"TrkWks2"_s, .type = 32, .start = 2});
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(backup(), header + entry("GPSVC", "2") + entry("TrkWks2", "2") + entry("dcomlaunch", "2"));
+}
+
+void TestStartModeBackup::aTypeThatIsTextCountsAsItReads()
+{
+    TestMachine machine;
+    machine.write(servicesKey + u"\\Text"_s, u"Type"_s, u"32"_s);
+    machine.write(servicesKey + u"\\Text"_s, u"Start"_s, 3);
+    machine.write(servicesKey + u"\\Hexadecimal"_s, u"Type"_s, u"0x20"_s);
+    machine.write(servicesKey + u"\\Hexadecimal"_s, u"Start"_s, 3);
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(backup(), header + entry("Text", "3"));
+}
+
+void TestStartModeBackup::aServiceWithoutTypeIsLeftOut()
+{
+    TestMachine machine;
+    machine.write(servicesKey + u"\\Odd"_s, u"Start"_s, 3);
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(backup(), header);
+}
+
+void TestStartModeBackup::startValueIsWrittenAsItReads_data()
+{
+    QTest::addColumn<QVariant>("start");
+    QTest::addColumn<QByteArray>("text");
+    for (int start = 0; start <= 4; ++start)
+        QTest::addRow("%d", start) << QVariant(start) << QByteArray::number(start);
+    QTest::newRow("none") << QVariant() << QByteArray();
+    QTest::newRow("two digits") << QVariant(12) << "12"_ba;
+    QTest::newRow("text") << QVariant(u"auto"_s) << "auto"_ba;
+}
+
+void TestStartModeBackup::startValueIsWrittenAsItReads()
+{
+    QFETCH(const QVariant, start);
+    QFETCH(const QByteArray, text);
+    TestMachine machine;
+    machine.write(servicesKey + u"\\Test"_s, u"Type"_s, 32);
+    if (start.isValid())
+        machine.write(servicesKey + u"\\Test"_s, u"Start"_s, start);
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(backup(), header + entry("Test", text));
+}
+
+void TestStartModeBackup::namesAreWrittenAsTheyAre_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("blanks") << u"My own service"_s;
+    QTest::newRow("quotes") << u"My \"own\" service"_s;
+    QTest::newRow("colon") << u"Vendor: Updater"_s;
+    QTest::newRow("brackets") << u"Updater [x64]"_s;
+    QTest::newRow("other letters") << u"Überwachung 服务"_s;
+}
+
+void TestStartModeBackup::namesAreWrittenAsTheyAre()
+{
+    QFETCH(const QString, name);
+    TestMachine machine;
+    machine.add({.name = name, .type = 32, .start = 2});
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(backup(), header + entry(name.toUtf8(), "2"));
+}
+
+void TestStartModeBackup::aFileThatIsThereStaysAsItIs()
+{
+    TestMachine machine;
+    machine.add({.name = u"Test"_s});
+    QVERIFY(QDir().mkpath(machine.platform().programFolder() + u"/backup_svc"_s));
+    QFile file(startModeBackupFile());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("from an earlier program");
+    file.close();
+    QCOMPARE(WriteStartModeBackup(), -1);
+    QCOMPARE(backup(), "from an earlier program"_ba);
+}
+
+void TestStartModeBackup::anEmptyFileThatIsThereStaysToo()
+{
+    const TestMachine machine;
+    QVERIFY(QDir().mkpath(machine.platform().programFolder() + u"/backup_svc"_s));
+    QFile file(startModeBackupFile());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    QCOMPARE(WriteStartModeBackup(), -1);
+    QCOMPARE(file.size(), 0);
+}
+
+void TestStartModeBackup::aSecondListingLeavesBytesAndTimeUntouched()
+{
+    TestMachine machine;
+    machine.add({.name = u"Test"_s, .type = 32, .start = 2});
+    WorkThread worker;
+    worker.SvcMakeList();
+    const QByteArray bytes = backup();
+    QCOMPARE(bytes, header + entry("Test", "2"));
+    const QDateTime longAgo(QDate(2020, 1, 2), QTime(3, 4, 5));
+    QFile file(startModeBackupFile());
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(longAgo, QFileDevice::FileModificationTime));
+    file.close();
+
+    machine.add({.name = u"Test"_s, .type = 32, .start = 4});
+    worker.SvcMakeList();
+    QCOMPARE(worker.services.at(0).start, u"4"_s);
+    QCOMPARE(backup(), bytes);
+    QCOMPARE(QFileInfo(startModeBackupFile()).lastModified(), longAgo);
+}
+
+void TestStartModeBackup::aFileThatWasDeletedIsWrittenAnewWithTheStateOfThen()
+{
+    TestMachine machine;
+    machine.add({.name = u"Test"_s, .type = 32, .start = 2});
+    QCOMPARE(WriteStartModeBackup(), 0);
+    machine.add({.name = u"Test"_s, .type = 32, .start = 4});
+    QVERIFY(QFile::remove(startModeBackupFile()));
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(backup(), header + entry("Test", "4"));
+}
+
+void TestStartModeBackup::anUnwritableProgramFolderGivesNoFileAndNoMessage()
+{
+    // The administrator may write everywhere: a plain file where the folder must be is what nobody can write into.
+    TestMachine machine;
+    machine.logErrors();
+    machine.add({.name = u"Test"_s});
+    QFile inTheWay(machine.platform().programFolder() + u"/backup_svc"_s);
+    QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+    inTheWay.close();
+    QCOMPARE(WriteStartModeBackup(), -1);
+    QVERIFY(!QFile::exists(startModeBackupFile()));
+    QCOMPARE(inTheWay.size(), 0);
+    QCOMPARE(machine.errorLog(), QStringList());
+}
+
+void TestStartModeBackup::theListingGoesOnWithoutBackup()
+{
+    TestMachine machine;
+    machine.logErrors();
+    machine.add({.name = u"Test"_s, .running = true});
+    QFile inTheWay(machine.platform().programFolder() + u"/backup_svc"_s);
+    QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+    inTheWay.close();
+    WorkThread worker;
+    JobLines lines(worker);
+    QVERIFY(runJob(worker, 0));
+    QCOMPARE(lines.all(), QStringList{u"page: WorkThread::SvcMakeList"_s});
+    QCOMPARE(worker.services.size(), 1);
+    QVERIFY(worker.services.at(0).running);
+    QCOMPARE(machine.errorLog(), QStringList());
+}
+
+void TestStartModeBackup::theListingWritesItEvenWhereServicesCantBeAsked()
+{
+    TestMachine machine;
+    machine.add({.name = u"Test"_s, .type = 32, .start = 2});
+    machine.machine().setFault(u"sc"_s, {.missing = true});
+    WorkThread worker;
+    worker.SvcMakeList();
+    QCOMPARE(backup(), header + entry("Test", "2"));
+}
+
+void TestStartModeBackup::exceptionsAreCaught()
+{
+    {
+        const PlatformInForce<ThrowingRegistry> platform;
+        QCOMPARE(WriteStartModeBackup(), 1);
+    }
+    {
+        const PlatformInForce<ThrowingFile> platform;
+        QCOMPARE(WriteStartModeBackup(), 2);
+    }
+}
+
+void TestStartModeBackup::theWindowsRegistryEditorWouldReadItBack()
+{
+    TestMachine machine;
+    machine.add({.name = u"Appinfo"_s, .type = 32, .start = 2});
+    machine.add({.name = u"My own service"_s, .type = 32, .start = 4});
+    machine.write(servicesKey + u"\\NoStart"_s, u"Type"_s, 32);
+    QCOMPARE(WriteStartModeBackup(), 0);
+
+    QMap<QString, quint32> starts;
+    try {
+        const QByteArray bytes = backup();
+        for (const RegistryEdit &edit : parseRegistryScript(bytes, u"StartMode.reg"_s)) {
+            if (edit.kind != RegistryEdit::Kind::SetValue)
+                continue;
+            QCOMPARE(edit.value.name, u"Start"_s);
+            QCOMPARE(edit.value.type, RegistryType::DWord);
+            QCOMPARE(edit.value.data.size(), 4);
+            starts.insert(edit.key, quint32(edit.value.data.at(0)));
+        }
+    } catch (const MachineError &error) {
+        QFAIL(qPrintable(error.message));
+    }
+    const QMap<QString, quint32> expected{
+        {servicesKey + u"\\Appinfo"_s, 2}, {servicesKey + u"\\My own service"_s, 4}, {servicesKey + u"\\NoStart"_s, 0}};
+    QCOMPARE(starts, expected);
+
+    // Carried out, it brings the start modes of before back.
+    machine.add({.name = u"Appinfo"_s, .type = 32, .start = 4});
+    applyRegistryScript(machine.machine().database(), machine.machine().registry(),
+                        parseRegistryScript(backup(), u"StartMode.reg"_s));
+    QCOMPARE(machine.read(servicesKey + u"\\Appinfo"_s, u"Start"_s), QVariant(2));
+}
+
+QTEST_GUILESS_MAIN(TestStartModeBackup)
+#include "tst_startmodebackup.moc"
