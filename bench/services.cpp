@@ -21,9 +21,9 @@ void listServices(benchmark::State &state)
         worker.SvcMakeList();
     if (worker.services.size() != state.range(0))
         state.SkipWithError("the list is not complete");
-    state.counters["each"] = benchmark::Counter(static_cast<double>(state.range(0)),
-                                                benchmark::Counter::kIsIterationInvariantRate
-                                                    | benchmark::Counter::kInvert);
+    state.counters["each"] =
+        benchmark::Counter(static_cast<double>(state.range(0)),
+                           benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
 void fillServiceTable(benchmark::State &state)
@@ -39,13 +39,23 @@ void fillServiceTable(benchmark::State &state)
     }
     for (auto _ : state)
         window.onWorkThreadValueChanged(u"WorkThread::SvcMakeList"_s);
-    state.counters["each"] = benchmark::Counter(static_cast<double>(state.range(0)),
-                                                benchmark::Counter::kIsIterationInvariantRate
-                                                    | benchmark::Counter::kInvert);
+    state.counters["each"] =
+        benchmark::Counter(static_cast<double>(state.range(0)),
+                           benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
 } // namespace
 
-BENCHMARK(listServices)->Name("SvcMakeList")->Arg(300)->Arg(3000)->Arg(30000)->UseRealTime()->Unit(
-    benchmark::kMillisecond);
-BENCHMARK(fillServiceTable)->Name("fillServiceTable")->Arg(300)->Arg(3000)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(listServices)
+    ->Name("SvcMakeList")
+    ->Arg(300)
+    ->Arg(3000)
+    ->Arg(30000)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(fillServiceTable)
+    ->Name("fillServiceTable")
+    ->Arg(300)
+    ->Arg(3000)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);

@@ -41,5 +41,8 @@ void start(benchmark::State &state)
 
 } // namespace
 
-BENCHMARK(start)->Name("Start to the first page, against an empty window")->UseRealTime()->Iterations(10)->Unit(
-    benchmark::kMillisecond);
+BENCHMARK(start)
+    ->Name("Start to the first page, against an empty window")
+    ->UseRealTime()
+    ->Iterations(10)
+    ->Unit(benchmark::kMillisecond);

@@ -18,7 +18,9 @@ if(MSVC)
     target_compile_options(kestrune_options INTERFACE /W4 /WX /utf-8 /permissive-)
 else()
     target_compile_options(kestrune_options INTERFACE
-        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+        # The macros of Qt Test shorten numbers since Qt 6.8.
+        $<$<NOT:$<BOOL:$<TARGET_PROPERTY:KESTRUNE_TEST>>>:-Wconversion>)
 endif()
 
 if(KESTRUNE_SANITIZERS)

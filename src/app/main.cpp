@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program: on Windows it works on the real machine, elsewhere on a rehearsal machine.
+// The program: on Windows it works on the real machine, elsewhere, and as kestrune-rehearsal, on a rehearsal machine.
 
 #include "window/kestrune.h"
 
-#ifdef Q_OS_WIN
+#ifdef KESTRUNE_REAL_MACHINE
 #include "platform/windows/windowsplatform.h"
 #else
 #include "platform/simulated/simulatedplatform.h"
+#endif
+#ifndef Q_OS_WIN
 #include "standinfonts.h"
 #endif
 
@@ -17,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-#ifdef Q_OS_WIN
+#ifdef KESTRUNE_REAL_MACHINE
 
 bool choosePlatform()
 {
@@ -44,7 +46,9 @@ bool choosePlatform()
         qCritical("kestrune: %s", qUtf8Printable(error.message));
         return false;
     }
+#ifndef Q_OS_WIN
     useStandInFonts();
+#endif
     return true;
 }
 

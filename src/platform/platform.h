@@ -62,8 +62,9 @@ public:
     virtual std::unique_ptr<RegistryKey> openKey(const QString &path) const = 0;
 
     /**
-     * The file on this computer behind a Windows path, with "\" or "/" between its parts. On Windows the same text; on a
-     * rehearsal machine a path below its drive, found without regard to case. A path without a drive, and a bare drive
+     * The file on this computer behind a Windows path, with "\" or "/" between its parts. On Windows the same text; on
+     * a rehearsal machine a path below its drive, found without regard to case. A path without a drive, and a bare
+     * drive
      * ("C:"), mean the drive's root. A file that isn't there gives the path where it would be.
      */
     virtual QString hostPath(const QString &windowsPath) const = 0;
@@ -74,12 +75,13 @@ public:
 
     /**
      * Visits everything below a folder, given as a Windows path, as QDirIterator does on Windows with its default
-     * filters: hidden entries are left out and not entered, links are named but not followed, "." and ".." don't come. An
-     * unreadable or missing folder gives nothing. The walk ends where @p visit returns false.
+     * filters: hidden entries are left out and not entered, links are named but not followed, "." and ".." don't come.
+     * An unreadable or missing folder gives nothing. The walk ends where @p visit returns false.
      */
     virtual void walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const = 0;
 
-    /** The file to start for a program name, a path, or a path in double quotes; empty where there is no such program. */
+    /** The file to start for a program name, a path, or a path in double quotes; empty where there is no such program.
+     */
     virtual QString programFile(const QString &program) const = 0;
     /**
      * The 32-bit exit code of a process of this program that has ended by itself.
@@ -94,7 +96,8 @@ public:
 
     /** Reads a string of a DLL, given by its Windows path, without running code of the DLL. */
     virtual DllString dllString(const QString &windowsPath, uint id) const = 0;
-    /** Reads properties of all instances of a class in ROOT\CIMV2. A failure ends the query with what was read by then. */
+    /** Reads properties of all instances of a class in ROOT\CIMV2. A failure ends the query with what was read by then.
+     */
     virtual WmiAnswer queryWmi(const QString &className, const QStringList &properties) const = 0;
 
     /**

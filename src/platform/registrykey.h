@@ -13,8 +13,8 @@
  * - Look-ups ignore case; a name keeps the case it was first written with.
  * - In a name "/" separates levels, and a backslash is an ordinary character, which the registry stores as "/".
  * - The last component "Default" or "." means the unnamed value; listings show it as ".".
- * - The key is made at the first use if it is missing. Without the right to write, and on a path that doesn't begin with
- *   a hive's name, reads give their defaults and writes and removals do nothing, silently.
+ * - The key is made at the first use if it is missing. Without the right to write, and on a path that doesn't begin
+ * with a hive's name, reads give their defaults and writes and removals do nothing, silently.
  */
 class RegistryKey
 {
@@ -29,7 +29,8 @@ public:
      * value gives @p fallback, the empty name an invalid variant.
      */
     virtual QVariant value(const QString &name, const QVariant &fallback = {}) const = 0;
-    /** Writes int and uint as REG_DWORD, 64-bit integers as REG_QWORD, lists of texts as REG_MULTI_SZ, all else REG_SZ. */
+    /** Writes int and uint as REG_DWORD, 64-bit integers as REG_QWORD, lists of texts as REG_MULTI_SZ, all else REG_SZ.
+     */
     virtual void setValue(const QString &name, const QVariant &value) = 0;
     /** Removes the value of that name and the whole subkey of that name; an absent name is silent. */
     virtual void remove(const QString &name) = 0;

@@ -19,29 +19,6 @@ namespace {
 
 constexpr int exitMachineUnreadable = 3;
 
-struct Tool
-{
-    QLatin1StringView name;
-    ToolResult (*run)(ToolHost &host, const QStringList &arguments);
-};
-
-// clang-format off
-constexpr Tool tools[] = {
-    {"sc"_L1,  runSc},
-    {"cmd"_L1, runCmd},
-};
-// clang-format on
-
-ToolResult runTool(const QString &name, Machine &machine, const QStringList &arguments)
-{
-    MachineToolHost host(machine, qEnvironmentVariable("KESTRUNE_ELEVATED") != "0"_L1);
-    for (const Tool &tool : tools) {
-        if (name == tool.name)
-            return tool.run(host, arguments);
-    }
-    return {exitNoSuchProgram, QByteArray()};
-}
-
 void print(const QByteArray &bytes)
 {
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
@@ -90,11 +67,10 @@ int runOnMachine(const QString &program, const QStringList &arguments)
     // A number that an earlier process had must not answer for this one.
     machine->dropExitCode(self);
 
-    QString name = QFileInfo(program).fileName().toLower();
-    if (name.endsWith(".exe"_L1))
-        name.chop(4);
+    const QString name = toolName(program);
     const std::optional<ToolFault> fault = machine->fault(name, arguments);
-    const ToolResult result = fault ? runFault(*fault) : runTool(name, *machine, arguments);
+    MachineToolHost host(*machine, qEnvironmentVariable("KESTRUNE_ELEVATED") != "0"_L1);
+    const ToolResult result = fault ? runFault(*fault) : runTool(name, host, arguments);
 
     // All is written down before anyone can know the end of the output.
     machine->logCommand(name, arguments, result.exitCode);

@@ -28,28 +28,36 @@ constexpr KeepFeature keepFeatures[] = {
      QT_TRANSLATE_NOOP("Kestrune", "If you don't have any printers, you can uncheck this"),
      &WorkThread::keepPrinter},
     {QT_TRANSLATE_NOOP("Kestrune", "Bluetooth audio"),
-     QT_TRANSLATE_NOOP("Kestrune", "If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this"),
+     QT_TRANSLATE_NOOP("Kestrune", "If you do not have a headset or audio equipment connected via Bluetooth, you "
+                                   "can uncheck this"),
      &WorkThread::keepBluetoothAudio},
     {QT_TRANSLATE_NOOP("Kestrune", "Files sharing"),
-     QT_TRANSLATE_NOOP("Kestrune", "Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)\r\n(by default it is not used but activated!)"),
+     QT_TRANSLATE_NOOP("Kestrune", "Windows sharing functionality on a local network (SMB protocol) (eg: connect "
+                                   "hard drives, printers on a local network)\r\n(by default it is not used but "
+                                   "activated!)"),
      &WorkThread::keepFilesSharing},
     {QT_TRANSLATE_NOOP("Kestrune", "Xbox App"),
      QT_TRANSLATE_NOOP("Kestrune", "Application to play PC games if you have a Gamepass account (paid)"),
      &WorkThread::keepXboxApp},
     {QT_TRANSLATE_NOOP("Kestrune", "UPnP network services"),
-     QT_TRANSLATE_NOOP("Kestrune", "Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)\r\n(by default it is not used but activated!)"),
+     QT_TRANSLATE_NOOP("Kestrune", "Other protocol dedicated to local network (eg: some video players use it to "
+                                   "connect to network hard drives)\r\n(by default it is not used but activated!)"),
      &WorkThread::keepUpnp},
     {QT_TRANSLATE_NOOP("Kestrune", "Proxy and VPN"),
-     QT_TRANSLATE_NOOP("Kestrune", "Proxy or VPN functionality to improve the security of your network traffic\r\n(by default it is not used but activated!)"),
+     QT_TRANSLATE_NOOP("Kestrune", "Proxy or VPN functionality to improve the security of your network "
+                                   "traffic\r\n(by default it is not used but activated!)"),
      &WorkThread::keepProxyVpn},
     {QT_TRANSLATE_NOOP("Kestrune", "NFC"),
-     QT_TRANSLATE_NOOP("Kestrune", "Quick setup of some bluetooth headsets\r\n(by default it is not used but activated!)"),
+     QT_TRANSLATE_NOOP("Kestrune", "Quick setup of some bluetooth headsets\r\n(by default it is not used but "
+                                   "activated!)"),
      &WorkThread::keepNfc},
     {QT_TRANSLATE_NOOP("Kestrune", "Xbox game bar"),
-     QT_TRANSLATE_NOOP("Kestrune", "XBOX Game Bar that appears at the top of the screen, above a game. If you don't use it, uncheck this box"),
+     QT_TRANSLATE_NOOP("Kestrune", "XBOX Game Bar that appears at the top of the screen, above a game. If you "
+                                   "don't use it, uncheck this box"),
      &WorkThread::keepXboxGameBar},
     {QT_TRANSLATE_NOOP("Kestrune", "Microsoft Codecs extensions"),
-     QT_TRANSLATE_NOOP("Kestrune", "Microsoft codecs for video encoding/decoding. If you are not using Windows internal features for streaming,encoding or playing videos, uncheck this box"),
+     QT_TRANSLATE_NOOP("Kestrune", "Microsoft codecs for video encoding/decoding. If you are not using Windows "
+                                   "internal features for streaming,encoding or playing videos, uncheck this box"),
      &WorkThread::keepCodecs},
 };
 // clang-format on

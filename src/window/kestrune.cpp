@@ -28,7 +28,9 @@ Kestrune::Kestrune()
     // From here on a page may open a box, whose event loop may bring anything: all that is needed is set by now.
     const auto settings = openSettings();
     showPage(settings->value(u"lastPage"_s, 0).toInt());
-    settings->remove(u"lastPage"_s);
+    // The page may have moved the program to an elevated instance, which the value is for then.
+    if (!left_)
+        settings->remove(u"lastPage"_s);
 }
 
 Kestrune::~Kestrune()

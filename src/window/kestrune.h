@@ -108,9 +108,9 @@ private:
     WorkThread *workThread = nullptr;
     WorkThread *workThreadWinSxs = nullptr;
     WorkThread *workThreadMonitor = nullptr;
-    QPalette startPalette; ///< the system's own palette
+    QPalette startPalette;    ///< the system's own palette
     QColor previousLinkColor; ///< of the theme before the present one
-    int currentTheme = 0; ///< a Theme
+    int currentTheme = 0;     ///< a Theme
     int svcDisabledCount = 0;
     int svcStartedCount = 0;
     int svcStoppedCount = 0;

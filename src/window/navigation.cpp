@@ -102,8 +102,9 @@ void Kestrune::styleMenuButton(const QString &objectName)
     for (const Page &page : pages) {
         if (page.menuButton != objectName)
             continue;
-        ui.wgtLeftMenu->findChild<QPushButton *>(objectName)->setStyleSheet(
-            menuButtonStyle(imageFile(page.image, currentTheme == DarkTheme), u"text-align: center; "_s, QPalette::Text));
+        ui.wgtLeftMenu->findChild<QPushButton *>(objectName)
+            ->setStyleSheet(menuButtonStyle(imageFile(page.image, currentTheme == DarkTheme), u"text-align: center; "_s,
+                                            QPalette::Text));
         return;
     }
 }

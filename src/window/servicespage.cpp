@@ -70,9 +70,9 @@ void Kestrune::onServiceJobLine(QString &line)
     }
     if (line.startsWith("pgr:"_L1)) {
         if (line.endsWith("finished"_L1)) {
-            ui.lblStatus->setText((disabling ? tr("Disable checked services finished")
-                                             : tr("Enable checked services finished"))
-                                  + u"  "_s);
+            ui.lblStatus->setText(
+                (disabling ? tr("Disable checked services finished") : tr("Enable checked services finished"))
+                + u"  "_s);
             waitForLastInstructions();
             refreshPage();
         }
@@ -97,9 +97,8 @@ void Kestrune::fillServiceTable()
     }
     const auto count = [](const QString &label, qsizetype number) { return label + u' ' + QString::number(number); };
     ui.lblStatus->setText(count(tr("Services:"), workThread->services.size()) + u"  |  "_s
-                          + count(tr("started:"), svcStartedCount) + u"  |  "_s
-                          + count(tr("stopped:"), svcStoppedCount) + u"  |  "_s
-                          + count(tr("disabled:"), svcDisabledCount) + u"  "_s);
+                          + count(tr("started:"), svcStartedCount) + u"  |  "_s + count(tr("stopped:"), svcStoppedCount)
+                          + u"  |  "_s + count(tr("disabled:"), svcDisabledCount) + u"  "_s);
 }
 
 void Kestrune::addServiceRow(const ServiceRow &row, int greyed)
@@ -156,9 +155,8 @@ void Kestrune::on_btnSvcAssist_clicked()
     addServicesOfFeaturesGivenUp(*workThread);
     int count = 0;
     for (QTableWidgetItem *item : firstCells(ui.tblSvc)) {
-        const bool wanted =
-            workThread->nonVitalServices.contains(nameFromToolTip(item->toolTip()), Qt::CaseInsensitive)
-            && ui.tblSvc->item(item->row(), 1)->toolTip() != "4"_L1;
+        const bool wanted = workThread->nonVitalServices.contains(nameFromToolTip(item->toolTip()), Qt::CaseInsensitive)
+                            && ui.tblSvc->item(item->row(), 1)->toolTip() != "4"_L1;
         item->setCheckState(wanted ? Qt::Checked : Qt::Unchecked);
         count += wanted ? 1 : 0;
     }

@@ -53,7 +53,8 @@ void Kestrune::applyPalette()
 
 bool Kestrune::isViewButton(const QPushButton *button) const
 {
-    return button == ui.btnSvcViewDisabled || button == ui.btnPackagesViewDisabled || button == ui.btnAutorunViewDisabled;
+    return button == ui.btnSvcViewDisabled || button == ui.btnPackagesViewDisabled
+           || button == ui.btnAutorunViewDisabled;
 }
 
 void Kestrune::styleButtons(const QString &viewStyle, const QString &actionStyle, bool flat)
@@ -84,7 +85,8 @@ void Kestrune::applyLightTheme()
     const QPalette palette = lightPalette();
     QApplication::setPalette(palette);
     const QColor link = palette.color(QPalette::Link);
-    const ButtonColors buttons{palette.color(QPalette::Button), QColor(220, 220, 220), palette.color(QPalette::Text), link};
+    const ButtonColors buttons{palette.color(QPalette::Button), QColor(220, 220, 220), palette.color(QPalette::Text),
+                               link};
     styleButtons(viewButtonStyle(buttons), actionButtonStyle(buttons), true);
     styleAll<QComboBox>(lightComboBoxStyle(platform().resourceFolder(), link));
     styleAll<QCheckBox>(lightCheckBoxStyle(workThread->winName.contains("Windows 10"_L1, Qt::CaseInsensitive), link));
@@ -132,7 +134,8 @@ void Kestrune::colorTexts()
         browser->setStyleSheet(u"background-color: "_s + window);
     for (QLabel *heading : headings)
         heading->setStyleSheet(u"color: "_s + link);
-    // The form's texts carry black where they follow the theme; after a change of theme they carry the last one's colour.
+    // The form's texts carry black where they follow the theme; after a change of theme they carry the last one's
+    // colour.
     for (QTextBrowser *browser : browsers) {
         QString html = browser->toHtml();
         html.replace(u"color:#000000"_s, u"color:"_s + link);

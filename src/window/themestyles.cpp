@@ -43,8 +43,7 @@ QString lightComboBoxStyle(const QString &resourceFolder, const QColor &link)
 QString lightCheckBoxStyle(bool onWindows10, const QColor &link)
 {
     const QString border = QColor(200, 200, 200).name();
-    QString style =
-        u"QCheckBox::indicator:unchecked { border-radius: 4px; border: 1px solid "_s + border + u"; }"_s;
+    QString style = u"QCheckBox::indicator:unchecked { border-radius: 4px; border: 1px solid "_s + border + u"; }"_s;
     // Windows 11 draws its own checked boxes well.
     if (onWindows10) {
         style += u"QCheckBox::indicator:checked { border-radius: 4px; border: 1px solid "_s + border
@@ -61,10 +60,11 @@ QString tableSelectionStyle(const QString &background)
 QString menuStyle(const MenuColors &colors)
 {
     const QString hover = colors.hover.name();
-    return u"QMenu { background-color: "_s + colors.background.name()
-           + u"; border-radius: 6px; border: 1px solid "_s + colors.border.name()
-           + u"; }QMenu::item { padding: 6px; background: transparent; }QMenu:item:hover  { background-color: "_s + hover
-           + u"; border-radius: 6px; }QMenu:item:selected  { background-color: "_s + hover + u"; border-radius: 6px; }"_s;
+    return u"QMenu { background-color: "_s + colors.background.name() + u"; border-radius: 6px; border: 1px solid "_s
+           + colors.border.name()
+           + u"; }QMenu::item { padding: 6px; background: transparent; }QMenu:item:hover  { background-color: "_s
+           + hover + u"; border-radius: 6px; }QMenu:item:selected  { background-color: "_s + hover
+           + u"; border-radius: 6px; }"_s;
 }
 
 QString popupMenuStyle(PopupMenu menu)

@@ -56,12 +56,16 @@ void Command::waitInSlices(Wait wait)
 
 void Command::waitForFinished()
 {
-    waitInSlices([this] { return process_.waitForFinished(slice); });
+    waitInSlices([this] {
+        return process_.waitForFinished(slice);
+    });
 }
 
 void Command::waitForReadyRead()
 {
-    waitInSlices([this] { return process_.bytesAvailable() > 0 || process_.waitForReadyRead(slice); });
+    waitInSlices([this] {
+        return process_.bytesAvailable() > 0 || process_.waitForReadyRead(slice);
+    });
 }
 
 QByteArray Command::readAllStandardOutput()

@@ -10,8 +10,8 @@
 
 /**
  * A stock tool that is started and waited for. It gives the answers that QProcess gives on Windows, on every system:
- * a missing program is known right after start() and leaves the exit code 0, exit codes have 32 bits, a path may stand in
- * double quotes, and a program that still runs reads 0 until close() ends it.
+ * a missing program is known right after start() and leaves the exit code 0, exit codes have 32 bits, a path may stand
+ * in double quotes, and a program that still runs reads 0 until close() ends it.
  *
  * May be used for several commands, one after another; start() ends one that still runs.
  */
@@ -55,7 +55,7 @@ private:
 };
 
 /**
- * Starts a tool whose output a routine is going to read. False where it can't be started; the reason is in the log then,
- * and the command is closed.
+ * Starts a tool whose output a routine is going to read. False where it can't be started; the reason is in the log
+ * then, and the command is closed.
  */
 bool startListing(Command &command, const QString &routine, const QString &tool, const QStringList &arguments);

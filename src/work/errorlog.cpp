@@ -8,12 +8,17 @@
 #include <QDateTime>
 #include <QFile>
 
+#include <mutex>
+
 using namespace Qt::StringLiterals;
 
 void LogError(const QString &message)
 {
     if (openSettings()->value(u"LogError"_s, 0).toInt() != 1)
         return;
+    // On Windows appending is finding the end and writing there, and two workers may find the same end.
+    static std::mutex oneAtATime;
+    const std::lock_guard lock(oneAtATime);
     QFile file(platform().programFolder() + u"/log.txt"_s);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text))
         return;

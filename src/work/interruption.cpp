@@ -3,13 +3,16 @@
 #include "interruption.h"
 
 #include "platform/platform.h"
+#include "workthread.h"
 
 #include <QThread>
 
 void endIfInterrupted()
 {
-    if (QThread::currentThread()->isInterruptionRequested())
-        throw JobInterrupted{};
+    if (!QThread::currentThread()->isInterruptionRequested())
+        return;
+    WorkThread::refuseTermination();
+    throw JobInterrupted{};
 }
 
 void pauseFor(int milliseconds)

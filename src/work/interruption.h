@@ -10,8 +10,8 @@
 struct WalkEntry;
 
 /**
- * Thrown on a worker thread that is asked to end, and caught by WorkThread::run() alone. It is no std::exception, so that
- * routines that log exceptions and go on don't stop it.
+ * Thrown on a worker thread that is asked to end, and caught by WorkThread::run() alone. It is no std::exception, so
+ * that routines that log exceptions and go on don't stop it.
  */
 struct JobInterrupted
 {

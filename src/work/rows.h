@@ -19,8 +19,8 @@ struct TaskRow
 {
     QString path; ///< without its leading backslash
     QString description;
-    QString name;  ///< the path's part behind its last backslash
-    QString extra; ///< always empty
+    QString name;     ///< the path's part behind its last backslash
+    QString extra;    ///< always empty
     int disabled = 0; ///< listed: 1 is switched off; to change: 1 disables, 0 enables
 };
 

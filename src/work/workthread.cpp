@@ -23,13 +23,14 @@ void WorkThread::startJob(int number)
 bool WorkThread::endJob()
 {
     constexpr int patience = 30;
+    constexpr int lastPatience = 200; // for one that is on its way out
 
     ++run_;
     requestInterruption();
     if (wait(patience))
         return true;
     terminate();
-    return wait(patience);
+    return wait(lastPatience);
 }
 
 void WorkThread::run()

@@ -51,11 +51,13 @@ public:
      * @return false when the thread still runs: it must not be deleted then
      */
     bool endJob();
+    /** For a job that has begun to end in good order: being ended by force on its way out would end the process. */
+    static void refuseTermination() { setTerminationEnabled(false); }
 
     int job = JobSvcMakeList;
 
-    QList<ServiceRow> services;    ///< result of SvcMakeList
-    QStringList servicesToChange;  ///< input of jobs 9, 10 and 14
+    QList<ServiceRow> services;   ///< result of SvcMakeList
+    QStringList servicesToChange; ///< input of jobs 9, 10 and 14
 
     // Check states of the Keep list: 2 keeps a feature, 0 gives it up.
     std::atomic<int> keepPrinter = 2;

@@ -77,7 +77,6 @@ QStringList scRuns(const TestMachine &machine)
     return runs;
 }
 
-
 } // namespace
 
 class TestStory : public QObject

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The platform that the contract tests ask: here a fresh rehearsal machine.
+// The platform that the contract tests ask: here a fresh rehearsal machine, or the Windows that the test runs on.
 
 #pragma once
+
+#ifdef KESTRUNE_REAL_MACHINE
+#include "windows/nativecontract.h"
+#else
 
 #include "platform/simulated/simulatedplatform.h"
 
@@ -45,3 +49,5 @@ private:
     QTemporaryDir folder_;
     SimulatedPlatform *platform_ = nullptr;
 };
+
+#endif

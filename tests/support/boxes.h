@@ -25,8 +25,8 @@ struct ShownBox
 };
 
 /**
- * Clicks the answers that it was given into the boxes as they come. A box that comes without an answer is closed and fails
- * the test, and so does an answer that no box has asked for by the time the object goes.
+ * Clicks the answers that it was given into the boxes as they come. A box that comes without an answer is closed and
+ * fails the test, and so does an answer that no box has asked for by the time the object goes.
  */
 class Boxes : public QObject
 {

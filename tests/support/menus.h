@@ -17,8 +17,8 @@ struct ShownMenu
 };
 
 /**
- * Chooses, in the menus that open, the actions it was told, one a menu. A menu that comes untold is closed and fails the
- * test, and so does a choice that was never offered.
+ * Chooses, in the menus that open, the actions it was told, one a menu. A menu that comes untold is closed and fails
+ * the test, and so does a choice that was never offered.
  */
 class Menus : public QObject
 {

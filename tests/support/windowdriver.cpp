@@ -59,7 +59,9 @@ bool WindowDriver::openServices() const
 
 bool WindowDriver::waitForList() const
 {
-    const auto hasCome = [this] { return listings_ > awaited_ && !worker().isRunning(); };
+    const auto hasCome = [this] {
+        return listings_ > awaited_ && !worker().isRunning();
+    };
     const bool came = QTest::qWaitFor(hasCome, patience);
     awaited_ = listings_;
     return came && status().startsWith("Services:"_L1);

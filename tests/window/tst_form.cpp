@@ -945,8 +945,8 @@ constexpr SpanRow spanRows[] = {
     {"txtSsd8",      "read more here", nullptr, 0, false, true, true,
      "https://learn.microsoft.com/windows-hardware/manufacture/desktop/manage-the-component-store"},
     {"txtGaming011", "read more here", nullptr, 0, false, true, true,
-     "https://support.microsoft.com/windows/options-to-optimize-gaming-performance-in-windows-11-"
-     "a255f612-2949-4373-a566-ff6f3f474613"},
+     "https://learn.microsoft.com/windows/security/hardware-security/"
+     "enable-virtualization-based-protection-of-code-integrity"},
     {"txtGaming11",  "read more here", nullptr, 0, false, true, true,
      "https://learn.microsoft.com/windows/win32/procthread/priority-boosts"},
 

@@ -30,25 +30,32 @@ const QList<Feature> features{
      u"If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this"_s,
      &WorkThread::keepBluetoothAudio},
     {u"Files sharing"_s,
-     u"Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)\r\n(by default it is not used but activated!)"_s,
+     u"Windows sharing functionality on a local network (SMB protocol) "
+       "(eg: connect hard drives, printers on a local network)\r\n"
+       "(by default it is not used but activated!)"_s,
      &WorkThread::keepFilesSharing},
     {u"Xbox App"_s,
      u"Application to play PC games if you have a Gamepass account (paid)"_s,
      &WorkThread::keepXboxApp},
     {u"UPnP network services"_s,
-     u"Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)\r\n(by default it is not used but activated!)"_s,
+     u"Other protocol dedicated to local network "
+       "(eg: some video players use it to connect to network hard drives)\r\n"
+       "(by default it is not used but activated!)"_s,
      &WorkThread::keepUpnp},
     {u"Proxy and VPN"_s,
-     u"Proxy or VPN functionality to improve the security of your network traffic\r\n(by default it is not used but activated!)"_s,
+     u"Proxy or VPN functionality to improve the security of your network traffic\r\n"
+       "(by default it is not used but activated!)"_s,
      &WorkThread::keepProxyVpn},
     {u"NFC"_s,
      u"Quick setup of some bluetooth headsets\r\n(by default it is not used but activated!)"_s,
      &WorkThread::keepNfc},
     {u"Xbox game bar"_s,
-     u"XBOX Game Bar that appears at the top of the screen, above a game. If you don't use it, uncheck this box"_s,
+     u"XBOX Game Bar that appears at the top of the screen, above a game. "
+       "If you don't use it, uncheck this box"_s,
      &WorkThread::keepXboxGameBar},
     {u"Microsoft Codecs extensions"_s,
-     u"Microsoft codecs for video encoding/decoding. If you are not using Windows internal features for streaming,encoding or playing videos, uncheck this box"_s,
+     u"Microsoft codecs for video encoding/decoding. "
+       "If you are not using Windows internal features for streaming,encoding or playing videos, uncheck this box"_s,
      &WorkThread::keepCodecs},
 };
 // clang-format on

@@ -21,10 +21,10 @@ struct MenuButton
 };
 
 const QList<MenuButton> menuButtons{
-    {u"btnMenuHome"_s, u"optimizer"_s, 0},    {u"btnMenuService"_s, u"services"_s, 1},
-    {u"btnMenuTask"_s, u"tasks"_s, 2},        {u"btnMenuPackage"_s, u"programs"_s, -1},
-    {u"btnMenuTweak"_s, u"features"_s, 5},    {u"btnMenuInfo"_s, u"info"_s, 6},
-    {u"btnMenuOptions"_s, u"options"_s, 7},   {u"btnMenuAbout"_s, u"about"_s, 8},
+    {u"btnMenuHome"_s, u"optimizer"_s, 0},  {u"btnMenuService"_s, u"services"_s, 1},
+    {u"btnMenuTask"_s, u"tasks"_s, 2},      {u"btnMenuPackage"_s, u"programs"_s, -1},
+    {u"btnMenuTweak"_s, u"features"_s, 5},  {u"btnMenuInfo"_s, u"info"_s, 6},
+    {u"btnMenuOptions"_s, u"options"_s, 7}, {u"btnMenuAbout"_s, u"about"_s, 8},
 };
 
 const QStringList tabs{u"tabAutomatizer"_s, u"tabService"_s, u"tabTask"_s,    u"tabAutorun"_s, u"tabPackage"_s,
@@ -46,7 +46,8 @@ QString color(QPalette::ColorRole role)
 QString idleStyle(const QString &image)
 {
     return u"QPushButton { background-image:url("_s + QCoreApplication::applicationDirPath() + u"/img/"_s + image
-           + u"); background-repeat: no-repeat; background-position: left; border-radius: 6px; text-align: center; margin-left: 12px; color: "_s
+           + u"); background-repeat: no-repeat; background-position: left; border-radius: 6px; text-align: center; "
+             "margin-left: 12px; color: "_s
            + color(QPalette::Text) + u"; }QPushButton:hover { background-color: "_s + color(QPalette::Mid)
            + u"; color: "_s + color(QPalette::Link) + u";}QPushButton:pressed { color: "_s + color(QPalette::Link)
            + u"; }QPushButton:flat { border: none; }"_s;
@@ -55,7 +56,8 @@ QString idleStyle(const QString &image)
 QString activeStyle(const QString &image)
 {
     return u"QPushButton { background-image:url("_s + QCoreApplication::applicationDirPath() + u"/img/"_s + image
-           + u"); background-repeat: no-repeat; background-position: left; border-radius: 6px; margin-left: 12px; color: "_s
+           + u"); background-repeat: no-repeat; background-position: left; border-radius: 6px; "
+             "margin-left: 12px; color: "_s
            + color(QPalette::Link) + u"; }QPushButton:hover { background-color: "_s + color(QPalette::Mid)
            + u"; color: "_s + color(QPalette::Link) + u";}QPushButton:pressed { color: "_s + color(QPalette::Link)
            + u"; }QPushButton:flat { border: none; }"_s;
@@ -96,7 +98,12 @@ bool keepBusy(const WindowDriver &driver)
 {
     QSignalSpy lines(&driver.worker(), &WorkThread::valueChanged);
     driver.worker().startJob(JobWinSxsSize);
-    return QTest::qWaitFor([&lines] { return lines.size() == 3; }, patience) && driver.worker().isRunning();
+    return QTest::qWaitFor(
+               [&lines] {
+                   return lines.size() == 3;
+               },
+               patience)
+           && driver.worker().isRunning();
 }
 
 } // namespace
@@ -472,7 +479,7 @@ void TestNavigation::programsMenuIsStyledByThePaletteSetting()
                 "QMenu::item { padding: 6px; background: transparent; }"
                 "QMenu:item:hover  { background-color: %3; border-radius: 6px; }"
                 "QMenu:item:selected  { background-color: %3; border-radius: 6px; }"_s.arg(colors.at(0), colors.at(1),
-                                                                                            colors.at(2));
+                                                                                           colors.at(2));
     }
     QCOMPARE(menus.shown().at(0).styleSheet, style);
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The Services page at work: disabling, the assistant, enabling, restoring, and start modes set by hand. Stock tools are
-// real processes on a machine of the test.
+// The Services page at work: disabling, the assistant, enabling, restoring, and start modes set by hand. Stock tools
+// are real processes on a machine of the test.
 
 #include "support/boxes.h"
 #include "support/menus.h"
@@ -733,7 +733,9 @@ void TestServiceChange::restoreWithBackupAsks()
     QCOMPARE(boxes.shown().size(), 1);
     const ShownBox box = boxes.shown().at(0);
     QCOMPARE(box.text, u"Backup file exists"_s);
-    QCOMPARE(box.informativeText, u"Do you want to restore start mode option of all services?\r\n\r\nIf you click No (recommended),\r\nthen restore only the services you have disabled"_s);
+    QCOMPARE(box.informativeText,
+             u"Do you want to restore start mode option of all services?\r\n\r\n"
+             "If you click No (recommended),\r\nthen restore only the services you have disabled"_s);
     QCOMPARE(box.buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
     QCOMPARE(box.buttonTexts, QStringList({u"Yes"_s, u"No"_s, u"Cancel"_s}));
     QCOMPARE(box.defaultButtonText, u"No"_s);
@@ -945,7 +947,9 @@ void TestServiceChange::startModeIsSetWhileAJobRunsButThePageStays()
 void TestServiceChange::startModeWithAHangingToolGoesOn()
 {
     const int limit = Command::timeLimit;
-    const auto putBack = qScopeGuard([limit] { Command::timeLimit = limit; });
+    const auto putBack = qScopeGuard([limit] {
+        Command::timeLimit = limit;
+    });
     QCOMPARE(limit, 30000);
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 2, .running = true});

@@ -280,7 +280,8 @@ void TestServicesPage::clickOnAHeaderSortsByIt()
     const WindowDriver driver;
     driver.window().showPage(1);
     QVERIFY(driver.waitForList());
-    driver.list({service(u"Alpha"_s, true, u"3"_s), service(u"Beta"_s, true, u"4"_s), service(u"Gamma"_s, true, u"2"_s)});
+    driver.list(
+        {service(u"Alpha"_s, true, u"3"_s), service(u"Beta"_s, true, u"4"_s), service(u"Gamma"_s, true, u"2"_s)});
     QHeaderView *header = driver.services()->horizontalHeader();
     const auto click = [header](int column) {
         QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
@@ -546,7 +547,9 @@ void TestServicesPage::headersSignalsAreBlockedWhileTheViewFillsAndNotLater()
     driver.services()->sortByColumn(1, Qt::DescendingOrder);
     QHeaderView *header = driver.services()->horizontalHeader();
     int changes = 0;
-    connect(header, &QHeaderView::sortIndicatorChanged, this, [&changes] { ++changes; });
+    connect(header, &QHeaderView::sortIndicatorChanged, this, [&changes] {
+        ++changes;
+    });
     driver.click(u"btnSvcViewDisabled"_s);
     QCOMPARE(changes, 0);
     QVERIFY(!header->signalsBlocked());
@@ -605,13 +608,10 @@ void TestServicesPage::contextMenuHasThePagesActions_data()
     QTest::addColumn<int>("page");
     QTest::addColumn<QString>("list");
     QTest::addColumn<QStringList>("actions");
-    QTest::newRow("Services") << 1 << u"tblSvc"_s
-                              << QStringList{u"Refresh"_s, u"Manual start"_s, u"Automatic start"_s};
+    QTest::newRow("Services") << 1 << u"tblSvc"_s << QStringList{u"Refresh"_s, u"Manual start"_s, u"Automatic start"_s};
     QTest::newRow("Tasks") << 2 << u"tblTasks"_s << QStringList{u"Refresh"_s};
-    QTest::newRow("Autorun") << 3 << u"tblAutorun"_s
-                             << QStringList{u"Refresh"_s, u"Uncheck all"_s, u"Check all"_s};
-    QTest::newRow("Packages") << 4 << u"tblPackages"_s
-                              << QStringList{u"Refresh"_s, u"Uncheck all"_s, u"Check all"_s};
+    QTest::newRow("Autorun") << 3 << u"tblAutorun"_s << QStringList{u"Refresh"_s, u"Uncheck all"_s, u"Check all"_s};
+    QTest::newRow("Packages") << 4 << u"tblPackages"_s << QStringList{u"Refresh"_s, u"Uncheck all"_s, u"Check all"_s};
     QTest::newRow("Features") << 5 << u"scrollArea"_s << QStringList{u"Uncheck all"_s, u"Check all"_s};
 }
 
@@ -656,7 +656,7 @@ void TestServicesPage::contextMenuIsStyledByThePaletteSetting()
                 "QMenu::item { padding: 6px; background: transparent; }"
                 "QMenu:item:hover  { background-color: %3; border-radius: 6px; }"
                 "QMenu:item:selected  { background-color: %3; border-radius: 6px; }"_s.arg(colors.at(0), colors.at(1),
-                                                                                            colors.at(2));
+                                                                                           colors.at(2));
     }
     QCOMPARE(menus.shown().at(0).styleSheet, style);
 }
@@ -670,8 +670,7 @@ void TestServicesPage::rightClickOnTheTableOpensTheMenu()
     Menus menus;
     menus.choose(QString());
     const QPoint position(5, 5);
-    QContextMenuEvent event(QContextMenuEvent::Mouse, position,
-                            driver.services()->viewport()->mapToGlobal(position));
+    QContextMenuEvent event(QContextMenuEvent::Mouse, position, driver.services()->viewport()->mapToGlobal(position));
     QCoreApplication::sendEvent(driver.services()->viewport(), &event);
     QCOMPARE(menus.shown().size(), 1);
 }
@@ -715,7 +714,9 @@ void TestServicesPage::checkAllChecksTheListOfThePage()
         table->setItem(row, 0, new QTableWidgetItem);
         table->item(row, 0)->setCheckState(states.at(row));
     }
-    const auto state = [table](int row) { return table->item(row, 0)->checkState(); };
+    const auto state = [table](int row) {
+        return table->item(row, 0)->checkState();
+    };
     driver.call("checkAll");
     QCOMPARE(state(0), Qt::Checked);
     QCOMPARE(state(1), Qt::Checked);

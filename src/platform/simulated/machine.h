@@ -23,11 +23,11 @@ struct MachineError
 /** What a tool of a machine is told to do instead of its work. */
 struct ToolFault
 {
-    bool missing = false;          ///< there is no such program
-    bool hang = false;             ///< runs until it is ended
-    std::optional<int> exitCode;   ///< ends with this code, having changed nothing
-    std::optional<QString> output; ///< prints this instead of its own text
-    int repeat = 1;                ///< how often it prints it
+    bool missing = false;            ///< there is no such program
+    bool hang = false;               ///< runs until it is ended
+    std::optional<int> exitCode{};   ///< ends with this code, having changed nothing
+    std::optional<QString> output{}; ///< prints this instead of its own text
+    int repeat = 1;                  ///< how often it prints it
 };
 
 /**

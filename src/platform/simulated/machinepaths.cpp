@@ -21,6 +21,8 @@ constexpr Qt::CaseSensitivity hostCase = Qt::CaseInsensitive;
 #else
 constexpr Qt::CaseSensitivity hostCase = Qt::CaseSensitive;
 #endif
+// Where it doesn't, that a file is there doesn't mean that it is spelled so.
+constexpr bool hostTellsCase = hostCase == Qt::CaseSensitive;
 
 bool isSeparator(QChar unit)
 {
@@ -85,18 +87,18 @@ Machine::Location Machine::locate(const QString &path) const
 QString Machine::hostPath(const QString &windowsPath) const
 {
     // A file that a walk named stays itself, even one with a backslash in its name.
-    const bool below = windowsPath.startsWith(folder_ + u'/');
+    const bool below = hostTellsCase && windowsPath.startsWith(folder_ + u'/');
     if (below && !QStringView(windowsPath).sliced(folder_.size()).contains(u"/.") && isPresent(windowsPath))
         return QDir::cleanPath(windowsPath);
 
     const Location location = locate(windowsPath);
     QString path = location.top.isEmpty() ? folder_ : folder_ + u'/' + location.top;
     const QString exact = (QStringList(path) + location.names).join(u'/');
-    if (isPresent(exact))
+    if (hostTellsCase && isPresent(exact))
         return exact;
     for (qsizetype i = 0; i < location.names.size(); ++i) {
         const QString &name = location.names.at(i);
-        if (isPresent(path + u'/' + name)) {
+        if (hostTellsCase && isPresent(path + u'/' + name)) {
             path += u'/' + name;
             continue;
         }

@@ -13,11 +13,12 @@
 struct SimulatedOptions
 {
     bool elevated = true;
-    double pace = 0;        ///< pauses are slept this many times their length
-    QString resourceFolder; ///< host path; empty: the folder of the running program
-    QString stockTool; ///< the program behind the machine's tools; empty: kestrune-stocktool beside the running program
+    double pace = 0;          ///< pauses are slept this many times their length
+    QString resourceFolder{}; ///< host path; empty: the folder of the running program
+    QString
+        stockTool{}; ///< the program behind the machine's tools; empty: kestrune-stocktool beside the running program
     /** Starts what the shell is asked to start; by default a real process on the same machine. */
-    std::function<void(const ShellStart &)> launcher;
+    std::function<void(const ShellStart &)> launcher{};
 };
 
 class ScriptOpener;

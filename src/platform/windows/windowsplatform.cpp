@@ -106,9 +106,12 @@ DllString WindowsPlatform::dllString(const QString &windowsPath, uint id) const
     // As data: loading it as code would run its start-up code, with this process's rights.
     const Module module(
         LoadLibraryExW(wide(windowsPath), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE));
-    if (!module)
-        return {.error = GetLastError()};
-    DllString result{.loaded = true};
+    DllString result;
+    result.loaded = module != nullptr;
+    if (!module) {
+        result.error = GetLastError();
+        return result;
+    }
     wchar_t buffer[2048];
     if (const int length = LoadStringW(module.get(), id, buffer, static_cast<int>(std::size(buffer))); length > 0)
         result.text = QString::fromWCharArray(buffer, length);

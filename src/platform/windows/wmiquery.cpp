@@ -106,8 +106,8 @@ WmiAnswer readWmi(const QString &className, const QStringList &properties)
 
     ComPointer<IWbemServices> services;
     const ComText space(u"ROOT\\CIMV2"_s);
-    if (failed(WmiStep::Connect, locator->ConnectServer(space.get(), nullptr, nullptr, nullptr, 0, nullptr, nullptr,
-                                                        services.receive())))
+    if (failed(WmiStep::Connect,
+               locator->ConnectServer(space.get(), nullptr, nullptr, nullptr, 0, nullptr, nullptr, services.receive())))
         return answer;
     if (failed(WmiStep::SetBlanket,
                CoSetProxyBlanket(services.get(), RPC_C_AUTHN_WINNT, RPC_C_AUTHZ_NONE, nullptr, RPC_C_AUTHN_LEVEL_CALL,

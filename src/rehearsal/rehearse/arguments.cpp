@@ -10,9 +10,7 @@ namespace {
 
 const OptionRow &findOption(std::span<const OptionRow> options, const QString &name)
 {
-    const auto row = std::find_if(options.begin(), options.end(), [&](const OptionRow &o) {
-        return o.name == name;
-    });
+    const auto row = std::find_if(options.begin(), options.end(), [&](const OptionRow &o) { return o.name == name; });
     if (row == options.end())
         throw UsageError{u"unrecognized option '--%1'"_s.arg(name)};
     return *row;
@@ -33,7 +31,7 @@ Arguments::Arguments(const QStringList &words, std::span<const OptionRow> option
             throw UsageError{u"invalid option -- '%1'"_s.arg(word.mid(1, 1))};
         } else {
             const qsizetype equals = word.indexOf(u'=');
-            const OptionRow &option = findOption(options, word.mid(2, equals < 0 ? -1 : equals - 2));
+            const OptionRow option = findOption(options, word.mid(2, equals < 0 ? -1 : equals - 2));
             QString value;
             if (option.value.isEmpty() && equals >= 0)
                 throw UsageError{u"option '--%1' doesn't allow an argument"_s.arg(option.name)};

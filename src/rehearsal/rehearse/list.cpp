@@ -141,9 +141,8 @@ constexpr ListRow lists[] = {
 int runList(const Arguments &arguments)
 {
     const QString what = arguments.operand(1);
-    const auto row = std::find_if(std::begin(lists), std::end(lists), [&](const ListRow &list) {
-        return list.name == what;
-    });
+    const auto row =
+        std::find_if(std::begin(lists), std::end(lists), [&](const ListRow &list) { return list.name == what; });
     if (row == std::end(lists))
         throw UsageError{u"'%1' can't be listed"_s.arg(what)};
     if (row->takesKey && arguments.operands().size() < 3)

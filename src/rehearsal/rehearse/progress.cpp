@@ -49,7 +49,5 @@ void Progress::clear()
 
 ProgressCallback Progress::callback()
 {
-    return [this](const QString &step, int done, int total) {
-        show(step, done, total);
-    };
+    return [this](const QString &step, int done, int total) { show(step, done, total); };
 }

@@ -70,9 +70,8 @@ void applyKeep(WorkThread &worker, const QString &text)
     for (const QString &entry : text.split(u',', Qt::SkipEmptyParts)) {
         const QString name = entry.section(u'=', 0, 0);
         const QString state = entry.section(u'=', 1);
-        const auto row = std::find_if(std::begin(keepRows), std::end(keepRows), [&name](const KeepRow &keep) {
-            return keep.name == name;
-        });
+        const auto row = std::find_if(std::begin(keepRows), std::end(keepRows),
+                                      [&name](const KeepRow &keep) { return keep.name == name; });
         if (row == std::end(keepRows) || (state != "0"_L1 && state != "2"_L1))
             throw UsageError{u"invalid argument '%1' for '--keep'"_s.arg(entry)};
         worker.*(row->state) = state.toInt();
@@ -116,19 +115,13 @@ private:
 /** Runs the job to its end. */
 void runToEnd(WorkThread &worker, int job, LinePrinter &printer)
 {
-    QObject::connect(&worker, &WorkThread::valueChanged, &worker, [&printer](const QString &line) {
-        printer.take("valueChanged"_L1, line);
-    });
-    QObject::connect(&worker, &WorkThread::automatizerValueChanged, &worker, [&printer](const QString &line) {
-        printer.take("automatizerValueChanged"_L1, line);
-    });
+    QObject::connect(&worker, &WorkThread::valueChanged, &worker,
+                     [&printer](const QString &line) { printer.take("valueChanged"_L1, line); });
+    QObject::connect(&worker, &WorkThread::automatizerValueChanged, &worker,
+                     [&printer](const QString &line) { printer.take("automatizerValueChanged"_L1, line); });
     // Queued behind the lines that are under way.
     QObject::connect(
-        &worker, &QThread::finished, &worker,
-        [] {
-            QCoreApplication::quit();
-        },
-        Qt::QueuedConnection);
+        &worker, &QThread::finished, &worker, [] { QCoreApplication::quit(); }, Qt::QueuedConnection);
     worker.startJob(job);
     QCoreApplication::exec();
     worker.wait();

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Disabling and enabling services.
 
+#include "platform/platform.h"
 #include "work/command.h"
 #include "work/errorlog.h"
 #include "work/interruption.h"
-#include "platform/platform.h"
 #include "work/settings.h"
 #include "work/workthread.h"
 
@@ -19,9 +19,9 @@ constexpr int errorAlreadyRunning = 1056;
 /** How services are handled in one run, which differs by the generation of Windows. */
 struct Manner
 {
-    bool onWindows10;  ///< the registry is written, sc is left alone
-    bool noStartStop;  ///< start modes change, services go on as they are
-    int settleDelay;   ///< milliseconds after each step
+    bool onWindows10; ///< the registry is written, sc is left alone
+    bool noStartStop; ///< start modes change, services go on as they are
+    int settleDelay;  ///< milliseconds after each step
 };
 
 Manner mannerFor(const QString &winName)
@@ -76,7 +76,8 @@ private:
             run({u"config"_s, name_, argument});
             return;
         }
-        platform().openKey(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s + name_)
+        platform()
+            .openKey(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s + name_)
             ->setValue(u"Start"_s, start);
         pauseFor(manner_.settleDelay);
     }
@@ -93,10 +94,13 @@ QString outcomeText(bool onWindows10, bool enable, bool failed)
         return what + u' ' + (failed ? WorkThread::tr("error") : WorkThread::tr("done"));
     };
     if (!enable)
-        return outcome(onWindows10 ? WorkThread::tr("Service: disable %1") : WorkThread::tr("Service: disable and stop %1"));
+        return outcome(onWindows10 ? WorkThread::tr("Service: disable %1")
+                                   : WorkThread::tr("Service: disable and stop %1"));
     if (failed)
-        return outcome(onWindows10 ? WorkThread::tr("Service: enable %1") : WorkThread::tr("Service: enable and start %1"));
-    return onWindows10 ? WorkThread::tr("Service: enable %1 done") : WorkThread::tr("Service: enable and start %1 done");
+        return outcome(onWindows10 ? WorkThread::tr("Service: enable %1")
+                                   : WorkThread::tr("Service: enable and start %1"));
+    return onWindows10 ? WorkThread::tr("Service: enable %1 done")
+                       : WorkThread::tr("Service: enable and start %1 done");
 }
 
 } // namespace
@@ -121,15 +125,13 @@ int WorkThread::SvcStopOrStart(QStringList list, bool enable)
             report(name);
         }
         if (forAutomatizer) {
-            QString message = exitCode == errorAlreadyRunning
-                                  ? tr("Service: enable and start %1, already running!")
-                                  : outcomeText(manner.onWindows10, enable, exitCode != 0);
+            QString message = exitCode == errorAlreadyRunning ? tr("Service: enable and start %1, already running!")
+                                                              : outcomeText(manner.onWindows10, enable, exitCode != 0);
             reportToAutomatizer(message.replace(u"%1"_s, name));
             reportToAutomatizer(progress);
         }
         if (exitCode != 0) {
-            LogError(u"SvcStopOrStart: "_s + name + u", sc process error! exit code : "_s
-                     + QString::number(exitCode));
+            LogError(u"SvcStopOrStart: "_s + name + u", sc process error! exit code : "_s + QString::number(exitCode));
         }
         ++counter;
     }

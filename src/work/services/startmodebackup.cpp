@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A text file on Windows turns the line feed of "\r\n" into "\r\n" once more. The registry editor reads such files, and the
-// backups people already have look like this.
+// A text file on Windows turns the line feed of "\r\n" into "\r\n" once more. The registry editor reads such files, and
+// the backups people already have look like this.
 const QString lineEnd = u"\r\r\n"_s;
 
 const QString servicesPath = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services"_s;

@@ -1,0 +1,121 @@
+; SPDX-License-Identifier: GPL-3.0-or-later
+; The installer: for one user without administrator rights, or for all users of the PC.
+; makensis -DVERSION=… -DFILES=folder -DICON=file -DOUTPUT=file kestrune.nsi
+; Silent: setup.exe /S /CurrentUser or /AllUsers; uninstall.exe /S, with /PURGE to take settings and backups too.
+
+Unicode true
+Target amd64-unicode
+SetCompressor /SOLID lzma
+ManifestDPIAware true
+
+!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Kestrune"
+
+!define MULTIUSER_EXECUTIONLEVEL Highest
+!define MULTIUSER_MUI
+!define MULTIUSER_INSTALLMODE_COMMANDLINE
+!define MULTIUSER_USE_PROGRAMFILES64
+!define MULTIUSER_INSTALLMODE_INSTDIR "Kestrune"
+!define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_KEY "${UNINSTALL_KEY}"
+!define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_VALUENAME "InstallLocation"
+!define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_KEY "${UNINSTALL_KEY}"
+!define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_VALUENAME "InstallLocation"
+
+!include MultiUser.nsh
+!include MUI2.nsh
+!include FileFunc.nsh
+!include LogicLib.nsh
+!include Sections.nsh
+
+Name "Kestrune"
+OutFile "${OUTPUT}"
+BrandingText "Kestrune ${VERSION}"
+VIProductVersion "${VERSION}.0"
+VIAddVersionKey "ProductName" "Kestrune"
+VIAddVersionKey "ProductVersion" "${VERSION}"
+VIAddVersionKey "FileVersion" "${VERSION}"
+VIAddVersionKey "FileDescription" "Kestrune setup"
+VIAddVersionKey "LegalCopyright" "GNU General Public License, version 3 or later"
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_ABORTWARNING
+!define MUI_FINISHPAGE_RUN "$INSTDIR\kestrune.exe"
+!insertmacro MULTIUSER_PAGE_INSTALLMODE
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+!insertmacro MUI_UNPAGE_COMPONENTS
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE "English"
+!insertmacro MUI_LANGUAGE "French"
+
+Function .onInit
+    SetRegView 64
+    !insertmacro MULTIUSER_INIT
+FunctionEnd
+
+Section "Kestrune"
+    SetOutPath "$INSTDIR"
+    File "${FILES}\kestrune.exe"
+    File "${FILES}\LICENSE.txt"
+    File "${FILES}\README.txt"
+    SetOutPath "$INSTDIR\img"
+    File "${FILES}\img\*.png"
+!if /FileExists "${FILES}/Translations/*.qm"
+    SetOutPath "$INSTDIR\Translations"
+    File "${FILES}\Translations\*.qm"
+!endif
+    ; The folder in which the shortcut starts
+    SetOutPath "$INSTDIR"
+    CreateShortCut "$SMPROGRAMS\Kestrune.lnk" "$INSTDIR\kestrune.exe"
+
+    WriteUninstaller "$INSTDIR\uninstall.exe"
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" "DisplayName" "Kestrune"
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\kestrune.exe"
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" "Publisher" "The Kestrune authors"
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe" /$MultiUser.InstallMode'
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S /$MultiUser.InstallMode'
+    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "NoModify" 1
+    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "NoRepair" 1
+    ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
+    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "EstimatedSize" $0
+SectionEnd
+
+Section "un.Kestrune"
+    SectionIn RO
+    Delete "$INSTDIR\kestrune.exe"
+    Delete "$INSTDIR\LICENSE.txt"
+    Delete "$INSTDIR\README.txt"
+    RMDir /r "$INSTDIR\img"
+    RMDir /r "$INSTDIR\Translations"
+    Delete "$SMPROGRAMS\Kestrune.lnk"
+    DeleteRegKey SHCTX "${UNINSTALL_KEY}"
+    Delete "$INSTDIR\uninstall.exe"
+SectionEnd
+
+; What was changed on this PC, and the way back, stays unless someone asks for its removal.
+Section /o "un.Settings and backups" SECTION_PURGE
+    RMDir /r "$INSTDIR\backup_svc"
+    RMDir /r "$INSTDIR\backup_tasks"
+    Delete "$INSTDIR\log.txt"
+    DeleteRegKey HKCU "Software\Kestrune\Ondrevale"
+    DeleteRegKey /ifempty HKCU "Software\Kestrune"
+SectionEnd
+
+Section "-un.Folder"
+    ; Goes only if it is empty
+    RMDir "$INSTDIR"
+SectionEnd
+
+Function un.onInit
+    SetRegView 64
+    !insertmacro MULTIUSER_UNINIT
+    ${GetParameters} $0
+    ClearErrors
+    ${GetOptions} $0 "/PURGE" $1
+    ${IfNot} ${Errors}
+        !insertmacro SelectSection ${SECTION_PURGE}
+    ${EndIf}
+FunctionEnd

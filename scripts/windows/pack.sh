@@ -1,0 +1,144 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Functions are called by their names, variables are those of the sourcing script, which has set -e:
+# shellcheck shell=bash disable=SC2317,SC2154,SC2034,SC2164
+# The stages "pack" and "install": what people download, and whether it installs. Sourced by scripts/windows.sh.
+
+readonly inside_packages_folder=$inside_build/packages
+
+# --- pack ------------------------------------------------------------------------------------------------------------
+
+pack_key() { { bytes_key; echo "$SOURCE_DATE_EPOCH"; pack_inputs; } | digest; }
+pack_inputs() {
+    cd "$source_folder"
+    cat LICENSE packaging/windows/* resources/img/*.png resources/machines/*/* scripts/windows/pack.sh
+}
+pack_stamp() { echo "$source_folder/build/windows/.packed"; }
+pack_says() { echo "the ZIP archives, the installer and the package managers' manifests; about 1 minute"; }
+pack_make() {
+    in_root --caller inside_pack
+    write_stamp "$(pack_stamp)" "$1"
+    (cd "$source_folder/build/windows/packages" && stat -c 'windows: %s bytes: %n' -- *.zip *.exe)
+}
+
+version_of_project() { sed -nE 's/^project\(Kestrune VERSION ([0-9.]+) .*/\1/p' "$inside_source/CMakeLists.txt"; }
+
+inside_pack() {
+    local version files=$inside_making/files
+    version=$(version_of_project)
+    rm -rf "$files" "$inside_packages_folder"
+    mkdir -p "$inside_packages_folder"
+    install_component kestrune "$files/kestrune"
+    install_component rehearse "$files/kestrune-rehearse"
+    zip_folder "$files/kestrune" "kestrune-$version-windows-x64.zip"
+    zip_folder "$files/kestrune-rehearse" "kestrune-rehearse-$version-windows-x64.zip"
+    makensis -V2 -WX -NOCD -DVERSION="$version" -DFILES="$files/kestrune" \
+        -DICON="$inside_source/resources/icon/kestrune.ico" \
+        -DOUTPUT="$inside_packages_folder/kestrune-$version-setup.exe" "$inside_source/packaging/windows/kestrune.nsi"
+    rm -rf "$files"
+    write_manifests "$version"
+}
+
+# install_component NAME FOLDER: files all bear the commit's time
+install_component() {
+    cmake --install "$inside_build" --prefix "$2" --component "$1" >/dev/null
+    find "$2" -exec touch -h -d "@$SOURCE_DATE_EPOCH" {} +
+}
+
+# zip_folder FOLDER ARCHIVE: in an order of its own, without what differs from computer to computer
+zip_folder() {
+    (
+        cd "$(dirname "$1")"
+        find "$(basename "$1")" -type f | LC_ALL=C sort | TZ=UTC zip -9 -X -q -@ "$inside_packages_folder/$2"
+    )
+}
+
+# write_manifests VERSION: a template's @NAMES@ get their values
+write_manifests() {
+    local template target zip_sum setup_sum
+    zip_sum=$(sha256sum <"$inside_packages_folder/kestrune-$1-windows-x64.zip" | cut -d' ' -f1)
+    setup_sum=$(sha256sum <"$inside_packages_folder/kestrune-$1-setup.exe" | cut -d' ' -f1)
+    for template in "$inside_source"/packaging/windows/*.in; do
+        target=$(basename "$template" .in)
+        sed -e "s/@VERSION@/$1/g" -e "s/@ZIP_SHA256@/$zip_sum/g" -e "s/@SETUP_SHA256@/${setup_sum^^}/g" \
+            -e "s/@DATE@/$(date -u -d "@$SOURCE_DATE_EPOCH" +%F)/g" "$template" >"$inside_packages_folder/$target"
+        ! grep -q '@[A-Z_]*@' "$inside_packages_folder/$target" || fail "$target lacks a value"
+    done
+}
+
+# --- install ---------------------------------------------------------------------------------------------------------
+
+install_key() {
+    {
+        cd "$source_folder"
+        cat build/windows/packages/*setup.exe build/windows/bin/tst_program.exe scripts/windows/{desk,pack}.sh
+    } 2>/dev/null | digest
+}
+install_stamp() { echo "$source_folder/build/windows/.installed"; }
+install_says() { echo "installs, starts and uninstalls the program under Wine; about 1 minute"; }
+install_make() {
+    in_root --caller inside_install
+    write_stamp "$(install_stamp)" "$1"
+}
+
+inside_install() {
+    desk_begin win11 install
+    try_installer CurrentUser HKCU
+    try_installer AllUsers HKLM
+    purge_installation
+    desk_end
+}
+
+# try_installer MODE HIVE: what people did with the program must outlive the uninstaller.
+try_installer() {
+    local folder=$inside_making/installed
+    install_program "$1" "$2"
+    mkdir -p "$folder"/backup_{svc,tasks}
+    echo kept | tee "$folder/backup_svc/StartMode.reg" >"$folder/backup_tasks/tasks.xml"
+    set_value 'HKCU\Software\Kestrune\Ondrevale' lang REG_SZ en
+    uninstall_program "$2"
+    [[ -e $folder/backup_svc/StartMode.reg && -e $folder/backup_tasks/tasks.xml ]] ||
+        fail "the uninstaller took people's backups"
+    expect "the setting behind the uninstaller" "$(value 'HKCU\Software\Kestrune\Ondrevale' lang)" en
+}
+
+readonly uninstall_key='Software\Microsoft\Windows\CurrentVersion\Uninstall\Kestrune'
+
+# install_program MODE HIVE: leaves a link to the installation's folder in $inside_making/installed
+install_program() {
+    local setup place
+    setup=$(echo "$inside_packages_folder"/kestrune-*-setup.exe)
+    quietly "install-$1" 120 wine "$setup" /S "/$1"
+    place=$(value "$2\\$uninstall_key" InstallLocation)
+    [[ -n $place ]] || fail "the installer left no uninstall entry in $2"
+    expect "the version of the uninstall entry" "$(value "$2\\$uninstall_key" DisplayVersion)" "$(version_of_project)"
+    ln -sfn "$(winepath -u "$place" 2>/dev/null)" "$inside_making/installed"
+    [[ -e $inside_making/installed/kestrune.exe && -e $inside_making/installed/img/services.png ]] ||
+        fail "the installer left no program in $place"
+    [[ -n $(find "$WINEPREFIX/drive_c" -name Kestrune.lnk) ]] || fail "the installer made no entry in the start menu"
+    export KESTRUNE_TRIAL_PROGRAM="$place\\kestrune.exe"
+    export KESTRUNE_TRIAL_PICTURE=Z:$inside_build/screenshots/installed-$1.png
+    run_qtest "installed-$1" "$inside_build/bin/tst_program.exe" startsIsSeenAndEnds
+}
+
+# uninstall_program HIVE [ARGUMENT…]: the uninstaller goes on in a copy of itself, so it is waited for
+uninstall_program() {
+    local waited
+    quietly "uninstall-$1" 120 wine "$inside_making/installed/uninstall.exe" /S "${@:2}"
+    for ((waited = 0; waited < 100; ++waited)); do
+        [[ -e $inside_making/installed/uninstall.exe ]] || break
+        sleep 0.2
+    done
+    [[ ! -e $inside_making/installed/kestrune.exe && ! -e $inside_making/installed/img ]] ||
+        fail "the uninstaller left the program"
+    expect "the uninstall entry" "$(value "$1\\$uninstall_key" InstallLocation)" ''
+    [[ -z $(find "$WINEPREFIX/drive_c" -name Kestrune.lnk) ]] || fail "the uninstaller left the start menu's entry"
+}
+
+# Asked for it, the uninstaller takes everything.
+purge_installation() {
+    install_program CurrentUser HKCU
+    uninstall_program HKCU /PURGE
+    [[ ! -e $inside_making/installed/backup_svc ]] || fail "the uninstaller left what it was asked to take"
+    expect "the setting behind the purge" "$(value 'HKCU\Software\Kestrune\Ondrevale' lang)" ''
+    rm -f "$inside_making/installed"
+}

@@ -1,0 +1,81 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Functions are called by their names, variables are those of the sourcing script, which has set -e:
+# shellcheck shell=bash disable=SC2317,SC2154,SC2034,SC2164
+# The stages "build" and "bytes": the programs, and whether they come out the same again. Sourced by scripts/windows.sh.
+
+# What is packed; the tests are built beside them.
+readonly programs=(kestrune kestrune-rehearsal kestrune-rehearse kestrune-stocktool)
+
+# --- build -----------------------------------------------------------------------------------------------------------
+
+# ninja itself knows what is out of date.
+build_key() { echo always; }
+build_stamp() { :; }
+build_says() { echo "kestrune.exe and the tests; about 8 minutes on two cores from nothing"; }
+build_make() {
+    in_root --caller inside_build_programs
+    say "kestrune.exe has $(stat -c %s "$source_folder/build/windows/bin/kestrune.exe") bytes"
+}
+
+inside_build_programs() {
+    export CCACHE_DIR=$inside_making/ccache CCACHE_MAXSIZE=2G
+    [[ -e $inside_build/build.ninja ]] || configure "$inside_source" "$inside_build"
+    cmake --build "$inside_build" --parallel "$jobs" --target "${programs[@]}" wine_tests
+    # The first run of a test program must not find the tools of another version beside it.
+    check_imports
+}
+
+# configure SOURCES FOLDER [OPTION…]
+configure() {
+    (cd "$1" && cmake --preset windows -B "$2" "${@:3}") >"$inside_making/configure.log" 2>&1 ||
+        { tail -n 30 "$inside_making/configure.log" >&2; fail "could not be configured"; }
+}
+
+# A program may need the DLLs of Windows, which Wine has too, and no others.
+check_imports() {
+    local program dll
+    for program in "${programs[@]}"; do
+        while read -r dll; do
+            [[ ${dll,,} == api-ms-win-* || -e /usr/lib/x86_64-linux-gnu/wine/x86_64-windows/${dll,,} ]] ||
+                fail "$program.exe needs $dll, which is no part of Windows"
+        done < <(x86_64-w64-mingw32-objdump -p "$inside_build/bin/$program.exe" | sed -n 's/^\s*DLL Name: //p')
+    done
+}
+
+# --- bytes -----------------------------------------------------------------------------------------------------------
+
+bytes_key() { programs_digest "${programs[@]}"; }
+bytes_stamp() { echo "$source_folder/build/windows/.bytes"; }
+bytes_says() { echo "builds the programs again in other folders, for the same bytes; about 4 minutes on two cores"; }
+bytes_make() {
+    in_root --caller inside_check_bytes "$source_folder" "$cache"
+    write_stamp "$(bytes_stamp)" "$1"
+}
+
+# programs_digest NAME…: of the programs as they are
+programs_digest() {
+    local program
+    for program; do
+        sha256sum <"$source_folder/build/windows/bin/$program.exe" 2>/dev/null || echo missing
+    done | digest
+}
+
+# inside_check_bytes PATH…: the paths are those of this computer that no program may name.
+inside_check_bytes() {
+    local again=$inside_making/built-again program path
+    rm -rf "$again"
+    mkdir -p "$again/sources-elsewhere"
+    tar -C "$inside_source" --exclude=./build --exclude=./.git -cf - . | tar -C "$again/sources-elsewhere" -xf -
+    export CCACHE_DISABLE=1
+    configure "$again/sources-elsewhere" "$again/out" -DKESTRUNE_TESTS=OFF
+    cmake --build "$again/out" --parallel "$jobs" --target "${programs[@]}" >"$inside_making/again.log" 2>&1 ||
+        { tail -n 30 "$inside_making/again.log" >&2; fail "could not be built again"; }
+    for program in "${programs[@]}"; do
+        cmp "$inside_build/bin/$program.exe" "$again/out/bin/$program.exe" ||
+            fail "$program.exe isn't the same when it is built again"
+        for path in "$inside_source" "$inside_making" "$@"; do
+            ! grep -qaF "$path/" "$inside_build/bin/$program.exe" || fail "$program.exe names the path $path"
+        done
+    done
+    rm -rf "$again"
+}

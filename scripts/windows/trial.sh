@@ -1,0 +1,94 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Functions are called by their names, variables are those of the sourcing script, which has set -e:
+# shellcheck shell=bash disable=SC2317,SC2154,SC2034,SC2164
+# The stage "trial": the tests, and the window on a real registry. Sourced by scripts/windows.sh.
+
+trial_key() { trial_digest; }
+trial_stamp() { echo "$source_folder/build/windows/.trial"; }
+trial_says() { echo "the tests and the window under Wine, as Windows 10 and as 11; about 5 minutes"; }
+trial_make() {
+    in_root --caller inside_trial
+    write_stamp "$(trial_stamp)" "$1"
+    say "pictures are in build/windows/screenshots"
+}
+
+# Of all that the trial runs and reads
+trial_digest() {
+    (
+        cd "$source_folder"
+        cat build/windows/bin/*.exe scripts/windows.sh scripts/windows/{desk,trial}.sh resources/machines/*/*
+    ) 2>/dev/null | digest
+}
+
+# The stand-ins of stock tools beside a program, where Windows looks first; the others are started by their full path.
+readonly stand_ins=(sc schtasks powercfg bcdedit takeown icacls taskkill)
+
+inside_trial() {
+    local version
+    rm -rf "$desk_logs"/win* "$inside_build"/screenshots/win*
+    for version in win10 win11; do
+        say "trial: as ${windows_machines[$version]}"
+        desk_begin "$version"
+        run_test_suite "$version"
+        lay_trial_folder
+        run_window "$version"
+        run_program "$version"
+        desk_end
+    done
+    rm -rf "$inside_making/trial"
+    grep -h 'start until' "$desk_logs"/*/program.qtest | sed 's/^.*) /windows: trial: /'
+}
+
+# run_test_suite VERSION: rehearsal machines are the same on every Windows, so that their tests are run on one alone.
+# ctest finds Wine by what the build was configured with.
+run_test_suite() {
+    local begin=$SECONDS labels='^native$'
+    [[ $1 != win11 ]] || labels='^(native|wine)$'
+    quietly tests 600 ctest --test-dir "$inside_build" --label-regex "$labels" --no-tests=error \
+        --output-on-failure --parallel "$jobs"
+    say "trial: $(sed -n \
+        's/^\(.*tests passed\).*out of \(.*\)/\1 of \2/p' "$desk_log/tests.txt"), in $(took $((SECONDS - begin)))"
+}
+
+# A folder of its own with the program as it is packed, and stand-ins that are never packed
+lay_trial_folder() {
+    local folder=$inside_making/trial tool
+    local system=$WINEPREFIX/drive_c/windows
+    rm -rf "$folder"
+    mkdir -p "$folder"
+    cp -l "$inside_build"/bin/{kestrune,tst_realwindow,tst_program}.exe "$folder/" 2>/dev/null ||
+        cp "$inside_build"/bin/{kestrune,tst_realwindow,tst_program}.exe "$folder/"
+    cp -r "$inside_build"/bin/{img,machines} "$folder/"
+    for tool in "${stand_ins[@]}"; do cp "$inside_build/bin/standin.exe" "$folder/$tool.exe"; done
+    mkdir -p "$system"/system32/WindowsPowerShell/v1.0 "$system/syswow64"
+    cp --remove-destination "$inside_build/bin/standin.exe" "$system/system32/WindowsPowerShell/v1.0/powershell.exe"
+    cp --remove-destination "$inside_build/bin/standin.exe" "$system/syswow64/OneDriveSetup.exe"
+}
+
+# run_window VERSION: clicks through the window, then looks at the registry
+run_window() {
+    local machine=${windows_machines[$1]} file begin=$SECONDS
+    local services='HKLM\System\CurrentControlSet\Services' records='HKCU\Software\Kestrune\Ondrevale\SVC'
+    for file in services windows; do
+        # In UTF-16: in any other file the bytes of texts are taken for another encoding.
+        { printf '\xff\xfe'; iconv -f UTF-8 -t UTF-16LE "$inside_source/resources/machines/$machine/$file.reg"; } \
+            >"$inside_making/trial/$file.reg"
+        quietly "import-$file" 120 wine reg import "Z:$inside_making/trial/$file.reg"
+    done
+    export KESTRUNE_TRIAL_MACHINE=$machine KESTRUNE_TRIAL_PICTURES=Z:$inside_build/screenshots/$1 KESTRUNE_STANDIN=1
+    mkdir -p "$inside_build/screenshots/$1"
+    (cd "$inside_making/trial" && run_qtest window tst_realwindow.exe)
+    expect "the start mode of the disabled service" "$(value "$services\\DiagTrack" Start)" 0x4
+    expect "the record of the disabled service" "$(value "$records" DiagTrack)" 0x1
+    expect "the start mode of the restored service" "$(value "$services\\SysMain" Start)" 0x2
+    expect "the record of the restored service" "$(value "$records" SysMain)" ''
+    say "trial: the window in $(took $((SECONDS - begin)))"
+}
+
+# run_program VERSION: kestrune.exe itself, opened on the Services page
+run_program() {
+    set_value 'HKCU\Software\Kestrune\Ondrevale' lastPage REG_DWORD 1
+    export KESTRUNE_TRIAL_PROGRAM=Z:$inside_making/trial/kestrune.exe
+    export KESTRUNE_TRIAL_PICTURE=Z:$inside_build/screenshots/$1/kestrune.png
+    (cd "$inside_making/trial" && run_qtest program tst_program.exe)
+}

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tools.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Tool
+{
+    QLatin1StringView name;
+    ToolResult (*run)(ToolHost &host, const QStringList &arguments);
+};
+
+// clang-format off
+constexpr Tool tools[] = {
+    {"sc"_L1,  runSc},
+    {"cmd"_L1, runCmd},
+};
+// clang-format on
+
+} // namespace
+
+QString toolName(const QString &program)
+{
+    QString name = QFileInfo(program).fileName().toLower();
+    if (name.endsWith(".exe"_L1))
+        name.chop(4);
+    return name;
+}
+
+ToolResult runTool(const QString &name, ToolHost &host, const QStringList &arguments)
+{
+    for (const Tool &tool : tools) {
+        if (name == tool.name)
+            return tool.run(host, arguments);
+    }
+    return {exitNoSuchProgram, QByteArray()};
+}

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the tests and the stand-ins of the stock tools tell each other, by way of the registry.
+
+#pragma once
+
+#include <QString>
+
+/** One value for each service that was ever started: 1 runs, 0 doesn't. */
+inline const QString standInStates = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Running");
+/** The value "Count": how many commands were run; and one value for each, by its number from 1. */
+inline const QString standInCommands = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Commands");

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window on a real registry, on which stand-ins of the stock tools act. The registry is a PC's that was imported;
+// the environment says by KESTRUNE_TRIAL_MACHINE which, and by KESTRUNE_TRIAL_PICTURES where the pictures go.
+
+#include "platform/windows/windowsplatform.h"
+#include "support/boxes.h"
+#include "support/menus.h"
+#include "support/windowdriver.h"
+#include "windows/standin/standinkeys.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QScreen>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString services = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s;
+const QString records = u"HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale\\SVC"_s;
+
+QVariant startModeOf(const QString &service)
+{
+    return platform().openKey(services + service)->value(u"Start"_s);
+}
+
+bool isRecorded(const QString &service)
+{
+    return platform().openKey(records)->contains(service);
+}
+
+bool isRunning(const QString &service)
+{
+    return platform().openKey(standInStates)->value(service, 0).toInt() != 0;
+}
+
+/** Saves the whole screen: what a user would see, frames and boxes too. */
+void takePicture(const QString &name)
+{
+    QTest::qWait(150);
+    const QString file = qEnvironmentVariable("KESTRUNE_TRIAL_PICTURES") + u'/' + name + u".png"_s;
+    QVERIFY2(QGuiApplication::primaryScreen()->grabWindow(0).save(file), qPrintable(file));
+}
+
+} // namespace
+
+class TestRealWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+
+    void showsEveryPage_data();
+    void showsEveryPage();
+    void listsTheServicesOfTheRegistry();
+    void disablesAndRestoresAService();
+    void leavesOneServiceDisabled();
+    void backsTheStartModesUp();
+    void showsEveryTheme_data();
+    void showsEveryTheme();
+
+private:
+    std::unique_ptr<WindowDriver> driver_;
+};
+
+void TestRealWindow::initTestCase()
+{
+    setPlatform(std::make_unique<WindowsPlatform>());
+    // By its manifest: what the clicks do needs the right to do it.
+    QVERIFY(platform().isElevated());
+    qputenv("KESTRUNE_STANDIN", "1");
+    const QString machine = QCoreApplication::applicationDirPath() + u"/machines/"_s
+                            + qEnvironmentVariable("KESTRUNE_TRIAL_MACHINE") + u"/machine.json"_s;
+    QFile file(machine);
+    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(machine));
+    const auto states = platform().openKey(standInStates);
+    for (const QJsonValue service : QJsonDocument::fromJson(file.readAll()).object()[u"running"_s].toArray())
+        states->setValue(service.toString(), 1);
+    driver_ = std::make_unique<WindowDriver>();
+    QVERIFY(QTest::qWaitForWindowExposed(&driver_->window()));
+}
+
+void TestRealWindow::cleanupTestCase()
+{
+    driver_.reset();
+    setPlatform(nullptr);
+}
+
+void TestRealWindow::showsEveryPage_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<QString>("tab");
+    QTest::newRow("0-optimizer") << u"btnMenuHome"_s << QString() << u"tabAutomatizer"_s;
+    QTest::newRow("1-services") << u"btnMenuService"_s << QString() << u"tabService"_s;
+    QTest::newRow("3-autorun") << u"btnMenuPackage"_s << u"Automatically started programs"_s << u"tabAutorun"_s;
+    QTest::newRow("4-packages") << u"btnMenuPackage"_s << u"Windows packages installed"_s << u"tabPackage"_s;
+    QTest::newRow("5-features") << u"btnMenuTweak"_s << QString() << u"tabTweak"_s;
+    QTest::newRow("6-information") << u"btnMenuInfo"_s << QString() << u"tabInfo"_s;
+    QTest::newRow("7-options") << u"btnMenuOptions"_s << QString() << u"tabOptions"_s;
+    QTest::newRow("8-about") << u"btnMenuAbout"_s << QString() << u"tabAbout"_s;
+    QTest::newRow("2-tasks") << u"btnMenuTask"_s << QString() << u"tabTask"_s;
+}
+
+void TestRealWindow::showsEveryPage()
+{
+    QFETCH(const QString, button);
+    QFETCH(const QString, choice);
+    QFETCH(const QString, tab);
+    Menus menus;
+    if (!choice.isEmpty())
+        menus.choose(choice);
+    driver_->click(button);
+    // So that no later wait takes this listing for its own
+    if (tab == "tabService"_L1)
+        QVERIFY(driver_->waitForList());
+    QTRY_VERIFY_WITH_TIMEOUT(!driver_->worker().isRunning() && !driver_->winSxsWorker().isRunning(), patience);
+    QCOMPARE(driver_->get<QTabWidget>(u"tabWidget"_s)->currentWidget()->objectName(), tab);
+    takePicture(QString::fromLatin1(QTest::currentDataTag()));
+}
+
+void TestRealWindow::listsTheServicesOfTheRegistry()
+{
+    QVERIFY(driver_->openServices());
+    for (const QString &service : {u"DiagTrack"_s, u"SysMain"_s, u"WSearch"_s})
+        QVERIFY2(driver_->cell(service) != nullptr, qPrintable(service));
+    QVERIFY(driver_->listed().size() > 50);
+}
+
+void TestRealWindow::disablesAndRestoresAService()
+{
+    const QString service = u"SysMain"_s;
+    QVERIFY(driver_->openServices());
+    driver_->clickCheckBox(service);
+    QCOMPARE(driver_->checked(), QStringList{service});
+    driver_->click(u"btnSvcDisable"_s);
+    QVERIFY(driver_->waitForList());
+    QCOMPARE(startModeOf(service), QVariant(4));
+    QVERIFY(isRecorded(service));
+
+    driver_->click(u"btnSvcViewDisabled"_s);
+    QVERIFY(driver_->listed().contains(service));
+    takePicture(u"services-disabled"_s);
+    driver_->click(u"btnSvcViewDisabled"_s);
+    QVERIFY(driver_->waitForList());
+
+    Boxes boxes;
+    boxes.answer(QMessageBox::No);
+    driver_->click(u"btnSvcRestore"_s);
+    QVERIFY(driver_->waitForList());
+    QCOMPARE(boxes.shown().size(), 1);
+    QCOMPARE(startModeOf(service), QVariant(2));
+    QVERIFY(!isRecorded(service));
+    QVERIFY(isRunning(service));
+}
+
+void TestRealWindow::leavesOneServiceDisabled()
+{
+    const QString service = u"DiagTrack"_s;
+    // Windows 10 changes the registry and leaves the service as it is.
+    const bool stops = !driver_->worker().winName.contains("10"_L1);
+    driver_->clickCheckBox(service);
+    driver_->click(u"btnSvcDisable"_s);
+    QVERIFY(driver_->waitForList());
+    QCOMPARE(startModeOf(service), QVariant(4));
+    QVERIFY(isRecorded(service));
+    QCOMPARE(isRunning(service), !stops);
+    takePicture(u"services-changed"_s);
+}
+
+void TestRealWindow::backsTheStartModesUp()
+{
+    QFile backup(platform().programFolder() + u"/backup_svc/StartMode.reg"_s);
+    QVERIFY(backup.open(QIODevice::ReadOnly));
+    QVERIFY(backup.readAll().contains("Services\\SysMain]"));
+}
+
+void TestRealWindow::showsEveryTheme_data()
+{
+    QTest::addColumn<QString>("theme");
+    for (const char *theme : {"light", "dark", "system"})
+        QTest::newRow(theme) << QString::fromLatin1(theme);
+}
+
+void TestRealWindow::showsEveryTheme()
+{
+    QFETCH(const QString, theme);
+    platform().openKey(settingsKey)->setValue(u"palette"_s, theme);
+    driver_ = std::make_unique<WindowDriver>();
+    QVERIFY(QTest::qWaitForWindowExposed(&driver_->window()));
+    QVERIFY(driver_->openServices());
+    takePicture(u"theme-"_s + theme);
+    platform().openKey(settingsKey)->remove(u"palette"_s);
+}
+
+QTEST_MAIN(TestRealWindow)
+#include "tst_realwindow.moc"
