@@ -14,6 +14,18 @@ void Kestrune::onWorkThreadValueChanged(const QString &text)
         ui.tblSvc->setSortingEnabled(true);
         ui.tblSvc->sortByColumn(0, Qt::AscendingOrder);
         break;
+    case JobTaskMakeList:
+        fillTaskTable();
+        break;
+    case JobPackageGetList:
+        fillPackageTable();
+        break;
+    case JobPackageSetState:
+        onPackageJobLine(line);
+        break;
+    case JobTaskStopOrStart:
+        onTaskJobLine(line);
+        break;
     case JobSvcDisable:
     case JobSvcEnable:
         onServiceJobLine(line);

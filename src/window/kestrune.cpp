@@ -17,6 +17,8 @@ Kestrune::Kestrune()
     QTimer::singleShot(0, this, &Kestrune::StartAsAdmin);
     ui.setupUi(this);
     makeWorkers();
+    // A table's own default is descending.
+    ui.tblTasks->horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
 
     const WindowsName windows = readWindowsName();
     workThread->winName = windows.product;

@@ -60,6 +60,17 @@ private Q_SLOTS:
     void on_btnSvcRestore_clicked();
     void on_btnSvcViewDisabled_clicked();
 
+    // Tasks page
+    void on_btnTaskDisable_clicked();
+    void on_btnTaskAssist_clicked();
+    void on_btnTaskRestore_clicked();
+
+    // Pages of programs
+    void on_btnAutorun_clicked();
+    void on_btnAutorunViewDisabled_clicked();
+    void on_btnPackagesUninst_clicked();
+    void on_btnPackagesViewDisabled_clicked();
+
     // Context menu of the lists
     void showContextMenu();
     void refreshPage();
@@ -103,6 +114,25 @@ private:
     void restoreRecordedServices();
     void setServiceStart(const QString &argument);
 
+    // Tasks page
+    void showTasksPage();
+    void onTaskJobLine(const QString &line);
+    void fillTaskTable();
+    void addTaskRow(const TaskRow &row);
+    void disableCheckedTasks();
+    bool isNeedlessTask(const QString &name) const;
+
+    // Autorun page
+    void showAutorunPage();
+    void fillAutorunTable();
+    void switchCheckedAutoruns();
+
+    // Packages page
+    void showPackagesPage();
+    void onPackageJobLine(const QString &line);
+    void fillPackageTable();
+    void addPackageRow(const QString &name, const QString &displayName, const QString &comments);
+
     Ui::KestruneClass ui;
     QString currentLang = QStringLiteral("en");
     WorkThread *workThread = nullptr;
@@ -114,5 +144,7 @@ private:
     int svcDisabledCount = 0;
     int svcStartedCount = 0;
     int svcStoppedCount = 0;
+    int taskEnabledCount = 0;
+    int taskDisabledCount = 0;
     bool left_ = false;
 };

@@ -36,7 +36,7 @@ QMessageBox::StandardButton ask(const Question &question)
     box.setInformativeText(question.informativeText);
     box.setStandardButtons(question.buttons);
     nameButton(box, QMessageBox::Yes, Kestrune::tr("Yes"));
-    nameButton(box, QMessageBox::No, Kestrune::tr("No"));
+    nameButton(box, QMessageBox::No, question.plainNo ? QStringLiteral("No") : Kestrune::tr("No"));
     nameButton(box, QMessageBox::Cancel, Kestrune::tr("Cancel"));
     if (question.defaultButton != QMessageBox::NoButton)
         box.setDefaultButton(question.defaultButton);

@@ -13,6 +13,7 @@ struct Question
     QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
     QMessageBox::StandardButton defaultButton = QMessageBox::NoButton; ///< NoButton leaves it to the style
     int minimumWidth = 0;
+    bool plainNo = false; ///< the button No says "No" in every language
 };
 
 /** Shows the box with the information icon and gives the button that closed it. */

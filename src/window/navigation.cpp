@@ -70,8 +70,6 @@ void Kestrune::showPage(int page)
         return;
 
     openPage(page);
-    if (page == 1)
-        showServicesPage();
 }
 
 void Kestrune::openPage(int page)
@@ -79,6 +77,23 @@ void Kestrune::openPage(int page)
     const QString button = pages[page].menuButton;
     selectMenuButton(button);
     ui.tabWidget->setCurrentIndex(page);
+    switch (page) {
+    case 1:
+        showServicesPage();
+        break;
+    case 2:
+        showTasksPage();
+        break;
+    case 3:
+        showAutorunPage();
+        break;
+    case 4:
+        showPackagesPage();
+        break;
+    default:
+        break;
+    }
+    // Last: a page may have a question first.
     applyActiveMenuStyle(ui.wgtLeftMenu->findChild<QPushButton *>(button),
                          imageFile(pages[page].image, currentTheme == DarkTheme));
 }

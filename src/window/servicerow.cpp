@@ -18,19 +18,6 @@ QString startModeText(const QString &start)
     return {};
 }
 
-QString rowToolTip(const QString &name, const QString &description)
-{
-    // Rich text wraps; a short one needs no wrapping.
-    constexpr int longText = 100;
-    const QString text = description.size() > longText ? u"<span>"_s + description + u"</span>"_s : description;
-    return name + u":<br><br>"_s + text;
-}
-
-QString nameFromToolTip(const QString &toolTip)
-{
-    return toolTip.section(u':', 0, 0);
-}
-
 bool isCriticalService(const ServiceRow &row)
 {
     // 224 is a per-user service's instance, which can't be disabled by itself.

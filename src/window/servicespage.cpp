@@ -5,6 +5,7 @@
 
 #include "elevation.h"
 #include "messagebox.h"
+#include "rowtext.h"
 #include "servicerow.h"
 #include "work/command.h"
 #include "work/services/servicecatalogue.h"
@@ -17,19 +18,6 @@
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/** The first cells of all rows; rows may move while they are changed. */
-QList<QTableWidgetItem *> firstCells(const QTableWidget *table)
-{
-    QList<QTableWidgetItem *> cells;
-    for (int row = 0; row < table->rowCount(); ++row)
-        cells.append(table->item(row, 0));
-    return cells;
-}
-
-} // namespace
 
 void Kestrune::showServicesPage()
 {
@@ -95,10 +83,10 @@ void Kestrune::fillServiceTable()
         if (row.start == "4"_L1)
             ++svcDisabledCount;
     }
-    const auto count = [](const QString &label, qsizetype number) { return label + u' ' + QString::number(number); };
-    ui.lblStatus->setText(count(tr("Services:"), workThread->services.size()) + u"  |  "_s
-                          + count(tr("started:"), svcStartedCount) + u"  |  "_s + count(tr("stopped:"), svcStoppedCount)
-                          + u"  |  "_s + count(tr("disabled:"), svcDisabledCount) + u"  "_s);
+    ui.lblStatus->setText(countText(tr("Services:"), workThread->services.size()) + summarySeparator
+                          + countText(tr("started:"), svcStartedCount) + summarySeparator
+                          + countText(tr("stopped:"), svcStoppedCount) + summarySeparator
+                          + countText(tr("disabled:"), svcDisabledCount) + u"  "_s);
 }
 
 void Kestrune::addServiceRow(const ServiceRow &row, int greyed)

@@ -27,23 +27,29 @@ void Command::start(const QString &program, const QStringList &arguments)
     close();
     failedToStart_ = false;
     ended_ = false;
+    timedOut_ = false;
     exitCode_.reset();
 
     const QString file = platform().programFile(program);
     if (file.isEmpty()) {
         failedToStart_ = true;
+        startError_ = u"Process failed to start: The system cannot find the file specified."_s;
         return;
     }
     process_.start(file, arguments, QIODevice::ReadWrite);
     // Elsewhere than on Windows a failed start shows only now.
     failedToStart_ = !process_.waitForStarted();
+    startError_ = process_.errorString();
     processId_ = process_.processId();
 }
 
 QString Command::errorString() const
 {
-    return failedToStart_ ? u"Process failed to start: The system cannot find the file specified."_s
-                          : process_.errorString();
+    if (failedToStart_)
+        return startError_;
+    // A slice of a wait that passes is no error of the command.
+    const bool sliceAlone = process_.error() == QProcess::Timedout && !timedOut_;
+    return sliceAlone ? QIODevice::tr("Unknown error") : process_.errorString();
 }
 
 template<typename Wait>
@@ -56,16 +62,13 @@ void Command::waitInSlices(Wait wait)
 
 void Command::waitForFinished()
 {
-    waitInSlices([this] {
-        return process_.waitForFinished(slice);
-    });
+    waitInSlices([this] { return process_.waitForFinished(slice); });
+    timedOut_ = process_.state() != QProcess::NotRunning;
 }
 
 void Command::waitForReadyRead()
 {
-    waitInSlices([this] {
-        return process_.bytesAvailable() > 0 || process_.waitForReadyRead(slice);
-    });
+    waitInSlices([this] { return process_.bytesAvailable() > 0 || process_.waitForReadyRead(slice); });
 }
 
 QByteArray Command::readAllStandardOutput()

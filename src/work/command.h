@@ -27,6 +27,8 @@ public:
     ~Command();
     Q_DISABLE_COPY_MOVE(Command)
 
+    /** Lets the next command's output go to a file, given by its host path, which is emptied first. */
+    void setStandardOutputFile(const QString &file) { process_.setStandardOutputFile(file, QIODevice::Truncate); }
     void start(const QString &program, const QStringList &arguments);
     bool failedToStart() const { return failedToStart_; }
     QString errorString() const;
@@ -50,7 +52,9 @@ private:
     QProcess process_;
     qint64 processId_ = 0;
     bool failedToStart_ = false;
+    QString startError_; ///< why it failed to start
     bool ended_ = false;
+    bool timedOut_ = false;
     mutable std::optional<int> exitCode_;
 };
 

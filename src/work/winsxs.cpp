@@ -13,9 +13,8 @@ void WorkThread::WinSxsSize()
 
     report(tr("Status: Getting WinSxS folder size..."));
     qint64 bytes = 0;
-    walkFolder(qEnvironmentVariable("windir") + u"\\WinSxS"_s, [&bytes](const WalkEntry &entry) {
-        bytes += entry.size;
-    });
+    walkFolder(qEnvironmentVariable("windir") + u"\\WinSxS"_s,
+               [&bytes](const WalkEntry &entry) { bytes += entry.size; });
     report(QString::number(static_cast<double>(bytes) * gibibytesPerByte, 'g', 6));
     report(tr("Status: Getting WinSxS folder size finished!"));
     pauseFor(3000);

@@ -49,6 +49,18 @@ void WorkThread::runJob(int number)
     case JobSvcMakeList:
         SvcMakeList();
         break;
+    case JobTaskMakeList:
+        TaskMakeList();
+        break;
+    case JobPackageGetList:
+        PackageGetList();
+        break;
+    case JobPackageSetState:
+        PackageSetState(packagesToChange, packageInstall);
+        break;
+    case JobTaskStopOrStart:
+        TaskStopOrStart(tasksToChange);
+        break;
     case JobWinSxsSize:
         WinSxsSize();
         break;

@@ -126,6 +126,18 @@ public:
     void SvcMakeList();
     /** Disables and stops, or enables and starts, services in alphabetical order. Returns 0. */
     int SvcStopOrStart(QStringList list, bool enable);
+    /** Lists the scheduled tasks into `tasks`. */
+    void TaskMakeList();
+    /** Cuts the tasks out of the text that schtasks prints and appends them to `tasks`. */
+    void readTasks(const QString &exported);
+    /** Disables or enables scheduled tasks, each as its row says. */
+    void TaskStopOrStart(const QList<TaskRow> &list);
+    /** Lists the packaged applications that can be removed into `packages`. */
+    void PackageGetList();
+    /** Removes packaged applications, or brings them back. Returns the last exit code, -1 for an empty list. */
+    int PackageSetState(const QList<PackageRow> &list, bool install);
+    /** Lists the programs started at logon into `autoruns`. No job; runs on the caller's thread and sends no line. */
+    void AutorunGetList();
     /** The text behind a registry string, which may be a reference into a DLL's string table. */
     QString ExpandResourceString(const QString &text);
     /** A string of a DLL, or "no description". */
@@ -150,6 +162,7 @@ private:
 
     void runJob(int number);
     void WinSxsSize();
+    void choosePackages();
 
     std::atomic<int> run_ = 0; ///< counts starts and ends, so that late lines of an earlier run are known
     int runOfThread_ = 0;      ///< the run that the thread works on; touched by the thread alone

@@ -2,6 +2,8 @@
 
 #include "taskcatalogue.h"
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 // clang-format off
@@ -74,5 +76,14 @@ QStringList nonVitalTaskNames()
 QStringList nonVitalTaskPrefixes()
 {
     return {u"OneDrive"_s, u"MicrosoftEdgeUpdateTaskMachine"_s};
+}
+
+std::span<const KeepFeatureTasks> keepFeatureTasks()
+{
+    static const std::array features{
+        KeepFeatureTasks{&WorkThread::keepPrinter,  {u"EduPrintProv"_s, u"PrinterCleanupTask"_s, u"PrintJobCleanupTask"_s}},
+        KeepFeatureTasks{&WorkThread::keepProxyVpn, {u"MobilityManager"_s}},
+    };
+    return features;
 }
 // clang-format on

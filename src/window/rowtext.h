@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the tables of the list pages share: tool tips, cells and summaries.
+
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class QTableWidget;
+class QTableWidgetItem;
+
+/** The text, as rich text where it is long, so that a tool tip wraps it. */
+QString wrappedText(const QString &text);
+
+/** Name and description behind a colon. The one place in a row that keeps the name where the cell shows another. */
+QString rowToolTip(const QString &name, const QString &description);
+
+/** The name that rowToolTip() put before its first colon. */
+QString nameFromToolTip(const QString &toolTip);
+
+/** The first cells of all rows; rows may move while they are changed. */
+QList<QTableWidgetItem *> firstCells(const QTableWidget *table);
+
+/** One number of a page's summary in the status, and what stands between two. */
+QString countText(const QString &label, qsizetype number);
+inline const QString summarySeparator = QStringLiteral("  |  ");

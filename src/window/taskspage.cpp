@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The Tasks page: the scheduled tasks that are switched on.
+
+#include "kestrune.h"
+
+#include "elevation.h"
+#include "messagebox.h"
+#include "rowtext.h"
+#include "work/settings.h"
+#include "work/tasks/taskcatalogue.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool endsWithAny(const QString &text, const QStringList &endings)
+{
+    return std::any_of(endings.begin(), endings.end(),
+                       [&text](const QString &ending) { return text.endsWith(ending, Qt::CaseInsensitive); });
+}
+
+bool startsWithAny(const QString &text, const QStringList &beginnings)
+{
+    return std::any_of(beginnings.begin(), beginnings.end(),
+                       [&text](const QString &beginning) { return text.startsWith(beginning, Qt::CaseInsensitive); });
+}
+
+QString behindLastBackslash(const QString &path)
+{
+    return path.sliced(path.lastIndexOf(u'\\') + 1);
+}
+
+TaskRow taskToChange(const QString &path, int disabled)
+{
+    return {path, QString(), behindLastBackslash(path), QString(), disabled};
+}
+
+} // namespace
+
+void Kestrune::showTasksPage()
+{
+    ui.tblTasks->setSortingEnabled(false);
+    if (!isProcessElevated()) {
+        const auto answer = ask({.text = tr("You should launch this app with Admin rights!") + u"\r\n"_s
+                                         + tr("Otherwise some scheduled tasks will not be detected!"),
+                                 .informativeText = tr("Do you want to start this app with Admin rights?")});
+        // The listing goes on in either case; this instance may have a moment left.
+        if (answer == QMessageBox::Yes)
+            moveToElevatedInstance(this);
+    }
+    workThread->tasks.clear();
+    ui.tblTasks->setRowCount(0);
+    taskEnabledCount = taskDisabledCount = 0;
+    workThread->startJob(JobTaskMakeList);
+}
+
+void Kestrune::fillTaskTable()
+{
+    ui.tblTasks->setSortingEnabled(true);
+    // Sorting is put off until all rows are in: thousands of them would each be moved to their place.
+    QHeaderView *header = ui.tblTasks->horizontalHeader();
+    const int section = header->sortIndicatorSection();
+    const Qt::SortOrder order = header->sortIndicatorOrder();
+    header->setSortIndicator(-1, order);
+    for (const TaskRow &row : std::as_const(workThread->tasks))
+        addTaskRow(row);
+    header->setSortIndicator(section, order);
+    ui.lblStatus->setText(countText(tr("Tasks:"), workThread->tasks.size()) + summarySeparator
+                          + countText(tr("enabled:"), taskEnabledCount) + summarySeparator
+                          + countText(tr("disabled:"), taskDisabledCount) + u"  "_s);
+}
+
+void Kestrune::addTaskRow(const TaskRow &row)
+{
+    if (row.disabled != 0) {
+        ++taskDisabledCount;
+        return;
+    }
+    ++taskEnabledCount;
+    const int index = ui.tblTasks->rowCount();
+    ui.tblTasks->setRowCount(index + 1);
+    ui.tblTasks->setRowHeight(index, 6);
+
+    auto *path = new QTableWidgetItem(row.path);
+    path->setToolTip(rowToolTip(row.path, row.description));
+    path->setFlags(path->flags() & ~Qt::ItemIsEditable);
+    path->setCheckState(Qt::Unchecked);
+    auto *description = new QTableWidgetItem(row.description);
+    description->setToolTip(wrappedText(row.description));
+    description->setFlags(description->flags() & ~Qt::ItemIsEditable);
+    // A sorted table moves the row as soon as its first cell is there.
+    ui.tblTasks->setItem(index, 0, path);
+    ui.tblTasks->setItem(path->row(), 1, description);
+}
+
+void Kestrune::onTaskJobLine(const QString &line)
+{
+    if (line.startsWith("pgr:max:"_L1))
+        ui.pgrBar->setMaximum(QStringView(line).sliced(8).toInt());
+    if (!line.startsWith("pgr:"_L1)) {
+        ui.lblStatus->setText(line);
+        return;
+    }
+    ui.pgrBar->show();
+    if (line.startsWith("pgr:value:"_L1))
+        ui.pgrBar->setValue(QStringView(line).sliced(10).toInt());
+    if (line.endsWith("finished"_L1)) {
+        ui.lblStatus->setText((workThread->taskRestoreMode ? tr("Restore scheduled tasks completed successfully")
+                                                           : tr("Disable scheduled tasks completed successfully"))
+                              + u"  "_s);
+        waitForLastInstructions();
+        refreshPage();
+        workThread->taskRestoreMode = false;
+    }
+}
+
+void Kestrune::on_btnTaskDisable_clicked()
+{
+    workThread->taskRestoreMode = false;
+    disableCheckedTasks();
+}
+
+void Kestrune::disableCheckedTasks()
+{
+    if (workThread->isRunning())
+        return;
+    QList<TaskRow> checked;
+    for (const QTableWidgetItem *item : firstCells(ui.tblTasks)) {
+        if (item->checkState() == Qt::Checked)
+            checked.append(taskToChange(item->text(), 1));
+    }
+    if (checked.isEmpty())
+        return;
+    if (!isProcessElevated()) {
+        showAdminRequiredDialog(this);
+        return;
+    }
+    workThread->tasksToChange = checked;
+    workThread->startJob(JobTaskStopOrStart);
+}
+
+void Kestrune::on_btnTaskAssist_clicked()
+{
+    if (workThread->isRunning())
+        return;
+    workThread->taskRestoreMode = false;
+    int count = 0;
+    for (QTableWidgetItem *item : firstCells(ui.tblTasks)) {
+        if (!isNeedlessTask(behindLastBackslash(nameFromToolTip(item->toolTip()))))
+            continue;
+        item->setCheckState(Qt::Checked);
+        ++count;
+    }
+    if (count < 1) {
+        ui.lblStatus->setText(tr("Assistant - no tasks to deactivate"));
+        return;
+    }
+    if (!isProcessElevated()) {
+        showAdminRequiredDialog(this);
+        return;
+    }
+    // The default button asked for isn't in the box, so the style chooses one.
+    const auto answer = ask({.text = tr("Disable scheduled tasks"),
+                             .informativeText = tr("Are you sure to disable all checked tasks?"),
+                             .defaultButton = QMessageBox::Cancel,
+                             .plainNo = true});
+    if (answer == QMessageBox::Yes)
+        disableCheckedTasks();
+}
+
+bool Kestrune::isNeedlessTask(const QString &name) const
+{
+    for (const KeepFeatureTasks &feature : keepFeatureTasks()) {
+        if (workThread->*feature.keep == 0 && endsWithAny(name, feature.nameEndings))
+            return true;
+    }
+    return workThread->nonVitalTasks.contains(name, Qt::CaseInsensitive) || startsWithAny(name, nonVitalTaskPrefixes());
+}
+
+void Kestrune::on_btnTaskRestore_clicked()
+{
+    if (workThread->isRunning())
+        return;
+    if (!isProcessElevated()) {
+        showAdminRequiredDialog(this);
+        return;
+    }
+    const auto answer =
+        ask({.text = tr("Restoring scheduled tasks"),
+             .informativeText = tr("Are you sure you want to restore the startup of all scheduled tasks?"),
+             .buttons = QMessageBox::Yes | QMessageBox::Cancel,
+             .defaultButton = QMessageBox::Cancel,
+             .minimumWidth = 400});
+    if (answer != QMessageBox::Yes)
+        return;
+    ui.lblStatus->setText(tr("Restoring scheduled tasks") + u"..."_s);
+    workThread->tasksToChange.clear();
+    for (const QString &path : recordedNames(u"Task"_s)) {
+        if (!path.startsWith("Backup"_L1))
+            workThread->tasksToChange.append(taskToChange(path, 0));
+    }
+    workThread->taskRestoreMode = true;
+    workThread->startJob(JobTaskStopOrStart);
+}

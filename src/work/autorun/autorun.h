@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Programs started at logon: how an entry is switched off, recorded, and switched on again.
+
+#pragma once
+
+#include <QString>
+
+/** Where an entry stands: the full path of its Run value, or of its packaged task's key. */
+struct AutorunEntry
+{
+    QString name;    ///< the part of the path behind its last backslash; names the record
+    QString path;    ///< "<key>\<name>"
+    QString command; ///< of a Run value
+};
+
+/** Whether an entry is one of the two packaged tasks, which have a switch, and no Run value, which is there or isn't.
+ */
+bool isPackagedTask(const QString &name);
+
+/** Takes the entry out of the start-up and records it. */
+void disableAutorun(const AutorunEntry &entry);
+
+/**
+ * Brings the entry back. A Run value comes back only if its command stands in double quotes and that program exists:
+ * with anything else it can't be told where the program's path ends. The record is left alone.
+ */
+void enableAutorun(const AutorunEntry &entry);

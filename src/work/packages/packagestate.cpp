@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Removing packaged applications, and bringing them back.
+
+#include "packagecatalogue.h"
+#include "packagerecord.h"
+#include "platform/platform.h"
+#include "work/command.h"
+#include "work/interruption.h"
+#include "work/settings.h"
+#include "work/workthread.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int settleDelay = 300;
+
+QString quoted(const QString &path)
+{
+    return u'"' + path + u'"';
+}
+
+void startOneDriveSetup(Command &command, const PackageRow &row, bool install)
+{
+    if (!install) {
+        command.start(quoted(row.comment), {u"/uninstall"_s});
+        return;
+    }
+    const QString setup = qEnvironmentVariable("WINDIR") + u"\\SysWOW64\\OneDriveSetup.exe"_s;
+    if (QFileInfo::exists(platform().hostPath(setup)))
+        command.start(quoted(setup), {u"/silent"_s});
+}
+
+void startPowerShell(Command &command, const QString &program, const QString &name, bool install)
+{
+    if (install) {
+        command.start(program, {u"-Command"_s, u"Get-AppxPackage"_s, u"-allusers"_s, name,
+                                u" | Foreach {Add-AppxPackage -DisableDevelopmentMode -Register "
+                                "\"$($_.InstallLocation)\\AppXManifest.xml\"}"_s});
+    } else {
+        command.start(program, {u"-Command"_s, u"Get-AppxPackage"_s, name, u"| Remove-AppxPackage"_s});
+    }
+}
+
+/** These two leave an entry in the list of programs started at logon. */
+void forgetOneDriveStartup(const QString &name)
+{
+    if (name != "microsoft.microsoftskydrive"_L1 && name != "Microsoft.OneDrive"_L1)
+        return;
+    platform()
+        .openKey(u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\StartupApproved\\Run"_s)
+        ->remove(u"OneDrive"_s);
+}
+
+QString automatizerText(const Command &command, const QString &name, bool install)
+{
+    QString text;
+    if (command.exitCode() == 0) {
+        text = install ? WorkThread::tr("Windows application: install %1 done")
+                       : WorkThread::tr("Windows application: uninstall %1 done");
+    } else {
+        text = (install ? WorkThread::tr("Windows application: ERROR install %1: ")
+                        : WorkThread::tr("Windows application: ERROR uninstall %1: "))
+               + command.errorString();
+    }
+    return text.replace(u"%1"_s, name);
+}
+
+QString pageText(const QString &header, const QString &name, int exitCode)
+{
+    if (name == "Microsoft.XboxApp"_L1 && exitCode == 0) {
+        // The word is the same in every language here, so that the page takes no record of it in some.
+        return header + u"   package: "_s + name + u" ("_s + WorkThread::tr("Old Xbox App, no longer supported!")
+               + u") : "_s + WorkThread::tr("done");
+    }
+    return header + u"   "_s + WorkThread::tr("package: ") + name + u": "_s
+           + (exitCode == 0 ? WorkThread::tr("done") : WorkThread::tr("error"));
+}
+
+} // namespace
+
+int WorkThread::PackageSetState(const QList<PackageRow> &list, bool install)
+{
+    const QString header = u"   "_s + (install ? tr("Install") : tr("Uninstall"));
+    int exitCode = -1;
+    int counter = 1;
+    for (const PackageRow &row : list) {
+        Command command;
+        if (row.name == oneDriveName)
+            startOneDriveSetup(command, row, install);
+        else
+            startPowerShell(command, powerShellProgram(), row.name, install);
+        forgetOneDriveStartup(row.name);
+        command.waitForFinished();
+        exitCode = command.exitCode();
+        pauseFor(settleDelay);
+
+        if (optimizeRunning == 1 || restoreRunning == 1) {
+            // A package that was installed is recorded too: under the Automatizer the group only grows.
+            if (exitCode == 0)
+                openRecords(u"Packages"_s)->setValue(row.name, 1);
+            reportToAutomatizer(automatizerText(command, row.name, install));
+            reportToAutomatizer(u"pgr:value:"_s + QString::number(counter));
+        } else {
+            report(pageText(header, row.name, exitCode));
+        }
+        ++counter;
+    }
+    packageJobIdle = true;
+    if (optimizeRunning == 0)
+        report(header + u"   "_s + tr("packages finished") + u"  "_s);
+    return exitCode;
+}

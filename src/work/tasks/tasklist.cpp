@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The list of scheduled tasks, cut out of the export that schtasks prints.
+
+#include "platform/platform.h"
+#include "work/command.h"
+#include "work/errorlog.h"
+#include "work/interruption.h"
+#include "work/workthread.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTextStream>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/** What stands between the first @p begin and the @p end behind it; nothing where either is missing. */
+QStringView between(QStringView text, QStringView begin, QStringView end)
+{
+    const qsizetype start = text.indexOf(begin);
+    if (start < 0)
+        return {};
+    text = text.sliced(start + begin.size());
+    const qsizetype stop = text.indexOf(end);
+    return stop < 0 ? text : text.first(stop);
+}
+
+/** Output that came in spite of the redirection belongs to the export too. */
+void appendToExport(const QString &fileName, const QByteArray &output)
+{
+    QFile file(fileName);
+    if (!output.isEmpty() && file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text))
+        file.write(output + "\r\n");
+}
+
+/** Keeps the first export, for the user; nothing reads it. */
+void backUp(const QString &fileName)
+{
+    const QString folder = platform().programFolder() + u"/backup_tasks"_s;
+    QDir().mkpath(folder);
+    QFile::copy(fileName, folder + u"/tasks.xml"_s); // leaves a backup that is there as it is
+}
+
+} // namespace
+
+void WorkThread::TaskMakeList()
+{
+    tasks.clear();
+    const QString fileName = platform().hostPath(qEnvironmentVariable("temp") + u"/tasks.xml"_s);
+
+    Command schtasks;
+    schtasks.setStandardOutputFile(fileName);
+    if (!startListing(schtasks, u"TaskMakeList"_s, u"schtasks"_s, {u"/xml"_s}))
+        return;
+    schtasks.waitForFinished();
+    appendToExport(fileName, schtasks.readAllStandardOutput());
+    if (const int code = schtasks.exitCode(); code != 0) {
+        LogError(u"TaskMakeList: schtasks process error: "_s + QString::number(code));
+        return;
+    }
+    if (!QFile::exists(fileName))
+        return;
+    if (platform().isElevated())
+        backUp(fileName);
+
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return;
+    readTasks(QTextStream(&file).readAll());
+    if (analyzeRunning == 0)
+        report(u"WorkThread::TaskMakeList"_s);
+}
+
+void WorkThread::readTasks(const QString &exported)
+{
+    QList<QStringView> parts = QStringView(exported).split(u"</Task>"_s);
+    // Behind the last task there is at most the list's own closing tag.
+    parts.removeLast();
+    for (const QStringView part : std::as_const(parts)) {
+        endIfInterrupted();
+        const QStringView uri = between(part, u"<URI>", u"</URI>");
+        if (uri.isEmpty())
+            continue;
+        TaskRow row;
+        row.path = uri.sliced(1).toString(); // without the leading backslash
+        row.name = row.path.sliced(row.path.lastIndexOf(u'\\') + 1);
+        // The tag stands only where someone has switched the task, so its presence counts and not its value.
+        row.disabled = part.contains(u"<Enabled>") ? 1 : 0;
+        if (part.contains(u"<Description>")) {
+            row.description = between(part, u"<Description>", u"</Description>").toString();
+            if (row.description.startsWith("$(@"_L1))
+                row.description = ExpandResourceString(row.description);
+        } else {
+            row.description = tr("no description");
+        }
+        tasks.append(row);
+    }
+}

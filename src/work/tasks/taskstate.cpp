@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Disabling and enabling scheduled tasks.
+
+#include "work/command.h"
+#include "work/errorlog.h"
+#include "work/interruption.h"
+#include "work/settings.h"
+#include "work/workthread.h"
+
+using namespace Qt::StringLiterals;
+
+void WorkThread::TaskStopOrStart(const QList<TaskRow> &list)
+{
+    if (optimizeRunning == 0 && restoreRunning == 0)
+        report(u"pgr:max:"_s + QString::number(list.size()));
+    const int settleDelay = winName.contains("10"_L1) ? 1020 : 300;
+
+    for (qsizetype i = 0; i < list.size(); ++i) {
+        const TaskRow &task = list.at(i);
+        Command schtasks;
+        if (!startListing(schtasks, u"TaskStopOrStart"_s, u"schtasks"_s,
+                          {u"/CHANGE"_s, u"/TN"_s, task.path, task.disabled == 1 ? u"/DISABLE"_s : u"/ENABLE"_s}))
+            continue;
+        schtasks.waitForFinished();
+        pauseFor(settleDelay);
+        if (!taskRestoreMode && schtasks.exitCode() == 0)
+            openRecords(u"Task"_s)->setValue(task.path, task.disabled);
+
+        // The count begins at 0, so that the bar is full only when the closing line comes.
+        const QString progress = u"pgr:value:"_s + QString::number(i);
+        if (optimizeRunning == 0 && restoreRunning == 0 && analyzeRunning == 0) {
+            report(progress);
+            report(tr("Task:") + u' ' + task.name);
+        } else if (restoreRunning == 1) {
+            reportToAutomatizer(tr("Task: Enable and start %1 done").replace(u"%1"_s, task.name));
+            reportToAutomatizer(progress);
+        }
+    }
+    report(u"pgr:TaskSetState=finished"_s);
+}
