@@ -3,7 +3,7 @@
 
 #pragma once
 
-/** Makes standard output carry bytes as they are written. */
+/** Makes standard output and standard error carry bytes as they are written. */
 void useBinaryOutput();
 /** Whether someone may be reading standard error as it is written. */
 bool errorsGoToTerminal();

@@ -10,6 +10,7 @@
 void useBinaryOutput()
 {
     _setmode(_fileno(stdout), _O_BINARY);
+    _setmode(_fileno(stderr), _O_BINARY);
 }
 
 bool errorsGoToTerminal()

@@ -58,6 +58,7 @@ struct KindRow
 // clang-format off
 constexpr KindRow kindRows[] = {
     {DiffKind::Service,   "Services"_L1},
+    {DiffKind::Task,      "Scheduled tasks"_L1},
     {DiffKind::Registry,  "Registry"_L1},
     {DiffKind::File,      "Files"_L1},
     {DiffKind::Attribute, "File attributes"_L1},
@@ -116,9 +117,7 @@ QString diffText(const QList<DiffRow> &rows)
 
 QByteArray diffJson(const QList<DiffRow> &rows)
 {
-    const auto side = [](const QString &text) {
-        return text.isEmpty() ? QJsonValue() : QJsonValue(text);
-    };
+    const auto side = [](const QString &text) { return text.isEmpty() ? QJsonValue() : QJsonValue(text); };
     QJsonArray array;
     for (const DiffRow &row : rows) {
         array.append(QJsonObject{

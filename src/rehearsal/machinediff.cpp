@@ -4,6 +4,9 @@
 
 #include "filediff.h"
 #include "registrydiff.h"
+#include "taskdocument.h"
+
+#include <QCryptographicHash>
 
 #include <algorithm>
 #include <tuple>
@@ -34,6 +37,43 @@ void compareServices(const Machine &before, const Machine &after, QList<DiffRow>
     }
 }
 
+QString switchText(const std::optional<ScheduledTask> &task)
+{
+    if (!task)
+        return QString();
+    return taskFacts(task->document).enabled ? u"enabled"_s : u"disabled"_s;
+}
+
+/** Tells documents apart that differ in more than the task's switch. */
+QString documentText(const ScheduledTask &task)
+{
+    constexpr int digits = 8;
+    const QByteArray hash = QCryptographicHash::hash(task.document.toUtf8(), QCryptographicHash::Sha256).toHex();
+    return u", document of %1 characters, sha256 %2"_s.arg(task.document.size())
+        .arg(QLatin1StringView(hash.first(digits)));
+}
+
+void compareTasks(const Machine &before, const Machine &after, QList<DiffRow> &rows)
+{
+    const auto without = [](const ScheduledTask &task) { return withTaskEnabled(task.document, true); };
+    QMap<QString, QString> paths;
+    for (const Machine *machine : {&after, &before}) {
+        for (const ScheduledTask &task : machine->tasks())
+            paths.insert(foldName(task.path), task.path);
+    }
+    for (const QString &path : paths) {
+        const std::optional<ScheduledTask> left = before.task(path);
+        const std::optional<ScheduledTask> right = after.task(path);
+        DiffRow row{DiffKind::Task, path, QString(), switchText(left), switchText(right)};
+        if (left && right && without(*left) != without(*right)) {
+            row.before += documentText(*left);
+            row.after += documentText(*right);
+        }
+        if (row.before != row.after)
+            rows.append(row);
+    }
+}
+
 bool isBefore(const DiffRow &left, const DiffRow &right)
 {
     if (left.kind != right.kind)
@@ -50,6 +90,8 @@ QString kindName(DiffKind kind)
     switch (kind) {
     case DiffKind::Service:
         return u"service"_s;
+    case DiffKind::Task:
+        return u"task"_s;
     case DiffKind::Registry:
         return u"registry"_s;
     case DiffKind::File:
@@ -62,7 +104,7 @@ QString kindName(DiffKind kind)
 
 QList<DiffRow> compareMachines(Machine &before, Machine &after, const ProgressCallback &progress)
 {
-    constexpr int steps = 3;
+    constexpr int steps = 4;
 
     const auto tell = [&progress](const QString &step, int done) {
         if (progress)
@@ -71,9 +113,11 @@ QList<DiffRow> compareMachines(Machine &before, Machine &after, const ProgressCa
     QList<DiffRow> rows;
     tell(u"services"_s, 0);
     compareServices(before, after, rows);
-    tell(u"registry"_s, 1);
+    tell(u"tasks"_s, 1);
+    compareTasks(before, after, rows);
+    tell(u"registry"_s, 2);
     compareRegistries(before.registry(), after.registry(), rows);
-    tell(u"files"_s, 2);
+    tell(u"files"_s, 3);
     compareFiles(before, after, rows);
     std::stable_sort(rows.begin(), rows.end(), isBefore);
     return rows;

@@ -220,10 +220,8 @@ quint32 MachineJsonParser::attributes(const QJsonValue &value, const QString &ke
     quint32 word = folder ? folderBit : archiveBit;
     qsizetype index = 0;
     for (const QString &name : read_.names(value, key)) {
-        const auto row =
-            std::find_if(attributeWords.begin(), attributeWords.end(), [&name](const Attribute &attribute) {
-                return attribute.name == name;
-            });
+        const auto row = std::find_if(attributeWords.begin(), attributeWords.end(),
+                                      [&name](const Attribute &attribute) { return attribute.name == name; });
         if (row == attributeWords.end())
             read_.fail(keyAt(key, index), u"unknown attribute \"%1\""_s.arg(name));
         word |= row->bit;

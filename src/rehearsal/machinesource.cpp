@@ -7,6 +7,7 @@
 #include "platform/simulated/database.h"
 #include "platform/simulated/regfile.h"
 #include "screport.h"
+#include "taskexport.h"
 
 #include <QDir>
 #include <QFile>
@@ -63,6 +64,7 @@ private:
     void apply(const MachineDescription &description);
     void apply(const QList<FileDescription> &files);
     void apply(const QList<ServiceReport> &services);
+    void apply(const QList<ScheduledTask> &tasks);
     void addVariables(const QMap<QString, QString> &added);
     void addDll(const QString &path, const QMap<uint, QString> &strings);
 
@@ -78,13 +80,16 @@ void Import::file(const QString &path)
     const QString text = decoded(bytes);
     if (isRegistryScript(path, text))
         applyRegistryScript(machine_.database(), machine_.registry(), parseRegistryScript(bytes, path));
+    else if (isTaskExport(path, bytes))
+        apply(parseTaskExport(bytes, path));
     else if (path.endsWith(".json"_L1, Qt::CaseInsensitive) || text.trimmed().startsWith(u'{'))
         apply(parseMachineJson(bytes, path));
     else if (isServiceReport(text))
         apply(parseServiceReport(text, path));
     else
         throw MachineError{
-            u"%1: neither a registry script, nor a machine.json, nor a list of services by sc"_s.arg(path)};
+            u"%1: neither a registry script, nor scheduled tasks, nor a machine.json, nor a list of services by sc"_s
+                .arg(path)};
 }
 
 void Import::apply(const MachineDescription &description)
@@ -151,6 +156,12 @@ void Import::apply(const QList<ServiceReport> &services)
     }
 }
 
+void Import::apply(const QList<ScheduledTask> &tasks)
+{
+    for (const ScheduledTask &task : tasks)
+        machine_.setTask(task);
+}
+
 void Import::addDll(const QString &path, const QMap<uint, QString> &strings)
 {
     machine_.setDllStrings(path, strings);
@@ -166,10 +177,12 @@ QStringList sourceFiles(const QString &sources)
     QStringList files;
     for (const QString &name : folder.entryList({u"*.reg"_s}, QDir::Files, QDir::Name))
         files.append(folder.filePath(name));
-    if (folder.exists(u"machine.json"_s))
-        files.append(folder.filePath(u"machine.json"_s));
+    for (const QString &name : {u"tasks.xml"_s, u"machine.json"_s}) {
+        if (folder.exists(name))
+            files.append(folder.filePath(name));
+    }
     if (files.isEmpty())
-        throw MachineError{u"%1: holds neither .reg files nor a machine.json"_s.arg(sources)};
+        throw MachineError{u"%1: holds neither .reg files nor a tasks.xml nor a machine.json"_s.arg(sources)};
     return files;
 }
 

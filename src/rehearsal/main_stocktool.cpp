@@ -19,9 +19,9 @@ namespace {
 
 constexpr int exitMachineUnreadable = 3;
 
-void print(const QByteArray &bytes)
+void print(const QByteArray &bytes, std::FILE *stream = stdout)
 {
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
 }
 
 /** Waits to be ended; also ends when its starter has gone, so that a run that was broken off leaves nothing behind. */
@@ -39,13 +39,13 @@ void hang()
 ToolResult runFault(const ToolFault &fault)
 {
     if (fault.missing)
-        return {exitNoSuchProgram, QByteArray()};
+        return {exitNoSuchProgram};
     const QByteArray output = fault.output.value_or(QString()).toUtf8();
     for (int i = 0; i < fault.repeat && !output.isEmpty(); ++i)
         print(output);
     if (fault.hang)
         hang();
-    return {fault.exitCode.value_or(0), QByteArray()};
+    return {fault.exitCode.value_or(0)};
 }
 
 /** The machine in whose tools folder the program lies, else the one that the environment names. */
@@ -75,6 +75,7 @@ int runOnMachine(const QString &program, const QStringList &arguments)
     // All is written down before anyone can know the end of the output.
     machine->logCommand(name, arguments, result.exitCode);
     machine->leaveExitCode(self, result.exitCode);
+    print(result.errors, stderr);
     print(result.output);
     return result.exitCode;
 }

@@ -119,6 +119,7 @@ private Q_SLOTS:
     void nestedTransactions();
     void aQueryInsideTheSameQuery();
     void threadsLoseNothing();
+    void tasksKeepTheirOrderAndAreFoundWithoutCase();
     void processesLoseNothing();
 
 private:
@@ -611,9 +612,7 @@ void TestMachine::aQueryInsideTheSameQuery()
     const auto machine = Machine::create(folder());
     machine->setProcesses({u"a"_s, u"b"_s, u"c"_s});
     QStringList pairs;
-    const auto query = [&machine]() {
-        return machine->database().query("SELECT name FROM process ORDER BY id");
-    };
+    const auto query = [&machine]() { return machine->database().query("SELECT name FROM process ORDER BY id"); };
     auto outer = query();
     while (outer.next()) {
         auto inner = query();
@@ -628,14 +627,36 @@ void TestMachine::threadsLoseNothing()
     const auto machine = Machine::create(folder());
     std::vector<std::thread> threads;
     for (int i = 0; i < 4; ++i)
-        threads.emplace_back([&machine, i] {
-            writeRounds(*machine, QString::number(i));
-        });
+        threads.emplace_back([&machine, i] { writeRounds(*machine, QString::number(i)); });
     for (std::thread &thread : threads)
         thread.join();
     const auto key = machine->registry().find(counterKey).value();
     QCOMPARE(textOf(machine->registry().value(key, u"n"_s)->data).toInt(), 4 * rounds);
     QCOMPARE(machine->registry().valuePaths(key).size(), 1 + 4 * rounds);
+}
+
+void TestMachine::tasksKeepTheirOrderAndAreFoundWithoutCase()
+{
+    const QTemporaryDir folder;
+    const ScheduledTask last{u"\\Microsoft\\Größe"_s, u"<Task>1</Task>"_s};
+    const ScheduledTask first{u"\\a"_s, u"<Task>2</Task>"_s};
+    {
+        const auto machine = Machine::create(folder.filePath(u"m"_s));
+        QVERIFY(machine->tasks().isEmpty());
+        machine->setTask(last);
+        machine->setTask(first);
+    }
+    const auto machine = Machine::open(folder.filePath(u"m"_s));
+    QCOMPARE(machine->tasks(), QList<ScheduledTask>({last, first}));
+    QCOMPARE(machine->task(u"\\MICROSOFT\\GRÖSSE"_s), std::nullopt);
+    QCOMPARE(machine->task(u"\\microsoft\\GRÖßE"_s), std::optional(last));
+
+    // A document that is set anew keeps the task's place and the case of its path.
+    machine->setTask({u"\\MICROSOFT\\größe"_s, u"<Task>3</Task>"_s});
+    QCOMPARE(machine->tasks(), QList<ScheduledTask>({{last.path, u"<Task>3</Task>"_s}, first}));
+    machine->removeTask(u"\\A"_s);
+    machine->removeTask(u"\\none"_s);
+    QCOMPARE(machine->tasks().size(), 1);
 }
 
 void TestMachine::processesLoseNothing()

@@ -217,9 +217,7 @@ void TestPlatform::walkEndsWhenTheVisitorHasEnough()
         writeFile(drive() + u"/a/b%1/c"_s.arg(i), "x");
     for (int limit = 1; limit <= 41; limit += 5) {
         int count = 0;
-        platform().walk(u"C:"_s, [&count, limit](const WalkEntry &) {
-            return ++count < limit;
-        });
+        platform().walk(u"C:"_s, [&count, limit](const WalkEntry &) { return ++count < limit; });
         QCOMPARE(count, limit);
     }
 }
@@ -342,9 +340,7 @@ void TestPlatform::launcherIsAskedInstead()
 {
     QList<ShellStart> starts;
     SimulatedOptions options;
-    options.launcher = [&starts](const ShellStart &start) {
-        starts << start;
-    };
+    options.launcher = [&starts](const ShellStart &start) { starts << start; };
     contract_->restart(options);
     platform().shellExecute({u"runas"_s, u"C:\\x.exe"_s, u"-a \"b c\""_s});
     QCOMPARE(starts.size(), 1);
@@ -535,9 +531,7 @@ void TestPlatform::pausesEndWhenInterrupted()
     SimulatedOptions options;
     options.pace = 1;
     contract_->restart(options);
-    const std::unique_ptr<QThread> thread(QThread::create([] {
-        platform().pause(600000);
-    }));
+    const std::unique_ptr<QThread> thread(QThread::create([] { platform().pause(600000); }));
     thread->start();
     QList<int> pauses;
     QTRY_VERIFY(!(pauses += contract_->simulated().takePauses()).isEmpty());

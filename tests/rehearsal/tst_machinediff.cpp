@@ -48,6 +48,7 @@ private Q_SLOTS:
     void sameSourcesDifferInNothing();
     void toolsLogsAndDatabaseAreNotCompared();
     void runStates();
+    void tasks();
     void valuesOfEachType_data();
     void valuesOfEachType();
     void typeAloneDiffers();
@@ -93,6 +94,40 @@ void TestMachineDiff::runStates()
     QCOMPARE(rows.size(), 2);
     QCOMPARE(rows.mid(0, 1), oneRow(DiffKind::Service, u"Appinfo"_s, {}, u"never started"_s, u"running"_s));
     QCOMPARE(rows.mid(1, 1), oneRow(DiffKind::Service, u"DiagTrack"_s, {}, u"running"_s, u"stopped"_s));
+}
+
+void TestMachineDiff::tasks()
+{
+    const auto document = [](const char *settings, const char *info = "") {
+        return QString(u"<Task><RegistrationInfo>%1</RegistrationInfo><Settings>%2</Settings></Task>"_s)
+            .arg(QLatin1StringView(info), QLatin1StringView(settings));
+    };
+    const QString off = document("<Enabled>false</Enabled>");
+    Pair pair;
+    for (const QString &path : {u"\\same"_s, u"\\Folder\\switched"_s, u"\\changed"_s, u"\\removed"_s, u"\\both"_s})
+        pair.before->setTask({path, document("")});
+    pair.after->setTask({u"\\SAME"_s, document("")});
+    pair.after->setTask({u"\\Folder\\switched"_s, off});
+    pair.after->setTask({u"\\changed"_s, document("", "x")});
+    pair.after->setTask({u"\\new"_s, off});
+    pair.after->setTask({u"\\both"_s, document("<Enabled>false</Enabled>", "x")});
+
+    const QList<DiffRow> rows = pair.rows();
+    QCOMPARE(rows.size(), 5);
+    const auto task = [](const QString &path, const QString &before, const QString &after) {
+        return oneRow(DiffKind::Task, path, {}, before, after);
+    };
+    const QString plain = u", document of 71 characters, sha256 "_s;
+    QVERIFY2(rows.at(0).before.startsWith(u"enabled"_s + plain), qUtf8Printable(rows.at(0).before));
+    QVERIFY(rows.at(0).after.startsWith("disabled, document of 96 characters, sha256 "_L1));
+    QCOMPARE(rows.at(1).path, u"\\changed"_s);
+    QVERIFY(rows.at(1).after.startsWith("enabled, document of 72 characters, sha256 "_L1));
+    QVERIFY(rows.at(1).before.startsWith(u"enabled"_s + plain));
+    QCOMPARE(rows.mid(2, 1), task(u"\\Folder\\switched"_s, u"enabled"_s, u"disabled"_s));
+    QCOMPARE(rows.mid(3, 1), task(u"\\new"_s, {}, u"disabled"_s));
+    QCOMPARE(rows.mid(4, 1), task(u"\\removed"_s, u"enabled"_s, {}));
+    QVERIFY(diffText(rows).startsWith("task      \\both"_L1));
+    QVERIFY(diffHtml(rows, u"a"_s, u"b"_s).contains("<h2>Scheduled tasks (5)</h2>"_L1));
 }
 
 void TestMachineDiff::valuesOfEachType_data()

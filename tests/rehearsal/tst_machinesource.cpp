@@ -200,10 +200,7 @@ void TestMachineSource::malformedJsonIsToldWithItsPlace()
     const QString file = machine.beside(u"machine.json"_s);
     writeFile(file, document);
     const Snapshot before(machine);
-    QCOMPARE(errorOf([&] {
-                 importFile(*machine, file);
-             }),
-             file + message);
+    QCOMPARE(errorOf([&] { importFile(*machine, file); }), file + message);
     QVERIFY(Snapshot(machine) == before);
 }
 
@@ -226,25 +223,19 @@ void TestMachineSource::brokenSourcesLeaveNothing()
     const QTemporaryDir place;
     QVERIFY(QFile::copy(smallSources() + u"/10-services.reg"_s, sources.filePath(u"a.reg"_s)));
     writeFile(sources.filePath(file), content);
-    QVERIFY(!errorOf([&] {
-                 makeMachine(place.filePath(u"m"_s), sources.path(), Existing::Keep);
-             }).isEmpty());
+    QVERIFY(!errorOf([&] { makeMachine(place.filePath(u"m"_s), sources.path(), Existing::Keep); }).isEmpty());
     QVERIFY(QDir(place.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 }
 
 void TestMachineSource::existingFoldersAreKept()
 {
     SmallMachine machine;
-    QCOMPARE(errorOf([&] {
-                 makeMachine(machine.folder(), QString(), Existing::Keep);
-             }),
+    QCOMPARE(errorOf([&] { makeMachine(machine.folder(), QString(), Existing::Keep); }),
              machine.folder() + u": there is a machine already"_s);
     const QTemporaryDir place;
     writeFile(place.filePath(u"photo"_s), "x");
     for (const Existing existing : {Existing::Keep, Existing::Replace})
-        QCOMPARE(errorOf([&] {
-                     makeMachine(place.path(), QString(), existing);
-                 }),
+        QCOMPARE(errorOf([&] { makeMachine(place.path(), QString(), existing); }),
                  place.path() + u": the folder isn't empty"_s);
     QCOMPARE(readFile(place.filePath(u"photo"_s)), QByteArray("x"));
     // An empty folder is as good as none.
@@ -270,9 +261,7 @@ void TestMachineSource::failedReplacementKeepsTheMachine()
     makeMachine(place, smallSources(), Existing::Keep);
     const QTemporaryDir sources;
     writeFile(sources.filePath(u"machine.json"_s), "{");
-    QVERIFY(!errorOf([&] {
-                 makeMachine(place, sources.path(), Existing::Replace);
-             }).isEmpty());
+    QVERIFY(!errorOf([&] { makeMachine(place, sources.path(), Existing::Replace); }).isEmpty());
     const auto kept = Machine::open(place);
     QCOMPARE(compareMachines(*machine, *kept), QList<DiffRow>());
 }
@@ -333,9 +322,7 @@ void TestMachineSource::failedImportChangesNothing()
     const Snapshot before(machine);
     const QString file = machine.beside(name);
     writeFile(file, content);
-    const QString message = errorOf([&] {
-        importFile(*machine, file);
-    });
+    const QString message = errorOf([&] { importFile(*machine, file); });
     QVERIFY(!message.isEmpty());
     QVERIFY2(!message.contains(u'\n'), qPrintable(message));
     QVERIFY(Snapshot(machine) == before);
@@ -417,14 +404,11 @@ void TestMachineSource::unknownFilesAreRefused()
     SmallMachine machine;
     const QString file = machine.beside(u"photo.jpg"_s);
     writeFile(file, "\xff\xd8\xff\xe0 SERVICE_NAME");
-    QCOMPARE(errorOf([&] {
-                 importFile(*machine, file);
-             }),
-             file + u": neither a registry script, nor a machine.json, nor a list of services by sc"_s);
-    QCOMPARE(errorOf([&] {
-                 importFile(*machine, machine.folder());
-             }),
-             machine.folder() + u": is a folder"_s);
+    QCOMPARE(errorOf([&] { importFile(*machine, file); }),
+             file
+                 + u": neither a registry script, nor scheduled tasks, nor a machine.json, nor a list of services by "
+                   "sc"_s);
+    QCOMPARE(errorOf([&] { importFile(*machine, machine.folder()); }), machine.folder() + u": is a folder"_s);
 }
 
 QTEST_GUILESS_MAIN(TestMachineSource)

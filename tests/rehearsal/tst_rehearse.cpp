@@ -110,7 +110,7 @@ void TestRehearse::helpOfEachCommand_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("new") << QByteArray("--from SOURCE");
-    QTest::newRow("list") << QByteArray("services|processes|registry KEY");
+    QTest::newRow("list") << QByteArray("services|tasks|packages|autorun|processes|registry KEY");
     QTest::newRow("run") << QByteArray("svc-disable NAME...");
     QTest::newRow("import") << QByteArray("DIR FILE...");
     QTest::newRow("export") << QByteArray("DIR KEY");

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The stock tools, run as the processes they are.
 
-#include "smallmachine.h"
+#include "toolrun.h"
 
 #include "platform/simulated/regfile.h"
 
@@ -17,17 +17,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString servicesKey = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services"_s;
-const Variables elevated{{u"KESTRUNE_ELEVATED"_s, u"1"_s}};
-const Variables notElevated{{u"KESTRUNE_ELEVATED"_s, u"0"_s}};
-
-/** Runs a tool of the machine; the exit code is the whole one. */
-Ended runTool(SmallMachine &machine, const QString &tool, const QStringList &arguments,
-              const Variables &variables = elevated)
-{
-    Ended ended = runProgram(machine->toolsFolder() + u'/' + tool, arguments, variables);
-    ended.exitCode = machine->takeExitCode(ended.processId).value_or(-1);
-    return ended;
-}
 
 std::optional<quint32> number(SmallMachine &machine, const QString &service, const QString &name)
 {

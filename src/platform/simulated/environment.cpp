@@ -23,9 +23,8 @@ constexpr QStringView hostVariables[] = {
 
 bool isOfHost(const QString &name)
 {
-    return std::any_of(std::begin(hostVariables), std::end(hostVariables), [&name](QStringView each) {
-        return name.compare(each, Qt::CaseInsensitive) == 0;
-    });
+    return std::any_of(std::begin(hostVariables), std::end(hostVariables),
+                       [&name](QStringView each) { return name.compare(each, Qt::CaseInsensitive) == 0; });
 }
 
 QSet<QString> spellingsOf(const QString &name)

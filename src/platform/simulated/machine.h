@@ -20,6 +20,15 @@ struct MachineError
     QString message;
 };
 
+/** A scheduled task. */
+struct ScheduledTask
+{
+    QString path;     ///< with its leading backslash: "\Microsoft\Windows\Defrag\ScheduledDefrag"
+    QString document; ///< its XML from "<Task" to "</Task>", lines ended by LF
+
+    friend bool operator==(const ScheduledTask &, const ScheduledTask &) = default;
+};
+
 /** What a tool of a machine is told to do instead of its work. */
 struct ToolFault
 {
@@ -33,10 +42,10 @@ struct ToolFault
 /**
  * The machine's folder:
  *
- *     machine.sqlite   registry, run states, processes, attributes, WMI, DLL strings, environment, faults
+ *     machine.sqlite   registry, run states, processes, tasks, attributes, WMI, DLL strings, environment, faults
  *     drive_c/         the files the program can see
  *     program/         the program folder: log.txt, backup_svc, backup_tasks
- *     tools/           sc, cmd, ... all of them kestrune-stocktool
+ *     tools/           sc, schtasks, ... all of them kestrune-stocktool
  *     commands.log     one JSON line for each tool run: program, arguments, exitCode
  *
  * Several processes may hold one machine open at a time, and several threads one object.
@@ -75,6 +84,13 @@ public:
 
     QStringList processes() const;
     void setProcesses(const QStringList &names);
+
+    /** Scheduled tasks in the order in which they came. A path is found without regard to case. */
+    QList<ScheduledTask> tasks() const;
+    std::optional<ScheduledTask> task(const QString &path) const;
+    /** Registers a task or changes the document of one; that one keeps its place and the case of its path. */
+    void setTask(const ScheduledTask &task);
+    void removeTask(const QString &path);
 
     /** A string of a DLL; null text where the DLL has no such string, null altogether where the file is no DLL. */
     std::optional<std::optional<QString>> dllString(const QString &windowsPath, uint id) const;

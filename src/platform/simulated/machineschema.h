@@ -28,6 +28,8 @@ INSERT INTO key (parent, name, fold) VALUES
 CREATE TABLE environment (name TEXT PRIMARY KEY, value TEXT NOT NULL) WITHOUT ROWID;
 CREATE TABLE runstate (fold TEXT PRIMARY KEY, service TEXT NOT NULL, running INTEGER NOT NULL) WITHOUT ROWID;
 CREATE TABLE process (id INTEGER PRIMARY KEY, name TEXT NOT NULL);
+-- In the order in which they came; the document is the <Task> element alone, with LF line ends.
+CREATE TABLE task (id INTEGER PRIMARY KEY, fold TEXT NOT NULL UNIQUE, path TEXT NOT NULL, document TEXT NOT NULL);
 CREATE TABLE dll (fold TEXT PRIMARY KEY) WITHOUT ROWID;
 CREATE TABLE dllstring (fold TEXT, id INTEGER, text TEXT NOT NULL, PRIMARY KEY (fold, id)) WITHOUT ROWID;
 CREATE TABLE wmiclass (fold TEXT PRIMARY KEY, name TEXT NOT NULL) WITHOUT ROWID;

@@ -98,6 +98,39 @@ void Machine::setProcesses(const QStringList &names)
     transaction.commit();
 }
 
+QList<ScheduledTask> Machine::tasks() const
+{
+    QList<ScheduledTask> result;
+    auto query = database_->query("SELECT path, document FROM task ORDER BY id");
+    while (query.next())
+        result.append({query.text(0), query.text(1)});
+    return result;
+}
+
+std::optional<ScheduledTask> Machine::task(const QString &path) const
+{
+    auto query = database_->query("SELECT path, document FROM task WHERE fold = ?");
+    if (!query.bind(foldName(path)).next())
+        return {};
+    return ScheduledTask{query.text(0), query.text(1)};
+}
+
+void Machine::setTask(const ScheduledTask &task)
+{
+    database_
+        ->query("INSERT INTO task (fold, path, document) VALUES (?, ?, ?) "
+                "ON CONFLICT (fold) DO UPDATE SET document = excluded.document")
+        .bind(foldName(task.path))
+        .bind(task.path)
+        .bind(task.document)
+        .run();
+}
+
+void Machine::removeTask(const QString &path)
+{
+    database_->query("DELETE FROM task WHERE fold = ?").bind(foldName(path)).run();
+}
+
 std::optional<std::optional<QString>> Machine::dllString(const QString &windowsPath, uint id) const
 {
     const QString key = pathKey(windowsPath);

@@ -194,9 +194,8 @@ QList<RegistryValue> RegistryStore::values(KeyId key) const
     query.bind(key);
     while (query.next())
         result << RegistryValue{query.text(0), RegistryType(quint32(query.integer(1))), query.bytes(2)};
-    std::sort(result.begin(), result.end(), [](const RegistryValue &a, const RegistryValue &b) {
-        return a.name < b.name;
-    });
+    std::sort(result.begin(), result.end(),
+              [](const RegistryValue &a, const RegistryValue &b) { return a.name < b.name; });
     return result;
 }
 

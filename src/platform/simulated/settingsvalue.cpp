@@ -102,9 +102,8 @@ RegistryValue registryValueOfList(const QString &name, const QVariant &value)
     for (const QVariant &each : value.toList())
         texts << textOfVariant(each);
     // An empty text would end the list.
-    const bool listable = std::none_of(texts.cbegin(), texts.cend(), [](const QString &text) {
-        return text.isEmpty() || text.contains(QChar(0));
-    });
+    const bool listable = std::none_of(texts.cbegin(), texts.cend(),
+                                       [](const QString &text) { return text.isEmpty() || text.contains(QChar(0)); });
     if (listable)
         return {name, RegistryType::MultiString, registryTexts(texts)};
     return {name, RegistryType::Binary, registryText(textOfVariant(value)).chopped(2)};

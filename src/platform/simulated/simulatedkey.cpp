@@ -85,9 +85,8 @@ SimulatedKey::SimulatedKey(RegistryStore &store, const QString &path, bool eleva
     : store_(store)
 {
     const QString trimmed = path.startsWith(u'\\') ? path.mid(1) : path;
-    const bool known = std::any_of(std::begin(hiveNames), std::end(hiveNames), [&trimmed](QStringView hive) {
-        return beginsWithHive(trimmed, hive);
-    });
+    const bool known = std::any_of(std::begin(hiveNames), std::end(hiveNames),
+                                   [&trimmed](QStringView hive) { return beginsWithHive(trimmed, hive); });
     if (!known)
         return;
     path_ = trimmed;
@@ -120,17 +119,13 @@ QVariant SimulatedKey::value(const QString &name, const QVariant &fallback) cons
 {
     if (name.isEmpty())
         return {};
-    const auto found = guarded<std::optional<RegistryValue>>([&] {
-        return read(name);
-    });
+    const auto found = guarded<std::optional<RegistryValue>>([&] { return read(name); });
     return found ? variantOf(*found) : fallback;
 }
 
 bool SimulatedKey::contains(const QString &name) const
 {
-    return guarded<bool>([&] {
-        return read(name).has_value();
-    });
+    return guarded<bool>([&] { return read(name).has_value(); });
 }
 
 void SimulatedKey::setValue(const QString &name, const QVariant &value)

@@ -66,9 +66,8 @@ QString toolOf(const QString &program)
 
 bool isBareName(const QString &program)
 {
-    return std::none_of(program.cbegin(), program.cend(), [](QChar unit) {
-        return unit == u'/' || unit == u'\\' || unit == u':';
-    });
+    return std::none_of(program.cbegin(), program.cend(),
+                        [](QChar unit) { return unit == u'/' || unit == u'\\' || unit == u':'; });
 }
 
 /** A property as the text of what its VARIANT holds, read as a text or else as 32 bits. */
@@ -139,17 +138,13 @@ QString SimulatedPlatform::resourceFolder() const
 
 void SimulatedPlatform::walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const
 {
-    const QStringList hidden = guarded(QStringList(), [this] {
-        return machine_->pathsWithAttribute(hiddenBit);
-    });
+    const QStringList hidden = guarded(QStringList(), [this] { return machine_->pathsWithAttribute(hiddenBit); });
     walkFolder(hostPath(windowsPath), QSet<QString>(hidden.cbegin(), hidden.cend()), visit);
 }
 
 QString SimulatedPlatform::programFile(const QString &program) const
 {
-    return guarded(QString(), [&] {
-        return resolvedProgram(withoutQuotes(program));
-    });
+    return guarded(QString(), [&] { return resolvedProgram(withoutQuotes(program)); });
 }
 
 QString SimulatedPlatform::resolvedProgram(const QString &program) const
@@ -171,9 +166,7 @@ QString SimulatedPlatform::resolvedProgram(const QString &program) const
 
 int SimulatedPlatform::exitCode(qint64 processId, int reported) const
 {
-    return guarded(reported, [&] {
-        return machine_->takeExitCode(processId).value_or(reported);
-    });
+    return guarded(reported, [&] { return machine_->takeExitCode(processId).value_or(reported); });
 }
 
 bool SimulatedPlatform::isElevated() const
@@ -211,9 +204,7 @@ DllString SimulatedPlatform::dllString(const QString &windowsPath, uint id) cons
         result.error = errorModuleNotFound;
         return result;
     }
-    const auto found = guarded(std::optional<std::optional<QString>>(), [&] {
-        return machine_->dllString(path, id);
-    });
+    const auto found = guarded(std::optional<std::optional<QString>>(), [&] { return machine_->dllString(path, id); });
     result.loaded = found.has_value();
     if (found)
         result.text = *found;

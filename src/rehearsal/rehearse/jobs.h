@@ -12,14 +12,19 @@ struct JobRow
     QLatin1StringView name;
     QLatin1StringView operands; ///< for the help
     QLatin1StringView help;
-    int job;
+    int job; ///< of WorkThread, or jobAutorun
     qsizetype fewestOperands;
     qsizetype mostOperands;        ///< -1: any number
     QLatin1StringView closingLine; ///< the job's last line; empty where an empty line closes it
-    /** Writes the job's input into the worker. */
+    /** Writes the job's input into the worker; of jobAutorun, does the work. */
     void (*prepare)(WorkThread &worker, const QStringList &operands) = nullptr;
     /** What of the operands didn't come to what was asked for, when the job is over. */
     QStringList (*unreached)(const QStringList &operands) = nullptr;
+    /** Takes each line of valueChanged, as the window does for its records. */
+    void (*record)(const QString &line) = nullptr;
 };
+
+/** What starts at logon is listed and switched without a job: on the main thread, and the list follows. */
+constexpr int jobAutorun = -1;
 
 std::span<const JobRow> jobRows();

@@ -47,7 +47,7 @@ QString builtInMachines()
 
 // clang-format off
 constexpr OptionRow options[] = {
-    {"from"_L1,  "SOURCE"_L1, "fill it from a built-in machine, or from a folder of .reg files and machine.json"_L1},
+    {"from"_L1,  "SOURCE"_L1, "fill it from a built-in machine, or from a folder of .reg files, tasks.xml and machine.json"_L1},
     {"force"_L1, {},          "replace the machine that is there"_L1},
 };
 // clang-format on

@@ -113,18 +113,45 @@ private:
 };
 
 /** Runs the job to its end. */
-void runToEnd(WorkThread &worker, int job, LinePrinter &printer)
+void runToEnd(WorkThread &worker, const JobRow &row, LinePrinter &printer)
 {
-    QObject::connect(&worker, &WorkThread::valueChanged, &worker,
-                     [&printer](const QString &line) { printer.take("valueChanged"_L1, line); });
+    QObject::connect(&worker, &WorkThread::valueChanged, &worker, [&](const QString &line) {
+        printer.take("valueChanged"_L1, line);
+        if (row.record != nullptr)
+            row.record(line);
+    });
     QObject::connect(&worker, &WorkThread::automatizerValueChanged, &worker,
                      [&printer](const QString &line) { printer.take("automatizerValueChanged"_L1, line); });
     // Queued behind the lines that are under way.
     QObject::connect(
         &worker, &QThread::finished, &worker, [] { QCoreApplication::quit(); }, Qt::QueuedConnection);
-    worker.startJob(job);
+    worker.startJob(row.job);
     QCoreApplication::exec();
     worker.wait();
+}
+
+/** Prints what starts at logon now. */
+void printAutorun(WorkThread &worker, LinePrinter &printer)
+{
+    worker.AutorunGetList();
+    for (const AutorunRow &entry : std::as_const(worker.autoruns))
+        printer.take("autorun"_L1, entry);
+}
+
+/** Runs what the row says on a worker that has its input. A Failure where the job didn't come to its end. */
+void runRow(WorkThread &worker, const JobRow &row, bool json)
+{
+    Progress progress;
+    progress.show(u"running %1 ..."_s.arg(row.name), 0, 0);
+    LinePrinter printer(json, progress);
+    if (row.job == jobAutorun) {
+        printAutorun(worker, printer);
+        return;
+    }
+    runToEnd(worker, row, printer);
+    progress.clear();
+    if (!printer.anyLine() || printer.lastLine() != row.closingLine)
+        throw Failure{ExitJobFailed, u"the job %1 ended without its closing line"_s.arg(row.name)};
 }
 
 int runJob(const Arguments &arguments)
@@ -145,13 +172,7 @@ int runJob(const Arguments &arguments)
     if (row.prepare != nullptr)
         row.prepare(worker, operands);
 
-    Progress progress;
-    progress.show(u"running %1 ..."_s.arg(row.name), 0, 0);
-    LinePrinter printer(arguments.has("json"_L1), progress);
-    runToEnd(worker, row.job, printer);
-    progress.clear();
-    if (!printer.anyLine() || printer.lastLine() != row.closingLine)
-        throw Failure{ExitJobFailed, u"the job %1 ended without its closing line"_s.arg(row.name)};
+    runRow(worker, row, arguments.has("json"_L1));
     if (row.unreached != nullptr) {
         if (const QStringList left = row.unreached(operands); !left.isEmpty())
             throw Failure{ExitJobFailed, u"%1 failed for %2"_s.arg(row.name, left.join(", "_L1))};
@@ -163,7 +184,7 @@ QString moreHelp()
 {
     QString text = u"Jobs:\n"_s;
     for (const JobRow &row : jobRows())
-        text += u"  "_s + (QString(row.name) + u' ' + row.operands).leftJustified(24) + row.help + u'\n';
+        text += u"  "_s + (QString(row.name) + u' ' + row.operands).leftJustified(28) + row.help + u'\n';
     QStringList names;
     for (const KeepRow &row : keepRows)
         names.append(row.name);

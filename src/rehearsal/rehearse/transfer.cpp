@@ -33,7 +33,7 @@ int runExport(const Arguments &arguments)
 const Subcommand importSubcommand{
     "import"_L1,
     "DIR FILE..."_L1,
-    "import .reg files, machine.json, or what 'sc query state= all' printed on a PC"_L1,
+    "import .reg files, machine.json, or what 'sc query state= all' or 'schtasks /xml' printed on a PC"_L1,
     {},
     2,
     -1,

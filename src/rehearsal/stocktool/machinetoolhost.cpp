@@ -2,9 +2,17 @@
 
 #include "machinetoolhost.h"
 
-#include "platform/simulated/machine.h"
+#include "platform/simulated/database.h"
 #include "platform/simulated/simulatedkey.h"
 #include "rehearsal/resourcetext.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString processClass = u"Win32_Process"_s;
+
+} // namespace
 
 MachineToolHost::MachineToolHost(Machine &machine, bool elevated)
     : machine_(machine)
@@ -42,4 +50,40 @@ QStringList MachineToolHost::runningServices() const
 {
     const QMap<QString, bool> states = machine_.runStates();
     return states.keys(true);
+}
+
+QList<ScheduledTask> MachineToolHost::tasks() const
+{
+    return machine_.tasks();
+}
+
+std::optional<ScheduledTask> MachineToolHost::task(const QString &path) const
+{
+    return machine_.task(path);
+}
+
+void MachineToolHost::setTask(const ScheduledTask &task)
+{
+    machine_.setTask(task);
+}
+
+QStringList MachineToolHost::processes() const
+{
+    return machine_.processes();
+}
+
+void MachineToolHost::endProcesses(const QString &name)
+{
+    Database::Transaction transaction(machine_.database());
+    QStringList left = machine_.processes();
+    left.removeIf([&name](const QString &process) { return process.compare(name, Qt::CaseInsensitive) == 0; });
+    machine_.setProcesses(left);
+    // The management instrumentation lists them, too.
+    QList<QJsonObject> instances = machine_.wmiInstances(processClass);
+    instances.removeIf([&name](const QJsonObject &instance) {
+        return instance.value("Name"_L1).toString().compare(name, Qt::CaseInsensitive) == 0;
+    });
+    if (machine_.hasWmiClass(processClass))
+        machine_.setWmiInstances(processClass, instances);
+    transaction.commit();
 }

@@ -5,8 +5,6 @@
 
 #include "toolhost.h"
 
-class Machine;
-
 class MachineToolHost final : public ToolHost
 {
 public:
@@ -19,6 +17,11 @@ public:
     std::optional<bool> isRunning(const QString &service) const override;
     void setRunning(const QString &service, bool running) override;
     QStringList runningServices() const override;
+    QList<ScheduledTask> tasks() const override;
+    std::optional<ScheduledTask> task(const QString &path) const override;
+    void setTask(const ScheduledTask &task) override;
+    QStringList processes() const override;
+    void endProcesses(const QString &name) override;
 
 private:
     Machine &machine_;

@@ -120,9 +120,7 @@ QByteArray scRecord(const ServiceDatabase &services, const Service &service, ScR
 
 QByteArray scConfiguration(const ServiceDatabase &services, const Service &service)
 {
-    const auto number = [](quint32 value, QLatin1StringView text) {
-        return QString::number(value) + u"   "_s + text;
-    };
+    const auto number = [](quint32 value, QLatin1StringView text) { return QString::number(value) + u"   "_s + text; };
     const auto start = static_cast<quint32>(service.start);
     const bool delayed = service.start == StartMode::Auto && services.number(service, u"DelayedAutostart"_s) != 0;
     const quint32 errorControl = services.number(service, u"ErrorControl"_s);

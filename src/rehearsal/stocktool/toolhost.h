@@ -4,13 +4,14 @@
 #pragma once
 
 #include "platform/registrykey.h"
+#include "platform/simulated/machine.h"
 
 #include <QStringList>
 
 #include <memory>
 #include <optional>
 
-/** A Windows for the stock tools: its registry, and what of its services isn't in the registry. */
+/** A Windows for the stock tools: its registry, its files, and what of it is in neither. */
 class ToolHost
 {
 public:
@@ -30,4 +31,14 @@ public:
     virtual std::optional<bool> isRunning(const QString &service) const = 0;
     virtual void setRunning(const QString &service, bool running) = 0;
     virtual QStringList runningServices() const = 0;
+
+    /** Scheduled tasks in the order in which they were registered; see Machine::tasks. */
+    virtual QList<ScheduledTask> tasks() const = 0;
+    virtual std::optional<ScheduledTask> task(const QString &path) const = 0;
+    virtual void setTask(const ScheduledTask &task) = 0;
+
+    /** Names of the processes, each as often as it runs. */
+    virtual QStringList processes() const = 0;
+    /** Ends all processes of a name, given without regard to case. */
+    virtual void endProcesses(const QString &name) = 0;
 };

@@ -16,8 +16,12 @@ struct Tool
 
 // clang-format off
 constexpr Tool tools[] = {
-    {"sc"_L1,  runSc},
-    {"cmd"_L1, runCmd},
+    {"sc"_L1,            runSc},
+    {"schtasks"_L1,      runSchtasks},
+    {"powershell"_L1,    runPowerShell},
+    {"taskkill"_L1,      runTaskkill},
+    {"onedrivesetup"_L1, runOneDriveSetup},
+    {"cmd"_L1,           runCmd},
 };
 // clang-format on
 
@@ -37,5 +41,5 @@ ToolResult runTool(const QString &name, ToolHost &host, const QStringList &argum
         if (name == tool.name)
             return tool.run(host, arguments);
     }
-    return {exitNoSuchProgram, QByteArray()};
+    return {exitNoSuchProgram};
 }

@@ -5,11 +5,12 @@
 
 #include "toolhost.h"
 
-/** What a tool gave: its 32-bit exit code and the bytes of its standard output, lines ended by CR LF. */
+/** What a tool gave: its 32-bit exit code and the bytes of its two outputs, lines ended by CR LF. */
 struct ToolResult
 {
     int exitCode = 0;
-    QByteArray output;
+    QByteArray output{};
+    QByteArray errors{};
 };
 
 /** The exit code of a program that the command interpreter doesn't find. */
@@ -21,4 +22,8 @@ QString toolName(const QString &program);
 ToolResult runTool(const QString &name, ToolHost &host, const QStringList &arguments);
 
 ToolResult runSc(ToolHost &host, const QStringList &arguments);
+ToolResult runSchtasks(ToolHost &host, const QStringList &arguments);
+ToolResult runPowerShell(ToolHost &host, const QStringList &arguments);
+ToolResult runTaskkill(ToolHost &host, const QStringList &arguments);
+ToolResult runOneDriveSetup(ToolHost &host, const QStringList &arguments);
 ToolResult runCmd(ToolHost &host, const QStringList &arguments);

@@ -6,6 +6,8 @@
 
 #include "platform/windows/nativekey.h"
 
+using namespace Qt::StringLiterals;
+
 std::unique_ptr<RegistryKey> NativeToolHost::openKey(const QString &path) const
 {
     return std::make_unique<NativeKey>(path);
@@ -33,4 +35,46 @@ QStringList NativeToolHost::runningServices() const
     QStringList names = key->childKeys();
     names.removeIf([&key](const QString &name) { return key->value(name).toInt() == 0; });
     return names;
+}
+
+QList<ScheduledTask> NativeToolHost::tasks() const
+{
+    QList<ScheduledTask> result;
+    const auto key = openKey(standInTasks);
+    for (const QString &name : key->childKeys()) {
+        const QString text = key->value(name).toString();
+        result.append({text.section(u'\n', 0, 0), text.section(u'\n', 1)});
+    }
+    return result;
+}
+
+std::optional<ScheduledTask> NativeToolHost::task(const QString &path) const
+{
+    for (const ScheduledTask &task : tasks()) {
+        if (task.path.compare(path, Qt::CaseInsensitive) == 0)
+            return task;
+    }
+    return {};
+}
+
+void NativeToolHost::setTask(const ScheduledTask &task)
+{
+    const QList<ScheduledTask> present = tasks();
+    qsizetype place = 0;
+    while (place < present.size() && present.at(place).path.compare(task.path, Qt::CaseInsensitive) != 0)
+        ++place;
+    // Zeros in front keep the order where names are sorted.
+    openKey(standInTasks)->setValue(u"%1"_s.arg(place, 6, 10, QChar(u'0')), task.path + u'\n' + task.document);
+}
+
+QStringList NativeToolHost::processes() const
+{
+    return openKey(standInProcesses)->value(u"Names"_s).toStringList();
+}
+
+void NativeToolHost::endProcesses(const QString &name)
+{
+    QStringList names = processes();
+    names.removeIf([&name](const QString &each) { return each.compare(name, Qt::CaseInsensitive) == 0; });
+    openKey(standInProcesses)->setValue(u"Names"_s, names);
 }

@@ -5,7 +5,10 @@
 
 #include "rehearsal/stocktool/toolhost.h"
 
-/** Acts on the real registry. Which services run is kept in a key of the tests: no service is started or stopped. */
+/**
+ * Acts on the real registry. Which services run, which tasks there are and which processes are kept in keys of the
+ * tests: nothing of the system is started, stopped or changed.
+ */
 class NativeToolHost final : public ToolHost
 {
 public:
@@ -16,6 +19,11 @@ public:
     std::optional<bool> isRunning(const QString &service) const override;
     void setRunning(const QString &service, bool running) override;
     QStringList runningServices() const override;
+    QList<ScheduledTask> tasks() const override;
+    std::optional<ScheduledTask> task(const QString &path) const override;
+    void setTask(const ScheduledTask &task) override;
+    QStringList processes() const override;
+    void endProcesses(const QString &name) override;
 
 private:
     std::unique_ptr<RegistryKey> states() const;

@@ -9,3 +9,7 @@
 inline const QString standInStates = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Running");
 /** The value "Count": how many commands were run; and one value for each, by its number from 1. */
 inline const QString standInCommands = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Commands");
+/** One value for each scheduled task, in order: its path, a line feed and its document. */
+inline const QString standInTasks = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Tasks");
+/** The value "Names": the names of the processes. */
+inline const QString standInProcesses = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Processes");

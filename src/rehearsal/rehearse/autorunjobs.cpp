@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "autorunjobs.h"
+
+#include "platform/platform.h"
+#include "work/autorun/autorun.h"
+#include "work/settings.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString group = u"Autorun"_s;
+
+bool areSame(const QString &left, const QString &right)
+{
+    return left.compare(right, Qt::CaseInsensitive) == 0;
+}
+
+/** The entry of a row of the list; what stands behind a second "=" is lost. */
+AutorunEntry entryOf(const AutorunRow &row)
+{
+    const QStringList parts = row.split(u'=');
+    const QString path = parts.at(0);
+    return {path.sliced(path.lastIndexOf(u'\\') + 1), path, parts.value(1)};
+}
+
+/** The entry of a record, "<command>=<path>", or "<path>=" of a packaged task. */
+AutorunEntry recordedEntry(const QString &name)
+{
+    const QStringList parts = openRecords(group)->value(name).toString().split(u'=');
+    const QString path = parts.value(1).isEmpty() ? parts.at(0) : parts.value(1);
+    return {name, path, parts.at(0)};
+}
+
+QStringList listedNames()
+{
+    WorkThread lister;
+    lister.AutorunGetList();
+    QStringList names;
+    for (const AutorunRow &row : std::as_const(lister.autoruns))
+        names.append(entryOf(row).name);
+    return names;
+}
+
+bool isListed(const QString &name)
+{
+    return listedNames().contains(name, Qt::CaseInsensitive);
+}
+
+} // namespace
+
+void disableAutoruns(WorkThread &worker, const QStringList &names)
+{
+    if (!platform().isElevated())
+        return;
+    worker.AutorunGetList();
+    for (const QString &name : names) {
+        for (const AutorunRow &row : std::as_const(worker.autoruns)) {
+            if (const AutorunEntry entry = entryOf(row); areSame(entry.name, name))
+                disableAutorun(entry);
+        }
+    }
+}
+
+void enableAutoruns(WorkThread &, const QStringList &names)
+{
+    if (!platform().isElevated())
+        return;
+    for (const QString &recorded : recordedNames(group)) {
+        if (!names.contains(recorded, Qt::CaseInsensitive))
+            continue;
+        enableAutorun(recordedEntry(recorded));
+        // Also where it could not be brought back.
+        openRecords(group)->remove(recorded);
+    }
+}
+
+QStringList autorunsNotDisabled(const QStringList &names)
+{
+    const QStringList records = recordedNames(group);
+    QStringList left;
+    for (const QString &name : names) {
+        if (isListed(name) || !records.contains(name, Qt::CaseInsensitive))
+            left.append(name);
+    }
+    return left;
+}
+
+QStringList autorunsNotEnabled(const QStringList &names)
+{
+    QStringList left;
+    for (const QString &name : names) {
+        if (!isListed(name))
+            left.append(name);
+    }
+    return left;
+}

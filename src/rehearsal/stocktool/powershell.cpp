@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// powershell: removes packaged applications for the user, and registers them again.
+
+#include "tools.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int exitFailed = 1;
+
+// Keys below ones that are always there: to open a missing key would make it.
+const QString userRoot = u"HKEY_CURRENT_USER\\Software"_s;
+const QString userPackages = u"Classes/Local Settings/Software/Microsoft/Windows/CurrentVersion/AppModel/Repository/"
+                             "Packages"_s;
+const QString machineRoot = u"HKEY_LOCAL_MACHINE\\SOFTWARE"_s;
+const QString machinePackages = u"Microsoft/Windows/CurrentVersion/Appx/AppxAllUserStore/Applications"_s;
+
+const QString removal = u"| Remove-AppxPackage"_s;
+const QString registration = u" | Foreach {Add-AppxPackage -DisableDevelopmentMode -Register "
+                             "\"$($_.InstallLocation)\\AppXManifest.xml\"}"_s;
+
+/** The list of packages of a user or of the machine. */
+class PackageList
+{
+public:
+    PackageList(ToolHost &host, const QString &root, const QString &path)
+        : key_(host.openKey(root))
+    {
+        key_->beginGroup(path);
+    }
+
+    RegistryKey &key() { return *key_; }
+
+    /** Full names of the packages whose name fits the pattern. */
+    QStringList find(const QString &pattern) const
+    {
+        QString expression = QRegularExpression::escape(pattern);
+        expression.replace(u"\\*"_s, u".*"_s).replace(u"\\?"_s, u"."_s);
+        const QRegularExpression name(QRegularExpression::anchoredPattern(expression),
+                                      QRegularExpression::CaseInsensitiveOption
+                                          | QRegularExpression::DotMatchesEverythingOption);
+        QStringList found;
+        for (const QString &fullName : key_->childGroups()) {
+            if (name.match(fullName.section(u'_', 0, 0)).hasMatch())
+                found.append(fullName);
+        }
+        return found;
+    }
+
+private:
+    std::unique_ptr<RegistryKey> key_;
+};
+
+ToolResult removePackages(ToolHost &host, const QString &pattern)
+{
+    PackageList packages(host, userRoot, userPackages);
+    for (const QString &fullName : packages.find(pattern))
+        packages.key().remove(fullName);
+    return {};
+}
+
+/** Registers a package of the machine for the user. */
+void registerPackage(PackageList &user, PackageList &machine, const QString &fullName)
+{
+    const QString manifest = machine.key().value(fullName + u"/Path"_s).toString();
+    const QString root = manifest.left(manifest.lastIndexOf(u'\\'));
+    const QString name = fullName.section(u'_', 0, 0);
+    user.key().setValue(fullName + u"/DisplayName"_s, machine.key().value(fullName + u"/DisplayName"_s, name));
+    user.key().setValue(fullName + u"/PackageID"_s, fullName);
+    user.key().setValue(fullName + u"/PackageRootFolder"_s, root);
+}
+
+ToolResult registerPackages(ToolHost &host, const QString &pattern)
+{
+    if (!host.isElevated())
+        return {exitFailed, {}, "Get-AppxPackage : Access is denied.\r\n"};
+    PackageList machine(host, machineRoot, machinePackages);
+    PackageList user(host, userRoot, userPackages);
+    const QStringList registered = user.key().childGroups();
+    for (const QString &fullName : machine.find(pattern)) {
+        if (!registered.contains(fullName, Qt::CaseInsensitive))
+            registerPackage(user, machine, fullName);
+    }
+    return {};
+}
+
+} // namespace
+
+ToolResult runPowerShell(ToolHost &host, const QStringList &arguments)
+{
+    const bool lists = arguments.size() >= 4 && arguments.at(0).compare("-Command"_L1, Qt::CaseInsensitive) == 0
+                       && arguments.at(1).compare("Get-AppxPackage"_L1, Qt::CaseInsensitive) == 0;
+    if (lists && arguments.size() == 4 && arguments.at(3) == removal)
+        return removePackages(host, arguments.at(2));
+    if (lists && arguments.size() == 5 && arguments.at(2).compare("-allusers"_L1, Qt::CaseInsensitive) == 0
+        && arguments.at(4) == registration)
+        return registerPackages(host, arguments.at(3));
+    return {exitFailed, {}, "A rehearsal machine has no such command.\r\n"};
+}
