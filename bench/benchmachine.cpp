@@ -28,7 +28,7 @@ void BenchMachine::addServices(int count)
     RegistryStore &registry = machine().registry();
     const auto services = *registry.make(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services"_s);
     for (int i = 0; i < count; ++i) {
-        const QString name = u"Service%1"_s.arg(i, 6, 10, u'0');
+        const QString name = u"Service%1"_s.arg(i, 6, 10, QLatin1Char('0'));
         const auto key = registry.make(services, name);
         registry.setValue(key, {u"Type"_s, RegistryType::DWord, registryDWord(32)});
         registry.setValue(key, {u"Start"_s, RegistryType::DWord, registryDWord(2)});
@@ -36,6 +36,31 @@ void BenchMachine::addServices(int count)
         registry.setValue(key, {u"Description"_s, RegistryType::String,
                                 registryText(u"Does what service %1 is there for, and nothing else."_s.arg(i))});
     }
+    transaction.commit();
+}
+
+void BenchMachine::addPackages(int count)
+{
+    Database::Transaction transaction(machine().database());
+    RegistryStore &registry = machine().registry();
+    const auto packages =
+        *registry.make(u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows"
+                       "\\CurrentVersion\\AppModel\\Repository\\Packages"_s);
+    for (int i = 0; i < count; ++i) {
+        const QString name = i % 2 == 0 ? u"Microsoft.Todos"_s : u"Vendor.App%1"_s.arg(i);
+        const auto key = registry.make(packages, name + u"_1.%1.0.0_x64__8wekyb3d8bbwe"_s.arg(i));
+        registry.setValue(key, {u"DisplayName"_s, RegistryType::String, registryText(u"An app, number %1"_s.arg(i))});
+    }
+    transaction.commit();
+}
+
+void BenchMachine::addAutoruns(int count)
+{
+    Database::Transaction transaction(machine().database());
+    RegistryStore &registry = machine().registry();
+    const auto key = *registry.make(u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s);
+    for (int i = 0; i < count; ++i)
+        registry.setValue(key, {u"Program %1"_s.arg(i), RegistryType::String, registryText(u"\"C:\\a.exe\" -x"_s)});
     transaction.commit();
 }
 

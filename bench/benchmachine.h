@@ -18,6 +18,10 @@ public:
     Machine &machine() { return platform_->machine(); }
     /** Adds services, half of them running, each with a display name and a description of its own. */
     void addServices(int count);
+    /** Adds packages, each with a display name; every second one can be removed. */
+    void addPackages(int count);
+    /** Adds programs that start at logon. */
+    void addAutoruns(int count);
     /** Lets sc do nothing, so that only the program's own work is measured. */
     void silenceTools();
 

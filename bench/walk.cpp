@@ -57,9 +57,7 @@ void walk(benchmark::State &state)
     QElapsedTimer timer;
     for (auto _ : state) {
         timer.start();
-        walkFolder(u"C:\\Windows\\WinSxS"_s, [&visited](const WalkEntry &entry) {
-            visited += entry.size + 1;
-        });
+        walkFolder(u"C:\\Windows\\WinSxS"_s, [&visited](const WalkEntry &entry) { visited += entry.size + 1; });
         ours += timer.nsecsElapsed();
         timer.start();
         benchmark::DoNotOptimize(bareWalk(root));

@@ -86,10 +86,9 @@ bool hasOpen(pid_t process, const QString &file)
 {
     const QDir descriptors(u"/proc/"_s + QString::number(process) + u"/fd"_s);
     const QFileInfoList links = descriptors.entryInfoList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
-    return std::any_of(links.cbegin(), links.cend(),
-                       [path = QFileInfo(file).canonicalFilePath()](const QFileInfo &link) {
-                           return link.symLinkTarget() == path;
-                       });
+    return std::any_of(
+        links.cbegin(), links.cend(),
+        [path = QFileInfo(file).canonicalFilePath()](const QFileInfo &link) { return link.symLinkTarget() == path; });
 }
 
 /** Ends the instances that the program under test has left behind. */
@@ -207,9 +206,7 @@ void TestProgram::unelevatedProgramGivesWayToAnElevatedOne()
         QSKIP("other processes can't be looked at here");
     TestMachine machine;
     const QString folder = machine.folder();
-    const auto tidyUp = qScopeGuard([&folder] {
-        endInstances(folder);
-    });
+    const auto tidyUp = qScopeGuard([&folder] { endInstances(folder); });
     machine.write(settingsKey, u"StartAsAdmin"_s, 1);
     machine.write(settingsKey, u"lastPage"_s, 7);
     Run run(folder, u"0"_s);

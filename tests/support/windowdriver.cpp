@@ -25,7 +25,7 @@ WindowDriver::WindowDriver()
     window_->show();
     // Connected behind the window, which has filled its table by then.
     QObject::connect(&worker(), &WorkThread::valueChanged, window_.get(), [this](const QString &line) {
-        if (line == "WorkThread::SvcMakeList"_L1)
+        if (line.startsWith("WorkThread::"_L1) && line.endsWith("List"_L1))
             ++listings_;
     });
 }
@@ -57,14 +57,24 @@ bool WindowDriver::openServices() const
     return waitForList();
 }
 
-bool WindowDriver::waitForList() const
+bool WindowDriver::openTasks() const
 {
-    const auto hasCome = [this] {
-        return listings_ > awaited_ && !worker().isRunning();
-    };
+    click(u"btnMenuTask"_s);
+    return waitForList(u"Tasks:"_s);
+}
+
+bool WindowDriver::openPackages() const
+{
+    window_->showPage(4);
+    return waitForList(u"Packages installed:"_s);
+}
+
+bool WindowDriver::waitForList(const QString &summary) const
+{
+    const auto hasCome = [this] { return listings_ > awaited_ && !worker().isRunning(); };
     const bool came = QTest::qWaitFor(hasCome, patience);
     awaited_ = listings_;
-    return came && status().startsWith("Services:"_L1);
+    return came && status().startsWith(summary);
 }
 
 void WindowDriver::list(const QList<ServiceRow> &rows) const
@@ -103,10 +113,14 @@ QStringList WindowDriver::checked() const
 
 void WindowDriver::clickCheckBox(const QString &service) const
 {
-    QTableWidget *table = services();
     const QTableWidgetItem *item = cell(service);
     if (item == nullptr)
         qFatal("%s isn't listed", qUtf8Printable(service));
+    clickCheckBox(services(), item);
+}
+
+void WindowDriver::clickCheckBox(QTableWidget *table, const QTableWidgetItem *item)
+{
     table->scrollToItem(item);
 
     QStyleOptionViewItem option;
@@ -116,4 +130,34 @@ void WindowDriver::clickCheckBox(const QString &service) const
     option.text = item->text();
     const QRect box = table->style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, table);
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, box.center());
+}
+
+QStringList WindowDriver::column(const QString &tableName, int column) const
+{
+    const QTableWidget *rows = table(tableName);
+    QStringList texts;
+    for (int row = 0; row < rows->rowCount(); ++row)
+        texts.append(rows->item(row, column)->text());
+    return texts;
+}
+
+QStringList WindowDriver::checkedIn(const QString &tableName) const
+{
+    const QTableWidget *rows = table(tableName);
+    QStringList texts;
+    for (int row = 0; row < rows->rowCount(); ++row) {
+        if (rows->item(row, 0)->checkState() == Qt::Checked)
+            texts.append(rows->item(row, 0)->text());
+    }
+    return texts;
+}
+
+QTableWidgetItem *WindowDriver::firstCell(const QString &tableName, const QString &text) const
+{
+    const QTableWidget *rows = table(tableName);
+    for (int row = 0; row < rows->rowCount(); ++row) {
+        if (rows->item(row, 0)->text() == text)
+            return rows->item(row, 0);
+    }
+    return nullptr;
 }

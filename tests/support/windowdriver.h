@@ -63,6 +63,13 @@ public:
     WorkThread &winSxsWorker() const { return *workers().at(1); }
     QList<WorkThread *> workers() const;
 
+    /** Asks the running job to end and waits for it, however slow the computer is. */
+    bool endJob() const
+    {
+        worker().requestInterruption();
+        return worker().wait(patience);
+    }
+
     /** Clicks a button with the mouse. */
     void click(const QString &name) const;
     /** Calls a slot of the window by its name. */
@@ -70,8 +77,15 @@ public:
 
     /** Shows the Services page by its menu button; false where its list doesn't come. */
     bool openServices() const;
-    /** Waits until a listing has come that none of the earlier calls has waited for, and nothing runs any more. */
-    bool waitForList() const;
+    /** Shows the Tasks page by its menu button; false where its list doesn't come. */
+    bool openTasks() const;
+    /** Shows the Packages page; false where its list doesn't come. */
+    bool openPackages() const;
+    /**
+     * Waits until a listing has come that none of the earlier calls has waited for, and nothing runs any more. False
+     * where the status doesn't begin with this word then.
+     */
+    bool waitForList(const QString &summary = QStringLiteral("Services:")) const;
     /** Fills the Services table with these rows, as the closing line of a listing does. */
     void list(const QList<ServiceRow> &rows) const;
 
@@ -83,6 +97,16 @@ public:
     QStringList checked() const;
     /** Clicks the check box of a service's row with the mouse. */
     void clickCheckBox(const QString &service) const;
+    /** Clicks an item's check box with the mouse. */
+    static void clickCheckBox(QTableWidget *table, const QTableWidgetItem *item);
+
+    /** The table of that name, and what stands in one of its columns from top to bottom. */
+    QTableWidget *table(const QString &name) const { return get<QTableWidget>(name); }
+    QStringList column(const QString &tableName, int column) const;
+    /** The texts of the first cells that are checked, from top to bottom. */
+    QStringList checkedIn(const QString &tableName) const;
+    /** The first cell of the row that begins with this text; null where there is none. */
+    QTableWidgetItem *firstCell(const QString &tableName, const QString &text) const;
 
 private:
     std::unique_ptr<Kestrune> window_;

@@ -1305,9 +1305,7 @@ void FormTest::layoutHasItsMarginsAndSpacing()
     QCOMPARE(layout->metaObject()->className(), row->className);
     QCOMPARE(layout->parent()->objectName(), str(row->parent));
 
-    const auto orStyle = [](int told, int styles) {
-        return told == unset ? styles : told;
-    };
+    const auto orStyle = [](int told, int styles) { return told == unset ? styles : told; };
     QCOMPARE(layout->contentsMargins(),
              QMargins(orStyle(row->left, OddStyle::left), orStyle(row->top, OddStyle::top),
                       orStyle(row->right, OddStyle::right), orStyle(row->bottom, OddStyle::bottom)));

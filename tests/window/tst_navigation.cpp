@@ -98,12 +98,7 @@ bool keepBusy(const WindowDriver &driver)
 {
     QSignalSpy lines(&driver.worker(), &WorkThread::valueChanged);
     driver.worker().startJob(JobWinSxsSize);
-    return QTest::qWaitFor(
-               [&lines] {
-                   return lines.size() == 3;
-               },
-               patience)
-           && driver.worker().isRunning();
+    return QTest::qWaitFor([&lines] { return lines.size() == 3; }, patience) && driver.worker().isRunning();
 }
 
 } // namespace

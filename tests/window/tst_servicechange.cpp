@@ -947,9 +947,7 @@ void TestServiceChange::startModeIsSetWhileAJobRunsButThePageStays()
 void TestServiceChange::startModeWithAHangingToolGoesOn()
 {
     const int limit = Command::timeLimit;
-    const auto putBack = qScopeGuard([limit] {
-        Command::timeLimit = limit;
-    });
+    const auto putBack = qScopeGuard([limit] { Command::timeLimit = limit; });
     QCOMPARE(limit, 30000);
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 2, .running = true});

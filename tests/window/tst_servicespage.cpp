@@ -547,9 +547,7 @@ void TestServicesPage::headersSignalsAreBlockedWhileTheViewFillsAndNotLater()
     driver.services()->sortByColumn(1, Qt::DescendingOrder);
     QHeaderView *header = driver.services()->horizontalHeader();
     int changes = 0;
-    connect(header, &QHeaderView::sortIndicatorChanged, this, [&changes] {
-        ++changes;
-    });
+    connect(header, &QHeaderView::sortIndicatorChanged, this, [&changes] { ++changes; });
     driver.click(u"btnSvcViewDisabled"_s);
     QCOMPARE(changes, 0);
     QVERIFY(!header->signalsBlocked());
@@ -714,9 +712,7 @@ void TestServicesPage::checkAllChecksTheListOfThePage()
         table->setItem(row, 0, new QTableWidgetItem);
         table->item(row, 0)->setCheckState(states.at(row));
     }
-    const auto state = [table](int row) {
-        return table->item(row, 0)->checkState();
-    };
+    const auto state = [table](int row) { return table->item(row, 0)->checkState(); };
     driver.call("checkAll");
     QCOMPARE(state(0), Qt::Checked);
     QCOMPARE(state(1), Qt::Checked);

@@ -35,9 +35,7 @@ int runEventLoop()
     constexpr int enough = 100;
     QTimer limit;
     limit.setSingleShot(true);
-    QObject::connect(&limit, &QTimer::timeout, qApp, [] {
-        QCoreApplication::exit(stillRunning);
-    });
+    QObject::connect(&limit, &QTimer::timeout, qApp, [] { QCoreApplication::exit(stillRunning); });
     limit.start(enough);
     return QApplication::exec();
 }
@@ -386,9 +384,7 @@ void TestStartup::yesEndsTheEventLoop()
     QGuiApplication::setQuitOnLastWindowClosed(true);
     Boxes boxes;
     boxes.answer(QMessageBox::Yes);
-    QTimer::singleShot(0, &driver.window(), [&driver] {
-        showAdminRequiredDialog(&driver.window());
-    });
+    QTimer::singleShot(0, &driver.window(), [&driver] { showAdminRequiredDialog(&driver.window()); });
     QCOMPARE(QApplication::exec(), 0);
     QCOMPARE(machine.shellStarts().size(), 1);
 }
@@ -415,9 +411,7 @@ void TestStartup::runningJobsEndWithTheWindow()
     WindowDriver driver;
     WorkThread &thread = *driver.workers().at(worker);
     int lines = 0;
-    connect(&thread, &WorkThread::valueChanged, this, [&lines] {
-        ++lines;
-    });
+    connect(&thread, &WorkThread::valueChanged, this, [&lines] { ++lines; });
     thread.servicesToChange = {u"Alpha"_s};
     thread.startJob(job);
     // The WinSxS job pauses behind its third line.
@@ -440,9 +434,7 @@ void TestStartup::threeRunningWorkersEndWithTheWindow()
     WindowDriver driver;
     int lines = 0;
     for (WorkThread *worker : driver.workers()) {
-        connect(worker, &WorkThread::valueChanged, this, [&lines] {
-            ++lines;
-        });
+        connect(worker, &WorkThread::valueChanged, this, [&lines] { ++lines; });
         worker->startJob(JobWinSxsSize);
     }
     QTRY_COMPARE(lines, 9);
@@ -450,11 +442,7 @@ void TestStartup::threeRunningWorkersEndWithTheWindow()
     for (WorkThread *worker : driver.workers()) {
         QVERIFY(worker->isRunning());
         connect(
-            worker, &QThread::finished, this,
-            [&finished] {
-                ++finished;
-            },
-            Qt::DirectConnection);
+            worker, &QThread::finished, this, [&finished] { ++finished; }, Qt::DirectConnection);
     }
     driver.end();
     QCOMPARE(finished, 3);

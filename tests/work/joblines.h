@@ -13,12 +13,10 @@ class JobLines
 public:
     explicit JobLines(WorkThread &worker)
     {
-        QObject::connect(&worker, &WorkThread::valueChanged, &context_, [this](const QString &line) {
-            lines_.append(QStringLiteral("page: ") + line);
-        });
-        QObject::connect(&worker, &WorkThread::automatizerValueChanged, &context_, [this](const QString &line) {
-            lines_.append(QStringLiteral("automatizer: ") + line);
-        });
+        QObject::connect(&worker, &WorkThread::valueChanged, &context_,
+                         [this](const QString &line) { lines_.append(QStringLiteral("page: ") + line); });
+        QObject::connect(&worker, &WorkThread::automatizerValueChanged, &context_,
+                         [this](const QString &line) { lines_.append(QStringLiteral("automatizer: ") + line); });
     }
     Q_DISABLE_COPY_MOVE(JobLines)
 

@@ -1,0 +1,285 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Tests of switching a program started at logon off and on.
+
+#include "joblines.h"
+#include "support/packageplaces.h"
+#include "work/autorun/autorun.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString program = u"C:\\Program Files\\App\\app.exe"_s;
+const QString command = u"\"C:\\Program Files\\App\\app.exe\" --quiet"_s;
+
+AutorunEntry runValue(const QString &name, const QString &text, const QString &key = userRunKey)
+{
+    return {name, key + u'\\' + name, text};
+}
+
+AutorunEntry task(const QString &key)
+{
+    return {key.section(u'\\', -1), key, key};
+}
+
+} // namespace
+
+class TestAutorunState : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tasksAreToldByTheirName_data();
+    void tasksAreToldByTheirName();
+
+    void runValueIsRemovedAndRecorded_data();
+    void runValueIsRemovedAndRecorded();
+    void recordHoldsTheCommandAsItWasHandedOver_data();
+    void recordHoldsTheCommandAsItWasHandedOver();
+    void otherValuesOfTheKeyStay();
+    void valueThatIsGoneIsRecordedAllTheSame();
+    void refusedRemovalIsRecordedAllTheSame();
+    void twoProgramsOfOneNameShareARecord();
+    void taskIsSwitchedOffAndRecorded_data();
+    void taskIsSwitchedOffAndRecorded();
+    void noToolIsStarted();
+
+    void commandInQuotesComesBackWhileItsProgramIsThere_data();
+    void commandInQuotesComesBackWhileItsProgramIsThere();
+    void taskIsSwitchedOnAgain_data();
+    void taskIsSwitchedOnAgain();
+    void switchingOnLeavesTheRecord();
+    void refusedWriteGoesUnnoticed();
+    void taskLeavesTheListAndComesBack();
+};
+
+void TestAutorunState::tasksAreToldByTheirName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isTask");
+    QTest::newRow("Terminal") << u"StartTerminalOnLoginTask"_s << true;
+    QTest::newRow("Xbox") << u"Xbox.App.Tasks.FullTrustComponent"_s << true;
+    QTest::newRow("in another case") << u"startterminalonlogintask"_s << true;
+    QTest::newRow("within a name") << u"My Xbox.App.Tasks.FULLTRUSTComponent 2"_s << true;
+    QTest::newRow("a part of it") << u"StartTerminal"_s << false;
+    QTest::newRow("another") << u"OneDrive"_s << false;
+    QTest::newRow("empty") << QString() << false;
+}
+
+void TestAutorunState::tasksAreToldByTheirName()
+{
+    QFETCH(const QString, name);
+    QFETCH(const bool, isTask);
+    QCOMPARE(isPackagedTask(name), isTask);
+}
+
+void TestAutorunState::runValueIsRemovedAndRecorded_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::newRow("user") << userRunKey;
+    QTest::newRow("machine") << machineRunKey;
+    QTest::newRow("machine, 32 bits") << machineRunKey32;
+}
+
+void TestAutorunState::runValueIsRemovedAndRecorded()
+{
+    QFETCH(const QString, key);
+    TestMachine machine;
+    machine.write(key, u"My app"_s, command);
+    disableAutorun(runValue(u"My app"_s, command, key));
+    QCOMPARE(machine.names(key), QStringList());
+    QCOMPARE(machine.names(autorunRecordsKey), QStringList{u"My app"_s});
+    QCOMPARE(machine.read(autorunRecordsKey, u"My app"_s), QVariant(command + u'=' + key + u"\\My app"_s));
+}
+
+void TestAutorunState::recordHoldsTheCommandAsItWasHandedOver_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("without quotes") << u"C:\\app.exe /x"_s;
+    QTest::newRow("empty") << QString();
+    QTest::newRow("equals sign") << u"a.exe --x=1"_s;
+    QTest::newRow("32 kB") << QString(16000, u'x');
+    QTest::newRow("other letters") << u"\"C:\\服务.exe\""_s;
+}
+
+void TestAutorunState::recordHoldsTheCommandAsItWasHandedOver()
+{
+    QFETCH(const QString, text);
+    TestMachine machine;
+    machine.write(userRunKey, u"A"_s, text);
+    disableAutorun(runValue(u"A"_s, text));
+    QCOMPARE(machine.read(autorunRecordsKey, u"A"_s), QVariant(text + u'=' + userRunKey + u"\\A"_s));
+}
+
+void TestAutorunState::otherValuesOfTheKeyStay()
+{
+    TestMachine machine;
+    machine.write(machineRunKey, u"A"_s, u"a.exe"_s);
+    machine.write(machineRunKey, u"AB"_s, u"b.exe"_s);
+    machine.write(userRunKey, u"A"_s, u"a.exe"_s);
+    machine.write(autorunRecordsKey, u"Before"_s, u"x=y"_s);
+    disableAutorun(runValue(u"A"_s, u"a.exe"_s, machineRunKey));
+    QCOMPARE(machine.names(machineRunKey), QStringList{u"AB"_s});
+    QCOMPARE(machine.names(userRunKey), QStringList{u"A"_s});
+    QCOMPARE(machine.names(autorunRecordsKey), (QStringList{u"A"_s, u"Before"_s}));
+}
+
+void TestAutorunState::valueThatIsGoneIsRecordedAllTheSame()
+{
+    TestMachine machine;
+    disableAutorun(runValue(u"A"_s, u"a.exe"_s));
+    QCOMPARE(machine.names(autorunRecordsKey), QStringList{u"A"_s});
+}
+
+void TestAutorunState::refusedRemovalIsRecordedAllTheSame()
+{
+    TestMachine machine(TestMachine::Windows::Eleven, {.elevated = false});
+    machine.write(machineRunKey, u"A"_s, u"a.exe"_s);
+    disableAutorun(runValue(u"A"_s, u"a.exe"_s, machineRunKey));
+    QCOMPARE(machine.names(machineRunKey), QStringList{u"A"_s});
+    QCOMPARE(machine.names(autorunRecordsKey), QStringList{u"A"_s});
+}
+
+void TestAutorunState::twoProgramsOfOneNameShareARecord()
+{
+    TestMachine machine;
+    machine.write(userRunKey, u"App"_s, u"first.exe"_s);
+    machine.write(machineRunKey, u"App"_s, u"second.exe"_s);
+    disableAutorun(runValue(u"App"_s, u"first.exe"_s));
+    disableAutorun(runValue(u"App"_s, u"second.exe"_s, machineRunKey));
+    QCOMPARE(machine.names(userRunKey) + machine.names(machineRunKey), QStringList());
+    QCOMPARE(machine.names(autorunRecordsKey), QStringList{u"App"_s});
+    QCOMPARE(machine.read(autorunRecordsKey, u"App"_s), QVariant(u"second.exe="_s + machineRunKey + u"\\App"_s));
+}
+
+void TestAutorunState::taskIsSwitchedOffAndRecorded_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::newRow("Terminal") << terminalTaskKey;
+    QTest::newRow("Xbox") << xboxTaskKey;
+}
+
+void TestAutorunState::taskIsSwitchedOffAndRecorded()
+{
+    QFETCH(const QString, key);
+    TestMachine machine;
+    machine.write(key, u"State"_s, 2);
+    machine.write(key, u"LastDisabledTime"_s, 5);
+    disableAutorun(task(key));
+    QCOMPARE(machine.read(key, u"State"_s), QVariant(1));
+    QCOMPARE(machine.read(key, u"LastDisabledTime"_s), QVariant(5));
+    const QString name = key.section(u'\\', -1);
+    QCOMPARE(machine.names(autorunRecordsKey), QStringList{name});
+    QCOMPARE(machine.read(autorunRecordsKey, name), QVariant(key + u'='));
+}
+
+void TestAutorunState::noToolIsStarted()
+{
+    TestMachine machine;
+    machine.addFile(program);
+    disableAutorun(task(terminalTaskKey));
+    disableAutorun(runValue(u"A"_s, command));
+    enableAutorun(task(terminalTaskKey));
+    enableAutorun(runValue(u"A"_s, command));
+    QCOMPARE(machine.commands(), QList<LoggedCommand>());
+    QCOMPARE(machine.platform().takePauses(), QList<int>());
+}
+
+void TestAutorunState::commandInQuotesComesBackWhileItsProgramIsThere_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("comesBack");
+    const auto row = [](const char *title, const QString &text, bool comesBack) {
+        QTest::newRow(title) << text << comesBack;
+    };
+    row("quotes", u"\"C:\\Program Files\\App\\app.exe\""_s, true);
+    row("quotes and arguments", command, true);
+    row("in another case", u"\"c:\\program files\\APP\\App.exe\" -x"_s, true);
+    row("more quotes behind", command + u" \"C:\\missing\""_s, true);
+    row("text before the quotes", u"start \"C:\\Program Files\\App\\app.exe\" x"_s, true);
+    row("quote without an end", u"\"C:\\Program Files\\App\\app.exe"_s, true);
+    row("quote without an end, and arguments", u"\"C:\\Program Files\\App\\app.exe -x"_s, false);
+    row("without quotes", program, false);
+    row("without quotes, with arguments", program + u" --quiet"_s, false);
+    row("program without quotes, argument in quotes", program + u" \"--quiet\""_s, false);
+    row("program is gone", u"\"C:\\Program Files\\App\\gone.exe\" -x"_s, false);
+    row("nothing in the quotes", u"\"\" C:\\Program Files\\App\\app.exe"_s, false);
+    row("quote at the end", program + u'"', false);
+    row("variable in the quotes", u"\"%ProgramFiles%\\App\\app.exe\""_s, false);
+    row("empty", QString(), false);
+}
+
+void TestAutorunState::commandInQuotesComesBackWhileItsProgramIsThere()
+{
+    QFETCH(const QString, text);
+    QFETCH(const bool, comesBack);
+    TestMachine machine;
+    machine.addFile(program);
+    for (const QString &key : {userRunKey, machineRunKey, machineRunKey32}) {
+        enableAutorun(runValue(u"My app"_s, text, key));
+        QCOMPARE(machine.names(key), comesBack ? QStringList{u"My app"_s} : QStringList());
+        if (comesBack)
+            QCOMPARE(machine.read(key, u"My app"_s), QVariant(text));
+    }
+}
+
+void TestAutorunState::taskIsSwitchedOnAgain_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::newRow("Terminal") << terminalTaskKey;
+    QTest::newRow("Xbox") << xboxTaskKey;
+}
+
+void TestAutorunState::taskIsSwitchedOnAgain()
+{
+    QFETCH(const QString, key);
+    TestMachine machine;
+    machine.write(key, u"State"_s, 1);
+    enableAutorun(task(key));
+    QCOMPARE(machine.read(key, u"State"_s), QVariant(2));
+    QCOMPARE(machine.names(key), QStringList{u"State"_s});
+}
+
+void TestAutorunState::switchingOnLeavesTheRecord()
+{
+    TestMachine machine;
+    machine.addFile(program);
+    machine.write(userRunKey, u"A"_s, command);
+    disableAutorun(runValue(u"A"_s, command));
+    disableAutorun(task(terminalTaskKey));
+    enableAutorun(runValue(u"A"_s, command));
+    enableAutorun(task(terminalTaskKey));
+    QCOMPARE(machine.names(autorunRecordsKey), (QStringList{u"A"_s, u"StartTerminalOnLoginTask"_s}));
+    QCOMPARE(machine.read(userRunKey, u"A"_s), QVariant(command));
+}
+
+void TestAutorunState::refusedWriteGoesUnnoticed()
+{
+    TestMachine machine(TestMachine::Windows::Eleven, {.elevated = false});
+    machine.logErrors();
+    machine.addFile(program);
+    enableAutorun(runValue(u"A"_s, command, machineRunKey));
+    QCOMPARE(machine.names(machineRunKey), QStringList());
+    QCOMPARE(machine.errorLog(), QStringList());
+}
+
+void TestAutorunState::taskLeavesTheListAndComesBack()
+{
+    TestMachine machine;
+    machine.write(terminalTaskKey, u"State"_s, 2);
+    WorkThread worker;
+    const auto listed = [&worker] {
+        worker.AutorunGetList();
+        return worker.autoruns;
+    };
+    QCOMPARE(listed(), QStringList{terminalTaskKey + u'='});
+    disableAutorun(task(terminalTaskKey));
+    QCOMPARE(listed(), QStringList());
+    enableAutorun(task(terminalTaskKey));
+    QCOMPARE(listed(), QStringList{terminalTaskKey + u'='});
+}
+
+QTEST_GUILESS_MAIN(TestAutorunState)
+#include "tst_autorunstate.moc"

@@ -1,0 +1,664 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Tests of the list of scheduled tasks.
+
+#include "joblines.h"
+#include "support/taskexport.h"
+#include "support/testmachine.h"
+#include "work/command.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStringConverter>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList closingLine{u"page: WorkThread::TaskMakeList"_s};
+const QString none = u"no description"_s;
+
+/** Lets schtasks print a text. */
+void print(const TestMachine &machine, const QString &text, int repeat = 1)
+{
+    machine.machine().setFault(u"schtasks"_s, {.output = text, .repeat = repeat});
+}
+
+/** Lets schtasks print these very bytes. */
+void printBytes(const TestMachine &machine, const QByteArray &bytes)
+{
+    const QString tool = machine.machine().toolsFolder() + u"/schtasks"_s;
+    QFile content(tool + u".txt"_s);
+    QVERIFY(content.open(QIODevice::WriteOnly) && content.write(bytes) == bytes.size());
+    QFile::remove(tool);
+    QFile script(tool);
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\nexec cat \"$0.txt\"\n");
+    QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+}
+
+QString exportFile(const TestMachine &machine)
+{
+    return machine.platform().hostPath(u"C:\\Users\\Test\\AppData\\Local\\Temp\\tasks.xml"_s);
+}
+
+QString backupFolder(const TestMachine &machine)
+{
+    return machine.platform().programFolder() + u"/backup_tasks"_s;
+}
+
+QByteArray content(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : "can't be read";
+}
+
+QStringList pathsOf(const QList<TaskRow> &rows)
+{
+    QStringList paths;
+    for (const TaskRow &row : rows)
+        paths.append(row.path);
+    return paths;
+}
+
+/** A list that is there from an earlier run. */
+QList<TaskRow> oldList()
+{
+    return {{u"Old"_s, u"from before"_s, u"Old"_s, {}, 0}};
+}
+
+/** The rows that come of what schtasks prints. */
+QList<TaskRow> rowsOf(const TestMachine &machine, const QString &text)
+{
+    print(machine, text);
+    WorkThread worker;
+    worker.TaskMakeList();
+    return worker.tasks;
+}
+
+/** A machine with a folder for its temporary files. */
+class TaskMachine : public TestMachine
+{
+public:
+    explicit TaskMachine(SimulatedOptions options = {})
+        : TestMachine(Windows::Eleven, std::move(options))
+    {
+        QDir().mkpath(QFileInfo(exportFile(*this)).path());
+    }
+};
+
+} // namespace
+
+class TestTaskList : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { Command::timeLimit = 30000; }
+
+    void schtasksIsAskedOnceForAllTasks();
+    void aRowHasAllItsFields();
+    void rowsComeInTheOrderOfTheExport_data() { forms(); }
+    void rowsComeInTheOrderOfTheExport();
+    void theLastPieceNeverGivesARow_data();
+    void theLastPieceNeverGivesARow();
+    void aTaskOfTheNameTasksIsListed();
+
+    void pathLosesItsFirstCharacter_data();
+    void pathLosesItsFirstCharacter();
+    void enabledCountsByItsTagAlone_data();
+    void enabledCountsByItsTagAlone();
+    void theTagOfOneTaskIsNotThatOfTheNext();
+    void description_data();
+    void description();
+    void textBeforeTheFirstTaskDoesNotMatter_data();
+    void textBeforeTheFirstTaskDoesNotMatter();
+    void nothingIsDecoded();
+
+    void damagedExportGivesItsWholeTasks_data();
+    void damagedExportGivesItsWholeTasks();
+    void anExportCutAnywhereGivesTheTasksBeforeTheCut();
+    void exportOf16BitsWithItsMarkIsRead_data();
+    void exportOf16BitsWithItsMarkIsRead();
+    void exportOf16BitsWithoutMarkGivesNoRow();
+    void bytesThatAreNoTextAreRead();
+    void twentyMegabytesAreRead();
+
+    void exportIsLeftBehindAndOverwritten();
+    void firstExportIsKeptAsABackup();
+    void withoutRightsThereIsNoBackup();
+    void backupThatCannotBeWrittenDoesNotMatter();
+
+    void missingToolSendsNoLineAndEmptiesTheList();
+    void missingToolIsNotLoggedUnlessTheLogIsOn();
+    void failingToolSendsNoLine_data();
+    void failingToolSendsNoLine();
+    void hangingToolIsGivenUpAndWhatItPrintedIsRead();
+    void exportThatCannotBeWrittenSendsNoLine();
+
+    void aRunEmptiesTheListOfBefore();
+    void duringAnalyzeNoClosingLineIsSent();
+    void duringOptimizeAndRestoreTheClosingLineIsSent();
+    void nothingIsLoggedOfAListingThatWorked();
+
+private:
+    static void forms();
+};
+
+void TestTaskList::forms()
+{
+    QTest::addColumn<bool>("inside");
+    QTest::newRow("one document for each task") << false;
+    QTest::newRow("one element around all tasks") << true;
+}
+
+void TestTaskList::schtasksIsAskedOnceForAllTasks()
+{
+    const TaskMachine machine;
+    print(machine, listOfDocuments({{u"\\A"_s}}));
+    WorkThread worker;
+    JobLines lines(worker);
+    QVERIFY(runJob(worker, 1));
+    QCOMPARE(machine.commands(), (QList<LoggedCommand>{{u"schtasks"_s, {u"/xml"_s}, 0}}));
+    QCOMPARE(machine.platform().takePauses(), QList<int>());
+    QCOMPARE(lines.all(), closingLine);
+}
+
+void TestTaskList::aRowHasAllItsFields()
+{
+    const TaskMachine machine;
+    const auto rows = rowsOf(machine, listOfDocuments({{u"\\Microsoft\\Windows\\Shell\\My task"_s, u"Does it."_s}}));
+    QCOMPARE(rows.size(), 1);
+    QCOMPARE(rows.at(0).path, u"Microsoft\\Windows\\Shell\\My task"_s);
+    QCOMPARE(rows.at(0).name, u"My task"_s);
+    QCOMPARE(rows.at(0).description, u"Does it."_s);
+    QCOMPARE(rows.at(0).extra, QString());
+    QCOMPARE(rows.at(0).disabled, 0);
+}
+
+void TestTaskList::rowsComeInTheOrderOfTheExport()
+{
+    QFETCH(const bool, inside);
+    const TaskMachine machine;
+    const QList<ExportedTask> tasks{
+        {u"\\Zeta"_s, u"Z"_s}, {u"\\Folder\\alpha"_s}, {u"\\Zeta"_s, u"Again"_s}, {u"\\Beta"_s}};
+    const auto rows = rowsOf(machine, inside ? insideTasks(tasks) : listOfDocuments(tasks));
+    QCOMPARE(pathsOf(rows), (QStringList{u"Zeta"_s, u"Folder\\alpha"_s, u"Zeta"_s, u"Beta"_s}));
+    QCOMPARE(rows.at(0).description, u"Z"_s);
+    QCOMPARE(rows.at(1).description, none);
+    QCOMPARE(rows.at(2).description, u"Again"_s);
+}
+
+void TestTaskList::theLastPieceNeverGivesARow_data()
+{
+    QTest::addColumn<QString>("rest");
+    QTest::newRow("nothing") << QString();
+    QTest::newRow("a line end") << u"\r\n"_s;
+    QTest::newRow("closing tag") << u"</Tasks>"_s;
+    QTest::newRow("closing tag behind line ends") << u"\r\n\r\n</Tasks>\r\n"_s;
+    QTest::newRow("closing tag behind three line ends") << u"\r\n\r\n\r\n</Tasks>"_s;
+    QTest::newRow("blanks") << u"      "_s;
+    QTest::newRow("comment") << u"\r\n<!-- the end -->\r\n"_s;
+    QTest::newRow("message") << u"\r\nERROR: Access is denied.\r\n"_s;
+    QTest::newRow("a task that was cut off") << u"\r\n<Task><RegistrationInfo><URI>\\B</URI>"_s;
+}
+
+void TestTaskList::theLastPieceNeverGivesARow()
+{
+    QFETCH(const QString, rest);
+    const TaskMachine machine;
+    const QString task = taskElement({u"\\A"_s});
+    QCOMPARE(pathsOf(rowsOf(machine, task + rest)), QStringList{u"A"_s});
+    QCOMPARE(pathsOf(rowsOf(machine, rest)), QStringList());
+}
+
+void TestTaskList::aTaskOfTheNameTasksIsListed()
+{
+    const TaskMachine machine;
+    QCOMPARE(pathsOf(rowsOf(machine, insideTasks({{u"\\Tasks"_s}, {u"\\B"_s}}))), (QStringList{u"Tasks"_s, u"B"_s}));
+}
+
+void TestTaskList::pathLosesItsFirstCharacter_data()
+{
+    QTest::addColumn<QString>("uri");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("no folder") << u"\\A task"_s << u"A task"_s << u"A task"_s;
+    QTest::newRow("folders") << u"\\A\\B\\C d"_s << u"A\\B\\C d"_s << u"C d"_s;
+    QTest::newRow("no leading backslash") << u"Vendor\\Task"_s << u"endor\\Task"_s << u"Task"_s;
+    QTest::newRow("two backslashes") << u"\\\\A"_s << u"\\A"_s << u"A"_s;
+    QTest::newRow("backslash at the end") << u"\\A\\"_s << u"A\\"_s << QString();
+    QTest::newRow("slashes") << u"\\A/B"_s << u"A/B"_s << u"A/B"_s;
+    QTest::newRow("colon and quotes") << u"\\A: \"b\" 'c'"_s << u"A: \"b\" 'c'"_s << u"A: \"b\" 'c'"_s;
+    QTest::newRow("braces") << u"\\N_{B2FE1952-0186}"_s << u"N_{B2FE1952-0186}"_s << u"N_{B2FE1952-0186}"_s;
+    QTest::newRow("other letters") << u"\\Überwachung\\服务"_s << u"Überwachung\\服务"_s << u"服务"_s;
+}
+
+void TestTaskList::pathLosesItsFirstCharacter()
+{
+    QFETCH(const QString, uri);
+    QFETCH(const QString, path);
+    QFETCH(const QString, name);
+    const TaskMachine machine;
+    const auto rows = rowsOf(machine, listOfDocuments({{uri}}));
+    QCOMPARE(pathsOf(rows), QStringList{path});
+    QCOMPARE(rows.at(0).name, name);
+}
+
+void TestTaskList::enabledCountsByItsTagAlone_data()
+{
+    QTest::addColumn<QString>("settings");
+    QTest::addColumn<QString>("triggers");
+    QTest::addColumn<int>("disabled");
+    QTest::newRow("no tag") << QString() << QString() << 0;
+    QTest::newRow("false") << u"<Enabled>false</Enabled>"_s << QString() << 1;
+    QTest::newRow("true") << u"<Enabled>true</Enabled>"_s << QString() << 1;
+    QTest::newRow("empty") << u"<Enabled></Enabled>"_s << QString() << 1;
+    QTest::newRow("in a trigger only") << QString() << u"<BootTrigger><Enabled>true</Enabled></BootTrigger>"_s << 1;
+    QTest::newRow("in both") << u"<Enabled>false</Enabled>"_s << u"<X><Enabled>true</Enabled></X>"_s << 1;
+    QTest::newRow("in another case") << u"<enabled>false</enabled>"_s << QString() << 0;
+    QTest::newRow("without content") << u"<Enabled/>"_s << QString() << 0;
+    QTest::newRow("with a blank") << u"<Enabled >false</Enabled>"_s << QString() << 0;
+    QTest::newRow("closing tag alone") << u"</Enabled>"_s << QString() << 0;
+    QTest::newRow("another element") << u"<WakeEnabled>true</WakeEnabled>"_s << QString() << 0;
+    QTest::newRow("in a comment") << u"<!-- <Enabled> -->"_s << QString() << 1;
+}
+
+void TestTaskList::enabledCountsByItsTagAlone()
+{
+    QFETCH(const QString, settings);
+    QFETCH(const QString, triggers);
+    QFETCH(const int, disabled);
+    const TaskMachine machine;
+    const auto rows = rowsOf(machine, insideTasks({{u"\\A"_s, {}, settings, triggers}}));
+    QCOMPARE(rows.size(), 1);
+    QCOMPARE(rows.at(0).disabled, disabled);
+}
+
+void TestTaskList::theTagOfOneTaskIsNotThatOfTheNext()
+{
+    const TaskMachine machine;
+    const QString off = u"<Enabled>false</Enabled>"_s;
+    const auto rows =
+        rowsOf(machine, listOfDocuments({{u"\\A"_s}, {u"\\B"_s, u"b"_s, off}, {u"\\C"_s}, {u"\\D"_s, {}, off}}));
+    QList<int> disabled;
+    for (const TaskRow &row : rows)
+        disabled.append(row.disabled);
+    QCOMPARE(disabled, (QList<int>{0, 1, 0, 1}));
+    QCOMPARE(rows.at(2).description, none);
+}
+
+void TestTaskList::description_data()
+{
+    QTest::addColumn<QString>("element");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *title, const QString &inside, const QString &text) {
+        QTest::newRow(title) << u"<Description>"_s + inside + u"</Description>"_s << text;
+    };
+    row("plain", u"Does it."_s, u"Does it."_s);
+    row("empty", {}, {});
+    row("blanks", u"  a  "_s, u"  a  "_s);
+    row("two lines", u"one\r\ntwo"_s, u"one\ntwo"_s);
+    row("other letters", u"Hält 服务 am Leben"_s, u"Hält 服务 am Leben"_s);
+    row("reference", u"$(@%SystemRoot%\\system32\\a.dll,-100)"_s, u"Text of a"_s);
+    row("reference to a bare name", u"$(@a.dll,-100)"_s, u"Text of a"_s);
+    row("reference to a missing DLL", u"$(@%SystemRoot%\\missing.dll,-100)"_s, none);
+    row("reference to a missing number", u"$(@a.dll,-999)"_s, none);
+    row("reference without a number", u"$(@a.dll)"_s, u"$(@a.dll)"_s);
+    row("reference further on", u"See $(@a.dll,-100)"_s, u"See $(@a.dll,-100)"_s);
+    row("reference of another form", u"@a.dll,-100"_s, u"@a.dll,-100"_s);
+    row("reference of a missing letter", u"$(a.dll,-100)"_s, u"$(a.dll,-100)"_s);
+    row("an element in it", u"a <b>c</b>"_s, u"a <b>c</b>"_s);
+    QTest::newRow("none") << QString() << none;
+    QTest::newRow("without content") << u"<Description/>"_s << none;
+    QTest::newRow("in another case") << u"<description>x</description>"_s << none;
+    QTest::newRow("two") << u"<Description>one</Description><Description>two</Description>"_s << u"one"_s;
+}
+
+void TestTaskList::description()
+{
+    QFETCH(const QString, element);
+    QFETCH(const QString, text);
+    TaskMachine machine;
+    machine.addFile(u"C:\\Windows\\System32\\a.dll"_s);
+    machine.machine().setDllStrings(u"C:\\Windows\\System32\\a.dll"_s, {{100, u"Text of a"_s}});
+    const auto rows = rowsOf(machine, u"<Task><URI>\\A</URI>"_s + element + u"</Task>"_s);
+    QCOMPARE(rows.size(), 1);
+    QCOMPARE(rows.at(0).description, text);
+    QCOMPARE(rows.at(0).path, u"A"_s);
+}
+
+void TestTaskList::textBeforeTheFirstTaskDoesNotMatter_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("comment") << u"<!-- \\Other\\Task -->\r\n"_s;
+    QTest::newRow("declaration") << u"<?xml version=\"1.0\" encoding=\"UTF-16\"?>"_s;
+    QTest::newRow("byte order mark") << u"\uFEFF"_s;
+    QTest::newRow("message") << u"INFO: Folder: \\ has tasks.\r\n"_s;
+    QTest::newRow("closing tag of an address") << u"</URI>"_s;
+    QTest::newRow("closing tag of a description") << u"</Description>"_s;
+    QTest::newRow("opening tag of a task") << u"<Task>"_s;
+    QTest::newRow("much text") << QString(100000, u'x');
+}
+
+void TestTaskList::textBeforeTheFirstTaskDoesNotMatter()
+{
+    QFETCH(const QString, text);
+    const TaskMachine machine;
+    const auto rows = rowsOf(machine, text + taskElement({u"\\Folder\\A"_s}) + taskElement({u"\\B"_s}));
+    QCOMPARE(pathsOf(rows), (QStringList{u"Folder\\A"_s, u"B"_s}));
+    QCOMPARE(rows.at(0).name, u"A"_s);
+    QCOMPARE(rows.at(0).description, none);
+}
+
+void TestTaskList::nothingIsDecoded()
+{
+    const TaskMachine machine;
+    const auto rows =
+        rowsOf(machine, listOfDocuments({{u"\\A &amp; B"_s, u"Tom &amp; &lt;Jerry&gt; <![CDATA[<x>]]> &#65;"_s}}));
+    QCOMPARE(rows.at(0).path, u"A &amp; B"_s);
+    QCOMPARE(rows.at(0).description, u"Tom &amp; &lt;Jerry&gt; <![CDATA[<x>]]> &#65;"_s);
+}
+
+void TestTaskList::damagedExportGivesItsWholeTasks_data()
+{
+    QTest::addColumn<QString>("damage"); // stands between two whole tasks
+    QTest::newRow("nothing but closing tags") << u"</Task></Task>"_s;
+    QTest::newRow("a task without an address") << u"<Task><Description>x</Description></Task>"_s;
+    QTest::newRow("a task with an empty address") << u"<Task><URI></URI></Task>"_s;
+    QTest::newRow("tags in a wrong order") << u"</URI></Description></Tasks>"_s;
+    QTest::newRow("no text") << u"\u0001\u0002 \uFFFD"_s;
+    QTest::newRow("the end of the list, and a second one") << u"</Tasks>\r\n<Tasks>"_s;
+}
+
+void TestTaskList::damagedExportGivesItsWholeTasks()
+{
+    QFETCH(const QString, damage);
+    const TaskMachine machine;
+    const auto rows = rowsOf(machine, taskElement({u"\\A"_s}) + damage + taskElement({u"\\Folder\\B"_s, u"b"_s}));
+    QCOMPARE(pathsOf(rows), (QStringList{u"A"_s, u"Folder\\B"_s}));
+    QCOMPARE(rows.at(1).description, u"b"_s);
+}
+
+void TestTaskList::anExportCutAnywhereGivesTheTasksBeforeTheCut()
+{
+    const TaskMachine machine;
+    const QString whole = listOfDocuments({{u"\\A"_s, u"a"_s}, {u"\\B"_s, u"b"_s}});
+    const qsizetype first = whole.indexOf(u"</Task>"_s) + 7;
+    const qsizetype second = whole.indexOf(u"</Task>"_s, first) + 7;
+    for (const qsizetype cut :
+         {qsizetype(0), qsizetype(5), whole.indexOf(u"<URI>"_s) + 2, whole.indexOf(u"</URI>"_s) + 3, first - 1, first,
+          first + 3, whole.lastIndexOf(u"<URI>"_s) + 3, whole.lastIndexOf(u"</URI>"_s) + 2, second - 1, second}) {
+        QStringList expected;
+        if (cut >= first)
+            expected.append(u"A"_s);
+        if (cut >= second)
+            expected.append(u"B"_s);
+        QCOMPARE(pathsOf(rowsOf(machine, whole.first(cut))), expected);
+    }
+}
+
+void TestTaskList::exportOf16BitsWithItsMarkIsRead_data()
+{
+    QTest::addColumn<QStringConverter::Encoding>("encoding");
+    QTest::newRow("little-endian") << QStringConverter::Utf16LE;
+    QTest::newRow("big-endian") << QStringConverter::Utf16BE;
+    QTest::newRow("8 bits") << QStringConverter::Utf8;
+}
+
+void TestTaskList::exportOf16BitsWithItsMarkIsRead()
+{
+    QFETCH(const QStringConverter::Encoding, encoding);
+    const TaskMachine machine;
+    QStringEncoder encode(encoding, QStringConverter::Flag::WriteBom);
+    printBytes(machine, encode(listOfDocuments({{u"\\Folder\\A"_s, u"Hält"_s}, {u"\\B"_s}})));
+    WorkThread worker;
+    JobLines lines(worker);
+    worker.TaskMakeList();
+    QCOMPARE(pathsOf(worker.tasks), (QStringList{u"Folder\\A"_s, u"B"_s}));
+    QCOMPARE(worker.tasks.at(0).description, u"Hält"_s);
+    QCOMPARE(lines.all(), closingLine);
+}
+
+void TestTaskList::exportOf16BitsWithoutMarkGivesNoRow()
+{
+    const TaskMachine machine;
+    QStringEncoder encode(QStringConverter::Utf16LE);
+    printBytes(machine, encode(listOfDocuments({{u"\\A"_s}, {u"\\B"_s}})));
+    WorkThread worker;
+    JobLines lines(worker);
+    worker.TaskMakeList();
+    QCOMPARE(pathsOf(worker.tasks), QStringList());
+    QCOMPARE(lines.all(), closingLine);
+}
+
+void TestTaskList::bytesThatAreNoTextAreRead()
+{
+    const TaskMachine machine;
+    printBytes(machine, "<Task><URI>\\A</URI><Description>H\x84lt" + QByteArray(1, '\0')
+                            + " an</Description></Task><Task><URI>\\\x81"
+                              "ber</URI></Task>");
+    WorkThread worker;
+    worker.TaskMakeList();
+    QCOMPARE(worker.tasks.size(), 2);
+    QCOMPARE(worker.tasks.at(0).path, u"A"_s);
+    QVERIFY(worker.tasks.at(0).description.startsWith(u'H') && worker.tasks.at(0).description.endsWith(u" an"_s));
+    QVERIFY(worker.tasks.at(1).path.endsWith(u"ber"_s));
+}
+
+void TestTaskList::twentyMegabytesAreRead()
+{
+    const TaskMachine machine;
+    const QString two =
+        listOfDocuments({{u"\\Folder\\A"_s, QString(1000, u'd')}, {u"\\B"_s, {}, u"<Enabled>false</Enabled>"_s}});
+    const int repeat = 20 * 1024 * 1024 / int(two.size()) + 1;
+    print(machine, two, repeat);
+    WorkThread worker;
+    JobLines lines(worker);
+    QVERIFY(runJob(worker, 1));
+    QVERIFY(QFileInfo(exportFile(machine)).size() > 20 * 1024 * 1024);
+    QCOMPARE(worker.tasks.size(), 2 * repeat);
+    QCOMPARE(worker.tasks.constFirst().path, u"Folder\\A"_s);
+    QCOMPARE(worker.tasks.at(worker.tasks.size() - 2).description.size(), 1000);
+    QCOMPARE(worker.tasks.constLast().path, u"B"_s);
+    QCOMPARE(worker.tasks.constLast().disabled, 1);
+    QCOMPARE(lines.all(), closingLine);
+}
+
+void TestTaskList::exportIsLeftBehindAndOverwritten()
+{
+    const TaskMachine machine;
+    const QString first = listOfDocuments({{u"\\A"_s, u"longer than the second"_s}, {u"\\B"_s}});
+    const QString second = insideTasks({{u"\\C"_s}});
+    WorkThread worker;
+    print(machine, first);
+    worker.TaskMakeList();
+    QCOMPARE(content(exportFile(machine)), first.toUtf8());
+    print(machine, second);
+    worker.TaskMakeList();
+    QCOMPARE(content(exportFile(machine)), second.toUtf8());
+    QCOMPARE(pathsOf(worker.tasks), QStringList{u"C"_s});
+}
+
+void TestTaskList::firstExportIsKeptAsABackup()
+{
+    const TaskMachine machine;
+    const QString first = listOfDocuments({{u"\\A"_s}});
+    WorkThread worker;
+    QVERIFY(!QFileInfo::exists(backupFolder(machine)));
+    print(machine, first);
+    worker.TaskMakeList();
+    QCOMPARE(QDir(backupFolder(machine)).entryList(QDir::Files), QStringList{u"tasks.xml"_s});
+    QCOMPARE(content(backupFolder(machine) + u"/tasks.xml"_s), first.toUtf8());
+    print(machine, listOfDocuments({{u"\\B"_s}}));
+    worker.TaskMakeList();
+    QCOMPARE(content(backupFolder(machine) + u"/tasks.xml"_s), first.toUtf8());
+    QCOMPARE(pathsOf(worker.tasks), QStringList{u"B"_s});
+
+    // One that was taken away is made anew.
+    QVERIFY(QFile::remove(backupFolder(machine) + u"/tasks.xml"_s));
+    worker.TaskMakeList();
+    QCOMPARE(content(backupFolder(machine) + u"/tasks.xml"_s), listOfDocuments({{u"\\B"_s}}).toUtf8());
+}
+
+void TestTaskList::withoutRightsThereIsNoBackup()
+{
+    const TaskMachine machine({.elevated = false});
+    print(machine, listOfDocuments({{u"\\A"_s}}));
+    WorkThread worker;
+    JobLines lines(worker);
+    worker.TaskMakeList();
+    QCOMPARE(pathsOf(worker.tasks), QStringList{u"A"_s});
+    QVERIFY(!QFileInfo::exists(backupFolder(machine)));
+    QVERIFY(QFile::exists(exportFile(machine)));
+    QCOMPARE(lines.all(), closingLine);
+}
+
+void TestTaskList::backupThatCannotBeWrittenDoesNotMatter()
+{
+    const TaskMachine machine;
+    QFile inTheWay(backupFolder(machine));
+    QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+    inTheWay.close();
+    print(machine, listOfDocuments({{u"\\A"_s}}));
+    WorkThread worker;
+    JobLines lines(worker);
+    worker.TaskMakeList();
+    QCOMPARE(pathsOf(worker.tasks), QStringList{u"A"_s});
+    QCOMPARE(lines.all(), closingLine);
+}
+
+void TestTaskList::missingToolSendsNoLineAndEmptiesTheList()
+{
+    TaskMachine machine;
+    machine.logErrors();
+    machine.machine().setFault(u"schtasks"_s, {.missing = true});
+    WorkThread worker;
+    worker.tasks = oldList();
+    JobLines lines(worker);
+    QVERIFY(runJob(worker, 1));
+    QCOMPARE(lines.all(), QStringList());
+    QCOMPARE(pathsOf(worker.tasks), QStringList());
+    QCOMPARE(machine.errorLog(), QStringList{u"TaskMakeList: schtasks process error: Process failed to start: "
+                                             u"The system cannot find the file specified."_s});
+    QVERIFY(!QFileInfo::exists(backupFolder(machine)));
+}
+
+void TestTaskList::missingToolIsNotLoggedUnlessTheLogIsOn()
+{
+    const TaskMachine machine;
+    machine.machine().setFault(u"schtasks"_s, {.missing = true});
+    WorkThread worker;
+    worker.TaskMakeList();
+    QVERIFY(!QFile::exists(machine.platform().programFolder() + u"/log.txt"_s));
+}
+
+void TestTaskList::failingToolSendsNoLine_data()
+{
+    QTest::addColumn<int>("code");
+    for (const int code : {1, 5, 256, -1})
+        QTest::addRow("%d", code) << code;
+}
+
+void TestTaskList::failingToolSendsNoLine()
+{
+    QFETCH(const int, code);
+    TaskMachine machine;
+    machine.logErrors();
+    machine.machine().setFault(u"schtasks"_s, {.exitCode = code, .output = listOfDocuments({{u"\\A"_s}})});
+    WorkThread worker;
+    worker.tasks = oldList();
+    JobLines lines(worker);
+    QVERIFY(runJob(worker, 1));
+    QCOMPARE(machine.commands().value(0).exitCode, code);
+    QCOMPARE(lines.all(), QStringList());
+    QCOMPARE(pathsOf(worker.tasks), QStringList());
+    QCOMPARE(machine.errorLog(), QStringList{u"TaskMakeList: schtasks process error: "_s + QString::number(code)});
+    QVERIFY(!QFileInfo::exists(backupFolder(machine)));
+}
+
+void TestTaskList::hangingToolIsGivenUpAndWhatItPrintedIsRead()
+{
+    TaskMachine machine;
+    machine.logErrors();
+    machine.machine().setFault(u"schtasks"_s,
+                               {.hang = true, .output = listOfDocuments({{u"\\A"_s}}) + u"<Task><URI>"_s});
+    Command::timeLimit = 1000;
+    WorkThread worker;
+    JobLines lines(worker);
+    QVERIFY(runJob(worker, 1));
+    QCOMPARE(lines.all(), closingLine);
+    QCOMPARE(pathsOf(worker.tasks), QStringList{u"A"_s});
+    QCOMPARE(machine.errorLog(), QStringList());
+}
+
+void TestTaskList::exportThatCannotBeWrittenSendsNoLine()
+{
+    TaskMachine machine;
+    machine.logErrors();
+    // A folder stands where the export would.
+    QVERIFY(QDir().mkpath(exportFile(machine)));
+    print(machine, listOfDocuments({{u"\\A"_s}}));
+    WorkThread worker;
+    worker.tasks = oldList();
+    JobLines lines(worker);
+    QVERIFY(runJob(worker, 1));
+    QCOMPARE(lines.all(), QStringList());
+    QCOMPARE(pathsOf(worker.tasks), QStringList());
+    QCOMPARE(machine.errorLog(), QStringList{u"TaskMakeList: schtasks process error: Is a directory"_s});
+    QVERIFY(!QFileInfo::exists(backupFolder(machine)));
+}
+
+void TestTaskList::aRunEmptiesTheListOfBefore()
+{
+    const TaskMachine machine;
+    print(machine, listOfDocuments({{u"\\A"_s}, {u"\\B"_s}}));
+    WorkThread worker;
+    worker.tasks = oldList();
+    worker.TaskMakeList();
+    worker.TaskMakeList();
+    QCOMPARE(pathsOf(worker.tasks), (QStringList{u"A"_s, u"B"_s}));
+    machine.machine().setFault(u"schtasks"_s, {.exitCode = 0}); // prints nothing
+    JobLines lines(worker);
+    worker.TaskMakeList();
+    QCOMPARE(pathsOf(worker.tasks), QStringList());
+    QCOMPARE(lines.all(), closingLine);
+}
+
+void TestTaskList::duringAnalyzeNoClosingLineIsSent()
+{
+    const TaskMachine machine;
+    print(machine, listOfDocuments({{u"\\A"_s}}));
+    WorkThread worker;
+    worker.analyzeRunning = 1;
+    JobLines lines(worker);
+    worker.TaskMakeList();
+    QCOMPARE(pathsOf(worker.tasks), QStringList{u"A"_s});
+    QCOMPARE(lines.all(), QStringList());
+}
+
+void TestTaskList::duringOptimizeAndRestoreTheClosingLineIsSent()
+{
+    const TaskMachine machine;
+    print(machine, listOfDocuments({{u"\\A"_s}}));
+    WorkThread worker;
+    worker.optimizeRunning = 1;
+    worker.restoreRunning = 1;
+    JobLines lines(worker);
+    worker.TaskMakeList();
+    QCOMPARE(lines.all(), closingLine);
+}
+
+void TestTaskList::nothingIsLoggedOfAListingThatWorked()
+{
+    TaskMachine machine;
+    machine.logErrors();
+    print(machine, listOfDocuments({{u"\\A"_s}}));
+    WorkThread worker;
+    worker.TaskMakeList();
+    QCOMPARE(machine.errorLog(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestTaskList)
+#include "tst_tasklist.moc"
