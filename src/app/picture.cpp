@@ -14,9 +14,7 @@ namespace {
 bool isIdle(const Kestrune &window)
 {
     const auto workers = window.findChildren<WorkThread *>();
-    return std::none_of(workers.begin(), workers.end(), [](const WorkThread *worker) {
-        return worker->isRunning();
-    });
+    return std::none_of(workers.begin(), workers.end(), [](const WorkThread *worker) { return worker->isRunning(); });
 }
 
 /** Lets the page's job come to its end, and its last lines arrive. */
