@@ -64,11 +64,32 @@ void WorkThread::runJob(int number)
     case JobWinSxsSize:
         WinSxsSize();
         break;
+    case JobAutomatizerAnalyze:
+        AutomatizerAnalyze();
+        break;
+    case JobAutomatizerOptimize:
+        AutomatizerOptimize();
+        break;
     case JobSvcDisable:
         SvcStopOrStart(servicesToChange, false);
         break;
     case JobSvcEnable:
         SvcStopOrStart(servicesToChange, true);
+        break;
+    case JobTweakApply:
+        TweakSSD(1, 8);
+        break;
+    case JobTweakReset:
+        TweakSSD(0, 8);
+        break;
+    case JobGetSystemInfo:
+        GetSystemInfo();
+        break;
+    case JobAutomatizerRestore:
+        AutomatizerRestore();
+        break;
+    case JobMonitor:
+        MonitorSystem();
         break;
     default:
         break;

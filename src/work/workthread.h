@@ -138,6 +138,17 @@ public:
     int PackageSetState(const QList<PackageRow> &list, bool install);
     /** Lists the programs started at logon into `autoruns`. No job; runs on the caller's thread and sends no line. */
     void AutorunGetList();
+    /**
+     * One numbered change of the SSD group, ids 1 to 9: put in force, or with @p apply other than 1 set back to fixed
+     * values. An id that the group doesn't know does nothing. Runs on the caller's thread; nothing is reported.
+     */
+    void TweakSSD(quint8 apply, quint32 id);
+    /** The same for the gaming group, ids 1 to 14. */
+    void TweakGaming(quint8 apply, quint32 id);
+    /** The same for the Windows group, ids 1 to 10 and 12. */
+    void TweakWindows(quint8 apply, quint32 id);
+    /** Fills the texts of the system report, in seven steps. */
+    void GetSystemInfo();
     /** The text behind a registry string, which may be a reference into a DLL's string table. */
     QString ExpandResourceString(const QString &text);
     /** A string of a DLL, or "no description". */
@@ -163,6 +174,10 @@ private:
     void runJob(int number);
     void WinSxsSize();
     void choosePackages();
+    void AutomatizerAnalyze();
+    void AutomatizerOptimize();
+    void AutomatizerRestore();
+    void MonitorSystem();
 
     std::atomic<int> run_ = 0; ///< counts starts and ends, so that late lines of an earlier run are known
     int runOfThread_ = 0;      ///< the run that the thread works on; touched by the thread alone

@@ -1,0 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "work/workthread.h"
+
+void WorkThread::AutomatizerRestore() {}
