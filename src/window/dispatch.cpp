@@ -30,6 +30,9 @@ void Kestrune::onWorkThreadValueChanged(const QString &text)
     case JobSvcEnable:
         onServiceJobLine(line);
         break;
+    case JobGetSystemInfo:
+        onInfoJobLine(line);
+        break;
     default:
         break;
     }

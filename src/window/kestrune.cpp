@@ -24,6 +24,7 @@ Kestrune::Kestrune()
     workThread->winName = windows.product;
     workThread->winBuild = windows.build;
     startPalette = QGuiApplication::palette();
+    monitorTimer = new QTimer(this);
 
     applyPalette();
 
@@ -33,6 +34,7 @@ Kestrune::Kestrune()
     // The page may have moved the program to an elevated instance, which the value is for then.
     if (!left_)
         settings->remove(u"lastPage"_s);
+    prepareMonitor();
 }
 
 Kestrune::~Kestrune()
@@ -50,6 +52,7 @@ void Kestrune::makeWorkers()
     connect(workThread, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueChanged);
     workThreadWinSxs = new WorkThread(this);
     workThreadMonitor = new WorkThread(this);
+    connect(workThreadMonitor, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueMonitor);
 }
 
 void Kestrune::waitForLastInstructions()

@@ -9,6 +9,9 @@
 #include <QColor>
 #include <QMainWindow>
 #include <QPalette>
+#include <QTextBrowser>
+
+class QTimer;
 
 class Kestrune : public QMainWindow
 {
@@ -18,8 +21,9 @@ public:
     Kestrune();
     ~Kestrune() override;
 
-    QString appVersion; ///< set once the window stands
-    QString screenName; ///< likewise
+    QString appVersion;                         ///< set once the window stands
+    QString screenName;                         ///< likewise
+    QString currentLang = QStringLiteral("en"); ///< tag of the language in force
 
     /** Number of the page that is shown, 0 to 8. */
     int currentPage() const { return ui.tabWidget->currentIndex(); }
@@ -42,6 +46,7 @@ public:
 public Q_SLOTS:
     void StartAsAdmin();
     void onWorkThreadValueChanged(const QString &line);
+    void onWorkThreadValueMonitor(const QString &line);
 
 private Q_SLOTS:
     // Menu
@@ -70,6 +75,11 @@ private Q_SLOTS:
     void on_btnAutorunViewDisabled_clicked();
     void on_btnPackagesUninst_clicked();
     void on_btnPackagesViewDisabled_clicked();
+
+    // Options page: the monitor
+    void onChkOptionsMonitorStateChanged(int state);
+    void onCbOptionsMonitorIntervalSelectionChanged(int index);
+    void onChkOptionsMonitorThreadAndHandleStateChanged(int state);
 
     // Context menu of the lists
     void showContextMenu();
@@ -104,6 +114,8 @@ private:
     template<typename Widget>
     void styleAll(const QString &style);
     void colorTexts();
+    /** Gives the text's coloured words the theme's colour. */
+    void colorText(QTextBrowser *browser);
 
     // Services page
     void showServicesPage();
@@ -133,11 +145,25 @@ private:
     void fillPackageTable();
     void addPackageRow(const QString &name, const QString &displayName, const QString &comments);
 
+    // System information page
+    void showInfoPage();
+    void onInfoJobLine(QString &line);
+    /** Pours the texts of the job into the template. */
+    void showSystemReport();
+
+    // Monitor
+    /** Reads the monitor's options, and starts it where it is on. */
+    void prepareMonitor();
+    void startMonitor();
+    /** The timer's tick: one run, unless the last one still lasts. */
+    void runMonitor();
+
     Ui::KestruneClass ui;
-    QString currentLang = QStringLiteral("en");
     WorkThread *workThread = nullptr;
     WorkThread *workThreadWinSxs = nullptr;
     WorkThread *workThreadMonitor = nullptr;
+    QTimer *monitorTimer = nullptr;
+    QString infoTemplate;     ///< the report with its marks, once there has been one
     QPalette startPalette;    ///< the system's own palette
     QColor previousLinkColor; ///< of the theme before the present one
     int currentTheme = 0;     ///< a Theme

@@ -90,6 +90,9 @@ void Kestrune::openPage(int page)
     case 4:
         showPackagesPage();
         break;
+    case 6:
+        showInfoPage();
+        break;
     default:
         break;
     }

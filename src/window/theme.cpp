@@ -134,12 +134,17 @@ void Kestrune::colorTexts()
         browser->setStyleSheet(u"background-color: "_s + window);
     for (QLabel *heading : headings)
         heading->setStyleSheet(u"color: "_s + link);
+    for (QTextBrowser *browser : browsers)
+        colorText(browser);
+}
+
+void Kestrune::colorText(QTextBrowser *browser)
+{
     // The form's texts carry black where they follow the theme; after a change of theme they carry the last one's
     // colour.
-    for (QTextBrowser *browser : browsers) {
-        QString html = browser->toHtml();
-        html.replace(u"color:#000000"_s, u"color:"_s + link);
-        html.replace(u"color:"_s + previousLinkColor.name(), u"color:"_s + link);
-        browser->setText(html);
-    }
+    const QString link = linkColor();
+    QString html = browser->toHtml();
+    html.replace(u"color:#000000"_s, u"color:"_s + link);
+    html.replace(u"color:"_s + previousLinkColor.name(), u"color:"_s + link);
+    browser->setText(html);
 }

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The System information page: a template whose marks give way to the texts that the job has gathered.
+
+#include "kestrune.h"
+
+#include <span>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct InfoStep
+{
+    QLatin1StringView value;
+    const char *words;
+    const char *subject;
+};
+
+// clang-format off
+constexpr InfoStep infoSteps[] = {
+    {"1"_L1, QT_TRANSLATE_NOOP("Kestrune", "Get system info:"),  QT_TRANSLATE_NOOP("Kestrune", "Windows")},
+    {"2"_L1, QT_TRANSLATE_NOOP("Kestrune", "Get system info:"),  QT_TRANSLATE_NOOP("Kestrune", "MotherBoard")},
+    {"3"_L1, QT_TRANSLATE_NOOP("Kestrune", "Get system info:"),  QT_TRANSLATE_NOOP("Kestrune", "GPU")},
+    {"4"_L1, QT_TRANSLATE_NOOP("Kestrune", "Get system info:"),  QT_TRANSLATE_NOOP("Kestrune", "DISK")},
+    {"5"_L1, QT_TRANSLATE_NOOP("Kestrune", "Get system info:"),  QT_TRANSLATE_NOOP("Kestrune", "MEM")},
+    {"6"_L1, QT_TRANSLATE_NOOP("Kestrune", "Load system info:"), QT_TRANSLATE_NOOP("Kestrune", "CPU")},
+    {"7"_L1, QT_TRANSLATE_NOOP("Kestrune", "Load system info:"), QT_TRANSLATE_NOOP("Kestrune", "finished")},
+};
+
+struct Mark
+{
+    QLatin1StringView name;
+    QString WorkThread::*text;
+};
+
+constexpr Mark windowsMarks[] = {
+    {"%winName"_L1,    &WorkThread::winName},
+    {"%winBuild"_L1,   &WorkThread::winBuild},
+    {"%winEdition"_L1, &WorkThread::winEdition},
+    {"%winVersion"_L1, &WorkThread::winVersion},
+    {"%winOnSsd"_L1,   &WorkThread::winOnSsd},
+};
+
+constexpr Mark motherBoardMarks[] = {
+    {"%mbModel"_L1,        &WorkThread::mbModel},
+    {"%mbManufacturer"_L1, &WorkThread::mbManufacturer},
+    {"%mbBiosVersion"_L1,  &WorkThread::mbBiosVersion},
+    {"%mbBiosDate"_L1,     &WorkThread::mbBiosDate},
+};
+
+constexpr Mark processorMarks[] = {
+    {"%cpuName"_L1,   &WorkThread::cpuName},
+    {"%cpuCore"_L1,   &WorkThread::cpuCore},
+    {"%cpuThread"_L1, &WorkThread::cpuThread},
+    {"%cpuL2Size"_L1, &WorkThread::cpuL2Size},
+    {"%cpuL3Size"_L1, &WorkThread::cpuL3Size},
+    {"%cpuSocket"_L1, &WorkThread::cpuSocket},
+    {"%cpuFreq"_L1,   &WorkThread::cpuFreq},
+    {"%cpuV"_L1,      &WorkThread::cpuV},
+    {"%cpuHt"_L1,     &WorkThread::cpuHt},
+};
+
+constexpr Mark graphicsMarks[] = {
+    {"%gpuName"_L1,              &WorkThread::gpuName},
+    {"%gpuDesktopSize"_L1,       &WorkThread::gpuDesktopSize},
+    {"%gpuDesktopMaxSize"_L1,    &WorkThread::gpuDesktopMaxSize},
+    {"%gpuRefreshRate"_L1,       &WorkThread::gpuRefreshRate},
+    {"%gpuDriverVersion"_L1,     &WorkThread::gpuDriverVersion},
+    {"%gpuDriverDate"_L1,        &WorkThread::gpuDriverDate},
+    {"%screenMaxRefreshRate"_L1, &WorkThread::screenMaxRefreshRate},
+    {"%screenHdr"_L1,            &WorkThread::screenHdr},
+};
+
+constexpr Mark memoryMarks[] = {
+    {"%memFree"_L1,       &WorkThread::memFree},
+    {"%memFreq"_L1,       &WorkThread::memFreq},
+    {"%memTotal"_L1,      &WorkThread::memTotal},
+    {"%memFormFactor"_L1, &WorkThread::memFormFactor},
+};
+// clang-format on
+
+QString withTexts(QString html, std::span<const Mark> marks, const WorkThread &worker)
+{
+    for (const Mark &mark : marks)
+        html.replace(mark.name, worker.*mark.text);
+    return html;
+}
+
+/** The three pieces of a date in another order; a text that is no such date stays as it is. */
+QString reordered(const QString &date, int first, int second, int third)
+{
+    if (!date.contains(u'/'))
+        return date;
+    const QStringList pieces = date.split(u'/');
+    return pieces.value(first) + u'/' + pieces.value(second) + u'/' + pieces.value(third);
+}
+
+} // namespace
+
+void Kestrune::showInfoPage()
+{
+    ui.wgtInfo->hide();
+    workThread->startJob(JobGetSystemInfo);
+}
+
+void Kestrune::onInfoJobLine(QString &line)
+{
+    if (line.startsWith("pgr:"_L1))
+        ui.pgrBar->show();
+    if (line.startsWith("pgr:max:"_L1)) {
+        line.remove(0, 8);
+        ui.pgrBar->setMaximum(line.toInt());
+        return;
+    }
+    if (!line.startsWith("pgr:value:"_L1))
+        return;
+    line.remove(0, 10);
+    ui.pgrBar->setValue(line.toInt());
+    if (line == infoSteps[std::size(infoSteps) - 1].value) {
+        showSystemReport();
+        ui.wgtInfo->show();
+    }
+    for (const InfoStep &step : infoSteps) {
+        if (line == step.value)
+            ui.lblStatus->setText(tr(step.words) + u' ' + tr(step.subject));
+    }
+}
+
+void Kestrune::showSystemReport()
+{
+    // The first report keeps the template, which later ones start from; a change of language doesn't reach it any more.
+    if (infoTemplate.isEmpty())
+        infoTemplate = ui.txtInfo->toHtml();
+    else
+        ui.txtInfo->setHtml(infoTemplate);
+    colorText(ui.txtInfo);
+
+    // The job fills the dates anew before each report, so that they are never turned twice.
+    if (currentLang.startsWith("fr"_L1)) {
+        workThread->mbBiosDate = reordered(workThread->mbBiosDate, 1, 0, 2);
+        workThread->gpuDriverDate = reordered(workThread->gpuDriverDate, 2, 1, 0);
+    }
+    // One group at a time, so that what an earlier text has brought in is well-formed when the next marks are looked
+    // for.
+    for (const std::span<const Mark> marks :
+         {std::span<const Mark>(windowsMarks), std::span<const Mark>(motherBoardMarks),
+          std::span<const Mark>(processorMarks)})
+        ui.txtInfo->setHtml(withTexts(ui.txtInfo->toHtml(), marks, *workThread));
+
+    QString html = withTexts(ui.txtInfo->toHtml(), graphicsMarks, *workThread);
+    ui.txtInfo->setHtml(html.replace(tr("loading screen info..."), screenName));
+    html = withTexts(ui.txtInfo->toHtml(), memoryMarks, *workThread);
+    ui.txtInfo->setHtml(html.replace("%memVSize"_L1, workThread->memVSize + tr("on drive") + u' '
+                                                         + workThread->memVSizeDrive.toUpper()));
+    html = ui.txtInfo->toHtml();
+    ui.txtInfo->setHtml(html.replace(tr("loading disk info..."), workThread->diskInfo));
+}
