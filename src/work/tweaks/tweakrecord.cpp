@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tweakrecord.h"
+
+#include "tweakcatalogue.h"
+#include "work/settings.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString priorityName = u"cbWin32PrioritySeparation"_s;
+
+bool isRecorded(TweakRecord rule, const WorkThread &worker)
+{
+    switch (rule) {
+    case TweakRecord::Always:
+        break;
+    case TweakRecord::Windows11:
+        return worker.winName.contains("11"_L1);
+    case TweakRecord::WithoutBattery:
+        return worker.batteryCharge == "-1"_L1;
+    case TweakRecord::GameBarGivenUp:
+        return worker.restoreRunning != 0 || worker.keepXboxGameBar == 0;
+    case TweakRecord::Never:
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+TweakState storedTweaks()
+{
+    const auto records = openRecords(u"Tweak"_s);
+    TweakState state;
+    for (const TweakBox &box : tweakBoxes())
+        state.boxes.insert(box.name, records->value(box.name).toBool());
+    state.priorityIndex = records->value(priorityName, state.priorityIndex).toInt();
+    return state;
+}
+
+void storeTweaks(const TweakState &state)
+{
+    const auto records = openRecords(u"Tweak"_s);
+    for (auto box = state.boxes.cbegin(); box != state.boxes.cend(); ++box)
+        records->setValue(box.key(), box.value());
+    records->setValue(priorityName, state.priorityIndex);
+}
+
+void recordTweaksOfAutomatizer(const WorkThread &worker, int priorityIndex)
+{
+    TweakState state;
+    state.priorityIndex = priorityIndex;
+    for (const TweakBox &box : tweakBoxes()) {
+        if (isRecorded(box.recorded, worker))
+            state.boxes.insert(box.name, worker.restoreRunning == 0);
+    }
+    storeTweaks(state);
+}
