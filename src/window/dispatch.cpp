@@ -30,6 +30,10 @@ void Kestrune::onWorkThreadValueChanged(const QString &text)
     case JobSvcEnable:
         onServiceJobLine(line);
         break;
+    case JobTweakApply:
+    case JobTweakReset:
+        onAttributeWalkEnd();
+        break;
     case JobGetSystemInfo:
         onInfoJobLine(line);
         break;

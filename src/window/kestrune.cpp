@@ -35,6 +35,7 @@ Kestrune::Kestrune()
     if (!left_)
         settings->remove(u"lastPage"_s);
     prepareMonitor();
+    lookAtGraphicsCard();
 }
 
 Kestrune::~Kestrune()
@@ -51,6 +52,7 @@ void Kestrune::makeWorkers()
     workThread = new WorkThread(this);
     connect(workThread, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueChanged);
     workThreadWinSxs = new WorkThread(this);
+    connect(workThreadWinSxs, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueWinSxs);
     workThreadMonitor = new WorkThread(this);
     connect(workThreadMonitor, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueMonitor);
 }

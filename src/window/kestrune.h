@@ -9,9 +9,11 @@
 #include <QColor>
 #include <QMainWindow>
 #include <QPalette>
+#include <QSet>
 #include <QTextBrowser>
 
 class QTimer;
+struct TweakBox;
 
 class Kestrune : public QMainWindow
 {
@@ -47,6 +49,7 @@ public Q_SLOTS:
     void StartAsAdmin();
     void onWorkThreadValueChanged(const QString &line);
     void onWorkThreadValueMonitor(const QString &line);
+    void onWorkThreadValueWinSxs(const QString &line);
 
 private Q_SLOTS:
     // Menu
@@ -80,6 +83,12 @@ private Q_SLOTS:
     void onChkOptionsMonitorStateChanged(int state);
     void onCbOptionsMonitorIntervalSelectionChanged(int index);
     void onChkOptionsMonitorThreadAndHandleStateChanged(int state);
+
+    // Features page
+    void on_btnTweakApply_clicked();
+    void on_btnSsd8_clicked();
+    void markTweak();
+    void oncbWin32PrioritySeparationIndexChanged();
 
     // Context menu of the lists
     void showContextMenu();
@@ -158,6 +167,18 @@ private:
     /** The timer's tick: one run, unless the last one still lasts. */
     void runMonitor();
 
+    // Features page
+    void showFeaturesPage();
+    void showHibernationGain();
+    QCheckBox *checkBoxOf(const TweakBox &box) const;
+    void loadTweakState();
+    void saveTweakState() const;
+    void connectTweakMarks();
+    void applyTouchedTweaks();
+    void offerAttributeWalk();
+    void onAttributeWalkEnd();
+    void lookAtGraphicsCard();
+
     Ui::KestruneClass ui;
     WorkThread *workThread = nullptr;
     WorkThread *workThreadWinSxs = nullptr;
@@ -172,5 +193,7 @@ private:
     int svcStoppedCount = 0;
     int taskEnabledCount = 0;
     int taskDisabledCount = 0;
+    /** Boxes of tweaks that were ever changed since the page was first shown; none is taken out again. */
+    QSet<const QCheckBox *> touchedBoxes;
     bool left_ = false;
 };

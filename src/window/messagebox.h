@@ -9,7 +9,7 @@
 struct Question
 {
     QString text;
-    QString informativeText;
+    QString informativeText{};
     QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
     QMessageBox::StandardButton defaultButton = QMessageBox::NoButton; ///< NoButton leaves it to the style
     int minimumWidth = 0;

@@ -90,6 +90,9 @@ void Kestrune::openPage(int page)
     case 4:
         showPackagesPage();
         break;
+    case 5:
+        showFeaturesPage();
+        break;
     case 6:
         showInfoPage();
         break;
