@@ -6,6 +6,7 @@
 #include "registrykey.h"
 
 #include <QList>
+#include <QSize>
 #include <QStringList>
 
 #include <functional>
@@ -49,6 +50,21 @@ struct ShellStart
     QString verb;       ///< "open", or "runas" for an elevated start
     QString file;       ///< host path of this program's own file, or a Windows path
     QString parameters; ///< one text, as the shell takes it; may be empty
+};
+
+/** What all processors together have done since the start, in units of 100 ns. */
+struct ProcessorTimes
+{
+    quint64 idle = 0;
+    quint64 kernel = 0; ///< contains the idle time
+    quint64 user = 0;
+};
+
+/** The drive that the system started from. */
+struct RootDrive
+{
+    QString path;          ///< "C:/"
+    quint64 freeBytes = 0; ///< 0 also where it can't be told
 };
 
 class Platform
@@ -99,6 +115,27 @@ public:
     /** Reads properties of all instances of a class in ROOT\CIMV2. A failure ends the query with what was read by then.
      */
     virtual WmiAnswer queryWmi(const QString &className, const QStringList &properties) const = 0;
+
+    /**
+     * Whether the volume that a Windows path lies on loses time by seeking, as a disk that turns does. Nothing where
+     * that can't be told.
+     */
+    virtual std::optional<bool> seekPenalty(const QString &windowsPath) const = 0;
+    /** Number of the color space of the first output of the first display adapter; nothing where a step there fails. */
+    virtual std::optional<int> colorSpace() const = 0;
+    /** Width and height of the main screen in pixels; 0 and 0 where there is none. */
+    virtual QSize screenSize() const = 0;
+
+    /** The present reading; zeros where it fails. Readings never go back. */
+    virtual ProcessorTimes processorTimes() const = 0;
+    /** Identifiers of the running processes, at most 1024; 0 is the idle process. Empty where they can't be told. */
+    virtual QList<quint32> processIds() const = 0;
+    /** Threads of all processes; 0 where they can't be told. */
+    virtual int threadCount() const = 0;
+    /** Physical memory that is free, in bytes; 0 where it can't be told. */
+    virtual quint64 freeMemory() const = 0;
+    /** The present figures. */
+    virtual RootDrive rootDrive() const = 0;
 
     /**
      * Pauses the calling thread. Real in use, shortened or only recorded on a rehearsal machine. Ends early when the

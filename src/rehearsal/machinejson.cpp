@@ -2,6 +2,7 @@
 
 #include "machinejson.h"
 
+#include "hardwarejson.h"
 #include "jsonreader.h"
 
 #include <array>
@@ -44,7 +45,7 @@ private:
         QLatin1StringView key;
         Section read;
     };
-    static const std::array<SectionRow, 9> sections;
+    static const std::array<SectionRow, 10> sections;
 
     void readFormatVersion(const QJsonValue &value, const QString &key);
     void readName(const QJsonValue &value, const QString &key);
@@ -52,6 +53,7 @@ private:
     void readRunning(const QJsonValue &value, const QString &key);
     void readProcesses(const QJsonValue &value, const QString &key);
     void readWmi(const QJsonValue &value, const QString &key);
+    void readHardware(const QJsonValue &value, const QString &key);
     void readFiles(const QJsonValue &value, const QString &key);
     void readDlls(const QJsonValue &value, const QString &key);
     void readFaults(const QJsonValue &value, const QString &key);
@@ -66,13 +68,14 @@ private:
 };
 
 // clang-format off
-const std::array<MachineJsonParser::SectionRow, 9> MachineJsonParser::sections{{
+const std::array<MachineJsonParser::SectionRow, 10> MachineJsonParser::sections{{
     {"formatVersion"_L1, &MachineJsonParser::readFormatVersion},
     {"name"_L1,          &MachineJsonParser::readName},
     {"environment"_L1,   &MachineJsonParser::readEnvironment},
     {"running"_L1,       &MachineJsonParser::readRunning},
     {"processes"_L1,     &MachineJsonParser::readProcesses},
     {"wmi"_L1,           &MachineJsonParser::readWmi},
+    {"hardware"_L1,      &MachineJsonParser::readHardware},
     {"files"_L1,         &MachineJsonParser::readFiles},
     {"dlls"_L1,          &MachineJsonParser::readDlls},
     {"faults"_L1,        &MachineJsonParser::readFaults},
@@ -141,6 +144,11 @@ void MachineJsonParser::readWmi(const QJsonValue &value, const QString &key)
             instances.append(read_.object(instance, keyAt(below, instances.size())));
         result_.wmi.insert(it.key(), instances);
     }
+}
+
+void MachineJsonParser::readHardware(const QJsonValue &value, const QString &key)
+{
+    result_.hardware = readHardwareJson(read_, value, key);
 }
 
 void MachineJsonParser::readFiles(const QJsonValue &value, const QString &key)

@@ -23,6 +23,7 @@ struct MachineDescription
     QStringList running;
     std::optional<QStringList> processes;
     QMap<QString, QList<QJsonObject>> wmi;
+    QJsonObject hardware; ///< see Machine::hardware
     QList<FileDescription> files;
     QMap<QString, QMap<uint, QString>> dlls;
     QMap<QString, std::optional<ToolFault>> faults; ///< nothing: an end to the fault

@@ -103,6 +103,8 @@ void Import::apply(const MachineDescription &description)
         machine_.setProcesses(*description.processes);
     for (auto it = description.wmi.begin(); it != description.wmi.end(); ++it)
         machine_.setWmiInstances(it.key(), it.value());
+    if (!description.hardware.isEmpty())
+        machine_.setHardware(description.hardware);
     apply(description.files);
     for (auto it = description.dlls.begin(); it != description.dlls.end(); ++it)
         addDll(it.key(), it.value());

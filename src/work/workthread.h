@@ -117,7 +117,7 @@ public:
 
     std::atomic<int> monitorThreadAndHandle = 0;
     std::atomic<int> monitorEnabled = 0;
-    int monitorStorageAge = 10;
+    int monitorStorageAge = 10; ///< runs of the monitor since it looked at the system drive
     /** "-1" is a machine without battery. Nothing reads a battery yet, so every machine counts as one without. */
     QString batteryCharge{QStringLiteral("-1")};
     QString powerShellPath; ///< set by powerShellProgram()
@@ -147,7 +147,7 @@ public:
     void TweakGaming(quint8 apply, quint32 id);
     /** The same for the Windows group, ids 1 to 10 and 12. */
     void TweakWindows(quint8 apply, quint32 id);
-    /** Fills the texts of the system report, in seven steps. */
+    /** Fills the texts of the system report, in seven steps. What isn't found keeps its earlier text. */
     void GetSystemInfo();
     /** The text behind a registry string, which may be a reference into a DLL's string table. */
     QString ExpandResourceString(const QString &text);
@@ -178,6 +178,10 @@ private:
     void AutomatizerOptimize();
     void AutomatizerRestore();
     void MonitorSystem();
+
+    // The system drive as the monitor saw it last.
+    QString monitorRootPath_;
+    quint64 monitorFreeBytes_ = 0;
 
     std::atomic<int> run_ = 0; ///< counts starts and ends, so that late lines of an earlier run are known
     int runOfThread_ = 0;      ///< the run that the thread works on; touched by the thread alone

@@ -41,6 +41,14 @@ public:
     void shellExecute(const ShellStart &) const override {}
     DllString dllString(const QString &, uint) const override { return {}; }
     WmiAnswer queryWmi(const QString &, const QStringList &) const override { return {}; }
+    std::optional<bool> seekPenalty(const QString &) const override { return {}; }
+    std::optional<int> colorSpace() const override { return {}; }
+    QSize screenSize() const override { return {0, 0}; }
+    ProcessorTimes processorTimes() const override { return {}; }
+    QList<quint32> processIds() const override { return {}; }
+    int threadCount() const override { return 0; }
+    quint64 freeMemory() const override { return 0; }
+    RootDrive rootDrive() const override { return {}; }
     void pause(int) const override {}
 
     /** The lines of log.txt, without date and time. */

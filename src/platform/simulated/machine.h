@@ -42,7 +42,8 @@ struct ToolFault
 /**
  * The machine's folder:
  *
- *     machine.sqlite   registry, run states, processes, tasks, attributes, WMI, DLL strings, environment, faults
+ *     machine.sqlite   registry, run states, processes, tasks, attributes, WMI, hardware, DLL strings, environment,
+ *                      faults
  *     drive_c/         the files the program can see
  *     program/         the program folder: log.txt, backup_svc, backup_tasks
  *     tools/           sc, schtasks, ... all of them kestrune-stocktool
@@ -101,6 +102,14 @@ public:
     /** Whether the machine has the class, if only without instances. */
     bool hasWmiClass(const QString &className) const;
     void setWmiInstances(const QString &className, const QList<QJsonObject> &instances);
+
+    /**
+     * What the machine has of hardware beside WMI and the registry, by the parts that machine.json names there:
+     * volumes, screen, freeMemory, threads, processorTimes. A part that is missing can't be told.
+     */
+    QJsonObject hardware() const;
+    /** Sets the parts that @p parts names; the rest stays. */
+    void setHardware(const QJsonObject &parts);
 
     /** A file's attribute word as Windows has it (0x2 hidden, 0x4 system, 0x10 folder, 0x20 archive ...). */
     quint32 attributes(const QString &windowsPath) const;

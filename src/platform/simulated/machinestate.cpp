@@ -182,6 +182,23 @@ void Machine::setWmiInstances(const QString &className, const QList<QJsonObject>
     transaction.commit();
 }
 
+QJsonObject Machine::hardware() const
+{
+    auto query = database_->query("SELECT value FROM meta WHERE name = 'hardware'");
+    return query.next() ? QJsonDocument::fromJson(query.text(0).toUtf8()).object() : QJsonObject();
+}
+
+void Machine::setHardware(const QJsonObject &parts)
+{
+    Database::Transaction transaction(*database_);
+    QJsonObject all = hardware();
+    for (auto each = parts.begin(); each != parts.end(); ++each)
+        all.insert(each.key(), each.value());
+    const QString text = QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Compact));
+    database_->query("INSERT OR REPLACE INTO meta VALUES ('hardware', ?)").bind(text).run();
+    transaction.commit();
+}
+
 std::optional<ToolFault> Machine::fault(const QString &tool, const QStringList &arguments) const
 {
     // The fault that names the most arguments counts.

@@ -5,6 +5,7 @@
 
 #include "environment.h"
 #include "folderwalk.h"
+#include "guarded.h"
 #include "scriptopener.h"
 #include "simulatedkey.h"
 
@@ -31,18 +32,6 @@ constexpr QLatin1StringView executableSuffix(".exe");
 #else
 constexpr QLatin1StringView executableSuffix("");
 #endif
-
-/** What is wrong with the machine is said, and the question gets the answer of a system without the thing. */
-template<typename Result, typename Operation>
-Result guarded(Result fallback, Operation operation)
-{
-    try {
-        return operation();
-    } catch (const MachineError &error) {
-        qWarning("%s", qUtf8Printable(error.message));
-        return fallback;
-    }
-}
 
 QString withoutQuotes(const QString &program)
 {

@@ -49,14 +49,28 @@ public:
     void shellExecute(const ShellStart &start) const override;
     DllString dllString(const QString &windowsPath, uint id) const override;
     WmiAnswer queryWmi(const QString &className, const QStringList &properties) const override;
+    std::optional<bool> seekPenalty(const QString &windowsPath) const override;
+    std::optional<int> colorSpace() const override;
+    QSize screenSize() const override;
+    ProcessorTimes processorTimes() const override;
+    QList<quint32> processIds() const override;
+    int threadCount() const override;
+    quint64 freeMemory() const override;
+    RootDrive rootDrive() const override;
     void pause(int milliseconds) const override;
 
 private:
     QString resolvedProgram(const QString &program) const;
+    QJsonObject hardware() const;
+    /** What the machine says of the volume that a Windows path lies on. */
+    QJsonObject volume(const QString &windowsPath) const;
 
     std::unique_ptr<Machine> machine_;
     SimulatedOptions options_;
     std::unique_ptr<ScriptOpener> scriptOpener_;
     mutable std::mutex pausesLock_;
     mutable QList<int> pauses_;
+    mutable std::mutex readingsLock_;
+    mutable ProcessorTimes lastReading_;
+    mutable qsizetype readings_ = 0;
 };

@@ -3,6 +3,7 @@
 #include "windowsplatform.h"
 
 #include "nativekey.h"
+#include "systemobjects.h"
 #include "wmiquery.h"
 
 #include <QCoreApplication>
@@ -11,24 +12,11 @@
 #include <QDirIterator>
 #include <QThread>
 
-#include <windows.h>
-
 #include <shellapi.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const wchar_t *wide(const QString &text)
-{
-    return reinterpret_cast<const wchar_t *>(text.utf16());
-}
-
-struct HandleCloser
-{
-    void operator()(void *handle) const { CloseHandle(handle); }
-};
-using Handle = std::unique_ptr<void, HandleCloser>;
 
 struct ModuleCloser
 {

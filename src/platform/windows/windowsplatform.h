@@ -19,5 +19,13 @@ public:
     void shellExecute(const ShellStart &start) const override;
     DllString dllString(const QString &windowsPath, uint id) const override;
     WmiAnswer queryWmi(const QString &className, const QStringList &properties) const override;
+    std::optional<bool> seekPenalty(const QString &windowsPath) const override;
+    std::optional<int> colorSpace() const override;
+    QSize screenSize() const override;
+    ProcessorTimes processorTimes() const override;
+    QList<quint32> processIds() const override;
+    int threadCount() const override;
+    quint64 freeMemory() const override;
+    RootDrive rootDrive() const override;
     void pause(int milliseconds) const override;
 };

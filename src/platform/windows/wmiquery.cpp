@@ -2,7 +2,7 @@
 
 #include "wmiquery.h"
 
-#include <windows.h>
+#include "systemobjects.h"
 
 #include <wbemidl.h>
 
@@ -30,26 +30,6 @@ public:
 
 private:
     HRESULT result_;
-};
-
-template<typename Interface>
-class ComPointer
-{
-public:
-    ComPointer() = default;
-    ~ComPointer()
-    {
-        if (object_)
-            object_->Release();
-    }
-    Q_DISABLE_COPY_MOVE(ComPointer)
-
-    Interface **receive() { return &object_; }
-    Interface *get() const { return object_; }
-    Interface *operator->() const { return object_; }
-
-private:
-    Interface *object_ = nullptr;
 };
 
 class ComText
