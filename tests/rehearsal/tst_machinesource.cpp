@@ -8,6 +8,7 @@
 #include "rehearsal/screport.h"
 
 #include <QDir>
+#include <QJsonArray>
 #include <QStorageInfo>
 #include <QStringEncoder>
 #include <QTest>
@@ -83,6 +84,7 @@ private Q_SLOTS:
     void emptyMachine();
     void malformedJsonIsToldWithItsPlace_data();
     void malformedJsonIsToldWithItsPlace();
+    void hardwareIsImportedPartByPart();
     void brokenSourcesLeaveNothing_data();
     void brokenSourcesLeaveNothing();
     void existingFoldersAreKept();
@@ -175,6 +177,15 @@ void TestMachineSource::malformedJsonIsToldWithItsPlace_data()
     QTest::newRow("running")         << json(R"("running": "RpcSs")") << u": running: must be an array"_s;
     QTest::newRow("process")         << json(R"("processes": ["a", ""])") << u": processes[1]: must not be empty"_s;
     QTest::newRow("wmi")             << json(R"("wmi": { "Win32_BIOS": [1] })") << u": wmi.Win32_BIOS[0]: must be an object"_s;
+    QTest::newRow("hardware")        << json(R"("hardware": { "fans": 2 })") << u": hardware.fans: unknown key"_s;
+    QTest::newRow("drive")           << json(R"("hardware": { "volumes": { "C": {} } })") << u": hardware.volumes.C: not a drive, such as C:"_s;
+    QTest::newRow("seek penalty")    << json(R"("hardware": { "volumes": { "C:": { "seekPenalty": 0 } } })") << u": hardware.volumes.C:.seekPenalty: must be true or false"_s;
+    QTest::newRow("free bytes")      << json(R"("hardware": { "volumes": { "C:": { "freeBytes": -1 } } })") << u": hardware.volumes.C:.freeBytes: must be at least 0"_s;
+    QTest::newRow("volume's key")    << json(R"("hardware": { "volumes": { "C:": { "label": "x" } } })") << u": hardware.volumes.C:.label: unknown key"_s;
+    QTest::newRow("screen")          << json(R"("hardware": { "screen": { "width": "wide" } })") << u": hardware.screen.width: must be a whole number"_s;
+    QTest::newRow("threads")         << json(R"("hardware": { "threads": 4294967296 })") << u": hardware.threads: must be between 0 and 2147483647"_s;
+    QTest::newRow("free memory")     << json(R"("hardware": { "freeMemory": 0.5 })") << u": hardware.freeMemory: must be a whole number"_s;
+    QTest::newRow("processor times") << json(R"("hardware": { "processorTimes": [{ "idle": 1, "kernel": 1, "user": 0 }, { "idle": 1, "kernel": 1 }] })") << u": hardware.processorTimes[1].user: must be a whole number"_s;
     QTest::newRow("no path")         << json(R"("files": [{ "size": 1 }])") << u": files[0].path: must be a text"_s;
     QTest::newRow("path")            << json(R"("files": [{ "path": "Windows\\x" }])") << u": files[0].path: not a path with a drive, such as C:\\Windows\\explorer.exe"_s;
     QTest::newRow("path that leaves") << json(R"("files": [{ "path": "C:\\..\\x" }])") << u": files[0].path: the part \"..\" can't be in a path"_s;
@@ -202,6 +213,25 @@ void TestMachineSource::malformedJsonIsToldWithItsPlace()
     const Snapshot before(machine);
     QCOMPARE(errorOf([&] { importFile(*machine, file); }), file + message);
     QVERIFY(Snapshot(machine) == before);
+}
+
+void TestMachineSource::hardwareIsImportedPartByPart()
+{
+    SmallMachine machine;
+    const QString file = machine.beside(u"machine.json"_s);
+    writeFile(file, json(R"("hardware": { "volumes": { "d:": { "seekPenalty": true, "freeBytes": 12 } }, "threads": 7,
+                            "processorTimes": [{ "idle": 1, "kernel": 2, "user": 3 }] })"));
+    importFile(*machine, file);
+    writeFile(file,
+              json(R"("hardware": { "threads": 8, "freeMemory": 9007199254740993, "screen": { "width": 800 } })"));
+    importFile(*machine, file);
+    const QJsonObject times{{u"idle"_s, 1}, {u"kernel"_s, 2}, {u"user"_s, 3}};
+    const QJsonObject drive{{u"seekPenalty"_s, true}, {u"freeBytes"_s, 12}};
+    QCOMPARE(machine->hardware(), (QJsonObject{{u"volumes"_s, QJsonObject{{u"D:"_s, drive}}},
+                                               {u"threads"_s, 8},
+                                               {u"processorTimes"_s, QJsonArray{times}},
+                                               {u"freeMemory"_s, 9007199254740993LL},
+                                               {u"screen"_s, QJsonObject{{u"width"_s, 800}}}}));
 }
 
 void TestMachineSource::brokenSourcesLeaveNothing_data()
