@@ -6,6 +6,7 @@
 #include "rehearsal/resourcetext.h"
 #include "rehearsal/taskdocument.h"
 
+#include <QJsonArray>
 #include <QSet>
 #include <QTest>
 
@@ -63,6 +64,9 @@ private Q_SLOTS:
     void oneDrive();
     void runKeys_data() { machines(); }
     void runKeys();
+    void hardware_data() { machines(); }
+    void hardware();
+    void hardwareDiffersBetweenThem();
 
 private:
     static void machines()
@@ -186,6 +190,49 @@ void TestBuiltInMachines::runKeys()
     QCOMPARE(missing, 1);
     QCOMPARE(unnamed, 1);
     QVERIFY(!machine.text(machineRun, u"SecurityHealth"_s).isEmpty());
+}
+
+void TestBuiltInMachines::hardware()
+{
+    QFETCH(QString, name);
+    BuiltIn machine(name);
+    // As many processes for WMI as there are.
+    QCOMPARE(machine->wmiInstances(u"win32_process"_s).size(), machine->processes().size());
+    for (const QJsonObject &process : machine->wmiInstances(u"win32_process"_s))
+        QVERIFY(process.value(u"HandleCount"_s).toInt(-1) >= 0);
+    for (const QString &single :
+         {u"Win32_ComputerSystem"_s, u"Win32_OperatingSystem"_s, u"Win32_PageFileUsage"_s, u"Win32_Processor"_s})
+        QCOMPARE(machine->wmiInstances(single).size(), 1);
+    const QJsonObject hardware = machine->hardware();
+    const QString freeMemory =
+        machine->wmiInstances(u"Win32_OperatingSystem"_s).first().value(u"FreePhysicalMemory"_s).toString();
+    QCOMPARE(hardware.value(u"freeMemory"_s).toInteger(), freeMemory.toLongLong() * 1024);
+    QVERIFY(hardware.value(u"threads"_s).toInt() > machine->processes().size());
+    const QJsonObject drive = hardware.value(u"volumes"_s).toObject().value(u"C:"_s).toObject();
+    QVERIFY(drive.value(u"seekPenalty"_s).isBool() && drive.value(u"freeBytes"_s).toInteger() > 0);
+    const QJsonArray steps = hardware.value(u"processorTimes"_s).toArray();
+    // An odd number, since a run of the monitor takes two: so all of them are seen.
+    QVERIFY(steps.size() > 5 && steps.size() % 2 == 1);
+    for (const QJsonValue step : steps)
+        QVERIFY(step[u"kernel"_s].toInteger() >= step[u"idle"_s].toInteger()); // which it contains
+}
+
+void TestBuiltInMachines::hardwareDiffersBetweenThem()
+{
+    BuiltIn eleven(u"windows11"_s);
+    BuiltIn ten(u"windows10"_s);
+    for (const QString &className : {u"Win32_PhysicalMemory"_s, u"Win32_DiskDrive"_s, u"Win32_VideoController"_s}) {
+        QCOMPARE(eleven->wmiInstances(className).size(), 1);
+        QCOMPARE(ten->wmiInstances(className).size(), 2);
+    }
+    const auto cache = [](BuiltIn &machine) {
+        return machine->wmiInstances(u"Win32_Processor"_s).first().value(u"L2CacheSize"_s).toInt();
+    };
+    QVERIFY(cache(eleven) >= 1024 && cache(ten) > 0 && cache(ten) < 1024);
+    const QString radeon = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\ATI Technologies\\Install"_s;
+    QVERIFY(!ten.text(radeon, u"RadeonSoftwareVersion"_s).isEmpty());
+    QVERIFY(ten.exists(ten.text(radeon, u"InstallDir"_s) + u"\\Bin64\\AMDSoftwareInstaller.exe"_s));
+    QVERIFY(!eleven->registry().find(radeon));
 }
 
 QTEST_GUILESS_MAIN(TestBuiltInMachines)
