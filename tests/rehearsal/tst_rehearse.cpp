@@ -83,6 +83,9 @@ private Q_SLOTS:
     void runEnablesAgain();
     void runAsJson();
     void runWinSxs();
+    void runSysinfo();
+    void runSysinfoAsJson();
+    void runMonitor();
     void runReportsServicesThatFailed_data();
     void runReportsServicesThatFailed();
     void runReportsALineThatDidNotCome();
@@ -372,6 +375,55 @@ void TestRehearse::runWinSxs()
     // 3500 bytes, in gibibytes.
     QVERIFY2(ended.output.contains("valueChanged\t3.25963e-06\n"), ended.output.constData());
     QVERIFY(ended.output.endsWith("valueChanged\t\n"));
+}
+
+void TestRehearse::runSysinfo()
+{
+    const Workplace work;
+    const QString cards = work.path(u"cards.json"_s);
+    writeFile(cards, R"({ "formatVersion": 1, "wmi": { "Win32_VideoController": [
+        { "Caption": "A", "MaxRefreshRate": 60 }, { "Caption": "B", "MaxRefreshRate": 0 }] } })");
+    QCOMPARE(rehearse({u"import"_s, work.b, cards}).exitCode, done);
+    const Ended ended = rehearse({u"run"_s, work.b, u"sysinfo"_s});
+    QCOMPARE(ended.exitCode, done);
+    const QList<QByteArray> lines = ended.output.split('\n');
+    QCOMPARE(lines.size(), 8 + 33 + 1); // each line, each text, and nothing behind the last line break
+    QCOMPARE(lines.at(0), "valueChanged\tpgr:max:7");
+    QCOMPARE(lines.at(7), "valueChanged\tpgr:value:7");
+    QVERIFY(lines.at(8).startsWith("winName\tWindows "));
+    QVERIFY(lines.contains("gpuName\tA"));
+    // Line breaks are shown: a text has one line.
+    QVERIFY(lines.contains("screenMaxRefreshRate\t60\\r\\nCaption=B\\r\\nCurrentHorizontalResolution=0\\r\\n"
+                           "CurrentRefreshRate=0\\r\\nCurrentVerticalResolution=0\\r\\nDriverDate=0\\r\\n"
+                           "DriverVersion=0\\r\\nMaxRefreshRate=0 Hz"));
+    QCOMPARE(lines.at(40), "diskInfo\t");
+}
+
+void TestRehearse::runSysinfoAsJson()
+{
+    const Workplace work;
+    const QList<QByteArray> lines =
+        rehearse({u"run"_s, work.b, u"sysinfo"_s, u"--json"_s}).output.trimmed().split('\n');
+    QCOMPARE(lines.size(), 8 + 33);
+    QCOMPARE(QJsonDocument::fromJson(lines.at(7)).object(),
+             (QJsonObject{{u"signal"_s, u"valueChanged"_s}, {u"line"_s, u"pgr:value:7"_s}}));
+    QCOMPARE(QJsonDocument::fromJson(lines.at(12)).object(),
+             (QJsonObject{{u"name"_s, u"winOnSsd"_s}, {u"text"_s, u"No"_s}}));
+}
+
+void TestRehearse::runMonitor()
+{
+    const Workplace work;
+    const QString hardware = work.path(u"hardware.json"_s);
+    writeFile(hardware, R"({ "formatVersion": 1, "hardware": { "freeMemory": 1073741824,
+        "volumes": { "C:": { "freeBytes": 2147483648 } },
+        "processorTimes": [{ "idle": 75, "kernel": 80, "user": 20 }] } })");
+    QCOMPARE(rehearse({u"import"_s, work.b, hardware}).exitCode, done);
+    for (int run = 0; run < 2; ++run) {
+        const Ended ended = rehearse({u"run"_s, work.b, u"monitor"_s});
+        QCOMPARE(ended.exitCode, done);
+        QCOMPARE(ended.output, "valueChanged\tcpu 26% | processes 3 | free memory 1024 Mo | free on C: 2Go\n");
+    }
 }
 
 void TestRehearse::runReportsServicesThatFailed_data()

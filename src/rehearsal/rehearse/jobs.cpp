@@ -5,6 +5,7 @@
 #include "autorunjobs.h"
 #include "platform/simulated/simulatedplatform.h"
 #include "rehearsal/taskdocument.h"
+#include "reporttexts.h"
 #include "work/packages/packagecatalogue.h"
 #include "work/packages/packagerecord.h"
 #include "work/settings.h"
@@ -160,6 +161,9 @@ constexpr JobRow rows[] = {
     {"autorun-enable"_L1,    "NAME..."_L1, "let programs start at logon again"_L1, jobAutorun,      1, -1,
      {}, enableAutoruns, autorunsNotEnabled},
     {"winsxs"_L1,            {},           "measure the component store"_L1,    JobWinSxsSize,      0,  0, {}},
+    {"sysinfo"_L1,           {},           "collect what the system report tells"_L1, JobGetSystemInfo, 0, 0,
+     "pgr:value:7"_L1, {}, {}, {}, reportTexts},
+    {"monitor"_L1,           {},           "tell once how busy the machine is"_L1, JobMonitor,      0,  0, anyLine},
 };
 // clang-format on
 

@@ -6,6 +6,10 @@
 #include "work/workthread.h"
 
 #include <span>
+#include <utility>
+
+/** Texts that a job leaves in the worker, each with its name. */
+using JobResults = QList<std::pair<QString, QString>>;
 
 struct JobRow
 {
@@ -15,14 +19,19 @@ struct JobRow
     int job; ///< of WorkThread, or jobAutorun
     qsizetype fewestOperands;
     qsizetype mostOperands;        ///< -1: any number
-    QLatin1StringView closingLine; ///< the job's last line; empty where an empty line closes it
+    QLatin1StringView closingLine; ///< the job's last line, or anyLine; empty where an empty line closes it
     /** Writes the job's input into the worker; of jobAutorun, does the work. */
     void (*prepare)(WorkThread &worker, const QStringList &operands) = nullptr;
     /** What of the operands didn't come to what was asked for, when the job is over. */
     QStringList (*unreached)(const QStringList &operands) = nullptr;
     /** Takes each line of valueChanged, as the window does for its records. */
     void (*record)(const QString &line) = nullptr;
+    /** What is printed behind the lines. */
+    JobResults (*results)(const WorkThread &worker) = nullptr;
 };
+
+/** Closes a job whose last line is never the same. */
+constexpr QLatin1StringView anyLine("*");
 
 /** What starts at logon is listed and switched without a job: on the main thread, and the list follows. */
 constexpr int jobAutorun = -1;

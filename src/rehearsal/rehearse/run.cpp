@@ -92,20 +92,36 @@ public:
     {
         lastLine_ = line;
         anyLine_ = true;
+        printPair(u"signal"_s, signal, u"line"_s, line);
+    }
+
+    /** A text that the job left. Its line breaks are shown, so that it stays on its line. */
+    void takeResult(const QString &name, const QString &text)
+    {
+        QString shown = text;
+        if (!json_)
+            shown.replace(u'\r', u"\\r"_s).replace(u'\n', u"\\n"_s);
+        printPair(u"name"_s, name, u"text"_s, shown);
+    }
+
+    /** Whether what came ends as the row tells. */
+    bool isClosed(const JobRow &row) const
+    {
+        return anyLine_ && (row.closingLine == anyLine || lastLine_ == row.closingLine);
+    }
+
+private:
+    void printPair(const QString &firstKey, const QString &first, const QString &secondKey, const QString &second)
+    {
         progress_.clear();
-        if (json_) {
-            const QJsonObject object{{u"signal"_s, signal}, {u"line"_s, line}};
-            print(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
-        } else {
-            print(QString(signal) + u'\t' + line + u'\n');
-        }
+        if (json_)
+            print(QJsonDocument(QJsonObject{{firstKey, first}, {secondKey, second}}).toJson(QJsonDocument::Compact)
+                  + '\n');
+        else
+            print(first + u'\t' + second + u'\n');
         std::fflush(stdout);
     }
 
-    QString lastLine() const { return lastLine_; }
-    bool anyLine() const { return anyLine_; }
-
-private:
     bool json_;
     Progress &progress_;
     QString lastLine_;
@@ -150,8 +166,12 @@ void runRow(WorkThread &worker, const JobRow &row, bool json)
     }
     runToEnd(worker, row, printer);
     progress.clear();
-    if (!printer.anyLine() || printer.lastLine() != row.closingLine)
+    if (!printer.isClosed(row))
         throw Failure{ExitJobFailed, u"the job %1 ended without its closing line"_s.arg(row.name)};
+    if (row.results != nullptr) {
+        for (const auto &[name, text] : row.results(worker))
+            printer.takeResult(name, text);
+    }
 }
 
 int runJob(const Arguments &arguments)
