@@ -3,9 +3,11 @@
 
 #include "platform/windows/windowsplatform.h"
 #include "work/command.h"
+#include "work/workthread.h"
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
@@ -69,6 +71,11 @@ private Q_SLOTS:
     void wmiPropertyThatIsntThereReadsAsANumber();
     void wmiClassThatIsntThereGivesNothing();
     void wmiIsAskedFromTwoThreadsAtOnce();
+
+    void processIdsHoldThisProcess();
+    void freeSpaceIsThatOfTheSystemDrive();
+    void monitorTellsTheSystemsFigures();
+    void reportTellsTheSystemsTexts();
 
     void exitCodesHave32Bits_data();
     void exitCodesHave32Bits();
@@ -193,6 +200,52 @@ void TestWindowsPlatform::wmiIsAskedFromTwoThreadsAtOnce()
         QVERIFY(answers[i].failures.isEmpty());
         QVERIFY(!answers[i].instances.isEmpty());
     }
+}
+
+void TestWindowsPlatform::processIdsHoldThisProcess()
+{
+    QVERIFY(platform().processIds().contains(GetCurrentProcessId()));
+}
+
+void TestWindowsPlatform::freeSpaceIsThatOfTheSystemDrive()
+{
+    constexpr qint64 tolerance = 1 << 30; // others write at the same time
+    ULARGE_INTEGER freeBytes{};
+    QVERIFY(GetDiskFreeSpaceExW(wide(platform().rootDrive().path), nullptr, nullptr, &freeBytes));
+    QVERIFY(qAbs(static_cast<qint64>(freeBytes.QuadPart - platform().rootDrive().freeBytes)) < tolerance);
+}
+
+void TestWindowsPlatform::monitorTellsTheSystemsFigures()
+{
+    static const QRegularExpression pattern(u"^cpu -?\\d+% \\| processes [1-9]\\d* \\| threads [1-9]\\d* \\| "
+                                            "handles \\d+ \\| free memory [1-9]\\d* Mo \\| free on C: \\d+Go$"_s);
+    WorkThread worker;
+    QString line;
+    connect(&worker, &WorkThread::valueChanged, &worker, [&line](const QString &text) { line = text; });
+    worker.monitorThreadAndHandle = 1;
+    worker.startJob(JobMonitor);
+    QTRY_VERIFY_WITH_TIMEOUT(!line.isEmpty(), 20000);
+    QVERIFY(worker.wait(20000));
+    QVERIFY2(pattern.match(line).hasMatch(), qUtf8Printable(line));
+}
+
+void TestWindowsPlatform::reportTellsTheSystemsTexts()
+{
+    WorkThread worker;
+    QStringList lines;
+    connect(&worker, &WorkThread::valueChanged, &worker, [&lines](const QString &text) { lines.append(text); });
+    worker.startJob(JobGetSystemInfo);
+    QTRY_COMPARE_WITH_TIMEOUT(lines.value(lines.size() - 1), u"pgr:value:7"_s, 60000);
+    QVERIFY(worker.wait(20000));
+    QVERIFY2(worker.winName.contains(u"Windows"_s), qUtf8Printable(worker.winName));
+    QVERIFY2(worker.winBuild.toInt() >= 10240, qUtf8Printable(worker.winBuild));
+    QVERIFY(worker.winOnSsd == u"Yes" || worker.winOnSsd == u"No");
+    for (const QString &text : {worker.memTotal, worker.memFree})
+        QVERIFY2(text.endsWith(u" Go"_s), qUtf8Printable(text));
+    QVERIFY2(worker.cpuCore.toInt() >= 1, qUtf8Printable(worker.cpuCore));
+    QVERIFY(worker.cpuThread.toInt() >= worker.cpuCore.toInt());
+    const QSize screen(GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));
+    QCOMPARE(worker.gpuDesktopSize, u"%1 x %2"_s.arg(screen.width()).arg(screen.height()));
 }
 
 void TestWindowsPlatform::exitCodesHave32Bits_data()
