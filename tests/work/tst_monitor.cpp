@@ -226,10 +226,11 @@ void TestMonitor::handlesThatAreNoNumbersCountNothing()
                                                            {{u"HandleCount"_s, u"99999999999"_s}},
                                                            {{u"HandleCount"_s, u"1\r\n2"_s}},
                                                            {},
-                                                           {{u"HandleCount"_s, u"20"_s}}});
+                                                           {{u"HandleCount"_s, u"20"_s}},
+                                                           {{u"HandleCount"_s, 2147483647}}});
     WorkThread worker;
     worker.monitorThreadAndHandle = 1;
-    QCOMPARE(lineOf(worker).section(u" | "_s, 3, 3), u"handles 120"_s);
+    QCOMPARE(lineOf(worker).section(u" | "_s, 3, 3), u"handles 2147483767"_s);
 }
 
 void TestMonitor::aFailedQueryGivesNoHandlesAndIsLogged()

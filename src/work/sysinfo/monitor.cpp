@@ -32,9 +32,9 @@ qsizetype processCount()
     return 1 + std::count_if(ids.cbegin(), ids.cend(), [](quint32 id) { return id != 0; });
 }
 
-int handleCount()
+qint64 handleCount()
 {
-    int count = 0;
+    qint64 count = 0;
     // What isn't a number counts nothing.
     for (const QString &part : WmiQuery(u"win32_process"_s, {u"HandleCount"_s}).split(u"HandleCount="_s))
         count += part.toInt();
