@@ -44,6 +44,9 @@ struct WalkEntry
     qint64 size = 0; ///< bytes; 0 for a folder
 };
 
+/** What the attribute word of a file reads as that can't be read: INVALID_FILE_ATTRIBUTES. */
+constexpr quint32 invalidAttributes = 0xffffffff;
+
 /** How the shell is asked to start a program. */
 struct ShellStart
 {
@@ -95,6 +98,18 @@ public:
      * An unreadable or missing folder gives nothing. The walk ends where @p visit returns false.
      */
     virtual void walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const = 0;
+
+    /**
+     * A file's or folder's attribute word as Windows has it (0x2 hidden, 0x4 system, 0x10 folder, 0x20 archive ...), of
+     * a link its own; invalidAttributes where it can't be read.
+     * @param file host path
+     */
+    virtual quint32 fileAttributes(const QString &file) const = 0;
+    /**
+     * Changes a file's or folder's attribute word, of a link its own. A refusal is silent. What is set during a walk
+     * lasts at the latest when the walk is over.
+     */
+    virtual void setFileAttributes(const QString &file, quint32 word) const = 0;
 
     /** The file to start for a program name, a path, or a path in double quotes; empty where there is no such program.
      */

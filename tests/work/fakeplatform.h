@@ -35,6 +35,8 @@ public:
     QString programFolder() const override { return folder_.path(); }
     QString resourceFolder() const override { return folder_.path(); }
     void walk(const QString &, const std::function<bool(const WalkEntry &)> &) const override {}
+    quint32 fileAttributes(const QString &) const override { return invalidAttributes; }
+    void setFileAttributes(const QString &, quint32) const override {}
     QString programFile(const QString &) const override { return {}; }
     int exitCode(qint64, int reported) const override { return reported; }
     bool isElevated() const override { return true; }

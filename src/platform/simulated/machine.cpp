@@ -16,7 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView tools[] = {u"sc", u"schtasks", u"powershell", u"taskkill", u"onedrivesetup", u"cmd"};
+constexpr QStringView tools[] = {u"sc",  u"schtasks", u"powershell", u"taskkill", u"onedrivesetup",
+                                 u"cmd", u"powercfg", u"bcdedit",    u"takeown",  u"icacls"};
 constexpr qint64 smallestDatabase = 512; // bytes; the least page there is
 const char *const stateFolders[] = {"drive_c", "program", "tools"};
 

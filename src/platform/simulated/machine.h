@@ -29,6 +29,15 @@ struct ScheduledTask
     friend bool operator==(const ScheduledTask &, const ScheduledTask &) = default;
 };
 
+/** Who owns a file and whom rights were granted, as far as it was changed. */
+struct FileSecurity
+{
+    QString owner{};  ///< "DOMAIN\user"; empty: as it was installed
+    QString rights{}; ///< "DOMAIN\user:F", several with blanks between them; empty: inherited
+
+    friend bool operator==(const FileSecurity &, const FileSecurity &) = default;
+};
+
 /** What a tool of a machine is told to do instead of its work. */
 struct ToolFault
 {
@@ -114,6 +123,20 @@ public:
     /** A file's attribute word as Windows has it (0x2 hidden, 0x4 system, 0x10 folder, 0x20 archive ...). */
     quint32 attributes(const QString &windowsPath) const;
     void setAttributes(const QString &windowsPath, quint32 word);
+    /** Owners and rights of files by their Windows path, where they aren't those of the installation. */
+    FileSecurity security(const QString &windowsPath) const;
+    void setSecurity(const QString &windowsPath, const FileSecurity &security);
+    QMap<QString, FileSecurity> changedSecurity() const;
+
+    /** Options of the boot configuration by their lower-case name ("useplatformclock"); those with a value. */
+    QMap<QString, QString> bootOptions() const;
+    /** Nothing: takes the option out of the configuration. */
+    void setBootOption(const QString &name, const std::optional<QString> &value);
+
+    /** The size, in bytes, that hiberfil.sys had when it was removed, if it ever was. */
+    std::optional<qint64> formerHiberfileSize() const;
+    void setFormerHiberfileSize(qint64 size);
+
     /** Host paths of all files and folders with all of the given attribute bits, for walks. */
     QStringList pathsWithAttribute(quint32 bits) const;
 

@@ -35,6 +35,10 @@ CREATE TABLE dllstring (fold TEXT, id INTEGER, text TEXT NOT NULL, PRIMARY KEY (
 CREATE TABLE wmiclass (fold TEXT PRIMARY KEY, name TEXT NOT NULL) WITHOUT ROWID;
 CREATE TABLE wmi (id INTEGER PRIMARY KEY, fold TEXT NOT NULL, properties TEXT NOT NULL);
 CREATE TABLE attribute (fold TEXT PRIMARY KEY, path TEXT NOT NULL, word INTEGER NOT NULL) WITHOUT ROWID;
+-- What the boot configuration has beyond its defaults.
+CREATE TABLE bootoption (name TEXT PRIMARY KEY, value TEXT NOT NULL) WITHOUT ROWID;
+-- Files whose owner or rights were changed.
+CREATE TABLE filesecurity (fold TEXT PRIMARY KEY, path TEXT NOT NULL, owner TEXT NOT NULL, rights TEXT NOT NULL) WITHOUT ROWID;
 CREATE TABLE fault (
     fold TEXT PRIMARY KEY,
     missing INTEGER NOT NULL,

@@ -83,6 +83,7 @@ QString propertyText(const QJsonObject &instance, const QString &name)
 SimulatedPlatform::SimulatedPlatform(const QString &machineFolder, SimulatedOptions options)
     : machine_(Machine::open(machineFolder))
     , options_(std::move(options))
+    , attributes_(*machine_)
     , scriptOpener_(std::make_unique<ScriptOpener>(*machine_, options_.elevated))
 {
     if (options_.resourceFolder.isEmpty())
@@ -127,8 +128,19 @@ QString SimulatedPlatform::resourceFolder() const
 
 void SimulatedPlatform::walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const
 {
+    const AttributeWords::Walk together(attributes_);
     const QStringList hidden = guarded(QStringList(), [this] { return machine_->pathsWithAttribute(hiddenBit); });
     walkFolder(hostPath(windowsPath), QSet<QString>(hidden.cbegin(), hidden.cend()), visit);
+}
+
+quint32 SimulatedPlatform::fileAttributes(const QString &file) const
+{
+    return guarded(invalidAttributes, [&] { return attributes_.read(file).value_or(invalidAttributes); });
+}
+
+void SimulatedPlatform::setFileAttributes(const QString &file, quint32 word) const
+{
+    attributes_.write(file, word);
 }
 
 QString SimulatedPlatform::programFile(const QString &program) const

@@ -5,6 +5,7 @@
 
 #include "platform/platform.h"
 
+#include "attributewords.h"
 #include "machine.h"
 
 #include <mutex>
@@ -43,6 +44,8 @@ public:
     QString programFolder() const override;
     QString resourceFolder() const override;
     void walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const override;
+    quint32 fileAttributes(const QString &file) const override;
+    void setFileAttributes(const QString &file, quint32 word) const override;
     QString programFile(const QString &program) const override;
     int exitCode(qint64 processId, int reported) const override;
     bool isElevated() const override;
@@ -67,6 +70,7 @@ private:
 
     std::unique_ptr<Machine> machine_;
     SimulatedOptions options_;
+    mutable AttributeWords attributes_;
     std::unique_ptr<ScriptOpener> scriptOpener_;
     mutable std::mutex pausesLock_;
     mutable QList<int> pauses_;

@@ -60,6 +60,17 @@ void WindowsPlatform::walk(const QString &windowsPath, const std::function<bool(
     }
 }
 
+quint32 WindowsPlatform::fileAttributes(const QString &file) const
+{
+    static_assert(invalidAttributes == INVALID_FILE_ATTRIBUTES);
+    return GetFileAttributesW(wide(QDir::toNativeSeparators(file)));
+}
+
+void WindowsPlatform::setFileAttributes(const QString &file, quint32 word) const
+{
+    SetFileAttributesW(wide(QDir::toNativeSeparators(file)), word);
+}
+
 QString WindowsPlatform::programFile(const QString &program) const
 {
     const bool quoted = program.size() > 1 && program.startsWith(u'"') && program.endsWith(u'"');

@@ -13,6 +13,8 @@ public:
     QString programFolder() const override;
     QString resourceFolder() const override;
     void walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const override;
+    quint32 fileAttributes(const QString &file) const override;
+    void setFileAttributes(const QString &file, quint32 word) const override;
     QString programFile(const QString &program) const override;
     int exitCode(qint64 processId, int reported) const override;
     bool isElevated() const override;

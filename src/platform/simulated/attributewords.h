@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Attribute words of the files of a rehearsal machine, quick enough for a walk over all of them.
+
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+#include <mutex>
+#include <optional>
+
+class Machine;
+
+/**
+ * Words that are written during a walk go into the database some hundreds at a time, and the last ones when the walk is
+ * over or broken off; all others at once. Any thread.
+ */
+class AttributeWords
+{
+public:
+    explicit AttributeWords(Machine &machine)
+        : machine_(machine)
+    {
+    }
+
+    /** By host path; nothing where there is no such file. Throws MachineError. */
+    std::optional<quint32> read(const QString &file) const;
+    /** A file that isn't there is passed over. */
+    void write(const QString &file, quint32 word);
+
+    /** A walk that is under way as long as the object. */
+    class Walk
+    {
+    public:
+        explicit Walk(AttributeWords &words);
+        ~Walk();
+        Q_DISABLE_COPY_MOVE(Walk)
+
+    private:
+        AttributeWords &words_;
+    };
+
+private:
+    void store();
+
+    Machine &machine_;
+    mutable std::mutex lock_;
+    QHash<QString, quint32> waiting_;
+    int walks_ = 0;
+};
