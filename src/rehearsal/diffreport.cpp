@@ -57,11 +57,13 @@ struct KindRow
 
 // clang-format off
 constexpr KindRow kindRows[] = {
-    {DiffKind::Service,   "Services"_L1},
-    {DiffKind::Task,      "Scheduled tasks"_L1},
-    {DiffKind::Registry,  "Registry"_L1},
-    {DiffKind::File,      "Files"_L1},
-    {DiffKind::Attribute, "File attributes"_L1},
+    {DiffKind::Service,    "Services"_L1},
+    {DiffKind::Task,       "Scheduled tasks"_L1},
+    {DiffKind::Registry,   "Registry"_L1},
+    {DiffKind::File,       "Files"_L1},
+    {DiffKind::Attribute,  "File attributes"_L1},
+    {DiffKind::Security,   "File owners and rights"_L1},
+    {DiffKind::BootOption, "Boot options"_L1},
 };
 // clang-format on
 

@@ -74,6 +74,44 @@ void compareTasks(const Machine &before, const Machine &after, QList<DiffRow> &r
     }
 }
 
+/** "owner A\B, granted A\B:F" */
+QString securityText(const FileSecurity &security)
+{
+    QStringList parts;
+    if (!security.owner.isEmpty())
+        parts.append(u"owner "_s + security.owner);
+    if (!security.rights.isEmpty())
+        parts.append(u"granted "_s + security.rights);
+    return parts.isEmpty() ? u"as installed"_s : parts.join(u", "_s);
+}
+
+void compareSecurity(const Machine &before, const Machine &after, QList<DiffRow> &rows)
+{
+    QMap<QString, QString> paths;
+    for (const Machine *machine : {&after, &before}) {
+        for (const QString &path : machine->changedSecurity().keys())
+            paths.insert(foldName(path), path);
+    }
+    for (const QString &path : paths) {
+        const QString left = securityText(before.security(path));
+        const QString right = securityText(after.security(path));
+        if (left != right)
+            rows.append({DiffKind::Security, path, QString(), left, right});
+    }
+}
+
+void compareBootOptions(const Machine &before, const Machine &after, QList<DiffRow> &rows)
+{
+    const QMap<QString, QString> left = before.bootOptions();
+    const QMap<QString, QString> right = after.bootOptions();
+    QMap<QString, QString> all = left;
+    all.insert(right);
+    for (const QString &name : all.keys()) {
+        if (left.value(name) != right.value(name))
+            rows.append({DiffKind::BootOption, name, QString(), left.value(name), right.value(name)});
+    }
+}
+
 bool isBefore(const DiffRow &left, const DiffRow &right)
 {
     if (left.kind != right.kind)
@@ -98,6 +136,10 @@ QString kindName(DiffKind kind)
         return u"file"_s;
     case DiffKind::Attribute:
         return u"attribute"_s;
+    case DiffKind::Security:
+        return u"rights"_s;
+    case DiffKind::BootOption:
+        return u"boot"_s;
     }
     return QString();
 }
@@ -119,6 +161,8 @@ QList<DiffRow> compareMachines(Machine &before, Machine &after, const ProgressCa
     compareRegistries(before.registry(), after.registry(), rows);
     tell(u"files"_s, 3);
     compareFiles(before, after, rows);
+    compareSecurity(before, after, rows);
+    compareBootOptions(before, after, rows);
     std::stable_sort(rows.begin(), rows.end(), isBefore);
     return rows;
 }

@@ -19,9 +19,9 @@ struct Attribute
 
 // clang-format off
 constexpr std::array attributeWords{
-    Attribute{"readonly"_L1, 0x01},
-    Attribute{"hidden"_L1,   0x02},
-    Attribute{"system"_L1,   0x04},
+    Attribute{"readonly"_L1,    0x0001},
+    Attribute{"hidden"_L1,      0x0002},
+    Attribute{"system"_L1,      0x0004},
 };
 // clang-format on
 constexpr quint32 folderBit = 0x10;
@@ -55,6 +55,7 @@ private:
     void readWmi(const QJsonValue &value, const QString &key);
     void readHardware(const QJsonValue &value, const QString &key);
     void readFiles(const QJsonValue &value, const QString &key);
+    void readBootOptions(const QJsonValue &value, const QString &key);
     void readDlls(const QJsonValue &value, const QString &key);
     void readFaults(const QJsonValue &value, const QString &key);
 
@@ -77,6 +78,7 @@ const std::array<MachineJsonParser::SectionRow, 10> MachineJsonParser::sections{
     {"wmi"_L1,           &MachineJsonParser::readWmi},
     {"hardware"_L1,      &MachineJsonParser::readHardware},
     {"files"_L1,         &MachineJsonParser::readFiles},
+    {"bootOptions"_L1,   &MachineJsonParser::readBootOptions},
     {"dlls"_L1,          &MachineJsonParser::readDlls},
     {"faults"_L1,        &MachineJsonParser::readFaults},
 }};
@@ -157,6 +159,13 @@ void MachineJsonParser::readFiles(const QJsonValue &value, const QString &key)
         result_.files.append(file(entry, keyAt(key, result_.files.size())));
 }
 
+void MachineJsonParser::readBootOptions(const QJsonValue &value, const QString &key)
+{
+    const QJsonObject options = read_.object(value, key);
+    for (auto it = options.begin(); it != options.end(); ++it)
+        result_.bootOptions.insert(it.key(), read_.text(it.value(), keyBelow(key, it.key())));
+}
+
 void MachineJsonParser::readDlls(const QJsonValue &value, const QString &key)
 {
     const QJsonObject dlls = read_.object(value, key);
@@ -200,7 +209,7 @@ QString MachineJsonParser::windowsPath(const QString &path, const QString &key) 
 
 FileDescription MachineJsonParser::file(const QJsonValue &value, const QString &key) const
 {
-    static constexpr std::array known{"path"_L1, "size"_L1, "text"_L1, "attributes"_L1};
+    static constexpr std::array known{"path"_L1, "size"_L1, "text"_L1, "attributes"_L1, "owner"_L1, "rights"_L1};
 
     const QJsonObject entry = read_.object(value, key);
     read_.checkKeys(entry, key, known);
@@ -220,6 +229,12 @@ FileDescription MachineJsonParser::file(const QJsonValue &value, const QString &
         read_.fail(key, u"a folder has neither text nor size"_s);
     if (entry.contains("attributes"_L1))
         file.attributes = attributes(entry.value("attributes"_L1), keyBelow(key, u"attributes"_s), file.folder);
+    if (entry.contains("owner"_L1) || entry.contains("rights"_L1)) {
+        const auto text = [&](const QString &name) {
+            return entry.contains(name) ? read_.text(entry.value(name), keyBelow(key, name)) : QString();
+        };
+        file.security = FileSecurity{text(u"owner"_s), text(u"rights"_s)};
+    }
     return file;
 }
 

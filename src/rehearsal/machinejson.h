@@ -13,6 +13,7 @@ struct FileDescription
     std::optional<qint64> size; ///< bytes; what the content doesn't fill is a hole
     std::optional<QByteArray> content;
     std::optional<quint32> attributes; ///< the whole attribute word
+    std::optional<FileSecurity> security{};
 };
 
 /** What a machine.json says; a part that it doesn't name is empty. */
@@ -25,6 +26,7 @@ struct MachineDescription
     QMap<QString, QList<QJsonObject>> wmi;
     QJsonObject hardware; ///< see Machine::hardware
     QList<FileDescription> files;
+    QMap<QString, QString> bootOptions;
     QMap<QString, QMap<uint, QString>> dlls;
     QMap<QString, std::optional<ToolFault>> faults; ///< nothing: an end to the fault
 };

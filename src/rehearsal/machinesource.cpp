@@ -106,6 +106,8 @@ void Import::apply(const MachineDescription &description)
     if (!description.hardware.isEmpty())
         machine_.setHardware(description.hardware);
     apply(description.files);
+    for (auto it = description.bootOptions.begin(); it != description.bootOptions.end(); ++it)
+        machine_.setBootOption(it.key(), it.value());
     for (auto it = description.dlls.begin(); it != description.dlls.end(); ++it)
         addDll(it.key(), it.value());
     for (auto it = description.faults.begin(); it != description.faults.end(); ++it) {
@@ -146,6 +148,8 @@ void Import::apply(const QList<FileDescription> &files)
         }
         if (file.attributes)
             machine_.setAttributes(file.path, *file.attributes);
+        if (file.security)
+            machine_.setSecurity(file.path, *file.security);
     }
 }
 

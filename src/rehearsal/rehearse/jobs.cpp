@@ -160,6 +160,8 @@ constexpr JobRow rows[] = {
      {}, disableAutoruns, autorunsNotDisabled},
     {"autorun-enable"_L1,    "NAME..."_L1, "let programs start at logon again"_L1, jobAutorun,      1, -1,
      {}, enableAutoruns, autorunsNotEnabled},
+    {"tweak"_L1,             "GROUP ID on|off"_L1, "apply a tweak of ssd, gaming or windows, or take it back"_L1,
+     jobTweak,                                                                              3,  3, {}},
     {"winsxs"_L1,            {},           "measure the component store"_L1,    JobWinSxsSize,      0,  0, {}},
     {"sysinfo"_L1,           {},           "collect what the system report tells"_L1, JobGetSystemInfo, 0, 0,
      "pgr:value:7"_L1, {}, {}, {}, reportTexts},

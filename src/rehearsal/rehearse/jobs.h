@@ -35,5 +35,7 @@ constexpr QLatin1StringView anyLine("*");
 
 /** What starts at logon is listed and switched without a job: on the main thread, and the list follows. */
 constexpr int jobAutorun = -1;
+/** Tweaks run without a job, too, but for the one that the window starts as a job. */
+constexpr int jobTweak = -2;
 
 std::span<const JobRow> jobRows();

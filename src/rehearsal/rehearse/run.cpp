@@ -5,6 +5,7 @@
 #include "platform/simulated/simulatedplatform.h"
 #include "progress.h"
 #include "subcommands.h"
+#include "tweakjobs.h"
 #include "work/windowsname.h"
 
 #include <QCoreApplication>
@@ -129,7 +130,7 @@ private:
 };
 
 /** Runs the job to its end. */
-void runToEnd(WorkThread &worker, const JobRow &row, LinePrinter &printer)
+void runToEnd(WorkThread &worker, int job, const JobRow &row, LinePrinter &printer)
 {
     QObject::connect(&worker, &WorkThread::valueChanged, &worker, [&](const QString &line) {
         printer.take("valueChanged"_L1, line);
@@ -141,7 +142,7 @@ void runToEnd(WorkThread &worker, const JobRow &row, LinePrinter &printer)
     // Queued behind the lines that are under way.
     QObject::connect(
         &worker, &QThread::finished, &worker, [] { QCoreApplication::quit(); }, Qt::QueuedConnection);
-    worker.startJob(row.job);
+    worker.startJob(job);
     QCoreApplication::exec();
     worker.wait();
 }
@@ -154,8 +155,20 @@ void printAutorun(WorkThread &worker, LinePrinter &printer)
         printer.take("autorun"_L1, entry);
 }
 
+/** A tweak tells nothing of itself; what is left to do for the user is said. */
+void runTweak(WorkThread &worker, const JobRow &row, const TweakRequest &tweak, LinePrinter &printer)
+{
+    if (const std::optional<int> job = tweak.job())
+        runToEnd(worker, *job, row, printer);
+    else
+        (worker.*tweak.run)(tweak.apply ? 1 : 0, tweak.id);
+    printer.take("tweak"_L1, u"%1 %2 %3"_s.arg(tweak.group).arg(tweak.id).arg(tweak.apply ? "on"_L1 : "off"_L1));
+    if (worker.needReboot == 1)
+        printer.take("tweak"_L1, u"restart needed"_s);
+}
+
 /** Runs what the row says on a worker that has its input. A Failure where the job didn't come to its end. */
-void runRow(WorkThread &worker, const JobRow &row, bool json)
+void runRow(WorkThread &worker, const JobRow &row, const QStringList &operands, bool json)
 {
     Progress progress;
     progress.show(u"running %1 ..."_s.arg(row.name), 0, 0);
@@ -164,7 +177,11 @@ void runRow(WorkThread &worker, const JobRow &row, bool json)
         printAutorun(worker, printer);
         return;
     }
-    runToEnd(worker, row, printer);
+    if (row.job == jobTweak) {
+        runTweak(worker, row, parseTweak(operands), printer);
+        return;
+    }
+    runToEnd(worker, row.job, row, printer);
     progress.clear();
     if (!printer.isClosed(row))
         throw Failure{ExitJobFailed, u"the job %1 ended without its closing line"_s.arg(row.name)};
@@ -177,6 +194,9 @@ void runRow(WorkThread &worker, const JobRow &row, bool json)
 int runJob(const Arguments &arguments)
 {
     const JobRow &row = findJob(arguments);
+    const QStringList operands = arguments.operands().mid(2);
+    if (row.job == jobTweak)
+        parseTweak(operands); // before anything is opened
     SimulatedOptions simulated;
     simulated.elevated = !arguments.has("not-elevated"_L1);
     simulated.pace = parsePace(arguments);
@@ -188,11 +208,10 @@ int runJob(const Arguments &arguments)
     const WindowsName windows = readWindowsName();
     worker.winName = windows.product;
     worker.winBuild = windows.build;
-    const QStringList operands = arguments.operands().mid(2);
     if (row.prepare != nullptr)
         row.prepare(worker, operands);
 
-    runRow(worker, row, arguments.has("json"_L1));
+    runRow(worker, row, operands, arguments.has("json"_L1));
     if (row.unreached != nullptr) {
         if (const QStringList left = row.unreached(operands); !left.isEmpty())
             throw Failure{ExitJobFailed, u"%1 failed for %2"_s.arg(row.name, left.join(", "_L1))};

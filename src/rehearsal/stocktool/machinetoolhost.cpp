@@ -6,11 +6,15 @@
 #include "platform/simulated/simulatedkey.h"
 #include "rehearsal/resourcetext.h"
 
+#include <QFile>
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString processClass = u"Win32_Process"_s;
+const QString hiberfile = u"C:\\hiberfil.sys"_s;
 
 } // namespace
 
@@ -86,4 +90,50 @@ void MachineToolHost::endProcesses(const QString &name)
     if (machine_.hasWmiClass(processClass))
         machine_.setWmiInstances(processClass, instances);
     transaction.commit();
+}
+
+/** What it had before; at the first time two fifths of the memory, in whole pages. */
+qint64 MachineToolHost::hiberfileSize() const
+{
+    constexpr qint64 page = 4096;
+
+    if (const std::optional<qint64> former = machine_.formerHiberfileSize())
+        return *former;
+    const QList<QJsonObject> computers = machine_.wmiInstances(u"Win32_ComputerSystem"_s);
+    const qint64 memory =
+        computers.isEmpty() ? 0 : computers.constFirst().value("TotalPhysicalMemory"_L1).toString().toLongLong();
+    return (memory * 2 / 5 + page - 1) / page * page;
+}
+
+bool MachineToolHost::setHiberfile(bool present)
+{
+    constexpr quint32 hiddenSystemArchive = 0x26;
+
+    const QString path = machine_.hostPath(hiberfile);
+    if (QFileInfo::exists(path) == present)
+        return true;
+    QFile file(path);
+    if (!present) {
+        machine_.setFormerHiberfileSize(file.size());
+        return file.remove();
+    }
+    if (!file.open(QIODevice::WriteOnly) || !file.resize(hiberfileSize()))
+        return false;
+    machine_.setAttributes(hiberfile, hiddenSystemArchive);
+    return true;
+}
+
+bool MachineToolHost::hasBootOption(const QString &name) const
+{
+    return machine_.bootOptions().contains(name.toLower());
+}
+
+void MachineToolHost::setBootOption(const QString &name, const std::optional<QString> &value)
+{
+    machine_.setBootOption(name, value);
+}
+
+void MachineToolHost::setSecurity(const QString &file, const FileSecurity &security)
+{
+    machine_.setSecurity(file, security);
 }

@@ -22,8 +22,15 @@ public:
     void setTask(const ScheduledTask &task) override;
     QStringList processes() const override;
     void endProcesses(const QString &name) override;
+    bool setHiberfile(bool present) override;
+    bool hasBootOption(const QString &name) const override;
+    void setBootOption(const QString &name, const std::optional<QString> &value) override;
+    FileSecurity security(const QString &file) const override { return machine_.security(file); }
+    void setSecurity(const QString &file, const FileSecurity &security) override;
 
 private:
+    qint64 hiberfileSize() const;
+
     Machine &machine_;
     bool elevated_;
 };

@@ -41,4 +41,15 @@ public:
     virtual QStringList processes() const = 0;
     /** Ends all processes of a name, given without regard to case. */
     virtual void endProcesses(const QString &name) = 0;
+
+    /** Takes the file of hibernation away, or makes it. False where that can't be done. */
+    virtual bool setHiberfile(bool present) = 0;
+
+    /** Options of the boot configuration, by name without regard to case; see Machine::setBootOption. */
+    virtual bool hasBootOption(const QString &name) const = 0;
+    virtual void setBootOption(const QString &name, const std::optional<QString> &value) = 0;
+
+    /** Owner and rights of a file, by its Windows path; see Machine::security. */
+    virtual FileSecurity security(const QString &file) const = 0;
+    virtual void setSecurity(const QString &file, const FileSecurity &security) = 0;
 };

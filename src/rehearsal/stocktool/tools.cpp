@@ -22,6 +22,10 @@ constexpr Tool tools[] = {
     {"taskkill"_L1,      runTaskkill},
     {"onedrivesetup"_L1, runOneDriveSetup},
     {"cmd"_L1,           runCmd},
+    {"powercfg"_L1,      runPowercfg},
+    {"bcdedit"_L1,       runBcdedit},
+    {"takeown"_L1,       runTakeown},
+    {"icacls"_L1,        runIcacls},
 };
 // clang-format on
 

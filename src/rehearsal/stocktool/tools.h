@@ -27,3 +27,7 @@ ToolResult runPowerShell(ToolHost &host, const QStringList &arguments);
 ToolResult runTaskkill(ToolHost &host, const QStringList &arguments);
 ToolResult runOneDriveSetup(ToolHost &host, const QStringList &arguments);
 ToolResult runCmd(ToolHost &host, const QStringList &arguments);
+ToolResult runPowercfg(ToolHost &host, const QStringList &arguments);
+ToolResult runBcdedit(ToolHost &host, const QStringList &arguments);
+ToolResult runTakeown(ToolHost &host, const QStringList &arguments);
+ToolResult runIcacls(ToolHost &host, const QStringList &arguments);

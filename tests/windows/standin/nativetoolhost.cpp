@@ -78,3 +78,27 @@ void NativeToolHost::endProcesses(const QString &name)
     names.removeIf([&name](const QString &each) { return each.compare(name, Qt::CaseInsensitive) == 0; });
     openKey(standInProcesses)->setValue(u"Names"_s, names);
 }
+
+bool NativeToolHost::hasBootOption(const QString &name) const
+{
+    return openKey(standInBootOptions)->contains(name);
+}
+
+void NativeToolHost::setBootOption(const QString &name, const std::optional<QString> &value)
+{
+    if (value)
+        openKey(standInBootOptions)->setValue(name, *value);
+    else
+        openKey(standInBootOptions)->remove(name);
+}
+
+FileSecurity NativeToolHost::security(const QString &file) const
+{
+    const QString text = openKey(standInSecurity)->value(file).toString();
+    return {text.section(u'\n', 0, 0), text.section(u'\n', 1)};
+}
+
+void NativeToolHost::setSecurity(const QString &file, const FileSecurity &security)
+{
+    openKey(standInSecurity)->setValue(file, security.owner + u'\n' + security.rights);
+}

@@ -11,5 +11,9 @@ inline const QString standInStates = QStringLiteral("HKEY_CURRENT_USER\\Software
 inline const QString standInCommands = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Commands");
 /** One value for each scheduled task, in order: its path, a line feed and its document. */
 inline const QString standInTasks = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Tasks");
+/** One value for each option of the boot configuration. */
+inline const QString standInBootOptions = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\BootOptions");
+/** One value for each file whose owner or rights were changed: the owner, a line feed and the rights. */
+inline const QString standInSecurity = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Security");
 /** The value "Names": the names of the processes. */
 inline const QString standInProcesses = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Processes");
