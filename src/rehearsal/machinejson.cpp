@@ -45,7 +45,7 @@ private:
         QLatin1StringView key;
         Section read;
     };
-    static const std::array<SectionRow, 10> sections;
+    static const std::array<SectionRow, 11> sections;
 
     void readFormatVersion(const QJsonValue &value, const QString &key);
     void readName(const QJsonValue &value, const QString &key);
@@ -69,7 +69,7 @@ private:
 };
 
 // clang-format off
-const std::array<MachineJsonParser::SectionRow, 10> MachineJsonParser::sections{{
+const std::array<MachineJsonParser::SectionRow, 11> MachineJsonParser::sections{{
     {"formatVersion"_L1, &MachineJsonParser::readFormatVersion},
     {"name"_L1,          &MachineJsonParser::readName},
     {"environment"_L1,   &MachineJsonParser::readEnvironment},

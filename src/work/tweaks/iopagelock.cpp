@@ -3,6 +3,7 @@
 
 #include "platform/platform.h"
 #include "ssdtweaks.h"
+#include "work/sysinfo/memorysize.h"
 #include "work/wmi.h"
 #include "work/workthread.h"
 
@@ -39,8 +40,6 @@ std::unique_ptr<RegistryKey> openMemoryManagement()
 /** In units that give round numbers for memory as it is sold; 0 where it can't be told. */
 qint64 readMemorySize(QString &memTotal)
 {
-    // Neither a power of two nor one of ten: with it a PC that keeps some memory back still counts as full.
-    constexpr qint64 bytesPerUnit = 1068000000;
     const QString property = u"TotalPhysicalMemory"_s;
 
     qint64 size = 0;
@@ -48,8 +47,8 @@ qint64 readMemorySize(QString &memTotal)
         memTotal = WmiQuery(u"Win32_ComputerSystem"_s, {property});
         // An answer without the name loses its first 19 characters, and what is left of it is no number.
         const QString bytes = memTotal.mid(memTotal.indexOf(property) + property.size() + 1);
-        size = bytes.toLongLong() / bytesPerUnit;
-        memTotal = QString::number(size) + u" Go"_s;
+        size = memoryUnits(bytes).value_or(0);
+        memTotal = memoryText(size);
     } catch (const std::exception &) {
         memTotal = WorkThread::tr("unknown");
     }
