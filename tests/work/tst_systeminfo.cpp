@@ -74,6 +74,7 @@ private Q_SLOTS:
     void builtInMachines();
 
     void valuesThatTheRegistryDoesNotHoldAreUnknown();
+    void theNameOfWindowsIsNotWrittenAnew();
     void windowsIsOnAnSsdWhereNothingSeeks_data();
     void windowsIsOnAnSsdWhereNothingSeeks();
     void motherboardNamesAreCut_data();
@@ -232,6 +233,22 @@ void TestSystemInfo::valuesThatTheRegistryDoesNotHoldAreUnknown()
          {worker.winName, worker.winBuild, worker.winVersion, worker.winEdition, worker.mbManufacturer, worker.mbModel,
           worker.mbBiosVersion, worker.mbBiosDate, worker.cpuName, worker.cpuFreq})
         QCOMPARE(text, u"unknown"_s);
+}
+
+// Other threads may be reading it.
+void TestSystemInfo::theNameOfWindowsIsNotWrittenAnew()
+{
+    TestMachine machine;
+    WorkThread worker;
+    worker.GetSystemInfo();
+    const QChar *name = std::as_const(worker.winName).constData();
+    const QChar *build = std::as_const(worker.winBuild).constData();
+    worker.GetSystemInfo();
+    QCOMPARE(std::as_const(worker.winName).constData(), name);
+    QCOMPARE(std::as_const(worker.winBuild).constData(), build);
+    machine.write(windowsKey, u"CurrentBuild"_s, u"22000"_s);
+    worker.GetSystemInfo();
+    QCOMPARE(worker.winBuild, u"22000"_s);
 }
 
 void TestSystemInfo::windowsIsOnAnSsdWhereNothingSeeks_data()
