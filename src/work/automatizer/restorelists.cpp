@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "restorelists.h"
+
+#include "work/settings.h"
+#include "work/workthread.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString optimizedSetting = u"optimized"_s;
+
+void forgetRecords(const QString &group)
+{
+    const auto records = openRecords(group);
+    for (const QString &name : recordedNames(group))
+        records->remove(name);
+}
+
+} // namespace
+
+bool wasOptimized()
+{
+    return openSettings()->value(optimizedSetting, 0).toInt() == 1;
+}
+
+void setOptimized(bool optimized)
+{
+    openSettings()->setValue(optimizedSetting, optimized ? 1 : 0);
+}
+
+void fillRestoreLists(WorkThread &worker)
+{
+    worker.servicesToChange = recordedNames(u"SVC"_s);
+    worker.tasksToChange.clear();
+    for (const QString &path : recordedNames(u"Task"_s)) {
+        // These belong to the tasks' own backup.
+        if (!path.startsWith("Backup"_L1))
+            worker.tasksToChange.append({path, {}, path.sliced(path.lastIndexOf(u'\\') + 1), {}, 0});
+    }
+}
+
+void closeRestore()
+{
+    forgetRecords(u"Autorun"_s);
+    forgetRecords(u"Tweak"_s);
+    setOptimized(false);
+}
