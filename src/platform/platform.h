@@ -125,6 +125,12 @@ public:
     /** Starts a program through the shell and doesn't wait. A refusal or failure is silent. */
     virtual void shellExecute(const ShellStart &start) const = 0;
 
+    /**
+     * The names of the programs of the running processes, one for each process, in the system's order and spelling. A
+     * process that this one may not look into is left out, and so are all behind the first 1024.
+     */
+    virtual QStringList processNames() const = 0;
+
     /** Reads a string of a DLL, given by its Windows path, without running code of the DLL. */
     virtual DllString dllString(const QString &windowsPath, uint id) const = 0;
     /** Reads properties of all instances of a class in ROOT\CIMV2. A failure ends the query with what was read by then.

@@ -174,9 +174,37 @@ private:
     void runJob(int number);
     void WinSxsSize();
     void choosePackages();
+
     void AutomatizerAnalyze();
+    void analyzeServices();
+    void analyzeTasks();
+    void analyzeTask(const TaskRow &task);
+    void analyzePackages();
+    void analyzeAutoruns();
+    void analyzeProcesses();
+
     void AutomatizerOptimize();
+    void optimizeServices();
+    void optimizeTasks();
+    void optimizePackages();
+    void optimizeAutoruns();
+    void optimizeEncoder();
+    void optimizeFeatures();
+
     void AutomatizerRestore();
+    void restoreServices();
+    void restoreTasks();
+    void restoreAutoruns();
+    void restorePackages();
+    void restoreFeatures();
+
+    // The Automatizer's recurring lines.
+    void reportFinding(int &count, const QString &line);
+    void reportPhase(const QString &name) { reportToAutomatizer(QStringLiteral("pgr: ") + name); }
+    void reportMaximum(qsizetype steps);
+    void reportStep(qsizetype step);
+    void reportBreak() { reportToAutomatizer(QString()); }
+
     void MonitorSystem();
 
     // The system drive as the monitor saw it last.

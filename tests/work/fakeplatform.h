@@ -41,6 +41,7 @@ public:
     int exitCode(qint64, int reported) const override { return reported; }
     bool isElevated() const override { return true; }
     void shellExecute(const ShellStart &) const override {}
+    QStringList processNames() const override { return {}; }
     DllString dllString(const QString &, uint) const override { return {}; }
     WmiAnswer queryWmi(const QString &, const QStringList &) const override { return {}; }
     std::optional<bool> seekPenalty(const QString &) const override { return {}; }

@@ -26,6 +26,7 @@ constexpr quint32 errorModuleNotFound = 126;
 constexpr quint32 errorBadImage = 193;
 constexpr qint32 wmiInvalidClass = -2147217392; // WBEM_E_INVALID_CLASS
 constexpr int pauseSlice = 10;                  // milliseconds
+constexpr qsizetype mostProcesses = 1024;
 
 #ifdef Q_OS_WIN
 constexpr QLatin1StringView executableSuffix(".exe");
@@ -194,6 +195,11 @@ void SimulatedPlatform::shellExecute(const ShellStart &start) const
         process.setProcessEnvironment(environment);
     }
     process.startDetached();
+}
+
+QStringList SimulatedPlatform::processNames() const
+{
+    return guarded(QStringList(), [this] { return machine_->processes().mid(0, mostProcesses); });
 }
 
 DllString SimulatedPlatform::dllString(const QString &windowsPath, uint id) const

@@ -50,6 +50,7 @@ public:
     int exitCode(qint64 processId, int reported) const override;
     bool isElevated() const override;
     void shellExecute(const ShellStart &start) const override;
+    QStringList processNames() const override;
     DllString dllString(const QString &windowsPath, uint id) const override;
     WmiAnswer queryWmi(const QString &className, const QStringList &properties) const override;
     std::optional<bool> seekPenalty(const QString &windowsPath) const override;

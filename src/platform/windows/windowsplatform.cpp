@@ -12,7 +12,10 @@
 #include <QDirIterator>
 #include <QThread>
 
+#include <psapi.h>
 #include <shellapi.h>
+
+#include <span>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +26,19 @@ struct ModuleCloser
     void operator()(HMODULE module) const { FreeLibrary(module); }
 };
 using Module = std::unique_ptr<std::remove_pointer_t<HMODULE>, ModuleCloser>;
+
+/** The file name of a process's program; empty where it can't be told. */
+QString programName(DWORD processId)
+{
+    const Handle process(OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, processId));
+    HMODULE program = nullptr; // the first of a process's modules
+    DWORD needed = 0;
+    if (!process || !K32EnumProcessModules(process.get(), &program, sizeof(program), &needed))
+        return {};
+    wchar_t name[MAX_PATH];
+    const DWORD length = K32GetModuleBaseNameW(process.get(), program, name, MAX_PATH);
+    return QString::fromWCharArray(name, static_cast<qsizetype>(length));
+}
 
 } // namespace
 
@@ -98,6 +114,23 @@ void WindowsPlatform::shellExecute(const ShellStart &start) const
     const QString file = QDir::toNativeSeparators(start.file);
     ShellExecuteW(nullptr, wide(start.verb), wide(file), start.parameters.isEmpty() ? nullptr : wide(start.parameters),
                   nullptr, SW_SHOW);
+}
+
+QStringList WindowsPlatform::processNames() const
+{
+    constexpr std::size_t room = 1024;
+    DWORD ids[room];
+    DWORD size = 0;
+    if (!K32EnumProcesses(ids, sizeof(ids), &size))
+        return {};
+    QStringList names;
+    for (const DWORD id : std::span(ids).first(size / sizeof(DWORD))) {
+        if (id == 0) // the idle process
+            continue;
+        if (const QString name = programName(id); !name.isEmpty())
+            names.append(name);
+    }
+    return names;
 }
 
 DllString WindowsPlatform::dllString(const QString &windowsPath, uint id) const

@@ -17,14 +17,6 @@ bool areSame(const QString &left, const QString &right)
     return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
-/** The entry of a row of the list; what stands behind a second "=" is lost. */
-AutorunEntry entryOf(const AutorunRow &row)
-{
-    const QStringList parts = row.split(u'=');
-    const QString path = parts.at(0);
-    return {path.sliced(path.lastIndexOf(u'\\') + 1), path, parts.value(1)};
-}
-
 /** The entry of a record, "<command>=<path>", or "<path>=" of a packaged task. */
 AutorunEntry recordedEntry(const QString &name)
 {
@@ -39,7 +31,7 @@ QStringList listedNames()
     lister.AutorunGetList();
     QStringList names;
     for (const AutorunRow &row : std::as_const(lister.autoruns))
-        names.append(entryOf(row).name);
+        names.append(autorunEntry(row).name);
     return names;
 }
 
@@ -57,7 +49,7 @@ void disableAutoruns(WorkThread &worker, const QStringList &names)
     worker.AutorunGetList();
     for (const QString &name : names) {
         for (const AutorunRow &row : std::as_const(worker.autoruns)) {
-            if (const AutorunEntry entry = entryOf(row); areSame(entry.name, name))
+            if (const AutorunEntry entry = autorunEntry(row); areSame(entry.name, name))
                 disableAutorun(entry);
         }
     }

@@ -19,7 +19,8 @@ struct JobRow
     int job; ///< of WorkThread, or jobAutorun
     qsizetype fewestOperands;
     qsizetype mostOperands;        ///< -1: any number
-    QLatin1StringView closingLine; ///< the job's last line, or anyLine; empty where an empty line closes it
+    /** The job's last line, or anyLine; empty where an empty line closes it. The Automatizer's depend on its options. */
+    QLatin1StringView closingLine;
     /** Writes the job's input into the worker; of jobAutorun, does the work. */
     void (*prepare)(WorkThread &worker, const QStringList &operands) = nullptr;
     /** What of the operands didn't come to what was asked for, when the job is over. */

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse run
 
+#include "automatizer.h"
+#include "jobrunner.h"
 #include "jobs.h"
 #include "platform/simulated/simulatedplatform.h"
 #include "progress.h"
@@ -8,11 +10,7 @@
 #include "tweakjobs.h"
 #include "work/windowsname.h"
 
-#include <QCoreApplication>
-#include <QJsonDocument>
-
 #include <algorithm>
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -79,72 +77,10 @@ void applyKeep(WorkThread &worker, const QString &text)
     }
 }
 
-/** Prints the lines as they come, and remembers the last one. */
-class LinePrinter
+/** Whether a job's last line is the one that the row tells. */
+bool isClosed(const JobRow &row, const std::optional<QString> &lastLine)
 {
-public:
-    LinePrinter(bool json, Progress &progress)
-        : json_(json)
-        , progress_(progress)
-    {
-    }
-
-    void take(QLatin1StringView signal, const QString &line)
-    {
-        lastLine_ = line;
-        anyLine_ = true;
-        printPair(u"signal"_s, signal, u"line"_s, line);
-    }
-
-    /** A text that the job left. Its line breaks are shown, so that it stays on its line. */
-    void takeResult(const QString &name, const QString &text)
-    {
-        QString shown = text;
-        if (!json_)
-            shown.replace(u'\r', u"\\r"_s).replace(u'\n', u"\\n"_s);
-        printPair(u"name"_s, name, u"text"_s, shown);
-    }
-
-    /** Whether what came ends as the row tells. */
-    bool isClosed(const JobRow &row) const
-    {
-        return anyLine_ && (row.closingLine == anyLine || lastLine_ == row.closingLine);
-    }
-
-private:
-    void printPair(const QString &firstKey, const QString &first, const QString &secondKey, const QString &second)
-    {
-        progress_.clear();
-        if (json_)
-            print(QJsonDocument(QJsonObject{{firstKey, first}, {secondKey, second}}).toJson(QJsonDocument::Compact)
-                  + '\n');
-        else
-            print(first + u'\t' + second + u'\n');
-        std::fflush(stdout);
-    }
-
-    bool json_;
-    Progress &progress_;
-    QString lastLine_;
-    bool anyLine_ = false;
-};
-
-/** Runs the job to its end. */
-void runToEnd(WorkThread &worker, int job, const JobRow &row, LinePrinter &printer)
-{
-    QObject::connect(&worker, &WorkThread::valueChanged, &worker, [&](const QString &line) {
-        printer.take("valueChanged"_L1, line);
-        if (row.record != nullptr)
-            row.record(line);
-    });
-    QObject::connect(&worker, &WorkThread::automatizerValueChanged, &worker,
-                     [&printer](const QString &line) { printer.take("automatizerValueChanged"_L1, line); });
-    // Queued behind the lines that are under way.
-    QObject::connect(
-        &worker, &QThread::finished, &worker, [] { QCoreApplication::quit(); }, Qt::QueuedConnection);
-    worker.startJob(job);
-    QCoreApplication::exec();
-    worker.wait();
+    return lastLine && (row.closingLine == anyLine || *lastLine == row.closingLine);
 }
 
 /** Prints what starts at logon now. */
@@ -156,10 +92,10 @@ void printAutorun(WorkThread &worker, LinePrinter &printer)
 }
 
 /** A tweak tells nothing of itself; what is left to do for the user is said. */
-void runTweak(WorkThread &worker, const JobRow &row, const TweakRequest &tweak, LinePrinter &printer)
+void runTweak(WorkThread &worker, const TweakRequest &tweak, LinePrinter &printer)
 {
     if (const std::optional<int> job = tweak.job())
-        runToEnd(worker, *job, row, printer);
+        runToEnd(worker, *job, printer);
     else
         (worker.*tweak.run)(tweak.apply ? 1 : 0, tweak.id);
     printer.take("tweak"_L1, u"%1 %2 %3"_s.arg(tweak.group).arg(tweak.id).arg(tweak.apply ? "on"_L1 : "off"_L1));
@@ -167,28 +103,39 @@ void runTweak(WorkThread &worker, const JobRow &row, const TweakRequest &tweak, 
         printer.take("tweak"_L1, u"restart needed"_s);
 }
 
-/** Runs what the row says on a worker that has its input. A Failure where the job didn't come to its end. */
-void runRow(WorkThread &worker, const JobRow &row, const QStringList &operands, bool json)
+/** Runs a job of the worker and prints what it leaves. A Failure where it didn't come to its end. */
+void runOrdinaryJob(WorkThread &worker, const JobRow &row, LinePrinter &printer)
 {
-    Progress progress;
-    progress.show(u"running %1 ..."_s.arg(row.name), 0, 0);
-    LinePrinter printer(json, progress);
-    if (row.job == jobAutorun) {
-        printAutorun(worker, printer);
-        return;
-    }
-    if (row.job == jobTweak) {
-        runTweak(worker, row, parseTweak(operands), printer);
-        return;
-    }
-    runToEnd(worker, row.job, row, printer);
-    progress.clear();
-    if (!printer.isClosed(row))
+    if (!isClosed(row, runToEnd(worker, row.job, printer, row.record)))
         throw Failure{ExitJobFailed, u"the job %1 ended without its closing line"_s.arg(row.name)};
     if (row.results != nullptr) {
         for (const auto &[name, text] : row.results(worker))
             printer.takeResult(name, text);
     }
+}
+
+/** The state of the window's boxes and the answers to its questions. */
+AutomatizerChoice automatizerChoice(const Arguments &arguments)
+{
+    return {.programs = !arguments.has("no-programs"_L1),
+            .features = !arguments.has("no-features"_L1),
+            .walk = arguments.has("yes"_L1) && !arguments.has("no-walk"_L1)};
+}
+
+/** Runs what the row says on a worker that has its input. */
+void runRow(WorkThread &worker, const JobRow &row, const Arguments &arguments)
+{
+    Progress progress;
+    progress.show(u"running %1 ..."_s.arg(row.name), 0, 0);
+    LinePrinter printer(arguments.has("json"_L1), progress);
+    if (row.job == jobAutorun)
+        printAutorun(worker, printer);
+    else if (row.job == jobTweak)
+        runTweak(worker, parseTweak(arguments.operands().mid(2)), printer);
+    else if (isAutomatizerJob(row.job))
+        runAutomatizer(worker, row.job, automatizerChoice(arguments), printer);
+    else
+        runOrdinaryJob(worker, row, printer);
 }
 
 int runJob(const Arguments &arguments)
@@ -211,7 +158,7 @@ int runJob(const Arguments &arguments)
     if (row.prepare != nullptr)
         row.prepare(worker, operands);
 
-    runRow(worker, row, operands, arguments.has("json"_L1));
+    runRow(worker, row, arguments);
     if (row.unreached != nullptr) {
         if (const QStringList left = row.unreached(operands); !left.isEmpty())
             throw Failure{ExitJobFailed, u"%1 failed for %2"_s.arg(row.name, left.join(", "_L1))};
@@ -236,6 +183,10 @@ constexpr OptionRow options[] = {
     {"not-elevated"_L1, {},                   "run it as a user without administrator rights"_L1},
     {"pace"_L1,         "FACTOR"_L1,          "sleep this many times each pause of the job (default 0)"_L1},
     {"keep"_L1,         "FEATURE=STATE,..."_L1, "say which features are kept"_L1},
+    {"no-programs"_L1,  {},                   "let the Automatizer leave packages and programs at logon alone"_L1},
+    {"no-features"_L1,  {},                   "let the Automatizer leave the tweaks alone"_L1},
+    {"yes"_L1,          {},                   "answer Yes to the window's question for a walk over all files"_L1},
+    {"no-walk"_L1,      {},                   "answer No to it (default)"_L1},
     {"json"_L1,         {},                   "print each line as a JSON object"_L1},
 };
 // clang-format on

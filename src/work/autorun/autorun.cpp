@@ -36,6 +36,13 @@ bool canBeRestored(const QString &command)
 
 } // namespace
 
+AutorunEntry autorunEntry(const AutorunRow &row)
+{
+    const QStringList parts = row.split(u'=');
+    const QString &path = parts.first();
+    return {path.sliced(path.lastIndexOf(u'\\') + 1), path, parts.value(1)};
+}
+
 bool isPackagedTask(const QString &name)
 {
     return name.contains("StartTerminalOnLoginTask"_L1, Qt::CaseInsensitive)
@@ -44,20 +51,36 @@ bool isPackagedTask(const QString &name)
 
 void disableAutorun(const AutorunEntry &entry)
 {
-    const auto records = openRecords(u"Autorun"_s);
-    if (isPackagedTask(entry.name)) {
-        platform().openKey(entry.path)->setValue(u"State"_s, taskOff);
-        records->setValue(entry.name, entry.path + u'=');
-    } else {
-        platform().openKey(keyOf(entry))->remove(valueNameOf(entry));
-        records->setValue(entry.name, entry.command + u'=' + entry.path);
-    }
+    isPackagedTask(entry.name) ? disablePackagedTask(entry) : disableRunValue(entry);
+}
+
+void disableRunValue(const AutorunEntry &entry)
+{
+    platform().openKey(keyOf(entry))->remove(valueNameOf(entry));
+    openRecords(u"Autorun"_s)->setValue(entry.name, entry.command + u'=' + entry.path);
+}
+
+void disablePackagedTask(const AutorunEntry &entry)
+{
+    platform().openKey(entry.path)->setValue(u"State"_s, taskOff);
+    openRecords(u"Autorun"_s)->setValue(entry.name, entry.path + u'=');
 }
 
 void enableAutorun(const AutorunEntry &entry)
 {
     if (isPackagedTask(entry.name))
-        platform().openKey(entry.path)->setValue(u"State"_s, taskOn);
-    else if (canBeRestored(entry.command))
-        platform().openKey(keyOf(entry))->setValue(valueNameOf(entry), entry.command);
+        enablePackagedTask(entry.path);
+    else
+        enableRunValue(keyOf(entry), valueNameOf(entry), entry.command);
+}
+
+void enableRunValue(const QString &key, const QString &name, const QString &command)
+{
+    if (canBeRestored(command))
+        platform().openKey(key)->setValue(name, command);
+}
+
+void enablePackagedTask(const QString &key)
+{
+    platform().openKey(key)->setValue(u"State"_s, taskOn);
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QString>
+#include "work/rows.h"
 
 /** Where an entry stands: the full path of its Run value, or of its packaged task's key. */
 struct AutorunEntry
@@ -13,15 +13,22 @@ struct AutorunEntry
     QString command; ///< of a Run value
 };
 
+/** The entry of a row of the list. What stands behind a second "=" is lost, and with it the rest of such a command. */
+AutorunEntry autorunEntry(const AutorunRow &row);
+
 /** Whether an entry is one of the two packaged tasks, which have a switch, and no Run value, which is there or isn't.
  */
 bool isPackagedTask(const QString &name);
 
 /** Takes the entry out of the start-up and records it. */
 void disableAutorun(const AutorunEntry &entry);
+void disableRunValue(const AutorunEntry &entry);
+void disablePackagedTask(const AutorunEntry &entry);
 
 /**
  * Brings the entry back. A Run value comes back only if its command stands in double quotes and that program exists:
  * with anything else it can't be told where the program's path ends. The record is left alone.
  */
 void enableAutorun(const AutorunEntry &entry);
+void enableRunValue(const QString &key, const QString &name, const QString &command);
+void enablePackagedTask(const QString &key);

@@ -2,7 +2,7 @@
 
 #include "packagecatalogue.h"
 
-#include "work/workthread.h"
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -81,6 +81,18 @@ QStringList codecPackages()
             u"Microsoft.HEVCVideoExtension"_s, u"Microsoft.MPEG2VideoExtension"_s};
 }
 
+std::span<const KeepFeaturePackages> keepFeaturePackages()
+{
+    static const std::array features{
+        KeepFeaturePackages{&WorkThread::keepXboxGameBar, &WorkThread::hasXboxGameBar, xboxGameBarPackages(),
+                            u"Microsoft.XboxGameOverlay"_s},
+        KeepFeaturePackages{&WorkThread::keepXboxApp,     &WorkThread::hasXboxApp,     xboxAppPackages(),
+                            u"Microsoft.XboxApp"_s},
+        KeepFeaturePackages{&WorkThread::keepCodecs,      &WorkThread::hasCodecs,      codecPackages(), {}},
+    };
+    return features;
+}
+
 QString packageComment(const QString &familyName)
 {
     struct Comment
@@ -108,3 +120,10 @@ QString packageComment(const QString &familyName)
     return {};
 }
 // clang-format on
+
+QStringList KeepFeaturePackages::toBringBack() const
+{
+    QStringList names = packages;
+    names.removeAll(superseded);
+    return names;
+}

@@ -4,6 +4,7 @@
 
 #include "work/workthread.h"
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -33,6 +34,12 @@ QStringList nonVitalServiceNames()
     };
 }
 
+QStringList manualStartServiceNames()
+{
+    return {u"edgeupdate"_s, u"edgeupdatem"_s, u"StiSvc"_s, u"MapsBroker"_s, u"InventorySvc"_s, u"LocalKdc"_s,
+            u"Wcmsvc"_s, u"brave"_s, u"bravem"_s, u"NvContainerLocalSystem"_s, u"NvContainer"_s};
+}
+
 QStringList startModeBackupExclusions()
 {
     return {u"DPS"_s, u"DcomLaunch"_s, u"RpcSs"_s, u"SamSs"_s, u"TrkWks"_s, u"WdiServiceHost"_s, u"WdiSystemHost"_s,
@@ -54,6 +61,15 @@ std::span<const KeepFeatureServices> keepFeatureServices()
     return features;
 }
 // clang-format on
+
+QList<KeepFeatureServices> keepFeatureServicesToBringBack()
+{
+    const auto features = keepFeatureServices();
+    QList<KeepFeatureServices> ordered(features.begin(), features.end());
+    std::stable_partition(ordered.begin(), ordered.end(),
+                          [](const KeepFeatureServices &feature) { return feature.keep != &WorkThread::keepXboxApp; });
+    return ordered;
+}
 
 void addServicesOfFeaturesGivenUp(WorkThread &worker)
 {

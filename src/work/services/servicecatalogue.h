@@ -13,6 +13,9 @@ extern const QStringList criticalServices;
 /** Services that most people don't need. */
 QStringList nonVitalServiceNames();
 
+/** Services that needn't start by themselves, but aren't disabled: what uses them starts them. */
+QStringList manualStartServiceNames();
+
 /** Services that the start-mode backup leaves out. Compared with case. */
 QStringList startModeBackupExclusions();
 
@@ -25,6 +28,11 @@ struct KeepFeatureServices
 
 /** The features that have services, in the order in which their services join the non-vital ones. */
 std::span<const KeepFeatureServices> keepFeatureServices();
+
+/**
+ * The same in the order in which the services of features that are kept are brought back: the Xbox app's come last.
+ */
+QList<KeepFeatureServices> keepFeatureServicesToBringBack();
 
 /** Adds the services of every feature that is given up to the worker's non-vital services. */
 void addServicesOfFeaturesGivenUp(WorkThread &worker);

@@ -81,8 +81,10 @@ QStringList nonVitalTaskPrefixes()
 std::span<const KeepFeatureTasks> keepFeatureTasks()
 {
     static const std::array features{
-        KeepFeatureTasks{&WorkThread::keepPrinter,  {u"EduPrintProv"_s, u"PrinterCleanupTask"_s, u"PrintJobCleanupTask"_s}},
-        KeepFeatureTasks{&WorkThread::keepProxyVpn, {u"MobilityManager"_s}},
+        KeepFeatureTasks{&WorkThread::keepPrinter,  {u"EduPrintProv"_s, u"PrinterCleanupTask"_s, u"PrintJobCleanupTask"_s},
+                         u"\\Microsoft\\Windows\\Printing\\"_s},
+        KeepFeatureTasks{&WorkThread::keepProxyVpn, {u"MobilityManager"_s},
+                         u"\\Microsoft\\Windows\\Ras\\"_s},
     };
     return features;
 }

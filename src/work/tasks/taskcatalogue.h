@@ -18,5 +18,6 @@ struct KeepFeatureTasks
 {
     std::atomic<int> WorkThread::*keep; ///< 0 when the feature is given up
     QStringList nameEndings;
+    QString folder; ///< where Windows has them, from backslash to backslash
 };
 std::span<const KeepFeatureTasks> keepFeatureTasks();

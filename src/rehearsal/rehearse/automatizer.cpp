@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "automatizer.h"
+
+#include "jobrunner.h"
+#include "platform/platform.h"
+#include "subcommands.h"
+#include "work/automatizer/restorelists.h"
+#include "work/tweaks/tweakrecord.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/** Runs a job that has to end by the given line. */
+void runUpTo(const QString &closingLine, WorkThread &worker, int job, LinePrinter &printer)
+{
+    if (runToEnd(worker, job, printer) != closingLine)
+        throw Failure{ExitJobFailed, u"the job ended without its closing line"_s};
+}
+
+void analyze(WorkThread &worker, LinePrinter &printer)
+{
+    runUpTo(u"AutomatizerAnalyze:finished"_s, worker, JobAutomatizerAnalyze, printer);
+}
+
+/** Behind "tweaksDone": the record, and the walk, if it is asked for. */
+void closeTweaks(WorkThread &worker, bool walk, LinePrinter &printer)
+{
+    recordTweaksOfAutomatizer(worker, worker.win32PrioritySeparationIndex);
+    // Under Optimize the walk reports on the Automatizer's signal, so that isn't over before.
+    if (walk)
+        runToEnd(worker, JobTweakApply, printer);
+    worker.optimizeRunning = 0;
+}
+
+void optimize(WorkThread &worker, const AutomatizerChoice &choice, LinePrinter &printer)
+{
+    analyze(worker, printer);
+    const int found = worker.analyzeServiceCount + worker.analyzeTaskCount + worker.analyzePackageCount
+                      + worker.analyzeAutorunCount + worker.analyzeProcessCount;
+    if (found == 0)
+        throw Failure{ExitJobFailed, u"no optimizations found"_s};
+    runUpTo(choice.features ? u"tweaksDone"_s : u"automatizerEnd"_s, worker, JobAutomatizerOptimize, printer);
+    if (choice.features)
+        closeTweaks(worker, choice.walk, printer);
+}
+
+void restore(WorkThread &worker, const AutomatizerChoice &choice, LinePrinter &printer)
+{
+    if (!wasOptimized())
+        throw Failure{ExitJobFailed, u"cannot restore what has not yet been optimized"_s};
+    fillRestoreLists(worker);
+    worker.taskRestoreMode = true;
+    worker.restoreRunning = 1;
+    runUpTo(choice.features ? u"tweaksDone"_s : u"AutomatizerRestore:finished"_s, worker, JobAutomatizerRestore,
+            printer);
+    if (choice.features)
+        closeTweaks(worker, choice.walk, printer);
+    else
+        closeRestore();
+}
+
+} // namespace
+
+bool isAutomatizerJob(int job)
+{
+    return job == JobAutomatizerAnalyze || job == JobAutomatizerOptimize || job == JobAutomatizerRestore;
+}
+
+void runAutomatizer(WorkThread &worker, int job, const AutomatizerChoice &choice, LinePrinter &printer)
+{
+    if (!platform().isElevated())
+        throw Failure{ExitJobFailed, u"the Automatizer needs administrator rights"_s};
+    worker.automatizerProgram = choice.programs ? 1 : 0;
+    worker.automatizerTweak = choice.features ? 1 : 0;
+    if (job == JobAutomatizerAnalyze)
+        analyze(worker, printer);
+    else if (job == JobAutomatizerOptimize)
+        optimize(worker, choice, printer);
+    else
+        restore(worker, choice, printer);
+}

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Running jobs without a window, and printing what they say.
+
+#pragma once
+
+#include "progress.h"
+#include "work/workthread.h"
+
+#include <optional>
+
+/** Prints the lines as they come: "signal<TAB>line", or an object of JSON each. */
+class LinePrinter
+{
+public:
+    LinePrinter(bool json, Progress &progress)
+        : json_(json)
+        , progress_(progress)
+    {
+    }
+
+    void take(QLatin1StringView signal, const QString &line);
+    /** A text that a job left. Its line breaks are shown, so that it stays on its line. */
+    void takeResult(const QString &name, const QString &text);
+
+private:
+    void printPair(const QString &firstKey, const QString &first, const QString &secondKey, const QString &second);
+
+    bool json_;
+    Progress &progress_;
+};
+
+/**
+ * Runs a job to its end.
+ * @param record takes each line of valueChanged, as the window does for its records
+ * @return the job's last line; nothing where it has sent none
+ */
+std::optional<QString> runToEnd(WorkThread &worker, int job, LinePrinter &printer,
+                                void (*record)(const QString &line) = nullptr);

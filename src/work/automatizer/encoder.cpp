@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "encoder.h"
+
+#include "platform/platform.h"
+#include "work/command.h"
+#include "work/workthread.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+std::atomic<int> encoderServerFound = 0;
+
+namespace {
+
+/** Host path of the file in which the encoder is switched. */
+QString configFile()
+{
+    return platform().hostPath(qEnvironmentVariable("ProgramFiles(x86)")
+                               + u"\\RivaTuner Statistics Server\\Profiles\\config"_s);
+}
+
+bool isEncoder(const QString &process)
+{
+    return process == "EncoderServer.exe"_L1 || process == "EncoderServer64.exe"_L1;
+}
+
+/** Handled as bytes, since the file's code page isn't told. */
+QByteArray withEncoderOff(QByteArray config)
+{
+    // A switch that has another case or another value stays.
+    if (config.toLower().contains("enableencoderserver"))
+        return config.replace("EnableEncoderServer=1", "EnableEncoderServer=0");
+    return config + "EnableEncoderServer=0";
+}
+
+} // namespace
+
+void WorkThread::analyzeProcesses()
+{
+    encoderServerFound = 0;
+    for (const QString &process : platform().processNames()) {
+        if (!isEncoder(process) || !QFile::exists(configFile()))
+            continue;
+        encoderServerFound = 1;
+        reportFinding(
+            analyzeProcessCount,
+            tr("Process: can be disable: %1 from Riva Tuner Statistic Server app!\r\nThis process only allows "
+               "screen video capture.Does not affect the monitoring display in any way")
+                .replace(u"%1"_s, process));
+        reportBreak();
+    }
+}
+
+void WorkThread::optimizeEncoder()
+{
+    QFile file(configFile());
+    if (!file.exists() || !file.open(QIODevice::ReadWrite))
+        return;
+    Command taskkill;
+    taskkill.start(u"taskkill"_s, {u"/im"_s, u"RTSS.exe"_s, u"/f"_s, u"/t"_s});
+    taskkill.waitForFinished();
+    taskkill.close();
+
+    const QByteArray config = withEncoderOff(file.readAll());
+    file.seek(0);
+    file.write(config);
+    file.close();
+    reportToAutomatizer(tr("Process: disable EncoderServer done"));
+    reportBreak();
+}
