@@ -26,13 +26,15 @@ inline void addTask(TestMachine &machine, const QString &path, bool enabled = tr
 inline void installPackage(TestMachine &machine, const QString &name)
 {
     const QString fullName = name + QStringLiteral("_1.0.0.0_x64__8wekyb3d8bbwe");
+    const QString place = QStringLiteral("C:\\Program Files\\WindowsApps\\") + fullName;
+    const QString key = repositoryKey + u'\\' + fullName;
     addPackage(machine, fullName, name);
-    machine.write(
-        QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Appx\\"
-                       "AppxAllUserStore\\Applications\\")
-            + fullName,
-        QStringLiteral("Path"),
-        QString(QStringLiteral("C:\\Program Files\\WindowsApps\\") + fullName + QStringLiteral("\\AppxManifest.xml")));
+    machine.write(key, QStringLiteral("PackageID"), fullName);
+    machine.write(key, QStringLiteral("PackageRootFolder"), place);
+    machine.write(QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Appx\\"
+                                 "AppxAllUserStore\\Applications\\")
+                      + fullName,
+                  QStringLiteral("Path"), QString(place + QStringLiteral("\\AppxManifest.xml")));
 }
 
 inline void fillServices(TestMachine &machine)
