@@ -204,7 +204,8 @@ QStringList unaccounted(const TestMachine &machine)
         if (changed && !recordedNames(u"SVC"_s).contains(service))
             missing.append(service);
     }
-    for (const QString &path : {u"Microsoft\\Windows\\Autochk\\Proxy"_s, u"OneDrive Standalone Update Task-S-1-5-21"_s}) {
+    for (const QString &path :
+         {u"Microsoft\\Windows\\Autochk\\Proxy"_s, u"OneDrive Standalone Update Task-S-1-5-21"_s}) {
         if (!taskFacts(machine.machine().task(u'\\' + path)->document).enabled
             && !recordedNames(u"Task"_s).contains(path))
             missing.append(path);
@@ -217,8 +218,7 @@ QStringList unaccounted(const TestMachine &machine)
         if (!machine.names(userRunKey).contains(name) && !autoruns.contains(name))
             missing.append(name);
     }
-    if (machine.read(terminalTaskKey, u"State"_s).toInt() != 2
-        && !autoruns.contains(u"StartTerminalOnLoginTask"_s))
+    if (machine.read(terminalTaskKey, u"State"_s).toInt() != 2 && !autoruns.contains(u"StartTerminalOnLoginTask"_s))
         missing.append(u"Terminal"_s);
     return missing;
 }
