@@ -51,6 +51,7 @@ void Kestrune::makeWorkers()
 {
     workThread = new WorkThread(this);
     connect(workThread, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueChanged);
+    connect(workThread, &WorkThread::automatizerValueChanged, this, &Kestrune::onAutomatizerValueChanged);
     workThreadWinSxs = new WorkThread(this);
     connect(workThreadWinSxs, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueWinSxs);
     workThreadMonitor = new WorkThread(this);

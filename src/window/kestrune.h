@@ -50,6 +50,7 @@ public Q_SLOTS:
     void onWorkThreadValueChanged(const QString &line);
     void onWorkThreadValueMonitor(const QString &line);
     void onWorkThreadValueWinSxs(const QString &line);
+    void onAutomatizerValueChanged(const QString &line);
 
 private Q_SLOTS:
     // Menu
@@ -61,6 +62,11 @@ private Q_SLOTS:
     void on_btnMenuInfo_clicked() { showPage(6); }
     void on_btnMenuOptions_clicked() { showPage(7); }
     void on_btnMenuAbout_clicked() { showPage(8); }
+
+    // Optimizer page
+    void on_btnAutomatizerAnalyze_clicked();
+    void on_btnAutomatize_clicked();
+    void on_btnAutomatizerRestore_clicked();
 
     // Services page
     void on_btnSvcDisable_clicked();
@@ -125,6 +131,19 @@ private:
     void colorTexts();
     /** Gives the text's coloured words the theme's colour. */
     void colorText(QTextBrowser *browser);
+
+    // Optimizer page
+    void takeAutomatizerBoxes();
+    bool hasFindings() const;
+    void onAutomatizerProgressLine(const QString &line);
+    void closeAnalyze();
+    void logImprovements();
+    void closeTweaks();
+    void startAttributeWalk();
+    void closeWithoutAttributeWalk();
+    void closeAttributeWalk();
+    void fillBar();
+    void logAndShow(const QString &text);
 
     // Services page
     void showServicesPage();

@@ -44,3 +44,10 @@ QMessageBox::StandardButton ask(const Question &question)
         widen(box, question.minimumWidth);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
+
+void tell(const QString &text)
+{
+    QMessageBox box;
+    box.setText(text);
+    box.exec();
+}

@@ -18,3 +18,6 @@ struct Question
 
 /** Shows the box with the information icon and gives the button that closed it. */
 QMessageBox::StandardButton ask(const Question &question);
+
+/** Shows a text with the button that boxes have by themselves. */
+void tell(const QString &text);

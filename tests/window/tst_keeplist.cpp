@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Keep list: what its rows say, what is stored, and what the workers are told.
 
+#include "support/markingtranslator.h"
 #include "support/windowdriver.h"
 
 #include "window/keeplist.h"
@@ -141,6 +142,7 @@ private Q_SLOTS:
     void builtAgainItDoesNotRaiseAMember();
     void builtAgainItStoresNothingItself();
     void builtAgainItStillHearsOfChanges();
+    void builtInAnotherLanguageItShowsThatLanguageAndTheStoredStates();
     void secondWindowTakesTheListOver();
 };
 
@@ -384,6 +386,25 @@ void TestKeepList::builtAgainItStillHearsOfChanges()
     setCheck(homeBox(driver), 9, Qt::Checked);
     QCOMPARE(driver.worker().keepCodecs.load(), 2);
     QCOMPARE(stored(machine, 9), QVariant(2));
+}
+
+void TestKeepList::builtInAnotherLanguageItShowsThatLanguageAndTheStoredStates()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    setCheck(homeBox(driver), 3, Qt::Unchecked);
+    const MarkingTranslator language("Kestrune");
+    driver.window().applyPalette();
+    QCOMPARE(keepModel->rowCount(), 10);
+    for (int row = 1; row <= 9; ++row) {
+        QCOMPARE(keepModel->item(row)->text(), u'«' + features.at(row - 1).text + u'»');
+        QCOMPARE(keepModel->item(row)->toolTip(), u'«' + features.at(row - 1).toolTip + u'»');
+        QCOMPARE(keepModel->item(row)->checkState(), row == 3 ? Qt::Unchecked : Qt::Checked);
+    }
+    for (const QComboBox *box : {servicesBox(driver), homeBox(driver)})
+        QCOMPARE(box->currentText(), u"«Keep features»"_s);
+    setCheck(homeBox(driver), 9, Qt::Unchecked);
+    QCOMPARE(machine.names(settingsKey).filter(u"Keep_"_s), (QStringList{u"Keep_3"_s, u"Keep_9"_s}));
 }
 
 void TestKeepList::secondWindowTakesTheListOver()

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the lines of Analyze, Optimize and Restore mean: log, status and bar, and what closes each of the three. Lines
+// are compared as they are sent, whatever the language.
+
+#include "kestrune.h"
+
+#include "messagebox.h"
+#include "rowtext.h"
+#include "work/automatizer/restorelists.h"
+#include "work/tweaks/tweakrecord.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString withHomeDrive(QString text)
+{
+    return text.replace(u"%1"_s, qEnvironmentVariable("homedrive"));
+}
+
+/** How many tweaks Optimize would apply. Told, not counted: the tables of the tweaks don't enter here. */
+QString improvementCount(bool onWindows10, bool onBattery)
+{
+    if (onBattery)
+        return onWindows10 ? u"27"_s : u"29"_s;
+    return onWindows10 ? u"30"_s : u"32"_s;
+}
+
+} // namespace
+
+void Kestrune::onAutomatizerValueChanged(const QString &line)
+{
+    if (line == "tweaksDone"_L1) {
+        closeTweaks();
+    } else if (line.startsWith("pgr:"_L1)) {
+        onAutomatizerProgressLine(line);
+    } else if (line == "AutomatizerAnalyze:finished"_L1) {
+        closeAnalyze();
+    } else if (line == "automatizerEnd"_L1) {
+        fillBar();
+        ui.txtAutomatizer->append(QString());
+        logAndShow(tr("Optimization finished"));
+    } else if (line == "AutomatizerRestore:finished"_L1) {
+        closeRestore();
+        fillBar();
+        ui.txtAutomatizer->append(QString());
+        logAndShow(tr("Restoration finished: Restart your PC!"));
+    } else if (line == "RemoveIndexedAttrib_end"_L1) {
+        closeAttributeWalk();
+    } else {
+        ui.txtAutomatizer->append(line);
+    }
+}
+
+void Kestrune::onAutomatizerProgressLine(const QString &line)
+{
+    ui.pgrBar->show();
+    // What is no number is the head of a phase, which stands behind "Optimize" during Restore too.
+    if (line.startsWith("pgr:max:"_L1))
+        ui.pgrBar->setMaximum(QStringView(line).sliced(8).toInt());
+    else if (line.startsWith("pgr:value:"_L1))
+        ui.pgrBar->setValue(QStringView(line).sliced(10).toInt());
+    else
+        ui.lblStatus->setText(tr("Optimize") + u" : "_s + line.sliced(4));
+}
+
+void Kestrune::closeAnalyze()
+{
+    if (hasFindings())
+        logImprovements();
+    else
+        ui.txtAutomatizer->append(tr("No optimizations found!"));
+    fillBar();
+    ui.lblStatus->setText(countText(tr("Services:"), workThread->analyzeServiceCount) + summarySeparator
+                          + countText(tr("Tasks:"), workThread->analyzeTaskCount) + summarySeparator
+                          + countText(tr("Packages:"), workThread->analyzePackageCount) + summarySeparator
+                          + countText(tr("Autorun:"), workThread->analyzeAutorunCount));
+}
+
+void Kestrune::logImprovements()
+{
+    const bool onBattery = workThread->batteryCharge != "-1"_L1;
+    if (onBattery)
+        ui.txtAutomatizer->append(
+            tr("Features: Battery detected! Some optimizations will not be applied to maintain battery life"));
+    if (ui.chkAutomatizerTweak->isChecked()) {
+        QString text = tr("Features: %1 improvements can be applied");
+        ui.txtAutomatizer->append(
+            text.replace(u"%1"_s, improvementCount(workThread->winName.contains("10"_L1), onBattery)));
+    }
+}
+
+void Kestrune::closeTweaks()
+{
+    recordTweaksOfAutomatizer(*workThread, ui.cbWin32PrioritySeparation->currentIndex());
+    // After a Restore as well, though a Yes puts this tweak in force.
+    const auto answer = ask({.text = tr("Would you like to apply option for set indexing attributes of all files in "
+                                        "Windows partition?"),
+                             .defaultButton = QMessageBox::No});
+    if (answer == QMessageBox::Yes)
+        startAttributeWalk();
+    else
+        closeWithoutAttributeWalk();
+}
+
+void Kestrune::startAttributeWalk()
+{
+    waitForLastInstructions();
+    workThread->startJob(JobTweakApply);
+    ui.pgrBar->show();
+    ui.pgrBar->setMaximum(0);
+    const QString text = withHomeDrive(tr("Remove indexing attribute of %1"));
+    ui.lblStatus->setText(text);
+    ui.txtAutomatizer->append(tr("Features") + u": "_s + text);
+}
+
+void Kestrune::closeWithoutAttributeWalk()
+{
+    workThread->optimizeRunning = 0;
+    fillBar();
+    logAndShow(tr("Features: applied successfully. Restart your PC!"));
+    ui.txtAutomatizer->append(QString());
+    logAndShow(workThread->restoreRunning == 1 ? tr("Restoration finished") : tr("Optimization finished"));
+}
+
+void Kestrune::closeAttributeWalk()
+{
+    const QString text = withHomeDrive(tr("Remove indexing attribute of %1 finished"));
+    ui.pgrBar->show();
+    fillBar();
+    ui.lblStatus->setText(text);
+    if (workThread->optimizeRunning == 1) {
+        workThread->optimizeRunning = 0;
+        ui.txtAutomatizer->append(tr("Features") + u": "_s + text);
+        ui.txtAutomatizer->append(tr("Features: applied successfully. Restart your PC!"));
+        ui.txtAutomatizer->append(QString());
+        logAndShow(tr("Optimization finished"));
+    }
+    // Takes the place of what was just set, and lacks the log's colon.
+    if (workThread->restoreRunning == 0)
+        ui.lblStatus->setText(tr("Features applied successfully. Restart your PC!"));
+}
+
+void Kestrune::fillBar()
+{
+    constexpr int full = 100;
+    ui.pgrBar->setMaximum(full);
+    ui.pgrBar->setValue(full);
+}
+
+void Kestrune::logAndShow(const QString &text)
+{
+    ui.txtAutomatizer->append(text);
+    ui.lblStatus->setText(text);
+}
