@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Saves a picture of one page of the window on a rehearsal machine: kestrune-picture DIR PAGE FILE [--not-elevated]
+// Saves a picture of one page of the window on a rehearsal machine:
+// kestrune-picture DIR PAGE FILE [BUTTON] [--not-elevated]
+// With a button's object name it is clicked first, and its job is waited for.
 
 #include "platform/simulated/simulatedplatform.h"
 #include "standinfonts.h"
@@ -41,8 +43,8 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments().sliced(1);
     const bool elevated = !arguments.removeOne(u"--not-elevated"_s);
-    if (arguments.size() != 3) {
-        qCritical("Usage: kestrune-picture DIR PAGE FILE [--not-elevated]");
+    if (arguments.size() != 3 && arguments.size() != 4) {
+        qCritical("Usage: kestrune-picture DIR PAGE FILE [BUTTON] [--not-elevated]");
         return badArguments;
     }
     QCoreApplication::setApplicationVersion(u"0.3.14"_s);
@@ -60,5 +62,14 @@ int main(int argc, char **argv)
     settle(window);
     window.showPage(arguments.at(1).toInt());
     settle(window);
+    if (arguments.size() == 4) {
+        auto *button = window.findChild<QPushButton *>(arguments.at(3));
+        if (button == nullptr) {
+            qCritical("kestrune-picture: the window has no button %s", qUtf8Printable(arguments.at(3)));
+            return badArguments;
+        }
+        button->click();
+        settle(window);
+    }
     return window.grab().save(arguments.at(2)) ? 0 : 1;
 }

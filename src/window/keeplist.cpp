@@ -5,7 +5,9 @@
 #include "kestrune.h"
 #include "work/settings.h"
 
+#include <QMouseEvent>
 #include <QStandardItemModel>
+#include <QStyledItemDelegate>
 
 using namespace Qt::StringLiterals;
 
@@ -62,6 +64,41 @@ constexpr KeepFeature keepFeatures[] = {
 };
 // clang-format on
 
+/**
+ * Draws the rows as the theme's style sheet has them, which the lists' own way of some styles doesn't, and lets a click
+ * anywhere in a row switch its feature.
+ */
+class KeepDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        constexpr int leastHeight = 24;
+        return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, leastHeight});
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        // The title is the list's current row, but no choice.
+        option->state &= ~QStyle::State_Selected;
+    }
+
+    bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
+                     const QModelIndex &index) override
+    {
+        const bool isClick = event->type() == QEvent::MouseButtonRelease
+                             && static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton;
+        if (!isClick || !index.flags().testFlag(Qt::ItemIsUserCheckable))
+            return QStyledItemDelegate::editorEvent(event, model, option, index);
+        const bool checked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        return model->setData(index, checked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+    }
+};
+
 QString keepSetting(int row)
 {
     return u"Keep_"_s + QString::number(row);
@@ -98,6 +135,7 @@ void Kestrune::buildKeepList()
 
     for (QComboBox *box : {ui.cbSvcFeatures, ui.cbAutorunFeatures}) {
         box->setModel(keepModel);
+        box->setItemDelegate(new KeepDelegate(box)); // deletes the one before
         box->setCurrentText(tr("Keep features"));
     }
     connect(keepModel, &QStandardItemModel::dataChanged, this, &Kestrune::onKeepModelChanged, Qt::UniqueConnection);

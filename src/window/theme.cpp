@@ -10,6 +10,7 @@
 #include "work/settings.h"
 
 #include <QApplication>
+#include <QScrollBar>
 
 using namespace Qt::StringLiterals;
 
@@ -91,6 +92,7 @@ void Kestrune::applyLightTheme()
     styleAll<QComboBox>(lightComboBoxStyle(platform().resourceFolder(), link));
     styleAll<QCheckBox>(lightCheckBoxStyle(workThread->winName.contains("Windows 10"_L1, Qt::CaseInsensitive), link));
     ui.txtAutomatizer->setStyleSheet(u"border-radius: 6px; border: 1px solid "_s + QColor(220, 220, 220).name() + u';');
+    ui.txtAutomatizer->verticalScrollBar()->setStyleSheet(lightScrollBarStyle());
     styleTables(tableSelectionStyle(u"lightGray"_s));
     openSettings()->setValue(u"palette"_s, u"light"_s);
     currentTheme = LightTheme;
@@ -105,6 +107,7 @@ void Kestrune::applyDarkTheme()
     styleButtons(viewButtonStyle(buttons), actionButtonStyle(buttons), true);
     styleAll<QCheckBox>(QString());
     ui.txtAutomatizer->setStyleSheet(QString());
+    ui.txtAutomatizer->verticalScrollBar()->setStyleSheet(QString());
     styleTables(tableSelectionStyle(QColor(35, 35, 35).name()));
     openSettings()->setValue(u"palette"_s, u"dark"_s);
     currentTheme = DarkTheme;
@@ -117,6 +120,7 @@ void Kestrune::applySystemTheme()
     styleAll<QComboBox>(QString());
     styleAll<QCheckBox>(QString());
     ui.txtAutomatizer->setStyleSheet(QString());
+    ui.txtAutomatizer->verticalScrollBar()->setStyleSheet(QString());
     styleTables(QString());
     openSettings()->setValue(u"palette"_s, u"system"_s);
     currentTheme = SystemTheme;

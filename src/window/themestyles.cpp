@@ -52,6 +52,14 @@ QString lightCheckBoxStyle(bool onWindows10, const QColor &link)
     return style;
 }
 
+QString lightScrollBarStyle()
+{
+    return u"QScrollBar { border: none; background: transparent; width: 12px; }QScrollBar::handle { background-color: "_s
+           + QColor(200, 200, 200).name()
+           + u"; border-radius: 4px; min-height: 24px; margin: 2px; }QScrollBar::add-line, QScrollBar::sub-line { "
+             "height: 0px; }QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }"_s;
+}
+
 QString tableSelectionStyle(const QString &background)
 {
     return u"QTableView::item:selected { background-color: "_s + background + u"; selection-color: #000000; }"_s;

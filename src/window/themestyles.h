@@ -22,6 +22,8 @@ QString actionButtonStyle(const ButtonColors &colors);
 
 QString lightComboBoxStyle(const QString &resourceFolder, const QColor &link);
 QString lightCheckBoxStyle(bool onWindows10, const QColor &link);
+/** The log's scroll bar in the light theme, where it would take over the log's frame. */
+QString lightScrollBarStyle();
 QString tableSelectionStyle(const QString &background);
 
 /** Colours of a popup menu. */

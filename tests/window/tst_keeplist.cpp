@@ -92,15 +92,18 @@ bool setCheck(QComboBox *box, int row, Qt::CheckState state)
     return box->model()->setData(box->model()->index(row, 0), state, Qt::CheckStateRole);
 }
 
-/** Clicks the check box of a row in the list that a combo box opens. */
-void clickInPopup(QComboBox *box, int row)
+/** Clicks a row in the list that a combo box opens, so far from its left end, and tells whether the list stays open. */
+bool clickInPopup(QComboBox *box, int row, int left, Qt::MouseButton button = Qt::LeftButton)
 {
     box->showPopup();
     QAbstractItemView *view = box->view();
-    const QRect place = view->visualRect(box->model()->index(row, 0));
-    QTest::mouseMove(view->viewport(), place.center());
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place.center());
+    const QRect area = view->visualRect(box->model()->index(row, 0));
+    const QPoint place(area.left() + left, area.center().y());
+    QTest::mouseMove(view->viewport(), place);
+    QTest::mouseClick(view->viewport(), button, {}, place);
+    const bool open = view->isVisible();
     box->hidePopup();
+    return open;
 }
 
 void addRows()
@@ -130,7 +133,9 @@ private Q_SLOTS:
     void checkingAgainStoresTwoAndGivesTheMemberTwo();
     void uncheckedFeatureIsGivenUpAtTheNextStart_data() { addRows(); }
     void uncheckedFeatureIsGivenUpAtTheNextStart();
-    void clickInTheListTogglesAFeature();
+    void clickAnywhereInARowTogglesItsFeature_data();
+    void clickAnywhereInARowTogglesItsFeature();
+    void otherMouseButtonsToggleNothing();
     void titleRowCannotBeCheckedByAClick();
     void changeOfTheTitleRowStoresItsStateAndTouchesNoMember();
     void changeOfSeveralRowsStoresEach();
@@ -256,16 +261,41 @@ void TestKeepList::uncheckedFeatureIsGivenUpAtTheNextStart()
     }
 }
 
-void TestKeepList::clickInTheListTogglesAFeature()
+void TestKeepList::clickAnywhereInARowTogglesItsFeature_data()
+{
+    QTest::addColumn<bool>("home");
+    QTest::addColumn<int>("left");
+    QTest::newRow("check box, Optimizer") << true << 10;
+    QTest::newRow("text, Optimizer") << true << 100;
+    QTest::newRow("check box, Services") << false << 10;
+    QTest::newRow("text, Services") << false << 100;
+}
+
+void TestKeepList::clickAnywhereInARowTogglesItsFeature()
+{
+    QFETCH(const bool, home);
+    QFETCH(const int, left);
+    TestMachine machine;
+    const WindowDriver driver;
+    if (!home)
+        QVERIFY(driver.openServices());
+    QComboBox *box = home ? homeBox(driver) : servicesBox(driver);
+    for (const int state : {0, 2, 0}) {
+        QVERIFY(clickInPopup(box, 7, left));
+        QCOMPARE(keepModel->item(7)->checkState(), static_cast<Qt::CheckState>(state));
+        QCOMPARE(driver.worker().keepNfc.load(), state);
+        QCOMPARE(stored(machine, 7), QVariant(state));
+    }
+    QCOMPARE(box->currentText(), u"Keep features"_s);
+}
+
+void TestKeepList::otherMouseButtonsToggleNothing()
 {
     TestMachine machine;
     const WindowDriver driver;
-    driver.window().showPage(1);
-    QVERIFY(driver.waitForList());
-    clickInPopup(servicesBox(driver), 7);
-    QCOMPARE(keepModel->item(7)->checkState(), Qt::Unchecked);
-    QCOMPARE(driver.worker().keepNfc.load(), 0);
-    QCOMPARE(stored(machine, 7), QVariant(0));
+    clickInPopup(homeBox(driver), 7, 10, Qt::RightButton);
+    QCOMPARE(keepModel->item(7)->checkState(), Qt::Checked);
+    QVERIFY(!stored(machine, 7).isValid());
 }
 
 void TestKeepList::titleRowCannotBeCheckedByAClick()
@@ -274,7 +304,8 @@ void TestKeepList::titleRowCannotBeCheckedByAClick()
     const WindowDriver driver;
     driver.window().showPage(1);
     QVERIFY(driver.waitForList());
-    clickInPopup(servicesBox(driver), 0);
+    clickInPopup(servicesBox(driver), 0, 10);
+    clickInPopup(servicesBox(driver), 0, 100);
     QVERIFY(!keepModel->item(0)->data(Qt::CheckStateRole).isValid());
     QVERIFY(!stored(machine, 0).isValid());
     QCOMPARE(servicesBox(driver)->currentText(), u"Keep features"_s);
