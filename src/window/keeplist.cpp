@@ -84,7 +84,8 @@ protected:
     {
         QStyledItemDelegate::initStyleOption(option, index);
         // The title is the list's current row, but no choice.
-        option->state &= ~QStyle::State_Selected;
+        if (!index.flags().testFlag(Qt::ItemIsUserCheckable))
+            option->state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
     }
 
     bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
