@@ -2,8 +2,8 @@
 // A person's way through the pages of tasks, packages and programs started at logon, on the built-in PCs: from the
 // first listing to everything restored. The PC is compared with a fresh one as a whole.
 
-#include "rehearsal/machinediff.h"
 #include "support/boxes.h"
+#include "support/machinepair.h"
 #include "support/packageplaces.h"
 #include "support/windowdriver.h"
 #include "work/settings.h"
@@ -14,40 +14,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/** A PC of the test beside a fresh one of the same kind. */
-class Pair
-{
-public:
-    explicit Pair(const QString &builtIn)
-        : machine(builtIn)
-    {
-        makeMachine(folder_.path() + u"/fresh"_s, QCoreApplication::applicationDirPath() + u"/machines/"_s + builtIn,
-                    Existing::Keep);
-        fresh_ = Machine::open(folder_.path() + u"/fresh"_s);
-    }
-
-    /** What differs, each as kind, path and name; the options of the program itself are left out. */
-    QStringList differences(bool withEmptyKeys = false)
-    {
-        QStringList result;
-        for (const DiffRow &row : compareMachines(*fresh_, machine.machine())) {
-            const bool emptyKey = row.kind == DiffKind::Registry && row.name.isEmpty() && row.before.isEmpty();
-            if (row.path == settingsKey || (emptyKey && !withEmptyKeys))
-                continue;
-            result.append(kindName(row.kind) + u' ' + row.path
-                          + (row.name.isEmpty() ? QString() : u" | "_s + row.name));
-        }
-        result.sort();
-        return result;
-    }
-
-    TestMachine machine;
-
-private:
-    QTemporaryDir folder_;
-    std::unique_ptr<Machine> fresh_;
-};
 
 QStringList sorted(QStringList names)
 {
@@ -107,7 +73,7 @@ void TestListStory::needlessTasksGoAndComeBack()
 {
     QFETCH(const QString, builtIn);
     const QString table = u"tblTasks"_s;
-    Pair pair(builtIn);
+    MachinePair pair(builtIn);
     const WindowDriver driver;
 
     // The list, and the backup of its first export.
@@ -158,7 +124,7 @@ void TestListStory::packagesGoAndComeBack()
 {
     QFETCH(const QString, builtIn);
     const QString table = u"tblPackages"_s;
-    Pair pair(builtIn);
+    MachinePair pair(builtIn);
     const WindowDriver driver;
     QVERIFY(driver.openPackages());
     const QStringList listed = driver.column(table, 0);
@@ -216,7 +182,7 @@ void TestListStory::programsAreSwitchedOffAndOn()
 {
     QFETCH(const QString, builtIn);
     const QString table = u"tblAutorun"_s;
-    Pair pair(builtIn);
+    MachinePair pair(builtIn);
     const WindowDriver driver;
     driver.window().showPage(3);
     const QStringList listed = driver.column(table, 0);
