@@ -23,6 +23,9 @@ trial_digest() {
 # The stand-ins of stock tools beside a program, where Windows looks first; the others are started by their full path.
 readonly stand_ins=(sc schtasks powercfg bcdedit takeown icacls taskkill)
 
+# What clicks through the window, in this order
+readonly window_tests=(tst_realwindow tst_reallists)
+
 inside_trial() {
     local version
     rm -rf "$desk_logs"/win* "$inside_build"/screenshots/win*
@@ -31,6 +34,7 @@ inside_trial() {
         desk_begin "$version"
         run_test_suite "$version"
         lay_trial_folder
+        lay_pc "$version"
         run_window "$version"
         run_program "$version"
         desk_end
@@ -53,12 +57,13 @@ run_test_suite() {
 
 # A folder of its own with the program as it is packed, and stand-ins that are never packed
 lay_trial_folder() {
-    local folder=$inside_making/trial tool
+    local folder=$inside_making/trial tool program
     local system=$WINEPREFIX/drive_c/windows
     rm -rf "$folder"
     mkdir -p "$folder"
-    cp -l "$inside_build"/bin/{kestrune,tst_realwindow,tst_program}.exe "$folder/" 2>/dev/null ||
-        cp "$inside_build"/bin/{kestrune,tst_realwindow,tst_program}.exe "$folder/"
+    for program in kestrune tst_program "${window_tests[@]}"; do
+        cp -l "$inside_build/bin/$program.exe" "$folder/" 2>/dev/null || cp "$inside_build/bin/$program.exe" "$folder/"
+    done
     cp -r "$inside_build"/bin/{img,machines} "$folder/"
     for tool in "${stand_ins[@]}"; do cp "$inside_build/bin/standin.exe" "$folder/$tool.exe"; done
     mkdir -p "$system"/system32/WindowsPowerShell/v1.0 "$system/syswow64"
@@ -66,23 +71,41 @@ lay_trial_folder() {
     cp --remove-destination "$inside_build/bin/standin.exe" "$system/syswow64/OneDriveSetup.exe"
 }
 
+# lay_pc VERSION: the registry of a built-in machine, as if it belonged to the user here
+lay_pc() {
+    local machine=${windows_machines[$1]} script copy
+    for script in "$inside_source/resources/machines/$machine"/*.reg; do
+        copy=$inside_making/trial/${script##*/}
+        # In UTF-16: in any other file the bytes of texts are taken for another encoding.
+        printf '\xff\xfe' >"$copy"
+        # The folder of the user as Wine spells it.
+        # shellcheck disable=SC1003  # a backslash before a quote is meant
+        sed -E 's/\\\\Users\\\\[A-Z][a-z]+\\\\/\\\\users\\\\'"$USER"'\\\\/g' "$script" | iconv -f UTF-8 -t UTF-16LE >>"$copy"
+        quietly "import-$(basename "$copy" .reg)" 120 wine reg import "Z:$copy"
+    done
+}
+
 # run_window VERSION: clicks through the window, then looks at the registry
 run_window() {
-    local machine=${windows_machines[$1]} file begin=$SECONDS
-    local services='HKLM\System\CurrentControlSet\Services' records='HKCU\Software\Kestrune\Ondrevale\SVC'
-    for file in services windows; do
-        # In UTF-16: in any other file the bytes of texts are taken for another encoding.
-        { printf '\xff\xfe'; iconv -f UTF-8 -t UTF-16LE "$inside_source/resources/machines/$machine/$file.reg"; } \
-            >"$inside_making/trial/$file.reg"
-        quietly "import-$file" 120 wine reg import "Z:$inside_making/trial/$file.reg"
-    done
-    export KESTRUNE_TRIAL_MACHINE=$machine KESTRUNE_TRIAL_PICTURES=Z:$inside_build/screenshots/$1 KESTRUNE_STANDIN=1
+    local test begin=$SECONDS
+    local services='HKLM\System\CurrentControlSet\Services' records='HKCU\Software\Kestrune\Ondrevale'
+    local repository='HKCU\Software\Classes\Local Settings\Software\Microsoft\Windows\CurrentVersion\AppModel\Repository'
+    local news="$repository\\Packages\\Microsoft.BingNews_4.55.62231.0_x64__8wekyb3d8bbwe"
+    local appraiser='Microsoft/Windows/Application Experience/Microsoft Compatibility Appraiser'
+    export KESTRUNE_TRIAL_MACHINE=${windows_machines[$1]} KESTRUNE_STANDIN=1
+    export KESTRUNE_TRIAL_PICTURES=Z:$inside_build/screenshots/$1
     mkdir -p "$inside_build/screenshots/$1"
-    (cd "$inside_making/trial" && run_qtest window tst_realwindow.exe)
+    for test in "${window_tests[@]}"; do
+        (cd "$inside_making/trial" && run_qtest "${test#tst_}" "$test.exe")
+    done
     expect "the start mode of the disabled service" "$(value "$services\\DiagTrack" Start)" 0x4
-    expect "the record of the disabled service" "$(value "$records" DiagTrack)" 0x1
+    expect "the record of the disabled service" "$(value "$records\\SVC" DiagTrack)" 0x1
     expect "the start mode of the restored service" "$(value "$services\\SysMain" Start)" 0x2
-    expect "the record of the restored service" "$(value "$records" SysMain)" ''
+    expect "the record of the restored service" "$(value "$records\\SVC" SysMain)" ''
+    expect "the record of the disabled task" "$(value "$records\\Task" "$appraiser")" 0x1
+    expect "the record of the restored package" "$(value "$records\\Packages" Microsoft.BingNews)" ''
+    expect "the name of the restored package" "$(value "$news" DisplayName | cut -d_ -f1)" '@{Microsoft.BingNews'
+    expect "the record of the restored program" "$(value "$records\\Autorun" OneDrive)" ''
     say "trial: the window in $(took $((SECONDS - begin)))"
 }
 

@@ -27,9 +27,9 @@ int main(int argc, char *argv[])
     const ToolResult result = runTool(name, host, arguments);
 
     const auto commands = host.openKey(standInCommands);
-    const int number = commands->value(u"Count"_s, 0).toInt() + 1;
-    commands->setValue(QString::number(number), u"%1 %2: %3"_s.arg(name, arguments.join(u' ')).arg(result.exitCode));
-    commands->setValue(u"Count"_s, number);
+    const int number = commands->value(standInCount, 0).toInt() + 1;
+    commands->setValue(QString::number(number), QStringList(name) + arguments);
+    commands->setValue(standInCount, number);
     std::fwrite(result.errors.constData(), 1, static_cast<std::size_t>(result.errors.size()), stderr);
     std::fwrite(result.output.constData(), 1, static_cast<std::size_t>(result.output.size()), stdout);
     return result.exitCode;

@@ -63,8 +63,7 @@ void NativeToolHost::setTask(const ScheduledTask &task)
     qsizetype place = 0;
     while (place < present.size() && present.at(place).path.compare(task.path, Qt::CaseInsensitive) != 0)
         ++place;
-    // Zeros in front keep the order where names are sorted.
-    openKey(standInTasks)->setValue(u"%1"_s.arg(place, 6, 10, QChar(u'0')), task.path + u'\n' + task.document);
+    openKey(standInTasks)->setValue(standInTaskName(place), task.path + u'\n' + task.document);
 }
 
 QStringList NativeToolHost::processes() const

@@ -7,8 +7,9 @@
 
 /** One value for each service that was ever started: 1 runs, 0 doesn't. */
 inline const QString standInStates = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Running");
-/** The value "Count": how many commands were run; and one value for each, by its number from 1. */
+/** How many commands were run; and one value for each, by its number from 1: the tool and its arguments. */
 inline const QString standInCommands = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Commands");
+inline const QString standInCount = QStringLiteral("Count");
 /** One value for each scheduled task, in order: its path, a line feed and its document. */
 inline const QString standInTasks = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Tasks");
 /** One value for each option of the boot configuration. */
@@ -17,3 +18,9 @@ inline const QString standInBootOptions = QStringLiteral("HKEY_CURRENT_USER\\Sof
 inline const QString standInSecurity = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Security");
 /** The value "Names": the names of the processes. */
 inline const QString standInProcesses = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Processes");
+
+/** The name of a task's value, with zeros in front, which keep the order where names are sorted. */
+inline QString standInTaskName(qsizetype place)
+{
+    return QStringLiteral("%1").arg(place, 6, 10, QChar(u'0'));
+}

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A real Windows that is made to look like a built-in PC, whose registry was imported before: what the clicks in a real
+// window go over. The environment says by KESTRUNE_TRIAL_MACHINE which PC, and by KESTRUNE_TRIAL_PICTURES where the
+// pictures go. Nothing here is done to a Windows that anybody uses: see scripts/windows/trial.sh.
+
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+/** The process works on the real Windows, with stand-ins of the stock tools, while this object lives. */
+class TrialPc
+{
+public:
+    TrialPc();
+    ~TrialPc();
+    Q_DISABLE_COPY_MOVE(TrialPc)
+
+    /** Lets the services, the processes and the scheduled tasks of the built-in PC be known to the stand-ins. */
+    void startServices() const;
+    void startProcesses() const;
+    void registerTasks() const;
+
+private:
+    QJsonObject description_; ///< the PC's machine.json
+};
+
+/** Makes an empty file with the folders on the way, as of an installed program. */
+void layFile(const QString &path);
+/** Puts a stand-in of the stock tools there. */
+void layStandIn(const QString &path);
+
+/** The commands of a tool since forgetCommands(), in order, each as its arguments. */
+QList<QStringList> commandsOf(const QString &tool);
+void forgetCommands();
+
+/** Saves the whole screen: what a user would see, frames and boxes too. */
+void takePicture(const QString &name);
