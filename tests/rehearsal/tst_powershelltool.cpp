@@ -23,6 +23,7 @@ const QString calculator = u"Microsoft.WindowsCalculator_11.1_x64__8wekyb3d8bbwe
 const QString olderCalculator = u"Microsoft.WindowsCalculator_10.2_x64__8wekyb3d8bbwe"_s;
 const QString camera = u"Microsoft.WindowsCamera_1.0_x64__8wekyb3d8bbwe"_s;
 const QString alone = u"Microsoft.Alone_1.0_x64__8wekyb3d8bbwe"_s; // the user's, and nobody else's
+const QString shown = u"@{Shown?ms-resource://Shown/Name}"_s;      // a reference, as many packages have it
 
 QStringList removal(const QString &name)
 {
@@ -47,13 +48,13 @@ void addPackages(SmallMachine &machine)
     for (const QString &fullName : {calculator, olderCalculator, camera, alone}) {
         const QString root = u"C:\\Program Files\\WindowsApps\\"_s + fullName;
         const QString key = userKey + u'\\' + fullName;
-        setText(machine, key, u"DisplayName"_s, u"Shown"_s);
+        setText(machine, key, u"DisplayName"_s, shown);
         setText(machine, key, u"PackageID"_s, fullName);
         setText(machine, key, u"PackageRootFolder"_s, root);
         if (fullName == alone)
             continue;
         setText(machine, allUsersKey + u'\\' + fullName, u"Path"_s, root + u"\\AppxManifest.xml"_s);
-        setText(machine, allUsersKey + u'\\' + fullName, u"DisplayName"_s, u"Shown"_s);
+        setText(machine, allUsersKey + u'\\' + fullName, u"DisplayName"_s, shown);
     }
 }
 

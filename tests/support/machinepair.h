@@ -36,6 +36,8 @@ public:
         return result;
     }
 
+    Machine &fresh() { return *fresh_; }
+
     TestMachine machine;
 
 private:

@@ -30,6 +30,12 @@ std::unique_ptr<RegistryKey> MachineToolHost::openKey(const QString &path) const
     return std::make_unique<SimulatedKey>(machine_.registry(), path, elevated_);
 }
 
+void MachineToolHost::writeText(const QString &path, const QString &name, const QString &text)
+{
+    if (const auto key = machine_.registry().make(path))
+        machine_.registry().setValue(*key, {name, RegistryType::String, registryText(text)});
+}
+
 QString MachineToolHost::resolveText(const QString &text) const
 {
     return resolveResourceText(machine_, text);

@@ -12,6 +12,7 @@ public:
 
     bool isElevated() const override { return elevated_; }
     std::unique_ptr<RegistryKey> openKey(const QString &path) const override;
+    void writeText(const QString &path, const QString &name, const QString &text) override;
     QString resolveText(const QString &text) const override;
     QString hostPath(const QString &windowsPath) const override;
     std::optional<bool> isRunning(const QString &service) const override;

@@ -63,14 +63,15 @@ ToolResult removePackages(ToolHost &host, const QString &pattern)
 }
 
 /** Registers a package of the machine for the user. */
-void registerPackage(PackageList &user, PackageList &machine, const QString &fullName)
+void registerPackage(ToolHost &host, PackageList &machine, const QString &fullName)
 {
+    const QString key = userRoot + u'\\' + QString(userPackages).replace(u'/', u'\\') + u'\\' + fullName;
     const QString manifest = machine.key().value(fullName + u"/Path"_s).toString();
     const QString root = manifest.left(manifest.lastIndexOf(u'\\'));
     const QString name = fullName.section(u'_', 0, 0);
-    user.key().setValue(fullName + u"/DisplayName"_s, machine.key().value(fullName + u"/DisplayName"_s, name));
-    user.key().setValue(fullName + u"/PackageID"_s, fullName);
-    user.key().setValue(fullName + u"/PackageRootFolder"_s, root);
+    host.writeText(key, u"DisplayName"_s, machine.key().value(fullName + u"/DisplayName"_s, name).toString());
+    host.writeText(key, u"PackageID"_s, fullName);
+    host.writeText(key, u"PackageRootFolder"_s, root);
 }
 
 ToolResult registerPackages(ToolHost &host, const QString &pattern)
@@ -82,7 +83,7 @@ ToolResult registerPackages(ToolHost &host, const QString &pattern)
     const QStringList registered = user.key().childGroups();
     for (const QString &fullName : machine.find(pattern)) {
         if (!registered.contains(fullName, Qt::CaseInsensitive))
-            registerPackage(user, machine, fullName);
+            registerPackage(host, machine, fullName);
     }
     return {};
 }

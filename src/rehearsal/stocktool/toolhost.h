@@ -22,6 +22,8 @@ public:
     virtual bool isElevated() const = 0;
     /** Opens a key by its full path; see Platform::openKey. */
     virtual std::unique_ptr<RegistryKey> openKey(const QString &path) const = 0;
+    /** Writes a text as it is, making the key: an opened key doubles an "@" at the text's beginning. */
+    virtual void writeText(const QString &path, const QString &name, const QString &text) = 0;
     /** The string behind a registry text that may be a reference into a DLL. */
     virtual QString resolveText(const QString &text) const = 0;
     /** The file on this computer behind a Windows path. */

@@ -6,11 +6,22 @@
 
 #include "platform/windows/nativekey.h"
 
+#include <windows.h>
+
 using namespace Qt::StringLiterals;
 
 std::unique_ptr<RegistryKey> NativeToolHost::openKey(const QString &path) const
 {
     return std::make_unique<NativeKey>(path);
+}
+
+void NativeToolHost::writeText(const QString &path, const QString &name, const QString &text)
+{
+    const HKEY hive = path.startsWith("HKEY_CURRENT_USER\\"_L1) ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
+    const std::wstring key = path.section(u'\\', 1).toStdWString();
+    const std::wstring data = text.toStdWString();
+    RegSetKeyValueW(hive, key.c_str(), name.toStdWString().c_str(), REG_SZ, data.c_str(),
+                    static_cast<DWORD>((data.size() + 1) * sizeof(wchar_t)));
 }
 
 std::unique_ptr<RegistryKey> NativeToolHost::states() const

@@ -14,6 +14,7 @@ class NativeToolHost final : public ToolHost
 public:
     bool isElevated() const override { return true; }
     std::unique_ptr<RegistryKey> openKey(const QString &path) const override;
+    void writeText(const QString &path, const QString &name, const QString &text) override;
     QString resolveText(const QString &text) const override { return text; }
     QString hostPath(const QString &windowsPath) const override { return windowsPath; }
     std::optional<bool> isRunning(const QString &service) const override;
