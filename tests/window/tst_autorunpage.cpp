@@ -87,6 +87,8 @@ private Q_SLOTS:
     void disableOfAnEmptyTableListsAnew();
     void commandWithAnEqualsSignLosesItsTail();
     void commandThatBeginsWithAnEqualsSignIsRecordedByItsPath();
+    void oddDataGoesAndComesBackAsFarAsItCan_data();
+    void oddDataGoesAndComesBackAsFarAsItCan();
     void twoProgramsOfOneNameShareARecord();
     void textOfTheEndIsNotSeen();
     void disableWithoutRightsOffersThemAndListsAnew();
@@ -470,6 +472,50 @@ void TestAutorunPage::commandThatBeginsWithAnEqualsSignIsRecordedByItsPath()
     const QString path = userRunKey + u"\\A"_s;
     QCOMPARE(machine.names(userRunKey), QStringList());
     QCOMPARE(machine.read(autorunRecordsKey, u"A"_s), QVariant(path + u'=' + path));
+}
+
+void TestAutorunPage::oddDataGoesAndComesBackAsFarAsItCan_data()
+{
+    QTest::addColumn<RegistryType>("type");
+    QTest::addColumn<QString>("data");
+    QTest::addColumn<QString>("record"); // what stands there before the path
+    QTest::addColumn<bool>("comesBack");
+    const QString path = userRunKey + u"\\A"_s;
+    const QString variable = command + u" %TEMP%"_s;
+    const QString variablePath = u"\"%ProgramFiles%\\App\\app.exe\""_s;
+    const QString longest = command + QString(16000, u'x');
+    QTest::newRow("expandable text") << RegistryType::ExpandString << variable << variable << true;
+    QTest::newRow("expandable path") << RegistryType::ExpandString << variablePath << variablePath << false;
+    QTest::newRow("empty") << RegistryType::String << QString() << path << false;
+    QTest::newRow("equals sign first") << RegistryType::String << u"=a.exe"_s << path << false;
+    QTest::newRow("32 kB") << RegistryType::String << longest << longest << true;
+}
+
+void TestAutorunPage::oddDataGoesAndComesBackAsFarAsItCan()
+{
+    QFETCH(const RegistryType, type);
+    QFETCH(const QString, data);
+    QFETCH(const QString, record);
+    QFETCH(const bool, comesBack);
+    TestMachine machine;
+    machine.addFile(program);
+    RegistryStore &registry = machine.machine().registry();
+    const RegistryStore::KeyId key = *registry.make(userRunKey);
+    registry.setValue(key, {u"A"_s, type, registryText(data)});
+    const WindowDriver driver;
+    open(driver);
+    driver.click(actionButton);
+    QCOMPARE(machine.names(userRunKey), QStringList());
+    QCOMPARE(machine.read(autorunRecordsKey, u"A"_s), QVariant(record + u'=' + userRunKey + u"\\A"_s));
+
+    driver.click(viewButton);
+    driver.click(actionButton);
+    QCOMPARE(machine.names(autorunRecordsKey), QStringList());
+    const auto value = registry.value(key, u"A"_s);
+    QCOMPARE(value.has_value(), comesBack);
+    // What was to be expanded comes back as plain text.
+    if (comesBack)
+        QCOMPARE(*value, (RegistryValue{u"A"_s, RegistryType::String, registryText(data)}));
 }
 
 void TestAutorunPage::twoProgramsOfOneNameShareARecord()

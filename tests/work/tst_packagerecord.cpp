@@ -63,6 +63,7 @@ void TestPackageRecord::otherLinesLeaveTheRecord_data()
     QTest::newRow("no blank") << u"   Uninstall   package:Microsoft.Todos: done"_s;
     QTest::newRow("empty") << QString();
     QTest::newRow("listing") << u"WorkThread::PackageGetList"_s;
+    QTest::newRow("no name") << u"   Uninstall   package: : done"_s;
 }
 
 void TestPackageRecord::otherLinesLeaveTheRecord()

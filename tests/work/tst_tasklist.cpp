@@ -114,6 +114,8 @@ private Q_SLOTS:
     void description();
     void textBeforeTheFirstTaskDoesNotMatter_data();
     void textBeforeTheFirstTaskDoesNotMatter();
+    void anAddressBeforeTheFirstTaskIsTakenForItsOwn();
+    void markupInCDataAndCommentsIsCutLikeAnyOther();
     void nothingIsDecoded();
 
     void damagedExportGivesItsWholeTasks_data();
@@ -123,7 +125,7 @@ private Q_SLOTS:
     void exportOf16BitsWithItsMarkIsRead();
     void exportOf16BitsWithoutMarkGivesNoRow();
     void bytesThatAreNoTextAreRead();
-    void twentyMegabytesAreRead();
+    void sixtyMegabytesAreRead();
 
     void exportIsLeftBehindAndOverwritten();
     void firstExportIsKeptAsABackup();
@@ -352,6 +354,33 @@ void TestTaskList::textBeforeTheFirstTaskDoesNotMatter()
     QCOMPARE(rows.at(0).description, none);
 }
 
+void TestTaskList::anAddressBeforeTheFirstTaskIsTakenForItsOwn()
+{
+    const TaskMachine machine;
+    const auto rows = rowsOf(machine, u"<URI>\\Stray</URI>"_s + taskElement({u"\\Folder\\A"_s, u"a"_s})
+                                          + taskElement({u"\\B"_s, u"b"_s}));
+    QCOMPARE(pathsOf(rows), (QStringList{u"Stray"_s, u"B"_s}));
+    QCOMPARE(rows.at(0).description, u"a"_s);
+    QCOMPARE(rows.at(1).description, u"b"_s);
+}
+
+void TestTaskList::markupInCDataAndCommentsIsCutLikeAnyOther()
+{
+    const TaskMachine machine;
+    const auto rows = rowsOf(machine, listOfDocuments({{u"\\A"_s, u"<![CDATA[a <URI>\\X</URI>]]>"_s},
+                                                       {u"\\B"_s, u"<![CDATA[b </Task> c]]>"_s},
+                                                       {u"\\C"_s, u"c"_s, u"<!-- <Enabled>true</Enabled> -->"_s},
+                                                       {u"\\D"_s, u"d"_s, u"<!-- </Task> -->"_s},
+                                                       {u"\\E"_s, u"<!-- e -->"_s}}));
+    QCOMPARE(pathsOf(rows), (QStringList{u"X"_s, u"B"_s, u"C"_s, u"D"_s, u"E"_s}));
+    QCOMPARE(rows.at(0).description, u"<![CDATA[a <URI>\\X</URI>]]>"_s);
+    // The end of the task took its description's beginning with it.
+    QCOMPARE(rows.at(1).description, none);
+    QCOMPARE(rows.at(2).disabled, 1);
+    QCOMPARE(rows.at(3).description, u"d"_s);
+    QCOMPARE(rows.at(4).description, u"<!-- e -->"_s);
+}
+
 void TestTaskList::nothingIsDecoded()
 {
     const TaskMachine machine;
@@ -447,17 +476,18 @@ void TestTaskList::bytesThatAreNoTextAreRead()
     QVERIFY(worker.tasks.at(1).path.endsWith(u"ber"_s));
 }
 
-void TestTaskList::twentyMegabytesAreRead()
+void TestTaskList::sixtyMegabytesAreRead()
 {
+    constexpr int sixtyMegabytes = 60 * 1024 * 1024;
     const TaskMachine machine;
     const QString two =
         listOfDocuments({{u"\\Folder\\A"_s, QString(1000, u'd')}, {u"\\B"_s, {}, u"<Enabled>false</Enabled>"_s}});
-    const int repeat = 20 * 1024 * 1024 / int(two.size()) + 1;
+    const int repeat = sixtyMegabytes / int(two.size()) + 1;
     print(machine, two, repeat);
     WorkThread worker;
     JobLines lines(worker);
     QVERIFY(runJob(worker, 1));
-    QVERIFY(QFileInfo(exportFile(machine)).size() > 20 * 1024 * 1024);
+    QVERIFY(QFileInfo(exportFile(machine)).size() > sixtyMegabytes);
     QCOMPARE(worker.tasks.size(), 2 * repeat);
     QCOMPARE(worker.tasks.constFirst().path, u"Folder\\A"_s);
     QCOMPARE(worker.tasks.at(worker.tasks.size() - 2).description.size(), 1000);

@@ -14,6 +14,8 @@ void recordPackageLine(const QString &line, bool install)
     if (!line.contains(mark) || !line.endsWith(done))
         return;
     const QString name = line.split(mark).at(1).split(u": "_s + done).first();
+    if (name.isEmpty())
+        return; // names the whole group
     const auto records = openRecords(u"Packages"_s);
     if (install)
         records->remove(name);
