@@ -18,8 +18,9 @@ struct JobRow
     QLatin1StringView help;
     int job; ///< of WorkThread, or jobAutorun
     qsizetype fewestOperands;
-    qsizetype mostOperands;        ///< -1: any number
-    /** The job's last line, or anyLine; empty where an empty line closes it. The Automatizer's depend on its options. */
+    qsizetype mostOperands; ///< -1: any number
+    /** The job's last line, or anyLine; empty where an empty line closes it. The Automatizer's depend on its options.
+     */
     QLatin1StringView closingLine;
     /** Writes the job's input into the worker; of jobAutorun, does the work. */
     void (*prepare)(WorkThread &worker, const QStringList &operands) = nullptr;
