@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# What lies beside the executable: images, translations and the built-in rehearsal machines.
+# What lies beside the executable: images, translations (made elsewhere) and the built-in rehearsal machines.
 
 file(GLOB_RECURSE resource_files CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}/resources
     ${CMAKE_SOURCE_DIR}/resources/img/*.png
@@ -15,3 +15,4 @@ foreach(file IN LISTS resource_files)
     list(APPEND copied_resources ${copy})
 endforeach()
 add_custom_target(resources ALL DEPENDS ${copied_resources})
+add_dependencies(resources translations)

@@ -17,4 +17,5 @@ install(DIRECTORY ${CMAKE_SOURCE_DIR}/resources/machines DESTINATION . COMPONENT
 foreach(component IN ITEMS kestrune rehearse)
     install(DIRECTORY ${CMAKE_SOURCE_DIR}/resources/img DESTINATION . COMPONENT ${component}
         FILES_MATCHING PATTERN "*.png" PATTERN source EXCLUDE)
+    install(FILES ${translations} DESTINATION Translations COMPONENT ${component})
 endforeach()

@@ -10,7 +10,7 @@ readonly inside_packages_folder=$inside_build/packages
 pack_key() { { bytes_key; echo "$SOURCE_DATE_EPOCH"; pack_inputs; } | digest; }
 pack_inputs() {
     cd "$source_folder"
-    cat LICENSE packaging/windows/* resources/img/*.png resources/machines/*/* scripts/windows/pack.sh
+    cat LICENSE packaging/windows/* resources/img/*.png resources/machines/*/* resources/Translations/* scripts/windows/pack.sh
 }
 pack_stamp() { echo "$source_folder/build/windows/.packed"; }
 pack_says() { echo "the ZIP archives, the installer and the package managers' manifests; about 1 minute"; }

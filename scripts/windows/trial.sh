@@ -64,7 +64,7 @@ lay_trial_folder() {
     for program in kestrune tst_program "${window_tests[@]}"; do
         cp -l "$inside_build/bin/$program.exe" "$folder/" 2>/dev/null || cp "$inside_build/bin/$program.exe" "$folder/"
     done
-    cp -r "$inside_build"/bin/{img,machines} "$folder/"
+    cp -r "$inside_build"/bin/{img,machines,Translations} "$folder/"
     for tool in "${stand_ins[@]}"; do cp "$inside_build/bin/standin.exe" "$folder/$tool.exe"; done
     mkdir -p "$system"/system32/WindowsPowerShell/v1.0 "$system/syswow64"
     cp --remove-destination "$inside_build/bin/standin.exe" "$system/system32/WindowsPowerShell/v1.0/powershell.exe"

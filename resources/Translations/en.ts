@@ -1,0 +1,8 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<!-- English is in the sources. -->
+<context>
+<name>texts</name>
+</context>
+</TS>

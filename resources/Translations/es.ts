@@ -1,0 +1,1410 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<!-- One context for all: see cmake/translations.cmake. -->
+<context>
+<name>texts</name>
+<message>
+<source>  20   (variable and long quantum, foreground boost X1)</source>
+<translation>  20   (cuanto variable y largo, impulso en primer plano X1)</translation>
+</message>
+<message>
+<source>  21   (variable and long quantum, foreground boost X2)</source>
+<translation>  21   (cuanto variable y largo, impulso en primer plano X2)</translation>
+</message>
+<message>
+<source>  22   (variable and long quantum, foreground boost X3)</source>
+<translation>  22   (cuanto variable y largo, impulso en primer plano X3)</translation>
+</message>
+<message>
+<source>  24   (fixed and long quantum, foreground boost X1) (not recommended)</source>
+<translation>  24   (cuanto fijo y largo, impulso en primer plano X1) (no recomendado)</translation>
+</message>
+<message>
+<source>  36   (variable and short quantum, foreground boost X1)</source>
+<translation>  36   (cuanto variable y corto, impulso en primer plano X1)</translation>
+</message>
+<message>
+<source>  37   (variable and short quantum, foreground boost X2)</source>
+<translation>  37   (cuanto variable y corto, impulso en primer plano X2)</translation>
+</message>
+<message>
+<source>  38   (variable and short quantum, foreground boost X3) (recommended)</source>
+<translation>  38   (cuanto variable y corto, impulso en primer plano X3) (recomendado)</translation>
+</message>
+<message>
+<source>  40   (fixed and short quantum, foreground boost X1) (not recommended)</source>
+<translation>  40   (cuanto fijo y corto, impulso en primer plano X1) (no recomendado)</translation>
+</message>
+<message>
+<source>1</source>
+<translation>1</translation>
+</message>
+<message>
+<source>10</source>
+<translation>10</translation>
+</message>
+<message>
+<source>2</source>
+<translation>2</translation>
+</message>
+<message>
+<source>3</source>
+<translation>3</translation>
+</message>
+<message>
+<source>30</source>
+<translation>30</translation>
+</message>
+<message>
+<source>4</source>
+<translation>4</translation>
+</message>
+<message>
+<source>5</source>
+<translation>5</translation>
+</message>
+<message>
+<source>60</source>
+<translation>60</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Lucida Console'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;table border=&quot;0&quot; width=&quot;100%&quot; cellspacing=&quot;10&quot; cellpadding=&quot;0&quot;&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;%winName&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Edition:   %winEdition&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Build:   %winBuild&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Display version:   %winVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Installed on SSD:   %winOnSsd&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Mother-board:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%mbManufacturer&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Model:   %mbModel&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Bios version:   %mbBiosVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Bios date:   %mbBiosDate&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Processor:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%cpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Default frequency:   %cpuFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Cores / Threads:   %cpuCore  / %cpuThread&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L2 cache size:   %cpuL2Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L3 cache size:   %cpuL3Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Socket:   %cpuSocket&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HyperThreading:   %cpuHt&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtualization:   %cpuV&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Memory:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Capacity:   %memTotal&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Free:   %memFree&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequency:   %memFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Form Factor:   %memFormFactor&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtual Memory:   %memVSize&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Graphics card and screen:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%gpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Driver version:   %gpuDriverVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Driver date:   %gpuDriverDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Screen:   loading screen info...&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolution:   %gpuDesktopSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolution max:   %gpuDesktopMaxSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Refresh rate:   %gpuRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Refresh rate max:   %screenMaxRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HDR:   %screenHdr&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Disk:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;loading disk info...&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Lucida Console'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;table border=&quot;0&quot; width=&quot;100%&quot; cellspacing=&quot;10&quot; cellpadding=&quot;0&quot;&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;%winName&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Edición:   %winEdition&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Compilación:   %winBuild&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Versión:   %winVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Instalado en SSD:   %winOnSsd&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Placa base:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%mbManufacturer&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Modelo:   %mbModel&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Versión del BIOS:   %mbBiosVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Fecha del BIOS:   %mbBiosDate&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Procesador:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%cpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frecuencia base:   %cpuFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Núcleos / Hilos:   %cpuCore  / %cpuThread&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Tamaño de caché L2:   %cpuL2Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Tamaño de caché L3:   %cpuL3Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Zócalo:   %cpuSocket&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HyperThreading:   %cpuHt&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtualización:   %cpuV&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Memoria:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Capacidad:   %memTotal&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Libre:   %memFree&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frecuencia:   %memFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Formato:   %memFormFactor&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Memoria virtual:   %memVSize&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Tarjeta gráfica y pantalla:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%gpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Versión controlador:   %gpuDriverVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Fecha controlador:   %gpuDriverDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Pantalla:   cargando datos de la pantalla...&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolución:   %gpuDesktopSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolución máx.:   %gpuDesktopMaxSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frecuencia:   %gpuRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frecuencia máx.:   %screenMaxRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HDR:   %screenHdr&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Disco:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;cargando datos del disco...&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Segoe UI'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Version:&lt;/span&gt;   beta %version&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Date:&lt;/span&gt;    %buildDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Author:&lt;/span&gt;   Ondrevale&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Contact:&lt;/span&gt;   &lt;a href=&quot;mailto:contact@kestrune.example&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;contact@kestrune.example&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Website:&lt;/span&gt;   &lt;a href=&quot;https://kestrune.example/&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;https://kestrune.example/&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Programming language and framework:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ with Qt 6, licensed under the GNU LGPL version 3&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Developped for Windows 10 and Windows 11&lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Purpose:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;This application aims to improve general performance without distorting Windows, by helping you disable all features, programs, services, scheduled tasks, which may be superfluous and harm performance. It also configures some internal system features that are inaccessible through an interface and other options allow you to reduce the space occupied by Windows on the hard disk. (uninstalling unnecessary Windows applications, cleaning the WinSxs folder, ...)&lt;br /&gt;All in a few clicks and with the possibility of restoring to original values. &lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Important informations:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;All options in this application are reversible.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Be careful with the Services section. Do not disable services if you are not really aware of what they are, dependencies etc... USE THE ASSISTANT BUTTON!!!&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Segoe UI'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Versión:&lt;/span&gt;   beta %version&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Fecha:&lt;/span&gt;    %buildDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Autor:&lt;/span&gt;   Ondrevale&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Contacto:&lt;/span&gt;   &lt;a href=&quot;mailto:contact@kestrune.example&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;contact@kestrune.example&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Sitio web:&lt;/span&gt;   &lt;a href=&quot;https://kestrune.example/&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;https://kestrune.example/&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Lenguaje de programación y framework:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ con Qt 6, con licencia GNU LGPL versión 3&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Desarrollado para Windows 10 y Windows 11&lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Objetivo:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Esta aplicación pretende mejorar el rendimiento general sin desvirtuar Windows, ayudándole a deshabilitar todas las funciones, programas, servicios y tareas programadas que puedan ser superfluos y perjudicar el rendimiento. También configura algunas funciones internas del sistema a las que no se accede desde ninguna interfaz, y otras opciones permiten reducir el espacio que ocupa Windows en el disco duro. (desinstalar aplicaciones de Windows innecesarias, limpiar la carpeta WinSxS, ...)&lt;br /&gt;Todo en unos pocos clics y con la posibilidad de restaurar los valores originales. &lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Información importante:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;Todas las opciones de esta aplicación son reversibles.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Tenga cuidado con la sección Servicios. No deshabilite servicios si no sabe realmente qué son, sus dependencias, etc. ¡¡¡USE EL BOTÓN ASISTENTE!!!&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- FIXED quantum: the processor time allocated to applications is divided equally between applications,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;while VARIABLE quantum allow applications to hold the processor for longer if needed.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- SHORT quantum: the processor time allocated to applications is faster to switch from task to task,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;as opposed to LONG quantum, which allocates more processor time to the application.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- FOREGROUND BOOST X times: the quantum is increased X times in favor of the application&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;that is in the foreground.&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; font-size:4pt;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;In a pure gaming context, depending on the value selected, you favor the FPS (22, 21),&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS but also responsiveness (38, 37), or latency of your keyboard/mouse or gamepad (36, 24, 40).&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;a href=&quot;https://learn.microsoft.com/windows/win32/procthread/priority-boosts&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- Cuanto FIJO: el tiempo de procesador se reparte por igual entre las aplicaciones,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;un cuanto VARIABLE les permite retener el procesador más tiempo si hace falta.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- Cuanto CORTO: el tiempo de procesador pasa más rápido de una tarea a otra,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;un cuanto LARGO, en cambio, asigna más tiempo a la aplicación.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- IMPULSO EN PRIMER PLANO X veces: el cuanto se multiplica por X en favor&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;de la aplicación en primer plano.&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; font-size:4pt;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;En un contexto puramente de juego, según el valor, favorece los FPS (22, 21),&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS y respuesta (38, 37) o latencia de teclado/ratón o mando (36, 24, 40).&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;a href=&quot;https://learn.microsoft.com/windows/win32/procthread/priority-boosts&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;más información&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Advanced optimizations via motherboard BIOS settings &lt;a href=&quot;https://kestrune.example/optimization.html&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Optimizaciones avanzadas en la configuración del BIOS de la placa base &lt;a href=&quot;https://kestrune.example/optimization.html&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;más información&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Microsoft acknowledges performance impact with Memory Integrity and VMP enabled &lt;a href=&quot;https://learn.microsoft.com/windows/security/hardware-security/enable-virtualization-based-protection-of-code-integrity&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Microsoft admite que la integridad de memoria y VMP reducen el rendimiento &lt;a href=&quot;https://learn.microsoft.com/windows/security/hardware-security/enable-virtualization-based-protection-of-code-integrity&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;más información&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;The WinSxS folder is an essential system component that serves as a repository for storing multiple versions of system files, allowing Windows to maintain good compatibility &lt;a href=&quot;https://learn.microsoft.com/windows-hardware/manufacture/desktop/manage-the-component-store&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;La carpeta WinSxS es un componente esencial del sistema que sirve de repositorio para varias versiones de archivos del sistema, lo que permite a Windows mantener una buena compatibilidad &lt;a href=&quot;https://learn.microsoft.com/windows-hardware/manufacture/desktop/manage-the-component-store&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;más información&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>A newer version of Kestrune is available!<byte value="xd"/>
+Would you like to visit the website for download?<byte value="xd"/>
+<byte value="xd"/>
+Current version: %1<byte value="xd"/>
+Online version: %2</source>
+<translation>¡Hay una versión más reciente de Kestrune disponible!<byte value="xd"/>
+¿Desea visitar el sitio web para descargarla?<byte value="xd"/>
+<byte value="xd"/>
+Versión actual: %1<byte value="xd"/>
+Versión en línea: %2</translation>
+</message>
+<message>
+<source>About</source>
+<translation>Acerca de</translation>
+</message>
+<message>
+<source>Add indexing attribute of %1 finished</source>
+<translation>Atributo de indexación de %1 agregado</translation>
+</message>
+<message>
+<source>Add indexing attribute of Windows partition %1</source>
+<translation>Agregando el atributo de indexación de la partición de Windows %1</translation>
+</message>
+<message>
+<source>Analyze</source>
+<translation>Analizar</translation>
+</message>
+<message>
+<source>Analyze and optimize Windows to improve overall performance by disabling unnecessary features and configuring some that are inaccessible through an interface.
+Optimizations come from the Services, Scheduled Tasks, Programs, and Features pages.</source>
+<translation>Analice y optimice Windows para mejorar el rendimiento general deshabilitando funciones innecesarias y configurando otras a las que no se accede desde ninguna interfaz.
+Las optimizaciones proceden de las páginas Servicios, Tareas programadas, Programas y Funciones.</translation>
+</message>
+<message>
+<source>Application to play PC games if you have a Gamepass account (paid)</source>
+<translation>Aplicación para jugar a juegos de PC con una suscripción Game Pass (de pago)</translation>
+</message>
+<message>
+<source>Apply</source>
+<translation>Aplicar</translation>
+</message>
+<message>
+<source>Apply features finished successfully.</source>
+<translation>Funciones aplicadas correctamente.</translation>
+</message>
+<message>
+<source>Are you sure to disable all checked services?</source>
+<translation>¿Seguro que desea deshabilitar todos los servicios marcados?</translation>
+</message>
+<message>
+<source>Are you sure to disable all checked tasks?</source>
+<translation>¿Seguro que desea deshabilitar todas las tareas marcadas?</translation>
+</message>
+<message>
+<source>Are you sure you want to restore the original values?<byte value="xd"/>
+All features, applications, services and tasks will be restored.</source>
+<translation>¿Seguro que desea restaurar los valores originales?<byte value="xd"/>
+Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translation>
+</message>
+<message>
+<source>Are you sure you want to restore the startup of all scheduled tasks?</source>
+<translation>¿Seguro que desea restaurar el inicio de todas las tareas programadas?</translation>
+</message>
+<message>
+<source>ASSISTANT - disable a list of non vital services</source>
+<translation>ASISTENTE: deshabilitar servicios no vitales</translation>
+</message>
+<message>
+<source>ASSISTANT - disable a list of scheduled tasks</source>
+<translation>ASISTENTE: deshabilitar una lista de tareas programadas</translation>
+</message>
+<message>
+<source>Assistant - no services to deactivate</source>
+<translation>Asistente: no hay servicios que desactivar</translation>
+</message>
+<message>
+<source>Assistant - no tasks to deactivate</source>
+<translation>Asistente: no hay tareas que desactivar</translation>
+</message>
+<message>
+<source>Auto</source>
+<translation>Auto</translation>
+</message>
+<message>
+<source>Auto started programs disabled:</source>
+<translation>Programas de inicio deshabilitados:</translation>
+</message>
+<message>
+<source>Automatic start</source>
+<translation>Inicio automático</translation>
+</message>
+<message>
+<source>Automatically started programs</source>
+<translation>Programas iniciados automáticamente</translation>
+</message>
+<message>
+<source>Autorun</source>
+<translation>Inicio</translation>
+</message>
+<message>
+<source>Autorun program: disable %1 done</source>
+<translation>Programa de inicio: deshabilitar %1 listo</translation>
+</message>
+<message>
+<source>Autorun program: enable %1 done</source>
+<translation>Programa de inicio: habilitar %1 listo</translation>
+</message>
+<message>
+<source>Autorun:</source>
+<translation>Inicio:</translation>
+</message>
+<message>
+<source>Autorun: can be disabled: </source>
+<translation>Inicio: se puede deshabilitar: </translation>
+</message>
+<message>
+<source>Backup file exists</source>
+<translation>Existe un archivo de copia de seguridad</translation>
+</message>
+<message>
+<source>Bluetooth audio</source>
+<translation>Audio Bluetooth</translation>
+</message>
+<message>
+<source>Cancel</source>
+<translation>Cancelar</translation>
+</message>
+<message>
+<source>Cannot restore if you have not yet optimized!</source>
+<translation>¡No se puede restaurar si aún no ha optimizado!</translation>
+</message>
+<message>
+<source>Capacity:</source>
+<translation>Capacidad:</translation>
+</message>
+<message>
+<source>Check all</source>
+<translation>Marcar todo</translation>
+</message>
+<message>
+<source>Check update of Kestrune version</source>
+<translation>Buscar actualizaciones de Kestrune</translation>
+</message>
+<message>
+<source>Clean WinSxS folder with Microsoft DISM tool</source>
+<translation>Limpiar la carpeta WinSxS con la herramienta DISM de Microsoft</translation>
+</message>
+<message>
+<source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
+<translation>Limpiar la carpeta WinSxS con la herramienta DISM de Microsoft  (tamaño actual: %1 GB)</translation>
+</message>
+<message>
+<source>Comments</source>
+<translation>Comentarios</translation>
+</message>
+<message>
+<source>Configure auto started programs done!</source>
+<translation>¡Configuración de los programas de inicio completada!</translation>
+</message>
+<message>
+<source>CPU</source>
+<translation>CPU</translation>
+</message>
+<message>
+<source>Dark</source>
+<translation>Oscuro</translation>
+</message>
+<message>
+<source>Date of the last execution</source>
+<translation>Fecha de la última ejecución</translation>
+</message>
+<message>
+<source>Description</source>
+<translation>Descripción</translation>
+</message>
+<message>
+<source>Development applet</source>
+<translation>Applet de desarrollo</translation>
+</message>
+<message>
+<source>Disable advanced indexing options</source>
+<translation>Deshabilitar las opciones avanzadas de indexación</translation>
+</message>
+<message>
+<source>Disable automatic boot disk optimization</source>
+<translation>Deshabilitar la optimización automática del disco de arranque</translation>
+</message>
+<message>
+<source>Disable checked programs</source>
+<translation>Deshabilitar los programas marcados</translation>
+</message>
+<message>
+<source>DISABLE checked services</source>
+<translation>DESHABILITAR los servicios marcados</translation>
+</message>
+<message>
+<source>Disable checked services</source>
+<translation>Deshabilitar los servicios marcados</translation>
+</message>
+<message>
+<source>Disable checked services finished</source>
+<translation>Deshabilitación de los servicios marcados completada</translation>
+</message>
+<message>
+<source>DISABLE checked tasks</source>
+<translation>DESHABILITAR las tareas marcadas</translation>
+</message>
+<message>
+<source>Disable clearing of virtual memory swap file on every shutdown</source>
+<translation>Deshabilitar el borrado del archivo de paginación en cada apagado</translation>
+</message>
+<message>
+<source>Disable cloud backup and restore functionalities</source>
+<translation>Deshabilitar la copia de seguridad y restauración en la nube</translation>
+</message>
+<message>
+<source>Disable CPU power throttling
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>Deshabilitar la limitación de energía de la CPU
+(función de ahorro, optimización no recomendada para portátiles)</translation>
+</message>
+<message>
+<source>Disable distribution optimization of Windows updates</source>
+<translation>Deshabilitar la optimización de distribución de las actualizaciones de Windows</translation>
+</message>
+<message>
+<source>Disable dynamic tick of system timers
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>Deshabilitar el pulso dinámico de los temporizadores del sistema
+(función de ahorro, optimización no recomendada para portátiles)</translation>
+</message>
+<message>
+<source>Disable enhance pointer precision
+(to achieve precise mouse control and muscle memory)</source>
+<translation>Deshabilitar la mejora de la precisión del puntero
+(para lograr un control preciso del ratón y memoria muscular)</translation>
+</message>
+<message>
+<source>Disable fast start-up  (Windows function designed for HDD and not SSD)</source>
+<translation>Deshabilitar el inicio rápido  (función de Windows para HDD, no para SSD)</translation>
+</message>
+<message>
+<source>Disable files history (even in explorer)</source>
+<translation>Deshabilitar el historial de archivos (también en el Explorador)</translation>
+</message>
+<message>
+<source>Disable game recording and broadcasting</source>
+<translation>Deshabilitar la grabación y difusión de juegos</translation>
+</message>
+<message>
+<source>Disable Gamebar</source>
+<translation>Deshabilitar Game Bar</translation>
+</message>
+<message>
+<source>Disable hibernation mode</source>
+<translation>Deshabilitar la hibernación</translation>
+</message>
+<message>
+<source>Disable hibernation mode  (gain %1 GB of storage space)</source>
+<translation>Deshabilitar la hibernación  (libera %1 GB de espacio de almacenamiento)</translation>
+</message>
+<message>
+<source>Disable HPET  (High Precision Event Timer)
+(use invariant TSC instead which may be faster for gaming)
+(important: do not disable HPET in BIOS settings)</source>
+<translation>Deshabilitar HPET  (High Precision Event Timer)
+(usa el TSC invariante, que puede ser más rápido para los juegos)
+(importante: no deshabilite HPET en la configuración del BIOS)</translation>
+</message>
+<message>
+<source>Disable last access time stamps  (NTFS drive only)</source>
+<translation>Deshabilitar la marca de hora del último acceso  (solo unidades NTFS)</translation>
+</message>
+<message>
+<source>Disable LockApp.exe  (lockapp.exe allows additional information on the lock screen)</source>
+<translation>Deshabilitar LockApp.exe  (información adicional en la pantalla de bloqueo)</translation>
+</message>
+<message>
+<source>Disable Multiplane Overlay (MPO)
+(may fix some screen flickering / stuttering issues BUT loose some fullscreen optimizations,
+especially for video playback apps)</source>
+<translation>Deshabilitar Multiplane Overlay (MPO)
+(puede corregir parpadeos o tirones, PERO se pierden algunas optimizaciones
+de pantalla completa, sobre todo en aplicaciones de vídeo)</translation>
+</message>
+<message>
+<source>Disable Nagle’s Algorithm
+(may improve the real-time responsiveness of your network connection, but may increase traffic)</source>
+<translation>Deshabilitar el algoritmo de Nagle
+(puede mejorar la respuesta de la conexión de red, pero aumentar el tráfico)</translation>
+</message>
+<message>
+<source>Disable periodic registry backup</source>
+<translation>Deshabilitar la copia de seguridad periódica del Registro</translation>
+</message>
+<message>
+<source>Disable Prefetcher  (prevents preloading of applications)</source>
+<translation>Deshabilitar Prefetcher  (impide la precarga de aplicaciones)</translation>
+</message>
+<message>
+<source>Disable scheduled tasks</source>
+<translation>Deshabilitar tareas programadas</translation>
+</message>
+<message>
+<source>Disable scheduled tasks completed successfully</source>
+<translation>Deshabilitación de las tareas programadas completada correctamente</translation>
+</message>
+<message>
+<source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
+<translation>Deshabilitar SearchHost.exe  (busca archivos; la búsqueda avanzada puede fallar)</translation>
+</message>
+<message>
+<source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
+<translation>Deshabilitar la división de SvcHost  (reduce el número de procesos svchost.exe)</translation>
+</message>
+<message>
+<source>Disable telemetry (data collection for Microsoft)
+(Other telemetry is disabled in the Services and Scheduled Tasks, or the Optimizer page)</source>
+<translation>Deshabilitar la telemetría (recopilación de datos para Microsoft)
+(El resto se deshabilita en Servicios, Tareas programadas u Optimizador)</translation>
+</message>
+<message>
+<source>Disable ULPS  (Ultra Low Power State, only for AMD graphics cards)
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>Deshabilitar ULPS  (Ultra Low Power State, solo para gráficas AMD)
+(función de ahorro, optimización no recomendada para portátiles)</translation>
+</message>
+<message>
+<source>Disable Windows write-cache buffer flushing</source>
+<translation>Deshabilitar el vaciado del búfer de caché de escritura de Windows</translation>
+</message>
+<message>
+<source>Disabled</source>
+<translation>Deshabilitado</translation>
+</message>
+<message>
+<source>disabled</source>
+<translation>deshabilitado</translation>
+</message>
+<message>
+<source>disabled:</source>
+<translation>deshabilitados:</translation>
+</message>
+<message>
+<source>DISK</source>
+<translation>DISCO</translation>
+</message>
+<message>
+<source>Display name</source>
+<translation>Nombre para mostrar</translation>
+</message>
+<message>
+<source>display threads and handles count</source>
+<translation>mostrar subprocesos e identificadores</translation>
+</message>
+<message>
+<source>Do you want to restore start mode option of all services?<byte value="xd"/>
+<byte value="xd"/>
+If you click No (recommended),<byte value="xd"/>
+then restore only the services you have disabled</source>
+<translation>¿Desea restaurar el tipo de inicio de todos los servicios?<byte value="xd"/>
+<byte value="xd"/>
+Si hace clic en No (recomendado),<byte value="xd"/>
+solo se restaurarán los servicios que usted deshabilitó</translation>
+</message>
+<message>
+<source>Do you want to start this app with Admin rights?</source>
+<translation>¿Desea reiniciar esta aplicación como administrador?</translation>
+</message>
+<message>
+<source>done</source>
+<translation>listo</translation>
+</message>
+<message>
+<source>Enable Auto HDR  (forces HDR mode on SDR content)</source>
+<translation>Habilitar Auto HDR  (fuerza el modo HDR en contenido SDR)</translation>
+</message>
+<message>
+<source>Enable checked programs</source>
+<translation>Habilitar los programas marcados</translation>
+</message>
+<message>
+<source>ENABLE checked services</source>
+<translation>HABILITAR los servicios marcados</translation>
+</message>
+<message>
+<source>Enable checked services finished</source>
+<translation>Habilitación de los servicios marcados completada</translation>
+</message>
+<message>
+<source>Enable game mode  (enabled by default)</source>
+<translation>Habilitar el modo de juego  (habilitado de forma predeterminada)</translation>
+</message>
+<message>
+<source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
+<translation>Habilitar el menú contextual de Windows 10  (se muestran todas sus entradas)</translation>
+</message>
+<message>
+<source>enabled</source>
+<translation>habilitado</translation>
+</message>
+<message>
+<source>enabled:</source>
+<translation>habilitadas:</translation>
+</message>
+<message>
+<source>English</source>
+<translation>English</translation>
+</message>
+<message>
+<source>error</source>
+<translation>error</translation>
+</message>
+<message>
+<source>Features</source>
+<translation>Funciones</translation>
+</message>
+<message>
+<source>Features applied successfully. Restart your PC!</source>
+<translation>Funciones aplicadas correctamente. ¡Reinicie el PC!</translation>
+</message>
+<message>
+<source>Features: %1 improvements can be applied</source>
+<translation>Funciones: se pueden aplicar %1 mejoras</translation>
+</message>
+<message>
+<source>Features: applied successfully. Restart your PC!</source>
+<translation>Funciones: aplicadas correctamente. ¡Reinicie el PC!</translation>
+</message>
+<message>
+<source>Features: applies Gaming optimizations</source>
+<translation>Funciones: aplicando optimizaciones de juegos</translation>
+</message>
+<message>
+<source>Features: applies SSD optimizations</source>
+<translation>Funciones: aplicando optimizaciones de SSD</translation>
+</message>
+<message>
+<source>Features: applies Windows optimizations</source>
+<translation>Funciones: aplicando optimizaciones de Windows</translation>
+</message>
+<message>
+<source>Features: Battery detected! Some optimizations will not be applied to maintain battery life</source>
+<translation>Funciones: ¡batería detectada! Algunas optimizaciones no se aplicarán para conservar la autonomía</translation>
+</message>
+<message>
+<source>Features: reset Gaming optimizations</source>
+<translation>Funciones: restableciendo optimizaciones de juegos</translation>
+</message>
+<message>
+<source>Features: reset SSD optimizations</source>
+<translation>Funciones: restableciendo optimizaciones de SSD</translation>
+</message>
+<message>
+<source>Features: reset Windows optimizations</source>
+<translation>Funciones: restableciendo optimizaciones de Windows</translation>
+</message>
+<message>
+<source>Files sharing</source>
+<translation>Uso compartido de archivos</translation>
+</message>
+<message>
+<source>finished</source>
+<translation>completado</translation>
+</message>
+<message>
+<source>Français</source>
+<translation>Français</translation>
+</message>
+<message>
+<source>free memory</source>
+<translation>memoria libre</translation>
+</message>
+<message>
+<source>free on</source>
+<translation>libre en</translation>
+</message>
+<message>
+<source>GAMING</source>
+<translation>JUEGOS</translation>
+</message>
+<message>
+<source>Get system info:</source>
+<translation>Obtener información del sistema:</translation>
+</message>
+<message>
+<source>Get WinSxS folder size in features page</source>
+<translation>Obtener el tamaño de la carpeta WinSxS en la página Funciones</translation>
+</message>
+<message>
+<source>GPU</source>
+<translation>GPU</translation>
+</message>
+<message>
+<source>Grayed out services are considered necessary or critical</source>
+<translation>Los servicios atenuados se consideran necesarios o críticos</translation>
+</message>
+<message>
+<source>Grayed out services refer to those disabled outside this tab</source>
+<translation>Los servicios atenuados se deshabilitaron fuera de esta pestaña</translation>
+</message>
+<message>
+<source>handles</source>
+<translation>identificadores</translation>
+</message>
+<message>
+<source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
+<translation>Si no tiene auriculares ni equipos de audio conectados por Bluetooth, puede desmarcar esta opción</translation>
+</message>
+<message>
+<source>If you don't have any printers, you can uncheck this</source>
+<translation>Si no tiene ninguna impresora, puede desmarcar esta opción</translation>
+</message>
+<message>
+<source>Increase maximum amount of physical memory that can be locked for I/O operations</source>
+<translation>Aumentar la memoria física máxima que puede bloquearse para operaciones de E/S</translation>
+</message>
+<message>
+<source>Install</source>
+<translation>Instalar</translation>
+</message>
+<message>
+<source>Install packages</source>
+<translation>Instalar paquetes</translation>
+</message>
+<message>
+<source>Intelligent personal assistant</source>
+<translation>Asistente personal inteligente</translation>
+</message>
+<message>
+<source>Interface language:</source>
+<translation>Idioma de interfaz:</translation>
+</message>
+<message>
+<source>Interface type:</source>
+<translation>Tipo de interfaz:</translation>
+</message>
+<message>
+<source>Internal system features that can slow down your PC unnecessarily.
+Check them to optimize or uncheck them to restore defaults.</source>
+<translation>Funciones internas del sistema que pueden ralentizar el PC innecesariamente.
+Márquelas para optimizar o desmárquelas para restaurar los valores predeterminados.</translation>
+</message>
+<message>
+<source>interval in seconds:</source>
+<translation>intervalo en segundos:</translation>
+</message>
+<message>
+<source>Keep features</source>
+<translation>Funciones a conservar</translation>
+</message>
+<message>
+<source>Kestrune</source>
+<translation>Kestrune</translation>
+</message>
+<message>
+<source>lblStatus</source>
+<translation>lblStatus</translation>
+</message>
+<message>
+<source>Light</source>
+<translation>Claro</translation>
+</message>
+<message>
+<source>List of currently started services.
+Services are programs that run in the background for various reasons and purposes. Some of them are essential, while others may be superfluous and consume CPU, memory and disk resources unnecessarily.</source>
+<translation>Lista de los servicios iniciados actualmente.
+Los servicios son programas que se ejecutan en segundo plano por diversos motivos. Algunos son esenciales y otros pueden ser superfluos y consumir CPU, memoria y disco innecesariamente.</translation>
+</message>
+<message>
+<source>List of enabled scheduled tasks.
+Scheduled tasks are programs that run in the background at a specific time (or event) for various reasons. Some of them may be unnecessary and consume CPU, memory, and disk resources unnecessarily.</source>
+<translation>Lista de las tareas programadas habilitadas.
+Las tareas programadas son programas que se ejecutan en segundo plano en un momento concreto (o evento) por diversos motivos. Algunas pueden ser innecesarias y consumir CPU, memoria y disco sin necesidad.</translation>
+</message>
+<message>
+<source>List of programs started automatically each time Windows starts.
+Like services and scheduled tasks, automatically started programs can slow down your system. Uncheck those you don't use on every startup.</source>
+<translation>Lista de programas que se inician automáticamente cada vez que se inicia Windows.
+Como los servicios y las tareas programadas, pueden ralentizar el sistema. Desmarque los que no use en cada inicio.</translation>
+</message>
+<message>
+<source>List of Windows packages can be uninstalled without problems.
+You can reinstall them directly by clicking on &quot;View uninstalled packages&quot; below the list.</source>
+<translation>Lista de paquetes de Windows que pueden desinstalarse sin problemas.
+Puede volver a instalarlos directamente haciendo clic en «Ver paquetes desinstalados» debajo de la lista.</translation>
+</message>
+<message>
+<source>Load system info:</source>
+<translation>Cargar información del sistema:</translation>
+</message>
+<message>
+<source>loading disk info...</source>
+<translation>cargando datos del disco...</translation>
+</message>
+<message>
+<source>loading screen info...</source>
+<translation>cargando datos de la pantalla...</translation>
+</message>
+<message>
+<source>Mail &amp; Calendar</source>
+<translation>Correo y Calendario</translation>
+</message>
+<message>
+<source>Manage features  (included in the page &quot;Features&quot;)</source>
+<translation>Administrar funciones  (incluido en la página «Funciones»)</translation>
+</message>
+<message>
+<source>Manage programs and packages  (included in the page &quot;Programs&quot;)</source>
+<translation>Administrar programas y paquetes  (incluido en la página «Programas»)</translation>
+</message>
+<message>
+<source>Manual</source>
+<translation>Manual</translation>
+</message>
+<message>
+<source>Manual start</source>
+<translation>Inicio manual</translation>
+</message>
+<message>
+<source>Media extensions for Edge and Windows Media Player</source>
+<translation>Extensiones multimedia para Edge y Windows Media Player</translation>
+</message>
+<message>
+<source>MEM</source>
+<translation>MEM</translation>
+</message>
+<message>
+<source>Microsoft Codecs extensions</source>
+<translation>Códecs de Microsoft</translation>
+</message>
+<message>
+<source>Microsoft codecs for video encoding/decoding. If you are not using Windows internal features for streaming,encoding or playing videos, uncheck this box</source>
+<translation>Códecs de Microsoft para codificar y descodificar vídeo. Si no usa las funciones internas de Windows para transmitir, codificar o reproducir vídeos, desmarque esta casilla</translation>
+</message>
+<message>
+<source>Microsoft video editor</source>
+<translation>Editor de vídeo de Microsoft</translation>
+</message>
+<message>
+<source>Mobile device synchronization</source>
+<translation>Sincronización de dispositivos móviles</translation>
+</message>
+<message>
+<source>Monitor and display some system information in the title bar</source>
+<translation>Supervisar y mostrar información del sistema en la barra de título</translation>
+</message>
+<message>
+<source>MotherBoard</source>
+<translation>Placa base</translation>
+</message>
+<message>
+<source>Name</source>
+<translation>Nombre</translation>
+</message>
+<message>
+<source>Name:</source>
+<translation>Nombre:</translation>
+</message>
+<message>
+<source>Need reboot!</source>
+<translation>¡Es necesario reiniciar!</translation>
+</message>
+<message>
+<source>NFC</source>
+<translation>NFC</translation>
+</message>
+<message>
+<source>No</source>
+<translation>No</translation>
+</message>
+<message>
+<source>no description</source>
+<translation>sin descripción</translation>
+</message>
+<message>
+<source>No optimizations found!</source>
+<translation>¡No se encontraron optimizaciones!</translation>
+</message>
+<message>
+<source>Old Xbox App, no longer supported!</source>
+<translation>¡Antigua aplicación Xbox, ya sin soporte!</translation>
+</message>
+<message>
+<source>on drive</source>
+<translation>en la unidad</translation>
+</message>
+<message>
+<source>Optimization finished</source>
+<translation>Optimización completada</translation>
+</message>
+<message>
+<source>Optimize</source>
+<translation>Optimizar</translation>
+</message>
+<message>
+<source>Optimizer</source>
+<translation>Optimizador</translation>
+</message>
+<message>
+<source>Options</source>
+<translation>Opciones</translation>
+</message>
+<message>
+<source>Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>Otro protocolo dedicado a la red local (p. ej., algunos reproductores de vídeo lo usan para conectarse a discos duros de red)<byte value="xd"/>
+(de forma predeterminada no se usa, pero está activado)</translation>
+</message>
+<message>
+<source>Otherwise some scheduled tasks will not be detected!</source>
+<translation>De lo contrario, algunas tareas programadas no se detectarán.</translation>
+</message>
+<message>
+<source>package: </source>
+<translation>paquete: </translation>
+</message>
+<message>
+<source>Package: can be installed: </source>
+<translation>Paquete: se puede instalar: </translation>
+</message>
+<message>
+<source>Package: can be uninstalled: </source>
+<translation>Paquete: se puede desinstalar: </translation>
+</message>
+<message>
+<source>Packages</source>
+<translation>Paquetes</translation>
+</message>
+<message>
+<source>packages finished</source>
+<translation>paquetes completados</translation>
+</message>
+<message>
+<source>Packages installed:</source>
+<translation>Paquetes instalados:</translation>
+</message>
+<message>
+<source>Packages uninstalled:</source>
+<translation>Paquetes desinstalados:</translation>
+</message>
+<message>
+<source>Packages:</source>
+<translation>Paquetes:</translation>
+</message>
+<message>
+<source>Path</source>
+<translation>Ruta</translation>
+</message>
+<message>
+<source>Phone link</source>
+<translation>Enlace Móvil</translation>
+</message>
+<message>
+<source>Printer</source>
+<translation>Impresora</translation>
+</message>
+<message>
+<source>Prioritize games  (GPU Priority, SFIO Priority, Scheduling category, Affinity)</source>
+<translation>Dar prioridad a los juegos  (GPU Priority, SFIO Priority, Scheduling category, Affinity)</translation>
+</message>
+<message>
+<source>Process: can be disable: %1 from Riva Tuner Statistic Server app!<byte value="xd"/>
+This process only allows screen video capture.Does not affect the monitoring display in any way</source>
+<translation>Proceso: se puede deshabilitar: ¡%1 de la aplicación Riva Tuner Statistic Server!<byte value="xd"/>
+Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto a la visualización de la supervisión</translation>
+</message>
+<message>
+<source>Process: disable EncoderServer done</source>
+<translation>Proceso: deshabilitar EncoderServer listo</translation>
+</message>
+<message>
+<source>processes</source>
+<translation>procesos</translation>
+</message>
+<message>
+<source>Programs</source>
+<translation>Programas</translation>
+</message>
+<message>
+<source>Programs started automatically</source>
+<translation>Programas iniciados automáticamente</translation>
+</message>
+<message>
+<source>Proxy and VPN</source>
+<translation>Proxy y VPN</translation>
+</message>
+<message>
+<source>Proxy or VPN functionality to improve the security of your network traffic<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>Función de proxy o VPN para mejorar la seguridad del tráfico de red<byte value="xd"/>
+(de forma predeterminada no se usa, pero está activada)</translation>
+</message>
+<message>
+<source>Quick setup of some bluetooth headsets<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>Configuración rápida de algunos auriculares Bluetooth<byte value="xd"/>
+(de forma predeterminada no se usa, pero está activada)</translation>
+</message>
+<message>
+<source>Reduces certain delays
+(menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
+<translation>Reducir ciertos retrasos
+(aparición de menús, cierre de aplicaciones y servicios, aplicaciones bloqueadas)</translation>
+</message>
+<message>
+<source>Refresh</source>
+<translation>Actualizar</translation>
+</message>
+<message>
+<source>Remove indexing attribute of %1</source>
+<translation>Quitando el atributo de indexación de %1</translation>
+</message>
+<message>
+<source>Remove indexing attribute of %1 finished</source>
+<translation>Atributo de indexación de %1 quitado</translation>
+</message>
+<message>
+<source>Remove indexing attribute of Windows partition %1</source>
+<translation>Quitando el atributo de indexación de la partición de Windows %1</translation>
+</message>
+<message>
+<source>Remove the indexed attribute from all files in the Windows partition
+(this operation may take some time)</source>
+<translation>Quitar el atributo de indexación de todos los archivos de la partición de Windows
+(esta operación puede tardar)</translation>
+</message>
+<message>
+<source>Restoration finished</source>
+<translation>Restauración completada</translation>
+</message>
+<message>
+<source>Restoration finished: Restart your PC!</source>
+<translation>Restauración completada: ¡reinicie el PC!</translation>
+</message>
+<message>
+<source>Restore</source>
+<translation>Restaurar</translation>
+</message>
+<message>
+<source>RESTORE disabled scheduled tasks</source>
+<translation>RESTAURAR las tareas programadas deshabilitadas</translation>
+</message>
+<message>
+<source>RESTORE disabled services</source>
+<translation>RESTAURAR los servicios deshabilitados</translation>
+</message>
+<message>
+<source>Restore scheduled tasks completed successfully</source>
+<translation>Restauración de las tareas programadas completada correctamente</translation>
+</message>
+<message>
+<source>Restore services finished</source>
+<translation>Restauración de los servicios completada</translation>
+</message>
+<message>
+<source>Restoring scheduled tasks</source>
+<translation>Restauración de tareas programadas</translation>
+</message>
+<message>
+<source>Scheduled tasks</source>
+<translation>Tareas programadas</translation>
+</message>
+<message>
+<source>Screenshot tool</source>
+<translation>Herramienta de recortes</translation>
+</message>
+<message>
+<source>Service: can be disable: </source>
+<translation>Servicio: se puede deshabilitar: </translation>
+</message>
+<message>
+<source>Service: can be enable: </source>
+<translation>Servicio: se puede habilitar: </translation>
+</message>
+<message>
+<source>Service: can be set to manual:</source>
+<translation>Servicio: se puede poner en manual:</translation>
+</message>
+<message>
+<source>Service: disable %1</source>
+<translation>Servicio: deshabilitar %1</translation>
+</message>
+<message>
+<source>Service: disable and stop %1</source>
+<translation>Servicio: deshabilitar y detener %1</translation>
+</message>
+<message>
+<source>Service: enable %1</source>
+<translation>Servicio: habilitar %1</translation>
+</message>
+<message>
+<source>Service: enable %1 done</source>
+<translation>Servicio: habilitar %1 listo</translation>
+</message>
+<message>
+<source>Service: enable and start %1</source>
+<translation>Servicio: habilitar e iniciar %1</translation>
+</message>
+<message>
+<source>Service: enable and start %1 done</source>
+<translation>Servicio: habilitar e iniciar %1 listo</translation>
+</message>
+<message>
+<source>Service: enable and start %1, already running!</source>
+<translation>Servicio: habilitar e iniciar %1, ¡ya está en ejecución!</translation>
+</message>
+<message>
+<source>Service: set to manual:</source>
+<translation>Servicio: puesto en manual:</translation>
+</message>
+<message>
+<source>Services</source>
+<translation>Servicios</translation>
+</message>
+<message>
+<source>Services  (Experienced users)</source>
+<translation>Servicios  (usuarios avanzados)</translation>
+</message>
+<message>
+<source>Services:</source>
+<translation>Servicios:</translation>
+</message>
+<message>
+<source>Set the maximum number of GPU pre-rendered frames to 1
+(if you have a good CPU, this reduces latency)</source>
+<translation>Establecer en 1 el número máximo de fotogramas prerrenderizados por la GPU
+(con una buena CPU, esto reduce la latencia)</translation>
+</message>
+<message>
+<source>SSD</source>
+<translation>SSD</translation>
+</message>
+<message>
+<source>Start mode</source>
+<translation>Inicio</translation>
+</message>
+<message>
+<source>Start service:</source>
+<translation>Iniciar servicio:</translation>
+</message>
+<message>
+<source>Start with adminstrator rights</source>
+<translation>Iniciar con derechos de administrador</translation>
+</message>
+<message>
+<source>started:</source>
+<translation>iniciados:</translation>
+</message>
+<message>
+<source>Status: Getting WinSxS folder size finished!</source>
+<translation>Estado: ¡tamaño de la carpeta WinSxS obtenido!</translation>
+</message>
+<message>
+<source>Status: Getting WinSxS folder size...</source>
+<translation>Estado: obteniendo el tamaño de la carpeta WinSxS...</translation>
+</message>
+<message>
+<source>Stop service:</source>
+<translation>Detener servicio:</translation>
+</message>
+<message>
+<source>stopped:</source>
+<translation>detenidos:</translation>
+</message>
+<message>
+<source>System</source>
+<translation>Sistema</translation>
+</message>
+<message>
+<source>System
+Information</source>
+<translation>Información
+del sistema</translation>
+</message>
+<message>
+<source>System Information</source>
+<translation>Información del sistema</translation>
+</message>
+<message>
+<source>Task:</source>
+<translation>Tarea:</translation>
+</message>
+<message>
+<source>Task: can be disable: </source>
+<translation>Tarea: se puede deshabilitar: </translation>
+</message>
+<message>
+<source>Task: can be enable: </source>
+<translation>Tarea: se puede habilitar: </translation>
+</message>
+<message>
+<source>Task: disable and stop %1</source>
+<translation>Tarea: deshabilitar y detener %1</translation>
+</message>
+<message>
+<source>Task: Enable and start %1 done</source>
+<translation>Tarea: habilitar e iniciar %1 listo</translation>
+</message>
+<message>
+<source>Tasks</source>
+<translation>Tareas</translation>
+</message>
+<message>
+<source>Tasks:</source>
+<translation>Tareas:</translation>
+</message>
+<message>
+<source>Theme:</source>
+<translation>Tema:</translation>
+</message>
+<message>
+<source>threads</source>
+<translation>subprocesos</translation>
+</message>
+<message>
+<source>Uncheck all</source>
+<translation>Desmarcar todo</translation>
+</message>
+<message>
+<source>Uninstall</source>
+<translation>Desinstalar</translation>
+</message>
+<message>
+<source>Uninstall packages</source>
+<translation>Desinstalar paquetes</translation>
+</message>
+<message>
+<source>uninstalled:</source>
+<translation>desinstalados:</translation>
+</message>
+<message>
+<source>unknown</source>
+<translation>desconocido</translation>
+</message>
+<message>
+<source>UPnP network services</source>
+<translation>Servicios de red UPnP</translation>
+</message>
+<message>
+<source>View auto started programs</source>
+<translation>Ver programas de inicio</translation>
+</message>
+<message>
+<source>View disabled services</source>
+<translation>Ver servicios deshabilitados</translation>
+</message>
+<message>
+<source>View installed packages</source>
+<translation>Ver paquetes instalados</translation>
+</message>
+<message>
+<source>View programs disabled</source>
+<translation>Ver programas deshabilitados</translation>
+</message>
+<message>
+<source>View started services</source>
+<translation>Ver servicios iniciados</translation>
+</message>
+<message>
+<source>View uninstalled packages</source>
+<translation>Ver paquetes desinstalados</translation>
+</message>
+<message>
+<source>Widget app</source>
+<translation>Aplicación de widgets</translation>
+</message>
+<message>
+<source>Win32PrioritySeparation:   Processor time allocated to applications.</source>
+<translation>Win32PrioritySeparation:   tiempo de procesador asignado a las aplicaciones.</translation>
+</message>
+<message>
+<source>WINDOWS</source>
+<translation>WINDOWS</translation>
+</message>
+<message>
+<source>Windows</source>
+<translation>Windows</translation>
+</message>
+<message>
+<source>Windows application: ERROR install %1: </source>
+<translation>Aplicación de Windows: ERROR al instalar %1: </translation>
+</message>
+<message>
+<source>Windows application: ERROR uninstall %1: </source>
+<translation>Aplicación de Windows: ERROR al desinstalar %1: </translation>
+</message>
+<message>
+<source>Windows application: install %1 done</source>
+<translation>Aplicación de Windows: instalación de %1 lista</translation>
+</message>
+<message>
+<source>Windows application: uninstall %1 done</source>
+<translation>Aplicación de Windows: desinstalación de %1 lista</translation>
+</message>
+<message>
+<source>Windows applications</source>
+<translation>Aplicaciones de Windows</translation>
+</message>
+<message>
+<source>Windows packages installed</source>
+<translation>Paquetes de Windows instalados</translation>
+</message>
+<message>
+<source>Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>Uso compartido de Windows en una red local (protocolo SMB) (p. ej., conectar discos duros o impresoras en una red local)<byte value="xd"/>
+(de forma predeterminada no se usa, pero está activado)</translation>
+</message>
+<message>
+<source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
+<translation>¿Desea establecer los atributos de indexación de todos los archivos de la partición de Windows?</translation>
+</message>
+<message>
+<source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
+<translation>¿Desea establecer los atributos de indexación de todos los archivos de la partición de Windows?</translation>
+</message>
+<message>
+<source>Xbox App</source>
+<translation>Aplicación Xbox</translation>
+</message>
+<message>
+<source>Xbox game bar</source>
+<translation>Xbox Game Bar</translation>
+</message>
+<message>
+<source>XBOX Game Bar that appears at the top of the screen, above a game. If you don't use it, uncheck this box</source>
+<translation>Xbox Game Bar, que aparece en la parte superior de la pantalla, sobre el juego. Si no la usa, desmarque esta casilla</translation>
+</message>
+<message>
+<source>Yes</source>
+<translation>Sí</translation>
+</message>
+<message>
+<source>You must launch this app with Admin rights!</source>
+<translation>¡Debe ejecutar esta aplicación como administrador!</translation>
+</message>
+<message>
+<source>You should launch this app with Admin rights!</source>
+<translation>¡Debería ejecutar esta aplicación como administrador!</translation>
+</message>
+</context>
+</TS>

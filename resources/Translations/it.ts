@@ -1,0 +1,1410 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<!-- One context for all: see cmake/translations.cmake. -->
+<context>
+<name>texts</name>
+<message>
+<source>  20   (variable and long quantum, foreground boost X1)</source>
+<translation>  20   (quanto variabile e lungo, boost in primo piano X1)</translation>
+</message>
+<message>
+<source>  21   (variable and long quantum, foreground boost X2)</source>
+<translation>  21   (quanto variabile e lungo, boost in primo piano X2)</translation>
+</message>
+<message>
+<source>  22   (variable and long quantum, foreground boost X3)</source>
+<translation>  22   (quanto variabile e lungo, boost in primo piano X3)</translation>
+</message>
+<message>
+<source>  24   (fixed and long quantum, foreground boost X1) (not recommended)</source>
+<translation>  24   (quanto fisso e lungo, boost in primo piano X1) (sconsigliato)</translation>
+</message>
+<message>
+<source>  36   (variable and short quantum, foreground boost X1)</source>
+<translation>  36   (quanto variabile e breve, boost in primo piano X1)</translation>
+</message>
+<message>
+<source>  37   (variable and short quantum, foreground boost X2)</source>
+<translation>  37   (quanto variabile e breve, boost in primo piano X2)</translation>
+</message>
+<message>
+<source>  38   (variable and short quantum, foreground boost X3) (recommended)</source>
+<translation>  38   (quanto variabile e breve, boost in primo piano X3) (consigliato)</translation>
+</message>
+<message>
+<source>  40   (fixed and short quantum, foreground boost X1) (not recommended)</source>
+<translation>  40   (quanto fisso e breve, boost in primo piano X1) (sconsigliato)</translation>
+</message>
+<message>
+<source>1</source>
+<translation>1</translation>
+</message>
+<message>
+<source>10</source>
+<translation>10</translation>
+</message>
+<message>
+<source>2</source>
+<translation>2</translation>
+</message>
+<message>
+<source>3</source>
+<translation>3</translation>
+</message>
+<message>
+<source>30</source>
+<translation>30</translation>
+</message>
+<message>
+<source>4</source>
+<translation>4</translation>
+</message>
+<message>
+<source>5</source>
+<translation>5</translation>
+</message>
+<message>
+<source>60</source>
+<translation>60</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Lucida Console'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;table border=&quot;0&quot; width=&quot;100%&quot; cellspacing=&quot;10&quot; cellpadding=&quot;0&quot;&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;%winName&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Edition:   %winEdition&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Build:   %winBuild&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Display version:   %winVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Installed on SSD:   %winOnSsd&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Mother-board:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%mbManufacturer&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Model:   %mbModel&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Bios version:   %mbBiosVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Bios date:   %mbBiosDate&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Processor:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%cpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Default frequency:   %cpuFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Cores / Threads:   %cpuCore  / %cpuThread&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L2 cache size:   %cpuL2Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L3 cache size:   %cpuL3Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Socket:   %cpuSocket&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HyperThreading:   %cpuHt&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtualization:   %cpuV&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Memory:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Capacity:   %memTotal&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Free:   %memFree&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequency:   %memFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Form Factor:   %memFormFactor&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtual Memory:   %memVSize&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Graphics card and screen:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%gpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Driver version:   %gpuDriverVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Driver date:   %gpuDriverDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Screen:   loading screen info...&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolution:   %gpuDesktopSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolution max:   %gpuDesktopMaxSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Refresh rate:   %gpuRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Refresh rate max:   %screenMaxRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HDR:   %screenHdr&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Disk:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;loading disk info...&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Lucida Console'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;table border=&quot;0&quot; width=&quot;100%&quot; cellspacing=&quot;10&quot; cellpadding=&quot;0&quot;&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;%winName&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Edizione:   %winEdition&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Build:   %winBuild&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Versione:   %winVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Installato su SSD:   %winOnSsd&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Scheda madre:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%mbManufacturer&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Modello:   %mbModel&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Versione BIOS:   %mbBiosVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Data BIOS:   %mbBiosDate&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Processore:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%cpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequenza base:   %cpuFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Core / Thread:   %cpuCore  / %cpuThread&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Dimensione cache L2:   %cpuL2Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Dimensione cache L3:   %cpuL3Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Socket:   %cpuSocket&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HyperThreading:   %cpuHt&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtualizzazione:   %cpuV&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Memoria:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Capacità:   %memTotal&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Libera:   %memFree&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequenza:   %memFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Formato:   %memFormFactor&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Memoria virtuale:   %memVSize&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Scheda grafica e schermo:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%gpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Versione driver:   %gpuDriverVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Data driver:   %gpuDriverDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Schermo:   caricamento info schermo...&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Risoluzione:   %gpuDesktopSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Risoluzione max:   %gpuDesktopMaxSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequenza:   %gpuRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequenza max:   %screenMaxRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HDR:   %screenHdr&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Disco:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;caricamento info disco...&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Segoe UI'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Version:&lt;/span&gt;   beta %version&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Date:&lt;/span&gt;    %buildDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Author:&lt;/span&gt;   Ondrevale&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Contact:&lt;/span&gt;   &lt;a href=&quot;mailto:contact@kestrune.example&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;contact@kestrune.example&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Website:&lt;/span&gt;   &lt;a href=&quot;https://kestrune.example/&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;https://kestrune.example/&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Programming language and framework:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ with Qt 6, licensed under the GNU LGPL version 3&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Developped for Windows 10 and Windows 11&lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Purpose:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;This application aims to improve general performance without distorting Windows, by helping you disable all features, programs, services, scheduled tasks, which may be superfluous and harm performance. It also configures some internal system features that are inaccessible through an interface and other options allow you to reduce the space occupied by Windows on the hard disk. (uninstalling unnecessary Windows applications, cleaning the WinSxs folder, ...)&lt;br /&gt;All in a few clicks and with the possibility of restoring to original values. &lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Important informations:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;All options in this application are reversible.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Be careful with the Services section. Do not disable services if you are not really aware of what they are, dependencies etc... USE THE ASSISTANT BUTTON!!!&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Segoe UI'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Versione:&lt;/span&gt;   beta %version&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Data:&lt;/span&gt;    %buildDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Autore:&lt;/span&gt;   Ondrevale&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Contatto:&lt;/span&gt;   &lt;a href=&quot;mailto:contact@kestrune.example&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;contact@kestrune.example&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Sito web:&lt;/span&gt;   &lt;a href=&quot;https://kestrune.example/&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;https://kestrune.example/&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Linguaggio di programmazione e framework:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ con Qt 6, con licenza GNU LGPL versione 3&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Sviluppato per Windows 10 e Windows 11&lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Scopo:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Questa applicazione mira a migliorare le prestazioni generali senza snaturare Windows, aiutando a disabilitare funzionalità, programmi, servizi e attività pianificate che possono essere superflui e ridurre le prestazioni. Configura inoltre alcune funzionalità interne del sistema non accessibili da un'interfaccia, e altre opzioni consentono di ridurre lo spazio occupato da Windows sul disco rigido. (disinstallazione di applicazioni Windows non necessarie, pulizia della cartella WinSxS, ...)&lt;br /&gt;Il tutto in pochi clic e con la possibilità di ripristinare i valori originali. &lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Informazioni importanti:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;Tutte le opzioni di questa applicazione sono reversibili.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Fare attenzione alla sezione Servizi. Non disabilitare servizi se non si sa davvero cosa sono, le loro dipendenze ecc. USARE IL PULSANTE ASSISTENTE!!!&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- FIXED quantum: the processor time allocated to applications is divided equally between applications,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;while VARIABLE quantum allow applications to hold the processor for longer if needed.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- SHORT quantum: the processor time allocated to applications is faster to switch from task to task,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;as opposed to LONG quantum, which allocates more processor time to the application.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- FOREGROUND BOOST X times: the quantum is increased X times in favor of the application&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;that is in the foreground.&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; font-size:4pt;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;In a pure gaming context, depending on the value selected, you favor the FPS (22, 21),&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS but also responsiveness (38, 37), or latency of your keyboard/mouse or gamepad (36, 24, 40).&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;a href=&quot;https://learn.microsoft.com/windows/win32/procthread/priority-boosts&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- Quanto FISSO: il tempo di processore è diviso equamente tra le applicazioni,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;un quanto VARIABILE consente loro di tenere il processore più a lungo.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- Quanto BREVE: il tempo di processore passa più rapidamente da un task all'altro,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;un quanto LUNGO assegna invece più tempo di processore all'applicazione.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- BOOST IN PRIMO PIANO X volte: il quanto è moltiplicato per X a favore&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;dell'applicazione in primo piano.&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; font-size:4pt;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;In un contesto di solo gioco, in base al valore, si favoriscono gli FPS (22, 21),&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS e reattività (38, 37) o latenza di tastiera/mouse o gamepad (36, 24, 40).&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;a href=&quot;https://learn.microsoft.com/windows/win32/procthread/priority-boosts&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;altre informazioni&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Advanced optimizations via motherboard BIOS settings &lt;a href=&quot;https://kestrune.example/optimization.html&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Ottimizzazioni avanzate tramite le impostazioni del BIOS della scheda madre &lt;a href=&quot;https://kestrune.example/optimization.html&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;altre informazioni&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Microsoft acknowledges performance impact with Memory Integrity and VMP enabled &lt;a href=&quot;https://learn.microsoft.com/windows/security/hardware-security/enable-virtualization-based-protection-of-code-integrity&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Per Microsoft, integrità della memoria e VMP riducono le prestazioni &lt;a href=&quot;https://learn.microsoft.com/windows/security/hardware-security/enable-virtualization-based-protection-of-code-integrity&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;altre informazioni&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;The WinSxS folder is an essential system component that serves as a repository for storing multiple versions of system files, allowing Windows to maintain good compatibility &lt;a href=&quot;https://learn.microsoft.com/windows-hardware/manufacture/desktop/manage-the-component-store&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;La cartella WinSxS è un componente essenziale del sistema che funge da archivio per più versioni dei file di sistema, consentendo a Windows di mantenere una buona compatibilità &lt;a href=&quot;https://learn.microsoft.com/windows-hardware/manufacture/desktop/manage-the-component-store&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;altre informazioni&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>A newer version of Kestrune is available!<byte value="xd"/>
+Would you like to visit the website for download?<byte value="xd"/>
+<byte value="xd"/>
+Current version: %1<byte value="xd"/>
+Online version: %2</source>
+<translation>È disponibile una versione più recente di Kestrune!<byte value="xd"/>
+Visitare il sito web per scaricarla?<byte value="xd"/>
+<byte value="xd"/>
+Versione attuale: %1<byte value="xd"/>
+Versione online: %2</translation>
+</message>
+<message>
+<source>About</source>
+<translation>Info</translation>
+</message>
+<message>
+<source>Add indexing attribute of %1 finished</source>
+<translation>Aggiunta dell'attributo di indicizzazione di %1 completata</translation>
+</message>
+<message>
+<source>Add indexing attribute of Windows partition %1</source>
+<translation>Aggiunta dell'attributo di indicizzazione della partizione di Windows %1</translation>
+</message>
+<message>
+<source>Analyze</source>
+<translation>Analizza</translation>
+</message>
+<message>
+<source>Analyze and optimize Windows to improve overall performance by disabling unnecessary features and configuring some that are inaccessible through an interface.
+Optimizations come from the Services, Scheduled Tasks, Programs, and Features pages.</source>
+<translation>Analizza e ottimizza Windows per migliorare le prestazioni generali disabilitando le funzionalità non necessarie e configurandone alcune non accessibili da un'interfaccia.
+Le ottimizzazioni provengono dalle pagine Servizi, Attività pianificate, Programmi e Funzionalità.</translation>
+</message>
+<message>
+<source>Application to play PC games if you have a Gamepass account (paid)</source>
+<translation>App per giocare su PC con un abbonamento Game Pass (a pagamento)</translation>
+</message>
+<message>
+<source>Apply</source>
+<translation>Applica</translation>
+</message>
+<message>
+<source>Apply features finished successfully.</source>
+<translation>Applicazione delle funzionalità completata.</translation>
+</message>
+<message>
+<source>Are you sure to disable all checked services?</source>
+<translation>Disabilitare tutti i servizi selezionati?</translation>
+</message>
+<message>
+<source>Are you sure to disable all checked tasks?</source>
+<translation>Disabilitare tutte le attività selezionate?</translation>
+</message>
+<message>
+<source>Are you sure you want to restore the original values?<byte value="xd"/>
+All features, applications, services and tasks will be restored.</source>
+<translation>Ripristinare i valori originali?<byte value="xd"/>
+Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le attività.</translation>
+</message>
+<message>
+<source>Are you sure you want to restore the startup of all scheduled tasks?</source>
+<translation>Ripristinare l'avvio di tutte le attività pianificate?</translation>
+</message>
+<message>
+<source>ASSISTANT - disable a list of non vital services</source>
+<translation>ASSISTENTE - disabilita servizi non essenziali</translation>
+</message>
+<message>
+<source>ASSISTANT - disable a list of scheduled tasks</source>
+<translation>ASSISTENTE - disabilita un elenco di attività pianificate</translation>
+</message>
+<message>
+<source>Assistant - no services to deactivate</source>
+<translation>Assistente - nessun servizio da disattivare</translation>
+</message>
+<message>
+<source>Assistant - no tasks to deactivate</source>
+<translation>Assistente - nessuna attività da disattivare</translation>
+</message>
+<message>
+<source>Auto</source>
+<translation>Auto</translation>
+</message>
+<message>
+<source>Auto started programs disabled:</source>
+<translation>Programmi di avvio disabilitati:</translation>
+</message>
+<message>
+<source>Automatic start</source>
+<translation>Avvio automatico</translation>
+</message>
+<message>
+<source>Automatically started programs</source>
+<translation>Programmi avviati automaticamente</translation>
+</message>
+<message>
+<source>Autorun</source>
+<translation>Avvio</translation>
+</message>
+<message>
+<source>Autorun program: disable %1 done</source>
+<translation>Programma di avvio: disabilita %1 completato</translation>
+</message>
+<message>
+<source>Autorun program: enable %1 done</source>
+<translation>Programma di avvio: abilita %1 completato</translation>
+</message>
+<message>
+<source>Autorun:</source>
+<translation>Avvio:</translation>
+</message>
+<message>
+<source>Autorun: can be disabled: </source>
+<translation>Avvio: può essere disabilitato: </translation>
+</message>
+<message>
+<source>Backup file exists</source>
+<translation>Il file di backup esiste</translation>
+</message>
+<message>
+<source>Bluetooth audio</source>
+<translation>Audio Bluetooth</translation>
+</message>
+<message>
+<source>Cancel</source>
+<translation>Annulla</translation>
+</message>
+<message>
+<source>Cannot restore if you have not yet optimized!</source>
+<translation>Impossibile ripristinare se non si è ancora ottimizzato!</translation>
+</message>
+<message>
+<source>Capacity:</source>
+<translation>Capacità:</translation>
+</message>
+<message>
+<source>Check all</source>
+<translation>Seleziona tutto</translation>
+</message>
+<message>
+<source>Check update of Kestrune version</source>
+<translation>Verifica aggiornamenti di Kestrune</translation>
+</message>
+<message>
+<source>Clean WinSxS folder with Microsoft DISM tool</source>
+<translation>Pulisci la cartella WinSxS con lo strumento Microsoft DISM</translation>
+</message>
+<message>
+<source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
+<translation>Pulisci la cartella WinSxS con lo strumento Microsoft DISM  (dimensione attuale: %1 GB)</translation>
+</message>
+<message>
+<source>Comments</source>
+<translation>Commenti</translation>
+</message>
+<message>
+<source>Configure auto started programs done!</source>
+<translation>Configurazione dei programmi di avvio completata!</translation>
+</message>
+<message>
+<source>CPU</source>
+<translation>CPU</translation>
+</message>
+<message>
+<source>Dark</source>
+<translation>Scuro</translation>
+</message>
+<message>
+<source>Date of the last execution</source>
+<translation>Data dell'ultima esecuzione</translation>
+</message>
+<message>
+<source>Description</source>
+<translation>Descrizione</translation>
+</message>
+<message>
+<source>Development applet</source>
+<translation>Applet di sviluppo</translation>
+</message>
+<message>
+<source>Disable advanced indexing options</source>
+<translation>Disabilita le opzioni di indicizzazione avanzate</translation>
+</message>
+<message>
+<source>Disable automatic boot disk optimization</source>
+<translation>Disabilita l'ottimizzazione automatica del disco di avvio</translation>
+</message>
+<message>
+<source>Disable checked programs</source>
+<translation>Disabilita i programmi selezionati</translation>
+</message>
+<message>
+<source>DISABLE checked services</source>
+<translation>DISABILITA i servizi selezionati</translation>
+</message>
+<message>
+<source>Disable checked services</source>
+<translation>Disabilita i servizi selezionati</translation>
+</message>
+<message>
+<source>Disable checked services finished</source>
+<translation>Disabilitazione dei servizi selezionati completata</translation>
+</message>
+<message>
+<source>DISABLE checked tasks</source>
+<translation>DISABILITA le attività selezionate</translation>
+</message>
+<message>
+<source>Disable clearing of virtual memory swap file on every shutdown</source>
+<translation>Disabilita la cancellazione del file di paging a ogni arresto</translation>
+</message>
+<message>
+<source>Disable cloud backup and restore functionalities</source>
+<translation>Disabilita il backup e ripristino nel cloud</translation>
+</message>
+<message>
+<source>Disable CPU power throttling
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>Disabilita la limitazione di potenza della CPU
+(risparmio energetico, ottimizzazione sconsigliata per i portatili)</translation>
+</message>
+<message>
+<source>Disable distribution optimization of Windows updates</source>
+<translation>Disabilita l'ottimizzazione recapito degli aggiornamenti di Windows</translation>
+</message>
+<message>
+<source>Disable dynamic tick of system timers
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>Disabilita il tick dinamico dei timer di sistema
+(risparmio energetico, ottimizzazione sconsigliata per i portatili)</translation>
+</message>
+<message>
+<source>Disable enhance pointer precision
+(to achieve precise mouse control and muscle memory)</source>
+<translation>Disabilita l'aumento della precisione del puntatore
+(per un controllo preciso del mouse e la memoria muscolare)</translation>
+</message>
+<message>
+<source>Disable fast start-up  (Windows function designed for HDD and not SSD)</source>
+<translation>Disabilita l'avvio rapido  (funzione di Windows pensata per HDD e non per SSD)</translation>
+</message>
+<message>
+<source>Disable files history (even in explorer)</source>
+<translation>Disabilita la cronologia file (anche in Esplora file)</translation>
+</message>
+<message>
+<source>Disable game recording and broadcasting</source>
+<translation>Disabilita la registrazione e la trasmissione dei giochi</translation>
+</message>
+<message>
+<source>Disable Gamebar</source>
+<translation>Disabilita Game Bar</translation>
+</message>
+<message>
+<source>Disable hibernation mode</source>
+<translation>Disabilita la modalità di ibernazione</translation>
+</message>
+<message>
+<source>Disable hibernation mode  (gain %1 GB of storage space)</source>
+<translation>Disabilita la modalità di ibernazione  (libera %1 GB di spazio di archiviazione)</translation>
+</message>
+<message>
+<source>Disable HPET  (High Precision Event Timer)
+(use invariant TSC instead which may be faster for gaming)
+(important: do not disable HPET in BIOS settings)</source>
+<translation>Disabilita HPET  (High Precision Event Timer)
+(usa il TSC invariante, che può essere più veloce per i giochi)
+(importante: non disabilitare HPET nelle impostazioni del BIOS)</translation>
+</message>
+<message>
+<source>Disable last access time stamps  (NTFS drive only)</source>
+<translation>Disabilita la data dell'ultimo accesso  (solo unità NTFS)</translation>
+</message>
+<message>
+<source>Disable LockApp.exe  (lockapp.exe allows additional information on the lock screen)</source>
+<translation>Disabilita LockApp.exe  (informazioni aggiuntive nella schermata di blocco)</translation>
+</message>
+<message>
+<source>Disable Multiplane Overlay (MPO)
+(may fix some screen flickering / stuttering issues BUT loose some fullscreen optimizations,
+especially for video playback apps)</source>
+<translation>Disabilita Multiplane Overlay (MPO)
+(può risolvere sfarfallii o scatti, MA si perdono alcune ottimizzazioni
+a schermo intero, soprattutto nelle app di riproduzione video)</translation>
+</message>
+<message>
+<source>Disable Nagle’s Algorithm
+(may improve the real-time responsiveness of your network connection, but may increase traffic)</source>
+<translation>Disabilita l'algoritmo di Nagle
+(può migliorare la reattività della connessione di rete, ma aumentare il traffico)</translation>
+</message>
+<message>
+<source>Disable periodic registry backup</source>
+<translation>Disabilita il backup periodico del Registro di sistema</translation>
+</message>
+<message>
+<source>Disable Prefetcher  (prevents preloading of applications)</source>
+<translation>Disabilita Prefetcher  (impedisce il precaricamento delle applicazioni)</translation>
+</message>
+<message>
+<source>Disable scheduled tasks</source>
+<translation>Disabilita le attività pianificate</translation>
+</message>
+<message>
+<source>Disable scheduled tasks completed successfully</source>
+<translation>Disabilitazione delle attività pianificate completata</translation>
+</message>
+<message>
+<source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
+<translation>Disabilita SearchHost.exe  (ricerca file; la ricerca avanzata può non funzionare)</translation>
+</message>
+<message>
+<source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
+<translation>Disabilita la suddivisione di SvcHost  (riduce il numero di processi svchost.exe)</translation>
+</message>
+<message>
+<source>Disable telemetry (data collection for Microsoft)
+(Other telemetry is disabled in the Services and Scheduled Tasks, or the Optimizer page)</source>
+<translation>Disabilita la telemetria (raccolta di dati per Microsoft)
+(Il resto si disabilita in Servizi, Attività pianificate o Ottimizza PC)</translation>
+</message>
+<message>
+<source>Disable ULPS  (Ultra Low Power State, only for AMD graphics cards)
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>Disabilita ULPS  (Ultra Low Power State, solo per schede grafiche AMD)
+(risparmio energetico, ottimizzazione sconsigliata per i portatili)</translation>
+</message>
+<message>
+<source>Disable Windows write-cache buffer flushing</source>
+<translation>Disabilita lo scaricamento del buffer della cache in scrittura di Windows</translation>
+</message>
+<message>
+<source>Disabled</source>
+<translation>Disabilitato</translation>
+</message>
+<message>
+<source>disabled</source>
+<translation>disabilitato</translation>
+</message>
+<message>
+<source>disabled:</source>
+<translation>disabilitati:</translation>
+</message>
+<message>
+<source>DISK</source>
+<translation>DISCO</translation>
+</message>
+<message>
+<source>Display name</source>
+<translation>Nome visualizzato</translation>
+</message>
+<message>
+<source>display threads and handles count</source>
+<translation>mostra il numero di thread e handle</translation>
+</message>
+<message>
+<source>Do you want to restore start mode option of all services?<byte value="xd"/>
+<byte value="xd"/>
+If you click No (recommended),<byte value="xd"/>
+then restore only the services you have disabled</source>
+<translation>Ripristinare il tipo di avvio di tutti i servizi?<byte value="xd"/>
+<byte value="xd"/>
+Se si fa clic su No (consigliato),<byte value="xd"/>
+verranno ripristinati solo i servizi disabilitati dall'utente</translation>
+</message>
+<message>
+<source>Do you want to start this app with Admin rights?</source>
+<translation>Riavviare questa app come amministratore?</translation>
+</message>
+<message>
+<source>done</source>
+<translation>fatto</translation>
+</message>
+<message>
+<source>Enable Auto HDR  (forces HDR mode on SDR content)</source>
+<translation>Abilita Auto HDR  (forza la modalità HDR sui contenuti SDR)</translation>
+</message>
+<message>
+<source>Enable checked programs</source>
+<translation>Abilita i programmi selezionati</translation>
+</message>
+<message>
+<source>ENABLE checked services</source>
+<translation>ABILITA i servizi selezionati</translation>
+</message>
+<message>
+<source>Enable checked services finished</source>
+<translation>Abilitazione dei servizi selezionati completata</translation>
+</message>
+<message>
+<source>Enable game mode  (enabled by default)</source>
+<translation>Abilita la modalità gioco  (abilitata per impostazione predefinita)</translation>
+</message>
+<message>
+<source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
+<translation>Abilita il menu contestuale di Windows 10  (sono visibili tutte le voci)</translation>
+</message>
+<message>
+<source>enabled</source>
+<translation>abilitato</translation>
+</message>
+<message>
+<source>enabled:</source>
+<translation>abilitate:</translation>
+</message>
+<message>
+<source>English</source>
+<translation>English</translation>
+</message>
+<message>
+<source>error</source>
+<translation>errore</translation>
+</message>
+<message>
+<source>Features</source>
+<translation>Funzionalità</translation>
+</message>
+<message>
+<source>Features applied successfully. Restart your PC!</source>
+<translation>Funzionalità applicate correttamente. Riavviare il PC!</translation>
+</message>
+<message>
+<source>Features: %1 improvements can be applied</source>
+<translation>Funzionalità: è possibile applicare %1 miglioramenti</translation>
+</message>
+<message>
+<source>Features: applied successfully. Restart your PC!</source>
+<translation>Funzionalità: applicate correttamente. Riavviare il PC!</translation>
+</message>
+<message>
+<source>Features: applies Gaming optimizations</source>
+<translation>Funzionalità: applicazione delle ottimizzazioni per i giochi</translation>
+</message>
+<message>
+<source>Features: applies SSD optimizations</source>
+<translation>Funzionalità: applicazione delle ottimizzazioni SSD</translation>
+</message>
+<message>
+<source>Features: applies Windows optimizations</source>
+<translation>Funzionalità: applicazione delle ottimizzazioni di Windows</translation>
+</message>
+<message>
+<source>Features: Battery detected! Some optimizations will not be applied to maintain battery life</source>
+<translation>Funzionalità: batteria rilevata! Alcune ottimizzazioni non verranno applicate per preservare la durata della batteria</translation>
+</message>
+<message>
+<source>Features: reset Gaming optimizations</source>
+<translation>Funzionalità: ripristino delle ottimizzazioni per i giochi</translation>
+</message>
+<message>
+<source>Features: reset SSD optimizations</source>
+<translation>Funzionalità: ripristino delle ottimizzazioni SSD</translation>
+</message>
+<message>
+<source>Features: reset Windows optimizations</source>
+<translation>Funzionalità: ripristino delle ottimizzazioni di Windows</translation>
+</message>
+<message>
+<source>Files sharing</source>
+<translation>Condivisione file</translation>
+</message>
+<message>
+<source>finished</source>
+<translation>completato</translation>
+</message>
+<message>
+<source>Français</source>
+<translation>Français</translation>
+</message>
+<message>
+<source>free memory</source>
+<translation>memoria libera</translation>
+</message>
+<message>
+<source>free on</source>
+<translation>libero su</translation>
+</message>
+<message>
+<source>GAMING</source>
+<translation>GIOCHI</translation>
+</message>
+<message>
+<source>Get system info:</source>
+<translation>Lettura informazioni di sistema:</translation>
+</message>
+<message>
+<source>Get WinSxS folder size in features page</source>
+<translation>Ottieni la dimensione della cartella WinSxS nella pagina Funzionalità</translation>
+</message>
+<message>
+<source>GPU</source>
+<translation>GPU</translation>
+</message>
+<message>
+<source>Grayed out services are considered necessary or critical</source>
+<translation>I servizi in grigio sono considerati necessari o critici</translation>
+</message>
+<message>
+<source>Grayed out services refer to those disabled outside this tab</source>
+<translation>I servizi in grigio sono stati disabilitati fuori da questa scheda</translation>
+</message>
+<message>
+<source>handles</source>
+<translation>handle</translation>
+</message>
+<message>
+<source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
+<translation>Se non si usano cuffie o dispositivi audio collegati tramite Bluetooth, è possibile deselezionare questa voce</translation>
+</message>
+<message>
+<source>If you don't have any printers, you can uncheck this</source>
+<translation>Se non si dispone di stampanti, è possibile deselezionare questa voce</translation>
+</message>
+<message>
+<source>Increase maximum amount of physical memory that can be locked for I/O operations</source>
+<translation>Aumenta la memoria fisica massima bloccabile per le operazioni di I/O</translation>
+</message>
+<message>
+<source>Install</source>
+<translation>Installa</translation>
+</message>
+<message>
+<source>Install packages</source>
+<translation>Installa pacchetti</translation>
+</message>
+<message>
+<source>Intelligent personal assistant</source>
+<translation>Assistente personale intelligente</translation>
+</message>
+<message>
+<source>Interface language:</source>
+<translation>Lingua interfaccia:</translation>
+</message>
+<message>
+<source>Interface type:</source>
+<translation>Tipo di interfaccia:</translation>
+</message>
+<message>
+<source>Internal system features that can slow down your PC unnecessarily.
+Check them to optimize or uncheck them to restore defaults.</source>
+<translation>Funzionalità interne del sistema che possono rallentare inutilmente il PC.
+Selezionarle per ottimizzare o deselezionarle per ripristinare i valori predefiniti.</translation>
+</message>
+<message>
+<source>interval in seconds:</source>
+<translation>intervallo in secondi:</translation>
+</message>
+<message>
+<source>Keep features</source>
+<translation>Funzionalità da mantenere</translation>
+</message>
+<message>
+<source>Kestrune</source>
+<translation>Kestrune</translation>
+</message>
+<message>
+<source>lblStatus</source>
+<translation>lblStatus</translation>
+</message>
+<message>
+<source>Light</source>
+<translation>Chiaro</translation>
+</message>
+<message>
+<source>List of currently started services.
+Services are programs that run in the background for various reasons and purposes. Some of them are essential, while others may be superfluous and consume CPU, memory and disk resources unnecessarily.</source>
+<translation>Elenco dei servizi attualmente avviati.
+I servizi sono programmi eseguiti in background per vari motivi. Alcuni sono essenziali, altri possono essere superflui e consumare inutilmente CPU, memoria e disco.</translation>
+</message>
+<message>
+<source>List of enabled scheduled tasks.
+Scheduled tasks are programs that run in the background at a specific time (or event) for various reasons. Some of them may be unnecessary and consume CPU, memory, and disk resources unnecessarily.</source>
+<translation>Elenco delle attività pianificate abilitate.
+Le attività pianificate sono programmi eseguiti in background in un momento specifico (o evento) per vari motivi. Alcune possono essere superflue e consumare inutilmente CPU, memoria e disco.</translation>
+</message>
+<message>
+<source>List of programs started automatically each time Windows starts.
+Like services and scheduled tasks, automatically started programs can slow down your system. Uncheck those you don't use on every startup.</source>
+<translation>Elenco dei programmi avviati automaticamente a ogni avvio di Windows.
+Come i servizi e le attività pianificate, possono rallentare il sistema. Deselezionare quelli che non si usano a ogni avvio.</translation>
+</message>
+<message>
+<source>List of Windows packages can be uninstalled without problems.
+You can reinstall them directly by clicking on &quot;View uninstalled packages&quot; below the list.</source>
+<translation>Elenco dei pacchetti Windows che possono essere disinstallati senza problemi.
+È possibile reinstallarli direttamente facendo clic su &quot;Mostra pacchetti disinstallati&quot; sotto l'elenco.</translation>
+</message>
+<message>
+<source>Load system info:</source>
+<translation>Caricamento informazioni di sistema:</translation>
+</message>
+<message>
+<source>loading disk info...</source>
+<translation>caricamento info disco...</translation>
+</message>
+<message>
+<source>loading screen info...</source>
+<translation>caricamento info schermo...</translation>
+</message>
+<message>
+<source>Mail &amp; Calendar</source>
+<translation>Posta e Calendario</translation>
+</message>
+<message>
+<source>Manage features  (included in the page &quot;Features&quot;)</source>
+<translation>Gestisci funzionalità  (incluse nella pagina &quot;Funzionalità&quot;)</translation>
+</message>
+<message>
+<source>Manage programs and packages  (included in the page &quot;Programs&quot;)</source>
+<translation>Gestisci programmi e pacchetti  (inclusi nella pagina &quot;Programmi&quot;)</translation>
+</message>
+<message>
+<source>Manual</source>
+<translation>Manuale</translation>
+</message>
+<message>
+<source>Manual start</source>
+<translation>Avvio manuale</translation>
+</message>
+<message>
+<source>Media extensions for Edge and Windows Media Player</source>
+<translation>Estensioni multimediali per Edge e Windows Media Player</translation>
+</message>
+<message>
+<source>MEM</source>
+<translation>MEM</translation>
+</message>
+<message>
+<source>Microsoft Codecs extensions</source>
+<translation>Codec Microsoft</translation>
+</message>
+<message>
+<source>Microsoft codecs for video encoding/decoding. If you are not using Windows internal features for streaming,encoding or playing videos, uncheck this box</source>
+<translation>Codec Microsoft per la codifica e decodifica video. Se non si usano le funzionalità interne di Windows per lo streaming, la codifica o la riproduzione di video, deselezionare questa casella</translation>
+</message>
+<message>
+<source>Microsoft video editor</source>
+<translation>Editor video Microsoft</translation>
+</message>
+<message>
+<source>Mobile device synchronization</source>
+<translation>Sincronizzazione dispositivi mobili</translation>
+</message>
+<message>
+<source>Monitor and display some system information in the title bar</source>
+<translation>Monitora e mostra informazioni di sistema nella barra del titolo</translation>
+</message>
+<message>
+<source>MotherBoard</source>
+<translation>Scheda madre</translation>
+</message>
+<message>
+<source>Name</source>
+<translation>Nome</translation>
+</message>
+<message>
+<source>Name:</source>
+<translation>Nome:</translation>
+</message>
+<message>
+<source>Need reboot!</source>
+<translation>Riavvio necessario!</translation>
+</message>
+<message>
+<source>NFC</source>
+<translation>NFC</translation>
+</message>
+<message>
+<source>No</source>
+<translation>No</translation>
+</message>
+<message>
+<source>no description</source>
+<translation>nessuna descrizione</translation>
+</message>
+<message>
+<source>No optimizations found!</source>
+<translation>Nessuna ottimizzazione trovata!</translation>
+</message>
+<message>
+<source>Old Xbox App, no longer supported!</source>
+<translation>Vecchia app Xbox, non più supportata!</translation>
+</message>
+<message>
+<source>on drive</source>
+<translation>sull'unità</translation>
+</message>
+<message>
+<source>Optimization finished</source>
+<translation>Ottimizzazione completata</translation>
+</message>
+<message>
+<source>Optimize</source>
+<translation>Ottimizza</translation>
+</message>
+<message>
+<source>Optimizer</source>
+<translation>Ottimizza PC</translation>
+</message>
+<message>
+<source>Options</source>
+<translation>Opzioni</translation>
+</message>
+<message>
+<source>Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>Altro protocollo dedicato alla rete locale (ad es. alcuni lettori video lo usano per collegarsi a dischi di rete)<byte value="xd"/>
+(per impostazione predefinita non è usato ma attivato!)</translation>
+</message>
+<message>
+<source>Otherwise some scheduled tasks will not be detected!</source>
+<translation>Altrimenti alcune attività pianificate non verranno rilevate!</translation>
+</message>
+<message>
+<source>package: </source>
+<translation>pacchetto: </translation>
+</message>
+<message>
+<source>Package: can be installed: </source>
+<translation>Pacchetto: può essere installato: </translation>
+</message>
+<message>
+<source>Package: can be uninstalled: </source>
+<translation>Pacchetto: può essere disinstallato: </translation>
+</message>
+<message>
+<source>Packages</source>
+<translation>Pacchetti</translation>
+</message>
+<message>
+<source>packages finished</source>
+<translation>pacchetti completati</translation>
+</message>
+<message>
+<source>Packages installed:</source>
+<translation>Pacchetti installati:</translation>
+</message>
+<message>
+<source>Packages uninstalled:</source>
+<translation>Pacchetti disinstallati:</translation>
+</message>
+<message>
+<source>Packages:</source>
+<translation>Pacchetti:</translation>
+</message>
+<message>
+<source>Path</source>
+<translation>Percorso</translation>
+</message>
+<message>
+<source>Phone link</source>
+<translation>Collegamento al telefono</translation>
+</message>
+<message>
+<source>Printer</source>
+<translation>Stampante</translation>
+</message>
+<message>
+<source>Prioritize games  (GPU Priority, SFIO Priority, Scheduling category, Affinity)</source>
+<translation>Dai priorità ai giochi  (GPU Priority, SFIO Priority, Scheduling category, Affinity)</translation>
+</message>
+<message>
+<source>Process: can be disable: %1 from Riva Tuner Statistic Server app!<byte value="xd"/>
+This process only allows screen video capture.Does not affect the monitoring display in any way</source>
+<translation>Processo: può essere disabilitato: %1 dell'app Riva Tuner Statistic Server!<byte value="xd"/>
+Questo processo consente solo l'acquisizione video dello schermo. Non influisce in alcun modo sulla visualizzazione del monitoraggio</translation>
+</message>
+<message>
+<source>Process: disable EncoderServer done</source>
+<translation>Processo: disabilita EncoderServer completato</translation>
+</message>
+<message>
+<source>processes</source>
+<translation>processi</translation>
+</message>
+<message>
+<source>Programs</source>
+<translation>Programmi</translation>
+</message>
+<message>
+<source>Programs started automatically</source>
+<translation>Programmi avviati automaticamente</translation>
+</message>
+<message>
+<source>Proxy and VPN</source>
+<translation>Proxy e VPN</translation>
+</message>
+<message>
+<source>Proxy or VPN functionality to improve the security of your network traffic<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>Funzionalità proxy o VPN per migliorare la sicurezza del traffico di rete<byte value="xd"/>
+(per impostazione predefinita non è usata ma attivata!)</translation>
+</message>
+<message>
+<source>Quick setup of some bluetooth headsets<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>Configurazione rapida di alcune cuffie Bluetooth<byte value="xd"/>
+(per impostazione predefinita non è usata ma attivata!)</translation>
+</message>
+<message>
+<source>Reduces certain delays
+(menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
+<translation>Riduci alcuni ritardi
+(visualizzazione dei menu, chiusura di app e servizi, applicazioni bloccate)</translation>
+</message>
+<message>
+<source>Refresh</source>
+<translation>Aggiorna</translation>
+</message>
+<message>
+<source>Remove indexing attribute of %1</source>
+<translation>Rimozione dell'attributo di indicizzazione di %1</translation>
+</message>
+<message>
+<source>Remove indexing attribute of %1 finished</source>
+<translation>Rimozione dell'attributo di indicizzazione di %1 completata</translation>
+</message>
+<message>
+<source>Remove indexing attribute of Windows partition %1</source>
+<translation>Rimozione dell'attributo di indicizzazione della partizione di Windows %1</translation>
+</message>
+<message>
+<source>Remove the indexed attribute from all files in the Windows partition
+(this operation may take some time)</source>
+<translation>Rimuovi l'attributo di indicizzazione da tutti i file della partizione di Windows
+(questa operazione può richiedere tempo)</translation>
+</message>
+<message>
+<source>Restoration finished</source>
+<translation>Ripristino completato</translation>
+</message>
+<message>
+<source>Restoration finished: Restart your PC!</source>
+<translation>Ripristino completato: riavviare il PC!</translation>
+</message>
+<message>
+<source>Restore</source>
+<translation>Ripristina</translation>
+</message>
+<message>
+<source>RESTORE disabled scheduled tasks</source>
+<translation>RIPRISTINA le attività pianificate disabilitate</translation>
+</message>
+<message>
+<source>RESTORE disabled services</source>
+<translation>RIPRISTINA i servizi disabilitati</translation>
+</message>
+<message>
+<source>Restore scheduled tasks completed successfully</source>
+<translation>Ripristino delle attività pianificate completato</translation>
+</message>
+<message>
+<source>Restore services finished</source>
+<translation>Ripristino dei servizi completato</translation>
+</message>
+<message>
+<source>Restoring scheduled tasks</source>
+<translation>Ripristino delle attività pianificate</translation>
+</message>
+<message>
+<source>Scheduled tasks</source>
+<translation>Attività pianificate</translation>
+</message>
+<message>
+<source>Screenshot tool</source>
+<translation>Strumento di cattura</translation>
+</message>
+<message>
+<source>Service: can be disable: </source>
+<translation>Servizio: può essere disabilitato: </translation>
+</message>
+<message>
+<source>Service: can be enable: </source>
+<translation>Servizio: può essere abilitato: </translation>
+</message>
+<message>
+<source>Service: can be set to manual:</source>
+<translation>Servizio: può essere impostato su manuale:</translation>
+</message>
+<message>
+<source>Service: disable %1</source>
+<translation>Servizio: disabilita %1</translation>
+</message>
+<message>
+<source>Service: disable and stop %1</source>
+<translation>Servizio: disabilita e arresta %1</translation>
+</message>
+<message>
+<source>Service: enable %1</source>
+<translation>Servizio: abilita %1</translation>
+</message>
+<message>
+<source>Service: enable %1 done</source>
+<translation>Servizio: abilita %1 completato</translation>
+</message>
+<message>
+<source>Service: enable and start %1</source>
+<translation>Servizio: abilita e avvia %1</translation>
+</message>
+<message>
+<source>Service: enable and start %1 done</source>
+<translation>Servizio: abilita e avvia %1 completato</translation>
+</message>
+<message>
+<source>Service: enable and start %1, already running!</source>
+<translation>Servizio: abilita e avvia %1, già in esecuzione!</translation>
+</message>
+<message>
+<source>Service: set to manual:</source>
+<translation>Servizio: impostato su manuale:</translation>
+</message>
+<message>
+<source>Services</source>
+<translation>Servizi</translation>
+</message>
+<message>
+<source>Services  (Experienced users)</source>
+<translation>Servizi  (utenti esperti)</translation>
+</message>
+<message>
+<source>Services:</source>
+<translation>Servizi:</translation>
+</message>
+<message>
+<source>Set the maximum number of GPU pre-rendered frames to 1
+(if you have a good CPU, this reduces latency)</source>
+<translation>Imposta a 1 il numero massimo di fotogrammi prerenderizzati dalla GPU
+(con una buona CPU, riduce la latenza)</translation>
+</message>
+<message>
+<source>SSD</source>
+<translation>SSD</translation>
+</message>
+<message>
+<source>Start mode</source>
+<translation>Avvio</translation>
+</message>
+<message>
+<source>Start service:</source>
+<translation>Avvio servizio:</translation>
+</message>
+<message>
+<source>Start with adminstrator rights</source>
+<translation>Avvia con diritti di amministratore</translation>
+</message>
+<message>
+<source>started:</source>
+<translation>avviati:</translation>
+</message>
+<message>
+<source>Status: Getting WinSxS folder size finished!</source>
+<translation>Stato: calcolo della dimensione della cartella WinSxS completato!</translation>
+</message>
+<message>
+<source>Status: Getting WinSxS folder size...</source>
+<translation>Stato: calcolo della dimensione della cartella WinSxS...</translation>
+</message>
+<message>
+<source>Stop service:</source>
+<translation>Arresto servizio:</translation>
+</message>
+<message>
+<source>stopped:</source>
+<translation>arrestati:</translation>
+</message>
+<message>
+<source>System</source>
+<translation>Sistema</translation>
+</message>
+<message>
+<source>System
+Information</source>
+<translation>Informazioni
+sul sistema</translation>
+</message>
+<message>
+<source>System Information</source>
+<translation>Informazioni sul sistema</translation>
+</message>
+<message>
+<source>Task:</source>
+<translation>Attività:</translation>
+</message>
+<message>
+<source>Task: can be disable: </source>
+<translation>Attività: può essere disabilitata: </translation>
+</message>
+<message>
+<source>Task: can be enable: </source>
+<translation>Attività: può essere abilitata: </translation>
+</message>
+<message>
+<source>Task: disable and stop %1</source>
+<translation>Attività: disabilita e arresta %1</translation>
+</message>
+<message>
+<source>Task: Enable and start %1 done</source>
+<translation>Attività: abilita e avvia %1 completato</translation>
+</message>
+<message>
+<source>Tasks</source>
+<translation>Attività</translation>
+</message>
+<message>
+<source>Tasks:</source>
+<translation>Attività:</translation>
+</message>
+<message>
+<source>Theme:</source>
+<translation>Tema:</translation>
+</message>
+<message>
+<source>threads</source>
+<translation>thread</translation>
+</message>
+<message>
+<source>Uncheck all</source>
+<translation>Deseleziona tutto</translation>
+</message>
+<message>
+<source>Uninstall</source>
+<translation>Disinstalla</translation>
+</message>
+<message>
+<source>Uninstall packages</source>
+<translation>Disinstalla pacchetti</translation>
+</message>
+<message>
+<source>uninstalled:</source>
+<translation>disinstallati:</translation>
+</message>
+<message>
+<source>unknown</source>
+<translation>sconosciuto</translation>
+</message>
+<message>
+<source>UPnP network services</source>
+<translation>Servizi di rete UPnP</translation>
+</message>
+<message>
+<source>View auto started programs</source>
+<translation>Mostra programmi di avvio</translation>
+</message>
+<message>
+<source>View disabled services</source>
+<translation>Mostra servizi disabilitati</translation>
+</message>
+<message>
+<source>View installed packages</source>
+<translation>Mostra pacchetti installati</translation>
+</message>
+<message>
+<source>View programs disabled</source>
+<translation>Mostra programmi disabilitati</translation>
+</message>
+<message>
+<source>View started services</source>
+<translation>Mostra servizi avviati</translation>
+</message>
+<message>
+<source>View uninstalled packages</source>
+<translation>Mostra pacchetti disinstallati</translation>
+</message>
+<message>
+<source>Widget app</source>
+<translation>App widget</translation>
+</message>
+<message>
+<source>Win32PrioritySeparation:   Processor time allocated to applications.</source>
+<translation>Win32PrioritySeparation:   tempo di processore assegnato alle applicazioni.</translation>
+</message>
+<message>
+<source>WINDOWS</source>
+<translation>WINDOWS</translation>
+</message>
+<message>
+<source>Windows</source>
+<translation>Windows</translation>
+</message>
+<message>
+<source>Windows application: ERROR install %1: </source>
+<translation>Applicazione Windows: ERRORE nell'installazione di %1: </translation>
+</message>
+<message>
+<source>Windows application: ERROR uninstall %1: </source>
+<translation>Applicazione Windows: ERRORE nella disinstallazione di %1: </translation>
+</message>
+<message>
+<source>Windows application: install %1 done</source>
+<translation>Applicazione Windows: installazione di %1 completata</translation>
+</message>
+<message>
+<source>Windows application: uninstall %1 done</source>
+<translation>Applicazione Windows: disinstallazione di %1 completata</translation>
+</message>
+<message>
+<source>Windows applications</source>
+<translation>Applicazioni Windows</translation>
+</message>
+<message>
+<source>Windows packages installed</source>
+<translation>Pacchetti Windows installati</translation>
+</message>
+<message>
+<source>Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>Funzionalità di condivisione di Windows in una rete locale (protocollo SMB) (ad es. per collegare dischi rigidi o stampanti in rete locale)<byte value="xd"/>
+(per impostazione predefinita non è usata ma attivata!)</translation>
+</message>
+<message>
+<source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
+<translation>Impostare gli attributi di indicizzazione di tutti i file della partizione di Windows?</translation>
+</message>
+<message>
+<source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
+<translation>Impostare gli attributi di indicizzazione di tutti i file della partizione di Windows?</translation>
+</message>
+<message>
+<source>Xbox App</source>
+<translation>App Xbox</translation>
+</message>
+<message>
+<source>Xbox game bar</source>
+<translation>Xbox Game Bar</translation>
+</message>
+<message>
+<source>XBOX Game Bar that appears at the top of the screen, above a game. If you don't use it, uncheck this box</source>
+<translation>Xbox Game Bar che appare nella parte superiore dello schermo, sopra il gioco. Se non la si usa, deselezionare questa casella</translation>
+</message>
+<message>
+<source>Yes</source>
+<translation>Sì</translation>
+</message>
+<message>
+<source>You must launch this app with Admin rights!</source>
+<translation>È necessario eseguire questa app come amministratore!</translation>
+</message>
+<message>
+<source>You should launch this app with Admin rights!</source>
+<translation>È consigliabile eseguire questa app come amministratore!</translation>
+</message>
+</context>
+</TS>

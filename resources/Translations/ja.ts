@@ -1,0 +1,1410 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<!-- One context for all: see cmake/translations.cmake. -->
+<context>
+<name>texts</name>
+<message>
+<source>  20   (variable and long quantum, foreground boost X1)</source>
+<translation>  20   (可変で長いクォンタム、フォアグラウンド ブースト X1)</translation>
+</message>
+<message>
+<source>  21   (variable and long quantum, foreground boost X2)</source>
+<translation>  21   (可変で長いクォンタム、フォアグラウンド ブースト X2)</translation>
+</message>
+<message>
+<source>  22   (variable and long quantum, foreground boost X3)</source>
+<translation>  22   (可変で長いクォンタム、フォアグラウンド ブースト X3)</translation>
+</message>
+<message>
+<source>  24   (fixed and long quantum, foreground boost X1) (not recommended)</source>
+<translation>  24   (固定で長いクォンタム、フォアグラウンド ブースト X1) (非推奨)</translation>
+</message>
+<message>
+<source>  36   (variable and short quantum, foreground boost X1)</source>
+<translation>  36   (可変で短いクォンタム、フォアグラウンド ブースト X1)</translation>
+</message>
+<message>
+<source>  37   (variable and short quantum, foreground boost X2)</source>
+<translation>  37   (可変で短いクォンタム、フォアグラウンド ブースト X2)</translation>
+</message>
+<message>
+<source>  38   (variable and short quantum, foreground boost X3) (recommended)</source>
+<translation>  38   (可変で短いクォンタム、フォアグラウンド ブースト X3) (推奨)</translation>
+</message>
+<message>
+<source>  40   (fixed and short quantum, foreground boost X1) (not recommended)</source>
+<translation>  40   (固定で短いクォンタム、フォアグラウンド ブースト X1) (非推奨)</translation>
+</message>
+<message>
+<source>1</source>
+<translation>1</translation>
+</message>
+<message>
+<source>10</source>
+<translation>10</translation>
+</message>
+<message>
+<source>2</source>
+<translation>2</translation>
+</message>
+<message>
+<source>3</source>
+<translation>3</translation>
+</message>
+<message>
+<source>30</source>
+<translation>30</translation>
+</message>
+<message>
+<source>4</source>
+<translation>4</translation>
+</message>
+<message>
+<source>5</source>
+<translation>5</translation>
+</message>
+<message>
+<source>60</source>
+<translation>60</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Lucida Console'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;table border=&quot;0&quot; width=&quot;100%&quot; cellspacing=&quot;10&quot; cellpadding=&quot;0&quot;&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;%winName&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Edition:   %winEdition&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Build:   %winBuild&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Display version:   %winVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Installed on SSD:   %winOnSsd&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Mother-board:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%mbManufacturer&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Model:   %mbModel&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Bios version:   %mbBiosVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Bios date:   %mbBiosDate&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Processor:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%cpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Default frequency:   %cpuFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Cores / Threads:   %cpuCore  / %cpuThread&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L2 cache size:   %cpuL2Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L3 cache size:   %cpuL3Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Socket:   %cpuSocket&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HyperThreading:   %cpuHt&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtualization:   %cpuV&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Memory:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Capacity:   %memTotal&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Free:   %memFree&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequency:   %memFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Form Factor:   %memFormFactor&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtual Memory:   %memVSize&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Graphics card and screen:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%gpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Driver version:   %gpuDriverVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Driver date:   %gpuDriverDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Screen:   loading screen info...&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolution:   %gpuDesktopSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolution max:   %gpuDesktopMaxSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Refresh rate:   %gpuRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Refresh rate max:   %screenMaxRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HDR:   %screenHdr&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Disk:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;loading disk info...&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Lucida Console'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;table border=&quot;0&quot; width=&quot;100%&quot; cellspacing=&quot;10&quot; cellpadding=&quot;0&quot;&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;%winName&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;エディション:   %winEdition&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;ビルド:   %winBuild&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;バージョン:   %winVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;SSD にインストール:   %winOnSsd&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;マザーボード:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%mbManufacturer&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;モデル:   %mbModel&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;BIOS バージョン:   %mbBiosVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;BIOS の日付:   %mbBiosDate&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;プロセッサ:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%cpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;基本周波数:   %cpuFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;コア / スレッド:   %cpuCore  / %cpuThread&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L2 キャッシュ:   %cpuL2Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L3 キャッシュ:   %cpuL3Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;ソケット:   %cpuSocket&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HyperThreading:   %cpuHt&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;仮想化:   %cpuV&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;メモリ:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;容量:   %memTotal&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;空き:   %memFree&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;周波数:   %memFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;フォーム ファクター:   %memFormFactor&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;仮想メモリ:   %memVSize&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;グラフィックス カードと画面:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%gpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;ドライバー:   %gpuDriverVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;ドライバーの日付:   %gpuDriverDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;画面:   画面情報を読み込んでいます...&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;解像度:   %gpuDesktopSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;最大解像度:   %gpuDesktopMaxSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;リフレッシュ レート:   %gpuRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;最大レート:   %screenMaxRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HDR:   %screenHdr&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;ディスク:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;ディスク情報を読み込んでいます...&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Segoe UI'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Version:&lt;/span&gt;   beta %version&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Date:&lt;/span&gt;    %buildDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Author:&lt;/span&gt;   Ondrevale&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Contact:&lt;/span&gt;   &lt;a href=&quot;mailto:contact@kestrune.example&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;contact@kestrune.example&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Website:&lt;/span&gt;   &lt;a href=&quot;https://kestrune.example/&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;https://kestrune.example/&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Programming language and framework:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ with Qt 6, licensed under the GNU LGPL version 3&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Developped for Windows 10 and Windows 11&lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Purpose:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;This application aims to improve general performance without distorting Windows, by helping you disable all features, programs, services, scheduled tasks, which may be superfluous and harm performance. It also configures some internal system features that are inaccessible through an interface and other options allow you to reduce the space occupied by Windows on the hard disk. (uninstalling unnecessary Windows applications, cleaning the WinSxs folder, ...)&lt;br /&gt;All in a few clicks and with the possibility of restoring to original values. &lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Important informations:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;All options in this application are reversible.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Be careful with the Services section. Do not disable services if you are not really aware of what they are, dependencies etc... USE THE ASSISTANT BUTTON!!!&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Segoe UI'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;バージョン:&lt;/span&gt;   ベータ %version&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;日付:&lt;/span&gt;    %buildDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;作成者:&lt;/span&gt;   Ondrevale&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;連絡先:&lt;/span&gt;   &lt;a href=&quot;mailto:contact@kestrune.example&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;contact@kestrune.example&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Web サイト:&lt;/span&gt;   &lt;a href=&quot;https://kestrune.example/&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;https://kestrune.example/&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;プログラミング言語とフレームワーク:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ と Qt 6、GNU LGPL バージョン 3 ライセンス&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Windows 10 および Windows 11 用に開発&lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;目的:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;このアプリは、不要でパフォーマンスを低下させる可能性のある機能、プログラム、サービス、スケジュール タスクを無効にするのを支援し、Windows を損なうことなく全体のパフォーマンスを向上させることを目的としています。また、画面からは設定できないシステムの内部機能を構成したり、ハード ディスク上で Windows が占める領域を減らしたりすることもできます。(不要な Windows アプリのアンインストール、WinSxS フォルダーのクリーンアップなど)&lt;br /&gt;すべて数回のクリックで行え、元の値に戻すこともできます。 &lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;重要な情報:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;このアプリのすべてのオプションは元に戻すことができます。&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;サービスのセクションでは注意してください。内容や依存関係などを十分に理解していない場合は、サービスを無効にしないでください。アシスタント ボタンを使用してください!!!&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- FIXED quantum: the processor time allocated to applications is divided equally between applications,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;while VARIABLE quantum allow applications to hold the processor for longer if needed.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- SHORT quantum: the processor time allocated to applications is faster to switch from task to task,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;as opposed to LONG quantum, which allocates more processor time to the application.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- FOREGROUND BOOST X times: the quantum is increased X times in favor of the application&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;that is in the foreground.&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; font-size:4pt;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;In a pure gaming context, depending on the value selected, you favor the FPS (22, 21),&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS but also responsiveness (38, 37), or latency of your keyboard/mouse or gamepad (36, 24, 40).&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;a href=&quot;https://learn.microsoft.com/windows/win32/procthread/priority-boosts&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- 固定クォンタム: プロセッサ時間はアプリ間で均等に分けられます。&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;可変クォンタムでは、必要に応じてアプリがプロセッサをより長く保持できます。&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- 短いクォンタム: プロセッサ時間がタスクからタスクへ素早く切り替わります。&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;長いクォンタムでは、アプリにより多くのプロセッサ時間が割り当てられます。&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- フォアグラウンド ブースト X 倍: フォアグラウンドのアプリのために、&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;クォンタムが X 倍になります。&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; font-size:4pt;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;ゲームだけを考えると、選択した値に応じて、FPS (22, 21)、&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS と応答性 (38, 37)、入力機器の遅延 (36, 24, 40) が改善されます。&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;a href=&quot;https://learn.microsoft.com/windows/win32/procthread/priority-boosts&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;詳細情報&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Advanced optimizations via motherboard BIOS settings &lt;a href=&quot;https://kestrune.example/optimization.html&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;マザーボードの BIOS 設定による高度な最適化 &lt;a href=&quot;https://kestrune.example/optimization.html&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;詳細情報&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Microsoft acknowledges performance impact with Memory Integrity and VMP enabled &lt;a href=&quot;https://learn.microsoft.com/windows/security/hardware-security/enable-virtualization-based-protection-of-code-integrity&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Microsoft は、メモリ整合性と VMP が有効な場合のパフォーマンスへの影響を認めています &lt;a href=&quot;https://learn.microsoft.com/windows/security/hardware-security/enable-virtualization-based-protection-of-code-integrity&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;詳細情報&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;The WinSxS folder is an essential system component that serves as a repository for storing multiple versions of system files, allowing Windows to maintain good compatibility &lt;a href=&quot;https://learn.microsoft.com/windows-hardware/manufacture/desktop/manage-the-component-store&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;WinSxS フォルダーは、複数のバージョンのシステム ファイルを保管する重要なシステム コンポーネントで、Windows の高い互換性を支えています &lt;a href=&quot;https://learn.microsoft.com/windows-hardware/manufacture/desktop/manage-the-component-store&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;詳細情報&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>A newer version of Kestrune is available!<byte value="xd"/>
+Would you like to visit the website for download?<byte value="xd"/>
+<byte value="xd"/>
+Current version: %1<byte value="xd"/>
+Online version: %2</source>
+<translation>新しいバージョンの Kestrune が利用できます!<byte value="xd"/>
+Web サイトを開いてダウンロードしますか?<byte value="xd"/>
+<byte value="xd"/>
+現在のバージョン: %1<byte value="xd"/>
+オンラインのバージョン: %2</translation>
+</message>
+<message>
+<source>About</source>
+<translation>情報</translation>
+</message>
+<message>
+<source>Add indexing attribute of %1 finished</source>
+<translation>%1 のインデックス属性の追加完了</translation>
+</message>
+<message>
+<source>Add indexing attribute of Windows partition %1</source>
+<translation>Windows パーティション %1 のインデックス属性を追加</translation>
+</message>
+<message>
+<source>Analyze</source>
+<translation>分析</translation>
+</message>
+<message>
+<source>Analyze and optimize Windows to improve overall performance by disabling unnecessary features and configuring some that are inaccessible through an interface.
+Optimizations come from the Services, Scheduled Tasks, Programs, and Features pages.</source>
+<translation>Windows を分析し、不要な機能を無効にしたり、画面からは設定できない機能を構成したりして、全体のパフォーマンスを最適化します。
+最適化の項目は、サービス、スケジュール タスク、プログラム、機能の各ページのものです。</translation>
+</message>
+<message>
+<source>Application to play PC games if you have a Gamepass account (paid)</source>
+<translation>Game Pass (有料) に加入している場合に PC ゲームをプレイするためのアプリ</translation>
+</message>
+<message>
+<source>Apply</source>
+<translation>適用</translation>
+</message>
+<message>
+<source>Apply features finished successfully.</source>
+<translation>機能の適用が正常に完了しました。</translation>
+</message>
+<message>
+<source>Are you sure to disable all checked services?</source>
+<translation>選択したサービスをすべて無効にしますか?</translation>
+</message>
+<message>
+<source>Are you sure to disable all checked tasks?</source>
+<translation>選択したタスクをすべて無効にしますか?</translation>
+</message>
+<message>
+<source>Are you sure you want to restore the original values?<byte value="xd"/>
+All features, applications, services and tasks will be restored.</source>
+<translation>元の値に復元しますか?<byte value="xd"/>
+すべての機能、アプリ、サービス、タスクが復元されます。</translation>
+</message>
+<message>
+<source>Are you sure you want to restore the startup of all scheduled tasks?</source>
+<translation>すべてのスケジュール タスクの起動を復元しますか?</translation>
+</message>
+<message>
+<source>ASSISTANT - disable a list of non vital services</source>
+<translation>アシスタント - 不要なサービスを無効にする</translation>
+</message>
+<message>
+<source>ASSISTANT - disable a list of scheduled tasks</source>
+<translation>アシスタント - スケジュール タスクをまとめて無効にする</translation>
+</message>
+<message>
+<source>Assistant - no services to deactivate</source>
+<translation>アシスタント - 無効にするサービスはありません</translation>
+</message>
+<message>
+<source>Assistant - no tasks to deactivate</source>
+<translation>アシスタント - 無効にするタスクはありません</translation>
+</message>
+<message>
+<source>Auto</source>
+<translation>自動</translation>
+</message>
+<message>
+<source>Auto started programs disabled:</source>
+<translation>無効なスタートアップ プログラム:</translation>
+</message>
+<message>
+<source>Automatic start</source>
+<translation>自動で開始</translation>
+</message>
+<message>
+<source>Automatically started programs</source>
+<translation>自動的に開始されるプログラム</translation>
+</message>
+<message>
+<source>Autorun</source>
+<translation>スタートアップ</translation>
+</message>
+<message>
+<source>Autorun program: disable %1 done</source>
+<translation>スタートアップ プログラム: %1 の無効化完了</translation>
+</message>
+<message>
+<source>Autorun program: enable %1 done</source>
+<translation>スタートアップ プログラム: %1 の有効化完了</translation>
+</message>
+<message>
+<source>Autorun:</source>
+<translation>スタートアップ:</translation>
+</message>
+<message>
+<source>Autorun: can be disabled: </source>
+<translation>スタートアップ: 無効にできます: </translation>
+</message>
+<message>
+<source>Backup file exists</source>
+<translation>バックアップ ファイルがあります</translation>
+</message>
+<message>
+<source>Bluetooth audio</source>
+<translation>Bluetooth オーディオ</translation>
+</message>
+<message>
+<source>Cancel</source>
+<translation>キャンセル</translation>
+</message>
+<message>
+<source>Cannot restore if you have not yet optimized!</source>
+<translation>まだ最適化していないため、復元できません!</translation>
+</message>
+<message>
+<source>Capacity:</source>
+<translation>容量:</translation>
+</message>
+<message>
+<source>Check all</source>
+<translation>すべて選択</translation>
+</message>
+<message>
+<source>Check update of Kestrune version</source>
+<translation>Kestrune の更新を確認する</translation>
+</message>
+<message>
+<source>Clean WinSxS folder with Microsoft DISM tool</source>
+<translation>Microsoft DISM ツールで WinSxS フォルダーをクリーンアップする</translation>
+</message>
+<message>
+<source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
+<translation>Microsoft DISM ツールで WinSxS フォルダーをクリーンアップする  (現在のサイズ: %1 GB)</translation>
+</message>
+<message>
+<source>Comments</source>
+<translation>コメント</translation>
+</message>
+<message>
+<source>Configure auto started programs done!</source>
+<translation>スタートアップ プログラムの構成が完了しました!</translation>
+</message>
+<message>
+<source>CPU</source>
+<translation>CPU</translation>
+</message>
+<message>
+<source>Dark</source>
+<translation>ダーク</translation>
+</message>
+<message>
+<source>Date of the last execution</source>
+<translation>前回の実行日</translation>
+</message>
+<message>
+<source>Description</source>
+<translation>説明</translation>
+</message>
+<message>
+<source>Development applet</source>
+<translation>開発用アプレット</translation>
+</message>
+<message>
+<source>Disable advanced indexing options</source>
+<translation>インデックスの詳細オプションを無効にする</translation>
+</message>
+<message>
+<source>Disable automatic boot disk optimization</source>
+<translation>起動ディスクの自動最適化を無効にする</translation>
+</message>
+<message>
+<source>Disable checked programs</source>
+<translation>選択したプログラムを無効にする</translation>
+</message>
+<message>
+<source>DISABLE checked services</source>
+<translation>選択したサービスを無効にする</translation>
+</message>
+<message>
+<source>Disable checked services</source>
+<translation>選択したサービスを無効にする</translation>
+</message>
+<message>
+<source>Disable checked services finished</source>
+<translation>選択したサービスを無効にしました</translation>
+</message>
+<message>
+<source>DISABLE checked tasks</source>
+<translation>選択したタスクを無効にする</translation>
+</message>
+<message>
+<source>Disable clearing of virtual memory swap file on every shutdown</source>
+<translation>シャットダウン時のページ ファイルの消去を無効にする</translation>
+</message>
+<message>
+<source>Disable cloud backup and restore functionalities</source>
+<translation>クラウドのバックアップと復元を無効にする</translation>
+</message>
+<message>
+<source>Disable CPU power throttling
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>CPU の電力調整を無効にする
+(省電力機能のため、ノート PC では推奨されません)</translation>
+</message>
+<message>
+<source>Disable distribution optimization of Windows updates</source>
+<translation>Windows 更新プログラムの配信の最適化を無効にする</translation>
+</message>
+<message>
+<source>Disable dynamic tick of system timers
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>システム タイマーの動的ティックを無効にする
+(省電力機能のため、ノート PC では推奨されません)</translation>
+</message>
+<message>
+<source>Disable enhance pointer precision
+(to achieve precise mouse control and muscle memory)</source>
+<translation>ポインターの精度を高める機能を無効にする
+(マウスを正確に操作し、感覚で覚えられるようにする)</translation>
+</message>
+<message>
+<source>Disable fast start-up  (Windows function designed for HDD and not SSD)</source>
+<translation>高速スタートアップを無効にする  (SSD ではなく HDD 向けの Windows の機能)</translation>
+</message>
+<message>
+<source>Disable files history (even in explorer)</source>
+<translation>ファイル履歴を無効にする (エクスプローラーでも)</translation>
+</message>
+<message>
+<source>Disable game recording and broadcasting</source>
+<translation>ゲームの録画と配信を無効にする</translation>
+</message>
+<message>
+<source>Disable Gamebar</source>
+<translation>Game Bar を無効にする</translation>
+</message>
+<message>
+<source>Disable hibernation mode</source>
+<translation>休止状態を無効にする</translation>
+</message>
+<message>
+<source>Disable hibernation mode  (gain %1 GB of storage space)</source>
+<translation>休止状態を無効にする  (%1 GB の記憶域を節約)</translation>
+</message>
+<message>
+<source>Disable HPET  (High Precision Event Timer)
+(use invariant TSC instead which may be faster for gaming)
+(important: do not disable HPET in BIOS settings)</source>
+<translation>HPET を無効にする  (High Precision Event Timer)
+(ゲームではより高速な場合がある不変 TSC を使用)
+(重要: BIOS の設定で HPET を無効にしないでください)</translation>
+</message>
+<message>
+<source>Disable last access time stamps  (NTFS drive only)</source>
+<translation>最終アクセス日時の記録を無効にする  (NTFS ドライブのみ)</translation>
+</message>
+<message>
+<source>Disable LockApp.exe  (lockapp.exe allows additional information on the lock screen)</source>
+<translation>LockApp.exe を無効にする  (ロック画面の追加情報を表示するもの)</translation>
+</message>
+<message>
+<source>Disable Multiplane Overlay (MPO)
+(may fix some screen flickering / stuttering issues BUT loose some fullscreen optimizations,
+especially for video playback apps)</source>
+<translation>Multiplane Overlay (MPO) を無効にする
+(画面のちらつきやカクつきが直ることがありますが、全画面表示の最適化の一部が失われます。
+特に動画再生アプリで影響があります)</translation>
+</message>
+<message>
+<source>Disable Nagle’s Algorithm
+(may improve the real-time responsiveness of your network connection, but may increase traffic)</source>
+<translation>Nagle アルゴリズムを無効にする
+(ネットワーク接続の応答性が向上することがありますが、通信量が増えることがあります)</translation>
+</message>
+<message>
+<source>Disable periodic registry backup</source>
+<translation>レジストリの定期的なバックアップを無効にする</translation>
+</message>
+<message>
+<source>Disable Prefetcher  (prevents preloading of applications)</source>
+<translation>Prefetcher を無効にする  (アプリの事前読み込みを行わない)</translation>
+</message>
+<message>
+<source>Disable scheduled tasks</source>
+<translation>スケジュール タスクを無効にする</translation>
+</message>
+<message>
+<source>Disable scheduled tasks completed successfully</source>
+<translation>スケジュール タスクの無効化が正常に完了しました</translation>
+</message>
+<message>
+<source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
+<translation>SearchHost.exe を無効にする  (ファイル検索。高度な検索が動作しないことがあります)</translation>
+</message>
+<message>
+<source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
+<translation>SvcHost の分割を無効にする  (svchost.exe プロセスの数を減らす)</translation>
+</message>
+<message>
+<source>Disable telemetry (data collection for Microsoft)
+(Other telemetry is disabled in the Services and Scheduled Tasks, or the Optimizer page)</source>
+<translation>テレメトリを無効にする (Microsoft によるデータ収集)
+(その他のテレメトリは、サービス、スケジュール タスク、最適化の各ページで無効にします)</translation>
+</message>
+<message>
+<source>Disable ULPS  (Ultra Low Power State, only for AMD graphics cards)
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>ULPS を無効にする  (Ultra Low Power State、AMD グラフィックス カードのみ)
+(省電力機能のため、ノート PC では推奨されません)</translation>
+</message>
+<message>
+<source>Disable Windows write-cache buffer flushing</source>
+<translation>Windows の書き込みキャッシュ バッファーのフラッシュを無効にする</translation>
+</message>
+<message>
+<source>Disabled</source>
+<translation>無効</translation>
+</message>
+<message>
+<source>disabled</source>
+<translation>無効</translation>
+</message>
+<message>
+<source>disabled:</source>
+<translation>無効:</translation>
+</message>
+<message>
+<source>DISK</source>
+<translation>ディスク</translation>
+</message>
+<message>
+<source>Display name</source>
+<translation>表示名</translation>
+</message>
+<message>
+<source>display threads and handles count</source>
+<translation>スレッド数とハンドル数を表示</translation>
+</message>
+<message>
+<source>Do you want to restore start mode option of all services?<byte value="xd"/>
+<byte value="xd"/>
+If you click No (recommended),<byte value="xd"/>
+then restore only the services you have disabled</source>
+<translation>すべてのサービスのスタートアップの種類を復元しますか?<byte value="xd"/>
+<byte value="xd"/>
+[いいえ] (推奨) をクリックすると、<byte value="xd"/>
+無効にしたサービスだけが復元されます</translation>
+</message>
+<message>
+<source>Do you want to start this app with Admin rights?</source>
+<translation>このアプリを管理者として起動し直しますか?</translation>
+</message>
+<message>
+<source>done</source>
+<translation>完了</translation>
+</message>
+<message>
+<source>Enable Auto HDR  (forces HDR mode on SDR content)</source>
+<translation>自動 HDR を有効にする  (SDR コンテンツを HDR モードにする)</translation>
+</message>
+<message>
+<source>Enable checked programs</source>
+<translation>選択したプログラムを有効にする</translation>
+</message>
+<message>
+<source>ENABLE checked services</source>
+<translation>選択したサービスを有効にする</translation>
+</message>
+<message>
+<source>Enable checked services finished</source>
+<translation>選択したサービスを有効にしました</translation>
+</message>
+<message>
+<source>Enable game mode  (enabled by default)</source>
+<translation>ゲーム モードを有効にする  (既定で有効)</translation>
+</message>
+<message>
+<source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
+<translation>Windows 10 のコンテキスト メニューを有効にする  (すべての項目を表示)</translation>
+</message>
+<message>
+<source>enabled</source>
+<translation>有効</translation>
+</message>
+<message>
+<source>enabled:</source>
+<translation>有効:</translation>
+</message>
+<message>
+<source>English</source>
+<translation>English</translation>
+</message>
+<message>
+<source>error</source>
+<translation>エラー</translation>
+</message>
+<message>
+<source>Features</source>
+<translation>機能</translation>
+</message>
+<message>
+<source>Features applied successfully. Restart your PC!</source>
+<translation>機能が正常に適用されました。PC を再起動してください!</translation>
+</message>
+<message>
+<source>Features: %1 improvements can be applied</source>
+<translation>機能: %1 件の改善を適用できます</translation>
+</message>
+<message>
+<source>Features: applied successfully. Restart your PC!</source>
+<translation>機能: 正常に適用されました。PC を再起動してください!</translation>
+</message>
+<message>
+<source>Features: applies Gaming optimizations</source>
+<translation>機能: ゲームの最適化を適用</translation>
+</message>
+<message>
+<source>Features: applies SSD optimizations</source>
+<translation>機能: SSD の最適化を適用</translation>
+</message>
+<message>
+<source>Features: applies Windows optimizations</source>
+<translation>機能: Windows の最適化を適用</translation>
+</message>
+<message>
+<source>Features: Battery detected! Some optimizations will not be applied to maintain battery life</source>
+<translation>機能: バッテリーが検出されました! バッテリー駆動時間を維持するため、一部の最適化は適用されません</translation>
+</message>
+<message>
+<source>Features: reset Gaming optimizations</source>
+<translation>機能: ゲームの最適化をリセット</translation>
+</message>
+<message>
+<source>Features: reset SSD optimizations</source>
+<translation>機能: SSD の最適化をリセット</translation>
+</message>
+<message>
+<source>Features: reset Windows optimizations</source>
+<translation>機能: Windows の最適化をリセット</translation>
+</message>
+<message>
+<source>Files sharing</source>
+<translation>ファイル共有</translation>
+</message>
+<message>
+<source>finished</source>
+<translation>完了</translation>
+</message>
+<message>
+<source>Français</source>
+<translation>Français</translation>
+</message>
+<message>
+<source>free memory</source>
+<translation>空きメモリ</translation>
+</message>
+<message>
+<source>free on</source>
+<translation>空き容量</translation>
+</message>
+<message>
+<source>GAMING</source>
+<translation>ゲーム</translation>
+</message>
+<message>
+<source>Get system info:</source>
+<translation>システム情報を取得:</translation>
+</message>
+<message>
+<source>Get WinSxS folder size in features page</source>
+<translation>機能ページで WinSxS フォルダーのサイズを取得する</translation>
+</message>
+<message>
+<source>GPU</source>
+<translation>GPU</translation>
+</message>
+<message>
+<source>Grayed out services are considered necessary or critical</source>
+<translation>灰色のサービスは、必要または重要とみなされています</translation>
+</message>
+<message>
+<source>Grayed out services refer to those disabled outside this tab</source>
+<translation>灰色のサービスは、このタブ以外で無効にされたものです</translation>
+</message>
+<message>
+<source>handles</source>
+<translation>ハンドル</translation>
+</message>
+<message>
+<source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
+<translation>Bluetooth 接続のヘッドセットやオーディオ機器がない場合は、チェックを外すことができます</translation>
+</message>
+<message>
+<source>If you don't have any printers, you can uncheck this</source>
+<translation>プリンターがない場合は、チェックを外すことができます</translation>
+</message>
+<message>
+<source>Increase maximum amount of physical memory that can be locked for I/O operations</source>
+<translation>I/O 操作のためにロックできる物理メモリの上限を増やす</translation>
+</message>
+<message>
+<source>Install</source>
+<translation>インストール</translation>
+</message>
+<message>
+<source>Install packages</source>
+<translation>パッケージをインストール</translation>
+</message>
+<message>
+<source>Intelligent personal assistant</source>
+<translation>インテリジェント パーソナル アシスタント</translation>
+</message>
+<message>
+<source>Interface language:</source>
+<translation>表示言語:</translation>
+</message>
+<message>
+<source>Interface type:</source>
+<translation>インターフェイスの種類:</translation>
+</message>
+<message>
+<source>Internal system features that can slow down your PC unnecessarily.
+Check them to optimize or uncheck them to restore defaults.</source>
+<translation>PC の動作を不必要に遅くすることがあるシステムの内部機能です。
+最適化するにはチェックを入れ、既定値に戻すにはチェックを外してください。</translation>
+</message>
+<message>
+<source>interval in seconds:</source>
+<translation>間隔 (秒):</translation>
+</message>
+<message>
+<source>Keep features</source>
+<translation>残す機能</translation>
+</message>
+<message>
+<source>Kestrune</source>
+<translation>Kestrune</translation>
+</message>
+<message>
+<source>lblStatus</source>
+<translation>lblStatus</translation>
+</message>
+<message>
+<source>Light</source>
+<translation>ライト</translation>
+</message>
+<message>
+<source>List of currently started services.
+Services are programs that run in the background for various reasons and purposes. Some of them are essential, while others may be superfluous and consume CPU, memory and disk resources unnecessarily.</source>
+<translation>現在開始されているサービスの一覧です。
+サービスは、さまざまな目的でバックグラウンドで実行されるプログラムです。不可欠なものもあれば、CPU、メモリ、ディスクを無駄に消費する不要なものもあります。</translation>
+</message>
+<message>
+<source>List of enabled scheduled tasks.
+Scheduled tasks are programs that run in the background at a specific time (or event) for various reasons. Some of them may be unnecessary and consume CPU, memory, and disk resources unnecessarily.</source>
+<translation>有効なスケジュール タスクの一覧です。
+スケジュール タスクは、さまざまな目的で特定の時刻 (またはイベント) にバックグラウンドで実行されるプログラムです。CPU、メモリ、ディスクを無駄に消費する不要なものもあります。</translation>
+</message>
+<message>
+<source>List of programs started automatically each time Windows starts.
+Like services and scheduled tasks, automatically started programs can slow down your system. Uncheck those you don't use on every startup.</source>
+<translation>Windows の起動時に毎回自動的に開始されるプログラムの一覧です。
+サービスやスケジュール タスクと同様に、システムの動作を遅くすることがあります。毎回使用しないものは、チェックを外してください。</translation>
+</message>
+<message>
+<source>List of Windows packages can be uninstalled without problems.
+You can reinstall them directly by clicking on &quot;View uninstalled packages&quot; below the list.</source>
+<translation>問題なくアンインストールできる Windows パッケージの一覧です。
+一覧の下の [アンインストール済みを表示] をクリックすると、直接インストールし直すことができます。</translation>
+</message>
+<message>
+<source>Load system info:</source>
+<translation>システム情報を読み込み:</translation>
+</message>
+<message>
+<source>loading disk info...</source>
+<translation>ディスク情報を読み込んでいます...</translation>
+</message>
+<message>
+<source>loading screen info...</source>
+<translation>画面情報を読み込んでいます...</translation>
+</message>
+<message>
+<source>Mail &amp; Calendar</source>
+<translation>メールとカレンダー</translation>
+</message>
+<message>
+<source>Manage features  (included in the page &quot;Features&quot;)</source>
+<translation>機能を管理する  ([機能] ページに含まれます)</translation>
+</message>
+<message>
+<source>Manage programs and packages  (included in the page &quot;Programs&quot;)</source>
+<translation>プログラムとパッケージを管理する  ([プログラム] ページに含まれます)</translation>
+</message>
+<message>
+<source>Manual</source>
+<translation>手動</translation>
+</message>
+<message>
+<source>Manual start</source>
+<translation>手動で開始</translation>
+</message>
+<message>
+<source>Media extensions for Edge and Windows Media Player</source>
+<translation>Edge と Windows Media Player 用のメディア拡張機能</translation>
+</message>
+<message>
+<source>MEM</source>
+<translation>メモリ</translation>
+</message>
+<message>
+<source>Microsoft Codecs extensions</source>
+<translation>Microsoft コーデック</translation>
+</message>
+<message>
+<source>Microsoft codecs for video encoding/decoding. If you are not using Windows internal features for streaming,encoding or playing videos, uncheck this box</source>
+<translation>ビデオのエンコードとデコード用の Microsoft コーデック。Windows の内部機能でビデオのストリーミング、エンコード、再生を行わない場合は、チェックを外してください</translation>
+</message>
+<message>
+<source>Microsoft video editor</source>
+<translation>Microsoft ビデオ エディター</translation>
+</message>
+<message>
+<source>Mobile device synchronization</source>
+<translation>モバイル デバイスの同期</translation>
+</message>
+<message>
+<source>Monitor and display some system information in the title bar</source>
+<translation>システム情報を監視し、タイトル バーに表示する</translation>
+</message>
+<message>
+<source>MotherBoard</source>
+<translation>マザーボード</translation>
+</message>
+<message>
+<source>Name</source>
+<translation>名前</translation>
+</message>
+<message>
+<source>Name:</source>
+<translation>名前:</translation>
+</message>
+<message>
+<source>Need reboot!</source>
+<translation>再起動が必要です!</translation>
+</message>
+<message>
+<source>NFC</source>
+<translation>NFC</translation>
+</message>
+<message>
+<source>No</source>
+<translation>いいえ</translation>
+</message>
+<message>
+<source>no description</source>
+<translation>説明なし</translation>
+</message>
+<message>
+<source>No optimizations found!</source>
+<translation>最適化の項目は見つかりませんでした!</translation>
+</message>
+<message>
+<source>Old Xbox App, no longer supported!</source>
+<translation>以前の Xbox アプリ、サポートは終了しました!</translation>
+</message>
+<message>
+<source>on drive</source>
+<translation>ドライブ</translation>
+</message>
+<message>
+<source>Optimization finished</source>
+<translation>最適化が完了しました</translation>
+</message>
+<message>
+<source>Optimize</source>
+<translation>最適化する</translation>
+</message>
+<message>
+<source>Optimizer</source>
+<translation>最適化</translation>
+</message>
+<message>
+<source>Options</source>
+<translation>設定</translation>
+</message>
+<message>
+<source>Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>ローカル ネットワーク用の別のプロトコル (例: 一部のビデオ プレーヤーがネットワーク ドライブへの接続に使用)<byte value="xd"/>
+(既定では使用されていませんが、有効になっています!)</translation>
+</message>
+<message>
+<source>Otherwise some scheduled tasks will not be detected!</source>
+<translation>そうしないと、一部のスケジュール タスクが検出されません!</translation>
+</message>
+<message>
+<source>package: </source>
+<translation>パッケージ: </translation>
+</message>
+<message>
+<source>Package: can be installed: </source>
+<translation>パッケージ: インストールできます: </translation>
+</message>
+<message>
+<source>Package: can be uninstalled: </source>
+<translation>パッケージ: アンインストールできます: </translation>
+</message>
+<message>
+<source>Packages</source>
+<translation>パッケージ</translation>
+</message>
+<message>
+<source>packages finished</source>
+<translation>パッケージの処理が終了しました</translation>
+</message>
+<message>
+<source>Packages installed:</source>
+<translation>インストール済みパッケージ:</translation>
+</message>
+<message>
+<source>Packages uninstalled:</source>
+<translation>アンインストール済みパッケージ:</translation>
+</message>
+<message>
+<source>Packages:</source>
+<translation>パッケージ:</translation>
+</message>
+<message>
+<source>Path</source>
+<translation>パス</translation>
+</message>
+<message>
+<source>Phone link</source>
+<translation>スマートフォン連携</translation>
+</message>
+<message>
+<source>Printer</source>
+<translation>プリンター</translation>
+</message>
+<message>
+<source>Prioritize games  (GPU Priority, SFIO Priority, Scheduling category, Affinity)</source>
+<translation>ゲームを優先する  (GPU Priority, SFIO Priority, Scheduling category, Affinity)</translation>
+</message>
+<message>
+<source>Process: can be disable: %1 from Riva Tuner Statistic Server app!<byte value="xd"/>
+This process only allows screen video capture.Does not affect the monitoring display in any way</source>
+<translation>プロセス: 無効にできます: Riva Tuner Statistic Server アプリの %1!<byte value="xd"/>
+このプロセスは画面の動画キャプチャにのみ使用されます。監視の表示にはまったく影響しません</translation>
+</message>
+<message>
+<source>Process: disable EncoderServer done</source>
+<translation>プロセス: EncoderServer の無効化完了</translation>
+</message>
+<message>
+<source>processes</source>
+<translation>プロセス</translation>
+</message>
+<message>
+<source>Programs</source>
+<translation>プログラム</translation>
+</message>
+<message>
+<source>Programs started automatically</source>
+<translation>自動的に開始されるプログラム</translation>
+</message>
+<message>
+<source>Proxy and VPN</source>
+<translation>プロキシと VPN</translation>
+</message>
+<message>
+<source>Proxy or VPN functionality to improve the security of your network traffic<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>ネットワーク通信の安全性を高めるプロキシまたは VPN の機能<byte value="xd"/>
+(既定では使用されていませんが、有効になっています!)</translation>
+</message>
+<message>
+<source>Quick setup of some bluetooth headsets<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>一部の Bluetooth ヘッドセットの簡単セットアップ<byte value="xd"/>
+(既定では使用されていませんが、有効になっています!)</translation>
+</message>
+<message>
+<source>Reduces certain delays
+(menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
+<translation>一部の待ち時間を短縮する
+(メニューの表示、アプリやサービスの終了、応答しないアプリ)</translation>
+</message>
+<message>
+<source>Refresh</source>
+<translation>最新の情報に更新</translation>
+</message>
+<message>
+<source>Remove indexing attribute of %1</source>
+<translation>%1 のインデックス属性を削除</translation>
+</message>
+<message>
+<source>Remove indexing attribute of %1 finished</source>
+<translation>%1 のインデックス属性の削除完了</translation>
+</message>
+<message>
+<source>Remove indexing attribute of Windows partition %1</source>
+<translation>Windows パーティション %1 のインデックス属性を削除</translation>
+</message>
+<message>
+<source>Remove the indexed attribute from all files in the Windows partition
+(this operation may take some time)</source>
+<translation>Windows パーティションのすべてのファイルからインデックス属性を削除する
+(この操作には時間がかかる場合があります)</translation>
+</message>
+<message>
+<source>Restoration finished</source>
+<translation>復元が完了しました</translation>
+</message>
+<message>
+<source>Restoration finished: Restart your PC!</source>
+<translation>復元が完了しました: PC を再起動してください!</translation>
+</message>
+<message>
+<source>Restore</source>
+<translation>復元</translation>
+</message>
+<message>
+<source>RESTORE disabled scheduled tasks</source>
+<translation>無効にしたスケジュール タスクを復元する</translation>
+</message>
+<message>
+<source>RESTORE disabled services</source>
+<translation>無効にしたサービスを復元する</translation>
+</message>
+<message>
+<source>Restore scheduled tasks completed successfully</source>
+<translation>スケジュール タスクの復元が正常に完了しました</translation>
+</message>
+<message>
+<source>Restore services finished</source>
+<translation>サービスの復元が完了しました</translation>
+</message>
+<message>
+<source>Restoring scheduled tasks</source>
+<translation>スケジュール タスクの復元</translation>
+</message>
+<message>
+<source>Scheduled tasks</source>
+<translation>スケジュール タスク</translation>
+</message>
+<message>
+<source>Screenshot tool</source>
+<translation>スクリーンショット ツール</translation>
+</message>
+<message>
+<source>Service: can be disable: </source>
+<translation>サービス: 無効にできます: </translation>
+</message>
+<message>
+<source>Service: can be enable: </source>
+<translation>サービス: 有効にできます: </translation>
+</message>
+<message>
+<source>Service: can be set to manual:</source>
+<translation>サービス: 手動に設定できます:</translation>
+</message>
+<message>
+<source>Service: disable %1</source>
+<translation>サービス: %1 を無効化</translation>
+</message>
+<message>
+<source>Service: disable and stop %1</source>
+<translation>サービス: %1 を無効化して停止</translation>
+</message>
+<message>
+<source>Service: enable %1</source>
+<translation>サービス: %1 を有効化</translation>
+</message>
+<message>
+<source>Service: enable %1 done</source>
+<translation>サービス: %1 の有効化完了</translation>
+</message>
+<message>
+<source>Service: enable and start %1</source>
+<translation>サービス: %1 を有効化して開始</translation>
+</message>
+<message>
+<source>Service: enable and start %1 done</source>
+<translation>サービス: %1 の有効化と開始完了</translation>
+</message>
+<message>
+<source>Service: enable and start %1, already running!</source>
+<translation>サービス: %1 を有効化して開始、既に実行中です!</translation>
+</message>
+<message>
+<source>Service: set to manual:</source>
+<translation>サービス: 手動に設定:</translation>
+</message>
+<message>
+<source>Services</source>
+<translation>サービス</translation>
+</message>
+<message>
+<source>Services  (Experienced users)</source>
+<translation>サービス  (上級ユーザー向け)</translation>
+</message>
+<message>
+<source>Services:</source>
+<translation>サービス:</translation>
+</message>
+<message>
+<source>Set the maximum number of GPU pre-rendered frames to 1
+(if you have a good CPU, this reduces latency)</source>
+<translation>GPU がプリレンダリングする最大フレーム数を 1 に設定する
+(高性能な CPU では遅延が減ります)</translation>
+</message>
+<message>
+<source>SSD</source>
+<translation>SSD</translation>
+</message>
+<message>
+<source>Start mode</source>
+<translation>開始の種類</translation>
+</message>
+<message>
+<source>Start service:</source>
+<translation>サービスの開始:</translation>
+</message>
+<message>
+<source>Start with adminstrator rights</source>
+<translation>管理者権限で起動する</translation>
+</message>
+<message>
+<source>started:</source>
+<translation>開始:</translation>
+</message>
+<message>
+<source>Status: Getting WinSxS folder size finished!</source>
+<translation>状態: WinSxS フォルダーのサイズを取得しました!</translation>
+</message>
+<message>
+<source>Status: Getting WinSxS folder size...</source>
+<translation>状態: WinSxS フォルダーのサイズを取得しています...</translation>
+</message>
+<message>
+<source>Stop service:</source>
+<translation>サービスの停止:</translation>
+</message>
+<message>
+<source>stopped:</source>
+<translation>停止:</translation>
+</message>
+<message>
+<source>System</source>
+<translation>システム</translation>
+</message>
+<message>
+<source>System
+Information</source>
+<translation>システム
+情報</translation>
+</message>
+<message>
+<source>System Information</source>
+<translation>システム情報</translation>
+</message>
+<message>
+<source>Task:</source>
+<translation>タスク:</translation>
+</message>
+<message>
+<source>Task: can be disable: </source>
+<translation>タスク: 無効にできます: </translation>
+</message>
+<message>
+<source>Task: can be enable: </source>
+<translation>タスク: 有効にできます: </translation>
+</message>
+<message>
+<source>Task: disable and stop %1</source>
+<translation>タスク: %1 を無効化して停止</translation>
+</message>
+<message>
+<source>Task: Enable and start %1 done</source>
+<translation>タスク: %1 の有効化と開始完了</translation>
+</message>
+<message>
+<source>Tasks</source>
+<translation>タスク</translation>
+</message>
+<message>
+<source>Tasks:</source>
+<translation>タスク:</translation>
+</message>
+<message>
+<source>Theme:</source>
+<translation>テーマ:</translation>
+</message>
+<message>
+<source>threads</source>
+<translation>スレッド</translation>
+</message>
+<message>
+<source>Uncheck all</source>
+<translation>すべての選択を解除</translation>
+</message>
+<message>
+<source>Uninstall</source>
+<translation>アンインストール</translation>
+</message>
+<message>
+<source>Uninstall packages</source>
+<translation>パッケージをアンインストール</translation>
+</message>
+<message>
+<source>uninstalled:</source>
+<translation>アンインストール済み:</translation>
+</message>
+<message>
+<source>unknown</source>
+<translation>不明</translation>
+</message>
+<message>
+<source>UPnP network services</source>
+<translation>UPnP ネットワーク サービス</translation>
+</message>
+<message>
+<source>View auto started programs</source>
+<translation>スタートアップ プログラムを表示</translation>
+</message>
+<message>
+<source>View disabled services</source>
+<translation>無効なサービスを表示</translation>
+</message>
+<message>
+<source>View installed packages</source>
+<translation>インストール済みを表示</translation>
+</message>
+<message>
+<source>View programs disabled</source>
+<translation>無効なプログラムを表示</translation>
+</message>
+<message>
+<source>View started services</source>
+<translation>開始済みのサービスを表示</translation>
+</message>
+<message>
+<source>View uninstalled packages</source>
+<translation>アンインストール済みを表示</translation>
+</message>
+<message>
+<source>Widget app</source>
+<translation>ウィジェット アプリ</translation>
+</message>
+<message>
+<source>Win32PrioritySeparation:   Processor time allocated to applications.</source>
+<translation>Win32PrioritySeparation:   アプリに割り当てられるプロセッサ時間。</translation>
+</message>
+<message>
+<source>WINDOWS</source>
+<translation>WINDOWS</translation>
+</message>
+<message>
+<source>Windows</source>
+<translation>Windows</translation>
+</message>
+<message>
+<source>Windows application: ERROR install %1: </source>
+<translation>Windows アプリ: %1 のインストール エラー: </translation>
+</message>
+<message>
+<source>Windows application: ERROR uninstall %1: </source>
+<translation>Windows アプリ: %1 のアンインストール エラー: </translation>
+</message>
+<message>
+<source>Windows application: install %1 done</source>
+<translation>Windows アプリ: %1 のインストール完了</translation>
+</message>
+<message>
+<source>Windows application: uninstall %1 done</source>
+<translation>Windows アプリ: %1 のアンインストール完了</translation>
+</message>
+<message>
+<source>Windows applications</source>
+<translation>Windows アプリ</translation>
+</message>
+<message>
+<source>Windows packages installed</source>
+<translation>インストール済みの Windows パッケージ</translation>
+</message>
+<message>
+<source>Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>ローカル ネットワークでの Windows の共有機能 (SMB プロトコル) (例: ローカル ネットワーク上のハード ドライブやプリンターへの接続)<byte value="xd"/>
+(既定では使用されていませんが、有効になっています!)</translation>
+</message>
+<message>
+<source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
+<translation>Windows パーティションのすべてのファイルのインデックス属性を設定しますか?</translation>
+</message>
+<message>
+<source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
+<translation>Windows パーティションのすべてのファイルのインデックス属性を設定しますか?</translation>
+</message>
+<message>
+<source>Xbox App</source>
+<translation>Xbox アプリ</translation>
+</message>
+<message>
+<source>Xbox game bar</source>
+<translation>Xbox Game Bar</translation>
+</message>
+<message>
+<source>XBOX Game Bar that appears at the top of the screen, above a game. If you don't use it, uncheck this box</source>
+<translation>ゲームの上、画面の上部に表示される Xbox Game Bar です。使用しない場合は、チェックを外してください</translation>
+</message>
+<message>
+<source>Yes</source>
+<translation>はい</translation>
+</message>
+<message>
+<source>You must launch this app with Admin rights!</source>
+<translation>このアプリは管理者として実行する必要があります!</translation>
+</message>
+<message>
+<source>You should launch this app with Admin rights!</source>
+<translation>このアプリは管理者として実行することをお勧めします!</translation>
+</message>
+</context>
+</TS>

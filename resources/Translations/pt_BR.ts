@@ -1,0 +1,1410 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en">
+<!-- One context for all: see cmake/translations.cmake. -->
+<context>
+<name>texts</name>
+<message>
+<source>  20   (variable and long quantum, foreground boost X1)</source>
+<translation>  20   (quantum variável e longo, reforço de primeiro plano X1)</translation>
+</message>
+<message>
+<source>  21   (variable and long quantum, foreground boost X2)</source>
+<translation>  21   (quantum variável e longo, reforço de primeiro plano X2)</translation>
+</message>
+<message>
+<source>  22   (variable and long quantum, foreground boost X3)</source>
+<translation>  22   (quantum variável e longo, reforço de primeiro plano X3)</translation>
+</message>
+<message>
+<source>  24   (fixed and long quantum, foreground boost X1) (not recommended)</source>
+<translation>  24   (quantum fixo e longo, reforço de primeiro plano X1) (não recomendado)</translation>
+</message>
+<message>
+<source>  36   (variable and short quantum, foreground boost X1)</source>
+<translation>  36   (quantum variável e curto, reforço de primeiro plano X1)</translation>
+</message>
+<message>
+<source>  37   (variable and short quantum, foreground boost X2)</source>
+<translation>  37   (quantum variável e curto, reforço de primeiro plano X2)</translation>
+</message>
+<message>
+<source>  38   (variable and short quantum, foreground boost X3) (recommended)</source>
+<translation>  38   (quantum variável e curto, reforço de primeiro plano X3) (recomendado)</translation>
+</message>
+<message>
+<source>  40   (fixed and short quantum, foreground boost X1) (not recommended)</source>
+<translation>  40   (quantum fixo e curto, reforço de primeiro plano X1) (não recomendado)</translation>
+</message>
+<message>
+<source>1</source>
+<translation>1</translation>
+</message>
+<message>
+<source>10</source>
+<translation>10</translation>
+</message>
+<message>
+<source>2</source>
+<translation>2</translation>
+</message>
+<message>
+<source>3</source>
+<translation>3</translation>
+</message>
+<message>
+<source>30</source>
+<translation>30</translation>
+</message>
+<message>
+<source>4</source>
+<translation>4</translation>
+</message>
+<message>
+<source>5</source>
+<translation>5</translation>
+</message>
+<message>
+<source>60</source>
+<translation>60</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Lucida Console'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;table border=&quot;0&quot; width=&quot;100%&quot; cellspacing=&quot;10&quot; cellpadding=&quot;0&quot;&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;%winName&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Edition:   %winEdition&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Build:   %winBuild&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Display version:   %winVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Installed on SSD:   %winOnSsd&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Mother-board:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%mbManufacturer&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Model:   %mbModel&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Bios version:   %mbBiosVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Bios date:   %mbBiosDate&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Processor:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%cpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Default frequency:   %cpuFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Cores / Threads:   %cpuCore  / %cpuThread&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L2 cache size:   %cpuL2Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L3 cache size:   %cpuL3Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Socket:   %cpuSocket&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HyperThreading:   %cpuHt&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtualization:   %cpuV&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Memory:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Capacity:   %memTotal&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Free:   %memFree&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequency:   %memFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Form Factor:   %memFormFactor&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtual Memory:   %memVSize&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Graphics card and screen:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%gpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Driver version:   %gpuDriverVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Driver date:   %gpuDriverDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Screen:   loading screen info...&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolution:   %gpuDesktopSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolution max:   %gpuDesktopMaxSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Refresh rate:   %gpuRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Refresh rate max:   %screenMaxRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HDR:   %screenHdr&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Disk:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;loading disk info...&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Lucida Console'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;table border=&quot;0&quot; width=&quot;100%&quot; cellspacing=&quot;10&quot; cellpadding=&quot;0&quot;&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;%winName&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Edição:   %winEdition&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Compilação:   %winBuild&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Versão:   %winVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Instalado em SSD:   %winOnSsd&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Placa-mãe:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%mbManufacturer&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Modelo:   %mbModel&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Versão do BIOS:   %mbBiosVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Data do BIOS:   %mbBiosDate&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Processador:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%cpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequência padrão:   %cpuFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Núcleos / Threads:   %cpuCore  / %cpuThread&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Tamanho do cache L2:   %cpuL2Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Tamanho do cache L3:   %cpuL3Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Soquete:   %cpuSocket&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HyperThreading:   %cpuHt&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtualização:   %cpuV&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Memória:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Capacidade:   %memTotal&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Livre:   %memFree&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequência:   %memFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Formato:   %memFormFactor&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Memória virtual:   %memVSize&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Placa gráfica e tela:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%gpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Versão do driver:   %gpuDriverVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Data do driver:   %gpuDriverDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Tela:   carregando dados da tela...&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolução:   %gpuDesktopSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolução máx.:   %gpuDesktopMaxSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequência:   %gpuRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequência máx.:   %screenMaxRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HDR:   %screenHdr&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Disco:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;carregando dados do disco...&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Segoe UI'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Version:&lt;/span&gt;   beta %version&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Date:&lt;/span&gt;    %buildDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Author:&lt;/span&gt;   Ondrevale&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Contact:&lt;/span&gt;   &lt;a href=&quot;mailto:contact@kestrune.example&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;contact@kestrune.example&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Website:&lt;/span&gt;   &lt;a href=&quot;https://kestrune.example/&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;https://kestrune.example/&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Programming language and framework:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ with Qt 6, licensed under the GNU LGPL version 3&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Developped for Windows 10 and Windows 11&lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Purpose:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;This application aims to improve general performance without distorting Windows, by helping you disable all features, programs, services, scheduled tasks, which may be superfluous and harm performance. It also configures some internal system features that are inaccessible through an interface and other options allow you to reduce the space occupied by Windows on the hard disk. (uninstalling unnecessary Windows applications, cleaning the WinSxs folder, ...)&lt;br /&gt;All in a few clicks and with the possibility of restoring to original values. &lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Important informations:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;All options in this application are reversible.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Be careful with the Services section. Do not disable services if you are not really aware of what they are, dependencies etc... USE THE ASSISTANT BUTTON!!!&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Segoe UI'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Versão:&lt;/span&gt;   beta %version&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Data:&lt;/span&gt;    %buildDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Autor:&lt;/span&gt;   Ondrevale&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Contato:&lt;/span&gt;   &lt;a href=&quot;mailto:contact@kestrune.example&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;contact@kestrune.example&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Site:&lt;/span&gt;   &lt;a href=&quot;https://kestrune.example/&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;https://kestrune.example/&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Linguagem de programação e framework:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ com Qt 6, licenciado sob a GNU LGPL versão 3&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Desenvolvido para Windows 10 e Windows 11&lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Objetivo:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Este aplicativo visa melhorar o desempenho geral sem descaracterizar o Windows, ajudando você a desabilitar recursos, programas, serviços e tarefas agendadas que podem ser supérfluos e prejudicar o desempenho. Ele também configura alguns recursos internos do sistema que não são acessíveis por nenhuma interface, e outras opções permitem reduzir o espaço ocupado pelo Windows no disco rígido. (desinstalar aplicativos do Windows desnecessários, limpar a pasta WinSxS, ...)&lt;br /&gt;Tudo em poucos cliques e com a possibilidade de restaurar os valores originais. &lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Informações importantes:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;Todas as opções deste aplicativo são reversíveis.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Tenha cuidado com a seção Serviços. Não desabilite serviços se você não souber realmente o que são, suas dependências etc. USE O BOTÃO ASSISTENTE!!!&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- FIXED quantum: the processor time allocated to applications is divided equally between applications,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;while VARIABLE quantum allow applications to hold the processor for longer if needed.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- SHORT quantum: the processor time allocated to applications is faster to switch from task to task,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;as opposed to LONG quantum, which allocates more processor time to the application.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- FOREGROUND BOOST X times: the quantum is increased X times in favor of the application&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;that is in the foreground.&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; font-size:4pt;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;In a pure gaming context, depending on the value selected, you favor the FPS (22, 21),&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS but also responsiveness (38, 37), or latency of your keyboard/mouse or gamepad (36, 24, 40).&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;a href=&quot;https://learn.microsoft.com/windows/win32/procthread/priority-boosts&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- Quantum FIXO: o tempo de processador é dividido igualmente entre os aplicativos,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;o quantum VARIÁVEL permite que eles retenham o processador por mais tempo.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- Quantum CURTO: o tempo de processador passa mais rápido de tarefa em tarefa,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;já o quantum LONGO aloca mais tempo de processador ao aplicativo.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- REFORÇO DE PRIMEIRO PLANO X vezes: o quantum é multiplicado por X&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;em favor do aplicativo em primeiro plano.&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; font-size:4pt;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Para jogos, conforme o valor escolhido, você favorece o FPS (22, 21),&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS e resposta (38, 37) ou latência do teclado/mouse ou controle (36, 24, 40).&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;a href=&quot;https://learn.microsoft.com/windows/win32/procthread/priority-boosts&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;leia mais&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Advanced optimizations via motherboard BIOS settings &lt;a href=&quot;https://kestrune.example/optimization.html&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Otimizações avançadas nas configurações do BIOS da placa-mãe &lt;a href=&quot;https://kestrune.example/optimization.html&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;leia mais&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Microsoft acknowledges performance impact with Memory Integrity and VMP enabled &lt;a href=&quot;https://learn.microsoft.com/windows/security/hardware-security/enable-virtualization-based-protection-of-code-integrity&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Microsoft admite que a integridade da memória e o VMP afetam o desempenho &lt;a href=&quot;https://learn.microsoft.com/windows/security/hardware-security/enable-virtualization-based-protection-of-code-integrity&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;leia mais&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;The WinSxS folder is an essential system component that serves as a repository for storing multiple versions of system files, allowing Windows to maintain good compatibility &lt;a href=&quot;https://learn.microsoft.com/windows-hardware/manufacture/desktop/manage-the-component-store&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;A pasta WinSxS é um componente essencial do sistema que serve de repositório para várias versões de arquivos do sistema, permitindo que o Windows mantenha boa compatibilidade &lt;a href=&quot;https://learn.microsoft.com/windows-hardware/manufacture/desktop/manage-the-component-store&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;leia mais&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>A newer version of Kestrune is available!<byte value="xd"/>
+Would you like to visit the website for download?<byte value="xd"/>
+<byte value="xd"/>
+Current version: %1<byte value="xd"/>
+Online version: %2</source>
+<translation>Uma versão mais recente do Kestrune está disponível!<byte value="xd"/>
+Deseja visitar o site para baixá-la?<byte value="xd"/>
+<byte value="xd"/>
+Versão atual: %1<byte value="xd"/>
+Versão online: %2</translation>
+</message>
+<message>
+<source>About</source>
+<translation>Sobre</translation>
+</message>
+<message>
+<source>Add indexing attribute of %1 finished</source>
+<translation>Atributo de indexação de %1 adicionado</translation>
+</message>
+<message>
+<source>Add indexing attribute of Windows partition %1</source>
+<translation>Adicionando o atributo de indexação da partição do Windows %1</translation>
+</message>
+<message>
+<source>Analyze</source>
+<translation>Analisar</translation>
+</message>
+<message>
+<source>Analyze and optimize Windows to improve overall performance by disabling unnecessary features and configuring some that are inaccessible through an interface.
+Optimizations come from the Services, Scheduled Tasks, Programs, and Features pages.</source>
+<translation>Analise e otimize o Windows para melhorar o desempenho geral, desabilitando recursos desnecessários e configurando outros que não são acessíveis por nenhuma interface.
+As otimizações vêm das páginas Serviços, Tarefas agendadas, Programas e Recursos.</translation>
+</message>
+<message>
+<source>Application to play PC games if you have a Gamepass account (paid)</source>
+<translation>Aplicativo para jogar jogos de PC com uma assinatura do Game Pass (paga)</translation>
+</message>
+<message>
+<source>Apply</source>
+<translation>Aplicar</translation>
+</message>
+<message>
+<source>Apply features finished successfully.</source>
+<translation>Recursos aplicados com êxito.</translation>
+</message>
+<message>
+<source>Are you sure to disable all checked services?</source>
+<translation>Tem certeza de que deseja desabilitar todos os serviços marcados?</translation>
+</message>
+<message>
+<source>Are you sure to disable all checked tasks?</source>
+<translation>Tem certeza de que deseja desabilitar todas as tarefas marcadas?</translation>
+</message>
+<message>
+<source>Are you sure you want to restore the original values?<byte value="xd"/>
+All features, applications, services and tasks will be restored.</source>
+<translation>Tem certeza de que deseja restaurar os valores originais?<byte value="xd"/>
+Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</translation>
+</message>
+<message>
+<source>Are you sure you want to restore the startup of all scheduled tasks?</source>
+<translation>Tem certeza de que deseja restaurar o início de todas as tarefas agendadas?</translation>
+</message>
+<message>
+<source>ASSISTANT - disable a list of non vital services</source>
+<translation>ASSISTENTE - desabilitar serviços não vitais</translation>
+</message>
+<message>
+<source>ASSISTANT - disable a list of scheduled tasks</source>
+<translation>ASSISTENTE - desabilitar uma lista de tarefas agendadas</translation>
+</message>
+<message>
+<source>Assistant - no services to deactivate</source>
+<translation>Assistente - nenhum serviço a desativar</translation>
+</message>
+<message>
+<source>Assistant - no tasks to deactivate</source>
+<translation>Assistente - nenhuma tarefa a desativar</translation>
+</message>
+<message>
+<source>Auto</source>
+<translation>Auto</translation>
+</message>
+<message>
+<source>Auto started programs disabled:</source>
+<translation>Programas de inicialização desabilitados:</translation>
+</message>
+<message>
+<source>Automatic start</source>
+<translation>Início automático</translation>
+</message>
+<message>
+<source>Automatically started programs</source>
+<translation>Programas iniciados automaticamente</translation>
+</message>
+<message>
+<source>Autorun</source>
+<translation>Inicialização</translation>
+</message>
+<message>
+<source>Autorun program: disable %1 done</source>
+<translation>Programa de inicialização: desabilitar %1 concluído</translation>
+</message>
+<message>
+<source>Autorun program: enable %1 done</source>
+<translation>Programa de inicialização: habilitar %1 concluído</translation>
+</message>
+<message>
+<source>Autorun:</source>
+<translation>Inicialização:</translation>
+</message>
+<message>
+<source>Autorun: can be disabled: </source>
+<translation>Inicialização: pode ser desabilitado: </translation>
+</message>
+<message>
+<source>Backup file exists</source>
+<translation>O arquivo de backup existe</translation>
+</message>
+<message>
+<source>Bluetooth audio</source>
+<translation>Áudio Bluetooth</translation>
+</message>
+<message>
+<source>Cancel</source>
+<translation>Cancelar</translation>
+</message>
+<message>
+<source>Cannot restore if you have not yet optimized!</source>
+<translation>Não é possível restaurar se você ainda não otimizou!</translation>
+</message>
+<message>
+<source>Capacity:</source>
+<translation>Capacidade:</translation>
+</message>
+<message>
+<source>Check all</source>
+<translation>Marcar tudo</translation>
+</message>
+<message>
+<source>Check update of Kestrune version</source>
+<translation>Verificar atualizações do Kestrune</translation>
+</message>
+<message>
+<source>Clean WinSxS folder with Microsoft DISM tool</source>
+<translation>Limpar a pasta WinSxS com a ferramenta Microsoft DISM</translation>
+</message>
+<message>
+<source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
+<translation>Limpar a pasta WinSxS com a ferramenta Microsoft DISM  (tamanho atual: %1 GB)</translation>
+</message>
+<message>
+<source>Comments</source>
+<translation>Comentários</translation>
+</message>
+<message>
+<source>Configure auto started programs done!</source>
+<translation>Configuração dos programas de inicialização concluída!</translation>
+</message>
+<message>
+<source>CPU</source>
+<translation>CPU</translation>
+</message>
+<message>
+<source>Dark</source>
+<translation>Escuro</translation>
+</message>
+<message>
+<source>Date of the last execution</source>
+<translation>Data da última execução</translation>
+</message>
+<message>
+<source>Description</source>
+<translation>Descrição</translation>
+</message>
+<message>
+<source>Development applet</source>
+<translation>Applet de desenvolvimento</translation>
+</message>
+<message>
+<source>Disable advanced indexing options</source>
+<translation>Desabilitar as opções avançadas de indexação</translation>
+</message>
+<message>
+<source>Disable automatic boot disk optimization</source>
+<translation>Desabilitar a otimização automática do disco de inicialização</translation>
+</message>
+<message>
+<source>Disable checked programs</source>
+<translation>Desabilitar programas marcados</translation>
+</message>
+<message>
+<source>DISABLE checked services</source>
+<translation>DESABILITAR serviços marcados</translation>
+</message>
+<message>
+<source>Disable checked services</source>
+<translation>Desabilitar serviços marcados</translation>
+</message>
+<message>
+<source>Disable checked services finished</source>
+<translation>Desabilitação dos serviços marcados concluída</translation>
+</message>
+<message>
+<source>DISABLE checked tasks</source>
+<translation>DESABILITAR tarefas marcadas</translation>
+</message>
+<message>
+<source>Disable clearing of virtual memory swap file on every shutdown</source>
+<translation>Desabilitar a limpeza do arquivo de paginação a cada desligamento</translation>
+</message>
+<message>
+<source>Disable cloud backup and restore functionalities</source>
+<translation>Desabilitar o backup e a restauração na nuvem</translation>
+</message>
+<message>
+<source>Disable CPU power throttling
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>Desabilitar a limitação de energia da CPU
+(economia de energia, otimização não recomendada para laptops)</translation>
+</message>
+<message>
+<source>Disable distribution optimization of Windows updates</source>
+<translation>Desabilitar a otimização da distribuição de atualizações do Windows</translation>
+</message>
+<message>
+<source>Disable dynamic tick of system timers
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>Desabilitar o tique dinâmico dos temporizadores do sistema
+(economia de energia, otimização não recomendada para laptops)</translation>
+</message>
+<message>
+<source>Disable enhance pointer precision
+(to achieve precise mouse control and muscle memory)</source>
+<translation>Desabilitar o aumento da precisão do ponteiro
+(para um controle preciso do mouse e memória muscular)</translation>
+</message>
+<message>
+<source>Disable fast start-up  (Windows function designed for HDD and not SSD)</source>
+<translation>Desabilitar a inicialização rápida  (função do Windows feita para HDD, não SSD)</translation>
+</message>
+<message>
+<source>Disable files history (even in explorer)</source>
+<translation>Desabilitar o histórico de arquivos (também no Explorador)</translation>
+</message>
+<message>
+<source>Disable game recording and broadcasting</source>
+<translation>Desabilitar a gravação e transmissão de jogos</translation>
+</message>
+<message>
+<source>Disable Gamebar</source>
+<translation>Desabilitar a Game Bar</translation>
+</message>
+<message>
+<source>Disable hibernation mode</source>
+<translation>Desabilitar o modo de hibernação</translation>
+</message>
+<message>
+<source>Disable hibernation mode  (gain %1 GB of storage space)</source>
+<translation>Desabilitar o modo de hibernação  (libera %1 GB de espaço de armazenamento)</translation>
+</message>
+<message>
+<source>Disable HPET  (High Precision Event Timer)
+(use invariant TSC instead which may be faster for gaming)
+(important: do not disable HPET in BIOS settings)</source>
+<translation>Desabilitar HPET  (High Precision Event Timer)
+(usa o TSC invariável, que pode ser mais rápido para jogos)
+(importante: não desabilite HPET nas configurações do BIOS)</translation>
+</message>
+<message>
+<source>Disable last access time stamps  (NTFS drive only)</source>
+<translation>Desabilitar o registro da hora do último acesso  (somente unidades NTFS)</translation>
+</message>
+<message>
+<source>Disable LockApp.exe  (lockapp.exe allows additional information on the lock screen)</source>
+<translation>Desabilitar LockApp.exe  (informações adicionais na tela de bloqueio)</translation>
+</message>
+<message>
+<source>Disable Multiplane Overlay (MPO)
+(may fix some screen flickering / stuttering issues BUT loose some fullscreen optimizations,
+especially for video playback apps)</source>
+<translation>Desabilitar Multiplane Overlay (MPO)
+(pode corrigir tremulações ou engasgos, MAS perde algumas otimizações
+de tela inteira, principalmente em aplicativos de vídeo)</translation>
+</message>
+<message>
+<source>Disable Nagle’s Algorithm
+(may improve the real-time responsiveness of your network connection, but may increase traffic)</source>
+<translation>Desabilitar o algoritmo de Nagle
+(pode melhorar a resposta da conexão de rede, mas aumentar o tráfego)</translation>
+</message>
+<message>
+<source>Disable periodic registry backup</source>
+<translation>Desabilitar o backup periódico do Registro</translation>
+</message>
+<message>
+<source>Disable Prefetcher  (prevents preloading of applications)</source>
+<translation>Desabilitar o Prefetcher  (impede o pré-carregamento de aplicativos)</translation>
+</message>
+<message>
+<source>Disable scheduled tasks</source>
+<translation>Desabilitar tarefas agendadas</translation>
+</message>
+<message>
+<source>Disable scheduled tasks completed successfully</source>
+<translation>Desabilitação das tarefas agendadas concluída com êxito</translation>
+</message>
+<message>
+<source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
+<translation>Desabilitar SearchHost.exe  (busca de arquivos; a busca avançada pode falhar)</translation>
+</message>
+<message>
+<source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
+<translation>Desabilitar a divisão do SvcHost  (reduz o número de processos svchost.exe)</translation>
+</message>
+<message>
+<source>Disable telemetry (data collection for Microsoft)
+(Other telemetry is disabled in the Services and Scheduled Tasks, or the Optimizer page)</source>
+<translation>Desabilitar a telemetria (coleta de dados para a Microsoft)
+(O restante é desabilitado em Serviços, Tarefas agendadas ou Otimizador)</translation>
+</message>
+<message>
+<source>Disable ULPS  (Ultra Low Power State, only for AMD graphics cards)
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>Desabilitar ULPS  (Ultra Low Power State, somente para placas gráficas AMD)
+(economia de energia, otimização não recomendada para laptops)</translation>
+</message>
+<message>
+<source>Disable Windows write-cache buffer flushing</source>
+<translation>Desabilitar a liberação do buffer de cache de gravação do Windows</translation>
+</message>
+<message>
+<source>Disabled</source>
+<translation>Desabilitado</translation>
+</message>
+<message>
+<source>disabled</source>
+<translation>desabilitado</translation>
+</message>
+<message>
+<source>disabled:</source>
+<translation>desabilitados:</translation>
+</message>
+<message>
+<source>DISK</source>
+<translation>DISCO</translation>
+</message>
+<message>
+<source>Display name</source>
+<translation>Nome de exibição</translation>
+</message>
+<message>
+<source>display threads and handles count</source>
+<translation>exibir o número de threads e identificadores</translation>
+</message>
+<message>
+<source>Do you want to restore start mode option of all services?<byte value="xd"/>
+<byte value="xd"/>
+If you click No (recommended),<byte value="xd"/>
+then restore only the services you have disabled</source>
+<translation>Deseja restaurar o tipo de inicialização de todos os serviços?<byte value="xd"/>
+<byte value="xd"/>
+Se você clicar em Não (recomendado),<byte value="xd"/>
+somente os serviços que você desabilitou serão restaurados</translation>
+</message>
+<message>
+<source>Do you want to start this app with Admin rights?</source>
+<translation>Deseja reiniciar este aplicativo como administrador?</translation>
+</message>
+<message>
+<source>done</source>
+<translation>pronto</translation>
+</message>
+<message>
+<source>Enable Auto HDR  (forces HDR mode on SDR content)</source>
+<translation>Habilitar Auto HDR  (força o modo HDR em conteúdo SDR)</translation>
+</message>
+<message>
+<source>Enable checked programs</source>
+<translation>Habilitar programas marcados</translation>
+</message>
+<message>
+<source>ENABLE checked services</source>
+<translation>HABILITAR serviços marcados</translation>
+</message>
+<message>
+<source>Enable checked services finished</source>
+<translation>Habilitação dos serviços marcados concluída</translation>
+</message>
+<message>
+<source>Enable game mode  (enabled by default)</source>
+<translation>Habilitar o modo de jogo  (habilitado por padrão)</translation>
+</message>
+<message>
+<source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
+<translation>Habilitar o menu de contexto do Windows 10  (todas as entradas são exibidas)</translation>
+</message>
+<message>
+<source>enabled</source>
+<translation>habilitado</translation>
+</message>
+<message>
+<source>enabled:</source>
+<translation>habilitadas:</translation>
+</message>
+<message>
+<source>English</source>
+<translation>English</translation>
+</message>
+<message>
+<source>error</source>
+<translation>erro</translation>
+</message>
+<message>
+<source>Features</source>
+<translation>Recursos</translation>
+</message>
+<message>
+<source>Features applied successfully. Restart your PC!</source>
+<translation>Recursos aplicados com êxito. Reinicie o PC!</translation>
+</message>
+<message>
+<source>Features: %1 improvements can be applied</source>
+<translation>Recursos: %1 melhorias podem ser aplicadas</translation>
+</message>
+<message>
+<source>Features: applied successfully. Restart your PC!</source>
+<translation>Recursos: aplicados com êxito. Reinicie o PC!</translation>
+</message>
+<message>
+<source>Features: applies Gaming optimizations</source>
+<translation>Recursos: aplicando otimizações de jogos</translation>
+</message>
+<message>
+<source>Features: applies SSD optimizations</source>
+<translation>Recursos: aplicando otimizações de SSD</translation>
+</message>
+<message>
+<source>Features: applies Windows optimizations</source>
+<translation>Recursos: aplicando otimizações do Windows</translation>
+</message>
+<message>
+<source>Features: Battery detected! Some optimizations will not be applied to maintain battery life</source>
+<translation>Recursos: bateria detectada! Algumas otimizações não serão aplicadas para preservar a duração da bateria</translation>
+</message>
+<message>
+<source>Features: reset Gaming optimizations</source>
+<translation>Recursos: redefinindo otimizações de jogos</translation>
+</message>
+<message>
+<source>Features: reset SSD optimizations</source>
+<translation>Recursos: redefinindo otimizações de SSD</translation>
+</message>
+<message>
+<source>Features: reset Windows optimizations</source>
+<translation>Recursos: redefinindo otimizações do Windows</translation>
+</message>
+<message>
+<source>Files sharing</source>
+<translation>Compartilhamento de arquivos</translation>
+</message>
+<message>
+<source>finished</source>
+<translation>concluído</translation>
+</message>
+<message>
+<source>Français</source>
+<translation>Français</translation>
+</message>
+<message>
+<source>free memory</source>
+<translation>memória livre</translation>
+</message>
+<message>
+<source>free on</source>
+<translation>livre em</translation>
+</message>
+<message>
+<source>GAMING</source>
+<translation>JOGOS</translation>
+</message>
+<message>
+<source>Get system info:</source>
+<translation>Obter informações do sistema:</translation>
+</message>
+<message>
+<source>Get WinSxS folder size in features page</source>
+<translation>Obter o tamanho da pasta WinSxS na página Recursos</translation>
+</message>
+<message>
+<source>GPU</source>
+<translation>GPU</translation>
+</message>
+<message>
+<source>Grayed out services are considered necessary or critical</source>
+<translation>Os serviços esmaecidos são considerados necessários ou críticos</translation>
+</message>
+<message>
+<source>Grayed out services refer to those disabled outside this tab</source>
+<translation>Os serviços esmaecidos foram desabilitados fora desta guia</translation>
+</message>
+<message>
+<source>handles</source>
+<translation>identificadores</translation>
+</message>
+<message>
+<source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
+<translation>Se você não tem fone de ouvido ou equipamento de áudio conectado por Bluetooth, pode desmarcar esta opção</translation>
+</message>
+<message>
+<source>If you don't have any printers, you can uncheck this</source>
+<translation>Se você não tem impressora, pode desmarcar esta opção</translation>
+</message>
+<message>
+<source>Increase maximum amount of physical memory that can be locked for I/O operations</source>
+<translation>Aumentar a memória física máxima que pode ser bloqueada para operações de E/S</translation>
+</message>
+<message>
+<source>Install</source>
+<translation>Instalar</translation>
+</message>
+<message>
+<source>Install packages</source>
+<translation>Instalar pacotes</translation>
+</message>
+<message>
+<source>Intelligent personal assistant</source>
+<translation>Assistente pessoal inteligente</translation>
+</message>
+<message>
+<source>Interface language:</source>
+<translation>Idioma da interface:</translation>
+</message>
+<message>
+<source>Interface type:</source>
+<translation>Tipo de interface:</translation>
+</message>
+<message>
+<source>Internal system features that can slow down your PC unnecessarily.
+Check them to optimize or uncheck them to restore defaults.</source>
+<translation>Recursos internos do sistema que podem deixar o PC mais lento desnecessariamente.
+Marque-os para otimizar ou desmarque-os para restaurar os padrões.</translation>
+</message>
+<message>
+<source>interval in seconds:</source>
+<translation>intervalo em segundos:</translation>
+</message>
+<message>
+<source>Keep features</source>
+<translation>Recursos a manter</translation>
+</message>
+<message>
+<source>Kestrune</source>
+<translation>Kestrune</translation>
+</message>
+<message>
+<source>lblStatus</source>
+<translation>lblStatus</translation>
+</message>
+<message>
+<source>Light</source>
+<translation>Claro</translation>
+</message>
+<message>
+<source>List of currently started services.
+Services are programs that run in the background for various reasons and purposes. Some of them are essential, while others may be superfluous and consume CPU, memory and disk resources unnecessarily.</source>
+<translation>Lista dos serviços iniciados no momento.
+Serviços são programas executados em segundo plano por vários motivos. Alguns são essenciais, outros podem ser supérfluos e consumir CPU, memória e disco desnecessariamente.</translation>
+</message>
+<message>
+<source>List of enabled scheduled tasks.
+Scheduled tasks are programs that run in the background at a specific time (or event) for various reasons. Some of them may be unnecessary and consume CPU, memory, and disk resources unnecessarily.</source>
+<translation>Lista das tarefas agendadas habilitadas.
+Tarefas agendadas são programas executados em segundo plano em um horário (ou evento) específico por vários motivos. Algumas podem ser desnecessárias e consumir CPU, memória e disco à toa.</translation>
+</message>
+<message>
+<source>List of programs started automatically each time Windows starts.
+Like services and scheduled tasks, automatically started programs can slow down your system. Uncheck those you don't use on every startup.</source>
+<translation>Lista de programas iniciados automaticamente sempre que o Windows é iniciado.
+Como os serviços e as tarefas agendadas, eles podem deixar o sistema mais lento. Desmarque os que você não usa em toda inicialização.</translation>
+</message>
+<message>
+<source>List of Windows packages can be uninstalled without problems.
+You can reinstall them directly by clicking on &quot;View uninstalled packages&quot; below the list.</source>
+<translation>Lista de pacotes do Windows que podem ser desinstalados sem problemas.
+Você pode reinstalá-los diretamente clicando em &quot;Ver pacotes desinstalados&quot; abaixo da lista.</translation>
+</message>
+<message>
+<source>Load system info:</source>
+<translation>Carregar informações do sistema:</translation>
+</message>
+<message>
+<source>loading disk info...</source>
+<translation>carregando dados do disco...</translation>
+</message>
+<message>
+<source>loading screen info...</source>
+<translation>carregando dados da tela...</translation>
+</message>
+<message>
+<source>Mail &amp; Calendar</source>
+<translation>Email e Calendário</translation>
+</message>
+<message>
+<source>Manage features  (included in the page &quot;Features&quot;)</source>
+<translation>Gerenciar recursos  (incluídos na página &quot;Recursos&quot;)</translation>
+</message>
+<message>
+<source>Manage programs and packages  (included in the page &quot;Programs&quot;)</source>
+<translation>Gerenciar programas e pacotes  (incluídos na página &quot;Programas&quot;)</translation>
+</message>
+<message>
+<source>Manual</source>
+<translation>Manual</translation>
+</message>
+<message>
+<source>Manual start</source>
+<translation>Início manual</translation>
+</message>
+<message>
+<source>Media extensions for Edge and Windows Media Player</source>
+<translation>Extensões de mídia para Edge e Windows Media Player</translation>
+</message>
+<message>
+<source>MEM</source>
+<translation>MEM</translation>
+</message>
+<message>
+<source>Microsoft Codecs extensions</source>
+<translation>Codecs da Microsoft</translation>
+</message>
+<message>
+<source>Microsoft codecs for video encoding/decoding. If you are not using Windows internal features for streaming,encoding or playing videos, uncheck this box</source>
+<translation>Codecs da Microsoft para codificar e decodificar vídeo. Se você não usa os recursos internos do Windows para transmitir, codificar ou reproduzir vídeos, desmarque esta caixa</translation>
+</message>
+<message>
+<source>Microsoft video editor</source>
+<translation>Editor de vídeo da Microsoft</translation>
+</message>
+<message>
+<source>Mobile device synchronization</source>
+<translation>Sincronização de dispositivos móveis</translation>
+</message>
+<message>
+<source>Monitor and display some system information in the title bar</source>
+<translation>Monitorar e exibir informações do sistema na barra de título</translation>
+</message>
+<message>
+<source>MotherBoard</source>
+<translation>Placa-mãe</translation>
+</message>
+<message>
+<source>Name</source>
+<translation>Nome</translation>
+</message>
+<message>
+<source>Name:</source>
+<translation>Nome:</translation>
+</message>
+<message>
+<source>Need reboot!</source>
+<translation>É necessário reiniciar!</translation>
+</message>
+<message>
+<source>NFC</source>
+<translation>NFC</translation>
+</message>
+<message>
+<source>No</source>
+<translation>Não</translation>
+</message>
+<message>
+<source>no description</source>
+<translation>sem descrição</translation>
+</message>
+<message>
+<source>No optimizations found!</source>
+<translation>Nenhuma otimização encontrada!</translation>
+</message>
+<message>
+<source>Old Xbox App, no longer supported!</source>
+<translation>Aplicativo Xbox antigo, não é mais suportado!</translation>
+</message>
+<message>
+<source>on drive</source>
+<translation>na unidade</translation>
+</message>
+<message>
+<source>Optimization finished</source>
+<translation>Otimização concluída</translation>
+</message>
+<message>
+<source>Optimize</source>
+<translation>Otimizar</translation>
+</message>
+<message>
+<source>Optimizer</source>
+<translation>Otimizador</translation>
+</message>
+<message>
+<source>Options</source>
+<translation>Opções</translation>
+</message>
+<message>
+<source>Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>Outro protocolo dedicado à rede local (ex.: alguns reprodutores de vídeo o usam para se conectar a discos de rede)<byte value="xd"/>
+(por padrão não é usado, mas está ativado!)</translation>
+</message>
+<message>
+<source>Otherwise some scheduled tasks will not be detected!</source>
+<translation>Caso contrário, algumas tarefas agendadas não serão detectadas!</translation>
+</message>
+<message>
+<source>package: </source>
+<translation>pacote: </translation>
+</message>
+<message>
+<source>Package: can be installed: </source>
+<translation>Pacote: pode ser instalado: </translation>
+</message>
+<message>
+<source>Package: can be uninstalled: </source>
+<translation>Pacote: pode ser desinstalado: </translation>
+</message>
+<message>
+<source>Packages</source>
+<translation>Pacotes</translation>
+</message>
+<message>
+<source>packages finished</source>
+<translation>pacotes concluídos</translation>
+</message>
+<message>
+<source>Packages installed:</source>
+<translation>Pacotes instalados:</translation>
+</message>
+<message>
+<source>Packages uninstalled:</source>
+<translation>Pacotes desinstalados:</translation>
+</message>
+<message>
+<source>Packages:</source>
+<translation>Pacotes:</translation>
+</message>
+<message>
+<source>Path</source>
+<translation>Caminho</translation>
+</message>
+<message>
+<source>Phone link</source>
+<translation>Vincular ao Celular</translation>
+</message>
+<message>
+<source>Printer</source>
+<translation>Impressora</translation>
+</message>
+<message>
+<source>Prioritize games  (GPU Priority, SFIO Priority, Scheduling category, Affinity)</source>
+<translation>Priorizar jogos  (GPU Priority, SFIO Priority, Scheduling category, Affinity)</translation>
+</message>
+<message>
+<source>Process: can be disable: %1 from Riva Tuner Statistic Server app!<byte value="xd"/>
+This process only allows screen video capture.Does not affect the monitoring display in any way</source>
+<translation>Processo: pode ser desabilitado: %1 do aplicativo Riva Tuner Statistic Server!<byte value="xd"/>
+Este processo permite apenas a captura de vídeo da tela. Não afeta de forma alguma a exibição do monitoramento</translation>
+</message>
+<message>
+<source>Process: disable EncoderServer done</source>
+<translation>Processo: desabilitar EncoderServer concluído</translation>
+</message>
+<message>
+<source>processes</source>
+<translation>processos</translation>
+</message>
+<message>
+<source>Programs</source>
+<translation>Programas</translation>
+</message>
+<message>
+<source>Programs started automatically</source>
+<translation>Programas iniciados automaticamente</translation>
+</message>
+<message>
+<source>Proxy and VPN</source>
+<translation>Proxy e VPN</translation>
+</message>
+<message>
+<source>Proxy or VPN functionality to improve the security of your network traffic<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>Recurso de proxy ou VPN para melhorar a segurança do tráfego de rede<byte value="xd"/>
+(por padrão não é usado, mas está ativado!)</translation>
+</message>
+<message>
+<source>Quick setup of some bluetooth headsets<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>Configuração rápida de alguns fones de ouvido Bluetooth<byte value="xd"/>
+(por padrão não é usado, mas está ativado!)</translation>
+</message>
+<message>
+<source>Reduces certain delays
+(menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
+<translation>Reduzir certos atrasos
+(exibição de menus, encerramento de aplicativos e serviços, travamentos)</translation>
+</message>
+<message>
+<source>Refresh</source>
+<translation>Atualizar</translation>
+</message>
+<message>
+<source>Remove indexing attribute of %1</source>
+<translation>Removendo o atributo de indexação de %1</translation>
+</message>
+<message>
+<source>Remove indexing attribute of %1 finished</source>
+<translation>Atributo de indexação de %1 removido</translation>
+</message>
+<message>
+<source>Remove indexing attribute of Windows partition %1</source>
+<translation>Removendo o atributo de indexação da partição do Windows %1</translation>
+</message>
+<message>
+<source>Remove the indexed attribute from all files in the Windows partition
+(this operation may take some time)</source>
+<translation>Remover o atributo de indexação de todos os arquivos da partição do Windows
+(esta operação pode demorar)</translation>
+</message>
+<message>
+<source>Restoration finished</source>
+<translation>Restauração concluída</translation>
+</message>
+<message>
+<source>Restoration finished: Restart your PC!</source>
+<translation>Restauração concluída: reinicie o PC!</translation>
+</message>
+<message>
+<source>Restore</source>
+<translation>Restaurar</translation>
+</message>
+<message>
+<source>RESTORE disabled scheduled tasks</source>
+<translation>RESTAURAR tarefas agendadas desabilitadas</translation>
+</message>
+<message>
+<source>RESTORE disabled services</source>
+<translation>RESTAURAR serviços desabilitados</translation>
+</message>
+<message>
+<source>Restore scheduled tasks completed successfully</source>
+<translation>Restauração das tarefas agendadas concluída com êxito</translation>
+</message>
+<message>
+<source>Restore services finished</source>
+<translation>Restauração dos serviços concluída</translation>
+</message>
+<message>
+<source>Restoring scheduled tasks</source>
+<translation>Restauração das tarefas agendadas</translation>
+</message>
+<message>
+<source>Scheduled tasks</source>
+<translation>Tarefas agendadas</translation>
+</message>
+<message>
+<source>Screenshot tool</source>
+<translation>Ferramenta de captura</translation>
+</message>
+<message>
+<source>Service: can be disable: </source>
+<translation>Serviço: pode ser desabilitado: </translation>
+</message>
+<message>
+<source>Service: can be enable: </source>
+<translation>Serviço: pode ser habilitado: </translation>
+</message>
+<message>
+<source>Service: can be set to manual:</source>
+<translation>Serviço: pode ser definido como manual:</translation>
+</message>
+<message>
+<source>Service: disable %1</source>
+<translation>Serviço: desabilitar %1</translation>
+</message>
+<message>
+<source>Service: disable and stop %1</source>
+<translation>Serviço: desabilitar e parar %1</translation>
+</message>
+<message>
+<source>Service: enable %1</source>
+<translation>Serviço: habilitar %1</translation>
+</message>
+<message>
+<source>Service: enable %1 done</source>
+<translation>Serviço: habilitar %1 concluído</translation>
+</message>
+<message>
+<source>Service: enable and start %1</source>
+<translation>Serviço: habilitar e iniciar %1</translation>
+</message>
+<message>
+<source>Service: enable and start %1 done</source>
+<translation>Serviço: habilitar e iniciar %1 concluído</translation>
+</message>
+<message>
+<source>Service: enable and start %1, already running!</source>
+<translation>Serviço: habilitar e iniciar %1, já em execução!</translation>
+</message>
+<message>
+<source>Service: set to manual:</source>
+<translation>Serviço: definido como manual:</translation>
+</message>
+<message>
+<source>Services</source>
+<translation>Serviços</translation>
+</message>
+<message>
+<source>Services  (Experienced users)</source>
+<translation>Serviços  (usuários experientes)</translation>
+</message>
+<message>
+<source>Services:</source>
+<translation>Serviços:</translation>
+</message>
+<message>
+<source>Set the maximum number of GPU pre-rendered frames to 1
+(if you have a good CPU, this reduces latency)</source>
+<translation>Definir como 1 o número máximo de quadros pré-renderizados pela GPU
+(com uma boa CPU, isso reduz a latência)</translation>
+</message>
+<message>
+<source>SSD</source>
+<translation>SSD</translation>
+</message>
+<message>
+<source>Start mode</source>
+<translation>Início</translation>
+</message>
+<message>
+<source>Start service:</source>
+<translation>Iniciar serviço:</translation>
+</message>
+<message>
+<source>Start with adminstrator rights</source>
+<translation>Iniciar com direitos de administrador</translation>
+</message>
+<message>
+<source>started:</source>
+<translation>iniciados:</translation>
+</message>
+<message>
+<source>Status: Getting WinSxS folder size finished!</source>
+<translation>Status: tamanho da pasta WinSxS obtido!</translation>
+</message>
+<message>
+<source>Status: Getting WinSxS folder size...</source>
+<translation>Status: obtendo o tamanho da pasta WinSxS...</translation>
+</message>
+<message>
+<source>Stop service:</source>
+<translation>Parar serviço:</translation>
+</message>
+<message>
+<source>stopped:</source>
+<translation>parados:</translation>
+</message>
+<message>
+<source>System</source>
+<translation>Sistema</translation>
+</message>
+<message>
+<source>System
+Information</source>
+<translation>Informações
+do sistema</translation>
+</message>
+<message>
+<source>System Information</source>
+<translation>Informações do sistema</translation>
+</message>
+<message>
+<source>Task:</source>
+<translation>Tarefa:</translation>
+</message>
+<message>
+<source>Task: can be disable: </source>
+<translation>Tarefa: pode ser desabilitada: </translation>
+</message>
+<message>
+<source>Task: can be enable: </source>
+<translation>Tarefa: pode ser habilitada: </translation>
+</message>
+<message>
+<source>Task: disable and stop %1</source>
+<translation>Tarefa: desabilitar e parar %1</translation>
+</message>
+<message>
+<source>Task: Enable and start %1 done</source>
+<translation>Tarefa: habilitar e iniciar %1 concluído</translation>
+</message>
+<message>
+<source>Tasks</source>
+<translation>Tarefas</translation>
+</message>
+<message>
+<source>Tasks:</source>
+<translation>Tarefas:</translation>
+</message>
+<message>
+<source>Theme:</source>
+<translation>Tema:</translation>
+</message>
+<message>
+<source>threads</source>
+<translation>threads</translation>
+</message>
+<message>
+<source>Uncheck all</source>
+<translation>Desmarcar tudo</translation>
+</message>
+<message>
+<source>Uninstall</source>
+<translation>Desinstalar</translation>
+</message>
+<message>
+<source>Uninstall packages</source>
+<translation>Desinstalar pacotes</translation>
+</message>
+<message>
+<source>uninstalled:</source>
+<translation>desinstalados:</translation>
+</message>
+<message>
+<source>unknown</source>
+<translation>desconhecido</translation>
+</message>
+<message>
+<source>UPnP network services</source>
+<translation>Serviços de rede UPnP</translation>
+</message>
+<message>
+<source>View auto started programs</source>
+<translation>Ver programas de inicialização</translation>
+</message>
+<message>
+<source>View disabled services</source>
+<translation>Ver serviços desabilitados</translation>
+</message>
+<message>
+<source>View installed packages</source>
+<translation>Ver pacotes instalados</translation>
+</message>
+<message>
+<source>View programs disabled</source>
+<translation>Ver programas desabilitados</translation>
+</message>
+<message>
+<source>View started services</source>
+<translation>Ver serviços iniciados</translation>
+</message>
+<message>
+<source>View uninstalled packages</source>
+<translation>Ver pacotes desinstalados</translation>
+</message>
+<message>
+<source>Widget app</source>
+<translation>Aplicativo de widgets</translation>
+</message>
+<message>
+<source>Win32PrioritySeparation:   Processor time allocated to applications.</source>
+<translation>Win32PrioritySeparation:   tempo de processador alocado aos aplicativos.</translation>
+</message>
+<message>
+<source>WINDOWS</source>
+<translation>WINDOWS</translation>
+</message>
+<message>
+<source>Windows</source>
+<translation>Windows</translation>
+</message>
+<message>
+<source>Windows application: ERROR install %1: </source>
+<translation>Aplicativo do Windows: ERRO ao instalar %1: </translation>
+</message>
+<message>
+<source>Windows application: ERROR uninstall %1: </source>
+<translation>Aplicativo do Windows: ERRO ao desinstalar %1: </translation>
+</message>
+<message>
+<source>Windows application: install %1 done</source>
+<translation>Aplicativo do Windows: instalação de %1 concluída</translation>
+</message>
+<message>
+<source>Windows application: uninstall %1 done</source>
+<translation>Aplicativo do Windows: desinstalação de %1 concluída</translation>
+</message>
+<message>
+<source>Windows applications</source>
+<translation>Aplicativos do Windows</translation>
+</message>
+<message>
+<source>Windows packages installed</source>
+<translation>Pacotes do Windows instalados</translation>
+</message>
+<message>
+<source>Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>Compartilhamento do Windows em uma rede local (protocolo SMB) (ex.: conectar discos rígidos e impressoras em uma rede local)<byte value="xd"/>
+(por padrão não é usado, mas está ativado!)</translation>
+</message>
+<message>
+<source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
+<translation>Deseja definir os atributos de indexação de todos os arquivos da partição do Windows?</translation>
+</message>
+<message>
+<source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
+<translation>Deseja definir os atributos de indexação de todos os arquivos da partição do Windows?</translation>
+</message>
+<message>
+<source>Xbox App</source>
+<translation>Aplicativo Xbox</translation>
+</message>
+<message>
+<source>Xbox game bar</source>
+<translation>Xbox Game Bar</translation>
+</message>
+<message>
+<source>XBOX Game Bar that appears at the top of the screen, above a game. If you don't use it, uncheck this box</source>
+<translation>Xbox Game Bar que aparece na parte superior da tela, sobre o jogo. Se você não a usa, desmarque esta caixa</translation>
+</message>
+<message>
+<source>Yes</source>
+<translation>Sim</translation>
+</message>
+<message>
+<source>You must launch this app with Admin rights!</source>
+<translation>Você precisa executar este aplicativo como administrador!</translation>
+</message>
+<message>
+<source>You should launch this app with Admin rights!</source>
+<translation>É recomendável executar este aplicativo como administrador!</translation>
+</message>
+</context>
+</TS>

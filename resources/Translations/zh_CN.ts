@@ -1,0 +1,1410 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<!-- One context for all: see cmake/translations.cmake. -->
+<context>
+<name>texts</name>
+<message>
+<source>  20   (variable and long quantum, foreground boost X1)</source>
+<translation>  20   (可变长时间片，前台提升 X1)</translation>
+</message>
+<message>
+<source>  21   (variable and long quantum, foreground boost X2)</source>
+<translation>  21   (可变长时间片，前台提升 X2)</translation>
+</message>
+<message>
+<source>  22   (variable and long quantum, foreground boost X3)</source>
+<translation>  22   (可变长时间片，前台提升 X3)</translation>
+</message>
+<message>
+<source>  24   (fixed and long quantum, foreground boost X1) (not recommended)</source>
+<translation>  24   (固定长时间片，前台提升 X1) (不推荐)</translation>
+</message>
+<message>
+<source>  36   (variable and short quantum, foreground boost X1)</source>
+<translation>  36   (可变短时间片，前台提升 X1)</translation>
+</message>
+<message>
+<source>  37   (variable and short quantum, foreground boost X2)</source>
+<translation>  37   (可变短时间片，前台提升 X2)</translation>
+</message>
+<message>
+<source>  38   (variable and short quantum, foreground boost X3) (recommended)</source>
+<translation>  38   (可变短时间片，前台提升 X3) (推荐)</translation>
+</message>
+<message>
+<source>  40   (fixed and short quantum, foreground boost X1) (not recommended)</source>
+<translation>  40   (固定短时间片，前台提升 X1) (不推荐)</translation>
+</message>
+<message>
+<source>1</source>
+<translation>1</translation>
+</message>
+<message>
+<source>10</source>
+<translation>10</translation>
+</message>
+<message>
+<source>2</source>
+<translation>2</translation>
+</message>
+<message>
+<source>3</source>
+<translation>3</translation>
+</message>
+<message>
+<source>30</source>
+<translation>30</translation>
+</message>
+<message>
+<source>4</source>
+<translation>4</translation>
+</message>
+<message>
+<source>5</source>
+<translation>5</translation>
+</message>
+<message>
+<source>60</source>
+<translation>60</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Lucida Console'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;table border=&quot;0&quot; width=&quot;100%&quot; cellspacing=&quot;10&quot; cellpadding=&quot;0&quot;&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;%winName&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Edition:   %winEdition&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Build:   %winBuild&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Display version:   %winVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Installed on SSD:   %winOnSsd&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Mother-board:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%mbManufacturer&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Model:   %mbModel&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Bios version:   %mbBiosVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Bios date:   %mbBiosDate&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Processor:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%cpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Default frequency:   %cpuFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Cores / Threads:   %cpuCore  / %cpuThread&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L2 cache size:   %cpuL2Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L3 cache size:   %cpuL3Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Socket:   %cpuSocket&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HyperThreading:   %cpuHt&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtualization:   %cpuV&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Memory:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Capacity:   %memTotal&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Free:   %memFree&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Frequency:   %memFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Form Factor:   %memFormFactor&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Virtual Memory:   %memVSize&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Graphics card and screen:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%gpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Driver version:   %gpuDriverVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Driver date:   %gpuDriverDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Screen:   loading screen info...&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolution:   %gpuDesktopSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Resolution max:   %gpuDesktopMaxSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Refresh rate:   %gpuRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Refresh rate max:   %screenMaxRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HDR:   %screenHdr&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;Disk:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;loading disk info...&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Lucida Console'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;table border=&quot;0&quot; width=&quot;100%&quot; cellspacing=&quot;10&quot; cellpadding=&quot;0&quot;&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;%winName&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;版本:   %winEdition&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;内部版本:   %winBuild&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;显示版本:   %winVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;安装在 SSD 上:   %winOnSsd&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;主板:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%mbManufacturer&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;型号:   %mbModel&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;BIOS 版本:   %mbBiosVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;BIOS 日期:   %mbBiosDate&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;处理器:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%cpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;默认频率:   %cpuFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;内核 / 线程:   %cpuCore  / %cpuThread&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L2 缓存大小:   %cpuL2Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L3 缓存大小:   %cpuL3Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;插槽:   %cpuSocket&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HyperThreading:   %cpuHt&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;虚拟化:   %cpuV&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;内存:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;容量:   %memTotal&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;可用:   %memFree&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;频率:   %memFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;外形规格:   %memFormFactor&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;虚拟内存:   %memVSize&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;tr&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;显卡和屏幕:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%gpuName&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;驱动程序版本:   %gpuDriverVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;驱动程序日期:   %gpuDriverDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;屏幕:   正在加载屏幕信息...&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;分辨率:   %gpuDesktopSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;最大分辨率:   %gpuDesktopMaxSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;刷新率:   %gpuRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;最大刷新率:   %screenMaxRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HDR:   %screenHdr&lt;/p&gt;&lt;/td&gt;
+&lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;磁盘:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;正在加载磁盘信息...&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Segoe UI'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Version:&lt;/span&gt;   beta %version&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Date:&lt;/span&gt;    %buildDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Author:&lt;/span&gt;   Ondrevale&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Contact:&lt;/span&gt;   &lt;a href=&quot;mailto:contact@kestrune.example&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;contact@kestrune.example&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Website:&lt;/span&gt;   &lt;a href=&quot;https://kestrune.example/&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;https://kestrune.example/&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;Programming language and framework:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ with Qt 6, licensed under the GNU LGPL version 3&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Developped for Windows 10 and Windows 11&lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Purpose:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;This application aims to improve general performance without distorting Windows, by helping you disable all features, programs, services, scheduled tasks, which may be superfluous and harm performance. It also configures some internal system features that are inaccessible through an interface and other options allow you to reduce the space occupied by Windows on the hard disk. (uninstalling unnecessary Windows applications, cleaning the WinSxs folder, ...)&lt;br /&gt;All in a few clicks and with the possibility of restoring to original values. &lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Important informations:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;All options in this application are reversible.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Be careful with the Services section. Do not disable services if you are not really aware of what they are, dependencies etc... USE THE ASSISTANT BUTTON!!!&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Segoe UI'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;版本:&lt;/span&gt;   测试版 %version&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;日期:&lt;/span&gt;    %buildDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;作者:&lt;/span&gt;   Ondrevale&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;联系方式:&lt;/span&gt;   &lt;a href=&quot;mailto:contact@kestrune.example&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;contact@kestrune.example&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;网站:&lt;/span&gt;   &lt;a href=&quot;https://kestrune.example/&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;https://kestrune.example/&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;编程语言和框架:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ 与 Qt 6，采用 GNU LGPL 第 3 版许可&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;为 Windows 10 和 Windows 11 开发&lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;目的:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;此应用旨在提高整体性能而不改变 Windows 的本质，帮助你禁用所有可能多余且影响性能的功能、程序、服务和计划任务。它还会配置一些无法通过界面访问的系统内部功能，其他选项可减少 Windows 在硬盘上占用的空间。(卸载不必要的 Windows 应用、清理 WinSxS 文件夹等)&lt;br /&gt;只需单击几下即可完成，并且可以还原为原始值。 &lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;重要信息:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;此应用中的所有选项都是可逆的。&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;请谨慎使用“服务”部分。如果你不清楚服务的用途、依赖关系等，请勿禁用。请使用“助手”按钮!!!&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- FIXED quantum: the processor time allocated to applications is divided equally between applications,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;while VARIABLE quantum allow applications to hold the processor for longer if needed.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- SHORT quantum: the processor time allocated to applications is faster to switch from task to task,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;as opposed to LONG quantum, which allocates more processor time to the application.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- FOREGROUND BOOST X times: the quantum is increased X times in favor of the application&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;that is in the foreground.&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; font-size:4pt;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;In a pure gaming context, depending on the value selected, you favor the FPS (22, 21),&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS but also responsiveness (38, 37), or latency of your keyboard/mouse or gamepad (36, 24, 40).&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;a href=&quot;https://learn.microsoft.com/windows/win32/procthread/priority-boosts&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- 固定时间片: 处理器时间在应用程序之间平均分配，&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;而可变时间片允许应用程序在需要时占用处理器更长时间。&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- 短时间片: 处理器时间在任务之间切换更快，&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;而长时间片则为应用程序分配更多处理器时间。&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- 前台提升 X 倍: 时间片增加 X 倍，&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;有利于前台应用程序。&lt;/p&gt;
+&lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; font-size:4pt;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;在纯游戏场景中，根据所选的值，可提高 FPS (22, 21)、&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS 和响应能力 (38, 37)，或降低键盘/鼠标或手柄的延迟 (36, 24, 40)。&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;a href=&quot;https://learn.microsoft.com/windows/win32/procthread/priority-boosts&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;了解更多&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Advanced optimizations via motherboard BIOS settings &lt;a href=&quot;https://kestrune.example/optimization.html&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;通过主板 BIOS 设置进行高级优化 &lt;a href=&quot;https://kestrune.example/optimization.html&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;了解更多&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Microsoft acknowledges performance impact with Memory Integrity and VMP enabled &lt;a href=&quot;https://learn.microsoft.com/windows/security/hardware-security/enable-virtualization-based-protection-of-code-integrity&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;Microsoft 承认启用内存完整性和 VMP 会影响性能 &lt;a href=&quot;https://learn.microsoft.com/windows/security/hardware-security/enable-virtualization-based-protection-of-code-integrity&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;了解更多&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;The WinSxS folder is an essential system component that serves as a repository for storing multiple versions of system files, allowing Windows to maintain good compatibility &lt;a href=&quot;https://learn.microsoft.com/windows-hardware/manufacture/desktop/manage-the-component-store&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</source>
+<translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;WinSxS 文件夹是重要的系统组件，用于存储系统文件的多个版本，使 Windows 保持良好的兼容性 &lt;a href=&quot;https://learn.microsoft.com/windows-hardware/manufacture/desktop/manage-the-component-store&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;了解更多&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
+</message>
+<message>
+<source>A newer version of Kestrune is available!<byte value="xd"/>
+Would you like to visit the website for download?<byte value="xd"/>
+<byte value="xd"/>
+Current version: %1<byte value="xd"/>
+Online version: %2</source>
+<translation>Kestrune 有新版本可用!<byte value="xd"/>
+是否访问网站进行下载?<byte value="xd"/>
+<byte value="xd"/>
+当前版本: %1<byte value="xd"/>
+在线版本: %2</translation>
+</message>
+<message>
+<source>About</source>
+<translation>关于</translation>
+</message>
+<message>
+<source>Add indexing attribute of %1 finished</source>
+<translation>添加 %1 的索引属性完成</translation>
+</message>
+<message>
+<source>Add indexing attribute of Windows partition %1</source>
+<translation>添加 Windows 分区 %1 的索引属性</translation>
+</message>
+<message>
+<source>Analyze</source>
+<translation>分析</translation>
+</message>
+<message>
+<source>Analyze and optimize Windows to improve overall performance by disabling unnecessary features and configuring some that are inaccessible through an interface.
+Optimizations come from the Services, Scheduled Tasks, Programs, and Features pages.</source>
+<translation>分析并优化 Windows，通过禁用不必要的功能并配置某些无法通过界面访问的功能来提高整体性能。
+优化项目来自“服务”、“计划任务”、“程序”和“功能”页面。</translation>
+</message>
+<message>
+<source>Application to play PC games if you have a Gamepass account (paid)</source>
+<translation>使用 Game Pass 订阅(付费)玩电脑游戏的应用</translation>
+</message>
+<message>
+<source>Apply</source>
+<translation>应用</translation>
+</message>
+<message>
+<source>Apply features finished successfully.</source>
+<translation>功能已成功应用。</translation>
+</message>
+<message>
+<source>Are you sure to disable all checked services?</source>
+<translation>确定要禁用所有选中的服务吗?</translation>
+</message>
+<message>
+<source>Are you sure to disable all checked tasks?</source>
+<translation>确定要禁用所有选中的任务吗?</translation>
+</message>
+<message>
+<source>Are you sure you want to restore the original values?<byte value="xd"/>
+All features, applications, services and tasks will be restored.</source>
+<translation>确定要还原原始值吗?<byte value="xd"/>
+所有功能、应用程序、服务和任务都将还原。</translation>
+</message>
+<message>
+<source>Are you sure you want to restore the startup of all scheduled tasks?</source>
+<translation>确定要还原所有计划任务的启动吗?</translation>
+</message>
+<message>
+<source>ASSISTANT - disable a list of non vital services</source>
+<translation>助手 - 禁用一组非关键服务</translation>
+</message>
+<message>
+<source>ASSISTANT - disable a list of scheduled tasks</source>
+<translation>助手 - 禁用一组计划任务</translation>
+</message>
+<message>
+<source>Assistant - no services to deactivate</source>
+<translation>助手 - 没有要停用的服务</translation>
+</message>
+<message>
+<source>Assistant - no tasks to deactivate</source>
+<translation>助手 - 没有要停用的任务</translation>
+</message>
+<message>
+<source>Auto</source>
+<translation>自动</translation>
+</message>
+<message>
+<source>Auto started programs disabled:</source>
+<translation>已禁用的自启动程序:</translation>
+</message>
+<message>
+<source>Automatic start</source>
+<translation>自动启动</translation>
+</message>
+<message>
+<source>Automatically started programs</source>
+<translation>自动启动的程序</translation>
+</message>
+<message>
+<source>Autorun</source>
+<translation>启动项</translation>
+</message>
+<message>
+<source>Autorun program: disable %1 done</source>
+<translation>自启动程序: 禁用 %1 完成</translation>
+</message>
+<message>
+<source>Autorun program: enable %1 done</source>
+<translation>自启动程序: 启用 %1 完成</translation>
+</message>
+<message>
+<source>Autorun:</source>
+<translation>启动项:</translation>
+</message>
+<message>
+<source>Autorun: can be disabled: </source>
+<translation>启动项: 可以禁用: </translation>
+</message>
+<message>
+<source>Backup file exists</source>
+<translation>备份文件已存在</translation>
+</message>
+<message>
+<source>Bluetooth audio</source>
+<translation>蓝牙音频</translation>
+</message>
+<message>
+<source>Cancel</source>
+<translation>取消</translation>
+</message>
+<message>
+<source>Cannot restore if you have not yet optimized!</source>
+<translation>尚未进行优化，无法还原!</translation>
+</message>
+<message>
+<source>Capacity:</source>
+<translation>容量:</translation>
+</message>
+<message>
+<source>Check all</source>
+<translation>全部选中</translation>
+</message>
+<message>
+<source>Check update of Kestrune version</source>
+<translation>检查 Kestrune 更新</translation>
+</message>
+<message>
+<source>Clean WinSxS folder with Microsoft DISM tool</source>
+<translation>使用 Microsoft DISM 工具清理 WinSxS 文件夹</translation>
+</message>
+<message>
+<source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
+<translation>使用 Microsoft DISM 工具清理 WinSxS 文件夹  (当前大小: %1 GB)</translation>
+</message>
+<message>
+<source>Comments</source>
+<translation>备注</translation>
+</message>
+<message>
+<source>Configure auto started programs done!</source>
+<translation>自启动程序配置完成!</translation>
+</message>
+<message>
+<source>CPU</source>
+<translation>CPU</translation>
+</message>
+<message>
+<source>Dark</source>
+<translation>深色</translation>
+</message>
+<message>
+<source>Date of the last execution</source>
+<translation>上次执行日期</translation>
+</message>
+<message>
+<source>Description</source>
+<translation>描述</translation>
+</message>
+<message>
+<source>Development applet</source>
+<translation>开发小程序</translation>
+</message>
+<message>
+<source>Disable advanced indexing options</source>
+<translation>禁用高级索引选项</translation>
+</message>
+<message>
+<source>Disable automatic boot disk optimization</source>
+<translation>禁用启动磁盘自动优化</translation>
+</message>
+<message>
+<source>Disable checked programs</source>
+<translation>禁用选中的程序</translation>
+</message>
+<message>
+<source>DISABLE checked services</source>
+<translation>禁用选中的服务</translation>
+</message>
+<message>
+<source>Disable checked services</source>
+<translation>禁用选中的服务</translation>
+</message>
+<message>
+<source>Disable checked services finished</source>
+<translation>已完成禁用选中的服务</translation>
+</message>
+<message>
+<source>DISABLE checked tasks</source>
+<translation>禁用选中的任务</translation>
+</message>
+<message>
+<source>Disable clearing of virtual memory swap file on every shutdown</source>
+<translation>禁用每次关机时清除虚拟内存页面文件</translation>
+</message>
+<message>
+<source>Disable cloud backup and restore functionalities</source>
+<translation>禁用云备份和还原功能</translation>
+</message>
+<message>
+<source>Disable CPU power throttling
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>禁用 CPU 电源限制
+(节能功能，不建议在笔记本电脑上优化)</translation>
+</message>
+<message>
+<source>Disable distribution optimization of Windows updates</source>
+<translation>禁用 Windows 更新的传递优化</translation>
+</message>
+<message>
+<source>Disable dynamic tick of system timers
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>禁用系统计时器的动态时钟周期
+(节能功能，不建议在笔记本电脑上优化)</translation>
+</message>
+<message>
+<source>Disable enhance pointer precision
+(to achieve precise mouse control and muscle memory)</source>
+<translation>禁用提高指针精确度
+(实现精确的鼠标控制和肌肉记忆)</translation>
+</message>
+<message>
+<source>Disable fast start-up  (Windows function designed for HDD and not SSD)</source>
+<translation>禁用快速启动  (为 HDD 而非 SSD 设计的 Windows 功能)</translation>
+</message>
+<message>
+<source>Disable files history (even in explorer)</source>
+<translation>禁用文件历史记录(包括在资源管理器中)</translation>
+</message>
+<message>
+<source>Disable game recording and broadcasting</source>
+<translation>禁用游戏录制和直播</translation>
+</message>
+<message>
+<source>Disable Gamebar</source>
+<translation>禁用 Game Bar</translation>
+</message>
+<message>
+<source>Disable hibernation mode</source>
+<translation>禁用休眠模式</translation>
+</message>
+<message>
+<source>Disable hibernation mode  (gain %1 GB of storage space)</source>
+<translation>禁用休眠模式  (节省 %1 GB 存储空间)</translation>
+</message>
+<message>
+<source>Disable HPET  (High Precision Event Timer)
+(use invariant TSC instead which may be faster for gaming)
+(important: do not disable HPET in BIOS settings)</source>
+<translation>禁用 HPET  (High Precision Event Timer)
+(使用不变 TSC，对游戏来说可能更快)
+(重要: 请勿在 BIOS 设置中禁用 HPET)</translation>
+</message>
+<message>
+<source>Disable last access time stamps  (NTFS drive only)</source>
+<translation>禁用上次访问时间戳  (仅限 NTFS 驱动器)</translation>
+</message>
+<message>
+<source>Disable LockApp.exe  (lockapp.exe allows additional information on the lock screen)</source>
+<translation>禁用 LockApp.exe  (lockapp.exe 可在锁屏上显示更多信息)</translation>
+</message>
+<message>
+<source>Disable Multiplane Overlay (MPO)
+(may fix some screen flickering / stuttering issues BUT loose some fullscreen optimizations,
+especially for video playback apps)</source>
+<translation>禁用 Multiplane Overlay (MPO)
+(可能解决某些屏幕闪烁/卡顿问题，但会失去部分全屏优化，
+对视频播放应用尤其如此)</translation>
+</message>
+<message>
+<source>Disable Nagle’s Algorithm
+(may improve the real-time responsiveness of your network connection, but may increase traffic)</source>
+<translation>禁用 Nagle 算法
+(可能提高网络连接的实时响应能力，但可能增加流量)</translation>
+</message>
+<message>
+<source>Disable periodic registry backup</source>
+<translation>禁用注册表定期备份</translation>
+</message>
+<message>
+<source>Disable Prefetcher  (prevents preloading of applications)</source>
+<translation>禁用 Prefetcher  (阻止预加载应用程序)</translation>
+</message>
+<message>
+<source>Disable scheduled tasks</source>
+<translation>禁用计划任务</translation>
+</message>
+<message>
+<source>Disable scheduled tasks completed successfully</source>
+<translation>计划任务禁用成功完成</translation>
+</message>
+<message>
+<source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
+<translation>禁用 SearchHost.exe  (搜索文件的进程。禁用后高级搜索可能无法正常工作)</translation>
+</message>
+<message>
+<source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
+<translation>禁用 SvcHost 拆分  (减少 svchost.exe 进程数)</translation>
+</message>
+<message>
+<source>Disable telemetry (data collection for Microsoft)
+(Other telemetry is disabled in the Services and Scheduled Tasks, or the Optimizer page)</source>
+<translation>禁用遥测(为 Microsoft 收集数据)
+(其他遥测在“服务”、“计划任务”或“优化器”页面中禁用)</translation>
+</message>
+<message>
+<source>Disable ULPS  (Ultra Low Power State, only for AMD graphics cards)
+(power-saving feature, optimization not recommended for laptop)</source>
+<translation>禁用 ULPS  (Ultra Low Power State，仅适用于 AMD 显卡)
+(节能功能，不建议在笔记本电脑上优化)</translation>
+</message>
+<message>
+<source>Disable Windows write-cache buffer flushing</source>
+<translation>禁用 Windows 写入缓存缓冲区刷新</translation>
+</message>
+<message>
+<source>Disabled</source>
+<translation>禁用</translation>
+</message>
+<message>
+<source>disabled</source>
+<translation>已禁用</translation>
+</message>
+<message>
+<source>disabled:</source>
+<translation>已禁用:</translation>
+</message>
+<message>
+<source>DISK</source>
+<translation>磁盘</translation>
+</message>
+<message>
+<source>Display name</source>
+<translation>显示名称</translation>
+</message>
+<message>
+<source>display threads and handles count</source>
+<translation>显示线程数和句柄数</translation>
+</message>
+<message>
+<source>Do you want to restore start mode option of all services?<byte value="xd"/>
+<byte value="xd"/>
+If you click No (recommended),<byte value="xd"/>
+then restore only the services you have disabled</source>
+<translation>是否还原所有服务的启动类型?<byte value="xd"/>
+<byte value="xd"/>
+如果单击“否”(推荐)，<byte value="xd"/>
+则仅还原你禁用的服务</translation>
+</message>
+<message>
+<source>Do you want to start this app with Admin rights?</source>
+<translation>是否以管理员身份重新启动此应用?</translation>
+</message>
+<message>
+<source>done</source>
+<translation>完成</translation>
+</message>
+<message>
+<source>Enable Auto HDR  (forces HDR mode on SDR content)</source>
+<translation>启用自动 HDR  (对 SDR 内容强制使用 HDR 模式)</translation>
+</message>
+<message>
+<source>Enable checked programs</source>
+<translation>启用选中的程序</translation>
+</message>
+<message>
+<source>ENABLE checked services</source>
+<translation>启用选中的服务</translation>
+</message>
+<message>
+<source>Enable checked services finished</source>
+<translation>已完成启用选中的服务</translation>
+</message>
+<message>
+<source>Enable game mode  (enabled by default)</source>
+<translation>启用游戏模式  (默认启用)</translation>
+</message>
+<message>
+<source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
+<translation>启用 Windows 10 样式的上下文菜单  (显示所有菜单项)</translation>
+</message>
+<message>
+<source>enabled</source>
+<translation>已启用</translation>
+</message>
+<message>
+<source>enabled:</source>
+<translation>已启用:</translation>
+</message>
+<message>
+<source>English</source>
+<translation>English</translation>
+</message>
+<message>
+<source>error</source>
+<translation>错误</translation>
+</message>
+<message>
+<source>Features</source>
+<translation>功能</translation>
+</message>
+<message>
+<source>Features applied successfully. Restart your PC!</source>
+<translation>功能应用成功。请重新启动电脑!</translation>
+</message>
+<message>
+<source>Features: %1 improvements can be applied</source>
+<translation>功能: 可应用 %1 项改进</translation>
+</message>
+<message>
+<source>Features: applied successfully. Restart your PC!</source>
+<translation>功能: 应用成功。请重新启动电脑!</translation>
+</message>
+<message>
+<source>Features: applies Gaming optimizations</source>
+<translation>功能: 应用游戏优化</translation>
+</message>
+<message>
+<source>Features: applies SSD optimizations</source>
+<translation>功能: 应用 SSD 优化</translation>
+</message>
+<message>
+<source>Features: applies Windows optimizations</source>
+<translation>功能: 应用 Windows 优化</translation>
+</message>
+<message>
+<source>Features: Battery detected! Some optimizations will not be applied to maintain battery life</source>
+<translation>功能: 检测到电池! 为保持电池续航，某些优化将不会应用</translation>
+</message>
+<message>
+<source>Features: reset Gaming optimizations</source>
+<translation>功能: 重置游戏优化</translation>
+</message>
+<message>
+<source>Features: reset SSD optimizations</source>
+<translation>功能: 重置 SSD 优化</translation>
+</message>
+<message>
+<source>Features: reset Windows optimizations</source>
+<translation>功能: 重置 Windows 优化</translation>
+</message>
+<message>
+<source>Files sharing</source>
+<translation>文件共享</translation>
+</message>
+<message>
+<source>finished</source>
+<translation>完成</translation>
+</message>
+<message>
+<source>Français</source>
+<translation>Français</translation>
+</message>
+<message>
+<source>free memory</source>
+<translation>可用内存</translation>
+</message>
+<message>
+<source>free on</source>
+<translation>可用空间</translation>
+</message>
+<message>
+<source>GAMING</source>
+<translation>游戏</translation>
+</message>
+<message>
+<source>Get system info:</source>
+<translation>获取系统信息:</translation>
+</message>
+<message>
+<source>Get WinSxS folder size in features page</source>
+<translation>在“功能”页面中获取 WinSxS 文件夹大小</translation>
+</message>
+<message>
+<source>GPU</source>
+<translation>GPU</translation>
+</message>
+<message>
+<source>Grayed out services are considered necessary or critical</source>
+<translation>灰显的服务被视为必需或关键服务</translation>
+</message>
+<message>
+<source>Grayed out services refer to those disabled outside this tab</source>
+<translation>灰显的服务是在此选项卡之外禁用的</translation>
+</message>
+<message>
+<source>handles</source>
+<translation>句柄</translation>
+</message>
+<message>
+<source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
+<translation>如果没有通过蓝牙连接的耳机或音频设备，可以取消选中此项</translation>
+</message>
+<message>
+<source>If you don't have any printers, you can uncheck this</source>
+<translation>如果没有打印机，可以取消选中此项</translation>
+</message>
+<message>
+<source>Increase maximum amount of physical memory that can be locked for I/O operations</source>
+<translation>增加可为 I/O 操作锁定的最大物理内存量</translation>
+</message>
+<message>
+<source>Install</source>
+<translation>安装</translation>
+</message>
+<message>
+<source>Install packages</source>
+<translation>安装程序包</translation>
+</message>
+<message>
+<source>Intelligent personal assistant</source>
+<translation>智能个人助手</translation>
+</message>
+<message>
+<source>Interface language:</source>
+<translation>界面语言:</translation>
+</message>
+<message>
+<source>Interface type:</source>
+<translation>接口类型:</translation>
+</message>
+<message>
+<source>Internal system features that can slow down your PC unnecessarily.
+Check them to optimize or uncheck them to restore defaults.</source>
+<translation>可能会不必要地降低电脑速度的系统内部功能。
+选中以进行优化，取消选中以恢复默认值。</translation>
+</message>
+<message>
+<source>interval in seconds:</source>
+<translation>间隔(秒):</translation>
+</message>
+<message>
+<source>Keep features</source>
+<translation>保留功能</translation>
+</message>
+<message>
+<source>Kestrune</source>
+<translation>Kestrune</translation>
+</message>
+<message>
+<source>lblStatus</source>
+<translation>lblStatus</translation>
+</message>
+<message>
+<source>Light</source>
+<translation>浅色</translation>
+</message>
+<message>
+<source>List of currently started services.
+Services are programs that run in the background for various reasons and purposes. Some of them are essential, while others may be superfluous and consume CPU, memory and disk resources unnecessarily.</source>
+<translation>当前已启动服务的列表。
+服务是出于各种原因和目的在后台运行的程序。有些必不可少，有些则可能是多余的，会不必要地消耗 CPU、内存和磁盘资源。</translation>
+</message>
+<message>
+<source>List of enabled scheduled tasks.
+Scheduled tasks are programs that run in the background at a specific time (or event) for various reasons. Some of them may be unnecessary and consume CPU, memory, and disk resources unnecessarily.</source>
+<translation>已启用的计划任务列表。
+计划任务是出于各种原因在特定时间(或事件)在后台运行的程序。其中一些可能是不必要的，会无谓地消耗 CPU、内存和磁盘资源。</translation>
+</message>
+<message>
+<source>List of programs started automatically each time Windows starts.
+Like services and scheduled tasks, automatically started programs can slow down your system. Uncheck those you don't use on every startup.</source>
+<translation>每次 Windows 启动时自动启动的程序列表。
+与服务和计划任务一样，自动启动的程序可能会降低系统速度。请取消选中不是每次启动都使用的程序。</translation>
+</message>
+<message>
+<source>List of Windows packages can be uninstalled without problems.
+You can reinstall them directly by clicking on &quot;View uninstalled packages&quot; below the list.</source>
+<translation>可以放心卸载的 Windows 程序包列表。
+单击列表下方的“查看已卸载的程序包”可以直接重新安装。</translation>
+</message>
+<message>
+<source>Load system info:</source>
+<translation>加载系统信息:</translation>
+</message>
+<message>
+<source>loading disk info...</source>
+<translation>正在加载磁盘信息...</translation>
+</message>
+<message>
+<source>loading screen info...</source>
+<translation>正在加载屏幕信息...</translation>
+</message>
+<message>
+<source>Mail &amp; Calendar</source>
+<translation>邮件和日历</translation>
+</message>
+<message>
+<source>Manage features  (included in the page &quot;Features&quot;)</source>
+<translation>管理功能  (包含在“功能”页面中)</translation>
+</message>
+<message>
+<source>Manage programs and packages  (included in the page &quot;Programs&quot;)</source>
+<translation>管理程序和程序包  (包含在“程序”页面中)</translation>
+</message>
+<message>
+<source>Manual</source>
+<translation>手动</translation>
+</message>
+<message>
+<source>Manual start</source>
+<translation>手动启动</translation>
+</message>
+<message>
+<source>Media extensions for Edge and Windows Media Player</source>
+<translation>Edge 和 Windows Media Player 的媒体扩展</translation>
+</message>
+<message>
+<source>MEM</source>
+<translation>内存</translation>
+</message>
+<message>
+<source>Microsoft Codecs extensions</source>
+<translation>Microsoft 编解码器扩展</translation>
+</message>
+<message>
+<source>Microsoft codecs for video encoding/decoding. If you are not using Windows internal features for streaming,encoding or playing videos, uncheck this box</source>
+<translation>用于视频编码/解码的 Microsoft 编解码器。如果不使用 Windows 内部功能来流式传输、编码或播放视频，请取消选中此框</translation>
+</message>
+<message>
+<source>Microsoft video editor</source>
+<translation>Microsoft 视频编辑器</translation>
+</message>
+<message>
+<source>Mobile device synchronization</source>
+<translation>移动设备同步</translation>
+</message>
+<message>
+<source>Monitor and display some system information in the title bar</source>
+<translation>监视系统信息并显示在标题栏中</translation>
+</message>
+<message>
+<source>MotherBoard</source>
+<translation>主板</translation>
+</message>
+<message>
+<source>Name</source>
+<translation>名称</translation>
+</message>
+<message>
+<source>Name:</source>
+<translation>名称:</translation>
+</message>
+<message>
+<source>Need reboot!</source>
+<translation>需要重新启动!</translation>
+</message>
+<message>
+<source>NFC</source>
+<translation>NFC</translation>
+</message>
+<message>
+<source>No</source>
+<translation>否</translation>
+</message>
+<message>
+<source>no description</source>
+<translation>无描述</translation>
+</message>
+<message>
+<source>No optimizations found!</source>
+<translation>未找到可优化项目!</translation>
+</message>
+<message>
+<source>Old Xbox App, no longer supported!</source>
+<translation>旧版 Xbox 应用，已不再受支持!</translation>
+</message>
+<message>
+<source>on drive</source>
+<translation>位于驱动器</translation>
+</message>
+<message>
+<source>Optimization finished</source>
+<translation>优化完成</translation>
+</message>
+<message>
+<source>Optimize</source>
+<translation>优化</translation>
+</message>
+<message>
+<source>Optimizer</source>
+<translation>优化器</translation>
+</message>
+<message>
+<source>Options</source>
+<translation>选项</translation>
+</message>
+<message>
+<source>Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>局域网专用的另一种协议(例如: 某些视频播放器用它连接网络硬盘)<byte value="xd"/>
+(默认未使用但已激活!)</translation>
+</message>
+<message>
+<source>Otherwise some scheduled tasks will not be detected!</source>
+<translation>否则某些计划任务将无法检测到!</translation>
+</message>
+<message>
+<source>package: </source>
+<translation>程序包: </translation>
+</message>
+<message>
+<source>Package: can be installed: </source>
+<translation>程序包: 可以安装: </translation>
+</message>
+<message>
+<source>Package: can be uninstalled: </source>
+<translation>程序包: 可以卸载: </translation>
+</message>
+<message>
+<source>Packages</source>
+<translation>程序包</translation>
+</message>
+<message>
+<source>packages finished</source>
+<translation>程序包处理结束</translation>
+</message>
+<message>
+<source>Packages installed:</source>
+<translation>已安装的程序包:</translation>
+</message>
+<message>
+<source>Packages uninstalled:</source>
+<translation>已卸载的程序包:</translation>
+</message>
+<message>
+<source>Packages:</source>
+<translation>程序包:</translation>
+</message>
+<message>
+<source>Path</source>
+<translation>路径</translation>
+</message>
+<message>
+<source>Phone link</source>
+<translation>手机连接</translation>
+</message>
+<message>
+<source>Printer</source>
+<translation>打印机</translation>
+</message>
+<message>
+<source>Prioritize games  (GPU Priority, SFIO Priority, Scheduling category, Affinity)</source>
+<translation>游戏优先  (GPU Priority, SFIO Priority, Scheduling category, Affinity)</translation>
+</message>
+<message>
+<source>Process: can be disable: %1 from Riva Tuner Statistic Server app!<byte value="xd"/>
+This process only allows screen video capture.Does not affect the monitoring display in any way</source>
+<translation>进程: 可以禁用: Riva Tuner Statistic Server 应用的 %1!<byte value="xd"/>
+此进程仅用于屏幕视频捕获，完全不影响监视信息的显示</translation>
+</message>
+<message>
+<source>Process: disable EncoderServer done</source>
+<translation>进程: 禁用 EncoderServer 完成</translation>
+</message>
+<message>
+<source>processes</source>
+<translation>进程</translation>
+</message>
+<message>
+<source>Programs</source>
+<translation>程序</translation>
+</message>
+<message>
+<source>Programs started automatically</source>
+<translation>自动启动的程序</translation>
+</message>
+<message>
+<source>Proxy and VPN</source>
+<translation>代理和 VPN</translation>
+</message>
+<message>
+<source>Proxy or VPN functionality to improve the security of your network traffic<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>用于提高网络通信安全性的代理或 VPN 功能<byte value="xd"/>
+(默认未使用但已激活!)</translation>
+</message>
+<message>
+<source>Quick setup of some bluetooth headsets<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>快速设置某些蓝牙耳机<byte value="xd"/>
+(默认未使用但已激活!)</translation>
+</message>
+<message>
+<source>Reduces certain delays
+(menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
+<translation>缩短某些延迟
+(菜单显示、等待结束应用/服务、自动结束任务、无响应应用)</translation>
+</message>
+<message>
+<source>Refresh</source>
+<translation>刷新</translation>
+</message>
+<message>
+<source>Remove indexing attribute of %1</source>
+<translation>移除 %1 的索引属性</translation>
+</message>
+<message>
+<source>Remove indexing attribute of %1 finished</source>
+<translation>移除 %1 的索引属性完成</translation>
+</message>
+<message>
+<source>Remove indexing attribute of Windows partition %1</source>
+<translation>移除 Windows 分区 %1 的索引属性</translation>
+</message>
+<message>
+<source>Remove the indexed attribute from all files in the Windows partition
+(this operation may take some time)</source>
+<translation>从 Windows 分区的所有文件中移除索引属性
+(此操作可能需要一些时间)</translation>
+</message>
+<message>
+<source>Restoration finished</source>
+<translation>还原完成</translation>
+</message>
+<message>
+<source>Restoration finished: Restart your PC!</source>
+<translation>还原完成: 请重新启动电脑!</translation>
+</message>
+<message>
+<source>Restore</source>
+<translation>还原</translation>
+</message>
+<message>
+<source>RESTORE disabled scheduled tasks</source>
+<translation>还原已禁用的计划任务</translation>
+</message>
+<message>
+<source>RESTORE disabled services</source>
+<translation>还原已禁用的服务</translation>
+</message>
+<message>
+<source>Restore scheduled tasks completed successfully</source>
+<translation>计划任务还原成功完成</translation>
+</message>
+<message>
+<source>Restore services finished</source>
+<translation>服务还原完成</translation>
+</message>
+<message>
+<source>Restoring scheduled tasks</source>
+<translation>正在还原计划任务</translation>
+</message>
+<message>
+<source>Scheduled tasks</source>
+<translation>计划任务</translation>
+</message>
+<message>
+<source>Screenshot tool</source>
+<translation>截图工具</translation>
+</message>
+<message>
+<source>Service: can be disable: </source>
+<translation>服务: 可以禁用: </translation>
+</message>
+<message>
+<source>Service: can be enable: </source>
+<translation>服务: 可以启用: </translation>
+</message>
+<message>
+<source>Service: can be set to manual:</source>
+<translation>服务: 可以设置为手动:</translation>
+</message>
+<message>
+<source>Service: disable %1</source>
+<translation>服务: 禁用 %1</translation>
+</message>
+<message>
+<source>Service: disable and stop %1</source>
+<translation>服务: 禁用并停止 %1</translation>
+</message>
+<message>
+<source>Service: enable %1</source>
+<translation>服务: 启用 %1</translation>
+</message>
+<message>
+<source>Service: enable %1 done</source>
+<translation>服务: 启用 %1 完成</translation>
+</message>
+<message>
+<source>Service: enable and start %1</source>
+<translation>服务: 启用并启动 %1</translation>
+</message>
+<message>
+<source>Service: enable and start %1 done</source>
+<translation>服务: 启用并启动 %1 完成</translation>
+</message>
+<message>
+<source>Service: enable and start %1, already running!</source>
+<translation>服务: 启用并启动 %1，已在运行!</translation>
+</message>
+<message>
+<source>Service: set to manual:</source>
+<translation>服务: 设置为手动:</translation>
+</message>
+<message>
+<source>Services</source>
+<translation>服务</translation>
+</message>
+<message>
+<source>Services  (Experienced users)</source>
+<translation>服务  (有经验的用户)</translation>
+</message>
+<message>
+<source>Services:</source>
+<translation>服务:</translation>
+</message>
+<message>
+<source>Set the maximum number of GPU pre-rendered frames to 1
+(if you have a good CPU, this reduces latency)</source>
+<translation>将 GPU 预渲染的最大帧数设置为 1
+(如果 CPU 性能较好，可降低延迟)</translation>
+</message>
+<message>
+<source>SSD</source>
+<translation>SSD</translation>
+</message>
+<message>
+<source>Start mode</source>
+<translation>启动类型</translation>
+</message>
+<message>
+<source>Start service:</source>
+<translation>启动服务:</translation>
+</message>
+<message>
+<source>Start with adminstrator rights</source>
+<translation>以管理员权限启动</translation>
+</message>
+<message>
+<source>started:</source>
+<translation>已启动:</translation>
+</message>
+<message>
+<source>Status: Getting WinSxS folder size finished!</source>
+<translation>状态: 已获取 WinSxS 文件夹大小!</translation>
+</message>
+<message>
+<source>Status: Getting WinSxS folder size...</source>
+<translation>状态: 正在获取 WinSxS 文件夹大小...</translation>
+</message>
+<message>
+<source>Stop service:</source>
+<translation>停止服务:</translation>
+</message>
+<message>
+<source>stopped:</source>
+<translation>已停止:</translation>
+</message>
+<message>
+<source>System</source>
+<translation>系统</translation>
+</message>
+<message>
+<source>System
+Information</source>
+<translation>系统
+信息</translation>
+</message>
+<message>
+<source>System Information</source>
+<translation>系统信息</translation>
+</message>
+<message>
+<source>Task:</source>
+<translation>任务:</translation>
+</message>
+<message>
+<source>Task: can be disable: </source>
+<translation>任务: 可以禁用: </translation>
+</message>
+<message>
+<source>Task: can be enable: </source>
+<translation>任务: 可以启用: </translation>
+</message>
+<message>
+<source>Task: disable and stop %1</source>
+<translation>任务: 禁用并停止 %1</translation>
+</message>
+<message>
+<source>Task: Enable and start %1 done</source>
+<translation>任务: 启用并启动 %1 完成</translation>
+</message>
+<message>
+<source>Tasks</source>
+<translation>任务</translation>
+</message>
+<message>
+<source>Tasks:</source>
+<translation>任务:</translation>
+</message>
+<message>
+<source>Theme:</source>
+<translation>主题:</translation>
+</message>
+<message>
+<source>threads</source>
+<translation>线程</translation>
+</message>
+<message>
+<source>Uncheck all</source>
+<translation>全部取消选中</translation>
+</message>
+<message>
+<source>Uninstall</source>
+<translation>卸载</translation>
+</message>
+<message>
+<source>Uninstall packages</source>
+<translation>卸载程序包</translation>
+</message>
+<message>
+<source>uninstalled:</source>
+<translation>已卸载:</translation>
+</message>
+<message>
+<source>unknown</source>
+<translation>未知</translation>
+</message>
+<message>
+<source>UPnP network services</source>
+<translation>UPnP 网络服务</translation>
+</message>
+<message>
+<source>View auto started programs</source>
+<translation>查看自启动程序</translation>
+</message>
+<message>
+<source>View disabled services</source>
+<translation>查看已禁用的服务</translation>
+</message>
+<message>
+<source>View installed packages</source>
+<translation>查看已安装的程序包</translation>
+</message>
+<message>
+<source>View programs disabled</source>
+<translation>查看已禁用的程序</translation>
+</message>
+<message>
+<source>View started services</source>
+<translation>查看已启动的服务</translation>
+</message>
+<message>
+<source>View uninstalled packages</source>
+<translation>查看已卸载的程序包</translation>
+</message>
+<message>
+<source>Widget app</source>
+<translation>小组件应用</translation>
+</message>
+<message>
+<source>Win32PrioritySeparation:   Processor time allocated to applications.</source>
+<translation>Win32PrioritySeparation:   分配给应用程序的处理器时间。</translation>
+</message>
+<message>
+<source>WINDOWS</source>
+<translation>WINDOWS</translation>
+</message>
+<message>
+<source>Windows</source>
+<translation>Windows</translation>
+</message>
+<message>
+<source>Windows application: ERROR install %1: </source>
+<translation>Windows 应用: 安装 %1 时出错: </translation>
+</message>
+<message>
+<source>Windows application: ERROR uninstall %1: </source>
+<translation>Windows 应用: 卸载 %1 时出错: </translation>
+</message>
+<message>
+<source>Windows application: install %1 done</source>
+<translation>Windows 应用: 安装 %1 完成</translation>
+</message>
+<message>
+<source>Windows application: uninstall %1 done</source>
+<translation>Windows 应用: 卸载 %1 完成</translation>
+</message>
+<message>
+<source>Windows applications</source>
+<translation>Windows 应用</translation>
+</message>
+<message>
+<source>Windows packages installed</source>
+<translation>已安装的 Windows 程序包</translation>
+</message>
+<message>
+<source>Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)<byte value="xd"/>
+(by default it is not used but activated!)</source>
+<translation>局域网中的 Windows 共享功能(SMB 协议)(例如: 连接局域网中的硬盘、打印机)<byte value="xd"/>
+(默认未使用但已激活!)</translation>
+</message>
+<message>
+<source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
+<translation>是否为 Windows 分区中的所有文件设置索引属性?</translation>
+</message>
+<message>
+<source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
+<translation>是否为 Windows 分区中的所有文件设置索引属性?</translation>
+</message>
+<message>
+<source>Xbox App</source>
+<translation>Xbox 应用</translation>
+</message>
+<message>
+<source>Xbox game bar</source>
+<translation>Xbox Game Bar</translation>
+</message>
+<message>
+<source>XBOX Game Bar that appears at the top of the screen, above a game. If you don't use it, uncheck this box</source>
+<translation>显示在屏幕顶部、游戏上方的 Xbox Game Bar。如果不使用，请取消选中此框</translation>
+</message>
+<message>
+<source>Yes</source>
+<translation>是</translation>
+</message>
+<message>
+<source>You must launch this app with Admin rights!</source>
+<translation>必须以管理员身份运行此应用!</translation>
+</message>
+<message>
+<source>You should launch this app with Admin rights!</source>
+<translation>建议以管理员身份运行此应用!</translation>
+</message>
+</context>
+</TS>

@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The texts of all languages against those of the sources, which lupdate reads out of them.
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QHash>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct SourceText
+{
+    QString context;
+    QString text;
+};
+
+/** Text of an element, with the control characters that XML can't hold. */
+QString readText(QXmlStreamReader &xml)
+{
+    QString text;
+    while (xml.readNext() != QXmlStreamReader::EndElement) {
+        if (xml.isCharacters()) {
+            text += xml.text();
+        } else if (xml.isStartElement()) {
+            text += QChar(xml.attributes().value("value"_L1).mid(1).toInt(nullptr, 16));
+            xml.skipCurrentElement();
+        }
+    }
+    return text;
+}
+
+QList<SourceText> readSourceTexts(QIODevice &file)
+{
+    QList<SourceText> texts;
+    QXmlStreamReader xml(&file);
+    QString context;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == "name"_L1)
+            context = readText(xml);
+        else if (xml.name() == "source"_L1)
+            texts.append({context, readText(xml)});
+    }
+    return texts;
+}
+
+QStringList found(const QString &text, const QString &pattern)
+{
+    QStringList all;
+    auto matches = QRegularExpression(pattern).globalMatch(text);
+    while (matches.hasNext())
+        all.append(matches.next().captured());
+    return all;
+}
+
+QStringList sorted(QStringList list)
+{
+    list.sort();
+    return list;
+}
+
+QString blanksAround(const QString &text)
+{
+    const QString inside = text.trimmed();
+    const auto begin = text.indexOf(inside);
+    return text.left(begin) + u'|' + text.mid(begin + inside.size());
+}
+
+} // namespace
+
+class TestTranslations : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyTextIsTranslated_data() { addLanguages(); }
+    void everyTextIsTranslated();
+    void placeholdersAndBlanksAreThoseOfTheSource_data() { addLanguages(); }
+    void placeholdersAndBlanksAreThoseOfTheSource();
+    void markupIsThatOfTheSource_data() { addLanguages(); }
+    void markupIsThatOfTheSource();
+    void sameTextIsTheSameInEveryContext_data() { addLanguages(); }
+    void sameTextIsTheSameInEveryContext();
+    void textsThatAreToldApartStayApart_data() { addLanguages(); }
+    void textsThatAreToldApartStayApart();
+    void marksThatTheCodeLooksForAreThere_data() { addLanguages(); }
+    void marksThatTheCodeLooksForAreThere();
+    void englishIsAFileWithoutTexts();
+    void qtFindsTheFileOfEveryCountry_data();
+    void qtFindsTheFileOfEveryCountry();
+
+private:
+    static QString folder() { return QCoreApplication::applicationDirPath() + u"/Translations/"_s; }
+    static void addLanguages();
+    void load();
+    QString translated(const SourceText &source) const
+    {
+        return translator_.translate(source.context.toUtf8().constData(), source.text.toUtf8().constData());
+    }
+    QString translated(const char *text) const { return translator_.translate("Kestrune", text); }
+
+    QList<SourceText> sources_;
+    QTranslator translator_;
+};
+
+void TestTranslations::initTestCase()
+{
+    const QTemporaryDir temporary;
+    QProcess lupdate;
+    const QString result = temporary.filePath(u"sources.ts"_s);
+    lupdate.start(QStringLiteral(KESTRUNE_LUPDATE),
+                  {QStringLiteral(KESTRUNE_SOURCES), u"-silent"_s, u"-locations"_s, u"none"_s, u"-ts"_s, result});
+    QVERIFY(lupdate.waitForFinished(60000));
+    QFile file(result);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QSet<QString> ours{u"KestruneClass"_s, u"Kestrune"_s, u"WorkThread"_s};
+    for (const SourceText &source : readSourceTexts(file)) {
+        if (ours.contains(source.context))
+            sources_.append(source);
+    }
+    QVERIFY(sources_.size() > 200);
+}
+
+void TestTranslations::addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &file : QDir(folder()).entryList({u"lang_*.qm"_s})) {
+        const QString language = file.mid(5).chopped(3);
+        if (language != "en_US"_L1)
+            QTest::newRow(qPrintable(language)) << language;
+    }
+}
+
+void TestTranslations::load()
+{
+    QFETCH(QString, language);
+    QVERIFY(translator_.load(folder() + u"lang_"_s + language + u".qm"_s));
+}
+
+void TestTranslations::everyTextIsTranslated()
+{
+    load();
+    for (const SourceText &source : sources_)
+        QVERIFY2(!translated(source).isEmpty(), qPrintable(source.context + u": "_s + source.text));
+}
+
+void TestTranslations::placeholdersAndBlanksAreThoseOfTheSource()
+{
+    load();
+    for (const SourceText &source : sources_) {
+        const QString text = translated(source);
+        for (const QString &pattern : {u"%\\w+"_s, u"\\r\\n|\\r|\\n"_s})
+            QCOMPARE(sorted(found(text, pattern)), sorted(found(source.text, pattern)));
+        QCOMPARE(blanksAround(text), blanksAround(source.text));
+    }
+}
+
+void TestTranslations::markupIsThatOfTheSource()
+{
+    load();
+    for (const SourceText &source : sources_) {
+        if (source.text.startsWith("<html>"_L1))
+            QCOMPARE(found(translated(source), u"<[^>]*>"_s), found(source.text, u"<[^>]*>"_s));
+    }
+}
+
+void TestTranslations::sameTextIsTheSameInEveryContext()
+{
+    load();
+    QHash<QString, QString> translations;
+    for (const SourceText &source : sources_) {
+        const QString text = translated(source);
+        QCOMPARE(text, translations.value(source.text, text));
+        translations.insert(source.text, text);
+    }
+}
+
+/** The window tells a page's view by the text of a button, and a job's outcome by a word. */
+void TestTranslations::textsThatAreToldApartStayApart()
+{
+    load();
+    // clang-format off
+    const std::pair<const char *, const char *> pairs[] = {
+        {"View programs disabled",    "View auto started programs"},
+        {"Disable checked programs",  "Enable checked programs"},
+        {"View uninstalled packages", "View installed packages"},
+        {"Uninstall packages",        "Install packages"},
+        {"View disabled services",    "View started services"},
+        {"DISABLE checked services",  "ENABLE checked services"},
+        {"Auto",                      "Manual"},
+        {"Auto",                      "Disabled"},
+        {"Yes",                       "No"},
+    };
+    // clang-format on
+    for (const auto &[one, other] : pairs)
+        QVERIFY2(translated(one) != translated(other), one);
+    const QString done = translator_.translate("WorkThread", "done");
+    QVERIFY(!QString(translator_.translate("WorkThread", "error")).endsWith(done));
+}
+
+void TestTranslations::marksThatTheCodeLooksForAreThere()
+{
+    load();
+    const auto inWork = [this](const char *text) { return translator_.translate("WorkThread", text); };
+    const auto inForm = [this](const char *text) { return translator_.translate("KestruneClass", text); };
+    QVERIFY(inWork("Status: Getting WinSxS folder size...").endsWith(u"..."_s));
+    QVERIFY(inWork("Status: Getting WinSxS folder size finished!").endsWith(u'!'));
+    QVERIFY(inForm("Disable SearchHost.exe  (process for searching files. If disabled, advanced search may "
+                   "malfunction)")
+                .contains(u"SearchHost.exe"_s));
+    // The report's template holds two texts as plain words.
+    for (const SourceText &source : sources_) {
+        if (!source.text.contains(u"loading disk info..."_s) || !source.text.startsWith("<html>"_L1))
+            continue;
+        QVERIFY(translated(source).contains(translated("loading screen info...")));
+        QVERIFY(translated(source).contains(translated("loading disk info...")));
+    }
+}
+
+void TestTranslations::englishIsAFileWithoutTexts()
+{
+    QTranslator english;
+    QVERIFY(english.load(folder() + u"lang_en_US.qm"_s));
+    QVERIFY(english.isEmpty());
+}
+
+void TestTranslations::qtFindsTheFileOfEveryCountry_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("yes");
+    QTest::newRow("Austria") << u"de_AT"_s << u"Ja"_s;
+    QTest::newRow("Mexico") << u"es_MX"_s << u"Sí"_s;
+    QTest::newRow("Belgium") << u"fr_BE"_s << u"Oui"_s;
+    QTest::newRow("Switzerland") << u"it_CH"_s << u"Sì"_s;
+    QTest::newRow("Brazil") << u"pt_BR"_s << u"Sim"_s;
+    QTest::newRow("Poland") << u"pl_PL"_s << u"Tak"_s;
+    QTest::newRow("Netherlands") << u"nl_NL"_s << u"Ja"_s;
+    QTest::newRow("Japan") << u"ja_JP"_s << u"はい"_s;
+    QTest::newRow("China") << u"zh_CN"_s << u"是"_s;
+    // Another script
+    QTest::newRow("Taiwan") << u"zh_TW"_s << QString();
+    QTest::newRow("Sweden") << u"sv_SE"_s << QString();
+}
+
+void TestTranslations::qtFindsTheFileOfEveryCountry()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, yes);
+    QTranslator translator;
+    QCOMPARE(translator.load(folder() + u"lang_"_s + locale + u".qm"_s), !yes.isEmpty());
+    QCOMPARE(translator.translate("Kestrune", "Yes"), yes);
+}
+
+QTEST_GUILESS_MAIN(TestTranslations)
+#include "tst_translations.moc"
