@@ -27,13 +27,17 @@ Kestrune::Kestrune()
     monitorTimer = new QTimer(this);
 
     applyPalette();
+    startLanguage();
 
     // From here on a page may open a box, whose event loop may bring anything: all that is needed is set by now.
     const auto settings = openSettings();
     showPage(settings->value(u"lastPage"_s, 0).toInt());
     // The page may have moved the program to an elevated instance, which the value is for then.
-    if (!left_)
+    if (!left_) {
         settings->remove(u"lastPage"_s);
+        if (settings->value(u"CheckUpdate"_s, 0).toInt() == 1)
+            checkUpdate();
+    }
     prepareMonitor();
     lookAtGraphicsCard();
 }

@@ -12,6 +12,8 @@
 #include <QSet>
 #include <QTextBrowser>
 
+class QNetworkAccessManager;
+class QNetworkReply;
 class QTimer;
 struct TweakBox;
 
@@ -104,6 +106,14 @@ private Q_SLOTS:
     void setServiceManualStart();
     void setServiceAutomaticStart();
 
+    // Options page
+    void onCbOptionsLangSelectionChanged(int index);
+    void onCbOptionsThemeSelectionChanged(int index);
+    void onChkOptionsStartAsAdminStateChanged(int state);
+    void onChkOptionsCheckUpdateStateChanged(int state);
+    void onChkOptionsGetWinSxsSizeStateChanged(int state);
+    void onCheckUpdateResult(QNetworkReply *reply);
+
     void onKeepModelChanged(const QModelIndex &first, const QModelIndex &last);
 
 private:
@@ -128,6 +138,7 @@ private:
     void styleTables(const QString &style);
     template<typename Widget>
     void styleAll(const QString &style);
+    void styleComboBoxes(const QString &style, const QString &listStyle);
     void colorTexts();
     /** Gives the text's coloured words the theme's colour. */
     void colorText(QTextBrowser *browser);
@@ -198,15 +209,30 @@ private:
     void onAttributeWalkEnd();
     void lookAtGraphicsCard();
 
+    // Options and About page
+    void startLanguage();
+    /** Installs the language's file; only if that can be read, the choice is stored. */
+    void speak(const QString &tag, const QString &stored);
+    void showOptionsPage();
+    void loadTheme();
+    void loadLanguage();
+    /** Sets the box from its key without a call of the slot, which is connected from then on. */
+    void loadCheckBox(QCheckBox *box, const QString &key, int fallback, void (Kestrune::*slot)(int));
+    void loadComboBox(QComboBox *box, int index, void (Kestrune::*slot)(int));
+    void showAboutPage();
+    void nameHost();
+    void checkUpdate();
+
     Ui::KestruneClass ui;
     WorkThread *workThread = nullptr;
     WorkThread *workThreadWinSxs = nullptr;
     WorkThread *workThreadMonitor = nullptr;
     QTimer *monitorTimer = nullptr;
-    QString infoTemplate;     ///< the report with its marks, once there has been one
-    QPalette startPalette;    ///< the system's own palette
-    QColor previousLinkColor; ///< of the theme before the present one
-    int currentTheme = 0;     ///< a Theme
+    QNetworkAccessManager *updateManager = nullptr; ///< of the last check
+    QString infoTemplate;                           ///< the report with its marks, once there has been one
+    QPalette startPalette;                          ///< the system's own palette
+    QColor previousLinkColor;                       ///< of the theme before the present one
+    int currentTheme = 0;                           ///< a Theme
     int svcDisabledCount = 0;
     int svcStartedCount = 0;
     int svcStoppedCount = 0;

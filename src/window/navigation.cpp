@@ -6,6 +6,7 @@
 #include "platform/platform.h"
 #include "theme.h"
 #include "themestyles.h"
+#include "webhost.h"
 
 #include <QCursor>
 #include <QMenu>
@@ -96,12 +97,18 @@ void Kestrune::openPage(int page)
     case 6:
         showInfoPage();
         break;
+    case 8:
+        showAboutPage();
+        break;
     default:
         break;
     }
     // Last: a page may have a question first.
     applyActiveMenuStyle(ui.wgtLeftMenu->findChild<QPushButton *>(button),
                          imageFile(pages[page].image, currentTheme == DarkTheme));
+    // A language that is put back while the page is loaded shows the page once more by itself.
+    if (page == 7)
+        showOptionsPage();
 }
 
 void Kestrune::refreshPage()
@@ -151,6 +158,7 @@ void Kestrune::prepareForm()
 
     ui.tabWidget->tabBar()->hide();
     ui.pgrBar->hide();
+    nameHost();
     for (const Widths &widths : tables) {
         for (int column = 0; column < widths.columns.size(); ++column)
             widths.table->setColumnWidth(column, widths.columns.at(column));
@@ -160,6 +168,12 @@ void Kestrune::prepareForm()
         list->setContextMenuPolicy(Qt::CustomContextMenu);
         connect(list, &QWidget::customContextMenuRequested, this, &Kestrune::showContextMenu, Qt::UniqueConnection);
     }
+}
+
+void Kestrune::nameHost()
+{
+    for (QTextBrowser *browser : {ui.txtAbout, ui.txtGaming12})
+        browser->setHtml(withWebHost(browser->toHtml()));
 }
 
 void Kestrune::on_btnMenuPackage_clicked()

@@ -9,6 +9,7 @@
 #include "themestyles.h"
 #include "work/settings.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QScrollBar>
 
@@ -124,6 +125,39 @@ void Kestrune::applySystemTheme()
     styleTables(QString());
     openSettings()->setValue(u"palette"_s, u"system"_s);
     currentTheme = SystemTheme;
+}
+
+void Kestrune::onCbOptionsThemeSelectionChanged(int index)
+{
+    previousLinkColor = QGuiApplication::palette().color(QPalette::Link);
+    const bool onWindows10 = workThread->winName.contains("Windows 10"_L1, Qt::CaseInsensitive);
+    const bool onWindows11 = workThread->winName.contains("Windows 11"_L1, Qt::CaseInsensitive);
+    const auto settings = openSettings();
+    if (index == 0 && onWindows11) {
+        settings->setValue(u"palette"_s, u"dark"_s);
+        styleComboBoxes({}, {});
+    } else if (index == 1) {
+        settings->setValue(u"palette"_s, u"light"_s);
+        if (onWindows10)
+            styleComboBoxes(plainLightComboBoxStyle(platform().resourceFolder()),
+                            u"background-color: #FFFFFF; color: black; "_s);
+        else
+            styleComboBoxes({}, {});
+    } else if (index == 2) {
+        settings->setValue(u"palette"_s, u"system"_s);
+        if (onWindows10)
+            styleComboBoxes({}, {});
+    }
+    applyPalette();
+    showPage(7);
+}
+
+void Kestrune::styleComboBoxes(const QString &style, const QString &listStyle)
+{
+    for (QComboBox *box : ui.wgtMain->findChildren<QComboBox *>()) {
+        box->setStyleSheet(style);
+        box->view()->setStyleSheet(listStyle);
+    }
 }
 
 void Kestrune::colorTexts()

@@ -23,12 +23,17 @@ QString actionButtonStyle(const ButtonColors &colors)
            + u"; border-radius: 6px; }"_s;
 }
 
-QString lightComboBoxStyle(const QString &resourceFolder, const QColor &link)
+QString plainLightComboBoxStyle(const QString &resourceFolder)
 {
     return u"QComboBox { border-radius: 6px; padding-left: 12px; background: white; color: black; "
            "}QComboBox::drop-down  { border: 0px; background: transparent; padding-right: 6px; "
            "}QComboBox::down-arrow  { image:url("_s
-           + resourceFolder + u"/img/dropdown.png); }QListView { background-color: "_s + QColor(248, 248, 248).name()
+           + resourceFolder + u"/img/dropdown.png); }"_s;
+}
+
+QString lightComboBoxStyle(const QString &resourceFolder, const QColor &link)
+{
+    return plainLightComboBoxStyle(resourceFolder) + u"QListView { background-color: "_s + QColor(248, 248, 248).name()
            + u"; border-radius: 6px; border: 1px solid "_s + QColor(224, 224, 224).name()
            + u"; }QListView::item { padding: 2px; background: transparent; }QListView::item:hover { "
              "background-color: "_s

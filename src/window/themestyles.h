@@ -20,6 +20,8 @@ QString viewButtonStyle(const ButtonColors &colors);
 /** All other buttons of the pages. */
 QString actionButtonStyle(const ButtonColors &colors);
 
+/** What a combo box wears on Windows 10 at the moment in which the light theme is chosen. */
+QString plainLightComboBoxStyle(const QString &resourceFolder);
 QString lightComboBoxStyle(const QString &resourceFolder, const QColor &link);
 QString lightCheckBoxStyle(bool onWindows10, const QColor &link);
 /** The log's scroll bar in the light theme, where it would take over the log's frame. */

@@ -1,0 +1,247 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Whether each text fits its widget at the window's minimum size, on every page in every language.
+//
+// The fonts are those that stand in for Windows' own, which are narrower. None of them has ideographs: each is measured
+// as a dash as wide as an ideograph.
+
+#include "app/standinfonts.h"
+#include "support/windowdriver.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QHeaderView>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTranslator>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int pageCount = 9;
+
+/** A language with a dash for each ideograph. */
+class WideTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *comment, int number) const override
+    {
+        const QString text = QTranslator::translate(context, source, comment, number);
+        if (text.isNull())
+            return text;
+        QString wide;
+        for (const QChar character : text) {
+            if (character >= QChar(0x2e80))
+                wide += dash;
+            else
+                wide += character;
+        }
+        return wide;
+    }
+    bool isEmpty() const override { return false; }
+
+private:
+    /** Behind an ideograph a line may end, and behind a dash it may not but for the blank without width. */
+    const QString dash = u"\u2014\u200b"_s;
+};
+
+QString named(const QWidget *widget, const QString &text)
+{
+    return widget->objectName() + u": "_s + text;
+}
+
+int widthOfLines(const QWidget *widget, const QString &text)
+{
+    int width = 0;
+    for (const QString &line : text.split(u'\n'))
+        width = std::max(width, widget->fontMetrics().horizontalAdvance(line));
+    return width;
+}
+
+bool fits(QSize size, const QWidget *widget)
+{
+    return size.width() <= widget->width() && size.height() <= widget->height();
+}
+
+/** Looks at all texts of the window as it stands, and keeps those that don't fit. */
+class Look
+{
+public:
+    explicit Look(const WindowDriver &driver)
+        : driver_(driver)
+    {
+        each<QLabel>([this](const QLabel *label) { return labelFits(label); });
+        each<QCheckBox>([](const QCheckBox *box) { return fits(box->sizeHint(), box); });
+        each<QPushButton>([](const QPushButton *button) { return buttonFits(button); });
+        each<QComboBox>([](const QComboBox *box) { return boxFits(box); });
+        each<QTextBrowser>([](const QTextBrowser *browser) { return browserFits(browser); });
+        each<QHeaderView>([](const QHeaderView *header) { return headerFits(header); });
+        each<QScrollArea>([](const QScrollArea *area) { return area->horizontalScrollBar()->maximum() == 0; });
+        const QWidget *page = driver.get<QTabWidget>(u"tabWidget"_s)->currentWidget();
+        if (!fits(page->minimumSizeHint(), page))
+            misfits.append(named(page, u"is larger than the window"_s));
+    }
+
+    QStringList misfits;
+
+private:
+    template<typename Widget, typename Test>
+    void each(Test test)
+    {
+        for (const Widget *widget : driver_.window().findChildren<Widget *>()) {
+            if (widget->isVisible() && !test(widget))
+                misfits.append(named(widget, textOf(widget)));
+        }
+    }
+
+    template<typename Widget>
+    static QString textOf(const Widget *widget)
+    {
+        if constexpr (requires { widget->text(); })
+            return widget->text();
+        else
+            return {};
+    }
+
+    static bool labelFits(const QLabel *label)
+    {
+        if (label->wordWrap())
+            return label->heightForWidth(label->width()) <= label->height();
+        const auto lines = label->text().count(u'\n') + 1;
+        return widthOfLines(label, label->text()) <= label->width()
+               && lines * label->fontMetrics().height() <= label->height() && !runsIntoNeighbour(label);
+    }
+
+    /** Labels without a layout reach behind what stands beside them. */
+    static bool runsIntoNeighbour(const QLabel *label)
+    {
+        const QRect text(label->pos(), QSize(widthOfLines(label, label->text()), label->height()));
+        for (const QWidget *neighbour : label->parentWidget()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
+            if (neighbour != label && neighbour->isVisible() && neighbour->geometry().intersects(text))
+                return true;
+        }
+        return false;
+    }
+
+    /** The menu's buttons have their margin and their image on the left, and the text in the middle of the rest. */
+    static bool buttonFits(const QPushButton *button)
+    {
+        constexpr int margin = 12;
+        constexpr int image = 32;
+        constexpr int rim = 6;
+        const int text = widthOfLines(button, button->text());
+        const bool inMenu = button->objectName().startsWith("btnMenu"_L1);
+        const int room = inMenu ? button->width() - margin - 2 * image : button->width() - 2 * rim;
+        const int lines = int(button->text().count(u'\n')) + 1;
+        return text <= room && lines * button->fontMetrics().height() <= button->height();
+    }
+
+    static bool boxFits(const QComboBox *box)
+    {
+        // What the light theme puts around the text
+        constexpr int paddingAndArrow = 12 + 16;
+        for (int row = 0; row < box->count(); ++row) {
+            // The rows of a check list are seen in the list only, and numbers are no translation.
+            bool number = false;
+            box->itemText(row).toInt(&number);
+            const bool shown = box->itemData(row, Qt::CheckStateRole).isNull() && !number;
+            if (shown && widthOfLines(box, box->itemText(row)) > box->width() - paddingAndArrow)
+                return false;
+        }
+        return true;
+    }
+
+    /** The report's places for values are longer than most values, so that it tells nothing yet. */
+    static bool browserFits(const QTextBrowser *browser)
+    {
+        return browser->objectName() == "txtInfo"_L1 || browser->verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff
+               || browser->document()->size().height() <= browser->viewport()->height();
+    }
+
+    static bool headerFits(const QHeaderView *header)
+    {
+        if (header->orientation() == Qt::Vertical)
+            return true;
+        for (int column = 0; column < header->count(); ++column) {
+            const int width = header->sectionSize(column);
+            if (width > 0 && header->sectionSizeHint(column) > width)
+                return false;
+        }
+        return true;
+    }
+
+    const WindowDriver &driver_;
+};
+
+/** What the page says in its other view, or when it has found something. */
+void showOtherTexts(const WindowDriver &driver, int page)
+{
+    if (page == 1)
+        driver.click(u"btnSvcViewDisabled"_s);
+    else if (page == 3)
+        driver.click(u"btnAutorunViewDisabled"_s);
+    else if (page == 4)
+        driver.click(u"btnPackagesViewDisabled"_s);
+    else if (page == 5) {
+        driver.get<QCheckBox>(u"chkSsd7"_s)
+            ->setText(Kestrune::tr("Disable hibernation mode  (gain %1 GB of storage space)").arg(u"12.7"_s));
+        driver.button(u"btnSsd8"_s)
+            ->setText(
+                Kestrune::tr("Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)").arg(u"12.7"_s));
+    }
+    // The layouts come to rest.
+    QTest::qWait(30);
+}
+
+} // namespace
+
+class TestFit : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { useStandInFonts(); }
+    void everyTextFits_data();
+    void everyTextFits();
+};
+
+void TestFit::everyTextFits_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("page");
+    const QDir folder(QCoreApplication::applicationDirPath() + u"/Translations"_s);
+    for (const QString &file : folder.entryList({u"lang_*.qm"_s})) {
+        for (int page = 0; page < pageCount; ++page)
+            QTest::addRow("%s, page %d", qPrintable(file), page) << folder.filePath(file) << page;
+    }
+}
+
+void TestFit::everyTextFits()
+{
+    QFETCH(QString, file);
+    QFETCH(int, page);
+    WideTranslator translator;
+    QVERIFY(translator.load(file));
+    QCoreApplication::installTranslator(&translator);
+    TestMachine pc;
+    // The window itself leaves the language alone.
+    pc.write(settingsKey, u"lang"_s, u"en"_s);
+    pc.write(settingsKey, u"palette"_s, u"light"_s);
+    const WindowDriver driver;
+    driver.window().resize(driver.window().minimumSize());
+    driver.window().showPage(page);
+    QTRY_VERIFY_WITH_TIMEOUT(!driver.worker().isRunning(), patience);
+    // The layouts come to rest.
+    QTest::qWait(30);
+    QCOMPARE(driver.window().size(), QSize(800, 640));
+    QStringList misfits = Look(driver).misfits;
+    showOtherTexts(driver, page);
+    misfits += Look(driver).misfits;
+    QVERIFY2(misfits.isEmpty(), qPrintable(misfits.join(u'\n')));
+}
+
+QTEST_MAIN(TestFit)
+#include "tst_fit.moc"
