@@ -60,6 +60,10 @@ private Q_SLOTS:
     void walkOfWhatIsntThereGivesNothing();
     void walkOfADeepTree();
 
+    void attributesOfFilesAndFolders();
+    void attributesOfALinkAreItsOwn();
+    void attributesSetDuringAWalkLastWhenItIsOver();
+
     void programFiles_data();
     void programFiles();
     void aProgramThatIsMissingByAFault();
@@ -238,6 +242,48 @@ void TestPlatform::walkOfADeepTree()
     const QMap<QString, qint64> entries = walked(u"C:"_s);
     QCOMPARE(entries.size(), 250);
     QVERIFY(entries.contains(drive() + deep));
+}
+
+void TestPlatform::attributesOfFilesAndFolders()
+{
+    const QString file = drive() + u"/Folder/file.txt"_s;
+    writeFile(file, "x");
+    QCOMPARE(platform().fileAttributes(file), 0x20u);
+    QCOMPARE(platform().fileAttributes(drive() + u"/Folder"_s), 0x10u);
+    platform().setFileAttributes(file, 0x22);
+    QCOMPARE(platform().fileAttributes(file), 0x22u);
+    QCOMPARE(walked(u"C:"_s).size(), 1);
+    // What isn't there can't be read or changed, and no file takes the word that says so.
+    const QString missing = drive() + u"/missing"_s;
+    QCOMPARE(platform().fileAttributes(missing), invalidAttributes);
+    platform().setFileAttributes(missing, 0x22);
+    writeFile(missing, "x");
+    QCOMPARE(platform().fileAttributes(missing), 0x20u);
+    platform().setFileAttributes(missing, invalidAttributes);
+    QCOMPARE(platform().fileAttributes(missing), 0x20u);
+}
+
+void TestPlatform::attributesOfALinkAreItsOwn()
+{
+    const QString file = drive() + u"/file.txt"_s;
+    const QString link = drive() + u"/link"_s;
+    writeFile(file, "x");
+    if (!QFile::link(file, link))
+        QSKIP("no links here");
+    platform().setFileAttributes(link, 0x2020);
+    QCOMPARE(platform().fileAttributes(link), 0x2020u);
+    QCOMPARE(platform().fileAttributes(file), 0x20u);
+}
+
+void TestPlatform::attributesSetDuringAWalkLastWhenItIsOver()
+{
+    const QString file = drive() + u"/file.txt"_s;
+    writeFile(file, "x");
+    platform().walk(u"C:"_s, [](const WalkEntry &entry) {
+        platform().setFileAttributes(entry.path, 0x2020);
+        return false;
+    });
+    QCOMPARE(Machine::open(contract_->folder())->attributes(file), 0x2020u);
 }
 
 void TestPlatform::programFiles_data()

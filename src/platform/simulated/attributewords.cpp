@@ -15,11 +15,11 @@ constexpr quint32 noWord = 0xffffffff;
 
 } // namespace
 
-std::optional<quint32> AttributeWords::read(const QString &file) const
+std::optional<quint32> AttributeWords::read(const QString &file)
 {
     const std::lock_guard lock(lock_);
-    if (const auto waiting = waiting_.constFind(file); waiting != waiting_.cend())
-        return *waiting;
+    if (waiting_.contains(file))
+        store();
     if (!QFileInfo::exists(file))
         return std::nullopt;
     return machine_.attributes(file);

@@ -24,7 +24,7 @@ public:
     }
 
     /** By host path; nothing where there is no such file. Throws MachineError. */
-    std::optional<quint32> read(const QString &file) const;
+    std::optional<quint32> read(const QString &file);
     /** A file that isn't there is passed over. */
     void write(const QString &file, quint32 word);
 
@@ -44,7 +44,7 @@ private:
     void store();
 
     Machine &machine_;
-    mutable std::mutex lock_;
+    std::mutex lock_;
     QHash<QString, quint32> waiting_;
     int walks_ = 0;
 };
