@@ -88,6 +88,8 @@ private Q_SLOTS:
     void walkOverABareDriveBeginsAtItsRoot();
     void walkOverNothingGivesNothing();
 
+    void attributesAreThoseOfTheSystem();
+
     void pauseLastsAsLongAsAsked();
     void pauseEndsWithTheInterruption();
     void shellStartsAProgramWithParameters();
@@ -338,6 +340,22 @@ void TestWindowsPlatform::walkOverABareDriveBeginsAtItsRoot()
 void TestWindowsPlatform::walkOverNothingGivesNothing()
 {
     QVERIFY(walked(u"C:\\no such folder"_s).isEmpty());
+}
+
+void TestWindowsPlatform::attributesAreThoseOfTheSystem()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"file.txt"_s);
+    writeFile(file, "x");
+    QCOMPARE(platform().fileAttributes(folder.path()) & FILE_ATTRIBUTE_DIRECTORY, quint32(FILE_ATTRIBUTE_DIRECTORY));
+    platform().setFileAttributes(file, FILE_ATTRIBUTE_HIDDEN);
+    QCOMPARE(platform().fileAttributes(file) & FILE_ATTRIBUTE_HIDDEN, quint32(FILE_ATTRIBUTE_HIDDEN));
+    platform().setFileAttributes(file, FILE_ATTRIBUTE_NORMAL);
+    QCOMPARE(platform().fileAttributes(file) & FILE_ATTRIBUTE_HIDDEN, 0u);
+    QCOMPARE(platform().fileAttributes(folder.filePath(u"missing"_s)), invalidAttributes);
+    platform().setFileAttributes(folder.filePath(u"missing"_s), FILE_ATTRIBUTE_HIDDEN);
+    platform().setFileAttributes(file, invalidAttributes);
+    QVERIFY(QFile::exists(file));
 }
 
 void TestWindowsPlatform::pauseLastsAsLongAsAsked()
