@@ -22,6 +22,7 @@ constexpr std::array attributeWords{
     Attribute{"readonly"_L1,    0x0001},
     Attribute{"hidden"_L1,      0x0002},
     Attribute{"system"_L1,      0x0004},
+    Attribute{"not-indexed"_L1, 0x2000},
 };
 // clang-format on
 constexpr quint32 folderBit = 0x10;

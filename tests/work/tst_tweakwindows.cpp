@@ -1,0 +1,510 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The Windows group, the telemetry values among it.
+
+#include "tweaktrial.h"
+
+#include "work/command.h"
+#include "work/tweaks/tweakvalues.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString menuKey =
+    u"HKEY_CURRENT_USER\\Software\\Classes\\CLSID\\{86ca1aa0-34aa-4e8b-a509-50c905bae2a2}\\InprocServer32"_s;
+const QString cloudService = u"CloudBackupRestoreSvc_5cbba"_s;
+const QString searchHost = u"C:\\Windows\\SystemApps\\MicrosoftWindows.Client.CBS_cw5n1h2txyewy\\SearchHost.exe"_s;
+const QString searchApp = u"C:\\Windows\\SystemApps\\Microsoft.Windows.Search_cw5n1h2txyewy\\SearchApp.exe"_s;
+const QString cloudTasks = u"\\Microsoft\\Windows\\CloudRestore\\"_s;
+
+// clang-format off
+constexpr ExpectedValue table[] = {
+    {1, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control",
+     "SvcHostSplitThresholdInKB", "dword 251658240", "dword 380000"},
+    {2, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Configuration Manager",
+     "EnablePeriodicBackup", "dword 0", "dword 1"},
+    {3, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\Windows Search",
+     "PreventUsingAdvancedIndexingOptions", "dword 1", "dword 0"},
+    {4, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\FileHistory",
+     "Disabled", "dword 1", "dword 0"},
+    {4, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced",
+     "Start_TrackDocs", "dword 0", "dword 1"},
+    {6, "HKEY_USERS\\S-1-5-20\\Software\\Microsoft\\Windows\\CurrentVersion\\DeliveryOptimization\\Settings",
+     "DownloadMode", "dword 0", "dword 1"},
+    {6, "HKEY_USERS\\S-1-5-20\\Software\\Microsoft\\Windows\\CurrentVersion\\DeliveryOptimization\\Settings",
+     "DownloadModeProvider", "dword 8", gone},
+    {8, "HKEY_CURRENT_USER\\Control Panel\\Desktop",
+     "MenuShowDelay", "\"0\"", "\"400\""},
+    {8, "HKEY_CURRENT_USER\\Control Panel\\Desktop",
+     "AutoEndTasks", "\"3000\"", gone},
+    {8, "HKEY_CURRENT_USER\\Control Panel\\Desktop",
+     "HungAppTimeout", "\"3000\"", gone},
+    {8, "HKEY_CURRENT_USER\\Control Panel\\Desktop",
+     "WaitToKillAppTimeout", "\"5000\"", gone},
+    {8, "HKEY_CURRENT_USER\\Control Panel\\Desktop",
+     "LowLevelHooksTimeout", "\"3000\"", gone},
+    {8, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control",
+     "WaitToKillServiceTimeout", "\"3000\"", "\"5000\""},
+    {9, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\Personalization",
+     "NoLockScreen", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Policies\\Microsoft\\Windows\\AppCompat",
+     "DisableEngine", "dword 1", "dword 0"},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Policies\\Microsoft\\Windows\\AppCompat",
+     "DisablePCA", "dword 1", "dword 0"},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Policies\\Microsoft\\Windows\\AppCompat",
+     "SbEnable", "dword 0", "dword 1"},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\System\"",
+     "PublishUserActivities", "dword 0", "dword 1"},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\SQMClient\\Windows\"",
+     "CEIPEnable", "dword 0", "dword 1"},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat",
+     "AITEnable", "dword 0", kept},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat\"",
+     "AITEnable", kept, "dword 1"},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat",
+     "DisableInventory", "dword 1", kept},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat\"",
+     "DisableInventory", kept, "dword 0"},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat",
+     "DisablePCA", "dword 1", kept},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat\"",
+     "DisablePCA", kept, "dword 0"},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat",
+     "DisableUAR", "dword 1", kept},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat\"",
+     "DisableUAR", kept, "dword 0"},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\DataCollection",
+     "AllowTelemetry", gone, "dword 0"},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Device Metadata\"",
+     "PreventDeviceMetadataFromNetwork", "dword 1", "dword 0"},
+    {7, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\WMI\\AutoLogger\\SQMLogger\"",
+     "Start", "dword 0", "dword 1"},
+    {7, "HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Services\\DiagTrack\"",
+     "Start", "dword 2", "dword 4"},
+    {7, "HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Services\\dmwappushservice\"",
+     "Start", "dword 2", "dword 4"},
+    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\PolicyManager\\current\\device\\System\"",
+     "AllowExperimentation", "dword 0", "dword 1"},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\CloudContent",
+     "DisableWindowsSpotlightFeatures", "dword 1", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Policies\\Microsoft\\Windows\\CloudContent",
+     "DisableWindowsSpotlightFeatures", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\WcmSvc\\wifinetworkmanager\\config\"",
+     "AutoConnectAllowedOEM", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Policies\\Microsoft\\Windows\\WindowsCopilot",
+     "TurnOffWindowsCopilot", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\WindowsCopilot",
+     "TurnOffWindowsCopilot", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\System\\ControlSet001\\Control\\WMI\\Autologger\\AutoLogger-Diagtrack-Listener",
+     "Start", "dword 0", "dword 1"},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Windows Search",
+     "EnableDynamicContentInWSB", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Windows Search",
+     "AllowCortanaAboveLock", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Windows Search",
+     "AllowSearchToUseLocation", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Windows Search",
+     "ConnectedSearchUseWeb", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Windows Search",
+     "DisableWebSearch", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Windows Search",
+     "AllowCloudSearch", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\TabletPC",
+     "PreventHandwritingDataSharing", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\System",
+     "AllowClipboardHistory", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\System",
+     "AllowCrossDeviceClipboard", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\System",
+     "EnableActivityFeed", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\System",
+     "UploadUserActivities", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\System",
+     "PublishUserActivities", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Messaging",
+     "AllowMessageSync", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\LocationAndSensors",
+     "DisableLocationScripting", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\LocationAndSensors",
+     "DisableWindowsLocationProvider", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\LocationAndSensors",
+     "DisableLocation", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\HandwritingErrorReports",
+     "PreventHandwritingErrorReports", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\DataCollection",
+     "AllowTelemetry", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\DataCollection",
+     "LimitDiagnosticLogCollection", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\DataCollection",
+     "DisableOneSettingsDownloads", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\DataCollection",
+     "DoNotShowFeedbackNotifications", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Speech",
+     "AllowSpeechModelUpdate", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\Windows Error Reporting",
+     "Disabled", "dword 1", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Privacy",
+     "TailoredExperiencesWithDiagnosticDataEnabled", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\DataCollection",
+     "AllowTelemetry", "dword 0", "dword 3"},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\AdvertisingInfo",
+     "Enabled", "dword 0", "dword 1"},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\SQMClient\\Windows",
+     "CEIPEnable", "dword 0", "dword 1"},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Speech_OneCore\\Preferences",
+     "ModelDownloadAllowed", "dword 0", gone},
+    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\PolicyManager\\current\\device\\Bluetooth",
+     "AllowAdvertising", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Windows Search",
+     "CortanaConsent", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\UserProfileEngagement",
+     "ScoobeSystemSettingEnabled", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync\\Groups\\Windows",
+     "Enabled", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync\\Groups\\Personalization",
+     "Enabled", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync\\Groups\\Language",
+     "Enabled", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync\\Groups\\Credentials",
+     "Enabled", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync\\Groups\\BrowserSettings",
+     "Enabled", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync\\Groups\\Accessibility",
+     "Enabled", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync",
+     "SyncPolicy", "dword 5", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SearchSettings",
+     "IsDynamicSearchBoxEnabled", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Privacy",
+     "TailoredExperiencesWithDiagnosticDataEnabled", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Notifications\\Settings",
+     "NOC_GLOBAL_SETTING_ALLOW_TOASTS_ABOVE_LOCK", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced",
+     "TrackProgs", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\DeliveryOptimization",
+     "SystemSettingsDownloadMode", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager",
+     "SoftLandingEnabled", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager",
+     "RotatingLockScreenEnabled", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager",
+     "SystemPaneSuggestionsEnabled", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager",
+     "RotatingLockScreenOverlayEnabled", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager",
+     "SilentInstalledAppsEnabled", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\AdvertisingInfo",
+     "Enabled", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Siuf\\Rules",
+     "NumberOfSIUFInPeriod", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Siuf\\Rules",
+     "PeriodInNanoSeconds", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\MediaPlayer\\Preferences",
+     "UsageTracking", "dword 0", "dword 1"},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\InputPersonalization\\TrainedDataStore",
+     "HarvestContacts", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\InputPersonalization",
+     "RestrictImplicitInkCollection", "dword 1", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\InputPersonalization",
+     "RestrictImplicitTextCollection", "dword 1", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\input\\TIPC",
+     "Enabled", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Clipboard",
+     "EnableClipboardHistory", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\CurrentVersion\\AppContainer\\Storage\\microsoft.microsoftedge_8wekyb3d8bbwe\\MicrosoftEdge\\ServiceUI",
+     "EnableCortana", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\CurrentVersion\\AppContainer\\Storage\\microsoft.microsoftedge_8wekyb3d8bbwe\\MicrosoftEdge\\Main",
+     "ShowSearchSuggestionsGlobal", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\CurrentVersion\\AppContainer\\Storage\\microsoft.microsoftedge_8wekyb3d8bbwe\\MicrosoftEdge\\Main",
+     "DoNotTrack", "dword 0", gone},
+    {7, "HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\CurrentVersion\\AppContainer\\Storage\\microsoft.microsoftedge_8wekyb3d8bbwe\\MicrosoftEdge\\FlipAhead",
+     "FPEnabled", "dword 0", gone},
+};
+// clang-format on
+const QString taskDocument = u"<Task version=\"1.4\" xmlns=\"http://schemas.microsoft.com/windows/2004/02/mit/task\">\n"
+                             "  <Settings>\n    <Enabled>%1</Enabled>\n  </Settings>\n</Task>"_s;
+
+QString disabledName(const QString &file)
+{
+    return file.chopped(4) + u"_disable.exe"_s;
+}
+
+QString searchProgram(TestMachine::Windows windows)
+{
+    return windows == TestMachine::Windows::Eleven ? searchHost : searchApp;
+}
+
+/** Both search programs, a disabled one of which is there, and the service with its tasks. */
+void prepare(TestMachine &machine)
+{
+    for (const QString &file : {searchHost, searchApp})
+        machine.addFile(file, QByteArray(700, 's'));
+    machine.machine().setProcesses({u"SearchHost.exe"_s, u"SearchApp.exe"_s});
+    machine.write(servicesKey + u'\\' + cloudService, u"Start"_s, u"before"_s);
+    machine.write(servicesKey + u'\\' + cloudService, u"Type"_s, 0xe0);
+    for (const QString &task : {u"Backup"_s, u"Restore"_s})
+        machine.machine().setTask({cloudTasks + task, taskDocument.arg(u"true"_s)});
+}
+
+void expectSearch(Outcome &result, const Forms &forms, TestMachine::Windows windows)
+{
+    const QString file = searchProgram(windows);
+    const QString process = file.section(u'\\', -1);
+    if (forms.first() != 1)
+        return; // nothing is disabled: no command runs at all
+    result.commands = {u"takeown /f "_s + file, u"icacls "_s + file + u" /grant:r TESTPC\\Test:F /L"_s,
+                       u"taskkill /im "_s + process + u" /f /t"_s};
+    if (forms == applyThenReset) {
+        result.commands.append(u"icacls "_s + file + u" /reset"_s);
+        result.changes = {changeLine(u"rights"_s, file, u"as installed"_s, u"owner TESTPC\\Test"_s)};
+        return;
+    }
+    result.changes = {
+        changeLine(u"rights"_s, file, u"as installed"_s, u"owner TESTPC\\Test, granted TESTPC\\Test:F"_s),
+        changeLine(u"file"_s, file, u"700 bytes"_s, {}),
+        changeLine(u"file"_s, disabledName(file), {}, u"700 bytes"_s),
+    };
+}
+
+void expectCloudBackup(Outcome &result, const Forms &forms)
+{
+    const bool ends = forms.last() == 1;
+    for (const quint8 form : forms) {
+        const QString word = form == 1 ? u" /DISABLE"_s : u" /ENABLE"_s;
+        for (const QString &task : {u"Backup"_s, u"Restore"_s})
+            result.commands.append(u"schtasks /CHANGE /TN "_s + cloudTasks + task + word);
+        result.pauses.append(350);
+    }
+    result.changes = {registryLine(servicesKey + u'\\' + cloudService, u"Start"_s, valueBefore(),
+                                   ends ? u"dword 4"_s : u"dword 3"_s)};
+    if (ends) {
+        for (const QString &task : {u"Backup"_s, u"Restore"_s})
+            result.changes.append(changeLine(u"task"_s, cloudTasks + task, u"enabled"_s, u"disabled"_s));
+    }
+}
+
+Outcome expected(quint32 id, const Forms &forms, TestMachine::Windows windows)
+{
+    Outcome result{.changes = valueChanges(table, id, forms), .needReboot = id == 1 ? 1 : 0};
+    if (id == 5 && windows == TestMachine::Windows::Eleven) {
+        // Taken back alone it makes the key, and no value in it.
+        result.changes = {forms.first() == 1 ? registryLine(menuKey, u"(default)"_s, {}, u"\"\""_s)
+                                             : registryLine(menuKey, {}, {}, u"key"_s)};
+        result.needReboot = 1;
+    }
+    if (id == 10)
+        expectSearch(result, forms, windows);
+    if (id == 12)
+        expectCloudBackup(result, forms);
+    return result;
+}
+
+} // namespace
+
+class TestTweakWindows : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void eachAlone_data() { tweakRows(12); }
+    void eachAlone();
+
+    void telemetryHas82WritesInEachForm();
+    void telemetryTakenBackWhereItNeverWasMakesTheQuotedKeys();
+    void telemetryWithoutRightsChangesTheUsersValuesAlone();
+
+    void menuKeepsItsKeyWhenTakenBack();
+
+    void formerDisabledSearchIsDeletedFirst();
+    void searchThatWasRenamedBeforeIsLeftAlone();
+    void searchThatCantBeRenamedKeepsItsName();
+    void failingRightsDontStopTheSteps_data();
+    void failingRightsDontStopTheSteps();
+    void otherGenerationsHaveNoSearch();
+
+    void noCloudServiceNoChange_data();
+    void noCloudServiceNoChange();
+    void cloudServiceWithAValueBehindType();
+    void cloudTasksThatAreMissingGoUnnoticed();
+};
+
+void TestTweakWindows::eachAlone()
+{
+    QFETCH(const TestMachine::Windows, windows);
+    QFETCH(const quint32, id);
+    QFETCH(const Forms, forms);
+    TweakTrial trial(windows, table);
+    prepare(trial.machine);
+    trial.begin();
+    trial.run(&WorkThread::TweakWindows, id, forms);
+    COMPARE_OUTCOMES(trial.outcome(), expected(id, forms, windows));
+}
+
+void TestTweakWindows::telemetryHas82WritesInEachForm()
+{
+    int applied = 0, reset = 0, deletedByApply = 0, deletedByReset = 0;
+    for (const TweakValue &row : telemetryValues()) {
+        QCOMPARE(row.id, 7u);
+        applied += std::holds_alternative<NotTouched>(row.apply) ? 0 : 1;
+        reset += std::holds_alternative<NotTouched>(row.reset) ? 0 : 1;
+        deletedByApply += std::holds_alternative<Deleted>(row.apply) ? 1 : 0;
+        deletedByReset += std::holds_alternative<Deleted>(row.reset) ? 1 : 0;
+    }
+    QCOMPARE(applied, 82);
+    QCOMPARE(reset, 82);
+    QCOMPARE(deletedByApply, 1);
+    QCOMPARE(deletedByReset, 49);
+}
+
+void TestTweakWindows::telemetryTakenBackWhereItNeverWasMakesTheQuotedKeys()
+{
+    TweakTrial trial(TestMachine::Windows::Eleven);
+    trial.run(&WorkThread::TweakWindows, 7, resetAlone);
+    const QString policies = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\"_s;
+    QCOMPARE(trial.machine.read(policies + u"AppCompat\""_s, u"AITEnable"_s), QVariant(1));
+    QCOMPARE(trial.machine.read(policies + u"AppCompat"_s, u"AITEnable"_s), QVariant());
+    QCOMPARE(trial.machine.read(policies + u"System\""_s, u"PublishUserActivities"_s), QVariant(1));
+    QCOMPARE(trial.machine.read(u"HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Services\\DiagTrack\""_s, u"Start"_s),
+             QVariant(4));
+    QCOMPARE(trial.worker.needReboot, 0);
+}
+
+void TestTweakWindows::telemetryWithoutRightsChangesTheUsersValuesAlone()
+{
+    TweakTrial trial(TestMachine::Windows::Eleven, table, {.elevated = false});
+    trial.begin();
+    trial.run(&WorkThread::TweakWindows, 7, applyAlone);
+    QStringList changes = valueChanges(table, 7, applyAlone);
+    changes.removeIf([](const QString &line) { return !line.startsWith(u"registry HKEY_CURRENT_USER\\"); });
+    QVERIFY(changes.size() > 30);
+    COMPARE_OUTCOMES(trial.outcome(), Outcome{.changes = changes});
+}
+
+void TestTweakWindows::menuKeepsItsKeyWhenTakenBack()
+{
+    TweakTrial trial(TestMachine::Windows::Eleven);
+    trial.run(&WorkThread::TweakWindows, 5, applyThenReset);
+    QCOMPARE(trial.machine.names(menuKey), QStringList(QString()));
+    QCOMPARE(trial.machine.read(menuKey, u"Default"_s), QVariant(QString()));
+    QCOMPARE(trial.worker.needReboot, 1);
+}
+
+void TestTweakWindows::formerDisabledSearchIsDeletedFirst()
+{
+    TweakTrial trial(TestMachine::Windows::Eleven);
+    prepare(trial.machine);
+    const QString former = trial.machine.addFile(disabledName(searchHost), "an older one");
+    trial.run(&WorkThread::TweakWindows, 10, applyAlone);
+    QCOMPARE(QFileInfo(former).size(), 700);
+    QVERIFY(!QFile::exists(trial.machine.machine().hostPath(searchHost)));
+    QCOMPARE(trial.machine.machine().processes(), QStringList(u"SearchApp.exe"_s));
+}
+
+void TestTweakWindows::searchThatWasRenamedBeforeIsLeftAlone()
+{
+    TweakTrial trial(TestMachine::Windows::Ten);
+    trial.machine.addFile(disabledName(searchApp));
+    trial.begin();
+    trial.run(&WorkThread::TweakWindows, 10, applyAlone);
+    COMPARE_OUTCOMES(trial.outcome(), (Outcome{.changes = {registryLine(servicesKey, {}, {}, u"key"_s)}}));
+}
+
+void TestTweakWindows::searchThatCantBeRenamedKeepsItsName()
+{
+    TweakTrial trial(TestMachine::Windows::Eleven);
+    prepare(trial.machine);
+    // A folder of the disabled name is neither deleted nor replaced.
+    trial.machine.addFile(disabledName(searchHost) + u"\\file"_s);
+    trial.run(&WorkThread::TweakWindows, 10, applyAlone);
+    QVERIFY(QFile::exists(trial.machine.machine().hostPath(searchHost)));
+    QCOMPARE(trial.machine.commands().size(), 3);
+}
+
+void TestTweakWindows::failingRightsDontStopTheSteps_data()
+{
+    QTest::addColumn<ToolFault>("fault");
+    QTest::newRow("missing") << ToolFault{.missing = true};
+    QTest::newRow("failing") << ToolFault{.exitCode = 5};
+    QTest::newRow("hanging") << ToolFault{.hang = true};
+}
+
+void TestTweakWindows::failingRightsDontStopTheSteps()
+{
+    QFETCH(const ToolFault, fault);
+    Command::timeLimit = 300;
+    TweakTrial trial(TestMachine::Windows::Eleven);
+    prepare(trial.machine);
+    for (const QString &tool : {u"takeown"_s, u"icacls"_s})
+        trial.machine.machine().setFault(tool, fault);
+    trial.begin();
+    trial.run(&WorkThread::TweakWindows, 10, applyAlone);
+    Command::timeLimit = 30000;
+    Outcome expected{.changes = {changeLine(u"file"_s, searchHost, u"700 bytes"_s, {}),
+                                 changeLine(u"file"_s, disabledName(searchHost), {}, u"700 bytes"_s)}};
+    if (fault.exitCode)
+        expected.commands = {u"takeown /f "_s + searchHost,
+                             u"icacls "_s + searchHost + u" /grant:r TESTPC\\Test:F /L"_s};
+    expected.commands.append(u"taskkill /im SearchHost.exe /f /t"_s);
+    COMPARE_OUTCOMES(trial.outcome(), expected);
+}
+
+void TestTweakWindows::otherGenerationsHaveNoSearch()
+{
+    TweakTrial trial(TestMachine::Windows::Eleven);
+    prepare(trial.machine);
+    trial.worker.winName = u"unknown"_s;
+    trial.begin();
+    trial.run(&WorkThread::TweakWindows, 10, applyAlone);
+    COMPARE_OUTCOMES(trial.outcome(), Outcome{});
+}
+
+void TestTweakWindows::noCloudServiceNoChange_data()
+{
+    QTest::addColumn<QStringList>("services");
+    QTest::newRow("no service at all") << QStringList();
+    QTest::newRow("its template alone") << QStringList{u"CloudBackupRestoreSvc"_s, u"AarSvc"_s};
+    // Found without regard to case, and then not taken.
+    QTest::newRow("in another case") << QStringList{u"cloudbackuprestoresvc_1"_s, u"AarSvc"_s};
+    // One that begins with D, whatever its case, ends the search.
+    QTest::newRow("behind the end of the search") << QStringList{u"BDESVC"_s, u"DPS"_s, u"cloudBackupRestoreSvc_1"_s};
+}
+
+void TestTweakWindows::noCloudServiceNoChange()
+{
+    QFETCH(const QStringList, services);
+    TweakTrial trial(TestMachine::Windows::Eleven);
+    trial.machine.write(servicesKey, u"one value"_s, 1);
+    for (const QString &service : services)
+        trial.machine.write(servicesKey + u'\\' + service, u"Type"_s, 0xe0);
+    trial.begin();
+    trial.run(&WorkThread::TweakWindows, 12, applyThenReset);
+    COMPARE_OUTCOMES(trial.outcome(), Outcome{});
+}
+
+void TestTweakWindows::cloudServiceWithAValueBehindType()
+{
+    TweakTrial trial(TestMachine::Windows::Ten);
+    prepare(trial.machine);
+    trial.machine.write(servicesKey + u'\\' + cloudService, u"UserServiceFlags"_s, 3);
+    trial.begin();
+    trial.run(&WorkThread::TweakWindows, 12, resetAlone);
+    Outcome expected;
+    expectCloudBackup(expected, resetAlone);
+    expected.changes = {
+        registryLine(servicesKey + u'\\' + cloudService + u"/UserServiceFlags"_s, u"Start"_s, {}, u"dword 3"_s)};
+    COMPARE_OUTCOMES(trial.outcome(), expected);
+}
+
+void TestTweakWindows::cloudTasksThatAreMissingGoUnnoticed()
+{
+    TweakTrial trial(TestMachine::Windows::Eleven);
+    trial.machine.write(servicesKey + u'\\' + cloudService, u"Start"_s, 3);
+    trial.machine.write(servicesKey + u'\\' + cloudService, u"Type"_s, 0xe0);
+    trial.run(&WorkThread::TweakWindows, 12, applyAlone);
+    QCOMPARE(trial.machine.read(servicesKey + u'\\' + cloudService, u"Start"_s), QVariant(4));
+    QCOMPARE(trial.machine.commands().size(), 2);
+    QCOMPARE(trial.machine.commands().constLast().exitCode, 1);
+}
+
+QTEST_GUILESS_MAIN(TestTweakWindows)
+#include "tst_tweakwindows.moc"

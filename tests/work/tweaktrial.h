@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Tweaks tried on a fresh machine, with all that they changed on it.
+
+#pragma once
+
+#include "joblines.h"
+#include "platform/simulated/database.h"
+#include "rehearsal/machinediff.h"
+#include "support/testmachine.h"
+#include "work/workthread.h"
+
+#include <QDirIterator>
+#include <QTest>
+
+#include <span>
+
+/** How a form of a tweak leaves a value, beside the text that comparisons show of it. */
+inline constexpr const char *gone = "";
+inline constexpr const char *kept = nullptr;
+
+/** A value that a tweak is to write. */
+struct ExpectedValue
+{
+    quint32 id;
+    const char *key;
+    const char *name;
+    const char *applied;
+    const char *reset;
+};
+
+/** What the tests do with a tweak. */
+using Forms = QList<quint8>;
+inline const Forms applyAlone{1};
+inline const Forms resetAlone{0};
+inline const Forms applyThenReset{1, 0};
+
+/** What is to be seen after a trial. */
+struct Outcome
+{
+    QStringList changes{}; ///< see changeLine()
+    QStringList commands{};
+    QList<int> pauses{};
+    int needReboot = 0;
+    QStringList lines{};
+
+    friend bool operator==(const Outcome &, const Outcome &) = default;
+};
+
+/** Keys are one whatever their case, and so are the two names of the current control set. */
+inline QString changeLine(const QString &kind, const QString &path, const QString &before, const QString &after)
+{
+    const QString folded =
+        path.toUpper().replace(QStringLiteral("\\CONTROLSET001\\"), QStringLiteral("\\CURRENTCONTROLSET\\"));
+    return kind + u' ' + folded + QStringLiteral(": ") + before + QStringLiteral(" -> ") + after;
+}
+
+inline QString registryLine(const QString &key, const QString &name, const QString &before, const QString &after)
+{
+    return changeLine(QStringLiteral("registry"), key + u'|' + name, before, after);
+}
+
+/** What every value of the tables reads before a trial: neither what is applied nor what is reset. */
+inline QString valueBefore()
+{
+    return QStringLiteral("\"before\"");
+}
+
+/** The changes that the forms of a tweak make in the values of a table, one after another. */
+inline QStringList valueChanges(std::span<const ExpectedValue> table, quint32 id, const Forms &forms)
+{
+    QMap<QString, QString> last;
+    for (const quint8 form : forms) {
+        for (const ExpectedValue &row : table) {
+            const char *text = form == 1 ? row.applied : row.reset;
+            if (row.id == id && text != kept)
+                last.insert(registryLine(QString::fromLatin1(row.key), QString::fromLatin1(row.name), {}, {}),
+                            QString::fromLatin1(text));
+        }
+    }
+    QStringList changes;
+    for (auto it = last.cbegin(); it != last.cend(); ++it)
+        changes.append(QString(it.key()).chopped(4) + valueBefore() + QStringLiteral(" -> ") + it.value());
+    return changes;
+}
+
+class TweakTrial
+{
+public:
+    using Tweak = void (WorkThread::*)(quint8 apply, quint32 id);
+    using Windows = TestMachine::Windows;
+
+    explicit TweakTrial(Windows windows, std::span<const ExpectedValue> table = {}, SimulatedOptions options = {})
+        : machine(windows, options)
+        , lines_(worker)
+    {
+        worker.winName =
+            windows == Windows::Eleven ? QStringLiteral("Windows 11 Home") : QStringLiteral("Windows 10 Home");
+        Database::Transaction together(machine.machine().database());
+        for (const ExpectedValue &row : table)
+            machine.write(QString::fromLatin1(row.key), QString::fromLatin1(row.name), QStringLiteral("before"));
+        together.commit();
+    }
+
+    /** From here on changes count. */
+    void begin()
+    {
+        const QString folder = machine.folder();
+        QDirIterator entries(folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::NoSymLinks,
+                             QDirIterator::Subdirectories);
+        while (entries.hasNext()) {
+            const QString from = entries.next();
+            const QString to = former_.path() + from.mid(folder.size());
+            if (!entries.fileInfo().isDir() && !from.endsWith(QStringLiteral("-shm"))) {
+                QDir().mkpath(QFileInfo(to).path());
+                if (!QFile::copy(from, to))
+                    qFatal("%s can't be copied", qPrintable(from));
+            } else if (entries.fileInfo().isDir()) {
+                QDir().mkpath(to);
+            }
+        }
+        before_ = Machine::open(former_.path());
+        machine.platform().takePauses();
+    }
+
+    void run(Tweak tweak, quint32 id, const Forms &forms)
+    {
+        for (const quint8 form : forms)
+            (worker.*tweak)(form, id);
+    }
+
+    Outcome outcome()
+    {
+        Outcome result;
+        for (const DiffRow &row : compareMachines(*before_, machine.machine())) {
+            const QString path = row.kind == DiffKind::Registry ? row.path + u'|' + row.name : row.path;
+            result.changes.append(changeLine(kindName(row.kind), path, row.before, row.after));
+        }
+        result.changes.sort();
+        for (const LoggedCommand &command : machine.commands())
+            result.commands.append(command.program + u' ' + command.arguments.join(u' '));
+        result.pauses = machine.platform().takePauses();
+        result.needReboot = worker.needReboot;
+        result.lines = lines_.all();
+        return result;
+    }
+
+    TestMachine machine;
+    WorkThread worker;
+
+private:
+    JobLines lines_;
+    QTemporaryDir former_;
+    std::unique_ptr<Machine> before_;
+};
+
+/** Compares part by part, so that a failure tells which. */
+#define COMPARE_OUTCOMES(actual, expected)                                                                             \
+    do {                                                                                                               \
+        const Outcome seen = (actual);                                                                                 \
+        Outcome wanted = (expected);                                                                                   \
+        wanted.changes.sort();                                                                                         \
+        QCOMPARE(seen.changes, wanted.changes);                                                                        \
+        QCOMPARE(seen.commands, wanted.commands);                                                                      \
+        QCOMPARE(seen.pauses, wanted.pauses);                                                                          \
+        QCOMPARE(seen.needReboot, wanted.needReboot);                                                                  \
+        QCOMPARE(seen.lines, wanted.lines);                                                                            \
+    } while (false)
+
+/** Data rows: each id up to @p lastId and one beyond, each form, on both generations of Windows. */
+inline void tweakRows(quint32 lastId)
+{
+    QTest::addColumn<TestMachine::Windows>("windows");
+    QTest::addColumn<quint32>("id");
+    QTest::addColumn<Forms>("forms");
+    for (const auto windows : {TestMachine::Windows::Eleven, TestMachine::Windows::Ten}) {
+        for (quint32 id = 0; id <= lastId + 1; ++id) {
+            for (const auto &[name, forms] : {std::pair("apply", applyAlone), std::pair("reset", resetAlone),
+                                              std::pair("apply then reset", applyThenReset)}) {
+                QTest::addRow("%u %s on Windows %d", id, name, windows == TestMachine::Windows::Eleven ? 11 : 10)
+                    << windows << id << forms;
+            }
+        }
+    }
+}
