@@ -20,16 +20,17 @@ std::optional<quint32> AttributeWords::read(const QString &file)
     const std::lock_guard lock(lock_);
     if (waiting_.contains(file))
         store();
-    if (!QFileInfo::exists(file))
-        return std::nullopt;
-    return machine_.attributes(file);
+    const std::optional<quint32> word = machine_.attributesOfFile(file);
+    present_ = word ? file : QString();
+    return word;
 }
 
 void AttributeWords::write(const QString &file, quint32 word)
 {
-    if (word == noWord || !QFileInfo::exists(file))
-        return;
     const std::lock_guard lock(lock_);
+    if (word == noWord || (file != present_ && !QFileInfo::exists(file)))
+        return;
+    present_.clear();
     waiting_.insert(file, word);
     if (walks_ == 0 || waiting_.size() >= atOnce)
         store();

@@ -46,5 +46,6 @@ private:
     Machine &machine_;
     std::mutex lock_;
     QHash<QString, quint32> waiting_;
+    QString present_; ///< the file that was read last: what is read is mostly written next
     int walks_ = 0;
 };

@@ -51,8 +51,8 @@ struct ToolFault
 /**
  * The machine's folder:
  *
- *     machine.sqlite   registry, run states, processes, tasks, attributes, WMI, hardware, DLL strings, environment,
- *                      faults
+ *     machine.sqlite   registry, run states, processes, tasks, attributes, owners, boot options, WMI, hardware,
+ *                      DLL strings, environment, faults
  *     drive_c/         the files the program can see
  *     program/         the program folder: log.txt, backup_svc, backup_tasks
  *     tools/           sc, schtasks, ... all of them kestrune-stocktool
@@ -123,6 +123,8 @@ public:
     /** A file's attribute word as Windows has it (0x2 hidden, 0x4 system, 0x10 folder, 0x20 archive ...). */
     quint32 attributes(const QString &windowsPath) const;
     void setAttributes(const QString &windowsPath, quint32 word);
+    /** The same of a file by its host path, in no time; nothing where there is no such file. */
+    std::optional<quint32> attributesOfFile(const QString &hostPath) const;
     /** Owners and rights of files by their Windows path, where they aren't those of the installation. */
     FileSecurity security(const QString &windowsPath) const;
     void setSecurity(const QString &windowsPath, const FileSecurity &security);
@@ -174,6 +176,8 @@ private:
     Machine(const QString &folder, std::unique_ptr<Database> database);
     Location locate(const QString &path) const;
     QString pathKey(const QString &path) const;
+    QStringView belowDriveC(const QString &hostPath) const;
+    quint32 attributeWord(const QString &path, bool isFolder) const;
 
     QString folder_;
     std::unique_ptr<Database> database_;

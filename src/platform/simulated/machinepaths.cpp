@@ -65,6 +65,16 @@ QString entryLike(const QString &folder, const QString &name)
 
 } // namespace
 
+/** "/Windows/explorer.exe", empty for a path of another kind. */
+QStringView Machine::belowDriveC(const QString &hostPath) const
+{
+    constexpr QStringView drive = u"/drive_c/";
+    const QStringView path(hostPath);
+    if (!path.startsWith(folder_) || !path.sliced(folder_.size()).startsWith(drive))
+        return {};
+    return path.sliced(folder_.size() + drive.size() - 1);
+}
+
 Machine::Location Machine::locate(const QString &path) const
 {
     const bool inside =
@@ -112,6 +122,12 @@ QString Machine::hostPath(const QString &windowsPath) const
 
 QString Machine::windowsPath(const QString &hostPath) const
 {
+    // Nearly all that is asked for is named by a walk over drive C, and needs no tidying.
+    const QStringView below = belowDriveC(hostPath);
+    if (!below.isEmpty() && !below.contains(u'\\') && !below.contains("/."_L1) && !below.contains("//"_L1)
+        && !below.endsWith(u'/'))
+        return u"C:"_s + below.toString().replace(u'/', u'\\');
+
     const Location location = locate(hostPath);
     const QString drive = location.top.startsWith(u"drive_") ? location.top.mid(6) : QString();
     if (drive.size() != 1)
@@ -125,23 +141,36 @@ QString Machine::pathKey(const QString &path) const
     return foldName(windowsPath(path));
 }
 
-quint32 Machine::attributes(const QString &windowsPath) const
+quint32 Machine::attributeWord(const QString &path, bool isFolder) const
 {
-    const bool folder = QFileInfo(hostPath(windowsPath)).isDir();
     auto query = database_->query("SELECT word FROM attribute WHERE fold = ?");
-    const bool stored = query.bind(pathKey(windowsPath)).next();
-    if (folder)
+    const bool stored = query.bind(pathKey(path)).next();
+    if (isFolder)
         return (stored ? quint32(query.integer(0)) : 0) | folderBit;
     return stored ? quint32(query.integer(0)) & ~folderBit : archiveBit;
 }
 
+quint32 Machine::attributes(const QString &windowsPath) const
+{
+    return attributeWord(windowsPath, QFileInfo(hostPath(windowsPath)).isDir());
+}
+
+std::optional<quint32> Machine::attributesOfFile(const QString &hostPath) const
+{
+    const QFileInfo file(hostPath);
+    if (!file.exists())
+        return std::nullopt;
+    return attributeWord(hostPath, file.isDir());
+}
+
 void Machine::setAttributes(const QString &windowsPath, quint32 word)
 {
+    const QString path = this->windowsPath(windowsPath);
     database_
         ->query("INSERT INTO attribute (fold, path, word) VALUES (?, ?, ?) "
                 "ON CONFLICT (fold) DO UPDATE SET word = excluded.word")
-        .bind(pathKey(windowsPath))
-        .bind(this->windowsPath(windowsPath))
+        .bind(foldName(path))
+        .bind(path)
         .bind(word)
         .run();
 }
