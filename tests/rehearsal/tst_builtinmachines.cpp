@@ -62,6 +62,8 @@ private Q_SLOTS:
     void packages();
     void oneDrive_data() { machines(); }
     void oneDrive();
+    void whatTweaksLookFor_data();
+    void whatTweaksLookFor();
     void runKeys_data() { machines(); }
     void runKeys();
     void hardware_data() { machines(); }
@@ -165,6 +167,56 @@ void TestBuiltInMachines::oneDrive()
     QVERIFY(machine.exists(command.split(u'"').at(1)));
     QVERIFY(machine.exists(machine->environment().value(u"TEMP"_s)));
     QVERIFY(machine.exists(u"C:\\Windows\\system32\\WindowsPowerShell\\v1.0\\powershell.exe"_s));
+}
+
+void TestBuiltInMachines::whatTweaksLookFor_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QString>("cloudService");
+    QTest::addColumn<QString>("vendor");
+    QTest::addColumn<QList<qsizetype>>("hints");
+    QTest::newRow("windows11") << u"windows11"_s << u"MicrosoftWindows.Client.CBS_cw5n1h2txyewy\\SearchHost.exe"_s
+                               << u"CloudBackupRestoreSvc_5cbba"_s << u"NVIDIA"_s << QList<qsizetype>{0, 0, 22};
+    QTest::newRow("windows10") << u"windows10"_s << u"Microsoft.Windows.Search_cw5n1h2txyewy\\SearchApp.exe"_s
+                               << u"CloudBackupRestoreSvc_3f1a2"_s << u"Advanced Micro Devices, Inc."_s
+                               << QList<qsizetype>{0, 21, 22};
+}
+
+void TestBuiltInMachines::whatTweaksLookFor()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, search);
+    QFETCH(const QString, cloudService);
+    BuiltIn machine(name);
+    const QString control = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\"_s;
+
+    const QString interfaces = control + u"Services\\Tcpip\\Parameters\\Interfaces"_s;
+    QList<qsizetype> hints;
+    for (const QString &each : machine.subkeys(interfaces)) {
+        const QString hint = machine.text(interfaces + u'\\' + each, u"DhcpNetworkHint"_s);
+        hints.append(hint.size());
+        if (hint.size() == 22)
+            QCOMPARE(machine.subkeys(interfaces + u'\\' + each), QStringList(hint.first(12)));
+    }
+    std::sort(hints.begin(), hints.end());
+    QTEST(hints, "hints");
+
+    const QString video = control + u"Control\\Video"_s;
+    const QStringList adapters = machine.subkeys(video);
+    QCOMPARE(adapters.size(), 2);
+    QTEST(machine.text(video + u'\\' + adapters.first() + u"\\0000"_s, u"ProviderName"_s), "vendor");
+
+    QVERIFY(machine.exists(u"C:\\Windows\\SystemApps\\"_s + search));
+    QVERIFY(machine.exists(u"C:\\hiberfil.sys"_s));
+    QVERIFY(machine->task(u"\\Microsoft\\Windows\\CloudRestore\\Backup"_s));
+    QVERIFY(machine->task(u"\\Microsoft\\Windows\\CloudRestore\\Restore"_s));
+    const auto service = machine->registry().find(control + u"Services\\"_s + cloudService);
+    QVERIFY(service);
+    // On one of them nothing sorts behind Type, on the other something does.
+    QCOMPARE(machine->registry().valueNames(*service).constLast(),
+             name == u"windows11" ? u"Type"_s : u"UserServiceFlags"_s);
+    QCOMPARE(machine->registry().find(control + u"Services\\Hpet"_s).has_value(), name == u"windows10");
 }
 
 void TestBuiltInMachines::runKeys()

@@ -105,6 +105,10 @@ private Q_SLOTS:
     void autorunReportsWhatFailed_data();
     void autorunReportsWhatFailed();
     void autorunWithoutRightsChangesNothing();
+    void tweakJob();
+    void tweakOfTheWalkIsAJob();
+    void tweakOperandsAreChecked_data();
+    void tweakOperandsAreChecked();
     void operandsAreChecked();
 };
 
@@ -329,6 +333,52 @@ void TestRehearseSoftware::autorunWithoutRightsChangesNothing()
     QVERIFY(ended.output.contains("\\Run\\Steam="));
     QVERIFY(!hasLine(work.differences(), "registry " + autorunGroup));
     QVERIFY(!hasLine(work.differences(), "registry HKEY_CURRENT_USER\\Software\\Microsoft\\"));
+}
+
+void TestRehearseSoftware::tweakJob()
+{
+    const Workplace work(u"windows10"_s);
+    const Ended on = work.run({u"tweak"_s, u"gaming"_s, u"5"_s, u"on"_s});
+    QCOMPARE(on.exitCode, done);
+    QCOMPARE(on.output, QByteArray("tweak\tgaming 5 on\ntweak\trestart needed\n"));
+    QCOMPARE(
+        work.differences(),
+        QList<QByteArray>{"registry HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\Hpet\\Start dword 3 -> "
+                          "dword 4"});
+    const Ended off = work.run({u"tweak"_s, u"windows"_s, u"2"_s, u"off"_s});
+    QCOMPARE(off.output, QByteArray("tweak\twindows 2 off\n"));
+}
+
+void TestRehearseSoftware::tweakOfTheWalkIsAJob()
+{
+    const Workplace work(u"windows11"_s);
+    const Ended on = work.run({u"tweak"_s, u"ssd"_s, u"8"_s, u"on"_s});
+    QCOMPARE(on.exitCode, done);
+    QCOMPARE(on.output, QByteArray("valueChanged\tWorkThread::TweakSSD::RemoveIndexedAttrib\ntweak\tssd 8 on\n"));
+    QVERIFY(hasLine(work.differences(), "attribute C:\\Windows\\explorer.exe archive -> archive not-indexed"));
+    QVERIFY(!hasLine(work.differences(), "attribute C:\\hiberfil.sys"));
+    QCOMPARE(work.run({u"tweak"_s, u"ssd"_s, u"8"_s, u"off"_s}).exitCode, done);
+    QCOMPARE(work.differences(), QList<QByteArray>());
+}
+
+void TestRehearseSoftware::tweakOperandsAreChecked_data()
+{
+    QTest::addColumn<QStringList>("operands");
+    QTest::newRow("no state") << QStringList{u"ssd"_s, u"1"_s};
+    QTest::newRow("no group") << QStringList{u"sound"_s, u"1"_s, u"on"_s};
+    QTest::newRow("0") << QStringList{u"ssd"_s, u"0"_s, u"on"_s};
+    QTest::newRow("beyond the last") << QStringList{u"ssd"_s, u"10"_s, u"on"_s};
+    QTest::newRow("never given") << QStringList{u"windows"_s, u"11"_s, u"on"_s};
+    QTest::newRow("another state") << QStringList{u"gaming"_s, u"1"_s, u"maybe"_s};
+    QTest::newRow("too many") << QStringList{u"gaming"_s, u"1"_s, u"on"_s, u"off"_s};
+}
+
+void TestRehearseSoftware::tweakOperandsAreChecked()
+{
+    QFETCH(const QStringList, operands);
+    const Ended ended = rehearse(QStringList{u"run"_s, untouched(u"windows11"_s), u"tweak"_s} + operands);
+    QCOMPARE(ended.exitCode, badArguments);
+    QCOMPARE(ended.output, QByteArray());
 }
 
 void TestRehearseSoftware::operandsAreChecked()
