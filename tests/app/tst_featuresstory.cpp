@@ -217,8 +217,10 @@ private:
             values.sort();
             if (values.isEmpty())
                 continue;
-            last = name + u'\\' + values.constLast();
-            last.remove(u"\\Type"_s);
+            // Listed with "/" between levels, which in the path of a key is an ordinary character; one that is part of
+            // a name, as this tweak makes it, is listed as a backslash.
+            last = QString(name).replace(u'/', u'\\') + u'/' + values.constLast();
+            last.remove(u"/Type"_s);
         }
         return last;
     }
