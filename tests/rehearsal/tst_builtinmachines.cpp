@@ -56,6 +56,8 @@ class TestBuiltInMachines : public QObject
 private Q_SLOTS:
     void tasks_data();
     void tasks();
+    void theAutomatizerFindsTasksOfFeaturesAndAnEncoder_data() { machines(); }
+    void theAutomatizerFindsTasksOfFeaturesAndAnEncoder();
     void taskReferencesAreResolved_data() { machines(); }
     void taskReferencesAreResolved();
     void packages_data() { machines(); }
@@ -113,6 +115,24 @@ void TestBuiltInMachines::tasks()
     }
     for (const int kind : {off, onlyInATrigger, undescribed, described, references, forAdministrators})
         QVERIFY(kind > 0 && kind < tasks.size());
+}
+
+void TestBuiltInMachines::theAutomatizerFindsTasksOfFeaturesAndAnEncoder()
+{
+    QFETCH(QString, name);
+    BuiltIn machine(name);
+    int on = 0, off = 0;
+    for (const ScheduledTask &task : machine->tasks()) {
+        if (task.path.contains("\\Printing\\"_L1))
+            ++(taskFacts(task.document).enabled ? on : off);
+    }
+    QVERIFY(on > 0 && off > 0);
+    QCOMPARE(taskFacts(machine->task(u"\\Microsoft\\Windows\\Ras\\MobilityManager"_s)->document).enabled,
+             name == u"windows11");
+    const QStringList encoders = machine->processes().filter(u"EncoderServer"_s);
+    QCOMPARE(encoders, QStringList{name == u"windows11" ? u"EncoderServer64.exe"_s : u"EncoderServer.exe"_s});
+    QVERIFY(machine->processes().contains(u"RTSS.exe"_s));
+    QVERIFY(machine.exists(u"C:\\Program Files (x86)\\RivaTuner Statistics Server\\Profiles\\config"_s));
 }
 
 void TestBuiltInMachines::taskReferencesAreResolved()
