@@ -64,6 +64,7 @@ private Q_SLOTS:
     void help();
     void helpOfEachCommand_data();
     void helpOfEachCommand();
+    void helpOfRunTellsJobsOptionsAndFeatures();
     void version();
     void badArgumentsAreToldInOneManner_data();
     void badArgumentsAreToldInOneManner();
@@ -129,6 +130,25 @@ void TestRehearse::helpOfEachCommand()
     QCOMPARE(ended.exitCode, done);
     QVERIFY(ended.output.startsWith("Usage: kestrune-rehearse " + command.toUtf8() + " DIR") || command == "diff"_L1);
     QVERIFY2(ended.output.contains(text), ended.output.constData());
+}
+
+void TestRehearse::helpOfRunTellsJobsOptionsAndFeatures()
+{
+    const QByteArray help = rehearse({u"run"_s, u"--help"_s}).output;
+    // clang-format off
+    for (const char *text : {
+             "\n  analyze                     look for what could be optimized\n",
+             "\n  optimize                    analyze and optimize\n",
+             "\n  restore                     take an optimization back\n",
+             "--keep FEATURE=STATE,...", "keep or give up features, for this run alone\n",
+             "--no-programs",            "let the Automatizer leave packages and programs at logon alone\n",
+             "--no-features",            "let the Automatizer leave the tweaks alone\n",
+             "--yes",                    "answer Yes to the window's question for a walk over all files\n",
+             "--no-walk",                "answer No to it (default)\n",
+             "(default: as in the machine's Keep list):\n",
+             "\n  printer, bluetooth-audio, files-sharing, xbox-app, upnp, proxy-vpn, nfc, xbox-game-bar, codecs.\n"})
+        QVERIFY2(help.contains(text), text);
+    // clang-format on
 }
 
 void TestRehearse::version()

@@ -9,6 +9,7 @@
 #include "work/settings.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -37,6 +38,16 @@ QByteArray recorded(const QString &name)
     return readFile(QStringLiteral(KESTRUNE_TEST_DATA "/automatizer/") + name + u".txt"_s);
 }
 
+/** Line by line, so that the first one that differs is told. */
+void compareLines(const QByteArray &actual, const QByteArray &expected)
+{
+    const QList<QByteArray> actualLines = actual.split('\n');
+    const QList<QByteArray> expectedLines = expected.split('\n');
+    for (qsizetype i = 0; i < qMin(actualLines.size(), expectedLines.size()); ++i)
+        QCOMPARE(actualLines.at(i), expectedLines.at(i));
+    QCOMPARE(actualLines.size(), expectedLines.size());
+}
+
 } // namespace
 
 class TestRehearseAutomatizer : public QObject
@@ -49,6 +60,12 @@ private Q_SLOTS:
     void refusals();
     void nothingFoundIsAFailure();
     void choicesLeaveOutWhatTheySay();
+    void storedKeepStatesAreTheDefault();
+    void theWalkIsRunOnlyWhenAskedFor_data();
+    void theWalkIsRunOnlyWhenAskedFor();
+    void aWalkBehindRestoreTellsThePage();
+    void differencesOfTheBuiltInMachines_data();
+    void differencesOfTheBuiltInMachines();
     void theWindowsClosingStepsAreDone();
 #ifndef Q_OS_WIN
     void aKilledOptimizeLeavesNothingUnaccounted_data();
@@ -86,12 +103,7 @@ void TestRehearseAutomatizer::linesOfTheBuiltInMachines()
         QCOMPARE(ended.exitCode, done);
         lines += ended.output;
     }
-    // Line by line, so that the first one that differs is told.
-    const QList<QByteArray> actual = lines.replace("\r", "\\r").split('\n');
-    const QList<QByteArray> expected = recorded(file).split('\n');
-    for (qsizetype i = 0; i < qMin(actual.size(), expected.size()); ++i)
-        QCOMPARE(actual.at(i), expected.at(i));
-    QCOMPARE(actual.size(), expected.size());
+    compareLines(lines.replace("\r", "\\r"), recorded(file));
 }
 
 void TestRehearseAutomatizer::refusals()
@@ -154,6 +166,136 @@ void TestRehearseAutomatizer::theWindowsClosingStepsAreDone()
     for (const char *group : {"Autorun", "Tweak"})
         QVERIFY(recordedNames(QString::fromLatin1(group)).isEmpty());
     QVERIFY(!recordedNames(u"Packages"_s).isEmpty());
+}
+
+void TestRehearseAutomatizer::storedKeepStatesAreTheDefault()
+{
+    TestMachine machine;
+    fillServices(machine);
+    const auto lines = [&machine](const QStringList &options) {
+        return runOn(machine, QStringList{u"analyze"_s} + options).output;
+    };
+    QVERIFY(!lines({}).contains("can be disable: Spooler"));
+    machine.write(settingsKey, u"Keep_1"_s, 0);
+    machine.write(settingsKey, u"Keep_7"_s, 0);
+    machine.write(settingsKey, u"Keep_5"_s, 1); // neither of the two states
+    QVERIFY(lines({}).contains("can be disable: Spooler\n"));
+    QVERIFY(lines({}).contains("can be disable: SEMgrSvc\n"));
+    QVERIFY(!lines({}).contains("SSDPSRV"));
+    // The option is for this run alone.
+    const QByteArray chosen = lines({u"--keep"_s, u"printer=2,bluetooth-audio=0"_s});
+    QVERIFY(!chosen.contains("Spooler"));
+    QVERIFY(chosen.contains("can be disable: BthAvctpSvc\n"));
+    QVERIFY(chosen.contains("can be disable: SEMgrSvc\n"));
+    QCOMPARE(machine.read(settingsKey, u"Keep_1"_s), QVariant(0));
+    QVERIFY(!machine.names(settingsKey).contains(u"Keep_2"_s));
+}
+
+namespace {
+
+/** A small machine with a file, whose attribute word tells whether a walk has come by. */
+class WalkedMachine
+{
+public:
+    WalkedMachine()
+    {
+        fillAutomatizerMachine(machine);
+        machine.addFile(file_);
+    }
+    bool isWalked() const
+    {
+        constexpr quint32 notIndexed = 0x2000;
+        return (machine.machine().attributes(file_) & notIndexed) != 0;
+    }
+    TestMachine machine;
+
+private:
+    const QString file_ = u"C:\\Users\\Test\\letter.txt"_s;
+};
+
+} // namespace
+
+void TestRehearseAutomatizer::theWalkIsRunOnlyWhenAskedFor_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<bool>("walked");
+    QTest::newRow("nothing said") << QStringList() << false;
+    QTest::newRow("yes") << QStringList{u"--yes"_s} << true;
+    QTest::newRow("no walk") << QStringList{u"--no-walk"_s} << false;
+    QTest::newRow("both") << QStringList{u"--yes"_s, u"--no-walk"_s} << false;
+    // Without the features there is no question.
+    QTest::newRow("yes without features") << QStringList{u"--yes"_s, u"--no-features"_s} << false;
+}
+
+void TestRehearseAutomatizer::theWalkIsRunOnlyWhenAskedFor()
+{
+    QFETCH(const QStringList, options);
+    QFETCH(const bool, walked);
+    WalkedMachine walk;
+    const Ended ended = runOn(walk.machine, QStringList{u"optimize"_s} + options);
+    QCOMPARE(ended.exitCode, done);
+    QCOMPARE(walk.isWalked(), walked);
+    QCOMPARE(ended.output.endsWith("automatizerValueChanged\ttweaksDone\n"
+                                   "automatizerValueChanged\tRemoveIndexedAttrib_end\n"),
+             walked);
+}
+
+void TestRehearseAutomatizer::aWalkBehindRestoreTellsThePage()
+{
+    WalkedMachine walk;
+    QCOMPARE(runOn(walk.machine, {u"optimize"_s}).exitCode, done);
+    const Ended ended = runOn(walk.machine, {u"restore"_s, u"--yes"_s});
+    QCOMPARE(ended.exitCode, done);
+    QVERIFY(walk.isWalked());
+    QVERIFY(ended.output.endsWith("automatizerValueChanged\ttweaksDone\n"
+                                  "valueChanged\tWorkThread::TweakSSD::RemoveIndexedAttrib\n"));
+}
+
+namespace {
+
+/** What differs between two machines, without the program's own settings and the sizes of files. */
+QByteArray differences(const QString &before, const QString &after)
+{
+    static const QRegularExpression columns(u" {2,}"_s);
+    QByteArray lines;
+    for (const QByteArray &line : rehearse({u"diff"_s, before, after}).output.split('\n')) {
+        QStringList parts = QString::fromUtf8(line).split(columns);
+        if (parts.size() < 3 || parts.at(1).contains("\\Kestrune\\Ondrevale"_L1))
+            continue;
+        if (parts.first() == "file"_L1)
+            parts.resize(2);
+        lines += parts.join(u'\t').toUtf8() + '\n';
+    }
+    return lines;
+}
+
+} // namespace
+
+void TestRehearseAutomatizer::differencesOfTheBuiltInMachines_data()
+{
+    QTest::addColumn<QString>("builtIn");
+    QTest::addColumn<QStringList>("keep");
+    QTest::newRow("all kept") << u"windows11"_s << QStringList();
+    QTest::newRow("none kept") << u"windows10"_s << QStringList{u"--keep"_s, givenUp};
+}
+
+/** All that is changed but for the tweaks, which have tests of their own. */
+void TestRehearseAutomatizer::differencesOfTheBuiltInMachines()
+{
+    QFETCH(const QString, builtIn);
+    QFETCH(const QStringList, keep);
+    const QTemporaryDir folder;
+    const QString fresh = folder.filePath(u"fresh"_s);
+    const QString machine = folder.filePath(u"m"_s);
+    for (const QString &path : {fresh, machine})
+        QCOMPARE(rehearse({u"new"_s, path, u"--from"_s, builtIn}).exitCode, done);
+    for (const char *job : {"optimize", "restore"}) {
+        const QString name = QString::fromLatin1(job);
+        QCOMPARE(rehearse(QStringList{u"run"_s, machine, name, u"--no-features"_s} + keep).exitCode, done);
+        compareLines(differences(fresh, machine), recorded(builtIn + u"-behind-"_s + name));
+        if (QTest::currentTestFailed())
+            return;
+    }
 }
 
 #ifndef Q_OS_WIN

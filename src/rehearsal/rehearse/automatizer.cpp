@@ -28,9 +28,11 @@ void analyze(WorkThread &worker, LinePrinter &printer)
 void closeTweaks(WorkThread &worker, bool walk, LinePrinter &printer)
 {
     recordTweaksOfAutomatizer(worker, worker.win32PrioritySeparationIndex);
-    // Under Optimize the walk reports on the Automatizer's signal, so that isn't over before.
+    // Optimize isn't over before the walk, which tells its end by that.
     if (walk)
-        runToEnd(worker, JobTweakApply, printer);
+        runUpTo(worker.optimizeRunning == 1 ? u"RemoveIndexedAttrib_end"_s
+                                            : u"WorkThread::TweakSSD::RemoveIndexedAttrib"_s,
+                worker, JobTweakApply, printer);
     worker.optimizeRunning = 0;
 }
 

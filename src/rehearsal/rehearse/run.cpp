@@ -4,37 +4,16 @@
 #include "automatizer.h"
 #include "jobrunner.h"
 #include "jobs.h"
+#include "keepoption.h"
 #include "platform/simulated/simulatedplatform.h"
 #include "progress.h"
 #include "subcommands.h"
 #include "tweakjobs.h"
 #include "work/windowsname.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct KeepRow
-{
-    QLatin1StringView name;
-    std::atomic<int> WorkThread::*state;
-};
-
-// clang-format off
-constexpr KeepRow keepRows[] = {
-    {"printer"_L1,         &WorkThread::keepPrinter},
-    {"bluetooth-audio"_L1, &WorkThread::keepBluetoothAudio},
-    {"files-sharing"_L1,   &WorkThread::keepFilesSharing},
-    {"xbox-app"_L1,        &WorkThread::keepXboxApp},
-    {"upnp"_L1,            &WorkThread::keepUpnp},
-    {"proxy-vpn"_L1,       &WorkThread::keepProxyVpn},
-    {"nfc"_L1,             &WorkThread::keepNfc},
-    {"xbox-game-bar"_L1,   &WorkThread::keepXboxGameBar},
-    {"codecs"_L1,          &WorkThread::keepCodecs},
-};
-// clang-format on
 
 const JobRow &findJob(const Arguments &arguments)
 {
@@ -61,20 +40,6 @@ double parsePace(const Arguments &arguments)
     if (!isNumber || !(pace >= 0 && pace <= 1000))
         throw UsageError{u"invalid argument '%1' for '--pace'"_s.arg(arguments.value("pace"_L1))};
     return pace;
-}
-
-/** "printer=0,nfc=2": check states of the Keep list. */
-void applyKeep(WorkThread &worker, const QString &text)
-{
-    for (const QString &entry : text.split(u',', Qt::SkipEmptyParts)) {
-        const QString name = entry.section(u'=', 0, 0);
-        const QString state = entry.section(u'=', 1);
-        const auto row = std::find_if(std::begin(keepRows), std::end(keepRows),
-                                      [&name](const KeepRow &keep) { return keep.name == name; });
-        if (row == std::end(keepRows) || (state != "0"_L1 && state != "2"_L1))
-            throw UsageError{u"invalid argument '%1' for '--keep'"_s.arg(entry)};
-        worker.*(row->state) = state.toInt();
-    }
 }
 
 /** Whether a job's last line is the one that the row tells. */
@@ -147,11 +112,12 @@ int runJob(const Arguments &arguments)
     SimulatedOptions simulated;
     simulated.elevated = !arguments.has("not-elevated"_L1);
     simulated.pace = parsePace(arguments);
-    WorkThread worker;
-    applyKeep(worker, arguments.value("keep"_L1));
+    const QList<KeepChoice> keep = parseKeep(arguments.value("keep"_L1));
 
     const QString folder = openMachine(arguments.operand(0))->folder();
     setPlatform(std::make_unique<SimulatedPlatform>(folder, simulated));
+    WorkThread worker;
+    applyKeep(worker, keep);
     const WindowsName windows = readWindowsName();
     worker.winName = windows.product;
     worker.winBuild = windows.build;
@@ -171,18 +137,17 @@ QString moreHelp()
     QString text = u"Jobs:\n"_s;
     for (const JobRow &row : jobRows())
         text += u"  "_s + (QString(row.name) + u' ' + row.operands).leftJustified(28) + row.help + u'\n';
-    QStringList names;
-    for (const KeepRow &row : keepRows)
-        names.append(row.name);
     return text
-           + u"\nFeatures for --keep, each with 2 to keep it or 0 to give it up:\n  %1.\n"_s.arg(names.join(", "_L1));
+           + u"\nFeatures for --keep, each with 2 to keep it or 0 to give it up (default: as in the machine's Keep "
+             u"list):\n"
+             "  %1.\n"_s.arg(keepNames());
 }
 
 // clang-format off
 constexpr OptionRow options[] = {
     {"not-elevated"_L1, {},                   "run it as a user without administrator rights"_L1},
     {"pace"_L1,         "FACTOR"_L1,          "sleep this many times each pause of the job (default 0)"_L1},
-    {"keep"_L1,         "FEATURE=STATE,..."_L1, "say which features are kept"_L1},
+    {"keep"_L1,         "FEATURE=STATE,..."_L1, "keep or give up features, for this run alone"_L1},
     {"no-programs"_L1,  {},                   "let the Automatizer leave packages and programs at logon alone"_L1},
     {"no-features"_L1,  {},                   "let the Automatizer leave the tweaks alone"_L1},
     {"yes"_L1,          {},                   "answer Yes to the window's question for a walk over all files"_L1},
