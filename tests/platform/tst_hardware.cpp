@@ -3,6 +3,8 @@
 
 #include "contractplatform.h"
 
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QSet>
@@ -24,6 +26,7 @@ private Q_SLOTS:
     void thereIsAScreen();
     void processorTimesNeverGoBack();
     void processIdsAreSingle();
+    void processNamesAreProgramsWithoutTheirFolder();
     void threadsAreAtLeastOneForEachProcess();
     void someMemoryIsFree();
     void theRootDriveIsTheSystems();
@@ -35,6 +38,7 @@ private Q_SLOTS:
     void seekPenalties();
     void processorTimesFollowTheScript();
     void eachProcessHasItsId();
+    void processNamesKeepTheirOrderAndEndAtTheRoom();
     void hardwareIsSetPartByPart();
     void aDamagedDescriptionIsNone();
 #endif
@@ -104,6 +108,19 @@ void TestHardware::processIdsAreSingle()
     const QList<quint32> ids = platform().processIds();
     QVERIFY(ids.size() > 1 && ids.size() <= 1024);
     QCOMPARE(QSet<quint32>(ids.cbegin(), ids.cend()).size(), ids.size());
+}
+
+void TestHardware::processNamesAreProgramsWithoutTheirFolder()
+{
+    const QStringList names = platform().processNames();
+    QVERIFY(!names.isEmpty() && names.size() <= 1024);
+    for (const QString &name : names)
+        QVERIFY2(!name.isEmpty() && !name.contains(u'\\') && !name.contains(u'/'), qPrintable(name));
+#ifdef KESTRUNE_REAL_MACHINE
+    QVERIFY(names.contains(QFileInfo(QCoreApplication::applicationFilePath()).fileName()));
+#else
+    QCOMPARE(names, (QStringList{u"System"_s, u"explorer.exe"_s}));
+#endif
 }
 
 void TestHardware::threadsAreAtLeastOneForEachProcess()
@@ -193,6 +210,17 @@ void TestHardware::processorTimesFollowTheScript()
         readings << u"%1 %2 %3"_s.arg(times.idle).arg(times.kernel).arg(times.user);
     }
     QCOMPARE(readings, (QStringList{u"1 2 3"_s, u"11 22 33"_s, u"12 24 36"_s, u"22 44 66"_s}));
+}
+
+void TestHardware::processNamesKeepTheirOrderAndEndAtTheRoom()
+{
+    QStringList names{u"b.exe"_s, u"A.exe"_s, u"b.exe"_s};
+    contract_->machine().setProcesses(names);
+    QCOMPARE(platform().processNames(), names);
+    for (int i = 0; i < 1100; ++i)
+        names.append(u"p%1.exe"_s.arg(i));
+    contract_->machine().setProcesses(names);
+    QCOMPARE(platform().processNames(), names.first(1024));
 }
 
 void TestHardware::eachProcessHasItsId()

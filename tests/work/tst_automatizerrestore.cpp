@@ -36,6 +36,7 @@ class TestAutomatizerRestore : public QObject
 private Q_SLOTS:
     void allLinesInTheirOrder();
     void whatComesBackAndWhatDoesNot();
+    void whatOptimizeBroughtBackStaysUnlessRecorded();
     void listsAreFilledFromTheRecords();
     void theTimeoutIsWrittenOnlyWithARecordedService();
     void tasksComeBackWithoutARecordBeingWritten();
@@ -145,6 +146,28 @@ void TestAutomatizerRestore::whatComesBackAndWhatDoesNot()
     QVERIFY(config.readAll().contains("EnableEncoderServer=0"));
     // Only the window's close takes this back.
     QCOMPARE(machine.read(settingsKey, u"optimized"_s), QVariant(1));
+}
+
+void TestAutomatizerRestore::whatOptimizeBroughtBackStaysUnlessRecorded()
+{
+    TestMachine machine;
+    fillAutomatizerMachine(machine);
+    machine.write(servicesKey + u"\\Spooler"_s, u"Start"_s, 4);
+    machine.machine().setRunning(u"Spooler"_s, false);
+    machine.write(settingsKey, u"optimized"_s, 1);
+    WorkThread worker;
+    withoutFeatures(worker);
+    const QString task = u"\\Microsoft\\Windows\\Printing\\PrintJobCleanupTask"_s;
+    const auto isOn = [&] { return !machine.machine().task(task)->document.contains("<Enabled>false"_L1); };
+    QVERIFY(!isOn());
+    optimize(worker);
+    QCOMPARE(machine.read(servicesKey + u"\\Spooler"_s, u"Start"_s), QVariant(2));
+    QVERIFY(isOn());
+    // They were off before; nothing has recorded that, and Restore doesn't name them.
+    const QStringList lines = restore(worker);
+    QCOMPARE(lines.filter(u"Spooler"_s) + lines.filter(u"PrintJobCleanupTask"_s), QStringList());
+    QCOMPARE(machine.read(servicesKey + u"\\Spooler"_s, u"Start"_s), QVariant(2));
+    QVERIFY(isOn());
 }
 
 void TestAutomatizerRestore::listsAreFilledFromTheRecords()
