@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the Apply button of the Features page does: which boxes count as touched, what runs, and the walk's question.
 
+#include "platform/simulated/database.h"
 #include "support/boxes.h"
 #include "support/menus.h"
 #include "support/tweakprobes.h"
@@ -126,6 +127,7 @@ private Q_SLOTS:
     void needOfARebootIsToldOnce();
     void onlyOneMeansAReboot();
     void applyWhileAJobRunsIsIgnored();
+    void applyWhileTheWalkRunsIsIgnored();
     void applyWithoutRightsOffersThem_data();
     void applyWithoutRightsOffersThem();
 
@@ -435,6 +437,33 @@ void TestFeaturesApply::applyWhileAJobRunsIsIgnored()
     QVERIFY(driver.worker().isRunning());
     QCOMPARE(driver.worker().job, int(JobWinSxsSize));
     QCOMPARE(driver.status(), u"before"_s);
+    QCOMPARE(probes.ran(), QStringList());
+    QCOMPARE(machine.names(tweakKey), QStringList());
+}
+
+void TestFeaturesApply::applyWhileTheWalkRunsIsIgnored()
+{
+    TestMachine machine;
+    const TweakProbes probes(machine);
+    const QString file = addFileToWalk(machine);
+    const WindowDriver driver;
+    show(driver);
+    for (const QString &name : {u"chkSsd1"_s, u"chkSsd8"_s})
+        clickBox(driver, name);
+    {
+        // The walk can't store what it has set until someone else is done with the machine, so it lasts.
+        const auto other = Machine::open(machine.folder());
+        const Database::Transaction held(other->database());
+        driver.worker().startJob(JobTweakApply);
+        driver.get<QLabel>(u"lblStatus"_s)->setText(u"before"_s);
+        const Boxes noBox;
+        apply(driver);
+        QVERIFY(driver.worker().isRunning());
+        QCOMPARE(driver.status(), u"before"_s);
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(driver.status(), u"Remove indexing attribute of C: finished"_s, patience);
+    QVERIFY(driver.worker().wait(patience));
+    QVERIFY((machine.machine().attributes(file) & notIndexed) != 0);
     QCOMPARE(probes.ran(), QStringList());
     QCOMPARE(machine.names(tweakKey), QStringList());
 }
