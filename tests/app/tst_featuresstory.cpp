@@ -6,8 +6,8 @@
 #include "rehearsal/machinediff.h"
 #include "rehearsal/taskdocument.h"
 #include "support/boxes.h"
+#include "support/tweakrows.h"
 #include "support/windowdriver.h"
-#include "tweakrows.h"
 #include "work/tweaks/tweakcatalogue.h"
 
 #include <QCheckBox>

@@ -13,54 +13,10 @@ const QString interfaces = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Serv
 const QString video = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Video"_s;
 const QString hpet = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\Hpet"_s;
 
-// clang-format off
-constexpr ExpectedValue table[] = {
-    {1, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Multimedia\\SystemProfile\\Tasks\\Games",
-     "Background Only", "\"False\"", "\"False\""},
-    {1, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Multimedia\\SystemProfile\\Tasks\\Games",
-     "Clock Rate", "dword 10000", "dword 10000"},
-    {1, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Multimedia\\SystemProfile\\Tasks\\Games",
-     "GPU Priority", "dword 12", kept},
-    {1, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Multimedia\\SystemProfile\\Tasks\\Games",
-     "Priority", "dword 6", "dword 3"},
-    {1, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Multimedia\\SystemProfile\\Tasks\\Games",
-     "Scheduling Category", "\"Medium\"", "\"Medium\""},
-    {1, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Multimedia\\SystemProfile\\Tasks\\Games",
-     "SFIO Priority", "\"High\"", "\"Normal\""},
-    {1, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Multimedia\\SystemProfile\\Tasks\\Games",
-     "SFIO Rate", "dword 4", gone},
-    {1, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Multimedia\\SystemProfile\\Tasks\\Games",
-     "Latency Sensitive", "\"True\"", gone},
-    {1, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Multimedia\\SystemProfile",
-     "SystemResponsiveness", "dword 10", kept},
-    {2, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Power",
-     "PowerThrottlingOff", "dword 1", "dword 0"},
-    {3, "HKEY_CURRENT_USER\\Software\\Microsoft\\GameBar",
-     "AllowAutoGameMode", "dword 1", "dword 0"},
-    {3, "HKEY_CURRENT_USER\\Software\\Microsoft\\GameBar",
-     "AutoGameModeEnabled", "dword 1", "dword 0"},
-    {4, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\GameDVR",
-     "AllowgameDVR", "dword 0", "dword 1"},
-    {6, "HKEY_CURRENT_USER\\Software\\Microsoft\\GameBar",
-     "UseNexusForGameBarEnabled", "dword 0", "dword 1"},
-    {6, "HKEY_CURRENT_USER\\Software\\Microsoft\\GameBar",
-     "ShowStartupPanel", "dword 0", "dword 1"},
-    {8, "HKEY_CURRENT_USER\\Software\\Microsoft\\DirectX\\UserGpuPreferences",
-     "DirectXUserGlobalSettings", "\"AutoHDREnable=1;SwapEffectUpgradeEnable=1;\"", "\"AutoHDREnable=0;SwapEffectUpgradeEnable=1;\""},
-    {9, "HKEY_CURRENT_USER\\Control Panel\\Mouse",
-     "MouseSpeed", "\"0\"", "\"1\""},
-    {9, "HKEY_CURRENT_USER\\Control Panel\\Mouse",
-     "MouseThreshold1", "\"0\"", "\"6\""},
-    {9, "HKEY_CURRENT_USER\\Control Panel\\Mouse",
-     "MouseThreshold2", "\"0\"", "\"10\""},
-    {12, "HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\Microsoft\\Direct3D",
-     "MaxPreRenderedFrames", "dword 1", gone},
-    {13, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\Dwm",
-     "OverlayTestMode", "dword 5", gone},
-    {11, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\PriorityControl",
-     "Win32PrioritySeparation", "dword 38", gone},
-};
-// clang-format on
+const QString priorityControl = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\PriorityControl"_s;
+const QString quantum = u"Win32PrioritySeparation"_s;
+const QString group = u"chkGaming"_s; // of its boxes
+
 /** Interfaces and adapters of each kind, with some of the values there already. */
 void prepare(TestMachine &machine)
 {
@@ -73,6 +29,7 @@ void prepare(TestMachine &machine)
     machine.write(video + u"\\{A}\\0000"_s, u"EnableUlps"_s, u"before"_s);
     machine.write(video + u"\\{B}\\0000"_s, u"DriverDesc"_s, u"a card"_s);
     machine.write(hpet, u"Start"_s, u"before"_s);
+    machine.write(priorityControl, quantum, u"before"_s);
 }
 
 QStringList interfaceChanges(const Forms &forms)
@@ -139,13 +96,16 @@ void expectTick(Outcome &result, const Forms &forms, bool isEleven)
 
 Outcome expected(quint32 id, const Forms &forms, bool isEleven)
 {
-    Outcome result{.changes = valueChanges(table, id, forms)};
+    Outcome result{.changes = valueChanges(group + QString::number(id), forms)};
     if (id == 5)
         expectClock(result, forms, isEleven);
     if (id == 7)
         expectTick(result, forms, isEleven);
     if (id == 10)
         result.changes += interfaceChanges(forms);
+    if (id == 11)
+        result.changes.append(
+            registryLine(priorityControl, quantum, valueBefore(), forms.last() == 1 ? u"dword 38"_s : QString()));
     if (id == 14)
         result.changes += adapterChanges(forms);
     if (id == 10 || id == 13 || id == 14)
@@ -160,7 +120,7 @@ class TestTweakGaming : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void eachAlone_data() { tweakRows(14); }
+    void eachAlone_data() { eachTweak(14); }
     void eachAlone();
     void otherGenerationsHaveTheShortPause();
     void bcdeditThatFailsGoesUnnoticed_data();
@@ -178,7 +138,7 @@ void TestTweakGaming::eachAlone()
     QFETCH(const TestMachine::Windows, windows);
     QFETCH(const quint32, id);
     QFETCH(const Forms, forms);
-    TweakTrial trial(windows, table);
+    TweakTrial trial(windows, group);
     prepare(trial.machine);
     trial.begin();
     trial.run(&WorkThread::TweakGaming, id, forms);
@@ -207,7 +167,7 @@ void TestTweakGaming::bcdeditThatFailsGoesUnnoticed()
 {
     QFETCH(const ToolFault, fault);
     Command::timeLimit = 300;
-    TweakTrial trial(TestMachine::Windows::Eleven, table);
+    TweakTrial trial(TestMachine::Windows::Eleven, group);
     trial.machine.machine().setFault(u"bcdedit"_s, fault);
     trial.begin();
     trial.run(&WorkThread::TweakGaming, 7, applyAlone);
@@ -256,14 +216,13 @@ void TestTweakGaming::quantumByItsPlace_data()
 void TestTweakGaming::quantumByItsPlace()
 {
     QFETCH(const int, index);
-    const QString key = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\PriorityControl"_s;
     TweakTrial trial(TestMachine::Windows::Eleven);
-    trial.machine.write(key, u"Win32PrioritySeparation"_s, u"older"_s);
+    trial.machine.write(priorityControl, quantum, u"older"_s);
     trial.worker.win32PrioritySeparationIndex = index;
     trial.run(&WorkThread::TweakGaming, 11, applyAlone);
-    QTEST(trial.machine.read(key, u"Win32PrioritySeparation"_s), "value");
+    QTEST(trial.machine.read(priorityControl, quantum), "value");
     trial.run(&WorkThread::TweakGaming, 11, resetAlone);
-    QCOMPARE(trial.machine.read(key, u"Win32PrioritySeparation"_s), QVariant());
+    QCOMPARE(trial.machine.read(priorityControl, quantum), QVariant());
     QCOMPARE(trial.worker.needReboot, 0);
 }
 
@@ -277,14 +236,14 @@ void TestTweakGaming::noAdapterAtAll()
 
 void TestTweakGaming::withoutRightsTheUsersValuesAreWrittenAlone()
 {
-    TweakTrial trial(TestMachine::Windows::Ten, table, {.elevated = false});
+    TweakTrial trial(TestMachine::Windows::Ten, group, {.elevated = false});
     prepare(trial.machine);
     trial.begin();
     QStringList changes;
     for (quint32 id = 1; id <= 14; ++id) {
         trial.run(&WorkThread::TweakGaming, id, applyAlone);
         if (id == 3 || id == 6 || id == 8 || id == 9)
-            changes += valueChanges(table, id, applyAlone);
+            changes += valueChanges(group + QString::number(id), applyAlone);
     }
     COMPARE_OUTCOMES(trial.outcome(), (Outcome{.changes = changes, .pauses = {300}, .needReboot = 1}));
 }

@@ -15,27 +15,12 @@ const QString memoryKey =
     u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management"_s;
 const QString limitName = u"IoPageLockLimit"_s;
 
-// clang-format off
-constexpr ExpectedValue table[] = {
-    {1, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\FileSystem",
-     "DisableWriteCacheFlush", "dword 1", "dword 0"},
-    {2, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Dfrg",
-     "Enable", "dword 0", "dword 1"},
-    {3, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Filesystem",
-     "NtfsDisableLastAccessUpdate", "dword 1", "dword 0"},
-    {4, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management\\PrefetchParameters",
-     "EnablePrefetcher", "dword 0", "dword 3"},
-    {5, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management",
-     "ClearPageFileAtShutdown", "dword 0", "dword 1"},
-    {6, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Power",
-     "HiberbootEnabled", "dword 0", "dword 1"},
-    {9, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management",
-     "IoPageLockLimit", "dword 10000000", gone},
-};
-// clang-format on
+const QString group = u"chkSsd"_s; // of its boxes
+
 /** A machine with the means of all tweaks: hibernation, files and a known size of memory. */
 void prepare(TestMachine &machine)
 {
+    machine.write(memoryKey, limitName, u"before"_s);
     machine.write(powerKey, u"HibernateEnabled"_s, 1);
     machine.addFile(u"C:\\hiberfil.sys"_s, QByteArray(5000, '\0'));
     machine.machine().setAttributes(u"C:\\hiberfil.sys"_s, 0x26);
@@ -52,7 +37,7 @@ void setMemory(const TestMachine &machine, const QString &bytes)
 
 Outcome expected(quint32 id, const Forms &forms, TestMachine::Windows windows)
 {
-    Outcome result{.changes = valueChanges(table, id, forms), .needReboot = id == 9 ? 1 : 0};
+    Outcome result{.changes = valueChanges(group + QString::number(id), forms), .needReboot = id == 9 ? 1 : 0};
     for (const quint8 form : forms) {
         if (id == 7) {
             result.commands.append(form == 1 ? u"powercfg -h OFF"_s : u"powercfg -h ON"_s);
@@ -73,6 +58,9 @@ Outcome expected(quint32 id, const Forms &forms, TestMachine::Windows windows)
         result.changes.append(
             changeLine(u"attribute"_s, u"C:\\Data\\left out before.txt"_s, u"archive not-indexed"_s, u"archive"_s));
     }
+    if (id == 9)
+        result.changes.append(
+            registryLine(memoryKey, limitName, valueBefore(), forms.last() == 1 ? u"dword 10000000"_s : QString()));
     return result;
 }
 
@@ -89,7 +77,7 @@ class TestTweakSsd : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void eachAlone_data() { tweakRows(9); }
+    void eachAlone_data() { eachTweak(9); }
     void eachAlone();
     void anyFlagButOneResets();
     void hibernationComesBackAtItsSize();
@@ -109,7 +97,7 @@ void TestTweakSsd::eachAlone()
     QFETCH(const TestMachine::Windows, windows);
     QFETCH(const quint32, id);
     QFETCH(const Forms, forms);
-    TweakTrial trial(windows, table);
+    TweakTrial trial(windows, group);
     prepare(trial.machine);
     trial.begin();
     trial.run(&WorkThread::TweakSSD, id, forms);
@@ -119,10 +107,10 @@ void TestTweakSsd::eachAlone()
 
 void TestTweakSsd::anyFlagButOneResets()
 {
-    TweakTrial trial(TestMachine::Windows::Eleven, table);
+    TweakTrial trial(TestMachine::Windows::Eleven, group);
     trial.begin();
     trial.run(&WorkThread::TweakSSD, 1, {2});
-    COMPARE_OUTCOMES(trial.outcome(), Outcome{.changes = valueChanges(table, 1, resetAlone)});
+    COMPARE_OUTCOMES(trial.outcome(), Outcome{.changes = valueChanges(group + u"1"_s, resetAlone)});
 }
 
 void TestTweakSsd::hibernationComesBackAtItsSize()
@@ -149,7 +137,7 @@ void TestTweakSsd::powercfgThatFailsGoesUnnoticed()
 {
     QFETCH(const ToolFault, fault);
     Command::timeLimit = 300;
-    TweakTrial trial(TestMachine::Windows::Eleven, table);
+    TweakTrial trial(TestMachine::Windows::Eleven, group);
     prepare(trial.machine);
     trial.machine.machine().setFault(u"powercfg"_s, fault);
     trial.begin();
@@ -206,7 +194,8 @@ void TestTweakSsd::memoryThatCantBeTold_data()
 void TestTweakSsd::memoryThatCantBeTold()
 {
     QFETCH(const QList<QJsonObject>, instances);
-    TweakTrial trial(TestMachine::Windows::Eleven, table);
+    TweakTrial trial(TestMachine::Windows::Eleven, group);
+    trial.machine.write(memoryKey, limitName, u"before"_s);
     trial.machine.machine().setWmiInstances(u"Win32_ComputerSystem"_s, instances);
     trial.begin();
     trial.run(&WorkThread::TweakSSD, 9, applyAlone);
@@ -235,7 +224,7 @@ void TestTweakSsd::resetOfTheLimitKeepsTheReportsMemory()
 
 void TestTweakSsd::refusedWritesAreSilent()
 {
-    TweakTrial trial(TestMachine::Windows::Eleven, table, {.elevated = false});
+    TweakTrial trial(TestMachine::Windows::Eleven, group, {.elevated = false});
     prepare(trial.machine);
     trial.begin();
     for (const quint32 id : {1u, 2u, 3u, 4u, 5u, 6u, 9u})

@@ -17,210 +17,8 @@ const QString searchHost = u"C:\\Windows\\SystemApps\\MicrosoftWindows.Client.CB
 const QString searchApp = u"C:\\Windows\\SystemApps\\Microsoft.Windows.Search_cw5n1h2txyewy\\SearchApp.exe"_s;
 const QString cloudTasks = u"\\Microsoft\\Windows\\CloudRestore\\"_s;
 
-// clang-format off
-constexpr ExpectedValue table[] = {
-    {1, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control",
-     "SvcHostSplitThresholdInKB", "dword 251658240", "dword 380000"},
-    {2, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Configuration Manager",
-     "EnablePeriodicBackup", "dword 0", "dword 1"},
-    {3, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\Windows Search",
-     "PreventUsingAdvancedIndexingOptions", "dword 1", "dword 0"},
-    {4, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\FileHistory",
-     "Disabled", "dword 1", "dword 0"},
-    {4, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced",
-     "Start_TrackDocs", "dword 0", "dword 1"},
-    {6, "HKEY_USERS\\S-1-5-20\\Software\\Microsoft\\Windows\\CurrentVersion\\DeliveryOptimization\\Settings",
-     "DownloadMode", "dword 0", "dword 1"},
-    {6, "HKEY_USERS\\S-1-5-20\\Software\\Microsoft\\Windows\\CurrentVersion\\DeliveryOptimization\\Settings",
-     "DownloadModeProvider", "dword 8", gone},
-    {8, "HKEY_CURRENT_USER\\Control Panel\\Desktop",
-     "MenuShowDelay", "\"0\"", "\"400\""},
-    {8, "HKEY_CURRENT_USER\\Control Panel\\Desktop",
-     "AutoEndTasks", "\"3000\"", gone},
-    {8, "HKEY_CURRENT_USER\\Control Panel\\Desktop",
-     "HungAppTimeout", "\"3000\"", gone},
-    {8, "HKEY_CURRENT_USER\\Control Panel\\Desktop",
-     "WaitToKillAppTimeout", "\"5000\"", gone},
-    {8, "HKEY_CURRENT_USER\\Control Panel\\Desktop",
-     "LowLevelHooksTimeout", "\"3000\"", gone},
-    {8, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control",
-     "WaitToKillServiceTimeout", "\"3000\"", "\"5000\""},
-    {9, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\Personalization",
-     "NoLockScreen", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Policies\\Microsoft\\Windows\\AppCompat",
-     "DisableEngine", "dword 1", "dword 0"},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Policies\\Microsoft\\Windows\\AppCompat",
-     "DisablePCA", "dword 1", "dword 0"},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Policies\\Microsoft\\Windows\\AppCompat",
-     "SbEnable", "dword 0", "dword 1"},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\System\"",
-     "PublishUserActivities", "dword 0", "dword 1"},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\SQMClient\\Windows\"",
-     "CEIPEnable", "dword 0", "dword 1"},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat",
-     "AITEnable", "dword 0", kept},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat\"",
-     "AITEnable", kept, "dword 1"},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat",
-     "DisableInventory", "dword 1", kept},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat\"",
-     "DisableInventory", kept, "dword 0"},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat",
-     "DisablePCA", "dword 1", kept},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat\"",
-     "DisablePCA", kept, "dword 0"},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat",
-     "DisableUAR", "dword 1", kept},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\AppCompat\"",
-     "DisableUAR", kept, "dword 0"},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\DataCollection",
-     "AllowTelemetry", gone, "dword 0"},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Device Metadata\"",
-     "PreventDeviceMetadataFromNetwork", "dword 1", "dword 0"},
-    {7, "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\WMI\\AutoLogger\\SQMLogger\"",
-     "Start", "dword 0", "dword 1"},
-    {7, "HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Services\\DiagTrack\"",
-     "Start", "dword 2", "dword 4"},
-    {7, "HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Services\\dmwappushservice\"",
-     "Start", "dword 2", "dword 4"},
-    {7, "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\PolicyManager\\current\\device\\System\"",
-     "AllowExperimentation", "dword 0", "dword 1"},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\CloudContent",
-     "DisableWindowsSpotlightFeatures", "dword 1", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Policies\\Microsoft\\Windows\\CloudContent",
-     "DisableWindowsSpotlightFeatures", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\WcmSvc\\wifinetworkmanager\\config\"",
-     "AutoConnectAllowedOEM", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Policies\\Microsoft\\Windows\\WindowsCopilot",
-     "TurnOffWindowsCopilot", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\WindowsCopilot",
-     "TurnOffWindowsCopilot", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\System\\ControlSet001\\Control\\WMI\\Autologger\\AutoLogger-Diagtrack-Listener",
-     "Start", "dword 0", "dword 1"},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Windows Search",
-     "EnableDynamicContentInWSB", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Windows Search",
-     "AllowCortanaAboveLock", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Windows Search",
-     "AllowSearchToUseLocation", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Windows Search",
-     "ConnectedSearchUseWeb", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Windows Search",
-     "DisableWebSearch", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Windows Search",
-     "AllowCloudSearch", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\TabletPC",
-     "PreventHandwritingDataSharing", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\System",
-     "AllowClipboardHistory", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\System",
-     "AllowCrossDeviceClipboard", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\System",
-     "EnableActivityFeed", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\System",
-     "UploadUserActivities", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\System",
-     "PublishUserActivities", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\Messaging",
-     "AllowMessageSync", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\LocationAndSensors",
-     "DisableLocationScripting", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\LocationAndSensors",
-     "DisableWindowsLocationProvider", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\LocationAndSensors",
-     "DisableLocation", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\HandwritingErrorReports",
-     "PreventHandwritingErrorReports", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\DataCollection",
-     "AllowTelemetry", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\DataCollection",
-     "LimitDiagnosticLogCollection", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\DataCollection",
-     "DisableOneSettingsDownloads", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Windows\\DataCollection",
-     "DoNotShowFeedbackNotifications", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Policies\\Microsoft\\Speech",
-     "AllowSpeechModelUpdate", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\Windows Error Reporting",
-     "Disabled", "dword 1", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Privacy",
-     "TailoredExperiencesWithDiagnosticDataEnabled", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\DataCollection",
-     "AllowTelemetry", "dword 0", "dword 3"},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\AdvertisingInfo",
-     "Enabled", "dword 0", "dword 1"},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\SQMClient\\Windows",
-     "CEIPEnable", "dword 0", "dword 1"},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Speech_OneCore\\Preferences",
-     "ModelDownloadAllowed", "dword 0", gone},
-    {7, "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\PolicyManager\\current\\device\\Bluetooth",
-     "AllowAdvertising", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Windows Search",
-     "CortanaConsent", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\UserProfileEngagement",
-     "ScoobeSystemSettingEnabled", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync\\Groups\\Windows",
-     "Enabled", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync\\Groups\\Personalization",
-     "Enabled", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync\\Groups\\Language",
-     "Enabled", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync\\Groups\\Credentials",
-     "Enabled", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync\\Groups\\BrowserSettings",
-     "Enabled", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync\\Groups\\Accessibility",
-     "Enabled", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SettingSync",
-     "SyncPolicy", "dword 5", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\SearchSettings",
-     "IsDynamicSearchBoxEnabled", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Privacy",
-     "TailoredExperiencesWithDiagnosticDataEnabled", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Notifications\\Settings",
-     "NOC_GLOBAL_SETTING_ALLOW_TOASTS_ABOVE_LOCK", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced",
-     "TrackProgs", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\DeliveryOptimization",
-     "SystemSettingsDownloadMode", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager",
-     "SoftLandingEnabled", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager",
-     "RotatingLockScreenEnabled", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager",
-     "SystemPaneSuggestionsEnabled", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager",
-     "RotatingLockScreenOverlayEnabled", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\ContentDeliveryManager",
-     "SilentInstalledAppsEnabled", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\AdvertisingInfo",
-     "Enabled", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Siuf\\Rules",
-     "NumberOfSIUFInPeriod", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Siuf\\Rules",
-     "PeriodInNanoSeconds", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\MediaPlayer\\Preferences",
-     "UsageTracking", "dword 0", "dword 1"},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\InputPersonalization\\TrainedDataStore",
-     "HarvestContacts", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\InputPersonalization",
-     "RestrictImplicitInkCollection", "dword 1", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\InputPersonalization",
-     "RestrictImplicitTextCollection", "dword 1", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\input\\TIPC",
-     "Enabled", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Microsoft\\Clipboard",
-     "EnableClipboardHistory", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\CurrentVersion\\AppContainer\\Storage\\microsoft.microsoftedge_8wekyb3d8bbwe\\MicrosoftEdge\\ServiceUI",
-     "EnableCortana", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\CurrentVersion\\AppContainer\\Storage\\microsoft.microsoftedge_8wekyb3d8bbwe\\MicrosoftEdge\\Main",
-     "ShowSearchSuggestionsGlobal", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\CurrentVersion\\AppContainer\\Storage\\microsoft.microsoftedge_8wekyb3d8bbwe\\MicrosoftEdge\\Main",
-     "DoNotTrack", "dword 0", gone},
-    {7, "HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\CurrentVersion\\AppContainer\\Storage\\microsoft.microsoftedge_8wekyb3d8bbwe\\MicrosoftEdge\\FlipAhead",
-     "FPEnabled", "dword 0", gone},
-};
-// clang-format on
+const QString group = u"chkWindows"_s; // of its boxes
+
 const QString taskDocument = u"<Task version=\"1.4\" xmlns=\"http://schemas.microsoft.com/windows/2004/02/mit/task\">\n"
                              "  <Settings>\n    <Enabled>%1</Enabled>\n  </Settings>\n</Task>"_s;
 
@@ -285,7 +83,7 @@ void expectCloudBackup(Outcome &result, const Forms &forms)
 
 Outcome expected(quint32 id, const Forms &forms, TestMachine::Windows windows)
 {
-    Outcome result{.changes = valueChanges(table, id, forms), .needReboot = id == 1 ? 1 : 0};
+    Outcome result{.changes = valueChanges(group + QString::number(id), forms), .needReboot = id == 1 ? 1 : 0};
     if (id == 5 && windows == TestMachine::Windows::Eleven) {
         // Taken back alone it makes the key, and no value in it.
         result.changes = {forms.first() == 1 ? registryLine(menuKey, u"(default)"_s, {}, u"\"\""_s)
@@ -306,7 +104,7 @@ class TestTweakWindows : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void eachAlone_data() { tweakRows(12); }
+    void eachAlone_data() { eachTweak(12); }
     void eachAlone();
 
     void telemetryHas82WritesInEachForm();
@@ -333,7 +131,7 @@ void TestTweakWindows::eachAlone()
     QFETCH(const TestMachine::Windows, windows);
     QFETCH(const quint32, id);
     QFETCH(const Forms, forms);
-    TweakTrial trial(windows, table);
+    TweakTrial trial(windows, group);
     prepare(trial.machine);
     trial.begin();
     trial.run(&WorkThread::TweakWindows, id, forms);
@@ -371,10 +169,10 @@ void TestTweakWindows::telemetryTakenBackWhereItNeverWasMakesTheQuotedKeys()
 
 void TestTweakWindows::telemetryWithoutRightsChangesTheUsersValuesAlone()
 {
-    TweakTrial trial(TestMachine::Windows::Eleven, table, {.elevated = false});
+    TweakTrial trial(TestMachine::Windows::Eleven, group, {.elevated = false});
     trial.begin();
     trial.run(&WorkThread::TweakWindows, 7, applyAlone);
-    QStringList changes = valueChanges(table, 7, applyAlone);
+    QStringList changes = valueChanges(group + u"7"_s, applyAlone);
     changes.removeIf([](const QString &line) { return !line.startsWith(u"registry HKEY_CURRENT_USER\\"); });
     QVERIFY(changes.size() > 30);
     COMPARE_OUTCOMES(trial.outcome(), Outcome{.changes = changes});

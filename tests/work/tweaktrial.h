@@ -7,26 +7,11 @@
 #include "platform/simulated/database.h"
 #include "rehearsal/machinediff.h"
 #include "support/testmachine.h"
+#include "support/tweakrows.h"
 #include "work/workthread.h"
 
 #include <QDirIterator>
 #include <QTest>
-
-#include <span>
-
-/** How a form of a tweak leaves a value, beside the text that comparisons show of it. */
-inline constexpr const char *gone = "";
-inline constexpr const char *kept = nullptr;
-
-/** A value that a tweak is to write. */
-struct ExpectedValue
-{
-    quint32 id;
-    const char *key;
-    const char *name;
-    const char *applied;
-    const char *reset;
-};
 
 /** What the tests do with a tweak. */
 using Forms = QList<quint8>;
@@ -59,22 +44,30 @@ inline QString registryLine(const QString &key, const QString &name, const QStri
     return changeLine(QStringLiteral("registry"), key + u'|' + name, before, after);
 }
 
-/** What every value of the tables reads before a trial: neither what is applied nor what is reset. */
+/** What every value of the rows reads before a trial: neither what is applied nor what is reset. */
 inline QString valueBefore()
 {
     return QStringLiteral("\"before\"");
 }
 
-/** The changes that the forms of a tweak make in the values of a table, one after another. */
-inline QStringList valueChanges(std::span<const ExpectedValue> table, quint32 id, const Forms &forms)
+/** A value as comparisons show it; empty where it is gone. */
+inline QString shownValue(const QVariant &value)
+{
+    if (!value.isValid())
+        return {};
+    return value.typeId() == QMetaType::Int ? QStringLiteral("dword ") + value.toString()
+                                            : u'"' + value.toString() + u'"';
+}
+
+/** The changes that the forms of a box's tweak make in its plain values, one after another. */
+inline QStringList valueChanges(const QString &box, const Forms &forms)
 {
     QMap<QString, QString> last;
     for (const quint8 form : forms) {
-        for (const ExpectedValue &row : table) {
-            const char *text = form == 1 ? row.applied : row.reset;
-            if (row.id == id && text != kept)
-                last.insert(registryLine(QString::fromLatin1(row.key), QString::fromLatin1(row.name), {}, {}),
-                            QString::fromLatin1(text));
+        for (const TweakRow &row : tweakRows()) {
+            const std::optional<QVariant> &value = form == 1 ? row.applied : row.reset;
+            if (row.box == box && value)
+                last.insert(registryLine(row.key, row.name, {}, {}), shownValue(*value));
         }
     }
     QStringList changes;
@@ -89,15 +82,18 @@ public:
     using Tweak = void (WorkThread::*)(quint8 apply, quint32 id);
     using Windows = TestMachine::Windows;
 
-    explicit TweakTrial(Windows windows, std::span<const ExpectedValue> table = {}, SimulatedOptions options = {})
+    /** @p group begins the names of the boxes whose values are there before; empty: none */
+    explicit TweakTrial(Windows windows, const QString &group = {}, SimulatedOptions options = {})
         : machine(windows, options)
         , lines_(worker)
     {
         worker.winName =
             windows == Windows::Eleven ? QStringLiteral("Windows 11 Home") : QStringLiteral("Windows 10 Home");
         Database::Transaction together(machine.machine().database());
-        for (const ExpectedValue &row : table)
-            machine.write(QString::fromLatin1(row.key), QString::fromLatin1(row.name), QStringLiteral("before"));
+        for (const TweakRow &row : tweakRows()) {
+            if (!group.isEmpty() && row.box.startsWith(group))
+                machine.write(row.key, row.name, QStringLiteral("before"));
+        }
         together.commit();
     }
 
@@ -167,7 +163,7 @@ private:
     } while (false)
 
 /** Data rows: each id up to @p lastId and one beyond, each form, on both generations of Windows. */
-inline void tweakRows(quint32 lastId)
+inline void eachTweak(quint32 lastId)
 {
     QTest::addColumn<TestMachine::Windows>("windows");
     QTest::addColumn<quint32>("id");
