@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr qsizetype atOnce = 500;
+constexpr qsizetype atOnce = 5000;
 // INVALID_FILE_ATTRIBUTES, which no file takes.
 constexpr quint32 noWord = 0xffffffff;
 
