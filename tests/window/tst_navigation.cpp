@@ -4,6 +4,8 @@
 #include "support/menus.h"
 #include "support/windowdriver.h"
 
+#include <QDir>
+#include <QImage>
 #include <QScrollArea>
 #include <QSignalSpy>
 #include <QTabBar>
@@ -112,6 +114,7 @@ private Q_SLOTS:
     void pageHasTheTabOfItsNumber();
     void menuButtonShowsItsPage_data();
     void menuButtonShowsItsPage();
+    void imagesAreThereInTheirOwnSizeAndTwiceIt();
     void shownPagesButtonAloneIsBoldAndActive_data();
     void shownPagesButtonAloneIsBoldAndActive();
     void showingAPageEmptiesTheStatusAndHidesTheBar_data();
@@ -181,6 +184,21 @@ void TestNavigation::menuButtonShowsItsPage()
     driver.click(button);
     QCOMPARE(driver.window().currentPage(), page);
     QCOMPARE(driver.get<QTabWidget>(u"tabWidget"_s)->currentWidget()->objectName(), tabs.at(page));
+}
+
+void TestNavigation::imagesAreThereInTheirOwnSizeAndTwiceIt()
+{
+    const QDir folder(QCoreApplication::applicationDirPath() + u"/img"_s);
+    QStringList names{u"dropdown"_s};
+    for (const MenuButton &button : menuButtons)
+        names << button.image << button.image + u"-w"_s;
+    for (const QString &name : names) {
+        const QImage image(folder.filePath(name + u".png"_s));
+        QVERIFY2(!image.isNull(), qPrintable(name));
+        // Which Qt takes where the screen is scaled
+        QCOMPARE(QImage(folder.filePath(name + u"@2x.png"_s)).size(), 2 * image.size());
+    }
+    QCOMPARE(folder.entryList(QDir::Files).size(), 2 * names.size());
 }
 
 void TestNavigation::shownPagesButtonAloneIsBoldAndActive_data()
