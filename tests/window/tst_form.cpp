@@ -525,6 +525,7 @@ constexpr SettingRow settingRows[] = {
     {"tblAutorun",               "columnCount",               "2"},
     {"tblAutorun",               "selectionMode",             "NoSelection"},
     {"tblAutorun",               "sortingEnabled",            "false"},
+    {"tblAutorun",               "wordWrap",                  "false"}, // which would show "C:..." of a long path
     {"btnAutorunViewDisabled",   "flat",                      "true"},
     {"btnAutorunViewDisabled",   "layoutDirection",           "RightToLeft"},
     {"btnAutorunViewDisabled",   "minimumSize",               "220 x 22"},
