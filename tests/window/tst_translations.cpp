@@ -85,6 +85,8 @@ private Q_SLOTS:
     void initTestCase();
     void everyTextIsTranslated_data() { addLanguages(); }
     void everyTextIsTranslated();
+    void fileHoldsEachTextOfTheSourcesOnce_data() { addFiles(); }
+    void fileHoldsEachTextOfTheSourcesOnce();
     void placeholdersAndBlanksAreThoseOfTheSource_data() { addLanguages(); }
     void placeholdersAndBlanksAreThoseOfTheSource();
     void markupIsThatOfTheSource_data() { addLanguages(); }
@@ -102,6 +104,7 @@ private Q_SLOTS:
 private:
     static QString folder() { return QCoreApplication::applicationDirPath() + u"/Translations/"_s; }
     static void addLanguages();
+    static void addFiles();
     void load();
     QString translated(const SourceText &source) const
     {
@@ -141,6 +144,16 @@ void TestTranslations::addLanguages()
     }
 }
 
+void TestTranslations::addFiles()
+{
+    QTest::addColumn<QString>("path");
+    const QDir folder(QStringLiteral(KESTRUNE_TRANSLATIONS));
+    for (const QFileInfo &file : folder.entryInfoList({u"*.ts"_s})) {
+        if (file.baseName() != "en"_L1)
+            QTest::newRow(qPrintable(file.baseName())) << file.filePath();
+    }
+}
+
 void TestTranslations::load()
 {
     QFETCH(QString, language);
@@ -152,6 +165,19 @@ void TestTranslations::everyTextIsTranslated()
     load();
     for (const SourceText &source : sources_)
         QVERIFY2(!translated(source).isEmpty(), qPrintable(source.context + u": "_s + source.text));
+}
+
+void TestTranslations::fileHoldsEachTextOfTheSourcesOnce()
+{
+    QFETCH(QString, path);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QSet<QString> used;
+    for (const SourceText &source : sources_)
+        used.insert(source.text);
+    for (const SourceText &held : readSourceTexts(file))
+        QVERIFY2(used.remove(held.text), qPrintable(u"superfluous, or there twice: "_s + held.text));
+    QVERIFY2(used.isEmpty(), qPrintable(u"missing: "_s + QStringList(used.values()).join(u'\n')));
 }
 
 void TestTranslations::placeholdersAndBlanksAreThoseOfTheSource()
