@@ -4,6 +4,8 @@
 #include "support/windowdriver.h"
 #include "work/settings.h"
 
+#include <QApplication>
+#include <QComboBox>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -113,6 +115,9 @@ class TestInfoPage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { systemPalette_ = QGuiApplication::palette(); }
+    void init() { QApplication::setPalette(systemPalette_); }
+
     void showingThePageHidesTheReportAndStartsTheJob();
     void reportIsBuiltByTheLastStepAlone();
     void statusTellsTheStep_data();
@@ -133,6 +138,11 @@ private Q_SLOTS:
     void secondFrenchShowingShowsTheSameDates();
     void headingsHaveTheLinkColourOfEachTheme_data();
     void headingsHaveTheLinkColourOfEachTheme();
+    void headingsFollowAChangeOfThemeBetweenTwoReports_data();
+    void headingsFollowAChangeOfThemeBetweenTwoReports();
+
+private:
+    QPalette systemPalette_; ///< before any theme
 };
 
 void TestInfoPage::showingThePageHidesTheReportAndStartsTheJob()
@@ -401,6 +411,36 @@ void TestInfoPage::headingsHaveTheLinkColourOfEachTheme()
     const QString html = report(driver)->toHtml();
     QCOMPARE(html.count(u"color:"_s + linkColor()), 6);
     QCOMPARE(html.count(u"color:#000000"_s), 0);
+}
+
+void TestInfoPage::headingsFollowAChangeOfThemeBetweenTwoReports_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<int>("chosen");
+    QTest::newRow("dark to system") << u"dark"_s << 2;
+    QTest::newRow("light to system") << u"light"_s << 2;
+    QTest::newRow("system to dark") << u"system"_s << 0;
+    QTest::newRow("system to light") << u"system"_s << 1;
+}
+
+void TestInfoPage::headingsFollowAChangeOfThemeBetweenTwoReports()
+{
+    QFETCH(const QString, first);
+    QFETCH(const int, chosen);
+    TestMachine machine;
+    openSettings()->setValue(u"palette"_s, first);
+    const WindowDriver driver;
+    fillTexts(driver);
+    finish(driver);
+    // The template that is kept from now on wears this colour.
+    const QString before = linkColor();
+    driver.window().showPage(7);
+    driver.get<QComboBox>(u"cbOptionsTheme"_s)->setCurrentIndex(chosen);
+    QVERIFY(linkColor() != before);
+    finish(driver);
+    const QString html = report(driver)->toHtml();
+    QCOMPARE(html.count(u"color:"_s + linkColor()), 6);
+    QCOMPARE(html.count(u"color:"_s + before), 0);
 }
 
 QTEST_MAIN(TestInfoPage)
