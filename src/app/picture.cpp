@@ -58,6 +58,7 @@ int main(int argc, char **argv)
         return noMachine;
     }
     Kestrune window;
+    window.screenName = u"\\\\.\\DISPLAY1"_s; // as Windows calls it; the screen here has no name
     window.show();
     settle(window);
     window.showPage(arguments.at(1).toInt());
