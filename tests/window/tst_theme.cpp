@@ -1,0 +1,318 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The themes: which one is chosen, the cells of its palette, and what each kind of widget wears.
+
+#include "support/windowdriver.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QTest>
+#include <QTextBrowser>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Windows = TestMachine::Windows;
+
+const QString themeLink = u"#ed6e56"_s;
+const QString hint = u"possible values: 'light' or 'dark' or 'system'"_s;
+
+struct Cell
+{
+    QPalette::ColorRole role;
+    const char *dark, *darkDisabled;
+    const char *light, *lightDisabled;
+};
+
+// clang-format off
+constexpr Cell cells[] = {
+    // role                     dark       disabled   light      disabled
+    {QPalette::Window,          "#232323", "#232323", "#e6e6e6", "#e6e6e6"},
+    {QPalette::WindowText,      "#ffffff", "#808080", "#000000", "#a0a0a4"},
+    {QPalette::Base,            "#2d2d2d", "#2d2d2d", "#fafafa", "#fafafa"},
+    {QPalette::AlternateBase,   "#373737", "#373737", "#dcdcdc", "#dcdcdc"},
+    {QPalette::ToolTipBase,     "#414141", "#414141", "#e6e6e6", "#e6e6e6"},
+    {QPalette::ToolTipText,     "#ffffff", "#808080", "#000000", "#a0a0a4"},
+    {QPalette::Text,            "#ffffff", "#808080", "#000000", "#a0a0a4"},
+    {QPalette::Button,          "#323232", "#323232", "#fafafa", "#dcdcdc"},
+    {QPalette::ButtonText,      "#ffffff", "#808080", "#000000", "#808080"},
+    {QPalette::BrightText,      "#ff0000", "#808080", "#ff0000", "#ff0000"},
+    {QPalette::Highlight,       "#ed6e56", "#ed6e56", "#ed6e56", "#ed6e56"},
+    {QPalette::HighlightedText, "#ffffff", "#808080", "#000000", "#a0a0a4"},
+    {QPalette::Link,            "#ed6e56", "#ed6e56", "#ed6e56", "#ed6e56"},
+    {QPalette::LinkVisited,     "#ed6e50", "#ed6e56", "#ed6e50", "#ed6e56"},
+#if QT_VERSION >= QT_VERSION_CHECK(6, 6, 0)
+    {QPalette::Accent,          "#ed6e56", "#ed6e56", "#ed6e56", "#ed6e56"},
+#endif
+    {QPalette::Shadow,          "#121212", "#121212", "#1e1e1e", "#1e1e1e"},
+    {QPalette::Dark,            "#232323", "#232323", "#c8c8c8", "#c8c8c8"},
+    {QPalette::Light,           "#414141", "#414141", "#f0f0f0", "#f0f0f0"},
+    {QPalette::Mid,             "#2d2d2d", "#2d2d2d", "#dcdcdc", "#dcdcdc"},
+    {QPalette::Midlight,        "#323232", "#323232", "#e6e6e6", "#e6e6e6"},
+};
+// clang-format on
+
+/** What each kind of widget wears in a theme. */
+struct Styles
+{
+    QString viewButton;
+    QString button;
+    QString comboBox;
+    QString checkBox;
+    QString log;
+    QString table;
+};
+
+QString viewButton(const char *background, const char *text, const char *hover)
+{
+    return u"QPushButton { background-repeat: no-repeat; background-position: center; border-radius: 6px; text-align: "
+           "center; background-color: %1; color: %2; }QPushButton:hover { background-color: %3; color: "
+           "#ed6e56;}QPushButton:selected { color: #ed6e56; }"_s.arg(QLatin1StringView(background),
+                                                                     QLatin1StringView(text), QLatin1StringView(hover));
+}
+
+QString actionButton(const char *background, const char *hover)
+{
+    return u"QPushButton { background-color: %1; border-radius: 6px; }QPushButton:hover  { background-color: %2; "
+           "border-radius: 6px; }QPushButton:selected  { background-color: %2; border-radius: 6px; }"_s.arg(
+               QLatin1StringView(background), QLatin1StringView(hover));
+}
+
+Styles lightStyles(Windows windows)
+{
+    Styles styles;
+    styles.viewButton = viewButton("#fafafa", "#000000", "#dcdcdc");
+    styles.button = actionButton("#fafafa", "#dcdcdc");
+    styles.comboBox =
+        u"QComboBox { border-radius: 6px; padding-left: 12px; background: white; color: black; }QComboBox::drop-down  "
+        "{ border: 0px; background: transparent; padding-right: 6px; }QComboBox::down-arrow  { "
+        "image:url(%1/img/dropdown.png); }QListView { background-color: #f8f8f8; border-radius: 6px; border: 1px solid "
+        "#e0e0e0; }QListView::item { padding: 2px; background: transparent; }QListView::item:hover { background-color: "
+        "#e6e6e6; border-radius: 6px; border: none; }QListView::item:selected { border-radius: 6px; "
+        "}QListView::indicator:unchecked { border-radius: 4px; border: 1px solid #c8c8c8; "
+        "}QListView::indicator:checked { border-radius: 4px; border: 1px solid #c8c8c8; background-color:#ed6e56; }"_s
+            .arg(QCoreApplication::applicationDirPath());
+    styles.checkBox = u"QCheckBox::indicator:unchecked { border-radius: 4px; border: 1px solid #c8c8c8; }"_s;
+    if (windows == Windows::Ten)
+        styles.checkBox += u"QCheckBox::indicator:checked { border-radius: 4px; border: 1px solid #c8c8c8; "
+                           "background-color:#ed6e56; }"_s;
+    styles.log = u"border-radius: 6px; border: 1px solid #dcdcdc;"_s;
+    styles.table = u"QTableView::item:selected { background-color: lightGray; selection-color: #000000; }"_s;
+    return styles;
+}
+
+Styles darkStyles()
+{
+    return {viewButton("#323232", "#ffffff", "#383838"),
+            actionButton("#323232", "#383838"),
+            {},
+            {},
+            {},
+            u"QTableView::item:selected { background-color: #232323; selection-color: #000000; }"_s};
+}
+
+Styles stylesOf(const QString &theme, Windows windows)
+{
+    if (theme == u"system"_s)
+        return {};
+    return theme == u"light"_s ? lightStyles(windows) : darkStyles();
+}
+
+template<typename Widget>
+QList<Widget *> ofPages(const WindowDriver &driver)
+{
+    return driver.get<QWidget>(u"wgtMain"_s)->findChildren<Widget *>();
+}
+
+bool isViewButton(const QPushButton *button)
+{
+    return button->objectName().endsWith(u"ViewDisabled"_s);
+}
+
+} // namespace
+
+class TestTheme : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { systemPalette_ = QGuiApplication::palette(); }
+    void init() { QApplication::setPalette(systemPalette_); }
+
+    void storedTextChoosesTheTheme_data();
+    void storedTextChoosesTheTheme();
+    void cellsOfThePalettes_data();
+    void cellsOfThePalettes();
+    void widgetsWearTheirTheme_data();
+    void widgetsWearTheirTheme();
+    void headingsAndTextsFollowThePalette_data();
+    void headingsAndTextsFollowThePalette();
+    void noThemeLeavesAllAsItIs_data();
+    void noThemeLeavesAllAsItIs();
+    void themeInForceIsPutOnAgainUnchanged();
+
+private:
+    QPalette systemPalette_; ///< before any theme
+};
+
+void TestTheme::storedTextChoosesTheTheme_data()
+{
+    QTest::addColumn<Windows>("windows");
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("then");
+    QTest::newRow("10, first start") << Windows::Ten << QString() << u"light"_s;
+    QTest::newRow("10, light") << Windows::Ten << u"light"_s << u"light"_s;
+    QTest::newRow("10, system") << Windows::Ten << u"system"_s << u"system"_s;
+    QTest::newRow("11, first start") << Windows::Eleven << QString() << u"dark"_s;
+    QTest::newRow("11, dark") << Windows::Eleven << u"dark"_s << u"dark"_s;
+    QTest::newRow("11, hint") << Windows::Eleven << hint << u"dark"_s;
+    QTest::newRow("11, light") << Windows::Eleven << u"light"_s << u"light"_s;
+    QTest::newRow("11, system") << Windows::Eleven << u"system"_s << u"system"_s;
+}
+
+void TestTheme::storedTextChoosesTheTheme()
+{
+    QFETCH(const Windows, windows);
+    QFETCH(const QString, stored);
+    QFETCH(const QString, then);
+    TestMachine machine(windows);
+    if (!stored.isNull())
+        machine.write(settingsKey, u"palette"_s, stored);
+    const WindowDriver driver;
+    QCOMPARE(machine.read(settingsKey, u"palette"_s).toString(), then);
+    const QColor systemWindow = systemPalette_.color(QPalette::Window);
+    const QColor window = then == u"dark"_s    ? QColor(35, 35, 35)
+                          : then == u"light"_s ? QColor(230, 230, 230)
+                                               : systemWindow;
+    QCOMPARE(QGuiApplication::palette().color(QPalette::Window), window);
+    // White images are for the dark theme alone.
+    QCOMPARE(driver.button(u"btnMenuTask"_s)->styleSheet().contains(u"tasks-w.png"_s), then == u"dark"_s);
+}
+
+void TestTheme::cellsOfThePalettes_data()
+{
+    QTest::addColumn<QString>("theme");
+    QTest::newRow("dark") << u"dark"_s;
+    QTest::newRow("light") << u"light"_s;
+}
+
+void TestTheme::cellsOfThePalettes()
+{
+    QFETCH(const QString, theme);
+    TestMachine machine;
+    machine.write(settingsKey, u"palette"_s, theme);
+    const WindowDriver driver;
+    const QPalette palette = QGuiApplication::palette();
+    for (const Cell &cell : cells) {
+        const bool dark = theme == u"dark"_s;
+        const QString all = QString::fromLatin1(dark ? cell.dark : cell.light);
+        QCOMPARE(palette.color(QPalette::Active, cell.role).name(), all);
+        QCOMPARE(palette.color(QPalette::Inactive, cell.role).name(), all);
+        QCOMPARE(palette.color(QPalette::Disabled, cell.role).name(),
+                 QString::fromLatin1(dark ? cell.darkDisabled : cell.lightDisabled));
+    }
+}
+
+void TestTheme::widgetsWearTheirTheme_data()
+{
+    QTest::addColumn<Windows>("windows");
+    QTest::addColumn<QString>("theme");
+    QTest::newRow("light, 10") << Windows::Ten << u"light"_s;
+    QTest::newRow("system, 10") << Windows::Ten << u"system"_s;
+    QTest::newRow("dark, 11") << Windows::Eleven << u"dark"_s;
+    QTest::newRow("light, 11") << Windows::Eleven << u"light"_s;
+    QTest::newRow("system, 11") << Windows::Eleven << u"system"_s;
+}
+
+void TestTheme::widgetsWearTheirTheme()
+{
+    QFETCH(const Windows, windows);
+    QFETCH(const QString, theme);
+    TestMachine machine(windows);
+    machine.write(settingsKey, u"palette"_s, theme);
+    const WindowDriver driver;
+    const Styles styles = stylesOf(theme, windows);
+    int viewButtons = 0;
+    for (const QPushButton *button : ofPages<QPushButton>(driver)) {
+        viewButtons += isViewButton(button) ? 1 : 0;
+        QCOMPARE(button->styleSheet(), isViewButton(button) ? styles.viewButton : styles.button);
+        QCOMPARE(button->isFlat(), isViewButton(button) || theme != u"system"_s);
+    }
+    QCOMPARE(viewButtons, 3);
+    for (const QComboBox *box : ofPages<QComboBox>(driver))
+        QCOMPARE(box->styleSheet(), styles.comboBox);
+    for (const QCheckBox *box : ofPages<QCheckBox>(driver))
+        QCOMPARE(box->styleSheet(), styles.checkBox);
+    for (const QTableWidget *table : ofPages<QTableWidget>(driver))
+        QCOMPARE(table->styleSheet(), styles.table);
+    QCOMPARE(driver.get<QWidget>(u"txtAutomatizer"_s)->styleSheet(), styles.log);
+}
+
+void TestTheme::headingsAndTextsFollowThePalette_data()
+{
+    QTest::addColumn<QString>("theme");
+    for (const char *theme : {"dark", "light", "system"})
+        QTest::newRow(theme) << QString::fromLatin1(theme);
+}
+
+void TestTheme::headingsAndTextsFollowThePalette()
+{
+    QFETCH(const QString, theme);
+    TestMachine machine;
+    machine.write(settingsKey, u"palette"_s, theme);
+    const WindowDriver driver;
+    const QString link = QGuiApplication::palette().color(QPalette::Link).name();
+    QCOMPARE(link == themeLink, theme != u"system"_s);
+    for (const char *name : {"Svc", "Task", "Package", "Autorun", "Tweak", "Home", "About", "Info", "Options"})
+        QCOMPARE(driver.get<QLabel>(u"lbl%1Top"_s.arg(QLatin1StringView(name)))->styleSheet(), u"color: "_s + link);
+    const QString window = QGuiApplication::palette().color(QPalette::Window).name();
+    for (const char *name : {"About", "Info", "Gaming011", "Gaming11", "Gaming12", "Ssd8"}) {
+        const auto *text = driver.get<QTextBrowser>(u"txt"_s + QLatin1StringView(name));
+        QCOMPARE(text->styleSheet(), u"background-color: "_s + window);
+        QVERIFY2(text->toHtml().contains(u"color:"_s + link), name);
+        QVERIFY2(!text->toHtml().contains(u"color:#000000"_s), name);
+    }
+}
+
+void TestTheme::noThemeLeavesAllAsItIs_data()
+{
+    QTest::addColumn<Windows>("windows");
+    QTest::addColumn<QString>("stored");
+    QTest::newRow("dark on 10") << Windows::Ten << u"dark"_s;
+    QTest::newRow("hint on 10") << Windows::Ten << hint;
+    QTest::newRow("unknown on 10") << Windows::Ten << u"blue"_s;
+    QTest::newRow("unknown on 11") << Windows::Eleven << u"blue"_s;
+    QTest::newRow("empty on 11") << Windows::Eleven << u""_s;
+    QTest::newRow("other case on 11") << Windows::Eleven << u"Dark"_s;
+}
+
+void TestTheme::noThemeLeavesAllAsItIs()
+{
+    QFETCH(const Windows, windows);
+    QFETCH(const QString, stored);
+    TestMachine machine(windows);
+    machine.write(settingsKey, u"palette"_s, u"light"_s);
+    const WindowDriver driver;
+    machine.write(settingsKey, u"palette"_s, stored);
+    driver.get<QLabel>(u"lblSvcTop"_s)->setStyleSheet(QString());
+    driver.window().applyPalette();
+    QCOMPARE(machine.read(settingsKey, u"palette"_s).toString(), stored);
+    QCOMPARE(QGuiApplication::palette().color(QPalette::Window), QColor(230, 230, 230));
+    QCOMPARE(driver.get<QTableWidget>(u"tblTasks"_s)->styleSheet(), lightStyles(windows).table);
+    // What is common to all themes is done all the same.
+    QCOMPARE(driver.get<QLabel>(u"lblSvcTop"_s)->styleSheet(), u"color: "_s + themeLink);
+}
+
+void TestTheme::themeInForceIsPutOnAgainUnchanged()
+{
+    TestMachine machine;
+    const WindowDriver driver;
+    const QString about = driver.get<QTextBrowser>(u"txtAbout"_s)->toHtml();
+    driver.window().applyPalette();
+    QCOMPARE(driver.get<QTextBrowser>(u"txtAbout"_s)->toHtml(), about);
+    QCOMPARE(driver.button(u"btnSvcDisable"_s)->styleSheet(), darkStyles().button);
+}
+
+QTEST_MAIN(TestTheme)
+#include "tst_theme.moc"
