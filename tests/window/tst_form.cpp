@@ -525,7 +525,6 @@ constexpr SettingRow settingRows[] = {
     {"tblAutorun",               "columnCount",               "2"},
     {"tblAutorun",               "selectionMode",             "NoSelection"},
     {"tblAutorun",               "sortingEnabled",            "false"},
-    {"tblAutorun",               "wordWrap",                  "false"}, // which would show "C:..." of a long path
     {"btnAutorunViewDisabled",   "flat",                      "true"},
     {"btnAutorunViewDisabled",   "layoutDirection",           "RightToLeft"},
     {"btnAutorunViewDisabled",   "minimumSize",               "220 x 22"},
@@ -636,6 +635,7 @@ constexpr GroupSettingRow groupSettingRows[] = {
     {"label_4 label_5 label_2 label_10 label_7 label_8", "scaledContents", "true"},
     {"tblSvc tblTasks tblAutorun tblPackages", "focusPolicy", "NoFocus"},
     {"tblSvc tblTasks tblAutorun tblPackages", "horizontalScrollMode", "ScrollPerPixel"},
+    {"tblTasks tblAutorun tblPackages", "wordWrap", "false"}, // which would show "C:..." of a long path
     {"txtGaming12 txtSsd8 txtGaming011 txtGaming11", "frameShape", "NoFrame"},
     {"txtGaming12 txtSsd8 txtGaming011 txtGaming11", "lineWidth", "0"},
     {"txtGaming12 txtSsd8 txtGaming011 txtGaming11", "verticalScrollBarPolicy", "ScrollBarAlwaysOff"},
