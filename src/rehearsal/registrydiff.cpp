@@ -5,12 +5,12 @@
 #include "registrydisplay.h"
 
 #include <array>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// HKEY_CLASSES_ROOT is a view of a key in HKEY_LOCAL_MACHINE.
 constexpr std::array hives{"HKEY_LOCAL_MACHINE"_L1, "HKEY_CURRENT_USER"_L1, "HKEY_USERS"_L1};
 
 using KeyId = RegistryStore::KeyId;
@@ -22,10 +22,11 @@ using ByName = QMap<QString, T>;
 class RegistryComparison
 {
 public:
-    RegistryComparison(const RegistryStore &before, const RegistryStore &after, QList<DiffRow> &rows)
+    RegistryComparison(const RegistryStore &before, const RegistryStore &after,
+                       const std::function<void(const RegistryDifference &)> &visit)
         : before_(before)
         , after_(after)
-        , rows_(rows)
+        , visit_(visit)
     {
     }
 
@@ -33,14 +34,16 @@ public:
     {
         const ByName<RegistryValue> valuesBefore = values(before_, before);
         const ByName<RegistryValue> valuesAfter = values(after_, after);
-        compareValues(path, valuesBefore, valuesAfter);
-
         const ByName<QString> keysBefore = subkeys(before_, before);
         const ByName<QString> keysAfter = subkeys(after_, after);
-        if (before.has_value() != after.has_value() && valuesBefore.isEmpty() && valuesAfter.isEmpty()
-            && keysBefore.isEmpty() && keysAfter.isEmpty())
-            rows_.append(
-                {DiffKind::Registry, path, QString(), before ? u"key"_s : QString(), after ? u"key"_s : QString()});
+
+        if (before.has_value() != after.has_value()) {
+            RegistryDifference difference{.key = path, .ofKey = true, .keyWasThere = before.has_value()};
+            difference.empty =
+                valuesBefore.isEmpty() && valuesAfter.isEmpty() && keysBefore.isEmpty() && keysAfter.isEmpty();
+            visit_(difference);
+        }
+        compareValues(path, valuesBefore, valuesAfter);
 
         ByName<QString> all = keysAfter;
         all.insert(keysBefore);
@@ -82,33 +85,60 @@ private:
         ByName<RegistryValue> all = after;
         all.insert(before);
         for (auto it = all.begin(); it != all.end(); ++it) {
-            const auto left = before.find(it.key());
-            const auto right = after.find(it.key());
-            DiffRow row{DiffKind::Registry, path, valueName(it.value()), QString(), QString()};
-            if (left != before.end())
-                row.before = valueText(*left);
-            if (right != after.end())
-                row.after = valueText(*right);
-            if (left != before.end() && right != after.end() && left->type == right->type && left->data == right->data)
+            RegistryDifference difference{.key = path};
+            if (const auto left = before.find(it.key()); left != before.end())
+                difference.before = *left;
+            if (const auto right = after.find(it.key()); right != after.end())
+                difference.after = *right;
+            if (difference.before && difference.after && difference.before->type == difference.after->type
+                && difference.before->data == difference.after->data)
                 continue;
-            if (row.before == row.after) {
-                row.before = rawValueText(*left);
-                row.after = rawValueText(*right);
-            }
-            rows_.append(row);
+            visit_(difference);
         }
     }
 
     const RegistryStore &before_;
     const RegistryStore &after_;
-    QList<DiffRow> &rows_;
+    const std::function<void(const RegistryDifference &)> &visit_;
 };
+
+DiffRow keyRow(const RegistryDifference &difference)
+{
+    const bool was = difference.keyWasThere;
+    return {DiffKind::Registry, difference.key, QString(), was ? u"key"_s : QString(), was ? QString() : u"key"_s};
+}
+
+DiffRow valueRow(const RegistryDifference &difference)
+{
+    const auto &[before, after] = std::tie(difference.before, difference.after);
+    DiffRow row{DiffKind::Registry, difference.key, valueName(before ? *before : *after), QString(), QString()};
+    if (before)
+        row.before = valueText(*before);
+    if (after)
+        row.after = valueText(*after);
+    if (row.before == row.after) {
+        row.before = rawValueText(*before);
+        row.after = rawValueText(*after);
+    }
+    return row;
+}
 
 } // namespace
 
-void compareRegistries(const RegistryStore &before, const RegistryStore &after, QList<DiffRow> &rows)
+void eachRegistryDifference(const RegistryStore &before, const RegistryStore &after,
+                            const std::function<void(const RegistryDifference &)> &visit)
 {
-    RegistryComparison comparison(before, after, rows);
+    RegistryComparison comparison(before, after, visit);
     for (const QLatin1StringView hive : hives)
         comparison.compare(hive, before.find(hive), after.find(hive));
+}
+
+void compareRegistries(const RegistryStore &before, const RegistryStore &after, QList<DiffRow> &rows)
+{
+    eachRegistryDifference(before, after, [&rows](const RegistryDifference &difference) {
+        if (!difference.ofKey)
+            rows.append(valueRow(difference));
+        else if (difference.empty)
+            rows.append(keyRow(difference));
+    });
 }

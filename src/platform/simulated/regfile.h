@@ -28,3 +28,5 @@ void applyRegistryScript(Database &database, RegistryStore &store, const QList<R
  * gives a script without keys.
  */
 QString writeRegistryScript(const RegistryStore &store, const QString &keyPath);
+/** Edits as a script of version 5.00: text with LF line ends, in the given order. */
+QString writeRegistryEdits(const QList<RegistryEdit> &edits);

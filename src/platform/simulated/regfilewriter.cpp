@@ -9,6 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto scriptHead = "Windows Registry Editor Version 5.00\n"_L1;
 constexpr qsizetype lineWidth = 77; // of the registry editor, before the comma and the backslash at a line's end
 
 QString quoted(const QString &text)
@@ -42,9 +43,15 @@ QString bytesText(const QString &start, const QByteArray &data)
     return lines + line;
 }
 
+/** The name and the sign behind it, with which each line of a value begins. */
+QString lineStart(const RegistryValue &value)
+{
+    return (value.name.isEmpty() ? u"@"_s : quoted(value.name)) + u'=';
+}
+
 QString valueLine(const RegistryValue &value)
 {
-    const QString start = (value.name.isEmpty() ? u"@"_s : quoted(value.name)) + u'=';
+    const QString start = lineStart(value);
     if (isPlainText(value))
         return start + quoted(textOf(value.data));
     if (value.type == RegistryType::DWord && value.data.size() == 4) {
@@ -70,9 +77,32 @@ void writeKey(const RegistryStore &store, RegistryStore::KeyId key, const QStrin
 
 } // namespace
 
+QString writeRegistryEdits(const QList<RegistryEdit> &edits)
+{
+    using Kind = RegistryEdit::Kind;
+
+    QString script = scriptHead;
+    QString section; // the key whose values are being written
+    for (const RegistryEdit &edit : edits) {
+        if (edit.kind == Kind::RemoveKey) {
+            script += u"\n[-"_s + edit.key + u"]\n"_s;
+            section.clear();
+            continue;
+        }
+        if (edit.key != section)
+            script += u"\n["_s + edit.key + u"]\n"_s;
+        section = edit.key;
+        if (edit.kind == Kind::SetValue)
+            script += valueLine(edit.value) + u'\n';
+        else if (edit.kind == Kind::RemoveValue)
+            script += lineStart(edit.value) + u"-\n"_s;
+    }
+    return script;
+}
+
 QString writeRegistryScript(const RegistryStore &store, const QString &keyPath)
 {
-    QString script = u"Windows Registry Editor Version 5.00\n"_s;
+    QString script = scriptHead;
     if (const std::optional<RegistryStore::KeyId> key = store.find(keyPath))
         writeKey(store, *key, store.path(*key), script);
     return script;
