@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "machinecopy.h"
+
+#include "platform/simulated/database.h"
+#include "platform/simulated/filehole.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+[[noreturn]] void fail(const QFileDevice &file)
+{
+    throw MachineError{u"%1: %2"_s.arg(QDir::toNativeSeparators(file.fileName()), file.errorString())};
+}
+
+void makeFolder(const QString &folder)
+{
+    if (!QDir().mkpath(folder))
+        throw MachineError{u"%1: the folder can't be made"_s.arg(QDir::toNativeSeparators(folder))};
+}
+
+/** Copies a file's content; what is a hole, or reads as one, becomes a hole. */
+void copyFile(const QString &from, const QString &to)
+{
+    constexpr qint64 blockSize = 64 * 1024;
+
+    QFile source(from);
+    QFile copy(to);
+    if (!source.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        fail(source);
+    if (!copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !copy.resize(source.size()))
+        fail(copy);
+    const QByteArray zeros(blockSize, 0);
+    for (qint64 offset = nextData(source, 0); offset < source.size(); offset = nextData(source, offset)) {
+        if (!source.seek(offset))
+            fail(source);
+        const QByteArray block = source.read(blockSize);
+        if (block.isEmpty())
+            fail(source);
+        if (block != zeros.first(block.size()) && (!copy.seek(offset) || copy.write(block) != block.size()))
+            fail(copy);
+        offset += block.size();
+    }
+}
+
+void copyLink(const QString &from, const QString &to)
+{
+    QFile link(from);
+    if (!QFile::link(link.symLinkTarget(), to))
+        fail(link);
+}
+
+void copyTree(const QString &from, const QString &to)
+{
+    makeFolder(to);
+    QDirIterator walk(from, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                      QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        const QString path = walk.next();
+        const QString place = to + path.mid(from.size());
+        if (walk.fileInfo().isSymLink())
+            copyLink(path, place);
+        else if (walk.fileInfo().isDir())
+            makeFolder(place);
+        else
+            copyFile(path, place);
+    }
+}
+
+} // namespace
+
+void copyMachine(const Machine &source, const QString &folder)
+{
+    makeFolder(folder);
+    // A snapshot, whatever other processes write meanwhile.
+    source.database().query("VACUUM INTO ?").bind(folder + u"/machine.sqlite"_s).run();
+    const QDir machine(source.folder());
+    const QStringList tops = machine.entryList({u"drive_*"_s, u"program"_s}, QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &top : tops)
+        copyTree(machine.filePath(top), folder + u'/' + top);
+}
