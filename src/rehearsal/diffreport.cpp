@@ -2,6 +2,8 @@
 
 #include "diffreport.h"
 
+#include "webpage.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMap>
@@ -16,38 +18,6 @@ QString fullPath(const DiffRow &row)
 {
     return row.name.isEmpty() ? row.path : row.path + u'\\' + row.name;
 }
-
-constexpr QLatin1StringView pageStart = R"(<!DOCTYPE html>
-<html lang="en">
-<head>
-<meta charset="utf-8">
-<meta name="viewport" content="width=device-width, initial-scale=1">
-<title>What differs</title>
-<style>
-:root { color-scheme: light dark; --page: #ffffff; --text: #1d2127; --faint: #5c6570; --line: #d8dde3; --head: #f3f5f7;
-        --gone: #a4262c; --new: #1b6e2d; }
-@media (prefers-color-scheme: dark) {
-  :root { --page: #16191d; --text: #e4e7ea; --faint: #9aa4af; --line: #333a42; --head: #20252b;
-          --gone: #f1868b; --new: #79cf8b; }
-}
-body { background: var(--page); color: var(--text); font: 15px/1.45 system-ui, sans-serif; margin: 2rem auto;
-       max-width: 80rem; padding: 0 1rem; }
-h1 { font-size: 1.5rem; margin-bottom: .2rem; }
-h2 { font-size: 1.1rem; margin: 2rem 0 .5rem; }
-p { color: var(--faint); margin: 0; }
-table { border-collapse: collapse; width: 100%; }
-th, td { border-bottom: 1px solid var(--line); padding: .35rem .6rem; text-align: left; vertical-align: top;
-         overflow-wrap: anywhere; }
-th { background: var(--head); font-weight: 600; }
-td { font-family: ui-monospace, monospace; font-size: 13px; }
-td:nth-child(1) { width: 56%; }
-.gone { color: var(--gone); }
-.new { color: var(--new); }
-.none { color: var(--faint); }
-</style>
-</head>
-<body>
-)"_L1;
 
 struct KindRow
 {
@@ -135,12 +105,12 @@ QByteArray diffJson(const QList<DiffRow> &rows)
 
 QString diffHtml(const QList<DiffRow> &rows, const QString &before, const QString &after)
 {
-    QString page = pageStart;
+    QString page = pageStart(u"What differs"_s);
     page +=
         u"<h1>What differs</h1>\n<p>before: %1<br>after: %2</p>\n"_s.arg(before.toHtmlEscaped(), after.toHtmlEscaped());
     for (const KindRow &kind : kindRows)
         page += section(kind, rows);
     if (rows.isEmpty())
         page += u"<h2>Nothing differs.</h2>\n"_s;
-    return page + u"</body>\n</html>\n"_s;
+    return page + pageEnd();
 }

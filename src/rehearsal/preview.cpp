@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "preview.h"
+
+#include "previewwords.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Place = std::tuple<DiffKind, QString, QString>;
+
+struct ThreeSides
+{
+    DiffRow row; ///< its sides are those of the machine and of the optimized copy
+    QString restored;
+    bool isOptimized = false; ///< the optimization changes it
+    bool isRestored = true;   ///< after the restoration it is as before
+};
+
+Place placeOf(const DiffRow &row)
+{
+    return {row.kind, foldName(row.path), foldName(row.name)};
+}
+
+QMap<Place, ThreeSides> threeSides(const QList<DiffRow> &optimized, const QList<DiffRow> &restored)
+{
+    QMap<Place, ThreeSides> result;
+    for (const DiffRow &row : optimized)
+        result.insert(placeOf(row), {row, row.before, true, true});
+    for (const DiffRow &row : restored) {
+        ThreeSides &sides = result[placeOf(row)];
+        if (!sides.isOptimized) {
+            sides.row = row;
+            sides.row.after = row.before;
+        }
+        sides.restored = row.after;
+        sides.isRestored = false;
+    }
+    return result;
+}
+
+Return returnOf(const ThreeSides &sides)
+{
+    if (!sides.isOptimized)
+        return Return::Unasked;
+    if (sides.isRestored)
+        return Return::Exactly;
+    return sides.restored == sides.row.after ? Return::NotAtAll : Return::Otherwise;
+}
+
+bool isBefore(const PreviewItem &left, const PreviewItem &right)
+{
+    if (left.group != right.group)
+        return left.group < right.group;
+    return left.title.compare(right.title, Qt::CaseInsensitive) < 0;
+}
+
+} // namespace
+
+Return PreviewItem::comesBack() const
+{
+    // From the best to the worst.
+    static constexpr Return order[] = {Return::Exactly, Return::Otherwise, Return::Unasked, Return::NotAtAll};
+    const auto rank = [](Return value) { return std::find(std::begin(order), std::end(order), value); };
+    Return worst = Return::Exactly;
+    for (const PreviewDetail &detail : details)
+        worst = rank(detail.comesBack) > rank(worst) ? detail.comesBack : worst;
+    return worst;
+}
+
+QList<PreviewItem> previewItems(Machine &before, Machine &optimized, Machine &restored,
+                                const ProgressCallback &progress)
+{
+    const auto sides =
+        threeSides(compareMachines(before, optimized, progress), compareMachines(before, restored, progress));
+    QMap<QString, PreviewItem> items;
+    for (const ThreeSides &three : sides) {
+        const PreviewWords words = previewWords(before, optimized, three.row);
+        PreviewItem &item = items[QString::number(static_cast<int>(words.group)) + words.item];
+        item.group = words.group;
+        item.title = words.title;
+        item.name = words.name;
+        item.details.append({words.detail, three.row.before, three.row.after, three.restored, returnOf(three)});
+    }
+    QList<PreviewItem> list = items.values();
+    std::stable_sort(list.begin(), list.end(), isBefore);
+    return list;
+}
+
+QString groupTitle(PreviewGroup group)
+{
+    switch (group) {
+    case PreviewGroup::Services:
+        return u"Services"_s;
+    case PreviewGroup::Tasks:
+        return u"Scheduled tasks"_s;
+    case PreviewGroup::Packages:
+        return u"Windows applications"_s;
+    case PreviewGroup::Autorun:
+        return u"Programs started at logon"_s;
+    case PreviewGroup::Features:
+        return u"System options"_s;
+    case PreviewGroup::Files:
+        return u"Files"_s;
+    case PreviewGroup::Registry:
+        return u"Other registry values"_s;
+    case PreviewGroup::Records:
+        return u"Kestrune's own records"_s;
+    }
+    return QString();
+}
+
+QString returnText(Return comesBack)
+{
+    switch (comesBack) {
+    case Return::Exactly:
+        return u"comes back exactly"_s;
+    case Return::Otherwise:
+        return u"comes back as a default, not as it was"_s;
+    case Return::NotAtAll:
+        return u"doesn't come back"_s;
+    case Return::Unasked:
+        return u"changed by the restoration alone"_s;
+    }
+    return QString();
+}

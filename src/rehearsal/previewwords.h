@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a person calls the thing that a row of a comparison belongs to.
+
+#pragma once
+
+#include "preview.h"
+
+/** The item that a change belongs to, and the change itself, in words. */
+struct PreviewWords
+{
+    PreviewGroup group = PreviewGroup::Registry;
+    QString item;   ///< tells items of a group apart
+    QString title;  ///< of the item
+    QString name;   ///< of the item, as the system has it
+    QString detail; ///< which of the item's values this is
+};
+
+/** Names come from the machine as it was, or from the optimized one where it has more. */
+PreviewWords previewWords(Machine &before, Machine &optimized, const DiffRow &row);
