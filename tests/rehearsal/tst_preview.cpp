@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Previews: items from three machines, and their reports.
+
+#include "smallmachine.h"
+
+#include "rehearsal/previewreport.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString servicesKey = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s;
+const QString runKey = u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
+const QString otherKey = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Other"_s;
+
+void setNumber(Machine &machine, const QString &key, const QString &name, quint32 value)
+{
+    RegistryStore &store = machine.registry();
+    store.setValue(*store.make(key), {name, RegistryType::DWord, registryDWord(value)});
+}
+
+void setText(Machine &machine, const QString &key, const QString &name, const QString &value)
+{
+    RegistryStore &store = machine.registry();
+    store.setValue(*store.make(key), {name, RegistryType::String, registryText(value)});
+}
+
+/** A machine, what an optimization made of it, and what a restoration made of that. */
+struct Three
+{
+    SmallMachine before;
+    SmallMachine optimized;
+    SmallMachine restored;
+
+    template<typename Change>
+    void everywhere(Change change)
+    {
+        for (SmallMachine *machine : {&before, &optimized, &restored})
+            change(**machine);
+    }
+    QList<PreviewItem> items() { return previewItems(*before, *optimized, *restored); }
+};
+
+PreviewItem onlyItem(const QList<PreviewItem> &items)
+{
+    return items.size() == 1 ? items.first() : PreviewItem();
+}
+
+} // namespace
+
+class TestPreview : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nothingChanges();
+    void whatComesBack_data();
+    void whatComesBack();
+    void worstOfTheDetailsIsTheItems();
+    void serviceIsOneItemWithItsDisplayName();
+    void programAtLogonIsCalledByItsValue();
+    void ownRecordsStandApartAndDoNotCount();
+    void sortedByGroupAndTitle();
+    void textTellsCountsAndSides();
+    void jsonHoldsEverything();
+    void pageIsEscapedAndNeedsNothingElse();
+};
+
+void TestPreview::nothingChanges()
+{
+    Three three;
+    QVERIFY(three.items().isEmpty());
+    QVERIFY(previewHtml({}, u"pc"_s).contains(u"Nothing would change."_s));
+}
+
+void TestPreview::whatComesBack_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("optimized");
+    QTest::addColumn<int>("restored");
+    QTest::addColumn<Return>("expected");
+
+    constexpr int absent = -1;
+    QTest::newRow("as it was") << 1 << 2 << 1 << Return::Exactly;
+    QTest::newRow("gone again") << absent << 2 << absent << Return::Exactly;
+    QTest::newRow("a default") << 1 << 2 << 3 << Return::Otherwise;
+    QTest::newRow("a default where nothing was") << absent << 2 << 3 << Return::Otherwise;
+    QTest::newRow("deleted where something was") << 1 << 2 << absent << Return::Otherwise;
+    QTest::newRow("stays changed") << 1 << 2 << 2 << Return::NotAtAll;
+    QTest::newRow("stays away") << 1 << absent << absent << Return::NotAtAll;
+    QTest::newRow("only restored") << 1 << 1 << 3 << Return::Unasked;
+    QTest::newRow("only restored where nothing was") << absent << absent << 3 << Return::Unasked;
+}
+
+void TestPreview::whatComesBack()
+{
+    QFETCH(int, before);
+    QFETCH(int, optimized);
+    QFETCH(int, restored);
+    QFETCH(Return, expected);
+    Three three;
+    const auto set = [](Machine &machine, int value) {
+        machine.registry().make(otherKey);
+        if (value >= 0)
+            setNumber(machine, otherKey, u"value"_s, static_cast<quint32>(value));
+    };
+    set(*three.before, before);
+    set(*three.optimized, optimized);
+    set(*three.restored, restored);
+
+    const QList<PreviewItem> items = three.items();
+    QCOMPARE(items.size(), 1);
+    QCOMPARE(items.first().details.size(), 1);
+    QCOMPARE(items.first().comesBack(), expected);
+    const auto text = [](int value) { return value < 0 ? QString() : u"dword %1"_s.arg(value); };
+    QCOMPARE(items.first().details.first().before, text(before));
+    QCOMPARE(items.first().details.first().optimized, text(optimized));
+    QCOMPARE(items.first().details.first().restored, text(restored));
+}
+
+void TestPreview::worstOfTheDetailsIsTheItems()
+{
+    PreviewItem item;
+    QCOMPARE(item.comesBack(), Return::Exactly);
+    const auto with = [&item](Return value) {
+        item.details.append(PreviewDetail{{}, {}, {}, {}, value});
+        return item.comesBack();
+    };
+    QCOMPARE(with(Return::Exactly), Return::Exactly);
+    QCOMPARE(with(Return::Otherwise), Return::Otherwise);
+    QCOMPARE(with(Return::Unasked), Return::Unasked);
+    QCOMPARE(with(Return::Exactly), Return::Unasked);
+    QCOMPARE(with(Return::NotAtAll), Return::NotAtAll);
+    QCOMPARE(with(Return::Otherwise), Return::NotAtAll);
+}
+
+void TestPreview::serviceIsOneItemWithItsDisplayName()
+{
+    Three three;
+    three.everywhere([](Machine &machine) {
+        setText(machine, servicesKey + u"Sample"_s, u"DisplayName"_s, u"A sample"_s);
+        setNumber(machine, servicesKey + u"Sample"_s, u"Start"_s, 2);
+        machine.setRunning(u"Sample"_s, true);
+    });
+    setNumber(*three.optimized, servicesKey + u"Sample"_s, u"Start"_s, 4);
+    three.optimized->setRunning(u"Sample"_s, false);
+
+    const PreviewItem item = onlyItem(three.items());
+    QCOMPARE(item.group, PreviewGroup::Services);
+    QCOMPARE(item.title, u"A sample"_s);
+    QCOMPARE(item.name, u"Sample"_s);
+    QCOMPARE(item.details.size(), 2);
+}
+
+void TestPreview::programAtLogonIsCalledByItsValue()
+{
+    Three three;
+    three.everywhere([](Machine &machine) { setText(machine, runKey, u"Chat"_s, u"\"C:\\chat.exe\""_s); });
+    three.optimized->registry().removeValue(*three.optimized->registry().find(runKey), u"Chat"_s);
+
+    const PreviewItem item = onlyItem(three.items());
+    QCOMPARE(item.group, PreviewGroup::Autorun);
+    QCOMPARE(item.title, u"Chat"_s);
+    QCOMPARE(item.comesBack(), Return::Exactly);
+}
+
+void TestPreview::ownRecordsStandApartAndDoNotCount()
+{
+    Three three;
+    setNumber(*three.optimized, u"HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale"_s, u"optimized"_s, 1);
+
+    const QList<PreviewItem> items = three.items();
+    QCOMPARE(onlyItem(items).group, PreviewGroup::Records);
+    QVERIFY(previewText(items).startsWith(u"    0 come back exactly\n"_s));
+}
+
+void TestPreview::sortedByGroupAndTitle()
+{
+    Three three;
+    setNumber(*three.optimized, otherKey, u"x"_s, 1);
+    setNumber(*three.optimized, servicesKey + u"zeta"_s, u"Start"_s, 4);
+    setNumber(*three.optimized, servicesKey + u"Alpha"_s, u"Start"_s, 4);
+
+    QStringList titles;
+    for (const PreviewItem &item : three.items())
+        titles.append(item.title);
+    QCOMPARE(titles, QStringList({u"Alpha"_s, u"zeta"_s, otherKey}));
+}
+
+void TestPreview::textTellsCountsAndSides()
+{
+    Three three;
+    three.everywhere([](Machine &machine) { setNumber(machine, otherKey, u"x"_s, 1); });
+    setNumber(*three.optimized, otherKey, u"x"_s, 2);
+    setNumber(*three.restored, otherKey, u"x"_s, 3);
+
+    const QString text = previewText(three.items());
+    QVERIFY2(text.contains(u"    1 come back as a default\n"_s), qPrintable(text));
+    QVERIFY2(text.contains(u"x: dword 1 -> dword 2 -> dword 3\n"_s), qPrintable(text));
+}
+
+void TestPreview::jsonHoldsEverything()
+{
+    Three three;
+    setNumber(*three.optimized, otherKey, u"x"_s, 2);
+    setNumber(*three.restored, otherKey, u"x"_s, 2);
+
+    const QJsonObject json = QJsonDocument::fromJson(previewJson(three.items())).object();
+    QCOMPARE(json[u"counts"_s][u"not-at-all"_s].toInt(), 1);
+    const QJsonObject item = json[u"items"_s].toArray().at(0).toObject();
+    QCOMPARE(item[u"comesBack"_s].toString(), u"not-at-all"_s);
+    const QJsonObject detail = item[u"details"_s].toArray().at(0).toObject();
+    QVERIFY(detail[u"before"_s].isNull());
+    QCOMPARE(detail[u"optimized"_s].toString(), u"dword 2"_s);
+}
+
+void TestPreview::pageIsEscapedAndNeedsNothingElse()
+{
+    Three three;
+    setText(*three.optimized, otherKey, u"<b>&"_s, u"<script>alert(1)</script>"_s);
+
+    const QString page = previewHtml(three.items(), u"pc <1>"_s);
+    QVERIFY(page.contains(u"&lt;script&gt;alert(1)"_s));
+    QVERIFY(!page.contains(u"<script>alert"_s));
+    QVERIFY(page.contains(u"pc &lt;1&gt;"_s));
+    for (const QString &outside : {u"http:"_s, u"https:"_s, u"src="_s, u"@import"_s, u"<link"_s})
+        QVERIFY2(!page.contains(outside), qPrintable(outside));
+}
+
+QTEST_GUILESS_MAIN(TestPreview)
+#include "tst_preview.moc"
