@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Saves a picture of one page of the window on a rehearsal machine:
-// kestrune-picture DIR PAGE FILE [BUTTON] [--not-elevated]
+// Saves pictures of pages of the window on a rehearsal machine: kestrune-picture DIR PAGE[:BUTTON] FILE...
 // With a button's object name it is clicked first, and its job is waited for.
 
 #include "platform/simulated/simulatedplatform.h"
@@ -12,6 +11,9 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int cannotWrite = 1;
+constexpr int badArguments = 2;
 
 bool isIdle(const Kestrune &window)
 {
@@ -33,26 +35,54 @@ void settle(const Kestrune &window)
     }
 }
 
+/** Shows "PAGE" or "PAGE:BUTTON"; false where the window has no such button. */
+bool show(Kestrune &window, const QString &what)
+{
+    window.showPage(what.section(u':', 0, 0).toInt());
+    settle(window);
+    const QString name = what.section(u':', 1);
+    if (name.isEmpty())
+        return true;
+    auto *button = window.findChild<QPushButton *>(name);
+    if (button == nullptr)
+        return false;
+    button->click();
+    settle(window);
+    return true;
+}
+
+/** Saves what the arguments name, in pairs of page and file. */
+int savePictures(Kestrune &window, const QStringList &pairs)
+{
+    for (qsizetype i = 0; i < pairs.size(); i += 2) {
+        if (!show(window, pairs.at(i))) {
+            qCritical("kestrune-picture: %s: there is no such button", qUtf8Printable(pairs.at(i)));
+            return badArguments;
+        }
+        if (!window.grab().save(pairs.at(i + 1))) {
+            qCritical("kestrune-picture: %s: can't be written", qUtf8Printable(pairs.at(i + 1)));
+            return cannotWrite;
+        }
+    }
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
-    constexpr int badArguments = 2;
     constexpr int noMachine = 3;
 
     QApplication application(argc, argv);
-    QStringList arguments = QCoreApplication::arguments().sliced(1);
-    const bool elevated = !arguments.removeOne(u"--not-elevated"_s);
-    if (arguments.size() != 3 && arguments.size() != 4) {
-        qCritical("Usage: kestrune-picture DIR PAGE FILE [BUTTON] [--not-elevated]");
+    const QStringList arguments = QCoreApplication::arguments().sliced(1);
+    if (arguments.size() < 3 || arguments.size() % 2 == 0) {
+        qCritical("Usage: kestrune-picture DIR PAGE[:BUTTON] FILE [PAGE[:BUTTON] FILE]...");
         return badArguments;
     }
     QCoreApplication::setApplicationVersion(u"0.3.14"_s);
     useStandInFonts();
     try {
-        SimulatedOptions options;
-        options.elevated = elevated;
-        setPlatform(std::make_unique<SimulatedPlatform>(arguments.at(0), options));
+        setPlatform(std::make_unique<SimulatedPlatform>(arguments.first(), SimulatedOptions()));
     } catch (const MachineError &error) {
         qCritical("kestrune-picture: %s", qUtf8Printable(error.message));
         return noMachine;
@@ -61,16 +91,5 @@ int main(int argc, char **argv)
     window.screenName = u"\\\\.\\DISPLAY1"_s; // as Windows calls it; the screen here has no name
     window.show();
     settle(window);
-    window.showPage(arguments.at(1).toInt());
-    settle(window);
-    if (arguments.size() == 4) {
-        auto *button = window.findChild<QPushButton *>(arguments.at(3));
-        if (button == nullptr) {
-            qCritical("kestrune-picture: the window has no button %s", qUtf8Printable(arguments.at(3)));
-            return badArguments;
-        }
-        button->click();
-        settle(window);
-    }
-    return window.grab().save(arguments.at(2)) ? 0 : 1;
+    return savePictures(window, arguments.sliced(1));
 }

@@ -16,7 +16,7 @@ constexpr auto program = "kestrune-rehearse"_L1;
 
 constexpr const Subcommand *subcommands[] = {
     &newSubcommand,    &listSubcommand, &runSubcommand, &importSubcommand,
-    &exportSubcommand, &diffSubcommand, &guiSubcommand,
+    &exportSubcommand, &diffSubcommand, &guiSubcommand, &tourSubcommand,
 };
 
 QString optionsOf(const Subcommand &subcommand)
