@@ -15,8 +15,8 @@ namespace {
 constexpr auto program = "kestrune-rehearse"_L1;
 
 constexpr const Subcommand *subcommands[] = {
-    &newSubcommand,    &listSubcommand, &runSubcommand, &importSubcommand,
-    &exportSubcommand, &diffSubcommand, &guiSubcommand, &tourSubcommand,
+    &newSubcommand,  &listSubcommand, &runSubcommand,     &importSubcommand, &exportSubcommand,
+    &diffSubcommand, &guiSubcommand,  &previewSubcommand, &tourSubcommand,
 };
 
 QString optionsOf(const Subcommand &subcommand)

@@ -3,7 +3,7 @@
 
 #include "smallmachine.h"
 
-#include "rehearsal/previewreport.h"
+#include "rehearsal/preview/previewreport.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

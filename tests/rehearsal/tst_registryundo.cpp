@@ -4,7 +4,7 @@
 #include "smallmachine.h"
 
 #include "rehearsal/machinediff.h"
-#include "rehearsal/registryundo.h"
+#include "rehearsal/preview/registryundo.h"
 
 #include <QTest>
 

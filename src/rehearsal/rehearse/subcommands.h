@@ -37,6 +37,7 @@ extern const Subcommand importSubcommand;
 extern const Subcommand exportSubcommand;
 extern const Subcommand diffSubcommand;
 extern const Subcommand guiSubcommand;
+extern const Subcommand previewSubcommand;
 extern const Subcommand tourSubcommand;
 
 /** Opens a machine; a Failure of code 3 where that can't be done. */

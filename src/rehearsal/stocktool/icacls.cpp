@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// icacls: grants a user rights to a file, and takes all that was granted back.
+// icacls: grants a user rights to a file, takes all that was granted back, and gives a file to an owner.
 
 #include "rehearsal/consolecodepage.h"
 #include "tools.h"
@@ -16,11 +16,15 @@ constexpr int exitFileNotFound = 2;
 constexpr int exitAccessDenied = 5;
 constexpr int exitInvalidParameter = 87;
 
+/** Who owns the files of Windows; a file of that owner is as it was installed. */
+constexpr auto installationOwner = "NT SERVICE\\TrustedInstaller"_L1;
+
 /** What the arguments ask for. */
 struct Request
 {
     QString file;
     QString grant{}; ///< "DOMAIN\user:F"; empty: all grants go
+    QString owner{}; ///< of /setowner, which leaves the rights alone
 };
 
 /** A text instead of the request is the argument that isn't understood. */
@@ -33,6 +37,8 @@ std::optional<Request> parse(const QStringList &arguments, QString &misunderstoo
         misunderstood = arguments.at(i);
         if ((option == "/grant:r"_L1 || option == "/grant"_L1) && !hasVerb && arguments.value(i + 1).contains(u':'))
             request.grant = arguments.at(++i);
+        else if (option == "/setowner"_L1 && !hasVerb && !arguments.value(i + 1).isEmpty())
+            request.owner = arguments.at(++i);
         else if (option == "/l"_L1 || option == "/q"_L1 || option == "/c"_L1)
             continue;
         else if (option != "/reset"_L1 || hasVerb)
@@ -63,7 +69,10 @@ ToolResult runIcacls(ToolHost &host, const QStringList &arguments)
     if (!host.isElevated())
         return summary(exitAccessDenied, request->file + u": Access is denied.\r\n"_s);
     FileSecurity security = host.security(request->file);
-    security.rights = request->grant;
+    if (request->owner.isEmpty())
+        security.rights = request->grant;
+    else
+        security.owner = request->owner == installationOwner ? QString() : request->owner;
     host.setSecurity(request->file, security);
     return summary(0, u"processed file: %1\r\n"_s.arg(request->file));
 }

@@ -2,8 +2,9 @@
 
 #include "previewwords.h"
 
-#include "resourcetext.h"
-#include "taskdocument.h"
+#include "featurewords.h"
+#include "rehearsal/resourcetext.h"
+#include "rehearsal/taskdocument.h"
 
 using namespace Qt::StringLiterals;
 
@@ -93,6 +94,8 @@ PreviewWords fileWords(const DiffRow &row)
 
 PreviewWords previewWords(Machine &before, Machine &optimized, const DiffRow &row)
 {
+    if (const QString feature = featureWords(row); !feature.isEmpty())
+        return {PreviewGroup::Features, feature, feature, {}, valuePath(row)};
     switch (row.kind) {
     case DiffKind::Service:
         return serviceWords(before, row.path, u"state"_s);
@@ -102,7 +105,10 @@ PreviewWords previewWords(Machine &before, Machine &optimized, const DiffRow &ro
         return registryWords(before, row);
     case DiffKind::File:
     case DiffKind::Attribute:
+    case DiffKind::Security:
         return fileWords(row);
+    case DiffKind::BootOption:
+        return {PreviewGroup::Registry, foldName(row.path), u"Boot option "_s + row.path, {}, u"boot"_s};
     }
     return {};
 }

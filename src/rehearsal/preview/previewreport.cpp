@@ -2,7 +2,7 @@
 
 #include "previewreport.h"
 
-#include "webpage.h"
+#include "rehearsal/webpage.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -2,7 +2,7 @@
 
 #include "registryundo.h"
 
-#include "registrydiff.h"
+#include "rehearsal/registrydiff.h"
 
 QList<RegistryEdit> registryUndo(const RegistryStore &before, const RegistryStore &after)
 {

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "machinediff.h"
+#include "rehearsal/machinediff.h"
 
 /** What a restoration leaves of a change. */
 enum class Return {

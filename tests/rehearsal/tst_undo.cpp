@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// kestrune-rehearse preview and its way back: applied to the optimized copy, it gives the machine before.
+
+#include "smallmachine.h"
+#include "toolrun.h"
+
+#include "rehearsal/machinecopy.h"
+#include "rehearsal/machinediff.h"
+#include "rehearsal/preview/undo.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QStringDecoder>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Result
+{
+    int code = -1;
+    QString output;
+    QString errors;
+};
+
+Result rehearse(const QStringList &arguments)
+{
+    constexpr int patience = 120000; // milliseconds
+    QProcess process;
+    process.start(builtProgram(u"kestrune-rehearse"_s), arguments);
+    if (!process.waitForFinished(patience))
+        return {};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+/** The command line's words, as the system's programs take them apart. */
+QStringList words(const QString &command)
+{
+    QStringList result;
+    QString word;
+    bool inQuotes = false;
+    bool any = false;
+    for (qsizetype i = 0; i < command.size(); ++i) {
+        const QChar letter = command.at(i);
+        if (letter == u'\\' && i + 1 < command.size() && command.at(i + 1) == u'"') {
+            word += command.at(++i);
+        } else if (letter == u'"') {
+            inQuotes = !inQuotes;
+            any = true;
+        } else if (letter == u' ' && !inQuotes) {
+            if (any || !word.isEmpty())
+                result.append(word);
+            word.clear();
+            any = false;
+        } else {
+            word += letter;
+        }
+    }
+    if (any || !word.isEmpty())
+        result.append(word);
+    return result;
+}
+
+quint32 changedAttributes(quint32 word, const QStringList &switches)
+{
+    static const QMap<QChar, quint32> bits{{u'r', 0x1}, {u'h', 0x2}, {u's', 0x4}, {u'a', 0x20}, {u'i', 0x2000}};
+    for (const QString &entry : switches) {
+        const quint32 bit = bits.value(entry.at(1));
+        word = entry.startsWith(u'+') ? word | bit : word & ~bit;
+    }
+    return word;
+}
+
+/** What the command prompt does itself; everything else is a tool of the machine. */
+bool runBuiltIn(Machine &machine, const QStringList &words, const QString &folder)
+{
+    const QString host = machine.hostPath(words.value(1));
+    if (words.first() == "ren"_L1)
+        return QFile::rename(host, QFileInfo(host).path() + u'/' + words.at(2));
+    if (words.first() == "del"_L1)
+        return QFile::remove(machine.hostPath(words.at(2)));
+    if (words.first() == "rd"_L1)
+        return QDir().rmdir(host);
+    if (words.first() == "md"_L1)
+        return QDir().mkpath(host);
+    if (words.first() == "copy"_L1) {
+        const QString target = machine.hostPath(words.at(3));
+        QFile::remove(target);
+        return QFile::copy(folder + u'/' + QString(words.at(2)).replace(u'\\', u'/'), target);
+    }
+    if (words.first() == "attrib"_L1) {
+        const quint32 word = machine.attributes(words.last());
+        machine.setAttributes(words.last(), changedAttributes(word, words.mid(1, words.size() - 2)));
+        return true;
+    }
+    return false;
+}
+
+/** Runs a tool of the machine, which is in its environment. */
+int runTool(const Machine &machine, const QStringList &words)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    const QMap<QString, QString> variables = machine.environment();
+    for (auto it = variables.begin(); it != variables.end(); ++it)
+        environment.insert(it.key(), it.value());
+    environment.insert(u"KESTRUNE_MACHINE"_s, machine.folder());
+    environment.insert(u"KESTRUNE_ELEVATED"_s, u"1"_s);
+    process.setProcessEnvironment(environment);
+    const QString name = words.first().section(u'\\', -1).section(u'.', 0, 0).toLower();
+    process.start(machine.toolsFolder() + u'/' + name, words.mid(1));
+    process.waitForFinished();
+    return process.exitCode();
+}
+
+} // namespace
+
+class TestUndo : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void previewLeavesTheMachineAlone();
+    void previewTellsOfEveryGroup();
+    void undoGivesTheMachineBefore_data();
+    void undoGivesTheMachineBefore();
+    void scriptIsInTheFormOfTheRegistryEditor();
+    void nothingToOptimize();
+    void badMachineIsTold();
+
+private:
+    QTemporaryDir folder_;
+    QString make(const QString &builtIn);
+};
+
+QString TestUndo::make(const QString &builtIn)
+{
+    const QString path = folder_.filePath(u"pc-%1-%2"_s.arg(builtIn, QLatin1StringView(QTest::currentTestFunction())));
+    makeMachine(path, QCoreApplication::applicationDirPath() + u"/machines/"_s + builtIn, Existing::Replace);
+    return path;
+}
+
+void TestUndo::previewLeavesTheMachineAlone()
+{
+    const QString pc = make(u"windows11"_s);
+    copyMachine(*Machine::open(pc), folder_.filePath(u"as-it-was"_s));
+
+    const Result result = rehearse({u"preview"_s, pc});
+
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    QCOMPARE(compareMachines(*Machine::open(folder_.filePath(u"as-it-was"_s)), *Machine::open(pc)), QList<DiffRow>());
+    QVERIFY(!QFileInfo::exists(pc + u"/commands.log"_s));
+}
+
+void TestUndo::previewTellsOfEveryGroup()
+{
+    const QString pc = make(u"windows11"_s);
+    const QString json = folder_.filePath(u"preview.json"_s);
+    const QString page = folder_.filePath(u"preview.html"_s);
+
+    const Result result =
+        rehearse({u"preview"_s, pc, u"--json"_s, json, u"--html"_s, page, u"--keep"_s, u"printer=0"_s});
+
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    QFile file(json);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonObject report = QJsonDocument::fromJson(file.readAll()).object();
+    QMap<QString, int> groups;
+    QStringList titles;
+    for (const QJsonValue item : report[u"items"_s].toArray()) {
+        ++groups[item[u"group"_s].toString()];
+        titles.append(item[u"title"_s].toString());
+    }
+    for (const QString &group : {u"Services"_s, u"Scheduled tasks"_s, u"Windows applications"_s,
+                                 u"Programs started at logon"_s, u"System options"_s, u"Kestrune's own records"_s})
+        QVERIFY2(groups.value(group) > 0, qPrintable(group));
+    QVERIFY2(titles.contains(u"Print Spooler"_s), qPrintable(titles.join(u'\n')));
+    QVERIFY2(titles.contains(u"Disable telemetry"_s), qPrintable(titles.join(u'\n')));
+    QVERIFY(QFileInfo(page).size() > 10000);
+}
+
+void TestUndo::undoGivesTheMachineBefore_data()
+{
+    QTest::addColumn<QString>("builtIn");
+    QTest::addColumn<QString>("keep");
+    const QString none = u"printer=0,bluetooth-audio=0,files-sharing=0,xbox-app=0,upnp=0,proxy-vpn=0,nfc=0,"
+                         "xbox-game-bar=0,codecs=0"_s;
+    QTest::newRow("Windows 11, all kept") << u"windows11"_s << QString();
+    QTest::newRow("Windows 11, none kept") << u"windows11"_s << none;
+    QTest::newRow("Windows 10, none kept") << u"windows10"_s << none;
+}
+
+void TestUndo::undoGivesTheMachineBefore()
+{
+    QFETCH(QString, builtIn);
+    QFETCH(QString, keep);
+    const QString pc = make(builtIn);
+    const QString undo = folder_.filePath(u"undo.reg"_s);
+    Result result = rehearse({u"preview"_s, pc, u"--keep"_s, keep, u"--undo"_s, undo});
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+
+    QDir(folder_.filePath(u"before"_s)).removeRecursively();
+    copyMachine(*Machine::open(pc), folder_.filePath(u"before"_s));
+    result = rehearse({u"run"_s, pc, u"optimize"_s, u"--keep"_s, keep});
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    const auto before = Machine::open(folder_.filePath(u"before"_s));
+    const auto optimized = Machine::open(pc);
+    QVERIFY(!compareMachines(*before, *optimized).isEmpty());
+
+    result = rehearse({u"import"_s, pc, undo});
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    QFile commands(folder_.filePath(u"undo-commands.txt"_s));
+    QVERIFY(commands.open(QIODevice::ReadOnly));
+    for (const QString &line : QString::fromUtf8(commands.readAll()).split(u"\r\n"_s, Qt::SkipEmptyParts)) {
+        if (line == "rem"_L1 || line.startsWith("rem "_L1))
+            continue;
+        const QStringList parts = words(line);
+        if (runBuiltIn(*optimized, parts, folder_.path()))
+            continue;
+        // A service may run already, started by one that needs it.
+        QVERIFY2(runTool(*optimized, parts) == 0 || parts.first() == "sc"_L1, qPrintable(line));
+    }
+
+    QStringList left;
+    for (const DiffRow &row : compareMachines(*before, *optimized)) {
+        // Its log and backups stay, for whoever wants to look.
+        if (!row.path.startsWith("program\\"_L1))
+            left.append(kindName(row.kind) + u' ' + row.path + u' ' + row.name + u": "_s + row.before + u" -> "_s
+                        + row.after);
+    }
+    QVERIFY2(left.isEmpty(), qPrintable(left.join(u'\n')));
+}
+
+void TestUndo::scriptIsInTheFormOfTheRegistryEditor()
+{
+    const QString pc = make(u"windows11"_s);
+    const QString undo = folder_.filePath(u"form.reg"_s);
+    QCOMPARE(rehearse({u"preview"_s, pc, u"--undo"_s, undo}).code, 0);
+
+    QFile file(undo);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    QVERIFY(bytes.startsWith("\xff\xfe"));
+    const QString text = QStringDecoder(QStringConverter::Utf16)(bytes);
+    QVERIFY(text.startsWith(u"Windows Registry Editor Version 5.00\r\n"_s));
+    QVERIFY(!text.contains(u"\\AppModel\\Repository\\Packages\\"_s));
+}
+
+void TestUndo::nothingToOptimize()
+{
+    const QString pc = folder_.filePath(u"empty"_s);
+    makeMachine(pc, QString(), Existing::Keep);
+    const Result result = rehearse({u"preview"_s, pc, u"--no-features"_s});
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    QVERIFY2(result.output.startsWith(u"    0 come back exactly\n"_s), qPrintable(result.output));
+}
+
+void TestUndo::badMachineIsTold()
+{
+    const Result result = rehearse({u"preview"_s, folder_.filePath(u"nothing"_s)});
+    QCOMPARE(result.code, 3);
+    QVERIFY(!result.errors.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestUndo)
+#include "tst_undo.moc"
