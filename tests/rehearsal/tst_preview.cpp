@@ -125,18 +125,17 @@ void TestPreview::whatComesBack()
 
 void TestPreview::worstOfTheDetailsIsTheItems()
 {
-    PreviewItem item;
-    QCOMPARE(item.comesBack(), Return::Exactly);
-    const auto with = [&item](Return value) {
-        item.details.append(PreviewDetail{{}, {}, {}, {}, value});
+    const auto of = [](const QList<Return> &values) {
+        PreviewItem item;
+        for (const Return value : values)
+            item.details.append(PreviewDetail{{}, {}, {}, {}, value});
         return item.comesBack();
     };
-    QCOMPARE(with(Return::Exactly), Return::Exactly);
-    QCOMPARE(with(Return::Otherwise), Return::Otherwise);
-    QCOMPARE(with(Return::Unasked), Return::Unasked);
-    QCOMPARE(with(Return::Exactly), Return::Unasked);
-    QCOMPARE(with(Return::NotAtAll), Return::NotAtAll);
-    QCOMPARE(with(Return::Otherwise), Return::NotAtAll);
+    QCOMPARE(of({Return::Exactly}), Return::Exactly);
+    QCOMPARE(of({Return::Exactly, Return::Otherwise}), Return::Otherwise);
+    QCOMPARE(of({Return::Unasked}), Return::Unasked);
+    QCOMPARE(of({Return::Exactly, Return::Unasked}), Return::Otherwise);
+    QCOMPARE(of({Return::Unasked, Return::NotAtAll, Return::Exactly}), Return::NotAtAll);
 }
 
 void TestPreview::serviceIsOneItemWithItsDisplayName()

@@ -62,13 +62,17 @@ bool isBefore(const PreviewItem &left, const PreviewItem &right)
 
 Return PreviewItem::comesBack() const
 {
-    // From the best to the worst.
-    static constexpr Return order[] = {Return::Exactly, Return::Otherwise, Return::Unasked, Return::NotAtAll};
-    const auto rank = [](Return value) { return std::find(std::begin(order), std::end(order), value); };
-    Return worst = Return::Exactly;
-    for (const PreviewDetail &detail : details)
-        worst = rank(detail.comesBack) > rank(worst) ? detail.comesBack : worst;
-    return worst;
+    const auto any = [this](Return value) {
+        return std::any_of(details.begin(), details.end(),
+                           [value](const PreviewDetail &detail) { return detail.comesBack == value; });
+    };
+    if (any(Return::NotAtAll))
+        return Return::NotAtAll;
+    // What the restoration changes besides what it was asked to bring back isn't what was there either.
+    const bool isOptimized = any(Return::Exactly) || any(Return::Otherwise);
+    if (any(Return::Unasked))
+        return isOptimized ? Return::Otherwise : Return::Unasked;
+    return any(Return::Otherwise) ? Return::Otherwise : Return::Exactly;
 }
 
 QList<PreviewItem> previewItems(Machine &before, Machine &optimized, Machine &restored,
@@ -83,7 +87,8 @@ QList<PreviewItem> previewItems(Machine &before, Machine &optimized, Machine &re
         item.group = words.group;
         item.title = words.title;
         item.name = words.name;
-        item.details.append({words.detail, three.row.before, three.row.after, three.restored, returnOf(three)});
+        item.details.append({words.detail, sideInWords(words, three.row.before), sideInWords(words, three.row.after),
+                             sideInWords(words, three.restored), returnOf(three)});
     }
     QList<PreviewItem> list = items.values();
     std::stable_sort(list.begin(), list.end(), isBefore);

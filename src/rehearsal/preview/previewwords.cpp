@@ -14,6 +14,8 @@ constexpr auto servicesKey = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Ser
 constexpr auto recordsKey = "HKEY_CURRENT_USER\\Software\\Kestrune"_L1;
 constexpr auto packagesKey = "\\AppModel\\Repository\\Packages\\"_L1;
 constexpr auto packagedTasksKey = "\\AppModel\\SystemAppData\\"_L1;
+const QString oneDrive = u"OneDrive"_s;
+const QString startModeDetail = u"start mode"_s;
 constexpr auto runKey = "\\Microsoft\\Windows\\CurrentVersion\\Run"_L1;
 
 std::optional<QString> registryTextAt(const Machine &machine, const RegistryStore &store, const QString &key,
@@ -74,8 +76,10 @@ PreviewWords registryWords(Machine &before, const DiffRow &row)
         const QString task = path.section(u'\\', -1);
         return {PreviewGroup::Autorun, foldName(task), task, path, valuePath(row)};
     }
-    if (const QString service = partBehind(path, servicesKey); !service.isEmpty() && row.name == "Start"_L1)
-        return serviceWords(before, service, u"start mode"_s);
+    if (const QString service = partBehind(path, servicesKey); path.size() == servicesKey.size() + service.size())
+        return serviceWords(before, service, row.name == "Start"_L1 ? startModeDetail : row.name);
+    if (path.endsWith("\\Uninstall\\OneDriveSetup.exe"_L1, Qt::CaseInsensitive))
+        return {PreviewGroup::Packages, oneDrive, oneDrive, {}, valuePath(row)};
     return {PreviewGroup::Registry, foldName(path), path, {}, row.name.isEmpty() ? u"key"_s : row.name};
 }
 
@@ -83,14 +87,22 @@ PreviewWords fileWords(const DiffRow &row)
 {
     if (row.path.startsWith("program\\"_L1))
         return {PreviewGroup::Records, u"files"_s, u"Files beside the program"_s, {}, row.path};
-    return {PreviewGroup::Files,
-            foldName(row.path),
-            row.path,
-            {},
-            row.kind == DiffKind::Attribute ? u"attributes"_s : u"file"_s};
+    if (row.path.contains("\\Microsoft\\OneDrive\\"_L1, Qt::CaseInsensitive))
+        return {PreviewGroup::Packages, oneDrive, oneDrive, {}, row.path};
+    return {PreviewGroup::Files, foldName(row.path), row.path, {}, kindName(row.kind)};
 }
 
 } // namespace
+
+QString sideInWords(const PreviewWords &words, const QString &side)
+{
+    static const QMap<QString, QString> modes{{u"dword 0"_s, u"boot"_s},
+                                              {u"dword 1"_s, u"system"_s},
+                                              {u"dword 2"_s, u"automatic"_s},
+                                              {u"dword 3"_s, u"manual"_s},
+                                              {u"dword 4"_s, u"disabled"_s}};
+    return words.group == PreviewGroup::Services && words.detail == startModeDetail ? modes.value(side, side) : side;
+}
 
 PreviewWords previewWords(Machine &before, Machine &optimized, const DiffRow &row)
 {

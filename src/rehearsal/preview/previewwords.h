@@ -17,3 +17,5 @@ struct PreviewWords
 
 /** Names come from the machine as it was, or from the optimized one where it has more. */
 PreviewWords previewWords(Machine &before, Machine &optimized, const DiffRow &row);
+/** What a side of the row shows: start modes have words, everything else stays. */
+QString sideInWords(const PreviewWords &words, const QString &side);
