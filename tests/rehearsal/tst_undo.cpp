@@ -190,7 +190,6 @@ void TestUndo::undoGivesTheMachineBefore_data()
     QTest::addColumn<QString>("keep");
     const QString none = u"printer=0,bluetooth-audio=0,files-sharing=0,xbox-app=0,upnp=0,proxy-vpn=0,nfc=0,"
                          "xbox-game-bar=0,codecs=0"_s;
-    QTest::newRow("Windows 11, all kept") << u"windows11"_s << QString();
     QTest::newRow("Windows 11, none kept") << u"windows11"_s << none;
     QTest::newRow("Windows 10, none kept") << u"windows10"_s << none;
 }
