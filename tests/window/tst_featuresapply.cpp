@@ -3,12 +3,11 @@
 
 #include "platform/simulated/database.h"
 #include "support/boxes.h"
+#include "support/featuresview.h"
 #include "support/menus.h"
 #include "support/tweakprobes.h"
-#include "support/windowdriver.h"
 #include "work/tweaks/tweakcatalogue.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QTest>
 
@@ -33,25 +32,11 @@ QComboBox *priorities(const WindowDriver &driver)
     return driver.get<QComboBox>(u"cbWin32PrioritySeparation"_s);
 }
 
-/** Clicks a box with the mouse, wherever it stands on the page. */
-void clickBox(const WindowDriver &driver, const QString &name)
-{
-    QCheckBox *each = box(driver, name);
-    driver.get<QScrollArea>(u"scrollArea"_s)->ensureWidgetVisible(each);
-    QTest::mouseClick(each, Qt::LeftButton, {}, QPoint(8, each->height() / 2));
-}
-
 /** Shows the page without the count of the WinSxS folder, whose lines would come between. */
 void show(const WindowDriver &driver)
 {
     platform().openKey(settingsKey)->setValue(u"GetWinSxsSize"_s, 0);
     driver.window().showPage(featuresPage);
-}
-
-void apply(const WindowDriver &driver)
-{
-    driver.get<QScrollArea>(u"scrollArea"_s)->ensureWidgetVisible(driver.button(u"btnTweakApply"_s));
-    driver.click(u"btnTweakApply"_s);
 }
 
 /** All boxes but the one whose tweak is a job. */
