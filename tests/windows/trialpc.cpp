@@ -51,11 +51,14 @@ TrialPc::~TrialPc()
     setPlatform(nullptr);
 }
 
-void TrialPc::startServices() const
+void TrialPc::startServices(const QStringList &only) const
 {
     const auto states = platform().openKey(standInStates);
-    for (const QString &service : texts(description_[u"running"_s]))
-        states->setValue(service, 1);
+    states->remove(QString());
+    for (const QString &service : texts(description_[u"running"_s])) {
+        if (only.isEmpty() || only.contains(service))
+            states->setValue(service, 1);
+    }
 }
 
 void TrialPc::startProcesses() const
@@ -63,12 +66,20 @@ void TrialPc::startProcesses() const
     platform().openKey(standInProcesses)->setValue(u"Names"_s, texts(description_[u"processes"_s]));
 }
 
-void TrialPc::registerTasks() const
+void TrialPc::registerTasks(const QStringList &only) const
 {
     const auto key = platform().openKey(standInTasks);
+    key->remove(QString());
     qsizetype place = 0;
-    for (const ScheduledTask &task : parseTaskExport(sourceOfPc(u"tasks.xml"_s), u"tasks.xml"_s))
-        key->setValue(standInTaskName(place++), task.path + u'\n' + task.document);
+    for (const ScheduledTask &task : parseTaskExport(sourceOfPc(u"tasks.xml"_s), u"tasks.xml"_s)) {
+        if (only.isEmpty() || only.contains(task.path))
+            key->setValue(standInTaskName(place++), task.path + u'\n' + task.document);
+    }
+}
+
+bool isWindows11Pc()
+{
+    return qEnvironmentVariable("KESTRUNE_TRIAL_MACHINE") == "windows11"_L1;
 }
 
 void layFile(const QString &path)

@@ -17,15 +17,19 @@ public:
     ~TrialPc();
     Q_DISABLE_COPY_MOVE(TrialPc)
 
-    /** Lets the services, the processes and the scheduled tasks of the built-in PC be known to the stand-ins. */
-    void startServices() const;
+    /**
+     * Lets the services, the processes and the scheduled tasks of the built-in PC be known to the stand-ins, and no
+     * others; where names or paths are given, of these alone.
+     */
+    void startServices(const QStringList &only = {}) const;
     void startProcesses() const;
-    void registerTasks() const;
+    void registerTasks(const QStringList &only = {}) const;
 
 private:
     QJsonObject description_; ///< the PC's machine.json
 };
 
+bool isWindows11Pc();
 /** Makes an empty file with the folders on the way, as of an installed program. */
 void layFile(const QString &path);
 /** Puts a stand-in of the stock tools there. */

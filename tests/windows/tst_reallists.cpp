@@ -50,11 +50,6 @@ QString oneDriveHome()
     return qEnvironmentVariable("LOCALAPPDATA") + u"\\Microsoft\\OneDrive\\"_s;
 }
 
-bool isWindows11()
-{
-    return qEnvironmentVariable("KESTRUNE_TRIAL_MACHINE") == "windows11"_L1;
-}
-
 } // namespace
 
 class TestRealLists : public QObject
@@ -162,8 +157,8 @@ void TestRealLists::packagesGoAndComeBack()
 {
     const QString table = u"tblPackages"_s;
     // One PC has OneDrive's setup from the system, the other from its own installation.
-    const QString setup = isWindows11() ? qEnvironmentVariable("WINDIR") + u"\\System32\\OneDriveSetup.exe"_s
-                                        : oneDriveHome() + u"25.149.0803.0003\\OneDriveSetup.exe"_s;
+    const QString setup = isWindows11Pc() ? qEnvironmentVariable("WINDIR") + u"\\System32\\OneDriveSetup.exe"_s
+                                          : oneDriveHome() + u"25.149.0803.0003\\OneDriveSetup.exe"_s;
     layStandIn(setup);
     layStandIn(oneDriveHome() + u"25.149.0803.0003\\OneDriveSetup.exe"_s);
     layFile(oneDriveHome() + u"OneDrive.exe"_s);

@@ -51,6 +51,8 @@ private Q_SLOTS:
     void backsTheStartModesUp();
     void showsEveryTheme_data();
     void showsEveryTheme();
+    void speaksFrench_data();
+    void speaksFrench();
 
 private:
     std::unique_ptr<TrialPc> pc_;
@@ -182,6 +184,37 @@ void TestRealWindow::showsEveryTheme()
     QVERIFY(driver_->openServices());
     takePicture(u"theme-"_s + theme);
     platform().openKey(settingsKey)->remove(u"palette"_s);
+}
+
+void TestRealWindow::speaksFrench_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("speaker"); // a button of the page
+    QTest::addColumn<QString>("text");
+    // clang-format off
+    QTest::newRow("0-optimizer")   << u"btnMenuHome"_s    << u"btnAutomatizerRestore"_s << u"Restaurer"_s;
+    QTest::newRow("5-features")    << u"btnMenuTweak"_s   << u"btnTweakApply"_s         << u"Appliquer"_s;
+    QTest::newRow("6-information") << u"btnMenuInfo"_s    << u"btnMenuInfo"_s           << u"Informations\nsystème"_s;
+    QTest::newRow("7-options")     << u"btnMenuOptions"_s << u"btnMenuTweak"_s          << u"Fonctions"_s;
+    QTest::newRow("8-about")       << u"btnMenuAbout"_s   << u"btnMenuAbout"_s          << u"À propos"_s;
+    // clang-format on
+}
+
+void TestRealWindow::speaksFrench()
+{
+    QFETCH(const QString, button);
+    QFETCH(const QString, speaker);
+    QFETCH(const QString, text);
+    // The translation is read from the folder beside the program.
+    platform().openKey(settingsKey)->setValue(u"lang"_s, u"fr"_s);
+    driver_ = std::make_unique<WindowDriver>();
+    QVERIFY(QTest::qWaitForWindowExposed(&driver_->window()));
+    driver_->click(button);
+    QTRY_VERIFY_WITH_TIMEOUT(!driver_->worker().isRunning() && !driver_->winSxsWorker().isRunning(), patience);
+    takePicture(u"french-"_s + QString::fromLatin1(QTest::currentDataTag()));
+    QCOMPARE(driver_->button(speaker)->text().trimmed(), text);
+    driver_.reset();
+    platform().openKey(settingsKey)->setValue(u"lang"_s, u"en"_s);
 }
 
 QTEST_MAIN(TestRealWindow)
