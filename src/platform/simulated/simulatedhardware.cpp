@@ -27,8 +27,12 @@ QJsonObject SimulatedPlatform::hardware() const
 
 QJsonObject SimulatedPlatform::volume(const QString &windowsPath) const
 {
-    const QString drive = machine_->windowsPath(machine_->hostPath(windowsPath)).first(2);
-    return hardware().value(u"volumes"_s).toObject().value(drive).toObject();
+    const QString file = machine_->hostPath(windowsPath);
+    const QString path = machine_->windowsPath(file);
+    // What is on none of the machine's drives stays a file of the host, whose path may begin with a drive too.
+    if (path == file)
+        return {};
+    return hardware().value(u"volumes"_s).toObject().value(path.first(2)).toObject();
 }
 
 std::optional<bool> SimulatedPlatform::seekPenalty(const QString &windowsPath) const
