@@ -23,7 +23,6 @@ private Q_SLOTS:
     void largeFilesKeepTheirSizeAndTheirHoles();
     void whatAnotherConnectionJustWroteIsInIt();
     void logOfCommandsStaysBehind();
-    void unreadableFileIsTold();
     void folderThatCannotBeMadeIsTold();
 };
 
@@ -120,18 +119,6 @@ void TestMachineCopy::logOfCommandsStaysBehind()
     copyMachine(*source, source.beside(u"copy"_s));
 
     QVERIFY(!QFileInfo::exists(source.beside(u"copy/commands.log"_s)));
-}
-
-void TestMachineCopy::unreadableFileIsTold()
-{
-    SmallMachine source;
-    const QString path = source->driveFolder() + u"/closed.txt"_s;
-    writeFile(path, "x");
-    QVERIFY(QFile::setPermissions(path, {}));
-    if (QFile(path).open(QIODevice::ReadOnly))
-        QSKIP("This user may read every file.");
-
-    QVERIFY(errorOf([&] { copyMachine(*source, source.beside(u"copy"_s)); }).contains(u"closed.txt"_s));
 }
 
 void TestMachineCopy::folderThatCannotBeMadeIsTold()

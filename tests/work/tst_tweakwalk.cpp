@@ -173,7 +173,7 @@ void TestTweakWalk::namesOfAnyKind()
 
 void TestTweakWalk::manyFilesAllStay()
 {
-    constexpr int count = 1234; // more than are stored at once, and no multiple
+    constexpr int count = 6234; // more than are stored at once, and no multiple
     TestMachine machine;
     for (int i = 0; i < count; ++i)
         machine.addFile(u"C:\\Many\\file%1"_s.arg(i));
