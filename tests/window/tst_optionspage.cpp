@@ -93,11 +93,13 @@ void TestOptionsPage::controlShowsItsStoredValue_data()
     QTest::addColumn<QVariant>("stored");
     QTest::addColumn<bool>("checked");
     const auto add = [](const QString &key, const QString &box, bool fallback) {
-        const auto row = [&](const char *what) { return qPrintable(key + u", "_s + QLatin1StringView(what)); };
-        QTest::newRow(row("never stored")) << key << box << QVariant() << fallback;
-        QTest::newRow(row("1")) << key << box << QVariant(1) << true;
-        QTest::newRow(row("0")) << key << box << QVariant(0) << false;
-        QTest::newRow(row("2")) << key << box << QVariant(2) << false;
+        const auto row = [&](const char *what) -> QTestData & {
+            return QTest::newRow(qPrintable(key + u", "_s + QLatin1StringView(what))) << key << box;
+        };
+        row("never stored") << QVariant() << fallback;
+        row("1") << QVariant(1) << true;
+        row("0") << QVariant(0) << false;
+        row("2") << QVariant(2) << false;
     };
     add(u"StartAsAdmin"_s, u"chkOptionsStartAsAdmin"_s, false);
     add(u"CheckUpdate"_s, u"chkOptionsCheckUpdate"_s, false);

@@ -9,7 +9,7 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTextStream>
+#include <QStringDecoder>
 
 using namespace Qt::StringLiterals;
 
@@ -67,7 +67,9 @@ void WorkThread::TaskMakeList()
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return;
-    readTasks(QTextStream(&file).readAll());
+    const QByteArray bytes = file.readAll();
+    QStringDecoder decoder(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8));
+    readTasks(decoder(bytes));
     if (analyzeRunning == 0)
         report(u"WorkThread::TaskMakeList"_s);
 }
