@@ -28,7 +28,7 @@ const QString controlKey = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Cont
 const QStringList needlessServices{u"FontCache"_s, u"lfsvc"_s, u"Spooler"_s, u"SysMain"_s};
 const QStringList runningServices = needlessServices + QStringList{u"Dhcp"_s, u"SSDPSRV"_s};
 const QStringList needlessTasks{u"Microsoft\\Windows\\Application Experience\\Microsoft Compatibility Appraiser"_s,
-                                u"Microsoft\\Windows\\Printing\\EduPrintProv"_s};
+                                u"Microsoft\\Windows\\Printing\\PrinterCleanupTask"_s};
 const QString usefulTask = u"Microsoft\\Windows\\Time Zone\\SynchronizeTimeZone"_s;
 const QStringList needlessPackages{u"Microsoft.BingNews"_s, u"Microsoft.XboxGamingOverlay"_s};
 const QString xboxTask = u"Xbox.App.Tasks.FullTrustComponent"_s;

@@ -65,11 +65,12 @@ void WorkThread::TaskMakeList()
         backUp(fileName);
 
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (!file.open(QIODevice::ReadOnly))
         return;
     const QByteArray bytes = file.readAll();
     QStringDecoder decoder(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8));
-    readTasks(decoder(bytes));
+    QString exported = decoder(bytes);
+    readTasks(exported.replace("\r\n"_L1, "\n"_L1));
     if (analyzeRunning == 0)
         report(u"WorkThread::TaskMakeList"_s);
 }
