@@ -148,8 +148,7 @@ void TestTweakWalk::linksAreMarkedAndTheirTargetsArent()
     QFile(target + u"/file.txt"_s).open(QIODevice::WriteOnly);
     machine.addFile(u"C:\\Data\\plain.txt"_s);
     const QString link = machine.machine().hostPath(u"C:\\Data"_s) + u"/link"_s;
-    if (!QFile::link(target, link))
-        QSKIP("no links here");
+    QVERIFY(QFile::link(target, link));
     WorkThread worker;
     worker.TweakSSD(1, 8);
     QVERIFY((wordOf(machine, u"C:\\Data\\link"_s) & notIndexed) != 0);
