@@ -2,6 +2,7 @@
 // kestrune-rehearse: makes rehearsal machines, runs the logic on them, shows what it changes.
 
 #include "platform/simulated/machine.h"
+#include "rehearse/examples.h"
 #include "rehearse/subcommands.h"
 
 #include <QCoreApplication>
@@ -15,7 +16,7 @@ namespace {
 constexpr auto program = "kestrune-rehearse"_L1;
 
 constexpr const Subcommand *subcommands[] = {
-    &newSubcommand,  &listSubcommand, &runSubcommand,     &importSubcommand, &exportSubcommand,
+    &newSubcommand,  &listSubcommand, &runSubcommand,     &exportSubcommand, &importSubcommand,
     &diffSubcommand, &guiSubcommand,  &previewSubcommand, &tourSubcommand,
 };
 
@@ -42,20 +43,30 @@ void printHelp(const Subcommand &subcommand)
         if (const QString more = subcommand.moreHelp(); !more.isEmpty())
             print(u'\n' + more);
     }
+    if (const QString examples = examplesOf(subcommand.name); !examples.isEmpty())
+        print(u'\n' + examples);
 }
 
 void printHelp()
 {
     print(u"Usage: %1 COMMAND [ARG]...\n"
-          "Rehearse changes to Windows on a copy: a rehearsal machine, which is a folder.\n\n"
+          "Rehearse changes to Windows on a copy: a rehearsal machine, which is a folder. Nothing that a command does\n"
+          "leaves that folder, and no program of this computer is started for it.\n\n"
           "Commands:\n"_s.arg(program));
     for (const Subcommand *subcommand : subcommands)
-        print(u"  "_s + QString(subcommand->name).leftJustified(8) + subcommand->summary + u'\n');
+        print(u"  "_s + QString(subcommand->name).leftJustified(9) + subcommand->summary + u'\n');
     print(u"\nOptions:\n"
           "  --help     display this help and exit\n"
           "  --version  output version information and exit\n\n"
+          "To begin with:\n"
+          "  %1 new pc --from windows11\n"
+          "      make a Windows 11 PC in the folder pc\n"
+          "  %1 preview pc --html preview.html\n"
+          "      see what an optimization would change on it, and what would come back\n"
+          "  %1 gui pc\n"
+          "      try whatever you like in the window\n\n"
           "Exit status: 0 done, 1 the job reported a failure, 2 bad arguments, 3 the machine can't be read.\n"
-          "'%1 COMMAND --help' tells more of a command.\n"_s.arg(program));
+          "'%1 COMMAND --help' tells more of a command, with examples.\n"_s.arg(program));
 }
 
 const Subcommand &findSubcommand(const QStringList &words)

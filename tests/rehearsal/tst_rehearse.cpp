@@ -105,7 +105,7 @@ void TestRehearse::help()
     const Ended ended = rehearse({u"--help"_s});
     QCOMPARE(ended.exitCode, done);
     QVERIFY(ended.output.startsWith("Usage: kestrune-rehearse COMMAND"));
-    for (const char *command : {"new", "list", "run", "import", "export", "diff", "gui"})
+    for (const char *command : {"new", "list", "run", "export", "import", "diff", "gui"})
         QVERIFY(ended.output.contains(QByteArray("\n  ") + command + ' '));
     QCOMPARE(ended.errors, QByteArray());
 }
