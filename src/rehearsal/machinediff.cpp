@@ -3,6 +3,7 @@
 #include "machinediff.h"
 
 #include "filediff.h"
+#include "platform/simulated/database.h"
 #include "registrydiff.h"
 #include "taskdocument.h"
 
@@ -58,12 +59,14 @@ void compareTasks(const Machine &before, const Machine &after, QList<DiffRow> &r
     const auto without = [](const ScheduledTask &task) { return withTaskEnabled(task.document, true); };
     QMap<QString, QString> paths;
     for (const Machine *machine : {&after, &before}) {
-        for (const ScheduledTask &task : machine->tasks())
-            paths.insert(foldName(task.path), task.path);
+        for (const QString &path : machine->taskPaths())
+            paths.insert(foldName(path), path);
     }
     for (const QString &path : paths) {
         const std::optional<ScheduledTask> left = before.task(path);
         const std::optional<ScheduledTask> right = after.task(path);
+        if (left && right && left->document == right->document)
+            continue;
         DiffRow row{DiffKind::Task, path, QString(), switchText(left), switchText(right)};
         if (left && right && without(*left) != without(*right)) {
             row.before += documentText(*left);
@@ -146,20 +149,26 @@ QString kindName(DiffKind kind)
 
 QList<DiffRow> compareMachines(Machine &before, Machine &after, const ProgressCallback &progress)
 {
-    constexpr int steps = 4;
-
-    const auto tell = [&progress](const QString &step, int done) {
-        if (progress)
-            progress(step, done, steps);
-    };
+    const Database::Snapshot stillBefore(before.database());
+    const Database::Snapshot stillAfter(after.database());
+    if (progress)
+        progress(u"registry"_s, 0, 2);
     QList<DiffRow> rows;
-    tell(u"services"_s, 0);
-    compareServices(before, after, rows);
-    tell(u"tasks"_s, 1);
-    compareTasks(before, after, rows);
-    tell(u"registry"_s, 2);
     compareRegistries(before.registry(), after.registry(), rows);
-    tell(u"files"_s, 3);
+    if (progress)
+        progress(u"services, tasks and files"_s, 1, 2);
+    rows += compareBesidesRegistry(before, after);
+    std::stable_sort(rows.begin(), rows.end(), isBefore);
+    return rows;
+}
+
+QList<DiffRow> compareBesidesRegistry(Machine &before, Machine &after)
+{
+    const Database::Snapshot stillBefore(before.database());
+    const Database::Snapshot stillAfter(after.database());
+    QList<DiffRow> rows;
+    compareServices(before, after, rows);
+    compareTasks(before, after, rows);
     compareFiles(before, after, rows);
     compareSecurity(before, after, rows);
     compareBootOptions(before, after, rows);

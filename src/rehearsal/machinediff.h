@@ -32,3 +32,5 @@ QString kindName(DiffKind kind);
  * key or folder has a row of its own only where it is empty. Changes nothing in either. Throws MachineError.
  */
 QList<DiffRow> compareMachines(Machine &before, Machine &after, const ProgressCallback &progress = {});
+/** The same but for the registry, which is most of the work. */
+QList<DiffRow> compareBesidesRegistry(Machine &before, Machine &after);

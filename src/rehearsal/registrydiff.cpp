@@ -15,9 +15,10 @@ constexpr std::array hives{"HKEY_LOCAL_MACHINE"_L1, "HKEY_CURRENT_USER"_L1, "HKE
 
 using KeyId = RegistryStore::KeyId;
 
-/** Values or names of subkeys, found by name without regard to case. */
+/** Found by name without regard to case. */
 template<typename T>
 using ByName = QMap<QString, T>;
+using Subkeys = ByName<RegistrySubkey>;
 
 class RegistryComparison
 {
@@ -32,10 +33,10 @@ public:
 
     void compare(const QString &path, std::optional<KeyId> before, std::optional<KeyId> after)
     {
-        const ByName<RegistryValue> valuesBefore = values(before_, before);
-        const ByName<RegistryValue> valuesAfter = values(after_, after);
-        const ByName<QString> keysBefore = subkeys(before_, before);
-        const ByName<QString> keysAfter = subkeys(after_, after);
+        const QList<RegistryValue> valuesBefore = before ? before_.values(*before) : QList<RegistryValue>();
+        const QList<RegistryValue> valuesAfter = after ? after_.values(*after) : QList<RegistryValue>();
+        const Subkeys keysBefore = before ? before_.subkeysByName(*before) : Subkeys();
+        const Subkeys keysAfter = after ? after_.subkeysByName(*after) : Subkeys();
 
         if (before.has_value() != after.has_value()) {
             RegistryDifference difference{.key = path, .ofKey = true, .keyWasThere = before.has_value()};
@@ -43,41 +44,29 @@ public:
                 valuesBefore.isEmpty() && valuesAfter.isEmpty() && keysBefore.isEmpty() && keysAfter.isEmpty();
             visit_(difference);
         }
-        compareValues(path, valuesBefore, valuesAfter);
+        // In most keys nothing differs.
+        if (valuesBefore != valuesAfter)
+            compareValues(path, byName(valuesBefore), byName(valuesAfter));
 
-        ByName<QString> all = keysAfter;
+        Subkeys all = keysAfter;
         all.insert(keysBefore);
         for (auto it = all.begin(); it != all.end(); ++it)
-            compare(path + u'\\' + it.value(), child(before_, before, keysBefore, it.key()),
-                    child(after_, after, keysAfter, it.key()));
+            compare(path + u'\\' + it->name, idOf(keysBefore, it.key()), idOf(keysAfter, it.key()));
     }
 
 private:
-    static ByName<RegistryValue> values(const RegistryStore &store, std::optional<KeyId> key)
+    static ByName<RegistryValue> byName(const QList<RegistryValue> &values)
     {
         ByName<RegistryValue> map;
-        if (key) {
-            for (const RegistryValue &value : store.values(*key))
-                map.insert(foldName(value.name), value);
-        }
+        for (const RegistryValue &value : values)
+            map.insert(foldName(value.name), value);
         return map;
     }
 
-    static ByName<QString> subkeys(const RegistryStore &store, std::optional<KeyId> key)
-    {
-        ByName<QString> map;
-        if (key) {
-            for (const QString &name : store.subkeys(*key))
-                map.insert(foldName(name), name);
-        }
-        return map;
-    }
-
-    static std::optional<KeyId> child(const RegistryStore &store, std::optional<KeyId> parent,
-                                      const ByName<QString> &subkeys, const QString &name)
+    static std::optional<KeyId> idOf(const Subkeys &subkeys, const QString &name)
     {
         const auto it = subkeys.find(name);
-        return it == subkeys.end() ? std::nullopt : store.find(*parent, it.value());
+        return it == subkeys.end() ? std::nullopt : std::optional(it->id);
     }
 
     void compareValues(const QString &path, const ByName<RegistryValue> &before, const ByName<RegistryValue> &after)

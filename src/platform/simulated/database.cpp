@@ -183,6 +183,21 @@ QByteArray Database::Query::bytes(int column) const
     return QByteArray(bytes, sqlite3_column_bytes(statement_, column));
 }
 
+Database::Snapshot::Snapshot(Database &database)
+    : hold_(database.lock_)
+    , database_(database)
+{
+    if (database_.depth_ == 0)
+        database_.execute("BEGIN DEFERRED");
+    ++database_.depth_;
+}
+
+Database::Snapshot::~Snapshot()
+{
+    if (--database_.depth_ == 0)
+        sqlite3_exec(database_.handle_, "COMMIT", nullptr, nullptr, nullptr);
+}
+
 Database::Transaction::Transaction(Database &database)
     : hold_(database.lock_)
     , database_(database)

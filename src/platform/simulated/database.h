@@ -74,6 +74,22 @@ public:
     /** @p sql must be a literal: its address is the name of the prepared statement. */
     Query query(const char *sql);
 
+    /**
+     * Many readings that see one state, whatever other processes write meanwhile. They needn't lock the file each for
+     * itself, so they are several times faster. Nothing is written meanwhile.
+     */
+    class Snapshot
+    {
+    public:
+        explicit Snapshot(Database &database);
+        ~Snapshot();
+        Q_DISABLE_COPY_MOVE(Snapshot)
+
+    private:
+        Hold hold_;
+        Database &database_;
+    };
+
     /** Changes that happen together or not at all; undone unless commit() was called. May be nested. */
     class Transaction
     {

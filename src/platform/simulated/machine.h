@@ -97,6 +97,8 @@ public:
 
     /** Scheduled tasks in the order in which they came. A path is found without regard to case. */
     QList<ScheduledTask> tasks() const;
+    /** Their paths alone, in the same order. */
+    QStringList taskPaths() const;
     std::optional<ScheduledTask> task(const QString &path) const;
     /** Registers a task or changes the document of one; that one keeps its place and the case of its path. */
     void setTask(const ScheduledTask &task);

@@ -107,6 +107,15 @@ QList<ScheduledTask> Machine::tasks() const
     return result;
 }
 
+QStringList Machine::taskPaths() const
+{
+    QStringList paths;
+    auto query = database_->query("SELECT path FROM task ORDER BY id");
+    while (query.next())
+        paths.append(query.text(0));
+    return paths;
+}
+
 std::optional<ScheduledTask> Machine::task(const QString &path) const
 {
     auto query = database_->query("SELECT path, document FROM task WHERE fold = ?");

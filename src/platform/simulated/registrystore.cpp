@@ -176,6 +176,16 @@ QString RegistryStore::path(KeyId key) const
     return names.join(u'\\');
 }
 
+QMap<QString, RegistrySubkey> RegistryStore::subkeysByName(KeyId key) const
+{
+    QMap<QString, RegistrySubkey> subkeys;
+    auto query = database_.query("SELECT fold, id, name FROM key WHERE parent = ?");
+    query.bind(key);
+    while (query.next())
+        subkeys.insert(query.text(0), {query.integer(1), query.text(2)});
+    return subkeys;
+}
+
 QList<QString> RegistryStore::subkeys(KeyId key) const
 {
     QList<QString> names;

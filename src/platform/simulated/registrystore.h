@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -38,6 +39,13 @@ struct RegistryValue
     friend bool operator==(const RegistryValue &, const RegistryValue &) = default;
 };
 
+/** A key as the one above it lists it. */
+struct RegistrySubkey
+{
+    qint64 id = 0;
+    QString name;
+};
+
 /**
  * The store itself, with real key paths ("HKEY_LOCAL_MACHINE\SOFTWARE\x", backslashes between levels) and real value
  * names. Look-ups ignore case. HKEY_LOCAL_MACHINE\SYSTEM\ControlSet001 and ...\CurrentControlSet are one key, listed as
@@ -65,6 +73,8 @@ public:
     /** The key's full path, with the case its names were made with; empty where there is none. */
     QString path(KeyId key) const;
 
+    /** Direct subkeys by their names as look-ups compare them. */
+    QMap<QString, RegistrySubkey> subkeysByName(KeyId key) const;
     /** Direct subkeys by name, sorted by UTF-16 code unit. */
     QList<QString> subkeys(KeyId key) const;
     /** The key's own values, sorted by name by UTF-16 code unit. */

@@ -2,8 +2,8 @@
 
 #include "undo.h"
 
+#include "platform/simulated/database.h"
 #include "registryundo.h"
-#include "rehearsal/registrydiff.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -38,13 +38,13 @@ bool isOfProgram(const DiffRow &row)
 class UndoCommands
 {
 public:
-    UndoCommands(Machine &before, Machine &after, const QString &filesFolder)
+    UndoCommands(Machine &before, Machine &after, const QList<RegistryEdit> &registry, const QString &filesFolder)
         : before_(before)
-        , rows_(compareMachines(before, after))
+        , rows_(compareBesidesRegistry(before, after))
         , filesFolder_(filesFolder)
     {
         bringFilesBack();
-        bringPackagesBack(after);
+        bringPackagesBack(registry);
         each(DiffKind::Attribute, [this](const DiffRow &row) { setAttributes(row.path); });
         each(DiffKind::Security, [this](const DiffRow &row) { setSecurity(row.path); });
         each(DiffKind::BootOption, [this](const DiffRow &row) { setBootOption(row); });
@@ -118,15 +118,15 @@ private:
         commands_.append(u"copy /y "_s + quoted(filesFolder_ + u'\\' + name) + u' ' + quoted(path));
     }
 
-    void bringPackagesBack(Machine &after)
+    void bringPackagesBack(const QList<RegistryEdit> &registry)
     {
         QStringList families;
-        eachRegistryDifference(before_.registry(), after.registry(), [&families](const RegistryDifference &difference) {
-            if (!difference.ofKey || !difference.keyWasThere || !isOfPackage(difference.key))
-                return;
-            const qsizetype start = difference.key.indexOf(packagesKey, 0, Qt::CaseInsensitive) + packagesKey.size();
-            families.append(difference.key.mid(start).section(u'\\', 0, 0).section(u'_', 0, 0));
-        });
+        for (const RegistryEdit &edit : registry) {
+            if (edit.kind != RegistryEdit::Kind::MakeKey || !isOfPackage(edit.key))
+                continue;
+            const qsizetype start = edit.key.indexOf(packagesKey, 0, Qt::CaseInsensitive) + packagesKey.size();
+            families.append(edit.key.mid(start).section(u'\\', 0, 0).section(u'_', 0, 0));
+        }
         families.removeDuplicates();
         for (const QString &family : std::as_const(families)) {
             commands_.append(u"powershell -Command Get-AppxPackage -allusers "_s + family
@@ -219,12 +219,13 @@ void writeFile(const QString &path, const QByteArray &content)
 
 Undo undoOf(Machine &before, Machine &after, const QString &filesFolder)
 {
+    const Database::Snapshot stillBefore(before.database());
+    const Database::Snapshot stillAfter(after.database());
+    const QList<RegistryEdit> edits = registryUndo(before.registry(), after.registry());
     Undo undo;
-    for (const RegistryEdit &edit : registryUndo(before.registry(), after.registry())) {
-        if (!isOfPackage(edit.key))
-            undo.registry.append(edit);
-    }
-    const UndoCommands commands(before, after, filesFolder);
+    std::copy_if(edits.begin(), edits.end(), std::back_inserter(undo.registry),
+                 [](const RegistryEdit &edit) { return !isOfPackage(edit.key); });
+    const UndoCommands commands(before, after, edits, filesFolder);
     undo.commands = commands.commands();
     undo.files = commands.files();
     return undo;
