@@ -3,32 +3,26 @@
 
 #include "progress.h"
 #include "rehearsal/diffreport.h"
+#include "reportfile.h"
 #include "subcommands.h"
-
-#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void writePage(const QString &path, const QString &page)
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(page.toUtf8()) < 0 || !file.commit())
-        throw Failure{ExitJobFailed, u"%1: %2"_s.arg(path, file.errorString())};
-}
-
 int runDiff(const Arguments &arguments)
 {
     if (arguments.has("json"_L1) && arguments.has("html"_L1))
         throw UsageError{u"--json and --html can't be given together"_s};
+    if (arguments.has("html"_L1))
+        checkReportFile(arguments.value("html"_L1));
     const std::unique_ptr<Machine> before = openMachine(arguments.operand(0));
     const std::unique_ptr<Machine> after = openMachine(arguments.operand(1));
     Progress progress;
     const QList<DiffRow> rows = compareMachines(*before, *after, progress.callback());
     progress.clear();
     if (arguments.has("html"_L1))
-        writePage(arguments.value("html"_L1), diffHtml(rows, before->folder(), after->folder()));
+        writeReportFile(arguments.value("html"_L1), diffHtml(rows, before->folder(), after->folder()).toUtf8());
     else if (arguments.has("json"_L1))
         print(diffJson(rows));
     else

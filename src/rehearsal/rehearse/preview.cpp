@@ -6,11 +6,11 @@
 #include "rehearsal/machinecopy.h"
 #include "rehearsal/preview/previewreport.h"
 #include "rehearsal/preview/undo.h"
+#include "reportfile.h"
 #include "subcommands.h"
 
 #include <QCoreApplication>
 #include <QProcess>
-#include <QSaveFile>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -48,65 +48,67 @@ QStringList automatizerOptions(const Arguments &arguments)
     return options;
 }
 
-void writeReport(const QString &path, const QByteArray &report)
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(report) < 0 || !file.commit())
-        throw Failure{ExitJobFailed, u"%1: %2"_s.arg(path, file.errorString())};
-}
-
-/** The machine and its two copies. */
+/**
+ * A machine as it was at one moment, and what became of it. The machine itself isn't among them: other processes may go
+ * on working on it.
+ */
 struct Copies
 {
-    explicit Copies(const QString &folder)
-        : machine(openMachine(folder))
+    Copies()
     {
         if (!work.isValid())
             throw Failure{ExitJobFailed, work.errorString()};
     }
 
     const QTemporaryDir work;
-    std::unique_ptr<Machine> machine;
-    std::unique_ptr<Machine> optimized;
-    std::unique_ptr<Machine> restored;
+    std::unique_ptr<Machine> before{};
+    std::unique_ptr<Machine> optimized{};
+    std::unique_ptr<Machine> restored{};
 };
 
-void makeCopies(Copies &copies, const QStringList &options, Progress &progress)
+std::unique_ptr<Machine> copyOf(const Machine &machine, const QString &folder)
+{
+    copyMachine(machine, folder);
+    return Machine::open(folder);
+}
+
+void makeCopies(Copies &copies, const QString &folder, const QStringList &options, Progress &progress)
 {
     constexpr int steps = 5;
-    const QString optimized = copies.work.filePath(u"optimized"_s);
-    const QString restored = copies.work.filePath(u"restored"_s);
     progress.show(u"copying the machine"_s, 0, steps);
-    copyMachine(*copies.machine, optimized);
+    copies.before = copyOf(*openMachine(folder), copies.work.filePath(u"before"_s));
+    copies.optimized = copyOf(*copies.before, copies.work.filePath(u"optimized"_s));
     progress.show(u"Optimize"_s, 1, steps);
-    const bool anyFound = runOnCopy(optimized, u"optimize"_s, options);
-    copies.optimized = Machine::open(optimized);
+    const bool anyFound = runOnCopy(copies.optimized->folder(), u"optimize"_s, options);
     progress.show(u"copying the optimized machine"_s, 2, steps);
-    copyMachine(*copies.optimized, restored);
+    copies.restored = copyOf(*copies.optimized, copies.work.filePath(u"restored"_s));
     progress.show(u"Restore"_s, 3, steps);
     if (anyFound)
-        runOnCopy(restored, u"restore"_s, options);
-    copies.restored = Machine::open(restored);
+        runOnCopy(copies.restored->folder(), u"restore"_s, options);
     progress.show(u"comparing"_s, 4, steps);
 }
 
 int runPreview(const Arguments &arguments)
 {
+    for (const QLatin1StringView report : {"html"_L1, "json"_L1, "undo"_L1}) {
+        if (arguments.has(report))
+            checkReportFile(arguments.value(report));
+    }
     Progress progress;
-    Copies copies(arguments.operand(0));
-    makeCopies(copies, automatizerOptions(arguments), progress);
-    const QList<PreviewItem> items = previewItems(*copies.machine, *copies.optimized, *copies.restored);
+    Copies copies;
+    makeCopies(copies, arguments.operand(0), automatizerOptions(arguments), progress);
+    const QList<PreviewItem> items = previewItems(*copies.before, *copies.optimized, *copies.restored);
     progress.clear();
 
     if (arguments.has("undo"_L1)) {
         for (const QString &file :
-             writeUndo(*copies.machine, *copies.optimized, absoluteFolder(arguments.value("undo"_L1))))
+             writeUndo(*copies.before, *copies.optimized, absoluteFolder(arguments.value("undo"_L1))))
             print(file + u'\n');
     }
     if (arguments.has("html"_L1))
-        writeReport(arguments.value("html"_L1), previewHtml(items, copies.machine->name()).toUtf8());
+        writeReportFile(arguments.value("html"_L1), previewHtml(items, copies.before->name()).toUtf8());
     if (arguments.has("json"_L1))
-        writeReport(arguments.value("json"_L1), previewJson(items));
+        writeReportFile(arguments.value("json"_L1), previewJson(items));
     if (!arguments.has("html"_L1) && !arguments.has("json"_L1) && !arguments.has("undo"_L1))
         print(previewText(items));
     return ExitDone;
