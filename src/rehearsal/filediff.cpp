@@ -22,16 +22,25 @@ struct Entry
     bool folder = false;
     bool emptyFolder = false;
     qint64 size = 0;
+    QString target{}; ///< of a link, which isn't followed
 };
 
 /** Files and folders by their path without regard to case. */
 using Tree = QMap<QString, Entry>;
 
-/** Everything below a folder. @p shown is the folder's own name in what is shown. */
-Tree treeOf(const QString &folder, const QString &shown)
+/** Where a link leads, told alike for a machine and its copy. */
+QString targetOf(const QFileInfo &link, const QString &machine)
+{
+    const QString target = link.symLinkTarget();
+    return target.startsWith(machine + u'/') ? target.mid(machine.size() + 1) : target;
+}
+
+/** Everything below a folder of a machine. @p shown is the folder's own name in what is shown. */
+Tree treeOf(const QString &machine, const QString &name, const QString &shown)
 {
     constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
+    const QString folder = machine + u'/' + name;
     Tree tree;
     QDirIterator walk(folder, everything, QDirIterator::Subdirectories);
     while (walk.hasNext()) {
@@ -40,9 +49,13 @@ Tree treeOf(const QString &folder, const QString &shown)
         Entry entry;
         entry.hostPath = info.filePath();
         entry.shownPath = shown + entry.hostPath.mid(folder.size()).replace(u'/', u'\\');
-        entry.folder = info.isDir() && !info.isSymLink();
+        const bool isLink = info.isSymbolicLink();
+        entry.folder = info.isDir() && !isLink;
         entry.emptyFolder = entry.folder && QDir(entry.hostPath).isEmpty(everything);
-        entry.size = entry.folder ? 0 : info.size();
+        if (isLink)
+            entry.target = targetOf(info, machine);
+        else
+            entry.size = entry.folder ? 0 : info.size();
         tree.insert(foldName(entry.shownPath), entry);
     }
     return tree;
@@ -60,6 +73,8 @@ QStringList drivesOf(const QStringList &machineFolders)
 
 std::optional<QByteArray> contentOf(const Entry &entry)
 {
+    if (!entry.target.isEmpty())
+        return entry.target.toUtf8();
     QFile file(entry.hostPath);
     if (entry.size > largestContent || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
@@ -68,6 +83,8 @@ std::optional<QByteArray> contentOf(const Entry &entry)
 
 QString sizeText(const Entry &entry)
 {
+    if (!entry.target.isEmpty())
+        return u"link to "_s + entry.target;
     return entry.folder ? u"folder"_s : u"%1 bytes"_s.arg(entry.size);
 }
 
@@ -188,8 +205,9 @@ void compareFiles(const Machine &before, const Machine &after, QList<DiffRow> &r
 {
     for (const QString &drive : drivesOf({before.folder(), after.folder()})) {
         const QString shown = drive.mid(6).toUpper() + u':';
-        compareTrees(treeOf(before.folder() + u'/' + drive, shown), treeOf(after.folder() + u'/' + drive, shown), rows);
+        compareTrees(treeOf(before.folder(), drive, shown), treeOf(after.folder(), drive, shown), rows);
     }
-    compareTrees(treeOf(before.programFolder(), u"program"_s), treeOf(after.programFolder(), u"program"_s), rows);
+    const QString program = u"program"_s;
+    compareTrees(treeOf(before.folder(), program, program), treeOf(after.folder(), program, program), rows);
     compareAttributes(before, after, rows);
 }

@@ -9,6 +9,8 @@
 #include <QDirIterator>
 #include <QFile>
 
+#include <filesystem>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -17,6 +19,12 @@ namespace {
 {
     throw MachineError{u"%1: %2"_s.arg(QDir::toNativeSeparators(file.fileName()), file.errorString())};
 }
+
+struct MachineFolders
+{
+    QString source;
+    QString copy;
+};
 
 void makeFolder(const QString &folder)
 {
@@ -48,14 +56,22 @@ void copyFile(const QString &from, const QString &to)
     }
 }
 
-void copyLink(const QString &from, const QString &to)
+/** One to a file of the machine leads to the copy's own. */
+void copyLink(const QString &from, const QString &to, const MachineFolders &folders)
 {
-    QFile link(from);
-    if (!QFile::link(link.symLinkTarget(), to))
-        fail(link);
+    std::error_code error;
+    std::filesystem::path target = std::filesystem::read_symlink(QFileInfo(from).filesystemFilePath(), error);
+    const QString named = QString::fromStdU16String(target.generic_u16string());
+    if (named.startsWith(folders.source + u'/'))
+        target = (folders.copy + named.mid(folders.source.size())).toStdU16String();
+    if (!error)
+        std::filesystem::create_symlink(target, QFileInfo(to).filesystemFilePath(), error);
+    if (error)
+        throw MachineError{
+            u"%1: %2"_s.arg(QDir::toNativeSeparators(from), QString::fromLocal8Bit(error.message().c_str()))};
 }
 
-void copyTree(const QString &from, const QString &to)
+void copyTree(const QString &from, const QString &to, const MachineFolders &folders)
 {
     makeFolder(to);
     QDirIterator walk(from, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
@@ -63,8 +79,8 @@ void copyTree(const QString &from, const QString &to)
     while (walk.hasNext()) {
         const QString path = walk.next();
         const QString place = to + path.mid(from.size());
-        if (walk.fileInfo().isSymLink())
-            copyLink(path, place);
+        if (walk.fileInfo().isSymbolicLink())
+            copyLink(path, place, folders);
         else if (walk.fileInfo().isDir())
             makeFolder(place);
         else
@@ -82,5 +98,5 @@ void copyMachine(const Machine &source, const QString &folder)
     const QDir machine(source.folder());
     const QStringList tops = machine.entryList({u"drive_*"_s, u"program"_s}, QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString &top : tops)
-        copyTree(machine.filePath(top), folder + u'/' + top);
+        copyTree(machine.filePath(top), folder + u'/' + top, {source.folder(), folder});
 }

@@ -98,6 +98,11 @@ private Q_SLOTS:
     void anExactNameWinsOverAnother();
     void neverLeavesTheMachine_data();
     void neverLeavesTheMachine();
+    void linksOutLeadNowhere_data();
+    void linksOutLeadNowhere();
+    void linksWithinAreFollowed();
+    void ownFilesAreNoLinks_data();
+    void ownFilesAreNoLinks();
     void hostPathsStayThemselves();
     void windowsPathIsTheInverse();
 
@@ -110,6 +115,7 @@ private Q_SLOTS:
     void exitCodesAreTakenOnce();
     void logsOneLineForEachCommand();
     void placesTools();
+    void whatIsNoToolIsRemoved();
 
     void controlSetsAreOneKey();
     void aHiveCanOnlyBeEmptied();
@@ -344,6 +350,90 @@ void TestMachine::neverLeavesTheMachine()
     QVERIFY(!QFileInfo::exists(host));
 }
 
+void TestMachine::linksOutLeadNowhere_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("file") << u"C:\\file"_s;
+    QTest::newRow("in another case") << u"c:\\FILE"_s;
+    QTest::newRow("folder") << u"C:\\folder"_s;
+    QTest::newRow("file in a folder") << u"C:\\folder\\secret.txt"_s;
+    QTest::newRow("new file in a folder") << u"C:\\folder\\new.txt"_s;
+    QTest::newRow("new file in a new folder") << u"C:\\folder\\new\\new.txt"_s;
+    QTest::newRow("link without a target") << u"C:\\new"_s;
+    QTest::newRow("link to a link") << u"C:\\twice\\secret.txt"_s;
+    QTest::newRow("relative link") << u"C:\\relative\\secret.txt"_s;
+    QTest::newRow("host path") << u"%1/drive_c/folder/secret.txt"_s;
+}
+
+void TestMachine::linksOutLeadNowhere()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("links need a right of their own here");
+#endif
+    QFETCH(const QString, path);
+    const auto machine = Machine::create(folder());
+    const QString drive = machine->driveFolder() + u'/';
+    const QString outside = temporary_->filePath(u"outside"_s);
+    writeFile(outside + u"/secret.txt"_s, "secret");
+    QVERIFY(QFile::link(outside + u"/secret.txt"_s, drive + u"file"_s));
+    QVERIFY(QFile::link(outside, drive + u"folder"_s));
+    QVERIFY(QFile::link(outside + u"/absent"_s, drive + u"new"_s));
+    QVERIFY(QFile::link(drive + u"folder"_s, drive + u"twice"_s));
+    QVERIFY(QFile::link(u"../../outside"_s, drive + u"relative"_s));
+    QVERIFY(QFileInfo::exists(drive + u"relative/secret.txt"_s));
+    const QMap<QString, QByteArray> before = contents(outside);
+
+    const QString host = machine->hostPath(QString(path).replace(u"%1"_s, machine->folder()));
+    QVERIFY2(host.startsWith(machine->folder() + u'/'), qUtf8Printable(host));
+    QVERIFY2(!QFileInfo::exists(host), qUtf8Printable(host));
+    QVERIFY(!QFile(host).open(QIODevice::WriteOnly));
+    QVERIFY(!QDir().mkpath(host));
+    QVERIFY(!QFile::remove(host));
+    QCOMPARE(contents(outside), before);
+}
+
+void TestMachine::linksWithinAreFollowed()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("links need a right of their own here");
+#endif
+    const auto machine = Machine::create(folder());
+    const QString drive = machine->driveFolder() + u'/';
+    writeFile(drive + u"Users/Me/letter.txt"_s, "dear");
+    QVERIFY(QFile::link(drive + u"Users"_s, drive + u"Documents and Settings"_s));
+    QCOMPARE(readFile(machine->hostPath(u"C:\\documents and settings\\me\\LETTER.TXT"_s)), QByteArray("dear"));
+}
+
+void TestMachine::ownFilesAreNoLinks_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name :
+         {"drive_c", "drive_d", "program", "tools", "commands.log", "machine.sqlite", "machine.sqlite-wal",
+          "program/log.txt", "program/backup_svc", "program/backup_tasks/tasks.xml"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TestMachine::ownFilesAreNoLinks()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("links need a right of their own here");
+#endif
+    QFETCH(const QString, name);
+    Machine::create(folder());
+    const QString file = folder() + u'/' + name;
+    const QString elsewhere = temporary_->filePath(u"elsewhere"_s);
+    QVERIFY(QDir().mkpath(QFileInfo(file).path()));
+    if (QFileInfo::exists(file))
+        QVERIFY(QFile::rename(file, elsewhere));
+    else
+        writeFile(elsewhere, "x");
+    QVERIFY(QFile::link(elsewhere, file));
+    const QMap<QString, QByteArray> before = contents(temporary_->path());
+    const QString problem = problemOfOpening(folder());
+    QVERIFY2(problem.contains(name + u": is a link"_s) && !problem.contains(u'\n'), qUtf8Printable(problem));
+    QCOMPARE(contents(temporary_->path()), before);
+}
+
 void TestMachine::hostPathsStayThemselves()
 {
     const auto machine = Machine::create(folder());
@@ -512,6 +602,24 @@ void TestMachine::placesTools()
     machine->placeTools(other);
     for (const QFileInfo &file : QDir(machine->toolsFolder()).entryInfoList(QDir::Files))
         QCOMPARE(readFile(file.filePath()), QByteArray("another program"));
+}
+
+void TestMachine::whatIsNoToolIsRemoved()
+{
+    const auto machine = Machine::create(folder());
+    const QString stockTool = temporary_->filePath(u"stock tool"_s);
+    writeFile(stockTool, "program");
+    machine->placeTools(stockTool);
+    const QFileInfoList placed = QDir(machine->toolsFolder()).entryInfoList(QDir::Files);
+    // As long as the tool, and newer; a library that a tool would find beside it; and a folder.
+    QVERIFY(QFile::remove(placed.first().filePath()));
+    writeFile(placed.first().filePath(), "foreign");
+    writeFile(machine->toolsFolder() + u"/version.dll"_s, "foreign");
+    writeFile(machine->toolsFolder() + u"/folder/file"_s, "foreign");
+    machine->placeTools(stockTool);
+    QCOMPARE(QDir(machine->toolsFolder()).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot), placed);
+    QCOMPARE(readFile(placed.first().filePath()), QByteArray("program"));
+    QCOMPARE(readFile(stockTool), QByteArray("program"));
 }
 
 void TestMachine::controlSetsAreOneKey()

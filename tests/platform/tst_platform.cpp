@@ -56,6 +56,7 @@ private Q_SLOTS:
     void walkTakesABareDriveAsItsRoot();
     void walkLeavesOutHiddenEntries();
     void walkNamesLinksAndDoesntFollow();
+    void walkLeavesOutWhatLeadsOut();
     void walkEndsWhenTheVisitorHasEnough();
     void walkOfWhatIsntThereGivesNothing();
     void walkOfADeepTree();
@@ -76,9 +77,12 @@ private Q_SLOTS:
     void startsItselfElevated();
     void startsNothingOfTheHost();
 
+    void withoutTheStockToolNoToolIsStarted();
     void environmentInEverySpelling();
+    void variablesThatNobodyAsksForStayOut();
     void environmentOfAFormerMachineGoes();
     void opensRegistryScripts();
+    void opensNoPageOfTheWeb();
 
     void dllStrings();
     void wmiTexts();
@@ -263,6 +267,20 @@ void TestPlatform::attributesOfFilesAndFolders()
     QCOMPARE(platform().fileAttributes(missing), 0x20u);
 }
 
+void TestPlatform::walkLeavesOutWhatLeadsOut()
+{
+#ifdef Q_OS_UNIX
+    const QString outside = temporary_->filePath(u"outside"_s);
+    writeFile(outside + u"/secret"_s, QByteArray(1234, 'x'));
+    QVERIFY(QFile::link(outside, drive() + u"/folder"_s));
+    QVERIFY(QFile::link(outside + u"/secret"_s, drive() + u"/file"_s));
+    QVERIFY(walked(u"C:"_s).isEmpty());
+    QVERIFY(walked(u"C:\\folder"_s).isEmpty());
+#else
+    QSKIP("links need a right of their own here");
+#endif
+}
+
 void TestPlatform::attributesOfALinkAreItsOwn()
 {
     const QString file = drive() + u"/file.txt"_s;
@@ -434,6 +452,20 @@ void TestPlatform::startsNothingOfTheHost()
     QVERIFY(!QFileInfo::exists(temporary_->filePath(u"record"_s)));
 }
 
+void TestPlatform::withoutTheStockToolNoToolIsStarted()
+{
+    SimulatedOptions options;
+    options.stockTool = temporary_->filePath(u"absent"_s);
+    contract_->restart(options);
+    const QString planted = contract_->machine().toolsFolder() + u"/sc"_s;
+    for (const QString &file : {planted, planted + u".exe"_s}) {
+        QFile::remove(file);
+        writeFile(file, "#!/bin/sh\n");
+        QVERIFY(QFile::setPermissions(file, QFile::ReadOwner | QFile::ExeOwner));
+    }
+    QCOMPARE(platform().programFile(u"sc"_s), QString());
+}
+
 void TestPlatform::environmentInEverySpelling()
 {
     const QByteArray path = qgetenv("PATH");
@@ -457,13 +489,36 @@ void TestPlatform::environmentInEverySpelling()
 
 void TestPlatform::environmentOfAFormerMachineGoes()
 {
-    contract_->machine().setEnvironment({{u"KestruneOld"_s, u"x"_s}, {u"KestruneBoth"_s, u"x"_s}});
+    contract_->machine().setEnvironment({{u"UserDomain"_s, u"x"_s}, {u"LocalAppData"_s, u"x"_s}});
     contract_->restart({});
-    QCOMPARE(qgetenv("KestruneOld"), QByteArray("x"));
-    contract_->machine().setEnvironment({{u"KestruneBoth"_s, u"y"_s}});
+    QCOMPARE(qgetenv("USERDOMAIN"), QByteArray("x"));
+    contract_->machine().setEnvironment({{u"LocalAppData"_s, u"y"_s}});
     contract_->restart({});
-    QVERIFY(!qEnvironmentVariableIsSet("KestruneOld") && !qEnvironmentVariableIsSet("KESTRUNEOLD"));
-    QCOMPARE(qgetenv("KESTRUNEBOTH"), QByteArray("y"));
+    QVERIFY(!qEnvironmentVariableIsSet("UserDomain") && !qEnvironmentVariableIsSet("USERDOMAIN"));
+    QCOMPARE(qgetenv("LOCALAPPDATA"), QByteArray("y"));
+}
+
+void TestPlatform::variablesThatNobodyAsksForStayOut()
+{
+    const char *const names[] = {"LD_PRELOAD", "LD_LIBRARY_PATH", "QT_PLUGIN_PATH", "PATHEXT", "ComSpec",
+                                 "TMP",        "TMPDIR"};
+    QMap<QString, QString> variables;
+    QMap<QString, QByteArray> before;
+    for (const char *name : names) {
+        variables.insert(QString::fromLatin1(name), u"/nowhere"_s);
+        before.insert(QString::fromLatin1(name), qgetenv(name));
+    }
+    contract_->machine().setEnvironment(variables);
+    contract_->restart({});
+    for (const char *name : names)
+        QCOMPARE(qgetenv(name), before.value(QString::fromLatin1(name)));
+}
+
+void TestPlatform::opensNoPageOfTheWeb()
+{
+    // Where there is a browser, it would open now, and nothing would be said.
+    QTest::ignoreMessage(QtInfoMsg, "A rehearsal opens no page of the web: https://kestrune.example/download.html");
+    QVERIFY(QDesktopServices::openUrl(QUrl(u"https://kestrune.example/download.html"_s)));
 }
 
 void TestPlatform::opensRegistryScripts()

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void copyIsAMachineOfItsOwn();
     void builtInMachine();
     void linksAndHiddenFilesComeToo();
+    void linksWithinLeadToTheCopysOwnFiles();
     void largeFilesKeepTheirSizeAndTheirHoles();
     void whatAnotherConnectionJustWroteIsInIt();
     void logOfCommandsStaysBehind();
@@ -78,6 +79,27 @@ void TestMachineCopy::linksAndHiddenFilesComeToo()
     const QString drive = source.beside(u"copy/drive_c"_s);
     QCOMPARE(QFileInfo(drive + u"/link"_s).symLinkTarget(), target);
     QVERIFY(QFileInfo::exists(drive + u"/.hidden"_s));
+}
+
+void TestMachineCopy::linksWithinLeadToTheCopysOwnFiles()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("links need a right of their own here");
+#endif
+    SmallMachine source;
+    const QString drive = source->driveFolder();
+    writeFile(drive + u"/file"_s, "as it was");
+    QVERIFY(QFile::link(drive + u"/file"_s, drive + u"/absolute"_s));
+    QVERIFY(QFile::link(u"file"_s, drive + u"/relative"_s));
+
+    copyMachine(*source, source.beside(u"copy"_s));
+
+    const auto copy = Machine::open(source.beside(u"copy"_s));
+    QCOMPARE(compareMachines(*source, *copy), QList<DiffRow>());
+    for (const QString &link : {u"C:\\absolute"_s, u"C:\\relative"_s})
+        writeFile(copy->hostPath(link), "changed");
+    QCOMPARE(readFile(copy->hostPath(u"C:\\file"_s)), QByteArray("changed"));
+    QCOMPARE(readFile(drive + u"/file"_s), QByteArray("as it was"));
 }
 
 void TestMachineCopy::largeFilesKeepTheirSizeAndTheirHoles()

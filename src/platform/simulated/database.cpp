@@ -51,6 +51,8 @@ Database::Database(const QString &file)
         sqlite3_busy_timeout(handle_, busyTimeout);
         // A rehearsal survives a crash of any program; after a power cut it is made anew.
         execute("PRAGMA synchronous = OFF");
+        // Files for a time would go where the machine's own environment says.
+        execute("PRAGMA temp_store = MEMORY");
     } catch (const MachineError &) {
         sqlite3_close_v2(handle_);
         throw;

@@ -11,20 +11,29 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/**
+ * What the logic asks for, in the spellings that it uses. No other variable of a machine is let in: LD_PRELOAD, for
+ * one, would have every tool run what it names.
+ */
 constexpr QStringView spellings[] = {
     u"windir",       u"WINDIR", u"WinDir",    u"SystemRoot",  u"programfiles", u"ProgramFiles(x86)",
     u"LOCALAPPDATA", u"temp",   u"homedrive", u"systemdrive", u"USERNAME",     u"USERDOMAIN",
 };
 
-/** What this process and its children need of the host to run at all. */
-constexpr QStringView hostVariables[] = {
-    u"PATH", u"HOME", u"USER", u"SHELL", u"LANG", u"DISPLAY", u"TMPDIR", u"XDG_RUNTIME_DIR", u"QT_QPA_PLATFORM",
-};
-
-bool isOfHost(const QString &name)
+bool isAskedFor(const QString &name)
 {
-    return std::any_of(std::begin(hostVariables), std::end(hostVariables),
+    return std::any_of(std::begin(spellings), std::end(spellings),
                        [&name](QStringView each) { return name.compare(each, Qt::CaseInsensitive) == 0; });
+}
+
+/** With all that the value has; the system's own code page lacks most of the world's letters on Windows. */
+void setVariable(const QString &name, const QString &value)
+{
+#ifdef Q_OS_WIN
+    _wputenv_s(qUtf16Printable(name), qUtf16Printable(value));
+#else
+    qputenv(name.toLocal8Bit().constData(), value.toLocal8Bit());
+#endif
 }
 
 QSet<QString> spellingsOf(const QString &name)
@@ -46,10 +55,10 @@ void enterEnvironment(const QMap<QString, QString> &variables)
         qunsetenv(name.toLocal8Bit().constData());
     entered.clear();
     for (auto each = variables.cbegin(); each != variables.cend(); ++each) {
-        if (isOfHost(each.key()))
+        if (!isAskedFor(each.key()))
             continue;
         for (const QString &name : spellingsOf(each.key())) {
-            qputenv(name.toLocal8Bit().constData(), each.value().toLocal8Bit());
+            setVariable(name, each.value());
             entered << name;
         }
     }

@@ -31,7 +31,7 @@ bool isDots(const char *name)
 }
 
 /** All entries at once, so that a deep tree doesn't hold a file open for each of its levels. */
-std::vector<Entry> entriesOf(const QByteArray &path)
+std::vector<Entry> entriesOf(const QByteArray &path, const std::function<bool(const QString &)> &leadsOut)
 {
     std::vector<Entry> entries;
     const std::unique_ptr<DIR, FolderCloser> folder(opendir(path.constData()));
@@ -43,7 +43,9 @@ std::vector<Entry> entriesOf(const QByteArray &path)
         if (isDots(each->d_name) || fstatat(descriptor, each->d_name, &status, AT_SYMLINK_NOFOLLOW) != 0)
             continue;
         const bool isFolder = S_ISDIR(status.st_mode);
-        if (S_ISLNK(status.st_mode) && fstatat(descriptor, each->d_name, &status, 0) != 0)
+        if (S_ISLNK(status.st_mode)
+            && (leadsOut(QFile::decodeName(path + '/' + each->d_name))
+                || fstatat(descriptor, each->d_name, &status, 0) != 0))
             continue;
         if (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode))
             entries.push_back({each->d_name, S_ISDIR(status.st_mode) ? 0 : status.st_size, isFolder});
@@ -53,15 +55,16 @@ std::vector<Entry> entriesOf(const QByteArray &path)
 
 /** False where the visitor has had enough. */
 bool walkBelow(const QByteArray &folder, const QString &folderPath, const QSet<QString> &hidden,
+               const std::function<bool(const QString &)> &leadsOut,
                const std::function<bool(const WalkEntry &)> &visit)
 {
-    for (const Entry &entry : entriesOf(folder)) {
+    for (const Entry &entry : entriesOf(folder, leadsOut)) {
         const QString path = folderPath + u'/' + QFile::decodeName(entry.name);
         if (!hidden.isEmpty() && hidden.contains(path))
             continue;
         if (!visit({path, entry.size}))
             return false;
-        if (entry.isFolder && !walkBelow(folder + '/' + entry.name, path, hidden, visit))
+        if (entry.isFolder && !walkBelow(folder + '/' + entry.name, path, hidden, leadsOut, visit))
             return false;
     }
     return true;
@@ -69,7 +72,9 @@ bool walkBelow(const QByteArray &folder, const QString &folderPath, const QSet<Q
 
 } // namespace
 
-void walkFolder(const QString &folder, const QSet<QString> &hidden, const std::function<bool(const WalkEntry &)> &visit)
+void walkFolder(const QString &folder, const QSet<QString> &hidden,
+                const std::function<bool(const QString &)> &leadsOut,
+                const std::function<bool(const WalkEntry &)> &visit)
 {
-    walkBelow(QFile::encodeName(folder), folder, hidden, visit);
+    walkBelow(QFile::encodeName(folder), folder, hidden, leadsOut, visit);
 }

@@ -7,10 +7,13 @@
 #include "machineschema.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+
+#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +23,11 @@ constexpr QStringView tools[] = {u"sc",  u"schtasks", u"powershell", u"taskkill"
                                  u"cmd", u"powercfg", u"bcdedit",    u"takeown",  u"icacls"};
 constexpr qint64 smallestDatabase = 512; // bytes; the least page there is
 const char *const stateFolders[] = {"drive_c", "program", "tools"};
+#ifdef Q_OS_WIN
+constexpr QLatin1StringView toolSuffix(".exe");
+#else
+constexpr QLatin1StringView toolSuffix("");
+#endif
 
 [[noreturn]] void fail(const QString &path, const QString &reason)
 {
@@ -73,10 +81,57 @@ void checkVersion(Database &database, const QString &path)
         fail(path, u"is damaged"_s);
 }
 
+/** What the machine has of its own is no link, which could lead out of it. The tools are made anew. */
+void checkOwnFiles(const QString &folder)
+{
+    constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+
+    QFileInfoList entries = QDir(folder).entryInfoList(everything);
+    QDirIterator program(folder + u"/program"_s, everything, QDirIterator::Subdirectories);
+    while (program.hasNext()) {
+        program.next();
+        entries.append(program.fileInfo());
+    }
+    for (const QFileInfo &entry : std::as_const(entries)) {
+        if (entry.isSymbolicLink() || entry.isJunction())
+            fail(entry.filePath(), u"is a link, and a machine has none there"_s);
+    }
+}
+
 /** A JSON text without the brackets that a document needs around it. */
 QByteArray jsonText(const QString &text)
 {
     return QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact).sliced(1).chopped(1);
+}
+
+/** Whether a file of the machine's is the stock tool, and no other program. */
+bool isStockTool(const QFileInfo &file, const QFileInfo &stockTool)
+{
+#ifdef Q_OS_WIN
+    std::error_code error;
+    if (std::filesystem::equivalent(file.filesystemFilePath(), stockTool.filesystemFilePath(), error))
+        return true;
+    if (file.size() != stockTool.size())
+        return false;
+    QFile placed(file.filePath());
+    QFile original(stockTool.filePath());
+    return placed.open(QIODevice::ReadOnly) && original.open(QIODevice::ReadOnly)
+           && placed.readAll() == original.readAll();
+#else
+    return file.symLinkTarget() == stockTool.absoluteFilePath();
+#endif
+}
+
+bool placeTool(const QFileInfo &stockTool, const QString &place)
+{
+#ifdef Q_OS_WIN
+    // A second name takes no room, but needs rights to the file and the same volume.
+    std::error_code error;
+    std::filesystem::create_hard_link(stockTool.filesystemFilePath(), QFileInfo(place).filesystemFilePath(), error);
+    return !error || QFile::copy(stockTool.absoluteFilePath(), place);
+#else
+    return QFile::link(stockTool.absoluteFilePath(), place);
+#endif
 }
 
 } // namespace
@@ -112,6 +167,7 @@ std::unique_ptr<Machine> Machine::open(const QString &folder)
     const QString path = cleanFolder(folder);
     const QString file = databaseFile(path);
     checkHeader(file);
+    checkOwnFiles(path);
     auto database = std::make_unique<Database>(file);
     checkVersion(*database, file);
     makeFolders(path); // empty ones get lost in some archives
@@ -140,22 +196,24 @@ QStringList Machine::toolNames()
 
 void Machine::placeTools(const QString &stockTool) const
 {
+    constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+
     const QFileInfo source(stockTool);
-    for (const QString &name : toolNames()) {
-#ifdef Q_OS_WIN
-        const QString place = toolsFolder() + u'/' + name + u".exe"_s;
-        const QFileInfo present(place);
-        const bool placed =
-            present.exists() && present.size() == source.size() && present.lastModified() >= source.lastModified();
-        const bool done = placed || (QFile::remove(place), QFile::copy(source.absoluteFilePath(), place));
-#else
+    QStringList missing;
+    for (const QString &name : toolNames())
+        missing << name + toolSuffix;
+    // Anything else there would be started for a tool, or loaded by one.
+    for (const QFileInfo &entry : QDir(toolsFolder()).entryInfoList(everything)) {
+        const bool isFolder = entry.isDir() && !entry.isSymLink();
+        if (missing.contains(entry.fileName()) && !isFolder && isStockTool(entry, source))
+            missing.removeAll(entry.fileName());
+        else if (!(isFolder ? QDir(entry.filePath()).removeRecursively() : QFile::remove(entry.filePath())))
+            fail(entry.filePath(), u"is no tool of a rehearsal machine, and can't be removed"_s);
+    }
+    for (const QString &name : std::as_const(missing)) {
         const QString place = toolsFolder() + u'/' + name;
-        const bool placed = QFileInfo(place).symLinkTarget() == source.absoluteFilePath();
-        if (!placed)
-            QFile::remove(place);
-        const bool done = placed || QFile::link(source.absoluteFilePath(), place);
-#endif
-        if (!done)
+        // Another process may have been quicker.
+        if (!placeTool(source, place) && !isStockTool(QFileInfo(place), source))
             fail(place, u"can't be written"_s);
     }
 }

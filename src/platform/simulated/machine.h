@@ -158,12 +158,18 @@ public:
     /** Appends a line to commands.log. */
     void logCommand(const QString &program, const QStringList &arguments, int exitCode) const;
 
-    /** The file behind a Windows path, see Platform::hostPath. */
+    /**
+     * The file behind a Windows path, see Platform::hostPath. Always in the machine's folder: what a link out of it
+     * would lead to gives a path at which nothing is and nothing can be made.
+     */
     QString hostPath(const QString &windowsPath) const;
     /** The Windows path of a file below drive_c, with backslashes and its drive; others stay as they are. */
     QString windowsPath(const QString &hostPath) const;
 
-    /** Puts the stock tools into tools/, each a link to or a copy of the given program. */
+    /** Whether a link, or a link on the way to a file, leads out of the machine, given by its host path. */
+    bool leadsOut(const QString &hostPath) const;
+
+    /** Puts the stock tools into tools/, each a link to or a copy of the given program; nothing else stays there. */
     void placeTools(const QString &stockTool) const;
     static QStringList toolNames();
 
@@ -177,6 +183,7 @@ private:
 
     Machine(const QString &folder, std::unique_ptr<Database> database);
     Location locate(const QString &path) const;
+    QString placeOf(const QString &windowsPath) const;
     QString pathKey(const QString &path) const;
     QStringView belowDriveC(const QString &hostPath) const;
     quint32 attributeWord(const QString &path, bool isFolder) const;

@@ -48,6 +48,11 @@ bool isPresent(const QString &path)
     return info.exists() || info.isSymLink();
 }
 
+bool isLink(const QFileInfo &entry)
+{
+    return entry.isSymbolicLink() || entry.isJunction();
+}
+
 /** The entry of a folder by its name in another case; the first in order where there are several. */
 QString entryLike(const QString &folder, const QString &name)
 {
@@ -95,6 +100,32 @@ Machine::Location Machine::locate(const QString &path) const
 }
 
 QString Machine::hostPath(const QString &windowsPath) const
+{
+    const QString path = placeOf(windowsPath);
+    // Below a file there is nothing, whoever asks.
+    return leadsOut(path) ? folder_ + u"/machine.sqlite/outside"_s : path;
+}
+
+bool Machine::leadsOut(const QString &hostPath) const
+{
+    for (qsizetype end = folder_.size(); end >= 0;) {
+        end = hostPath.indexOf(u'/', end + 1);
+        const QString path = end < 0 ? hostPath : hostPath.first(end);
+        const QFileInfo entry(path);
+        if (isLink(entry)) {
+            // One without a target might get one outside.
+            const QString target = entry.canonicalFilePath();
+            if (!target.startsWith(QFileInfo(folder_).canonicalFilePath() + u'/'))
+                return true;
+        } else if (!entry.exists()) {
+            return false;
+        }
+    }
+    return false;
+}
+
+/** Where a file lies, whatever links are on the way. */
+QString Machine::placeOf(const QString &windowsPath) const
 {
     // A file that a walk named stays itself, even one with a backslash in its name.
     const bool below = hostTellsCase && windowsPath.startsWith(folder_ + u'/');

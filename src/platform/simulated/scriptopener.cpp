@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What opens the registry scripts of a rehearsal, as the registry editor does on Windows.
+// What opens for the window of a rehearsal: registry scripts, as the registry editor does on Windows, and nothing else.
 
 #include "scriptopener.h"
 
@@ -15,6 +15,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const ScriptOpener *current = nullptr; // a later one takes over before the former goes
+// A page in the web would be shown by a program of the host's.
+const QString schemes[] = {u"file"_s, u"http"_s, u"https"_s, u"mailto"_s};
 
 } // namespace
 
@@ -22,7 +24,8 @@ ScriptOpener::ScriptOpener(Machine &machine, bool elevated)
     : machine_(machine)
     , elevated_(elevated)
 {
-    QDesktopServices::setUrlHandler(u"file"_s, this, "open");
+    for (const QString &scheme : schemes)
+        QDesktopServices::setUrlHandler(scheme, this, "open");
     current = this;
 }
 
@@ -31,12 +34,17 @@ ScriptOpener::~ScriptOpener()
     // After the application Qt's own list of handlers is gone, too.
     if (current != this || !QCoreApplication::instance())
         return;
-    QDesktopServices::unsetUrlHandler(u"file"_s);
+    for (const QString &scheme : schemes)
+        QDesktopServices::unsetUrlHandler(scheme);
     current = nullptr;
 }
 
 void ScriptOpener::open(const QUrl &address)
 {
+    if (!address.isLocalFile()) {
+        qInfo("A rehearsal opens no page of the web: %s", qUtf8Printable(address.toString()));
+        return;
+    }
     const QString path = address.toLocalFile();
     if (!elevated_ || !path.endsWith(u".reg", Qt::CaseInsensitive))
         return;

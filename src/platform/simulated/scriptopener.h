@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What opens the registry scripts of a rehearsal, as the registry editor does on Windows.
+// What opens for the window of a rehearsal: registry scripts, as the registry editor does on Windows, and nothing else.
 
 #pragma once
 
@@ -8,7 +8,7 @@
 
 class Machine;
 
-/** The handler of file addresses for QDesktopServices, as long as it lives. */
+/** The handler of file and web addresses for QDesktopServices, as long as it lives. */
 class ScriptOpener final : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     ScriptOpener(Machine &machine, bool elevated);
     ~ScriptOpener() override;
 
-    /** Imports a .reg file, if elevated; any other file is ignored, since nothing of the host is to be opened. */
+    /** Imports a .reg file, if elevated; all else is ignored, since no program of the host is to open it. */
     Q_INVOKABLE void open(const QUrl &address);
 
 private:

@@ -93,6 +93,8 @@ SimulatedPlatform::SimulatedPlatform(const QString &machineFolder, SimulatedOpti
         options_.stockTool = QCoreApplication::applicationDirPath() + u"/kestrune-stocktool"_s + executableSuffix;
     if (QFileInfo::exists(options_.stockTool))
         machine_->placeTools(options_.stockTool);
+    else
+        options_.stockTool.clear(); // and what lies in the machine in its place isn't started
     enterEnvironment(machine_->environment());
     // For the tools, and for this program when it is started anew.
     qputenv("KESTRUNE_MACHINE", machine_->folder().toLocal8Bit());
@@ -131,7 +133,9 @@ void SimulatedPlatform::walk(const QString &windowsPath, const std::function<boo
 {
     const AttributeWords::Walk together(attributes_);
     const QStringList hidden = guarded(QStringList(), [this] { return machine_->pathsWithAttribute(hiddenBit); });
-    walkFolder(hostPath(windowsPath), QSet<QString>(hidden.cbegin(), hidden.cend()), visit);
+    walkFolder(
+        hostPath(windowsPath), QSet<QString>(hidden.cbegin(), hidden.cend()),
+        [this](const QString &link) { return machine_->leadsOut(link); }, visit);
 }
 
 quint32 SimulatedPlatform::fileAttributes(const QString &file) const
@@ -152,7 +156,7 @@ QString SimulatedPlatform::programFile(const QString &program) const
 QString SimulatedPlatform::resolvedProgram(const QString &program) const
 {
     const QString tool = toolOf(program);
-    if (tool.isEmpty())
+    if (tool.isEmpty() || options_.stockTool.isEmpty())
         return {};
     const std::optional<ToolFault> fault = machine_->fault(tool);
     if (fault && fault->missing)

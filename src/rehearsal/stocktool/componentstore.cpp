@@ -41,9 +41,12 @@ std::optional<Component> parseComponent(const QString &folder)
 
 int removeSupersededComponents(const QString &storeFolder)
 {
+    // What a link leads to isn't the store's.
+    constexpr auto everything = QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::NoSymLinks;
+
     QList<Component> components;
     QMap<QString, QVersionNumber> highest;
-    for (const QString &folder : QDir(storeFolder).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden)) {
+    for (const QString &folder : QDir(storeFolder).entryList(everything)) {
         if (const std::optional<Component> component = parseComponent(folder)) {
             components.append(*component);
             QVersionNumber &version = highest[component->identity];
