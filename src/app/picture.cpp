@@ -3,6 +3,7 @@
 // With a button's object name it is clicked first, and its job is waited for.
 
 #include "platform/simulated/simulatedplatform.h"
+#include "rehearsal/interruption.h"
 #include "standinfonts.h"
 #include "window/kestrune.h"
 
@@ -21,18 +22,34 @@ bool isIdle(const Kestrune &window)
     return std::none_of(workers.begin(), workers.end(), [](const WorkThread *worker) { return worker->isRunning(); });
 }
 
+/** Ends what is under way where the program is broken off, and throws. */
+void endIfInterrupted(const Kestrune &window)
+{
+    if (!isInterrupted())
+        return;
+    for (WorkThread *worker : window.findChildren<WorkThread *>()) {
+        worker->requestInterruption();
+        worker->wait();
+    }
+    stopIfInterrupted();
+}
+
+/** A moment for what is under way. */
+void pass(const Kestrune &window, unsigned long milliseconds)
+{
+    endIfInterrupted(window);
+    QThread::msleep(milliseconds);
+    QCoreApplication::processEvents();
+}
+
 /** Lets the page's job come to its end, and its last lines arrive. */
 void settle(const Kestrune &window)
 {
     constexpr int patience = 60000;
-    for (int waited = 0; waited < patience && !isIdle(window); waited += 20) {
-        QThread::msleep(20);
-        QCoreApplication::processEvents();
-    }
-    for (int round = 0; round < 10; ++round) {
-        QThread::msleep(10);
-        QCoreApplication::processEvents();
-    }
+    for (int waited = 0; waited < patience && !isIdle(window); waited += 20)
+        pass(window, 20);
+    for (int round = 0; round < 10; ++round)
+        pass(window, 10);
 }
 
 /** Shows "PAGE" or "PAGE:BUTTON"; false where the window has no such button. */
@@ -73,6 +90,7 @@ int main(int argc, char **argv)
 {
     constexpr int noMachine = 3;
 
+    watchForInterruption();
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments().sliced(1);
     if (arguments.size() < 3 || arguments.size() % 2 == 0) {
@@ -87,9 +105,13 @@ int main(int argc, char **argv)
         qCritical("kestrune-picture: %s", qUtf8Printable(error.message));
         return noMachine;
     }
-    Kestrune window;
-    window.screenName = u"\\\\.\\DISPLAY1"_s; // as Windows calls it; the screen here has no name
-    window.show();
-    settle(window);
-    return savePictures(window, arguments.sliced(1));
+    try {
+        Kestrune window;
+        window.screenName = u"\\\\.\\DISPLAY1"_s; // as Windows calls it; the screen here has no name
+        window.show();
+        settle(window);
+        return savePictures(window, arguments.sliced(1));
+    } catch (const Interrupted &interrupted) {
+        return interrupted.exitCode;
+    }
 }

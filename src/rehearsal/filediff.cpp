@@ -2,6 +2,7 @@
 
 #include "filediff.h"
 
+#include "interruption.h"
 #include <QCryptographicHash>
 #include <QDirIterator>
 #include <QFile>
@@ -44,6 +45,7 @@ Tree treeOf(const QString &machine, const QString &name, const QString &shown)
     Tree tree;
     QDirIterator walk(folder, everything, QDirIterator::Subdirectories);
     while (walk.hasNext()) {
+        stopIfInterrupted();
         walk.next();
         const QFileInfo info = walk.fileInfo();
         Entry entry;
@@ -116,6 +118,7 @@ void compareTrees(const Tree &before, const Tree &after, QList<DiffRow> &rows)
     Tree all = after;
     all.insert(before);
     for (auto it = all.begin(); it != all.end(); ++it) {
+        stopIfInterrupted();
         const auto left = before.find(it.key());
         const auto right = after.find(it.key());
         if (left != before.end() && right != after.end()) {

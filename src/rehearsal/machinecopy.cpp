@@ -2,6 +2,7 @@
 
 #include "machinecopy.h"
 
+#include "interruption.h"
 #include "platform/simulated/database.h"
 #include "platform/simulated/filehole.h"
 
@@ -47,6 +48,7 @@ void copyFile(const QString &from, const QString &to)
     for (qint64 offset = nextData(source, 0); offset < source.size(); offset = nextData(source, offset)) {
         if (!source.seek(offset))
             fail(source);
+        stopIfInterrupted();
         const QByteArray block = source.read(blockSize);
         if (block.isEmpty())
             fail(source);
@@ -77,6 +79,7 @@ void copyTree(const QString &from, const QString &to, const MachineFolders &fold
     QDirIterator walk(from, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                       QDirIterator::Subdirectories);
     while (walk.hasNext()) {
+        stopIfInterrupted();
         const QString path = walk.next();
         const QString place = to + path.mid(from.size());
         if (walk.fileInfo().isSymbolicLink())

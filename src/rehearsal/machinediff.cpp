@@ -3,6 +3,7 @@
 #include "machinediff.h"
 
 #include "filediff.h"
+#include "interruption.h"
 #include "platform/simulated/database.h"
 #include "registrydiff.h"
 #include "taskdocument.h"
@@ -63,6 +64,7 @@ void compareTasks(const Machine &before, const Machine &after, QList<DiffRow> &r
             paths.insert(foldName(path), path);
     }
     for (const QString &path : paths) {
+        stopIfInterrupted();
         const std::optional<ScheduledTask> left = before.task(path);
         const std::optional<ScheduledTask> right = after.task(path);
         if (left && right && left->document == right->document)

@@ -29,7 +29,8 @@ QString kindName(DiffKind kind);
  * Every registry key and value (by type and bytes), run state of a service, scheduled task (its switch, and the rest of
  * its document), file and folder of the drives and of the program folder (size, and content up to 1 MiB) file
  * attribute, owner and rights of a file, and option of the boot configuration that differs; sorted by kind and path. A
- * key or folder has a row of its own only where it is empty. Changes nothing in either. Throws MachineError.
+ * key or folder has a row of its own only where it is empty. Changes nothing in either. Throws
+ * MachineError and Interrupted.
  */
 QList<DiffRow> compareMachines(Machine &before, Machine &after, const ProgressCallback &progress = {});
 /** The same but for the registry, which is most of the work. */

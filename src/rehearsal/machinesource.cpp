@@ -3,6 +3,7 @@
 #include "machinesource.h"
 
 #include "filechanges.h"
+#include "interruption.h"
 #include "machinejson.h"
 #include "platform/simulated/database.h"
 #include "platform/simulated/regfile.h"
@@ -79,7 +80,8 @@ void Import::file(const QString &path)
     const QByteArray bytes = readFile(path);
     const QString text = decoded(bytes);
     if (isRegistryScript(path, text))
-        applyRegistryScript(machine_.database(), machine_.registry(), parseRegistryScript(bytes, path));
+        applyRegistryScript(machine_.database(), machine_.registry(), parseRegistryScript(bytes, path),
+                            stopIfInterrupted);
     else if (isTaskExport(path, bytes))
         apply(parseTaskExport(bytes, path));
     else if (path.endsWith(".json"_L1, Qt::CaseInsensitive) || text.trimmed().startsWith(u'{'))
@@ -137,6 +139,7 @@ void Import::apply(const QList<FileDescription> &files)
 {
     int done = 0;
     for (const FileDescription &file : files) {
+        stopIfInterrupted();
         if (progress_)
             progress_(file.path, done++, static_cast<int>(files.size()));
         const QString host = machine_.hostPath(file.path);
@@ -164,8 +167,10 @@ void Import::apply(const QList<ServiceReport> &services)
 
 void Import::apply(const QList<ScheduledTask> &tasks)
 {
-    for (const ScheduledTask &task : tasks)
+    for (const ScheduledTask &task : tasks) {
+        stopIfInterrupted();
         machine_.setTask(task);
+    }
 }
 
 void Import::addDll(const QString &path, const QMap<uint, QString> &strings)
@@ -260,6 +265,7 @@ void importFiles(Machine &machine, const QStringList &files, const ProgressCallb
     Import import(machine, progress);
     int done = 0;
     for (const QString &file : files) {
+        stopIfInterrupted();
         if (progress)
             progress(file, done++, static_cast<int>(files.size()));
         import.file(file);

@@ -16,15 +16,16 @@ enum class Existing { Keep, Replace };
 /**
  * Makes a machine from a folder of sources: all its .reg files in the order of their names, then its tasks.xml and
  * its machine.json. An empty @p sources makes an empty machine. A machine comes to be as a whole or not at all.
- * Throws MachineError, also where @p folder holds something that may not be replaced: only a machine ever is.
+ * Throws Interrupted, and MachineError, also where @p folder holds something that may not be replaced: only a machine
+ * ever is.
  */
 void makeMachine(const QString &folder, const QString &sources, Existing existing,
                  const ProgressCallback &progress = {});
 
 /**
  * Imports a registry script, a machine.json, or what "sc query state= all" or "schtasks /xml" printed on a PC, told
- * apart by their content. What the file names is set, the rest stays. Throws MachineError, and leaves the machine as it
- * was then.
+ * apart by their content. What the file names is set, the rest stays. Throws MachineError and Interrupted, and leaves
+ * the machine as it was then.
  */
 void importFile(Machine &machine, const QString &file, const ProgressCallback &progress = {});
 /** Imports several, together or not at all. */

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse: makes rehearsal machines, runs the logic on them, shows what it changes.
 
+#include "interruption.h"
 #include "platform/simulated/machine.h"
 #include "rehearse/examples.h"
 #include "rehearse/subcommands.h"
@@ -108,19 +109,18 @@ int run(const QStringList &words)
         Arguments(words.mid(1), subcommand.options, subcommand.fewestOperands, subcommand.mostOperands));
 }
 
+/** Whatever fails once the program is broken off may fail of that, and isn't told. */
 void complain(const QString &message)
 {
+    stopIfInterrupted();
     std::fflush(stdout);
     std::fprintf(stderr, "%s: %s\n", program.data(), message.toUtf8().constData());
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+int runAndComplain(const QStringList &words)
 {
-    const QCoreApplication application(argc, argv);
     try {
-        const int code = run(QCoreApplication::arguments().mid(1));
+        const int code = run(words);
         if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
             throw Failure{ExitJobFailed, u"standard output can't be written"_s};
         return code;
@@ -134,5 +134,18 @@ int main(int argc, char *argv[])
     } catch (const MachineError &error) {
         complain(error.message);
         return ExitJobFailed;
+    }
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    watchForInterruption();
+    const QCoreApplication application(argc, argv);
+    try {
+        return runAndComplain(QCoreApplication::arguments().mid(1));
+    } catch (const Interrupted &interrupted) {
+        return interrupted.exitCode;
     }
 }

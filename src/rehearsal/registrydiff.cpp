@@ -2,6 +2,7 @@
 
 #include "registrydiff.h"
 
+#include "interruption.h"
 #include "registrydisplay.h"
 
 #include <array>
@@ -33,6 +34,7 @@ public:
 
     void compare(const QString &path, std::optional<KeyId> before, std::optional<KeyId> after)
     {
+        stopIfInterrupted();
         const QList<RegistryValue> valuesBefore = before ? before_.values(*before) : QList<RegistryValue>();
         const QList<RegistryValue> valuesAfter = after ? after_.values(*after) : QList<RegistryValue>();
         const Subkeys keysBefore = before ? before_.subkeysByName(*before) : Subkeys();

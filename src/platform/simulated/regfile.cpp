@@ -8,12 +8,14 @@
 
 using namespace Qt::StringLiterals;
 
-void applyRegistryScript(Database &database, RegistryStore &store, const QList<RegistryEdit> &edits)
+void applyRegistryScript(Database &database, RegistryStore &store, const QList<RegistryEdit> &edits, void (*eachStep)())
 {
     Database::Transaction transaction(database);
     RegistryStore::KeyId key = 0;
     QString keyPath; // of the key, which many edits in a row share
     for (const RegistryEdit &edit : edits) {
+        if (eachStep != nullptr)
+            eachStep();
         if (edit.kind == RegistryEdit::Kind::RemoveKey) {
             if (const std::optional<RegistryStore::KeyId> removed = store.find(edit.key))
                 store.removeKey(*removed);

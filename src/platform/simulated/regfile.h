@@ -21,8 +21,12 @@ struct RegistryEdit
  * MachineError with the file's name, the line and the reason.
  */
 QList<RegistryEdit> parseRegistryScript(const QByteArray &bytes, const QString &fileName);
-/** Carries out a script as a whole, or not at all. */
-void applyRegistryScript(Database &database, RegistryStore &store, const QList<RegistryEdit> &edits);
+/**
+ * Carries out a script as a whole, or not at all.
+ * @param eachStep called before each edit; it may throw to give up
+ */
+void applyRegistryScript(Database &database, RegistryStore &store, const QList<RegistryEdit> &edits,
+                         void (*eachStep)() = nullptr);
 /**
  * The key and all below it as a script of version 5.00: UTF-8 text with LF line ends, sorted. A key that isn't there
  * gives a script without keys.

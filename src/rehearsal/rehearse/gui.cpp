@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse gui
 
+#include "childprocess.h"
 #include "platform/simulated/machine.h"
 #include "subcommands.h"
 
@@ -27,9 +28,9 @@ int runGui(const Arguments &arguments)
     window.setProcessEnvironment(environment);
     window.setProcessChannelMode(QProcess::ForwardedChannels);
     window.start(program, QStringList());
-    if (!window.waitForFinished(-1))
+    if (!waitForEnd(window))
         throw Failure{ExitJobFailed, u"%1: %2"_s.arg(program, window.errorString())};
-    return window.exitStatus() == QProcess::NormalExit ? window.exitCode() : ExitJobFailed;
+    return window.exitCode();
 }
 
 constexpr OptionRow options[] = {

@@ -2,11 +2,14 @@
 
 #include "jobrunner.h"
 
+#include "rehearsal/interruption.h"
 #include "subcommands.h"
+#include "work/interruption.h"
 
 #include <QEventLoop>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -52,8 +55,32 @@ std::optional<QString> runToEnd(WorkThread &worker, int job, LinePrinter &printe
     });
     // Queued behind the lines that are under way.
     QObject::connect(&worker, &QThread::finished, &loop, &QEventLoop::quit, Qt::QueuedConnection);
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &worker, [&worker] {
+        if (isInterrupted())
+            worker.requestInterruption();
+    });
+    watch.start(interruptionSlice);
     worker.startJob(job);
     loop.exec();
     worker.wait();
+    stopIfInterrupted();
     return last;
+}
+
+void runToEnd(const std::function<void()> &work)
+{
+    const std::unique_ptr<QThread> thread(QThread::create([&work] {
+        try {
+            work();
+        } catch (const JobInterrupted &) {
+            // The one who asked for it waits below.
+        }
+    }));
+    thread->start();
+    while (!thread->wait(interruptionSlice)) {
+        if (isInterrupted())
+            thread->requestInterruption();
+    }
+    stopIfInterrupted();
 }

@@ -6,6 +6,7 @@
 #include "progress.h"
 #include "work/workthread.h"
 
+#include <functional>
 #include <optional>
 
 /** Prints the lines as they come: "signal<TAB>line", or an object of JSON each. */
@@ -30,9 +31,11 @@ private:
 };
 
 /**
- * Runs a job to its end.
+ * Runs a job to its end. Throws Interrupted where the program is broken off, and the job has ended early.
  * @param record takes each line of valueChanged, as the window does for its records
  * @return the job's last line; nothing where it has sent none
  */
 std::optional<QString> runToEnd(WorkThread &worker, int job, LinePrinter &printer,
                                 void (*record)(const QString &line) = nullptr);
+/** Runs, on a thread of its own, what of a worker is no job and takes its time; it can be broken off likewise. */
+void runToEnd(const std::function<void()> &work);

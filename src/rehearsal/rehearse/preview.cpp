@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse preview
 
+#include "childprocess.h"
 #include "platform/simulated/machine.h"
 #include "progress.h"
+#include "rehearsal/interruption.h"
 #include "rehearsal/machinecopy.h"
 #include "rehearsal/preview/previewreport.h"
 #include "rehearsal/preview/undo.h"
@@ -25,8 +27,10 @@ bool runOnCopy(const QString &copy, const QString &job, const QStringList &optio
 {
     QProcess process;
     process.start(QCoreApplication::applicationFilePath(), QStringList{u"run"_s, copy, job} + options);
-    if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit)
+    if (!waitForEnd(process))
         throw Failure{ExitJobFailed, u"%1: %2"_s.arg(job, process.errorString())};
+    if (tellsInterruption(process.exitCode()))
+        throw Interrupted{process.exitCode()};
     const QString errors = QString::fromUtf8(process.readAllStandardError()).trimmed();
     if (errors.endsWith("no optimizations found"_L1))
         return false;

@@ -3,6 +3,7 @@
 #include "progress.h"
 
 #include "rehearsal/console.h"
+#include "rehearsal/interruption.h"
 
 #include <QDeadlineTimer>
 
@@ -25,6 +26,7 @@ void Progress::show(const QString &step, int done, int total)
     constexpr qint64 interval = 50;
     constexpr qsizetype width = 70;
 
+    stopIfInterrupted();
     if (!terminal_)
         return;
     // A terminal is slower than most steps.

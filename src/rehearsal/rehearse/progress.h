@@ -14,6 +14,7 @@ public:
     ~Progress();
     Q_DISABLE_COPY_MOVE(Progress)
 
+    /** Also where the program stops if it is broken off: throws Interrupted. */
     void show(const QString &step, int done, int total);
     /** Takes the line away, for other output to come. */
     void clear();

@@ -62,7 +62,7 @@ void runTweak(WorkThread &worker, const TweakRequest &tweak, LinePrinter &printe
     if (const std::optional<int> job = tweak.job())
         runToEnd(worker, *job, printer);
     else
-        (worker.*tweak.run)(tweak.apply ? 1 : 0, tweak.id);
+        runToEnd([&] { (worker.*tweak.run)(tweak.apply ? 1 : 0, tweak.id); });
     printer.take("tweak"_L1, u"%1 %2 %3"_s.arg(tweak.group).arg(tweak.id).arg(tweak.apply ? "on"_L1 : "off"_L1));
     if (worker.needReboot == 1)
         printer.take("tweak"_L1, u"restart needed"_s);

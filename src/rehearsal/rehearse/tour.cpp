@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse tour
 
+#include "childprocess.h"
 #include "platform/simulated/machine.h"
 #include "progress.h"
 #include "rehearsal/machinecopy.h"
@@ -54,10 +55,13 @@ QStringList takePictures(const Machine &machine, QLatin1StringView theme, const 
     QProcess pictures;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    // Without a session Qt would make a folder for it, and leave it there.
+    if (!environment.contains(u"XDG_RUNTIME_DIR"_s))
+        environment.insert(u"XDG_RUNTIME_DIR"_s, work.path());
     pictures.setProcessEnvironment(environment);
     pictures.setProcessChannelMode(QProcess::ForwardedChannels);
     pictures.start(pictureProgram(), arguments);
-    if (!pictures.waitForFinished(-1) || pictures.exitStatus() != QProcess::NormalExit || pictures.exitCode() != 0)
+    if (!waitForEnd(pictures) || pictures.exitCode() != 0)
         throw Failure{ExitJobFailed, u"the pictures in the theme %1 can't be taken"_s.arg(theme)};
     return files;
 }
