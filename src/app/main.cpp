@@ -6,6 +6,7 @@
 #ifdef KESTRUNE_REAL_MACHINE
 #include "platform/windows/windowsplatform.h"
 #else
+#include "pictures.h"
 #include "platform/simulated/simulatedplatform.h"
 #endif
 #ifndef Q_OS_WIN
@@ -29,6 +30,12 @@ bool choosePlatform()
 
 #else
 
+/** How pictures are asked for; the rest of the arguments is what takePictures() takes. */
+bool isForPictures()
+{
+    return QCoreApplication::arguments().value(1) == "--pictures"_L1;
+}
+
 /** The environment names the machine; kestrune-rehearse sets it. */
 bool choosePlatform()
 {
@@ -40,7 +47,7 @@ bool choosePlatform()
     try {
         SimulatedOptions options;
         options.elevated = qEnvironmentVariable("KESTRUNE_ELEVATED", u"1"_s) != "0"_L1;
-        options.pace = 1;
+        options.pace = isForPictures() ? 0 : 1;
         setPlatform(std::make_unique<SimulatedPlatform>(folder, options));
     } catch (const MachineError &error) {
         qCritical("kestrune: %s", qUtf8Printable(error.message));
@@ -64,6 +71,10 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationVersion(u"0.3.14"_s);
     if (!choosePlatform())
         return noMachine;
+#ifndef KESTRUNE_REAL_MACHINE
+    if (isForPictures())
+        return takePictures(QCoreApplication::arguments().sliced(2));
+#endif
 
     Kestrune window;
     if (window.hasLeft())

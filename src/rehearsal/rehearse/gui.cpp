@@ -4,10 +4,9 @@
 #include "childprocess.h"
 #include "platform/simulated/machine.h"
 #include "subcommands.h"
+#include "windowprogram.h"
 
-#include <QCoreApplication>
 #include <QProcess>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -16,16 +15,9 @@ namespace {
 int runGui(const Arguments &arguments)
 {
     const QString folder = openMachine(arguments.operand(0))->folder();
-    // On Windows a program of its own, for kestrune itself works on the real PC there.
-    const QString name = QStringLiteral(KESTRUNE_WINDOW_PROGRAM);
-    const QString program = QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()});
-    if (program.isEmpty())
-        throw Failure{ExitJobFailed, u"the program %1 is missing beside this one"_s.arg(name)};
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"KESTRUNE_MACHINE"_s, folder);
-    environment.insert(u"KESTRUNE_ELEVATED"_s, arguments.has("not-elevated"_L1) ? u"0"_s : u"1"_s);
+    const QString program = windowProgram();
     QProcess window;
-    window.setProcessEnvironment(environment);
+    window.setProcessEnvironment(windowEnvironment(folder, !arguments.has("not-elevated"_L1)));
     window.setProcessChannelMode(QProcess::ForwardedChannels);
     window.start(program, QStringList());
     if (!waitForEnd(window))

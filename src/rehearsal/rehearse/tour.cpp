@@ -6,11 +6,10 @@
 #include "progress.h"
 #include "rehearsal/machinecopy.h"
 #include "subcommands.h"
+#include "windowprogram.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -21,15 +20,6 @@ constexpr QLatin1StringView pages[] = {
     "optimizer"_L1, "services"_L1, "tasks"_L1,   "autorun"_L1, "packages"_L1,
     "features"_L1,  "system"_L1,   "options"_L1, "about"_L1,
 };
-
-QString pictureProgram()
-{
-    const QString name = u"kestrune-picture"_s;
-    const QString program = QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()});
-    if (program.isEmpty())
-        throw Failure{ExitJobFailed, u"the program %1 is missing beside this one"_s.arg(name)};
-    return program;
-}
 
 void setTheme(Machine &machine, QLatin1StringView theme)
 {
@@ -46,21 +36,22 @@ QStringList takePictures(const Machine &machine, QLatin1StringView theme, const 
     copyMachine(machine, copy);
     setTheme(*Machine::open(copy), theme);
 
-    QStringList arguments{copy};
+    QStringList arguments{u"--pictures"_s};
     QStringList files;
     for (const QLatin1StringView page : pages) {
+        arguments << QString::number(files.size());
         files.append(folder.filePath(u"%1-%2.png"_s.arg(theme, page)));
-        arguments << QString::number(files.size() - 1) << files.last();
+        arguments << files.last();
     }
     QProcess pictures;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    QProcessEnvironment environment = windowEnvironment(copy, true);
+    environment.insert(u"QT_QPA_PLATFORM"_s, QStringLiteral(KESTRUNE_PICTURE_PLATFORM));
     // Without a session Qt would make a folder for it, and leave it there.
     if (!environment.contains(u"XDG_RUNTIME_DIR"_s))
         environment.insert(u"XDG_RUNTIME_DIR"_s, work.path());
     pictures.setProcessEnvironment(environment);
     pictures.setProcessChannelMode(QProcess::ForwardedChannels);
-    pictures.start(pictureProgram(), arguments);
+    pictures.start(windowProgram(), arguments);
     if (!waitForEnd(pictures) || pictures.exitCode() != 0)
         throw Failure{ExitJobFailed, u"the pictures in the theme %1 can't be taken"_s.arg(theme)};
     return files;

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Saves pictures of pages of the window on a rehearsal machine: kestrune-picture DIR PAGE[:BUTTON] FILE...
-// With a button's object name it is clicked first, and its job is waited for.
 
-#include "platform/simulated/simulatedplatform.h"
+#include "pictures.h"
+
 #include "rehearsal/interruption.h"
-#include "standinfonts.h"
 #include "window/kestrune.h"
 
 #include <QApplication>
@@ -73,11 +71,11 @@ int savePictures(Kestrune &window, const QStringList &pairs)
 {
     for (qsizetype i = 0; i < pairs.size(); i += 2) {
         if (!show(window, pairs.at(i))) {
-            qCritical("kestrune-picture: %s: there is no such button", qUtf8Printable(pairs.at(i)));
+            qCritical("kestrune: %s: there is no such button", qUtf8Printable(pairs.at(i)));
             return badArguments;
         }
         if (!window.grab().save(pairs.at(i + 1))) {
-            qCritical("kestrune-picture: %s: can't be written", qUtf8Printable(pairs.at(i + 1)));
+            qCritical("kestrune: %s: can't be written", qUtf8Printable(pairs.at(i + 1)));
             return cannotWrite;
         }
     }
@@ -86,31 +84,20 @@ int savePictures(Kestrune &window, const QStringList &pairs)
 
 } // namespace
 
-int main(int argc, char **argv)
+int takePictures(const QStringList &pairs)
 {
-    constexpr int noMachine = 3;
-
-    watchForInterruption();
-    QApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments().sliced(1);
-    if (arguments.size() < 3 || arguments.size() % 2 == 0) {
-        qCritical("Usage: kestrune-picture DIR PAGE[:BUTTON] FILE [PAGE[:BUTTON] FILE]...");
+    if (pairs.isEmpty() || pairs.size() % 2 != 0) {
+        qCritical("Usage: kestrune --pictures PAGE[:BUTTON] FILE [PAGE[:BUTTON] FILE]...");
         return badArguments;
     }
-    QCoreApplication::setApplicationVersion(u"0.3.14"_s);
-    useStandInFonts();
-    try {
-        setPlatform(std::make_unique<SimulatedPlatform>(arguments.first(), SimulatedOptions()));
-    } catch (const MachineError &error) {
-        qCritical("kestrune-picture: %s", qUtf8Printable(error.message));
-        return noMachine;
-    }
+    watchForInterruption();
     try {
         Kestrune window;
-        window.screenName = u"\\\\.\\DISPLAY1"_s; // as Windows calls it; the screen here has no name
+        window.setAttribute(Qt::WA_DontShowOnScreen);
+        window.screenName = u"\\\\.\\DISPLAY1"_s; // as Windows calls it; the screen may have no name
         window.show();
         settle(window);
-        return savePictures(window, arguments.sliced(1));
+        return savePictures(window, pairs);
     } catch (const Interrupted &interrupted) {
         return interrupted.exitCode;
     }

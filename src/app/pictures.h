@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Pictures of the window, which isn't seen meanwhile.
+
+#pragma once
+
+#include <QStringList>
+
+/**
+ * Saves pages of the window on the platform in force, given in pairs of PAGE[:BUTTON] and FILE: a page by its number,
+ * from 0 on. With a button's object name it is clicked first, and its job is waited for. Gives the program's exit code.
+ */
+int takePictures(const QStringList &pairs);
