@@ -20,6 +20,7 @@ using Variables = QMap<QString, QString>;
 
 inline Ended runProgram(const QString &program, const QStringList &arguments, const Variables &variables = {})
 {
+    constexpr int patience = 120000; // milliseconds
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (auto it = variables.begin(); it != variables.end(); ++it)
@@ -29,7 +30,7 @@ inline Ended runProgram(const QString &program, const QStringList &arguments, co
     Ended ended;
     if (process.waitForStarted())
         ended.processId = process.processId();
-    if (process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit)
+    if (process.waitForFinished(patience) && process.exitStatus() == QProcess::NormalExit)
         ended.exitCode = process.exitCode();
     ended.output = process.readAllStandardOutput();
     ended.errors = process.readAllStandardError();

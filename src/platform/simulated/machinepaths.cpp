@@ -143,7 +143,8 @@ QString Machine::placeOf(const QString &windowsPath) const
             path += u'/' + name;
             continue;
         }
-        const QString entry = entryLike(path, name);
+        // What a link out leads to isn't even looked at.
+        const QString entry = leadsOut(path) ? QString() : entryLike(path, name);
         if (entry.isEmpty())
             return (QStringList(path) + location.names.mid(i)).join(u'/');
         path += u'/' + entry;
