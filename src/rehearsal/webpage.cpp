@@ -2,19 +2,21 @@
 
 #include "webpage.h"
 
+#include <QCryptographicHash>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr QLatin1StringView style = R"(
-:root { color-scheme: light dark; --page: #ffffff; --text: #1d2127; --faint: #5c6570; --line: #d8dde3; --head: #f3f5f7;
+:root { color-scheme: light dark; --page: #ffffff; --text: #1d2127; --faint: #5c6570; --line: #d8dde3; --edge: #7a848f; --head: #f1f4f7; --focus: #0b63ce;
         --gone: #a4262c; --new: #1b6e2d; --warn: #8a5300; }
 @media (prefers-color-scheme: dark) {
-  :root { --page: #16191d; --text: #e4e7ea; --faint: #9aa4af; --line: #333a42; --head: #20252b;
+  :root { --page: #16191d; --text: #e4e7ea; --faint: #9aa4af; --line: #333a42; --edge: #78828d; --head: #22272e; --focus: #6cb0ff;
           --gone: #f1868b; --new: #79cf8b; --warn: #e6b35c; }
 }
 @media print {
-  :root { color-scheme: light; --page: #ffffff; --text: #000000; --faint: #444444; --line: #bbbbbb; --head: #eeeeee;
+  :root { color-scheme: light; --page: #ffffff; --text: #000000; --faint: #444444; --line: #bbbbbb; --edge: #888888; --head: #eeeeee; --focus: #000000;
           --gone: #8a1c22; --new: #14551f; --warn: #6b4000; }
 }
 body { background: var(--page); color: var(--text); font: 15px/1.45 system-ui, sans-serif; margin: 2rem auto;
@@ -32,16 +34,28 @@ td { font-family: ui-monospace, monospace; font-size: 13px; }
 .none { color: var(--faint); }
 )"_L1;
 
-} // namespace
-
-QString pageStart(const QString &title, QLatin1StringView moreStyle)
+/** How a policy names the one style or script that it allows. */
+QString hashOf(const QString &text)
 {
-    return u"<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-           "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>"_s
-           + title.toHtmlEscaped() + u"</title>\n<style>"_s + style + moreStyle + u"</style>\n</head>\n<body>\n"_s;
+    const QByteArray hash = QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256);
+    return u"'sha256-%1'"_s.arg(QString::fromLatin1(hash.toBase64()));
 }
 
-QString pageEnd()
+} // namespace
+
+QString pageStart(const QString &title, QLatin1StringView moreStyle, QLatin1StringView script)
 {
-    return u"</body>\n</html>\n"_s;
+    const QString styles = QString(style) + moreStyle;
+    return u"<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+           "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; base-uri 'none'; "
+           "form-action 'none'; style-src "_s
+           + hashOf(styles) + u"; script-src "_s + (script.isEmpty() ? u"'none'"_s : hashOf(script))
+           + u"\">\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>"_s
+           + title.toHtmlEscaped() + u"</title>\n<style>"_s + styles + u"</style>\n</head>\n<body>\n"_s;
+}
+
+QString pageEnd(QLatin1StringView script)
+{
+    const QString element = script.isEmpty() ? QString() : u"<script>"_s + script + u"</script>\n"_s;
+    return element + u"</body>\n</html>\n"_s;
 }

@@ -5,6 +5,10 @@
 
 #include <QString>
 
-/** Everything up to the body's first element: title, colours for light and dark, tables, and how it prints. */
-QString pageStart(const QString &title, QLatin1StringView moreStyle = {});
-QString pageEnd();
+/**
+ * Everything up to the body's first element: title, colours for light and dark, tables, and how it prints. By its
+ * policy the page asks for nothing from anywhere, and runs no script but the given one.
+ */
+QString pageStart(const QString &title, QLatin1StringView moreStyle = {}, QLatin1StringView script = {});
+/** The end, with the script of the page's start. */
+QString pageEnd(QLatin1StringView script = {});

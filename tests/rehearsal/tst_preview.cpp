@@ -3,7 +3,9 @@
 
 #include "smallmachine.h"
 
+#include "rehearsal/preview/previewpage.h"
 #include "rehearsal/preview/previewreport.h"
+#include "rehearsal/preview/previewtexts.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -63,6 +65,10 @@ private Q_SLOTS:
     void whatComesBack();
     void worstOfTheDetailsIsTheItems();
     void serviceIsOneItemWithItsDisplayName();
+    void serviceAsAWholeInAFewWords();
+    void taskTellsWhatItIsFor();
+    void packageAsAWholeIsInstalledOrNot();
+    void manyValuesAreCounted();
     void programAtLogonIsCalledByItsValue();
     void ownRecordsStandApartAndDoNotCount();
     void sortedByGroupAndTitle();
@@ -128,7 +134,7 @@ void TestPreview::worstOfTheDetailsIsTheItems()
     const auto of = [](const QList<Return> &values) {
         PreviewItem item;
         for (const Return value : values)
-            item.details.append(PreviewDetail{{}, {}, {}, {}, value});
+            item.details.append(PreviewDetail{{}, {}, {}, {}, {}, value});
         return item.comesBack();
     };
     QCOMPARE(of({Return::Exactly}), Return::Exactly);
@@ -154,6 +160,93 @@ void TestPreview::serviceIsOneItemWithItsDisplayName()
     QCOMPARE(item.title, u"A sample"_s);
     QCOMPARE(item.name, u"Sample"_s);
     QCOMPARE(item.details.size(), 2);
+    QCOMPARE(item.details.last().what, u"start mode"_s);
+    QCOMPARE(item.details.last().place, servicesKey + u"Sample\\Start"_s);
+}
+
+void TestPreview::serviceAsAWholeInAFewWords()
+{
+    Three three;
+    three.everywhere([](Machine &machine) {
+        setText(machine, servicesKey + u"Sample"_s, u"Description"_s, u"Does  this\nand that"_s);
+        setNumber(machine, servicesKey + u"Sample"_s, u"Start"_s, 2);
+        setNumber(machine, servicesKey + u"Sample"_s, u"DelayedAutostart"_s, 1);
+        machine.setRunning(u"Sample"_s, true);
+    });
+    setNumber(*three.optimized, servicesKey + u"Sample"_s, u"Start"_s, 4);
+    three.optimized->setRunning(u"Sample"_s, false);
+    setNumber(*three.restored, servicesKey + u"Sample"_s, u"DelayedAutostart"_s, 0);
+
+    const PreviewItem item = onlyItem(three.items());
+    QCOMPARE(item.about, u"Does this and that"_s);
+    const PreviewSides sides = sidesOf(item);
+    QCOMPARE(sides.before, u"automatic (delayed), running"_s);
+    QCOMPARE(sides.optimized, u"disabled, stopped"_s);
+    QCOMPARE(sides.restored, u"automatic, running"_s);
+    QCOMPARE(item.comesBack(), Return::Otherwise);
+    QVERIFY(whyOf(item.group, item.comesBack()).contains(u"with a delay"_s));
+}
+
+void TestPreview::taskTellsWhatItIsFor()
+{
+    const QString document = u"<Task><RegistrationInfo><Description>%1</Description></RegistrationInfo>"
+                             "<Settings><Enabled>%2</Enabled></Settings></Task>"_s;
+    for (const auto &[description, about] :
+         {std::pair{u"Cleans up"_s, u"Cleans up"_s}, {u"$(@%SystemRoot%\\x.dll,-1)"_s, QString()}}) {
+        Three three;
+        three.everywhere([&](Machine &machine) {
+            machine.setTask({u"\\Vendor\\Clean"_s, document.arg(description, u"true"_s)});
+        });
+        three.optimized->setTask({u"\\Vendor\\Clean"_s, document.arg(description, u"false"_s)});
+        const PreviewItem item = onlyItem(three.items());
+        QCOMPARE(item.title, u"Clean"_s);
+        QCOMPARE(item.about, about);
+        QCOMPARE(item.name, u"\\Vendor\\Clean"_s);
+        QCOMPARE(sidesOf(item).optimized, u"disabled"_s);
+    }
+}
+
+void TestPreview::packageAsAWholeIsInstalledOrNot()
+{
+    const QString packages = u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows"
+                             "\\CurrentVersion\\AppModel\\Repository\\Packages\\"_s;
+    Three three;
+    three.everywhere([&](Machine &machine) {
+        setText(machine, packages + u"Vendor.Chat_1.0_x64__a"_s, u"DisplayName"_s, u"Chat"_s);
+        setText(machine, packages + u"Vendor.Chat_1.0_x64__a"_s, u"PackageRootFolder"_s, u"C:\\x"_s);
+        setText(machine, packages + u"Vendor.Maps_1.0_x64__a"_s, u"DisplayName"_s, u"ms-resource:Name"_s);
+    });
+    for (SmallMachine *machine : {&three.optimized, &three.restored})
+        (*machine)->registry().removeKey(*(*machine)->registry().find(packages + u"Vendor.Chat_1.0_x64__a"_s));
+    three.optimized->registry().removeKey(*three.optimized->registry().find(packages + u"Vendor.Maps_1.0_x64__a"_s));
+
+    const QList<PreviewItem> items = three.items();
+    QCOMPARE(items.size(), 2);
+    QCOMPARE(items.first().title, u"Chat"_s);
+    QCOMPARE(items.first().name, u"Vendor.Chat"_s);
+    QCOMPARE(sidesOf(items.first()).before, u"installed"_s);
+    QCOMPARE(sidesOf(items.first()).restored, u"not installed"_s);
+    QCOMPARE(items.first().comesBack(), Return::NotAtAll);
+    QCOMPARE(items.last().title, u"Vendor.Maps"_s);
+    QCOMPARE(sidesOf(items.last()).restored, u"installed"_s);
+}
+
+void TestPreview::manyValuesAreCounted()
+{
+    Three three;
+    three.everywhere([](Machine &machine) {
+        for (const QString &name : {u"a"_s, u"b"_s, u"c"_s})
+            setNumber(machine, otherKey, name, 1);
+    });
+    for (const QString &name : {u"a"_s, u"b"_s})
+        setNumber(*three.optimized, otherKey, name, 2);
+    setNumber(*three.restored, otherKey, u"b"_s, 2);
+    setNumber(*three.restored, otherKey, u"c"_s, 0);
+
+    const PreviewSides sides = sidesOf(onlyItem(three.items()));
+    QCOMPARE(sides.before, u"3 values"_s);
+    QCOMPARE(sides.optimized, u"2 changed"_s);
+    QCOMPARE(sides.restored, u"1 as before, 1 otherwise, 1 stay changed"_s);
 }
 
 void TestPreview::programAtLogonIsCalledByItsValue()
@@ -200,7 +293,7 @@ void TestPreview::textTellsCountsAndSides()
 
     const QString text = previewText(three.items());
     QVERIFY2(text.contains(u"    1 come back as a default\n"_s), qPrintable(text));
-    QVERIFY2(text.contains(u"x: dword 1 -> dword 2 -> dword 3\n"_s), qPrintable(text));
+    QVERIFY2(text.contains(u"    x: dword 1 -> dword 2 -> dword 3\n"_s), qPrintable(text));
 }
 
 void TestPreview::jsonHoldsEverything()

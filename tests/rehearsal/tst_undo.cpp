@@ -175,7 +175,7 @@ void TestUndo::previewTellsOfEveryGroup()
         titles.append(item[u"title"_s].toString());
     }
     for (const QString &group : {u"Services"_s, u"Scheduled tasks"_s, u"Windows applications"_s,
-                                 u"Programs started at logon"_s, u"System options"_s, u"Kestrune's own records"_s})
+                                 u"Programs started at logon"_s, u"System options"_s, u"Kestrune's own notes"_s})
         QVERIFY2(groups.value(group) > 0, qPrintable(group));
     QVERIFY2(titles.contains(u"Print Spooler"_s), qPrintable(titles.join(u'\n')));
     QVERIFY2(titles.contains(u"Disable telemetry"_s), qPrintable(titles.join(u'\n')));

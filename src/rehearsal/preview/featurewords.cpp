@@ -15,44 +15,79 @@ struct Option
     Group group;
     quint32 id;
     QLatin1StringView words;
+    QLatin1StringView about;
 };
 
 // clang-format off
 constexpr Option options[] = {
-    {Ssd,     1,  "Disable Windows write-cache buffer flushing"_L1},
-    {Ssd,     2,  "Disable automatic boot disk optimization"_L1},
-    {Ssd,     3,  "Disable last access time stamps"_L1},
-    {Ssd,     4,  "Disable Prefetcher"_L1},
-    {Ssd,     5,  "Disable clearing of virtual memory swap file on every shutdown"_L1},
-    {Ssd,     6,  "Disable fast start-up"_L1},
-    {Ssd,     7,  "Disable hibernation mode"_L1},
-    {Ssd,     8,  "Remove the indexed attribute from all files in the Windows partition"_L1},
-    {Ssd,     9,  "Increase maximum amount of physical memory that can be locked for I/O operations"_L1},
-    {Gaming,  1,  "Prioritize games"_L1},
-    {Gaming,  2,  "Disable CPU power throttling"_L1},
-    {Gaming,  3,  "Enable game mode"_L1},
-    {Gaming,  4,  "Disable game recording and broadcasting"_L1},
-    {Gaming,  5,  "Disable HPET"_L1},
-    {Gaming,  6,  "Disable Gamebar"_L1},
-    {Gaming,  7,  "Disable dynamic tick of system timers"_L1},
-    {Gaming,  8,  "Enable Auto HDR"_L1},
-    {Gaming,  9,  "Disable enhance pointer precision"_L1},
-    {Gaming,  10, "Disable Nagle’s Algorithm"_L1},
-    {Gaming,  11, "Processor time allocated to applications"_L1},
-    {Gaming,  12, "Set the maximum number of GPU pre-rendered frames to 1"_L1},
-    {Gaming,  13, "Disable Multiplane Overlay (MPO)"_L1},
-    {Gaming,  14, "Disable ULPS"_L1},
-    {Windows, 1,  "Disable SvcHost splitting"_L1},
-    {Windows, 2,  "Disable periodic registry backup"_L1},
-    {Windows, 3,  "Disable advanced indexing options"_L1},
-    {Windows, 4,  "Disable files history"_L1},
-    {Windows, 5,  "Enable the context menu like Windows 10"_L1},
-    {Windows, 6,  "Disable distribution optimization of Windows updates"_L1},
-    {Windows, 7,  "Disable telemetry"_L1},
-    {Windows, 8,  "Reduces certain delays"_L1},
-    {Windows, 9,  "Disable LockApp.exe"_L1},
-    {Windows, 10, "Disable the search program"_L1},
-    {Windows, 12, "Disable cloud backup and restore functionalities"_L1},
+    {Ssd,     1,  "Disable Windows write-cache buffer flushing"_L1,
+     "The drive keeps data in its own memory a little longer instead of writing it at once"_L1},
+    {Ssd,     2,  "Disable automatic boot disk optimization"_L1,
+     "Windows no longer sorts the files that it needs to start"_L1},
+    {Ssd,     3,  "Disable last access time stamps"_L1,
+     "Windows no longer notes when a file was last read"_L1},
+    {Ssd,     4,  "Disable Prefetcher"_L1,
+     "Windows no longer loads programs before they are started"_L1},
+    {Ssd,     5,  "Disable clearing of virtual memory swap file on every shutdown"_L1,
+     "The PC shuts down faster, and the swap file keeps what was in it"_L1},
+    {Ssd,     6,  "Disable fast start-up"_L1,
+     "The PC starts from scratch, which a fast drive does quickly"_L1},
+    {Ssd,     7,  "Disable hibernation mode"_L1,
+     "Frees the space of hiberfil.sys; the PC can't hibernate any more"_L1},
+    {Ssd,     8,  "Remove the indexed attribute from all files in the Windows partition"_L1,
+     "The search reads the drive instead of an index of it"_L1},
+    {Ssd,     9,  "Increase maximum amount of physical memory that can be locked for I/O operations"_L1,
+     "More memory for reading and writing at once"_L1},
+    {Gaming,  1,  "Prioritize games"_L1,
+     "Games get more of the processor, the graphics card and the drive than other programs"_L1},
+    {Gaming,  2,  "Disable CPU power throttling"_L1,
+     "Background programs run at full speed too; costs battery on a laptop"_L1},
+    {Gaming,  3,  "Enable game mode"_L1,
+     "Windows favours the game that is in front"_L1},
+    {Gaming,  4,  "Disable game recording and broadcasting"_L1,
+     "No recording in the background while a game runs"_L1},
+    {Gaming,  5,  "Disable HPET"_L1,
+     "High Precision Event Timer: the processor's own counter is used, which may be faster in games"_L1},
+    {Gaming,  6,  "Disable Gamebar"_L1,
+     "The overlay that Win+G opens"_L1},
+    {Gaming,  7,  "Disable dynamic tick of system timers"_L1,
+     "The timer ticks on while the PC idles; costs battery on a laptop"_L1},
+    {Gaming,  8,  "Enable Auto HDR"_L1,
+     "Shows games without HDR in HDR"_L1},
+    {Gaming,  9,  "Disable enhance pointer precision"_L1,
+     "The pointer follows the mouse at one speed"_L1},
+    {Gaming,  10, "Disable Nagle’s Algorithm"_L1,
+     "Small network packets are sent at once"_L1},
+    {Gaming,  11, "Processor time allocated to applications"_L1,
+     "Win32PrioritySeparation: how long a program may run before the next one's turn"_L1},
+    {Gaming,  12, "Set the maximum number of GPU pre-rendered frames to 1"_L1,
+     "Less delay between the mouse and the picture"_L1},
+    {Gaming,  13, "Disable Multiplane Overlay (MPO)"_L1,
+     "May mend flicker and stutter; some videos and full-screen games may run worse"_L1},
+    {Gaming,  14, "Disable ULPS"_L1,
+     "Ultra Low Power State of AMD graphics cards: they stay awake"_L1},
+    {Windows, 1,  "Disable SvcHost splitting"_L1,
+     "Services share fewer svchost.exe processes"_L1},
+    {Windows, 2,  "Disable periodic registry backup"_L1,
+     "Windows no longer copies the registry at intervals"_L1},
+    {Windows, 3,  "Disable advanced indexing options"_L1,
+     "Takes the advanced page out of the indexing options"_L1},
+    {Windows, 4,  "Disable files history"_L1,
+     "No older versions of files are kept, and recent files aren't listed"_L1},
+    {Windows, 5,  "Enable the context menu like Windows 10"_L1,
+     "A right click shows all entries at once"_L1},
+    {Windows, 6,  "Disable distribution optimization of Windows updates"_L1,
+     "Windows no longer fetches updates from other PCs, nor sends them there"_L1},
+    {Windows, 7,  "Disable telemetry"_L1,
+     "Less data about the PC and its use goes to Microsoft"_L1},
+    {Windows, 8,  "Reduces certain delays"_L1,
+     "Menus open faster, and programs that hang are closed sooner"_L1},
+    {Windows, 9,  "Disable LockApp.exe"_L1,
+     "The screen with picture and clock before signing in"_L1},
+    {Windows, 10, "Disable the search program"_L1,
+     "SearchHost.exe, the process behind the search field"_L1},
+    {Windows, 12, "Disable cloud backup and restore functionalities"_L1,
+     "Settings and lists of applications are no longer kept in the cloud"_L1},
 };
 
 /** What options change besides the values of their tables. */
@@ -87,13 +122,14 @@ constexpr Place places[] = {
 };
 // clang-format on
 
-QString wordsOf(Group group, quint32 id)
+FeatureWords wordsOf(Group group, quint32 id)
 {
+    const auto text = [](QLatin1StringView utf8) { return QString::fromUtf8(utf8.data(), utf8.size()); };
     for (const Option &option : options) {
         if (option.group == group && option.id == id)
-            return QString::fromUtf8(option.words.data(), option.words.size());
+            return {text(option.words), text(option.about)};
     }
-    return QString();
+    return {};
 }
 
 /** The numbered control set is the current one, by its other name. */
@@ -118,7 +154,7 @@ bool isOfPlace(const Place &place, const DiffRow &row)
 
 } // namespace
 
-QString featureWords(const DiffRow &row)
+FeatureWords featureWords(const DiffRow &row)
 {
     if (row.kind == DiffKind::Registry) {
         const std::pair<Group, std::span<const TweakValue>> tables[] = {
@@ -134,5 +170,5 @@ QString featureWords(const DiffRow &row)
         if (isOfPlace(place, row))
             return wordsOf(place.group, place.id);
     }
-    return QString();
+    return {};
 }

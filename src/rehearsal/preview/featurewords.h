@@ -5,5 +5,11 @@
 
 #include "rehearsal/machinediff.h"
 
-/** The option's text on the Features page, shortened to its first sentence; empty where the row is of none. */
-QString featureWords(const DiffRow &row);
+struct FeatureWords
+{
+    QString option; ///< its text on the Features page, shortened to its first sentence
+    QString about;  ///< what that is good for, or costs
+};
+
+/** Empty where the row is of no option. */
+FeatureWords featureWords(const DiffRow &row);

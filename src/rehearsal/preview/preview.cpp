@@ -86,49 +86,12 @@ QList<PreviewItem> previewItems(Machine &before, Machine &optimized, Machine &re
         PreviewItem &item = items[QString::number(static_cast<int>(words.group)) + words.item];
         item.group = words.group;
         item.title = words.title;
+        item.about = words.about;
         item.name = words.name;
-        item.details.append({words.detail, sideInWords(words, three.row.before), sideInWords(words, three.row.after),
-                             sideInWords(words, three.restored), returnOf(three)});
+        item.details.append({words.detail, words.place, sideInWords(words, three.row.before),
+                             sideInWords(words, three.row.after), sideInWords(words, three.restored), returnOf(three)});
     }
     QList<PreviewItem> list = items.values();
     std::stable_sort(list.begin(), list.end(), isBefore);
     return list;
-}
-
-QString groupTitle(PreviewGroup group)
-{
-    switch (group) {
-    case PreviewGroup::Services:
-        return u"Services"_s;
-    case PreviewGroup::Tasks:
-        return u"Scheduled tasks"_s;
-    case PreviewGroup::Packages:
-        return u"Windows applications"_s;
-    case PreviewGroup::Autorun:
-        return u"Programs started at logon"_s;
-    case PreviewGroup::Features:
-        return u"System options"_s;
-    case PreviewGroup::Files:
-        return u"Files"_s;
-    case PreviewGroup::Registry:
-        return u"Other registry values"_s;
-    case PreviewGroup::Records:
-        return u"Kestrune's own records"_s;
-    }
-    return QString();
-}
-
-QString returnText(Return comesBack)
-{
-    switch (comesBack) {
-    case Return::Exactly:
-        return u"comes back exactly"_s;
-    case Return::Otherwise:
-        return u"comes back as a default, not as it was"_s;
-    case Return::NotAtAll:
-        return u"doesn't come back"_s;
-    case Return::Unasked:
-        return u"changed by the restoration alone"_s;
-    }
-    return QString();
 }

@@ -19,7 +19,8 @@ enum class PreviewGroup { Services, Tasks, Packages, Autorun, Features, Files, R
 /** One value, file or state that changes. A text is empty where there is nothing. */
 struct PreviewDetail
 {
-    QString what; ///< where it stands: key and value, file, or what state it is
+    QString what;  ///< in words, or the name of the value
+    QString place; ///< the exact key or path; empty where the item's name says it
     QString before;
     QString optimized;
     QString restored;
@@ -31,6 +32,7 @@ struct PreviewItem
 {
     PreviewGroup group = PreviewGroup::Registry;
     QString title; ///< what it is in words
+    QString about; ///< what it is there for; often empty
     QString name;  ///< what the system calls it; empty where the title says it
     QList<PreviewDetail> details;
 
@@ -44,8 +46,3 @@ struct PreviewItem
  */
 QList<PreviewItem> previewItems(Machine &before, Machine &optimized, Machine &restored,
                                 const ProgressCallback &progress = {});
-
-/** "Services", "Scheduled tasks" and so on. */
-QString groupTitle(PreviewGroup group);
-/** A short phrase: "comes back exactly". */
-QString returnText(Return comesBack);

@@ -9,13 +9,20 @@
 struct PreviewWords
 {
     PreviewGroup group = PreviewGroup::Registry;
-    QString item;   ///< tells items of a group apart
-    QString title;  ///< of the item
-    QString name;   ///< of the item, as the system has it
-    QString detail; ///< which of the item's values this is
+    QString item{};   ///< tells items of a group apart
+    QString title{};  ///< of the item
+    QString about{};  ///< of the item: what it is there for
+    QString name{};   ///< of the item, as the system has it
+    QString detail{}; ///< which of the item's values this is
+    QString place{};  ///< the exact key or path of the value
 };
+
+/** What the details of a service are called. */
+inline const QString startModeDetail = QStringLiteral("start mode");
+inline const QString delayedStartDetail = QStringLiteral("delayed start");
+inline const QString runStateDetail = QStringLiteral("state");
 
 /** Names come from the machine as it was, or from the optimized one where it has more. */
 PreviewWords previewWords(Machine &before, Machine &optimized, const DiffRow &row);
-/** What a side of the row shows: start modes have words, everything else stays. */
+/** What a side of the row shows: start modes and empty keys have words, everything else stays. */
 QString sideInWords(const PreviewWords &words, const QString &side);

@@ -6,6 +6,7 @@
 #include "progress.h"
 #include "rehearsal/interruption.h"
 #include "rehearsal/machinecopy.h"
+#include "rehearsal/preview/previewpage.h"
 #include "rehearsal/preview/previewreport.h"
 #include "rehearsal/preview/undo.h"
 #include "reportfile.h"

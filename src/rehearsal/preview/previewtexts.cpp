@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "previewtexts.h"
+
+#include "previewwords.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// clang-format off
+constexpr ReturnTexts returnRows[] = {
+    {Return::Exactly,   "exactly"_L1,    "comes back exactly"_L1,     "come back exactly"_L1,
+     "After Restore they are as they were, to the last value."_L1},
+    {Return::Otherwise, "otherwise"_L1,  "comes back as a default"_L1, "come back as a default"_L1,
+     "Restore takes these changes back, but what it leaves isn't what you had."_L1},
+    {Return::NotAtAll,  "not-at-all"_L1, "doesn't come back"_L1,      "don't come back"_L1,
+     "Restore leaves these changes, or a part of them, as Optimize made them."_L1},
+    {Return::Unasked,   "unasked"_L1,    "changed by Restore alone"_L1, "are changed by Restore alone"_L1,
+     "Optimize leaves these alone, and Restore sets a default all the same."_L1},
+};
+
+constexpr GroupTexts groupRows[] = {
+    {PreviewGroup::Services, "services"_L1, "Services"_L1,
+     "Programs that work in the background. Optimize stops and disables those that a home PC can do without, and lets "
+     "some others start only when something needs them."_L1},
+    {PreviewGroup::Tasks,    "tasks"_L1,    "Scheduled tasks"_L1,
+     "What Windows or a program does at set times. Optimize disables them; they are not removed."_L1},
+    {PreviewGroup::Packages, "packages"_L1, "Windows applications"_L1,
+     "Applications that came with Windows or from its store. Optimize uninstalls them. What they have stored (accounts, "
+     "settings, their own documents) isn't part of this preview and may be lost."_L1},
+    {PreviewGroup::Autorun,  "autorun"_L1,  "Programs started at logon"_L1,
+     "What starts when you sign in. Optimize takes it off the list; the program itself stays."_L1},
+    {PreviewGroup::Features, "options"_L1,  "System options"_L1,
+     "Settings of Windows, by their names on the Features page, with all values that belong to them."_L1},
+    {PreviewGroup::Files,    "files"_L1,    "Files"_L1,
+     "Files and folders that come, go or change."_L1},
+    {PreviewGroup::Registry, "registry"_L1, "Other registry values"_L1,
+     "What belongs to nothing above, by its name in the registry, where Windows keeps its settings."_L1},
+    {PreviewGroup::Records,  "records"_L1,  "Kestrune's own notes"_L1,
+     "What Kestrune writes down for itself: the notes that Restore goes by, its log and its backups. This changes "
+     "nothing in Windows and isn't counted above."_L1},
+};
+
+struct WhyRow
+{
+    PreviewGroup group;
+    Return value;
+    QLatin1StringView why;
+};
+constexpr WhyRow whyRows[] = {
+    {PreviewGroup::Services, Return::Otherwise,
+     "Restore starts every service that Optimize has disabled, and lets it start with Windows, at once and by itself: "
+     "a service that started only on demand, or with a delay, keeps its new way."_L1},
+    {PreviewGroup::Services, Return::NotAtAll,
+     "Optimize makes no note of a service that it sets to start on demand (manual), so Restore doesn't know of it."_L1},
+    {PreviewGroup::Tasks,    Return::NotAtAll,
+     "Restore enables only those tasks that Optimize has noted."_L1},
+    {PreviewGroup::Packages, Return::Exactly,
+     "Restore registers the application again from its files, as Windows itself does for a new user."_L1},
+    {PreviewGroup::Packages, Return::Otherwise,
+     "The application comes back from its files as newly installed, which isn't all that was there."_L1},
+    {PreviewGroup::Packages, Return::NotAtAll,
+     "Restore registers an application again from its files, and these were not to be found."_L1},
+    {PreviewGroup::Autorun,  Return::Otherwise,
+     "The note of the command ends at its first \"=\", so the program starts without what stood behind that."_L1},
+    {PreviewGroup::Autorun,  Return::NotAtAll,
+     "Restore brings back only a command whose program stands in quotation marks and is on the disk."_L1},
+    {PreviewGroup::Features, Return::Otherwise,
+     "Restore doesn't know what you had: it writes a fixed default of Windows, or takes the value away."_L1},
+    {PreviewGroup::Features, Return::NotAtAll,
+     "Restore doesn't reset this option, or not all of its values."_L1},
+    {PreviewGroup::Features, Return::Unasked,
+     "The option was already as Optimize wants it, or isn't one of its own; Restore resets it all the same."_L1},
+    {PreviewGroup::Files,    Return::NotAtAll,
+     "Restore doesn't touch this file."_L1},
+    {PreviewGroup::Registry, Return::NotAtAll,
+     "Restore doesn't touch this value."_L1},
+};
+// clang-format on
+
+QString joined(const QStringList &parts)
+{
+    QStringList said = parts;
+    said.removeAll(QString());
+    return said.join(u", "_s);
+}
+
+/** One side of all details, by a pointer to the member that holds it. */
+using Side = QString PreviewDetail::*;
+
+/** "automatic (delayed), running" */
+QString serviceSide(const PreviewItem &item, Side side)
+{
+    QString start;
+    QString state;
+    bool delayed = false;
+    QStringList others;
+    for (const PreviewDetail &detail : item.details) {
+        if (detail.what == startModeDetail)
+            start = shownSide(detail.*side);
+        else if (detail.what == delayedStartDetail)
+            delayed = detail.*side == "yes"_L1;
+        else if (detail.what == runStateDetail)
+            state = detail.*side;
+        else
+            others.append(detail.what + u": "_s + shownSide(detail.*side));
+    }
+    // Windows looks at the delay of an automatic start only.
+    if (delayed && start == "automatic"_L1)
+        start += u" (delayed)"_s;
+    return joined(QStringList{start, state} + others);
+}
+
+bool isAnyThere(const PreviewItem &item, Side side)
+{
+    return std::any_of(item.details.begin(), item.details.end(),
+                       [side](const PreviewDetail &detail) { return !(detail.*side).isEmpty(); });
+}
+
+QString packageSide(const PreviewItem &item, Side side)
+{
+    return isAnyThere(item, side) ? u"installed"_s : u"not installed"_s;
+}
+
+/** An entry is there or not; the start of a packaged application has a number for its state, odd or 0 for off. */
+QString autorunSide(const PreviewItem &item, Side side)
+{
+    const QString &value = item.details.first().*side;
+    const bool off = value.isEmpty() || value == "dword 0"_L1 || value == "dword 1"_L1 || value == "dword 3"_L1;
+    return off ? u"doesn't start"_s : u"starts"_s;
+}
+
+qsizetype countOf(const PreviewItem &item, Return value)
+{
+    return std::count_if(item.details.begin(), item.details.end(),
+                         [value](const PreviewDetail &detail) { return detail.comesBack == value; });
+}
+
+QString counted(qsizetype count, const QString &text)
+{
+    return count == 0 ? QString() : QString::number(count) + u' ' + text;
+}
+
+/** What can't be told in a few words is counted. */
+PreviewSides countedSides(const PreviewItem &item)
+{
+    const qsizetype unasked = countOf(item, Return::Unasked);
+    const qsizetype all = item.details.size();
+    return {u"%1 values"_s.arg(all), unasked == all ? u"none changed"_s : u"%1 changed"_s.arg(all - unasked),
+            joined({counted(countOf(item, Return::Exactly), u"as before"_s),
+                    counted(countOf(item, Return::Otherwise) + unasked, u"otherwise"_s),
+                    counted(countOf(item, Return::NotAtAll), u"stay changed"_s)})};
+}
+
+PreviewSides sidesBy(QString (*text)(const PreviewItem &, Side), const PreviewItem &item)
+{
+    PreviewSides sides{text(item, &PreviewDetail::before), text(item, &PreviewDetail::optimized),
+                       text(item, &PreviewDetail::restored)};
+    if (sides.restored == sides.before && item.comesBack() != Return::Exactly)
+        sides.restored += u", but not as before"_s;
+    return sides;
+}
+
+} // namespace
+
+std::span<const ReturnTexts> allReturns()
+{
+    return returnRows;
+}
+
+const ReturnTexts &textsOf(Return value)
+{
+    return *std::find_if(std::begin(returnRows), std::end(returnRows),
+                         [value](const ReturnTexts &row) { return row.value == value; });
+}
+
+std::span<const GroupTexts> allGroups()
+{
+    return groupRows;
+}
+
+const GroupTexts &textsOf(PreviewGroup group)
+{
+    return *std::find_if(std::begin(groupRows), std::end(groupRows),
+                         [group](const GroupTexts &row) { return row.group == group; });
+}
+
+QString whyOf(PreviewGroup group, Return value)
+{
+    for (const WhyRow &row : whyRows) {
+        if (row.group == group && row.value == value)
+            return row.why;
+    }
+    return QString();
+}
+
+bool countsAsChange(const PreviewItem &item)
+{
+    return item.group != PreviewGroup::Records;
+}
+
+int countOf(const QList<PreviewItem> &items, Return value)
+{
+    return static_cast<int>(std::count_if(items.begin(), items.end(), [value](const PreviewItem &item) {
+        return countsAsChange(item) && item.comesBack() == value;
+    }));
+}
+
+PreviewSides sidesOf(const PreviewItem &item)
+{
+    if (item.group == PreviewGroup::Services)
+        return sidesBy(serviceSide, item);
+    if (item.group == PreviewGroup::Packages)
+        return sidesBy(packageSide, item);
+    if (item.group == PreviewGroup::Autorun && item.details.size() == 1)
+        return sidesBy(autorunSide, item);
+    if (item.details.size() > 1)
+        return countedSides(item);
+    const PreviewDetail &detail = item.details.first();
+    return {shownSide(detail.before), shownSide(detail.optimized), shownSide(detail.restored)};
+}
+
+QString shownSide(const QString &side)
+{
+    return side.isEmpty() ? u"not there"_s : side;
+}

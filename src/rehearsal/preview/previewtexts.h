@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a preview says to people: names of groups and verdicts, why something comes back as it does, and each item in
+// one line.
+
+#pragma once
+
+#include "preview.h"
+
+#include <span>
+
+/** A verdict's words. */
+struct ReturnTexts
+{
+    Return value;
+    QLatin1StringView word;    ///< in JSON, and as the class of an element
+    QLatin1StringView one;     ///< "comes back exactly"
+    QLatin1StringView many;    ///< "come back exactly"
+    QLatin1StringView meaning; ///< a sentence
+};
+
+/** All verdicts, in the order in which they are counted. */
+std::span<const ReturnTexts> allReturns();
+const ReturnTexts &textsOf(Return value);
+
+struct GroupTexts
+{
+    PreviewGroup group;
+    QLatin1StringView word;  ///< in the page, as the name of a filter
+    QLatin1StringView title; ///< "Services"
+    QLatin1StringView about; ///< what these are and what Optimize does with them
+};
+
+/** All groups, in the order in which they are told. */
+std::span<const GroupTexts> allGroups();
+const GroupTexts &textsOf(PreviewGroup group);
+
+/** Why an item of the group comes back so; empty where the verdict says it all. */
+QString whyOf(PreviewGroup group, Return value);
+
+/** Kestrune's own records are no change of the PC and count for nothing. */
+bool countsAsChange(const PreviewItem &item);
+int countOf(const QList<PreviewItem> &items, Return value);
+
+/** What there was, what Optimize makes of it, and what Restore leaves. */
+struct PreviewSides
+{
+    QString before;
+    QString optimized;
+    QString restored;
+};
+
+/** The item as a whole, each side in a few words: "automatic, running". */
+PreviewSides sidesOf(const PreviewItem &item);
+/** A side of a detail, "not there" where it is empty. */
+QString shownSide(const QString &side);
