@@ -5,6 +5,7 @@ packages_for() {
     case $1 in
     build) echo "g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-l10n-tools libsqlite3-dev" ;;
     window) echo "fonts-open-sans fonts-dejavu-core" ;;
+    browser) echo "chromium chromium-driver" ;;
     bench) echo "libbenchmark-dev" ;;
     coverage) echo "gcovr" ;;
     format) echo "clang-format" ;;
@@ -16,6 +17,7 @@ reason_for() {
     case $1 in
     build) echo "to build the program" ;;
     window) echo "to draw its window" ;;
+    browser) echo "to try its web pages" ;;
     bench) echo "to measure its speed" ;;
     coverage) echo "to measure what the tests reach" ;;
     format) echo "to format the sources" ;;
