@@ -17,8 +17,8 @@ namespace {
 constexpr auto program = "kestrune-rehearse"_L1;
 
 constexpr const Subcommand *subcommands[] = {
-    &newSubcommand,  &listSubcommand, &runSubcommand,     &exportSubcommand, &importSubcommand,
-    &diffSubcommand, &guiSubcommand,  &previewSubcommand, &tourSubcommand,
+    &newSubcommand,    &listSubcommand, &runSubcommand, &exportSubcommand,  &importSubcommand,
+    &previewSubcommand, &verifySubcommand, &diffSubcommand, &guiSubcommand, &tourSubcommand,
 };
 
 QString optionsOf(const Subcommand &subcommand)

@@ -11,5 +11,7 @@ struct FeatureWords
     QString about;  ///< what that is good for, or costs
 };
 
-/** Empty where the row is of no option. */
-FeatureWords featureWords(const DiffRow &row);
+/** The option's box on the Features page ("chkSsd1"); empty where the row is of none. */
+QString featureOf(const DiffRow &row);
+/** Empty for a name that no box has. */
+FeatureWords featureWords(const QString &box);

@@ -225,7 +225,7 @@ QString sideInWords(const PreviewWords &words, const QString &side)
 
 PreviewWords previewWords(Machine &before, Machine &optimized, const DiffRow &row)
 {
-    if (const FeatureWords feature = featureWords(row); !feature.option.isEmpty())
+    if (const FeatureWords feature = featureWords(featureOf(row)); !feature.option.isEmpty())
         return optionWords(feature, row);
     switch (row.kind) {
     case DiffKind::Service:
