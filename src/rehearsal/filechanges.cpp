@@ -2,6 +2,7 @@
 
 #include "filechanges.h"
 
+#include "platform/simulated/filehole.h"
 #include "platform/simulated/machine.h"
 
 #include <QDir>
@@ -56,8 +57,10 @@ void FileChanges::write(const QString &file, const QByteArray &content, qint64 s
     }
     made_.append(file);
     QFile output(file);
-    if (!output.open(QIODevice::WriteOnly) || output.write(content) != content.size() || !output.resize(size)
-        || !output.flush())
+    const bool opened = output.open(QIODevice::WriteOnly);
+    if (opened)
+        allowHoles(output);
+    if (!opened || output.write(content) != content.size() || !output.resize(size) || !output.flush())
         throw MachineError{u"%1: %2"_s.arg(file, output.errorString())};
 }
 

@@ -10,3 +10,5 @@
  * is left. Where the system doesn't tell of holes, @p offset itself.
  */
 qint64 nextData(QFile &file, qint64 offset);
+/** Lets what is never written of an open file stay a hole, where the system doesn't do so by itself. */
+void allowHoles(QFile &file);
