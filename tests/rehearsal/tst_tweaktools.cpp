@@ -114,6 +114,9 @@ void TestTweakTools::bootOptionIsSetAndDeleted()
     QCOMPARE(machine->bootOptions(), (QMap<QString, QString>{{name, u"No"_s}}));
     QCOMPARE(set(u"yes"_s).exitCode, 0);
     QCOMPARE(machine->bootOptions(), (QMap<QString, QString>{{name, u"Yes"_s}}));
+    const QByteArray listed = runTool(machine, u"bcdedit"_s, {u"/enum"_s, u"{current}"_s}).output;
+    QVERIFY2(listed.contains("\r\nuseplatformclock        Yes\r\n"), listed);
+    QCOMPARE(runTool(machine, u"bcdedit"_s, {u"/enum"_s, u"{other}"_s}).exitCode, 1);
     QCOMPARE(runTool(machine, u"bcdedit"_s, {u"/deletevalue"_s, name}).exitCode, 0);
     QVERIFY(machine->bootOptions().isEmpty());
     QCOMPARE(runTool(machine, u"bcdedit"_s, {u"/deletevalue"_s, name}).exitCode, 1);

@@ -63,11 +63,31 @@ ToolResult deleteValue(ToolHost &host, const QStringList &operands)
 {
     if (operands.size() != 1)
         return invalid("delete");
-    if (!host.hasBootOption(operands.at(0)))
+    if (!host.bootOptions().contains(operands.at(0).toLower()))
         return {exitFailed, "An error occurred while attempting to delete the specified data element.\r\n"
                             "Element not found.\r\n"};
     host.setBootOption(operands.at(0), std::nullopt);
     return {0, succeeded};
+}
+
+/** The entry that the system was started by, with the options that were set. */
+ToolResult enumerate(ToolHost &host, const QStringList &operands)
+{
+    constexpr qsizetype column = 24;
+
+    if (operands != QStringList(u"{current}"_s))
+        return invalid("enum");
+    QString text = u"\r\nWindows Boot Loader\r\n-------------------\r\n"_s;
+    const auto addLine = [&text](const QString &name, const QString &value) {
+        text += name.leftJustified(column) + value + u"\r\n"_s;
+    };
+    addLine(u"identifier"_s, operands.at(0));
+    addLine(u"device"_s, u"partition=C:"_s);
+    addLine(u"path"_s, u"\\Windows\\system32\\winload.efi"_s);
+    const QMap<QString, QString> options = host.bootOptions();
+    for (auto it = options.begin(); it != options.end(); ++it)
+        addLine(it.key(), it.value());
+    return {0, text.toUtf8()};
 }
 
 } // namespace
@@ -81,6 +101,8 @@ ToolResult runBcdedit(ToolHost &host, const QStringList &arguments)
         return set(host, arguments.mid(1));
     if (verb == "/deletevalue"_L1)
         return deleteValue(host, arguments.mid(1));
+    if (verb == "/enum"_L1)
+        return enumerate(host, arguments.mid(1));
     return {exitFailed, "Invalid command line switch: " + arguments.value(0).toUtf8()
                             + "\r\nRun \"bcdedit /?\" for command line assistance.\r\nThe parameter is incorrect.\r\n"};
 }

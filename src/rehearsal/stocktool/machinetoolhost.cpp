@@ -129,9 +129,9 @@ bool MachineToolHost::setHiberfile(bool present)
     return true;
 }
 
-bool MachineToolHost::hasBootOption(const QString &name) const
+QMap<QString, QString> MachineToolHost::bootOptions() const
 {
-    return machine_.bootOptions().contains(name.toLower());
+    return machine_.bootOptions();
 }
 
 void MachineToolHost::setBootOption(const QString &name, const std::optional<QString> &value)

@@ -24,7 +24,7 @@ public:
     QStringList processes() const override;
     void endProcesses(const QString &name) override;
     bool setHiberfile(bool present) override;
-    bool hasBootOption(const QString &name) const override;
+    QMap<QString, QString> bootOptions() const override;
     void setBootOption(const QString &name, const std::optional<QString> &value) override;
     FileSecurity security(const QString &file) const override { return machine_.security(file); }
     void setSecurity(const QString &file, const FileSecurity &security) override;

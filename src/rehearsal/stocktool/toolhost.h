@@ -47,8 +47,8 @@ public:
     /** Takes the file of hibernation away, or makes it. False where that can't be done. */
     virtual bool setHiberfile(bool present) = 0;
 
-    /** Options of the boot configuration, by name without regard to case; see Machine::setBootOption. */
-    virtual bool hasBootOption(const QString &name) const = 0;
+    /** Options of the boot configuration by their lower-case name; see Machine::setBootOption. */
+    virtual QMap<QString, QString> bootOptions() const = 0;
     virtual void setBootOption(const QString &name, const std::optional<QString> &value) = 0;
 
     /** Owner and rights of a file, by its Windows path; see Machine::security. */

@@ -89,9 +89,13 @@ void NativeToolHost::endProcesses(const QString &name)
     openKey(standInProcesses)->setValue(u"Names"_s, names);
 }
 
-bool NativeToolHost::hasBootOption(const QString &name) const
+QMap<QString, QString> NativeToolHost::bootOptions() const
 {
-    return openKey(standInBootOptions)->contains(name);
+    const auto key = openKey(standInBootOptions);
+    QMap<QString, QString> options;
+    for (const QString &name : key->childKeys())
+        options.insert(name.toLower(), key->value(name).toString());
+    return options;
 }
 
 void NativeToolHost::setBootOption(const QString &name, const std::optional<QString> &value)

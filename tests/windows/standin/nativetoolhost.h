@@ -26,7 +26,7 @@ public:
     QStringList processes() const override;
     void endProcesses(const QString &name) override;
     bool setHiberfile(bool) override { return true; }
-    bool hasBootOption(const QString &name) const override;
+    QMap<QString, QString> bootOptions() const override;
     void setBootOption(const QString &name, const std::optional<QString> &value) override;
     FileSecurity security(const QString &file) const override;
     void setSecurity(const QString &file, const FileSecurity &security) override;
