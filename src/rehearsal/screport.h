@@ -3,17 +3,10 @@
 
 #pragma once
 
-#include <QByteArray>
+#include "platform/systemreader.h"
+
 #include <QList>
 #include <QString>
-
-/** One service of a report. */
-struct ServiceReport
-{
-    QString name;
-    bool running = false;
-    bool everRan = true; ///< false for one that was never started since the PC was
-};
 
 /** Whether a text looks like a report, in any language. */
 bool isServiceReport(const QString &text);

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/registryvalue.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QMap>
@@ -12,32 +14,6 @@
 #include <optional>
 
 class Database;
-
-/** Types of registry values, numbered as the registry does. */
-enum class RegistryType : quint32 {
-    None = 0,
-    String = 1,
-    ExpandString = 2,
-    Binary = 3,
-    DWord = 4,
-    DWordBigEndian = 5,
-    Link = 6,
-    MultiString = 7,
-    ResourceList = 8,
-    FullResourceDescriptor = 9,
-    ResourceRequirementsList = 10,
-    QWord = 11,
-};
-
-/** One value as the registry holds it: texts are UTF-16LE with their closing zero, numbers little-endian. */
-struct RegistryValue
-{
-    QString name; ///< empty for the unnamed value
-    RegistryType type = RegistryType::String;
-    QByteArray data;
-
-    friend bool operator==(const RegistryValue &, const RegistryValue &) = default;
-};
 
 /** A key as the one above it lists it. */
 struct RegistrySubkey

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A platform that hands every question on to another one, for those that answer some themselves.
+
+#pragma once
+
+#include "platform.h"
+
+class ForwardingPlatform : public Platform
+{
+public:
+    explicit ForwardingPlatform(std::unique_ptr<Platform> inner)
+        : inner_(std::move(inner))
+    {
+    }
+
+    std::unique_ptr<RegistryKey> openKey(const QString &path) const override { return inner_->openKey(path); }
+    QString hostPath(const QString &windowsPath) const override { return inner_->hostPath(windowsPath); }
+    QString programFolder() const override { return inner_->programFolder(); }
+    QString resourceFolder() const override { return inner_->resourceFolder(); }
+    void walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const override
+    {
+        inner_->walk(windowsPath, visit);
+    }
+    quint32 fileAttributes(const QString &file) const override { return inner_->fileAttributes(file); }
+    void setFileAttributes(const QString &file, quint32 word) const override { inner_->setFileAttributes(file, word); }
+    QString programFile(const QString &program) const override { return inner_->programFile(program); }
+    int exitCode(qint64 processId, int reported) const override { return inner_->exitCode(processId, reported); }
+    bool isElevated() const override { return inner_->isElevated(); }
+    void shellExecute(const ShellStart &start) const override { inner_->shellExecute(start); }
+    QStringList processNames() const override { return inner_->processNames(); }
+    DllString dllString(const QString &windowsPath, uint id) const override
+    {
+        return inner_->dllString(windowsPath, id);
+    }
+    WmiAnswer queryWmi(const QString &className, const QStringList &properties) const override
+    {
+        return inner_->queryWmi(className, properties);
+    }
+    std::optional<bool> seekPenalty(const QString &windowsPath) const override
+    {
+        return inner_->seekPenalty(windowsPath);
+    }
+    std::optional<int> colorSpace() const override { return inner_->colorSpace(); }
+    QSize screenSize() const override { return inner_->screenSize(); }
+    ProcessorTimes processorTimes() const override { return inner_->processorTimes(); }
+    QList<quint32> processIds() const override { return inner_->processIds(); }
+    int threadCount() const override { return inner_->threadCount(); }
+    quint64 freeMemory() const override { return inner_->freeMemory(); }
+    RootDrive rootDrive() const override { return inner_->rootDrive(); }
+    void pause(int milliseconds) const override { inner_->pause(milliseconds); }
+
+private:
+    std::unique_ptr<Platform> inner_;
+};
