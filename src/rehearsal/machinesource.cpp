@@ -4,10 +4,7 @@
 
 #include "filechanges.h"
 #include "interruption.h"
-#include "machinejson.h"
 #include "platform/simulated/database.h"
-#include "platform/simulated/regfile.h"
-#include "screport.h"
 #include "taskexport.h"
 
 #include <QDir>
@@ -55,6 +52,13 @@ public:
     }
 
     void file(const QString &path);
+    void contents(const MachineContents &contents)
+    {
+        applyRegistryScript(machine_.database(), machine_.registry(), contents.registry);
+        apply(contents.services);
+        apply(contents.tasks);
+        apply(contents.description);
+    }
     void commit()
     {
         transaction_.commit();
@@ -234,12 +238,10 @@ void moveIntoPlace(const QString &made, const QString &folder, const QString &st
 
 } // namespace
 
-void makeMachine(const QString &folder, const QString &sources, Existing existing, const ProgressCallback &progress)
+void makeMachine(const QString &folder, Existing existing, const std::function<void(Machine &)> &fill)
 {
     const QString place = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
     checkPlace(place, existing);
-    const QStringList files = sources.isEmpty() ? QStringList() : sourceFiles(sources);
-
     const QString parent = QFileInfo(place).path();
     if (!QFileInfo(parent).isDir())
         throw MachineError{u"%1: there is no such folder"_s.arg(parent)};
@@ -250,9 +252,16 @@ void makeMachine(const QString &folder, const QString &sources, Existing existin
     const QString made = staging.filePath(u"machine"_s);
     {
         const std::unique_ptr<Machine> machine = Machine::create(made);
-        importFiles(*machine, files, progress);
+        fill(*machine);
     }
     moveIntoPlace(made, place, staging.path());
+}
+
+void makeMachine(const QString &folder, const QString &sources, Existing existing, const ProgressCallback &progress)
+{
+    makeMachine(folder, existing, [&](Machine &machine) {
+        importFiles(machine, sources.isEmpty() ? QStringList() : sourceFiles(sources), progress);
+    });
 }
 
 void importFile(Machine &machine, const QString &file, const ProgressCallback &progress)
@@ -270,5 +279,12 @@ void importFiles(Machine &machine, const QStringList &files, const ProgressCallb
             progress(file, done++, static_cast<int>(files.size()));
         import.file(file);
     }
+    import.commit();
+}
+
+void importContents(Machine &machine, const MachineContents &contents, const ProgressCallback &progress)
+{
+    Import import(machine, progress);
+    import.contents(contents);
     import.commit();
 }

@@ -3,7 +3,10 @@
 
 #pragma once
 
+#include "machinejson.h"
 #include "platform/simulated/machine.h"
+#include "platform/simulated/regfile.h"
+#include "screport.h"
 
 #include <functional>
 
@@ -13,11 +16,23 @@ using ProgressCallback = std::function<void(const QString &step, int done, int t
 /** Whether making a machine may take the place of one that is there. */
 enum class Existing { Keep, Replace };
 
+/** What a machine is filled with, already read. */
+struct MachineContents
+{
+    MachineDescription description;
+    QList<RegistryEdit> registry{};
+    QList<ServiceReport> services{};
+    QList<ScheduledTask> tasks{};
+};
+
+/**
+ * Makes a machine and lets @p fill fill it. A machine comes to be as a whole or not at all. Throws Interrupted,
+ * and MachineError, also where @p folder holds something that may not be replaced: only a machine ever is.
+ */
+void makeMachine(const QString &folder, Existing existing, const std::function<void(Machine &)> &fill);
 /**
  * Makes a machine from a folder of sources: all its .reg files in the order of their names, then its tasks.xml and
- * its machine.json. An empty @p sources makes an empty machine. A machine comes to be as a whole or not at all.
- * Throws Interrupted, and MachineError, also where @p folder holds something that may not be replaced: only a machine
- * ever is.
+ * its machine.json. An empty @p sources makes an empty machine.
  */
 void makeMachine(const QString &folder, const QString &sources, Existing existing,
                  const ProgressCallback &progress = {});
@@ -30,3 +45,5 @@ void makeMachine(const QString &folder, const QString &sources, Existing existin
 void importFile(Machine &machine, const QString &file, const ProgressCallback &progress = {});
 /** Imports several, together or not at all. */
 void importFiles(Machine &machine, const QStringList &files, const ProgressCallback &progress = {});
+/** Takes over what was read, together or not at all. */
+void importContents(Machine &machine, const MachineContents &contents, const ProgressCallback &progress = {});
