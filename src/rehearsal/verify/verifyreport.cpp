@@ -2,6 +2,8 @@
 
 #include "verifyreport.h"
 
+#include "rehearsal/preview/previewtexts.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -85,7 +87,7 @@ QString groupText(PreviewGroup group, const QList<VerifiedItem> &items)
         }
     }
     const QString text = others + inForce;
-    return text.isEmpty() ? QString() : u'\n' + groupTitle(group) + u'\n' + text;
+    return text.isEmpty() ? QString() : u'\n' + textsOf(group).title + u'\n' + text;
 }
 
 } // namespace
@@ -120,7 +122,7 @@ QByteArray verifyJson(const QList<VerifiedItem> &items)
                                        {u"now"_s, side(detail.now)},
                                        {u"recorded"_s, side(detail.recorded)}});
         }
-        array.append(QJsonObject{{u"group"_s, groupTitle(item.group)},
+        array.append(QJsonObject{{u"group"_s, textsOf(item.group).title},
                                  {u"name"_s, item.name},
                                  {u"title"_s, item.title},
                                  {u"verdict"_s, rowOf(item.verdict).word},
