@@ -210,7 +210,7 @@ void TestVerify::optimizedPcIsInForceButForWhatIsOnlyRecorded()
     QCOMPARE(namesOf(json, u"changed-back"_s), QStringList());
     QCOMPARE(namesOf(json, u"gone"_s), QStringList());
     const QStringList inForce = namesOf(json, u"in-force"_s);
-    for (const QString &name : {u"DiagTrack"_s, consolidator, u"Microsoft.BingNews"_s, u"Steam"_s, u"chkWindows8"_s})
+    for (const QString &name : {u"DiagTrack"_s, consolidator, u"Microsoft.BingNews"_s, u"OneDrive"_s, u"chkWindows8"_s})
         QVERIFY2(inForce.contains(name), qPrintable(name));
     QVERIFY2(inForce.size() > 100, qPrintable(QString::number(inForce.size())));
     QCOMPARE(json[u"counts"_s][u"in-force"_s].toInt(), inForce.size());
