@@ -3,6 +3,7 @@
 #include "keeplist.h"
 
 #include "kestrune.h"
+#include "work/keepfeatures.h"
 #include "work/settings.h"
 
 #include <QMouseEvent>
@@ -15,54 +16,51 @@ QStandardItemModel *const keepModel = new QStandardItemModel;
 
 namespace {
 
-struct KeepFeature
+struct KeepRow
 {
     const char *text;
     const char *toolTip;
-    std::atomic<int> WorkThread::*member;
 };
 
-/** Row 0 is the title; row n belongs to the setting Keep_n. */
+/** The title, and then the features. */
 // clang-format off
-constexpr KeepFeature keepFeatures[] = {
-    {QT_TRANSLATE_NOOP("Kestrune", "Keep features"), nullptr, nullptr},
+constexpr KeepRow rows[] = {
+    {QT_TRANSLATE_NOOP("Kestrune", "Keep features"), nullptr},
     {QT_TRANSLATE_NOOP("Kestrune", "Printer"),
-     QT_TRANSLATE_NOOP("Kestrune", "If you don't have any printers, you can uncheck this"),
-     &WorkThread::keepPrinter},
+     QT_TRANSLATE_NOOP("Kestrune", "If you don't have any printers, you can uncheck this")},
     {QT_TRANSLATE_NOOP("Kestrune", "Bluetooth audio"),
      QT_TRANSLATE_NOOP("Kestrune", "If you do not have a headset or audio equipment connected via Bluetooth, you "
-                                   "can uncheck this"),
-     &WorkThread::keepBluetoothAudio},
+                                   "can uncheck this")},
     {QT_TRANSLATE_NOOP("Kestrune", "Files sharing"),
      QT_TRANSLATE_NOOP("Kestrune", "Windows sharing functionality on a local network (SMB protocol) (eg: connect "
                                    "hard drives, printers on a local network)\r\n(by default it is not used but "
-                                   "activated!)"),
-     &WorkThread::keepFilesSharing},
+                                   "activated!)")},
     {QT_TRANSLATE_NOOP("Kestrune", "Xbox App"),
-     QT_TRANSLATE_NOOP("Kestrune", "Application to play PC games if you have a Gamepass account (paid)"),
-     &WorkThread::keepXboxApp},
+     QT_TRANSLATE_NOOP("Kestrune", "Application to play PC games if you have a Gamepass account (paid)")},
     {QT_TRANSLATE_NOOP("Kestrune", "UPnP network services"),
      QT_TRANSLATE_NOOP("Kestrune", "Other protocol dedicated to local network (eg: some video players use it to "
-                                   "connect to network hard drives)\r\n(by default it is not used but activated!)"),
-     &WorkThread::keepUpnp},
+                                   "connect to network hard drives)\r\n(by default it is not used but activated!)")},
     {QT_TRANSLATE_NOOP("Kestrune", "Proxy and VPN"),
      QT_TRANSLATE_NOOP("Kestrune", "Proxy or VPN functionality to improve the security of your network "
-                                   "traffic\r\n(by default it is not used but activated!)"),
-     &WorkThread::keepProxyVpn},
+                                   "traffic\r\n(by default it is not used but activated!)")},
     {QT_TRANSLATE_NOOP("Kestrune", "NFC"),
      QT_TRANSLATE_NOOP("Kestrune", "Quick setup of some bluetooth headsets\r\n(by default it is not used but "
-                                   "activated!)"),
-     &WorkThread::keepNfc},
+                                   "activated!)")},
     {QT_TRANSLATE_NOOP("Kestrune", "Xbox game bar"),
      QT_TRANSLATE_NOOP("Kestrune", "XBOX Game Bar that appears at the top of the screen, above a game. If you "
-                                   "don't use it, uncheck this box"),
-     &WorkThread::keepXboxGameBar},
+                                   "don't use it, uncheck this box")},
     {QT_TRANSLATE_NOOP("Kestrune", "Microsoft Codecs extensions"),
      QT_TRANSLATE_NOOP("Kestrune", "Microsoft codecs for video encoding/decoding. If you are not using Windows "
-                                   "internal features for streaming,encoding or playing videos, uncheck this box"),
-     &WorkThread::keepCodecs},
+                                   "internal features for streaming,encoding or playing videos, uncheck this box")},
 };
 // clang-format on
+static_assert(std::size(rows) == 1 + keepFeatures.size());
+
+/** The worker's member behind a row; none behind the title. */
+std::atomic<int> *keepMember(WorkThread *worker, int row)
+{
+    return row == 0 ? nullptr : &(worker->*keepFeatures[static_cast<std::size_t>(row - 1)].keep);
+}
 
 /**
  * Draws the rows as the theme's style sheet has them, which the lists' own way of some styles doesn't, and lets a click
@@ -100,11 +98,6 @@ protected:
     }
 };
 
-QString keepSetting(int row)
-{
-    return u"Keep_"_s + QString::number(row);
-}
-
 } // namespace
 
 void Kestrune::buildKeepList()
@@ -115,12 +108,13 @@ void Kestrune::buildKeepList()
     keepModel->setColumnCount(1);
 
     const auto settings = openSettings();
-    for (const KeepFeature &feature : keepFeatures) {
+    for (const KeepRow &texts : rows) {
         const int row = keepModel->rowCount();
+        std::atomic<int> *const member = keepMember(workThread, row);
         // An item is finished before it is appended: earlier connections would store a half-made row.
-        auto *item = new QStandardItem(tr(feature.text));
+        auto *item = new QStandardItem(tr(texts.text));
         item->setTextAlignment(Qt::AlignCenter);
-        if (feature.member == nullptr) {
+        if (member == nullptr) {
             item->setEnabled(false);
         } else {
             item->setFlags(Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
@@ -128,8 +122,8 @@ void Kestrune::buildKeepList()
             if (stored == Qt::Checked || stored == Qt::Unchecked)
                 item->setCheckState(static_cast<Qt::CheckState>(stored));
             if (stored == Qt::Unchecked)
-                workThread->*feature.member = Qt::Unchecked;
-            item->setToolTip(tr(feature.toolTip));
+                *member = Qt::Unchecked;
+            item->setToolTip(tr(texts.toolTip));
         }
         keepModel->appendRow(item);
     }
@@ -152,8 +146,8 @@ void Kestrune::onKeepItemChanged(int firstRow, int lastRow)
     const auto settings = openSettings();
     for (int row = firstRow; row <= lastRow; ++row) {
         const int state = keepModel->item(row)->checkState();
-        if (const auto member = keepFeatures[row].member; member != nullptr)
-            workThread->*member = state;
+        if (std::atomic<int> *const member = keepMember(workThread, row); member != nullptr)
+            *member = state;
         settings->setValue(keepSetting(row), state);
     }
 }

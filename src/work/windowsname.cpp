@@ -9,8 +9,6 @@ using namespace Qt::StringLiterals;
 
 WindowsName readWindowsName()
 {
-    constexpr int firstBuildOfWindows11 = 22000;
-
     const auto key = platform().openKey(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion"_s);
     WindowsName name;
     name.product = key->value(u"ProductName"_s, WorkThread::tr("unknown")).toString();

@@ -4,6 +4,7 @@
 
 #include "platform/simulated/database.h"
 #include "registryundo.h"
+#include "rehearsal/fileowner.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -17,7 +18,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto packagesKey = "\\AppModel\\Repository\\Packages\\"_L1;
-constexpr auto installationOwner = "NT SERVICE\\TrustedInstaller"_L1;
 
 QString quoted(const QString &text)
 {

@@ -7,6 +7,7 @@
 #include "rehearsal/machinecopy.h"
 #include "subcommands.h"
 #include "windowprogram.h"
+#include "work/windowsname.h"
 
 #include <QDir>
 #include <QProcess>
@@ -60,7 +61,6 @@ QStringList takePictures(const Machine &machine, QLatin1StringView theme, const 
 /** Windows 10 has no dark theme. */
 bool hasDarkTheme(Machine &machine)
 {
-    constexpr int firstBuildOfWindows11 = 22000;
     RegistryStore &registry = machine.registry();
     const auto key = registry.find(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion"_s);
     const auto build = key ? registry.value(*key, u"CurrentBuild"_s) : std::nullopt;

@@ -2,6 +2,7 @@
 // icacls: grants a user rights to a file, takes all that was granted back, and gives a file to an owner.
 
 #include "rehearsal/consolecodepage.h"
+#include "rehearsal/fileowner.h"
 #include "tools.h"
 
 #include <QFileInfo>
@@ -15,9 +16,6 @@ namespace {
 constexpr int exitFileNotFound = 2;
 constexpr int exitAccessDenied = 5;
 constexpr int exitInvalidParameter = 87;
-
-/** Who owns the files of Windows; a file of that owner is as it was installed. */
-constexpr auto installationOwner = "NT SERVICE\\TrustedInstaller"_L1;
 
 /** What the arguments ask for. */
 struct Request
