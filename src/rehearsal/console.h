@@ -3,9 +3,14 @@
 
 #pragma once
 
+#include <QByteArray>
+#include <QString>
+
 /** Makes standard output and standard error carry bytes as they are written. */
 void useBinaryOutput();
 /** Whether someone may be reading standard error as it is written. */
 bool errorsGoToTerminal();
 /** Whether the program that started this one has gone; false where that can't be told. */
 bool starterIsGone();
+/** What a tool printed, in the code page of this console; where there is none, in that of a rehearsal machine. */
+QString consoleText(const QByteArray &bytes);

@@ -2,6 +2,8 @@
 
 #include "console.h"
 
+#include "consolecodepage.h"
+
 #include <unistd.h>
 
 namespace {
@@ -20,4 +22,9 @@ bool errorsGoToTerminal()
 bool starterIsGone()
 {
     return getppid() != starter;
+}
+
+QString consoleText(const QByteArray &bytes)
+{
+    return fromConsoleBytes(bytes);
 }

@@ -5,6 +5,8 @@
 #include <fcntl.h>
 #include <io.h>
 
+#include <windows.h>
+
 #include <cstdio>
 
 void useBinaryOutput()
@@ -21,4 +23,15 @@ bool errorsGoToTerminal()
 bool starterIsGone()
 {
     return false;
+}
+
+QString consoleText(const QByteArray &bytes)
+{
+    const UINT ofConsole = GetConsoleOutputCP(); // 0 without a console
+    const UINT codePage = ofConsole == 0 ? GetOEMCP() : ofConsole;
+    const int size = static_cast<int>(bytes.size());
+    QString text(MultiByteToWideChar(codePage, 0, bytes.constData(), size, nullptr, 0), Qt::Uninitialized);
+    MultiByteToWideChar(codePage, 0, bytes.constData(), size, reinterpret_cast<wchar_t *>(text.data()),
+                        static_cast<int>(text.size()));
+    return text;
 }

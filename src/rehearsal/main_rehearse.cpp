@@ -17,8 +17,9 @@ namespace {
 constexpr auto program = "kestrune-rehearse"_L1;
 
 constexpr const Subcommand *subcommands[] = {
-    &newSubcommand,    &listSubcommand, &runSubcommand, &exportSubcommand,  &importSubcommand,
-    &previewSubcommand, &verifySubcommand, &diffSubcommand, &guiSubcommand, &tourSubcommand,
+    &newSubcommand,     &captureSubcommand, &listSubcommand,   &runSubcommand,
+    &previewSubcommand, &verifySubcommand,  &diffSubcommand,   &guiSubcommand,
+    &tourSubcommand,    &exportSubcommand,  &importSubcommand,
 };
 
 QString optionsOf(const Subcommand &subcommand)

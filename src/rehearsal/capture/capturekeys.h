@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What of a PC's registry the program reads or writes.
+
+#pragma once
+
+#include <QList>
+#include <QStringList>
+
+/** How much of a key is taken. */
+enum class Reach {
+    Named,          ///< some of its own values
+    Own,            ///< all of its own values
+    Tree,           ///< all of it
+    NamedOfSubkeys, ///< some values of each direct subkey
+};
+
+struct CaptureKey
+{
+    QString path;
+    Reach reach = Reach::Named;
+    QStringList values{}; ///< of the named reaches
+};
+
+inline const QString capturedServices = QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services");
+inline const QString capturedInterfaces =
+    QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters\\Interfaces");
+inline const QString capturedAdapters = QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Video");
+inline const QString capturedSettings = QStringLiteral("HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale");
+
+/** The keys of programs that start at logon, whose values are commands. */
+QStringList capturedRunKeys();
+/** All keys but those of network interfaces and display adapters, which go by rules of their own. */
+QList<CaptureKey> captureKeys();

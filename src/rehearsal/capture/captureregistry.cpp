@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "captureregistry.h"
+
+#include "capturekeys.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/** The name of its last value is read, whatever that is. */
+constexpr QLatin1StringView cloudBackupPrefix("CloudBackupRestoreSvc_");
+
+bool isText(const RegistryValue &value)
+{
+    return value.type == RegistryType::String || value.type == RegistryType::ExpandString;
+}
+
+bool isNamed(const RegistryValue &value, QLatin1StringView name)
+{
+    return value.name.compare(name, Qt::CaseInsensitive) == 0;
+}
+
+/** Another text of the same length, so that it is cut and counted alike. */
+QString neutralHint(const QString &hint)
+{
+    return QString(hint.size(), u'4');
+}
+
+class RegistryCapture
+{
+public:
+    RegistryCapture(const SystemReader &system, bool withNames)
+        : system_(system)
+        , withNames_(withNames)
+    {
+    }
+
+    CapturedRegistry result()
+    {
+        for (const CaptureKey &key : captureKeys())
+            take(key);
+        takeAdapters();
+        takeInterfaces();
+        return result_;
+    }
+
+private:
+    void take(const CaptureKey &key)
+    {
+        switch (key.reach) {
+        case Reach::Named:
+            takeValues(key.path, &key.values);
+            break;
+        case Reach::Own:
+            takeValues(key.path, nullptr);
+            break;
+        case Reach::Tree:
+            takeTree(key.path);
+            break;
+        case Reach::NamedOfSubkeys:
+            for (const QString &name : open(key.path).subkeys)
+                takeSubkey(key, name);
+            break;
+        }
+    }
+
+    /** The key itself and those values of it that are wanted; all of them without a list. */
+    KeyContent takeValues(const QString &path, const QStringList *wanted)
+    {
+        const KeyContent content = open(path);
+        for (const RegistryValue &value : content.values) {
+            if (wanted == nullptr || wanted->contains(value.name, Qt::CaseInsensitive))
+                takeValue(path, value);
+        }
+        return content;
+    }
+
+    KeyContent open(const QString &path)
+    {
+        const KeyContent content = system_.key(path);
+        if (content.isRefused && !result_.refused.contains(path))
+            result_.refused.append(path);
+        if (content.isThere)
+            result_.edits.append({RegistryEdit::Kind::MakeKey, path, {}});
+        return content;
+    }
+
+    void takeValue(const QString &path, const RegistryValue &value)
+    {
+        result_.edits.append({RegistryEdit::Kind::SetValue, path, value});
+        const bool shown = isNamed(value, "DisplayName"_L1) || isNamed(value, "Description"_L1);
+        if (shown && path.startsWith(capturedServices))
+            result_.serviceTexts.append(textOf(value.data));
+        else if (isText(value) && (capturedRunKeys().contains(path) || path == capturedSettings + u"\\Autorun"_s))
+            result_.commands.append(textOf(value.data));
+    }
+
+    void takeTree(const QString &path)
+    {
+        for (const QString &name : takeValues(path, nullptr).subkeys)
+            takeTree(path + u'\\' + name);
+    }
+
+    void takeSubkey(const CaptureKey &key, const QString &name)
+    {
+        const QString path = key.path + u'\\' + name;
+        if (key.path == capturedServices && name.startsWith(cloudBackupPrefix, Qt::CaseInsensitive))
+            takeTree(path);
+        else
+            takeValues(path, &key.values);
+    }
+
+    void takeAdapters()
+    {
+        const QStringList wanted{u"EnableUlps"_s};
+        for (const QString &adapter : open(capturedAdapters).subkeys) {
+            const QString path = capturedAdapters + u'\\' + adapter;
+            open(path);
+            for (int instance = 0; instance <= 5; ++instance)
+                takeValues(path + u"\\000"_s + QString::number(instance), &wanted);
+        }
+    }
+
+    void takeInterfaces()
+    {
+        takeInterface(capturedInterfaces); // values may lie there, too
+        for (const QString &name : system_.key(capturedInterfaces).subkeys)
+            takeInterface(capturedInterfaces + u'\\' + name);
+    }
+
+    void takeInterface(const QString &path)
+    {
+        const QStringList switches{u"TcpAckFrequency"_s, u"TCPNoDelay"_s};
+        for (const RegistryValue &value : takeValues(path, &switches).values) {
+            if (isNamed(value, "DhcpIPAddress"_L1))
+                takeAddress(path, value);
+            else if (isNamed(value, "DhcpNetworkHint"_L1))
+                takeNetwork(path, value);
+        }
+    }
+
+    /** Whether there is one is all that counts. */
+    void takeAddress(const QString &path, RegistryValue value)
+    {
+        const QString address = textOf(value.data);
+        if (!withNames_ && !address.isEmpty() && address != "0.0.0.0"_L1)
+            value.data = registryText(u"192.0.2.1"_s); // of the block for examples
+        takeValue(path, value);
+    }
+
+    /** The name of the wireless network that was joined last; its subkey has the first half of it. */
+    void takeNetwork(const QString &path, RegistryValue value)
+    {
+        constexpr qsizetype lengthOfSubkey = 12;
+
+        const QString hint = textOf(value.data);
+        const QString shown = withNames_ ? hint : neutralHint(hint);
+        value.data = registryText(shown);
+        takeValue(path, value);
+        const KeyContent network = system_.key(path + u'\\' + hint.left(lengthOfSubkey));
+        if (!network.isThere || hint.isEmpty())
+            return;
+        const QString place = path + u'\\' + shown.left(lengthOfSubkey);
+        result_.edits.append({RegistryEdit::Kind::MakeKey, place, {}});
+        for (const RegistryValue &each : network.values) {
+            if (isNamed(each, "TcpAckFrequency"_L1) || isNamed(each, "TCPNoDelay"_L1))
+                takeValue(place, each);
+        }
+    }
+
+    const SystemReader &system_;
+    bool withNames_;
+    CapturedRegistry result_;
+};
+
+} // namespace
+
+CapturedRegistry captureRegistry(const SystemReader &system, bool withNames)
+{
+    return RegistryCapture(system, withNames).result();
+}
+
+QString registryTextOf(const SystemReader &system, const QString &key, const QString &name)
+{
+    for (const RegistryValue &value : system.key(key).values) {
+        if (value.name.compare(name, Qt::CaseInsensitive) == 0 && isText(value))
+            return textOf(value.data);
+    }
+    return QString();
+}
