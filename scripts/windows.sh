@@ -133,10 +133,12 @@ source "$scripts/windows/program.sh"
 source "$scripts/windows/desk.sh"
 # shellcheck source=scripts/windows/trial.sh
 source "$scripts/windows/trial.sh"
+# shellcheck source=scripts/windows/rehearse.sh
+source "$scripts/windows/rehearse.sh"
 # shellcheck source=scripts/windows/pack.sh
 source "$scripts/windows/pack.sh"
 
-readonly stages=(root packages qt sqlite build bytes trial pack install)
+readonly stages=(root packages qt sqlite build bytes trial rehearse pack install)
 stage_times=()
 
 run_stage() {

@@ -1,0 +1,42 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Functions are called by their names, variables are those of the sourcing script, which has set -e:
+# shellcheck shell=bash disable=SC2317,SC2154,SC2034,SC2164
+# The stage "rehearse": a PC under Wine is captured there and rehearsed on here. Sourced by scripts/windows.sh.
+
+rehearse_key() { echo always; }
+rehearse_stamp() { :; }
+rehearse_says() { echo "captures a PC under Wine, and rehearses on it with the dev build of Linux; about 2 minutes"; }
+rehearse_make() {
+    local program=$source_folder/build/dev/bin/kestrune-rehearse captured=$source_folder/build/windows/captured version
+    [[ -x $program ]] || fail "rehearse: the dev build is missing; ./dev test makes it"
+    in_root --caller inside_capture
+    for version in win10 win11; do rehearse_on "$program" "$captured/$version"; done
+}
+
+# rehearse_on PROGRAM MACHINE: opens the captured PC, looks at it, and lets Optimize loose on a copy
+rehearse_on() {
+    local services applications version=${2##*/} found
+    services=$("$1" list "$2" services | wc -l)
+    applications=$("$1" list "$2" packages | wc -l)
+    ((services > 100 && applications > 50)) || fail "rehearse: $services services and $applications packages were captured"
+    found=$("$1" run "$2" analyze | grep -c 'can be') || fail "rehearse: Analyze finds nothing on the captured PC"
+    "$1" preview "$2" --undo "$2-undo.reg" --html "$2.html" >/dev/null
+    [[ -s $2.html && $(stat -c %s "$2-undo.reg") -gt 10000 ]] || fail "rehearse: the preview of the captured PC is empty"
+    say "rehearse: $version: $services services and $applications packages captured, $found findings, previewed"
+}
+
+inside_capture() {
+    local version
+    rm -rf "$inside_build/captured"
+    mkdir -p "$inside_build/captured"
+    for version in win10 win11; do
+        desk_begin "$version" "capture-$version"
+        mkdir -p "$inside_making/trial"
+        lay_pc "$version"
+        quietly capture 120 wine "$inside_build/bin/kestrune-rehearse.exe" capture "Z:$inside_build/captured/$version"
+        desk_end
+        ! grep -rqaiE '[\\/]users[\\/]+'"$USER" "$inside_build/captured/$version" ||
+            fail "rehearse: the name of the user stands in the captured machine"
+    done
+    rm -rf "$inside_making/trial"
+}
