@@ -57,10 +57,8 @@ void FileChanges::write(const QString &file, const QByteArray &content, qint64 s
     }
     made_.append(file);
     QFile output(file);
-    const bool opened = output.open(QIODevice::WriteOnly);
-    if (opened)
-        allowHoles(output);
-    if (!opened || output.write(content) != content.size() || !output.resize(size) || !output.flush())
+    if (!output.open(QIODevice::WriteOnly) || output.write(content) != content.size() || !resizeWithHole(output, size)
+        || !output.flush())
         throw MachineError{u"%1: %2"_s.arg(file, output.errorString())};
 }
 

@@ -42,10 +42,7 @@ void copyFile(const QString &from, const QString &to)
     QFile copy(to);
     if (!source.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         fail(source);
-    if (!copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        fail(copy);
-    allowHoles(copy);
-    if (!copy.resize(source.size()))
+    if (!copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !resizeWithHole(copy, source.size()))
         fail(copy);
     const QByteArray zeros(blockSize, 0);
     for (qint64 offset = nextData(source, 0); offset < source.size(); offset = nextData(source, offset)) {

@@ -10,5 +10,6 @@
  * is left. Where the system doesn't tell of holes, @p offset itself.
  */
 qint64 nextData(QFile &file, qint64 offset);
-/** Lets what is never written of an open file stay a hole, where the system doesn't do so by itself. */
-void allowHoles(QFile &file);
+
+/** Changes the size of a file that is open for writing; what is added is a hole, where the disk has such. */
+bool resizeWithHole(QFile &file, qint64 size);

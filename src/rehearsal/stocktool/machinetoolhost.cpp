@@ -3,6 +3,7 @@
 #include "machinetoolhost.h"
 
 #include "platform/simulated/database.h"
+#include "platform/simulated/filehole.h"
 #include "platform/simulated/simulatedkey.h"
 #include "rehearsal/resourcetext.h"
 
@@ -123,7 +124,7 @@ bool MachineToolHost::setHiberfile(bool present)
         machine_.setFormerHiberfileSize(file.size());
         return file.remove();
     }
-    if (!file.open(QIODevice::WriteOnly) || !file.resize(hiberfileSize()))
+    if (!file.open(QIODevice::WriteOnly) || !resizeWithHole(file, hiberfileSize()))
         return false;
     machine_.setAttributes(hiberfile, hiddenSystemArchive);
     return true;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // OneDriveSetup: installs OneDrive for the user, and removes it.
 
+#include "platform/simulated/filehole.h"
 #include "tools.h"
 
 #include <QDir>
@@ -30,7 +31,7 @@ bool makeFile(const QString &path, qint64 size)
 {
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
-    return file.open(QIODevice::ReadWrite) && file.resize(size);
+    return file.open(QIODevice::ReadWrite) && resizeWithHole(file, size);
 }
 
 ToolResult install(ToolHost &host)
