@@ -8,6 +8,8 @@
 
 /** Makes standard output and standard error carry bytes as they are written. */
 void useBinaryOutput();
+/** The same, and a console shows them as UTF-8 as long as the program runs. */
+void useUtf8Output();
 /** Whether someone may be reading standard error as it is written. */
 bool errorsGoToTerminal();
 /** Whether the program that started this one has gone; false where that can't be told. */

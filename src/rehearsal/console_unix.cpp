@@ -14,6 +14,8 @@ const pid_t starter = getppid();
 
 void useBinaryOutput() {}
 
+void useUtf8Output() {}
+
 bool errorsGoToTerminal()
 {
     return isatty(STDERR_FILENO) != 0;

@@ -4,15 +4,34 @@
 
 #include <fcntl.h>
 #include <io.h>
+#include <windows.h>
 
 #include <windows.h>
 
 #include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+UINT formerCodePage = 0; // 0: there is no console
+
+} // namespace
 
 void useBinaryOutput()
 {
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
+}
+
+void useUtf8Output()
+{
+    useBinaryOutput();
+    formerCodePage = GetConsoleOutputCP();
+    if (formerCodePage == 0)
+        return;
+    SetConsoleOutputCP(CP_UTF8);
+    // It would stay that for whoever uses the console next.
+    std::atexit([] { SetConsoleOutputCP(formerCodePage); });
 }
 
 bool errorsGoToTerminal()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse: makes rehearsal machines, runs the logic on them, shows what it changes.
 
+#include "console.h"
 #include "interruption.h"
 #include "platform/simulated/machine.h"
 #include "rehearse/examples.h"
@@ -144,6 +145,7 @@ int main(int argc, char *argv[])
 {
     watchForInterruption();
     const QCoreApplication application(argc, argv);
+    useUtf8Output();
     try {
         return runAndComplain(QCoreApplication::arguments().mid(1));
     } catch (const Interrupted &interrupted) {
