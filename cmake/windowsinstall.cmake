@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# What is packed for Windows: the component "kestrune" is the program, "rehearse" what makes and opens rehearsal PCs.
+# What is packed for Windows: the program, and in a folder that needs nothing else what makes and opens rehearsal PCs.
 
 set(texts ${CMAKE_BINARY_DIR}/texts)
 # Texts for people on Windows, with its line ends
@@ -9,13 +9,13 @@ foreach(text IN ITEMS LICENSE packaging/windows/README.txt packaging/windows/REA
 endforeach()
 
 install(TARGETS kestrune RUNTIME DESTINATION . COMPONENT kestrune)
-install(FILES ${texts}/LICENSE.txt ${texts}/README.txt DESTINATION . COMPONENT kestrune)
-install(TARGETS kestrune-rehearse kestrune-rehearsal kestrune-stocktool RUNTIME DESTINATION . COMPONENT rehearse)
-install(FILES ${texts}/LICENSE.txt DESTINATION . COMPONENT rehearse)
-install(FILES ${texts}/README-rehearse.txt DESTINATION . RENAME README.txt COMPONENT rehearse)
-install(DIRECTORY ${CMAKE_SOURCE_DIR}/resources/machines DESTINATION . COMPONENT rehearse)
-foreach(component IN ITEMS kestrune rehearse)
-    install(DIRECTORY ${CMAKE_SOURCE_DIR}/resources/img DESTINATION . COMPONENT ${component}
+install(FILES ${texts}/README.txt DESTINATION . COMPONENT kestrune)
+install(TARGETS kestrune-rehearse kestrune-rehearsal kestrune-stocktool RUNTIME DESTINATION rehearse COMPONENT kestrune)
+install(FILES ${texts}/README-rehearse.txt DESTINATION rehearse RENAME README.txt COMPONENT kestrune)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/resources/machines DESTINATION rehearse COMPONENT kestrune)
+foreach(folder IN ITEMS . rehearse)
+    install(FILES ${texts}/LICENSE.txt DESTINATION ${folder} COMPONENT kestrune)
+    install(DIRECTORY ${CMAKE_SOURCE_DIR}/resources/img DESTINATION ${folder} COMPONENT kestrune
         FILES_MATCHING PATTERN "*.png" PATTERN source EXCLUDE)
-    install(FILES ${translations} DESTINATION Translations COMPONENT ${component})
+    install(FILES ${translations} DESTINATION ${folder}/Translations COMPONENT kestrune)
 endforeach()

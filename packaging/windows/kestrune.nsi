@@ -1,7 +1,8 @@
 ; SPDX-License-Identifier: GPL-3.0-or-later
 ; The installer: for one user without administrator rights, or for all users of the PC.
 ; makensis -DVERSION=… -DFILES=folder -DICON=file -DOUTPUT=file kestrune.nsi
-; Silent: setup.exe /S /CurrentUser or /AllUsers; uninstall.exe /S, with /PURGE to take settings and backups too.
+; Silent: setup.exe /S /CurrentUser or /AllUsers, with /NOREHEARSE to leave the rehearsal PCs out; uninstall.exe /S, with
+; /PURGE to take settings and backups too.
 
 Unicode true
 Target amd64-unicode
@@ -41,6 +42,7 @@ VIAddVersionKey "LegalCopyright" "GNU General Public License, version 3 or later
 !define MUI_ABORTWARNING
 !define MUI_FINISHPAGE_RUN "$INSTDIR\kestrune.exe"
 !insertmacro MULTIUSER_PAGE_INSTALLMODE
+!insertmacro MUI_PAGE_COMPONENTS
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
@@ -49,12 +51,8 @@ VIAddVersionKey "LegalCopyright" "GNU General Public License, version 3 or later
 !insertmacro MUI_LANGUAGE "English"
 !insertmacro MUI_LANGUAGE "French"
 
-Function .onInit
-    SetRegView 64
-    !insertmacro MULTIUSER_INIT
-FunctionEnd
-
 Section "Kestrune"
+    SectionIn RO
     SetOutPath "$INSTDIR"
     File "${FILES}\kestrune.exe"
     File "${FILES}\LICENSE.txt"
@@ -79,9 +77,32 @@ Section "Kestrune"
     WriteRegStr SHCTX "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S /$MultiUser.InstallMode'
     WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "NoModify" 1
     WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "NoRepair" 1
+SectionEnd
+
+Section "Rehearsal PCs" SECTION_REHEARSE
+    SetOutPath "$INSTDIR\rehearse"
+    File /r "${FILES}\rehearse\*"
+SectionEnd
+
+Section "-Size"
     ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
     WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "EstimatedSize" $0
 SectionEnd
+
+!insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
+    !insertmacro MUI_DESCRIPTION_TEXT ${SECTION_REHEARSE} "Tries every change on a simulated PC first."
+!insertmacro MUI_FUNCTION_DESCRIPTION_END
+
+Function .onInit
+    SetRegView 64
+    !insertmacro MULTIUSER_INIT
+    ${GetParameters} $0
+    ClearErrors
+    ${GetOptions} $0 "/NOREHEARSE" $1
+    ${IfNot} ${Errors}
+        !insertmacro UnselectSection ${SECTION_REHEARSE}
+    ${EndIf}
+FunctionEnd
 
 Section "un.Kestrune"
     SectionIn RO
@@ -90,6 +111,18 @@ Section "un.Kestrune"
     Delete "$INSTDIR\README.txt"
     RMDir /r "$INSTDIR\img"
     RMDir /r "$INSTDIR\Translations"
+    ; By their names, for a rehearsal PC that somebody made among them stays.
+    Delete "$INSTDIR\rehearse\kestrune-rehearse.exe"
+    Delete "$INSTDIR\rehearse\kestrune-rehearsal.exe"
+    Delete "$INSTDIR\rehearse\kestrune-stocktool.exe"
+    Delete "$INSTDIR\rehearse\LICENSE.txt"
+    Delete "$INSTDIR\rehearse\README.txt"
+    RMDir /r "$INSTDIR\rehearse\img"
+    RMDir /r "$INSTDIR\rehearse\Translations"
+    RMDir /r "$INSTDIR\rehearse\machines\windows10"
+    RMDir /r "$INSTDIR\rehearse\machines\windows11"
+    RMDir "$INSTDIR\rehearse\machines"
+    RMDir "$INSTDIR\rehearse"
     Delete "$SMPROGRAMS\Kestrune.lnk"
     DeleteRegKey SHCTX "${UNINSTALL_KEY}"
     Delete "$INSTDIR\uninstall.exe"

@@ -13,7 +13,7 @@ pack_inputs() {
     cat LICENSE packaging/windows/* resources/img/*.png resources/machines/*/* resources/Translations/* scripts/windows/pack.sh
 }
 pack_stamp() { echo "$source_folder/build/windows/.packed"; }
-pack_says() { echo "the ZIP archives, the installer and the package managers' manifests; about 1 minute"; }
+pack_says() { echo "the ZIP archive, the installer and the package managers' manifests; about 1 minute"; }
 pack_make() {
     in_root --caller inside_pack
     write_stamp "$(pack_stamp)" "$1"
@@ -28,9 +28,7 @@ inside_pack() {
     rm -rf "$files" "$inside_packages_folder"
     mkdir -p "$inside_packages_folder"
     install_component kestrune "$files/kestrune"
-    install_component rehearse "$files/kestrune-rehearse"
     zip_folder "$files/kestrune" "kestrune-$version-windows-x64.zip"
-    zip_folder "$files/kestrune-rehearse" "kestrune-rehearse-$version-windows-x64.zip"
     makensis -V2 -WX -NOCD -DVERSION="$version" -DFILES="$files/kestrune" \
         -DICON="$inside_source/resources/icon/kestrune.ico" \
         -DOUTPUT="$inside_packages_folder/kestrune-$version-setup.exe" "$inside_source/packaging/windows/kestrune.nsi"
@@ -71,6 +69,7 @@ install_key() {
     {
         cd "$source_folder"
         cat build/windows/packages/*setup.exe build/windows/bin/tst_program.exe scripts/windows/{desk,pack}.sh
+        cat tests/rehearsal/data/small/*
     } 2>/dev/null | digest
 }
 install_stamp() { echo "$source_folder/build/windows/.installed"; }
@@ -85,6 +84,7 @@ inside_install() {
     try_installer CurrentUser HKCU
     try_installer AllUsers HKLM
     purge_installation
+    install_without_rehearsals
     desk_end
 }
 
@@ -92,6 +92,7 @@ inside_install() {
 try_installer() {
     local folder=$inside_making/installed
     install_program "$1" "$2"
+    try_rehearsals "$1"
     mkdir -p "$folder"/backup_{svc,tasks}
     echo kept | tee "$folder/backup_svc/StartMode.reg" >"$folder/backup_tasks/tasks.xml"
     set_value 'HKCU\Software\Kestrune\Ondrevale' lang REG_SZ en
@@ -99,13 +100,39 @@ try_installer() {
     [[ -e $folder/backup_svc/StartMode.reg && -e $folder/backup_tasks/tasks.xml ]] ||
         fail "the uninstaller took people's backups"
     expect "the setting behind the uninstaller" "$(value 'HKCU\Software\Kestrune\Ondrevale' lang)" en
+    [[ -e $inside_making/rehearsals/$1/machine.sqlite && -e $folder/rehearse/mine/machine.sqlite ]] ||
+        fail "the uninstaller took people's rehearsal PCs"
+    rm -rf "$folder/rehearse/mine"
+    rmdir "$folder/rehearse"
 }
+
+# try_rehearsals MODE: from the installed place, which is left as it is. The PC that was made elsewhere must outlive the
+# uninstaller, and so must one that somebody made in the program's own folder.
+try_rehearsals() {
+    local folder=$inside_making/installed/rehearse machines=$inside_making/rehearsals before
+    rm -rf "$machines"
+    mkdir -p "$machines"
+    before=$(listing "$folder")
+    rehearse_installed "new-$1" new "Z:$machines/$1" --from windows11
+    rehearse_installed "new-small-$1" new "Z:$machines/small" --from "Z:$inside_source/tests/rehearsal/data/small"
+    rehearse_installed "preview-$1" preview "Z:$machines/small" --html "Z:$machines/preview.html" --undo "Z:$machines/undo.reg"
+    rehearse_installed "tour-$1" tour "Z:$machines/small" --out "Z:$machines/pictures"
+    grep -q '</html>' "$machines/preview.html" || fail "the installed kestrune-rehearse wrote no preview"
+    expect "the number of pictures of the tour" "$(find "$machines/pictures" -size +4k | wc -l)" 18
+    expect "the installed folder behind a rehearsal" "$(listing "$folder")" "$before"
+    rehearse_installed "new-inside-$1" new "Z:$(readlink -f "$folder")/mine"
+}
+
+rehearse_installed() { quietly "rehearse-$1" 300 wine "$inside_making/installed/rehearse/kestrune-rehearse.exe" "${@:2}"; }
+
+# listing FOLDER: all files with their size and time
+listing() { find "$1/" -printf '%P %s %T@\n' | sort; }
 
 readonly uninstall_key='Software\Microsoft\Windows\CurrentVersion\Uninstall\Kestrune'
 
 # install_program MODE HIVE: leaves a link to the installation's folder in $inside_making/installed
 install_program() {
-    local setup place
+    local setup place program
     setup=$(echo "$inside_packages_folder"/kestrune-*-setup.exe)
     quietly "install-$1" 120 wine "$setup" /S "/$1"
     place=$(value "$2\\$uninstall_key" InstallLocation)
@@ -114,6 +141,9 @@ install_program() {
     ln -sfn "$(winepath -u "$place" 2>/dev/null)" "$inside_making/installed"
     [[ -e $inside_making/installed/kestrune.exe && -e $inside_making/installed/img/services.png ]] ||
         fail "the installer left no program in $place"
+    for program in kestrune-rehearse kestrune-rehearsal kestrune-stocktool; do
+        [[ -e $inside_making/installed/rehearse/$program.exe ]] || fail "the installer left no $program.exe in $place"
+    done
     [[ -n $(find "$WINEPREFIX/drive_c" -name Kestrune.lnk) ]] || fail "the installer made no entry in the start menu"
     export KESTRUNE_TRIAL_PROGRAM="$place\\kestrune.exe"
     export KESTRUNE_TRIAL_PICTURE=Z:$inside_build/screenshots/installed-$1.png
@@ -130,6 +160,9 @@ uninstall_program() {
     done
     [[ ! -e $inside_making/installed/kestrune.exe && ! -e $inside_making/installed/img ]] ||
         fail "the uninstaller left the program"
+    # Only what somebody made there
+    expect "what the uninstaller left of the rehearsals" \
+        "$(find "$inside_making/installed/rehearse/" -mindepth 1 -maxdepth 1 ! -name mine 2>/dev/null)" ''
     expect "the uninstall entry" "$(value "$1\\$uninstall_key" InstallLocation)" ''
     [[ -z $(find "$WINEPREFIX/drive_c" -name Kestrune.lnk) ]] || fail "the uninstaller left the start menu's entry"
 }
@@ -140,5 +173,17 @@ purge_installation() {
     uninstall_program HKCU /PURGE
     [[ ! -e $inside_making/installed/backup_svc ]] || fail "the uninstaller left what it was asked to take"
     expect "the setting behind the purge" "$(value 'HKCU\Software\Kestrune\Ondrevale' lang)" ''
+    [[ ! -e $inside_making/installed/ ]] || fail "the uninstaller left its folder"
     rm -f "$inside_making/installed"
+}
+
+# The part that can be left out
+install_without_rehearsals() {
+    local place
+    quietly install-alone 120 wine "$(echo "$inside_packages_folder"/kestrune-*-setup.exe)" /S /CurrentUser /NOREHEARSE
+    place=$(winepath -u "$(value "HKCU\\$uninstall_key" InstallLocation)" 2>/dev/null)
+    [[ -e $place/kestrune.exe && ! -e $place/rehearse ]] || fail "the installer didn't leave the rehearsal PCs out"
+    ln -sfn "$place" "$inside_making/installed"
+    uninstall_program HKCU
+    rm -rf "$inside_making/installed" "$inside_making/rehearsals"
 }
