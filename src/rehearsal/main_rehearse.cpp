@@ -18,9 +18,8 @@ namespace {
 constexpr auto program = "kestrune-rehearse"_L1;
 
 constexpr const Subcommand *subcommands[] = {
-    &newSubcommand,     &captureSubcommand, &listSubcommand,   &runSubcommand,
-    &previewSubcommand, &verifySubcommand,  &diffSubcommand,   &guiSubcommand,
-    &tourSubcommand,    &exportSubcommand,  &importSubcommand,
+    &newSubcommand,  &captureSubcommand, &listSubcommand, &runSubcommand,    &previewSubcommand, &verifySubcommand,
+    &diffSubcommand, &guiSubcommand,     &tourSubcommand, &exportSubcommand, &importSubcommand,
 };
 
 QString optionsOf(const Subcommand &subcommand)

@@ -149,6 +149,12 @@ void TestRehearse::helpOfRunTellsJobsOptionsAndFeatures()
              "\n  printer, bluetooth-audio, files-sharing, xbox-app, upnp, proxy-vpn, nfc, xbox-game-bar, codecs.\n"})
         QVERIFY2(help.contains(text), text);
     // clang-format on
+
+    const QString tweaks =
+        QString::fromUtf8(help).section(u"Tweaks, by their group and ID:\n"_s, 1).section(u"\n\n"_s, 0, 0);
+    static const QRegularExpression row(u"^  (ssd|gaming|windows) \\d+ +\\S.*$"_s, QRegularExpression::MultilineOption);
+    QCOMPARE(tweaks.count(row), 34);
+    QVERIFY2(tweaks.contains(u"  gaming 5                    Disable HPET\n"_s), qPrintable(tweaks));
 }
 
 void TestRehearse::version()

@@ -13,13 +13,15 @@ struct ExampleRow
     QLatin1StringView meaning;
 };
 
-// All of them can be tried, from the top to the bottom, but for those that need a file of a PC of one's own.
+// They can be tried from the top to the bottom.
 // clang-format off
 constexpr ExampleRow examples[] = {
     {"new"_L1,     "new before --from windows11"_L1,
                    "make a Windows 11 PC in the folder before"_L1},
     {"new"_L1,     "new after --from windows11"_L1,
                    "and another one like it, to try things on"_L1},
+    {"capture"_L1, "capture my-pc"_L1,
+                   "make a copy of this PC in the folder my-pc"_L1},
     {"list"_L1,    "list after services"_L1,
                    "its services: name, how it starts, whether it runs"_L1},
     {"list"_L1,    "list after registry \"HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Run\""_L1,
@@ -34,22 +36,24 @@ constexpr ExampleRow examples[] = {
                    "optimize without printing and NFC, and without tweaks"_L1},
     {"run"_L1,     "run after restore"_L1,
                    "take back what that has recorded"_L1},
-    {"export"_L1,  "export after \"HKCU\\Software\\Kestrune\" > records.reg"_L1,
-                   "save what the program has recorded"_L1},
-    {"import"_L1,  "import after records.reg"_L1,
-                   "and bring it in again"_L1},
+    {"preview"_L1, "preview before"_L1,
+                   "say in the terminal what Optimize would change, and what would come back"_L1},
+    {"preview"_L1, "preview before --html preview.html --undo undo.reg"_L1,
+                   "a web page of it, and an exact way back"_L1},
+    {"verify"_L1,  "verify before after"_L1,
+                   "after a change: say what of it is in force"_L1},
     {"diff"_L1,    "diff before after"_L1,
                    "every value, service, task and file that isn't the same on both"_L1},
     {"diff"_L1,    "diff before after --html changes.html"_L1,
                    "the same as a web page"_L1},
     {"gui"_L1,     "gui after --not-elevated"_L1,
                    "open the window as a user without administrator rights sees it"_L1},
-    {"preview"_L1, "preview before"_L1,
-                   "say in the terminal what Optimize would change, and what would come back"_L1},
-    {"preview"_L1, "preview before --html preview.html --undo undo.reg"_L1,
-                   "a web page of it, and an exact way back"_L1},
     {"tour"_L1,    "tour before --out pictures"_L1,
                    "pictures of all nine pages, dark and light"_L1},
+    {"export"_L1,  "export after \"HKCU\\Software\\Kestrune\" > records.reg"_L1,
+                   "save what the program has recorded"_L1},
+    {"import"_L1,  "import after records.reg"_L1,
+                   "and bring it in again"_L1},
 };
 // clang-format on
 

@@ -137,6 +137,7 @@ QString moreHelp()
     QString text = u"Jobs:\n"_s;
     for (const JobRow &row : jobRows())
         text += u"  "_s + (QString(row.name) + u' ' + row.operands).leftJustified(28) + row.help + u'\n';
+    text += u"\nTweaks, by their group and ID:\n"_s + tweaksInWords();
     return text
            + u"\nFeatures for --keep, each with 2 to keep it or 0 to give it up (default: as in the machine's Keep "
              u"list):\n"

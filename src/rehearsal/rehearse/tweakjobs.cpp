@@ -2,6 +2,7 @@
 
 #include "tweakjobs.h"
 
+#include "rehearsal/preview/featurewords.h"
 #include "subcommands.h"
 
 #include <algorithm>
@@ -13,6 +14,7 @@ namespace {
 struct GroupRow
 {
     QLatin1StringView name;
+    QLatin1StringView boxes; ///< their names on the Features page, but for their numbers
     void (WorkThread::*run)(quint8 apply, quint32 id);
     quint32 lastId;
     quint32 noId; ///< a number that was never given to a tweak
@@ -20,9 +22,9 @@ struct GroupRow
 
 // clang-format off
 constexpr GroupRow groups[] = {
-    {"ssd"_L1,     &WorkThread::TweakSSD,      9,  0},
-    {"gaming"_L1,  &WorkThread::TweakGaming,  14,  0},
-    {"windows"_L1, &WorkThread::TweakWindows, 12, 11},
+    {"ssd"_L1,     "chkSsd"_L1,     &WorkThread::TweakSSD,      9,  0},
+    {"gaming"_L1,  "chkGaming"_L1,  &WorkThread::TweakGaming,  14,  0},
+    {"windows"_L1, "chkWindows"_L1, &WorkThread::TweakWindows, 12, 11},
 };
 // clang-format on
 
@@ -50,4 +52,19 @@ TweakRequest parseTweak(const QStringList &operands)
     if (state != "on"_L1 && state != "off"_L1)
         throw UsageError{u"'%1' is neither on nor off"_s.arg(state)};
     return {group->run, group->name, id, state == "on"_L1};
+}
+
+QString tweaksInWords()
+{
+    QString text;
+    for (const GroupRow &group : groups) {
+        for (quint32 id = 1; id <= group.lastId; ++id) {
+            if (id == group.noId)
+                continue;
+            const QString operands = QString(group.name) + u' ' + QString::number(id);
+            text +=
+                u"  "_s + operands.leftJustified(28) + featureWords(group.boxes + QString::number(id)).option + u'\n';
+        }
+    }
+    return text;
 }

@@ -19,3 +19,5 @@ struct TweakRequest
 
 /** Reads "ssd 8 on". Throws UsageError. */
 TweakRequest parseTweak(const QStringList &operands);
+/** The operands of every tweak and what it does, a line each. */
+QString tweaksInWords();
