@@ -40,8 +40,11 @@ void copyFile(const QString &from, const QString &to)
 
     QFile source(from);
     QFile copy(to);
-    if (!source.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    if (!source.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        if (!source.exists())
+            return; // another process has removed it meanwhile
         fail(source);
+    }
     if (!copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !resizeWithHole(copy, source.size()))
         fail(copy);
     const QByteArray zeros(blockSize, 0);

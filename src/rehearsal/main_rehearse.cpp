@@ -134,7 +134,7 @@ int runAndComplain(const QStringList &words)
         return failure.code;
     } catch (const MachineError &error) {
         complain(error.message);
-        return ExitJobFailed;
+        return error.damaged ? ExitMachineUnreadable : ExitJobFailed;
     }
 }
 

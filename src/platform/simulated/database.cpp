@@ -6,6 +6,8 @@
 #include "machine.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QUrl>
 
 #include <sqlite3.h>
 
@@ -18,6 +20,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int busyTimeout = 10000; // milliseconds
+
+/** Whether the file can only be read. What others have still to write into it must be in it, though. */
+bool isReadOnly(const QString &file)
+{
+    const QFileInfo info(file);
+    const bool writable = info.isWritable() && QFileInfo(info.path()).isWritable();
+    return info.exists() && !writable && !QFileInfo::exists(file + u"-wal"_s);
+}
 
 } // namespace
 
@@ -41,9 +51,14 @@ Database::Hold::~Hold()
 Database::Database(const QString &file)
     : file_(file)
 {
-    // Locking is done here, so that SQLite needn't do it again.
-    constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
-    const int result = sqlite3_open_v2(file.toUtf8().constData(), &handle_, flags, nullptr);
+    // Locking is done here, so that SQLite needn't do it again. What nobody can write needs no files for locks either.
+    const bool readOnly = isReadOnly(file);
+    const QByteArray name =
+        readOnly ? QUrl::fromLocalFile(file).toEncoded(QUrl::FullyEncoded) + "?immutable=1" : file.toUtf8();
+    const int flags =
+        SQLITE_OPEN_NOMUTEX
+        | (readOnly ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    const int result = sqlite3_open_v2(name.constData(), &handle_, flags, nullptr);
     try {
         if (result != SQLITE_OK)
             fail("can't be opened");
@@ -69,7 +84,11 @@ Database::~Database()
 void Database::fail(const char *what) const
 {
     const QString reason = handle_ ? QString::fromUtf8(sqlite3_errmsg(handle_)) : u"out of memory"_s;
-    throw MachineError{u"%1: %2: %3"_s.arg(QDir::toNativeSeparators(file_), QString::fromUtf8(what), reason)};
+    const int code = handle_ ? sqlite3_errcode(handle_) & 0xff : SQLITE_NOMEM; // the rest tells details
+    const bool damaged = code == SQLITE_CORRUPT || code == SQLITE_NOTADB;
+    throw MachineError{u"%1: %2: %3"_s.arg(QDir::toNativeSeparators(file_),
+                                           damaged ? u"is damaged"_s : QString::fromUtf8(what), reason),
+                       damaged};
 }
 
 void Database::execute(const char *statements)

@@ -39,7 +39,8 @@ class Database
     };
 
 public:
-    /** Opens the file, or makes an empty one. Changes nothing in a file that is there. */
+    /** Opens the file, or makes an empty one. Changes nothing in a file that is there, which may be one to read only.
+     */
     explicit Database(const QString &file);
     ~Database();
     Q_DISABLE_COPY_MOVE(Database)

@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QRegularExpression>
 
 #include <filesystem>
 
@@ -98,6 +99,17 @@ void checkOwnFiles(const QString &folder)
     }
 }
 
+/** A machine that lacks a table would be found out only by who needs it, after long work. */
+void checkTables(Database &database, const QString &path)
+{
+    static const QRegularExpression tables(u"CREATE TABLE (\\w+)"_s);
+    for (auto match = tables.globalMatch(QString::fromUtf8(machineSchema)); match.hasNext();) {
+        const QString table = match.next().captured(1);
+        if (!database.query("SELECT 1 FROM sqlite_schema WHERE name = ?").bind(table).next())
+            fail(path, u"is damaged: it has no table '%1'"_s.arg(table));
+    }
+}
+
 /** A JSON text without the brackets that a document needs around it. */
 QByteArray jsonText(const QString &text)
 {
@@ -170,6 +182,7 @@ std::unique_ptr<Machine> Machine::open(const QString &folder)
     checkOwnFiles(path);
     auto database = std::make_unique<Database>(file);
     checkVersion(*database, file);
+    checkTables(*database, file);
     makeFolders(path); // empty ones get lost in some archives
     return std::unique_ptr<Machine>(new Machine(path, std::move(database)));
 }

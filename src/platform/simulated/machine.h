@@ -18,6 +18,7 @@ class Database;
 struct MachineError
 {
     QString message;
+    bool damaged = false; ///< the machine's own files aren't what they were
 };
 
 /** A scheduled task. */

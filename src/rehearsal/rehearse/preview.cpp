@@ -13,6 +13,7 @@
 #include "subcommands.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -71,6 +72,13 @@ struct Copies
     std::unique_ptr<Machine> restored{};
 };
 
+/** Opening would make the folder anew, and a preview without the PC's files would look right and be wrong. */
+void checkFiles(const QString &folder)
+{
+    if (QFileInfo::exists(folder + u"/machine.sqlite"_s) && !QFileInfo(folder + u"/drive_c"_s).isDir())
+        throw Failure{ExitMachineUnreadable, u"%1: its files are missing: there is no folder drive_c"_s.arg(folder)};
+}
+
 std::unique_ptr<Machine> copyOf(const Machine &machine, const QString &folder)
 {
     copyMachine(machine, folder);
@@ -99,6 +107,7 @@ int runPreview(const Arguments &arguments)
         if (arguments.has(report))
             checkReportFile(arguments.value(report));
     }
+    checkFiles(arguments.operand(0));
     Progress progress;
     Copies copies;
     makeCopies(copies, arguments.operand(0), automatizerOptions(arguments), progress);
