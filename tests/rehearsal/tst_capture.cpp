@@ -139,6 +139,8 @@ QStringList foundMissing(Machine &pc, Machine &captured, const Questions &questi
         const QFileInfo taken(captured.hostPath(path));
         if (isWindowsFile(path) && (file.exists() != taken.exists() || (file.isFile() && file.size() != taken.size())))
             missing.append(u"file "_s + path);
+        else if (isWindowsFile(path) && pc.attributes(path) != captured.attributes(path))
+            missing.append(u"attributes of "_s + path);
     }
     for (const auto &[dll, id] : questions.strings) {
         if (pc.dllString(dll, id) != captured.dllString(dll, id))
@@ -196,6 +198,8 @@ private Q_SLOTS:
     void brokenOffLeavesNothing();
     void placeIsChecked();
     void programSaysThatThisIsNoWindows();
+    void accountsInBytesAreReplacedAlike();
+    void shortNameOfTheUsersFolder();
     void boundsOfNames_data();
     void boundsOfNames();
 
@@ -262,6 +266,8 @@ void TestCapture::allThatIsAskedForIsTaken()
     Questions questions;
     runEverything(make(builtIn), questions);
     QVERIFY(questions.values.size() > 1000);
+    // What the window asks for by itself
+    questions.files += {u"C:\\hiberfil.sys"_s, u"C:\\Windows\\System32\\cmd.exe"_s};
 
     const QString pc = make(builtIn);
     plantAll(*Machine::open(pc), questions);
@@ -330,6 +336,10 @@ void TestCapture::namesAreReplacedAndPathsStillFindTheirFiles()
                                                 + u"</URI></RegistrationInfo><Principals><Principal><UserId>PC\\User"
                                                   "</UserId></Principal></Principals></Task>"_s);
 
+    // The name of the wireless network is gone, and a tweak still finds its key.
+    QVERIFY(store.find(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters\\Interfaces\\"
+                       "{7be1c6a0-3f6b-4a53-8d0c-91d7b02f5a42}\\444444444444"_s));
+
     machine->database().execute("VACUUM");
     QDirIterator files(captured, QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot,
                        QDirIterator::Subdirectories);
@@ -373,7 +383,7 @@ void TestCapture::withoutElevation()
     QVERIFY(!report.elevated);
     QCOMPARE(report.notRead.size(), 1);
     QCOMPARE(report.notRead.first().what, u"boot options"_s);
-    QCOMPARE(report.notRead.first().reason, u"bcdedit ended with code 1"_s);
+    QCOMPARE(report.notRead.first().reason, u"they need administrator rights"_s);
     const auto less = Machine::open(place(u"not-elevated"_s));
     QVERIFY(less->bootOptions().isEmpty());
     QVERIFY(less->tasks().size() < Machine::open(place(u"elevated"_s))->tasks().size());
@@ -403,10 +413,11 @@ void TestCapture::keyThatMayNotBeReadIsTold()
     for (const NotRead &part : report.notRead)
         told.append(part.what + u": "_s + part.reason);
     const QString key = u"HKEY_LOCAL_MACHINE\\HARDWARE\\DESCRIPTION\\System\\CentralProcessor\\0"_s;
-    QVERIFY2(told.contains(key + u": may not be read"_s), qPrintable(told.join(u'\n')));
+    QVERIFY2(told.contains(u"registry key "_s + key + u": access denied"_s), qPrintable(told.join(u'\n')));
     QVERIFY2(told.contains(u"which services run: the service manager doesn't tell"_s), qPrintable(told.join(u'\n')));
     QVERIFY2(told.contains(u"scheduled tasks: schtasks printed none"_s), qPrintable(told.join(u'\n')));
-    QVERIFY2(told.contains(u"Win32_Processor: error 0x80041010"_s), qPrintable(told.join(u'\n')));
+    QVERIFY2(told.contains(u"Win32_Processor of the management instrumentation: error 0x80041010"_s),
+             qPrintable(told.join(u'\n')));
     QCOMPARE(contents.registry.size(), 1);
     QCOMPARE(contents.registry.first().key, key);
 }
@@ -452,6 +463,35 @@ void TestCapture::programSaysThatThisIsNoWindows()
     QCOMPARE(ended.errors,
              QByteArray("kestrune-rehearse: capture reads the Windows that it runs on, and this is none\n"));
     QVERIFY(!QFileInfo::exists(place(u"nowhere"_s)));
+}
+
+void TestCapture::accountsInBytesAreReplacedAlike()
+{
+    const QByteArray before = QByteArray::fromHex("0b00010500000000000515000000010000000200000003000000e9030000ff");
+    const QString key = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\x"_s;
+    MachineContents contents;
+    contents.registry = {
+        {RegistryEdit::Kind::SetValue, key, {u"Security"_s, RegistryType::Binary, before}},
+        {RegistryEdit::Kind::SetValue,
+         key,
+         {u"Account"_s, RegistryType::String, registryText(u"S-1-5-21-1-2-3-1001"_s)}},
+        {RegistryEdit::Kind::SetValue, key, {u"Cut"_s, RegistryType::Binary, before.first(20)}},
+    };
+    NeutralNames({}).replaceIn(contents);
+    // 1000000000 is 3b9aca00.
+    QCOMPARE(contents.registry.at(0).value.data.toHex(),
+             QByteArray("0b0001050000000000051500000000ca9a3b00ca9a3b01ca9a3be9030000ff"));
+    QCOMPARE(textOf(contents.registry.at(1).value.data), u"S-1-5-21-1000000000-1000000000-1000000001-1001"_s);
+    QCOMPARE(contents.registry.at(2).value.data, before.first(20));
+}
+
+void TestCapture::shortNameOfTheUsersFolder()
+{
+    NeutralNames names({{u"USERNAME"_s, u"kimberley.q"_s},
+                        {u"USERPROFILE"_s, u"D:\\Users\\Kimberley Q"_s},
+                        {u"TEMP"_s, u"D:\\Users\\KIMBER~1\\AppData\\Local\\Temp"_s}});
+    QCOMPARE(names.text(u"D:\\Users\\kimber~1\\x D:\\Users\\Kimberley Q\\x Kimberley.Q"_s),
+             u"D:\\Users\\User\\x D:\\Users\\User\\x User"_s);
 }
 
 void TestCapture::boundsOfNames_data()

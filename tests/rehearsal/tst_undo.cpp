@@ -63,7 +63,12 @@ private:
 
 QString TestUndo::make(const QString &builtIn)
 {
-    const QString path = folder_.filePath(u"pc-%1-%2"_s.arg(builtIn, QLatin1StringView(QTest::currentTestFunction())));
+    const QString path = folder_.filePath(
+        u"pc-%1-%2"_s.arg(QFileInfo(builtIn).fileName(), QLatin1StringView(QTest::currentTestFunction())));
+    if (builtIn.contains(u'/')) {
+        copyMachine(*Machine::open(builtIn), path);
+        return path;
+    }
     makeMachine(path, QCoreApplication::applicationDirPath() + u"/machines/"_s + builtIn, Existing::Replace);
     return path;
 }
@@ -111,6 +116,9 @@ void TestUndo::undoGivesTheMachineBefore_data()
                          "xbox-game-bar=0,codecs=0"_s;
     QTest::newRow("Windows 11, none kept") << u"windows11"_s << none;
     QTest::newRow("Windows 10, none kept") << u"windows10"_s << none;
+    // One that was captured elsewhere
+    if (const QString captured = qEnvironmentVariable("KESTRUNE_CAPTURED_PC"); !captured.isEmpty())
+        QTest::newRow("captured") << captured << none;
 }
 
 void TestUndo::undoGivesTheMachineBefore()

@@ -35,7 +35,7 @@ public:
         tell(u"registry"_s);
         registry_ = captureRegistry(system_, names_ == Names::Keep);
         for (const QString &key : std::as_const(registry_.refused))
-            report_.notRead.append({key, u"may not be read"_s});
+            report_.notRead.append({u"registry key "_s + key, u"access denied"_s});
         readServices();
         tell(u"scheduled tasks"_s);
         contents_.tasks = captureTasks(report_.notRead);

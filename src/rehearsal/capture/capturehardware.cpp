@@ -117,7 +117,7 @@ QMap<QString, QList<QJsonObject>> captureWmi(QList<NotRead> &notRead)
             classes.insert(question.className, instancesOf(question, answer));
         else
             notRead.append(
-                {question.className,
+                {question.className + u" of the management instrumentation"_s,
                  u"error 0x"_s + QString::number(static_cast<quint32>(answer.failures.constLast().code), 16)});
     }
     return classes;

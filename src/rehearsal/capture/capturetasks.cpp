@@ -2,6 +2,7 @@
 
 #include "capturetasks.h"
 
+#include "platform/platform.h"
 #include "rehearsal/console.h"
 #include "rehearsal/taskexport.h"
 #include "work/command.h"
@@ -73,8 +74,13 @@ QMap<QString, QString> captureBootOptions(QList<NotRead> &notRead)
     static const QRegularExpression line(u"^(useplatformclock|disabledynamictick)[ \\t]+(\\S+)"_s,
                                          QRegularExpression::MultilineOption);
 
+    const QString what = u"boot options"_s;
+    if (!platform().isElevated()) {
+        notRead.append({what, u"they need administrator rights"_s});
+        return {};
+    }
     QMap<QString, QString> options;
-    const auto output = outputOf(u"bcdedit"_s, {u"/enum"_s, u"{current}"_s}, u"boot options"_s, notRead);
+    const auto output = outputOf(u"bcdedit"_s, {u"/enum"_s, u"{current}"_s}, what, notRead);
     const QString text = decoded(output.value_or(QByteArray()));
     for (auto matches = line.globalMatch(text); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
