@@ -312,6 +312,9 @@ void TestCapture::namesAreReplacedAndPathsStillFindTheirFiles()
                           "</Principal></Principals></Task>"_s});
         QVERIFY(QDir().mkpath(machine->hostPath(u"C:\\Users\\Alex"_s)));
         writeFile(machine->hostPath(u"C:\\Users\\Alex\\notes.exe"_s), "12345");
+        QVERIFY(QDir().mkpath(QFileInfo(machine->hostPath(encoderConfig)).path()));
+        writeFile(machine->hostPath(encoderConfig),
+                  "[RTSS]\r\nLog=C:\\Users\\Alex\\log \xe9\r\nEnableEncoderServer=1\r\n");
     }
     const QString captured = place(u"neutral"_s);
     captureMachine(pc, captured, Names::Replace);
@@ -324,6 +327,8 @@ void TestCapture::namesAreReplacedAndPathsStillFindTheirFiles()
                             registryText(u"\"C:\\Users\\User\\notes.exe\" PC\\User"_s)}));
     QCOMPARE(QFileInfo(machine->hostPath(u"C:\\Users\\User\\notes.exe"_s)).size(), 5);
     QVERIFY(QFileInfo::exists(machine->hostPath(u"C:\\Users\\User\\AppData\\Local\\Discord\\Update.exe"_s)));
+    QCOMPARE(readFile(machine->hostPath(encoderConfig)),
+             QByteArray("[RTSS]\r\nLog=C:\\Users\\User\\log \xe9\r\nEnableEncoderServer=1\r\n"));
     QCOMPARE(machine->environment().value(u"LOCALAPPDATA"_s), u"C:\\Users\\User\\AppData\\Local"_s);
     QString sync;
     for (const ScheduledTask &task : machine->tasks()) {

@@ -12,7 +12,7 @@ struct NotRead
     QString reason;
 };
 
-/** Scheduled tasks as schtasks prints them, without what starts them and what they are given: it isn't needed. */
+/** Scheduled tasks as schtasks prints them, without who made them and what they are given: it isn't needed. */
 QList<ScheduledTask> captureTasks(QList<NotRead> &notRead);
 /** The options of the boot configuration that the program changes. */
 QMap<QString, QString> captureBootOptions(QList<NotRead> &notRead);

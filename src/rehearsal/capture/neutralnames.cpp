@@ -197,6 +197,17 @@ void NeutralNames::replaceIn(RegistryEdit &edit)
         edit.value.name = text(edit.value.name);
 }
 
+void NeutralNames::replaceIn(FileDescription &file)
+{
+    file.path = text(file.path);
+    if (!file.content)
+        return;
+    // Byte by byte, whatever the code page
+    const QByteArray content = text(QString::fromLatin1(*file.content)).toLatin1();
+    file.size = file.size.value_or(0) + content.size() - file.content->size();
+    file.content = content;
+}
+
 void NeutralNames::replaceIn(MachineDescription &description)
 {
     for (auto it = description.environment.begin(); it != description.environment.end(); ++it) {
@@ -208,7 +219,7 @@ void NeutralNames::replaceIn(MachineDescription &description)
             *it = text(*it);
     }
     for (FileDescription &file : description.files)
-        file.path = text(file.path);
+        replaceIn(file);
     QMap<QString, QMap<uint, QString>> dlls;
     for (auto it = description.dlls.begin(); it != description.dlls.end(); ++it)
         dlls.insert(text(it.key()), it.value());

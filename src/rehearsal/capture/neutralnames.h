@@ -35,6 +35,7 @@ private:
     QString neutralAuthority(const QString &authority);
     RegistryValue value(RegistryValue value);
     void replaceIn(RegistryEdit &edit);
+    void replaceIn(FileDescription &file);
     void replaceIn(MachineDescription &description);
 
     QStringList hosts_;

@@ -16,13 +16,15 @@ namespace {
 
 void printReport(const QString &folder, const CaptureReport &report)
 {
-    print(u"%1: %2\n"_s.arg(QDir::toNativeSeparators(folder), report.counts.join(", "_L1)));
+    const QString place = QDir::toNativeSeparators(folder);
+    print(u"captured into %1: %2\n"_s.arg(place, report.counts.join(", "_L1)));
     for (const NotRead &part : report.notRead)
         print(u"not read: %1 (%2)\n"_s.arg(part.what, part.reason));
     if (!report.elevated) {
         print(u"run without administrator rights: with them it would also have the boot options, and those\n"
               "scheduled tasks, services and registry keys that this user may not see\n"_s);
     }
+    print(u"'kestrune-rehearse preview %1' shows what an optimization would change\n"_s.arg(place));
 }
 
 int runCapture(const Arguments &arguments)
