@@ -46,15 +46,10 @@ qsizetype countOf(const QList<VerifiedItem> &items, Verdict verdict)
                          [verdict](const VerifiedItem &item) { return item.verdict == verdict; });
 }
 
-QString shown(const QString &side)
-{
-    return side.isEmpty() ? u"(none)"_s : side;
-}
-
 QString detailText(const VerifiedDetail &detail)
 {
-    return u"      %1: now %2, should be %3, was %4 before\n"_s.arg(detail.what, shown(detail.now),
-                                                                    shown(detail.recorded), shown(detail.before));
+    return u"      %1: now %2, should be %3, was %4 before\n"_s.arg(
+        detail.what, shownSide(detail.now), shownSide(detail.recorded), shownSide(detail.before));
 }
 
 QString itemText(const VerifiedItem &item)
@@ -94,16 +89,14 @@ QString groupText(PreviewGroup group, const QList<VerifiedItem> &items)
 
 QString verifyText(const QList<VerifiedItem> &items)
 {
-    constexpr PreviewGroup groups[] = {PreviewGroup::Services, PreviewGroup::Tasks, PreviewGroup::Packages,
-                                       PreviewGroup::Autorun, PreviewGroup::Features};
     if (items.isEmpty())
         return u"Nothing is recorded as done.\n"_s;
     QString text;
     for (const VerdictRow &row : verdicts)
         text += QString::number(countOf(items, row.verdict)).rightJustified(5) + u' '
                 + QString(row.text).leftJustified(verdictWidth) + row.meaning + u'\n';
-    for (const PreviewGroup group : groups)
-        text += groupText(group, items);
+    for (const GroupTexts &group : allGroups())
+        text += groupText(group.group, items);
     return text;
 }
 

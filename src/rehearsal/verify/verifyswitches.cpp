@@ -144,7 +144,7 @@ private:
                 item.verdict = Verdict::Gone;
                 return item;
             }
-            item = judged(item, {u"start mode"_s, startMode(before_, name), mode, u"disabled"_s},
+            item = judged(item, {startModeDetail, startMode(before_, name), mode, u"disabled"_s},
                           lastOf(last_.services, name));
             if (item.verdict == Verdict::InForce && now_.isRunning(name).value_or(false))
                 item.why = u"runs until Windows starts the next time"_s;
