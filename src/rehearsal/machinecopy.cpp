@@ -94,13 +94,25 @@ void copyTree(const QString &from, const QString &to, const MachineFolders &fold
     }
 }
 
+/** A snapshot, whatever other processes write meanwhile. */
+void copyDatabase(const Machine &source, const QString &folder)
+{
+    try {
+        source.database().query("VACUUM INTO ?").bind(folder + u"/machine.sqlite"_s).run();
+    } catch (const MachineError &error) {
+        if (error.damaged)
+            throw;
+        // Most often the disk of the copy is full.
+        throw MachineError{u"no copy can be made in %1: %2"_s.arg(QDir::toNativeSeparators(folder), error.message)};
+    }
+}
+
 } // namespace
 
 void copyMachine(const Machine &source, const QString &folder)
 {
     makeFolder(folder);
-    // A snapshot, whatever other processes write meanwhile.
-    source.database().query("VACUUM INTO ?").bind(folder + u"/machine.sqlite"_s).run();
+    copyDatabase(source, folder);
     const QDir machine(source.folder());
     const QStringList tops = machine.entryList({u"drive_*"_s, u"program"_s}, QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString &top : tops)
