@@ -16,6 +16,7 @@ trial_make() {
 trial_digest() {
     (
         cd "$source_folder"
+        find tests/rehearsal/data -type f -exec cat {} +
         cat build/windows/bin/*.exe scripts/windows.sh scripts/windows/{desk,trial}.sh resources/machines/*/*
     ) 2>/dev/null | digest
 }
@@ -38,6 +39,7 @@ inside_trial() {
         lay_pc "$version"
         run_window "$version"
         run_program "$version"
+        [[ $version != win11 ]] || run_host_proof
         desk_end
     done
     rm -rf "$inside_making/trial"
@@ -124,4 +126,28 @@ run_program() {
     export KESTRUNE_TRIAL_PROGRAM=Z:$inside_making/trial/kestrune.exe
     export KESTRUNE_TRIAL_PICTURE=Z:$inside_build/screenshots/$1/kestrune.png
     (cd "$inside_making/trial" && run_qtest program tst_program.exe)
+}
+
+# Programs of Windows that a rehearsal might start in place of its own
+readonly marked_programs=(sc schtasks taskkill cmd powercfg bcdedit takeown icacls dism reg OneDriveSetup
+    WindowsPowerShell/v1.0/powershell)
+
+# run_host_proof: whatever a rehearsal machine holds, it starts no program of the PC. The system's own are replaced by
+# stand-ins that leave a mark; nothing else can be tried in this prefix after that.
+run_host_proof() {
+    local windows=$WINEPREFIX/drive_c/windows program folder place begin=$SECONDS
+    local marked=()
+    for program in "${marked_programs[@]}"; do
+        for folder in /system32 /syswow64 ''; do
+            place=$windows$folder/$program.exe
+            mkdir -p "$(dirname "$place")"
+            cp --remove-destination "$inside_build/bin/marker.exe" "$place"
+            marked+=("$(sed -e 's|.*/drive_c/|C:/|' <<<"$place")")
+        done
+    done
+    KESTRUNE_MARKED_PROGRAMS=$(IFS=';'; echo "${marked[*]}")
+    export KESTRUNE_MARKED_PROGRAMS
+    quietly hostuntouched 600 wine "$inside_build/bin/tst_hostuntouched.exe" -o "Z:$desk_log/hostuntouched.qtest,txt"
+    without_warnings hostuntouched
+    say "trial: nothing of the host is started, in $(took $((SECONDS - begin)))"
 }

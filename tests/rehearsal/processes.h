@@ -37,10 +37,24 @@ inline Ended runProgram(const QString &program, const QStringList &arguments, co
     return ended;
 }
 
+#ifdef Q_OS_WIN
+inline const QString programSuffix = QStringLiteral(".exe");
+#else
+inline const QString programSuffix;
+#endif
+
 /** A program of the project, all of which lie beside the test. */
 inline QString builtProgram(const QString &name)
 {
     return QCoreApplication::applicationDirPath() + u'/' + name;
+}
+
+/** Copies a program of the project; gives the copy's path. */
+inline QString copyProgram(const QString &name, const QString &place)
+{
+    if (!QFile::copy(builtProgram(name) + programSuffix, place + programSuffix))
+        qFatal("%s can't be copied", qPrintable(name));
+    return place + programSuffix;
 }
 
 inline void writeFile(const QString &path, const QByteArray &content)

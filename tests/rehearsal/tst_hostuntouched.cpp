@@ -19,12 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-#ifdef Q_OS_WIN
-const QString suffix = u".exe"_s;
-#else
-const QString suffix;
-#endif
-
 /** What a rehearsal, or Qt in it, might think of starting. */
 const QStringList temptations{
     u"sc"_s,           u"schtasks"_s, u"powershell"_s, u"taskkill"_s, u"onedrivesetup"_s, u"cmd"_s,     u"powercfg"_s,
@@ -115,7 +109,7 @@ private:
     void layStandIns(const QString &folder);
     QString program(const QString &name) const
     {
-        return programs() + u'/' + name + suffix;
+        return programs() + u'/' + name + programSuffix;
     }
     QString programs() const
     {
@@ -128,7 +122,8 @@ private:
     QString makeMachine(const QString &name, const QString &sources);
     Ended rehearse(const QStringList &arguments) const;
     void run(const QString &machine, const QStringList &arguments) const;
-    void runEverything(const QString &machine, bool tour);
+    void runTweaks(const QString &machine) const;
+    void runEverything(const QString &machine, bool whole);
     QStringList marks() const
     {
         return QDir(marksFolder()).entryList(QDir::Files, QDir::Name);
@@ -146,8 +141,8 @@ void TestHostUntouched::layStandIns(const QString &folder)
 {
     QVERIFY(QDir().mkpath(folder));
     for (const QString &name : temptations) {
-        const QString file = folder + u'/' + name + suffix;
-        QVERIFY2(QFile::copy(builtProgram(u"marker"_s + suffix), file), qPrintable(file));
+        const QString file = folder + u'/' + name + programSuffix;
+        QVERIFY2(QFile::copy(builtProgram(u"marker"_s + programSuffix), file), qPrintable(file));
         standIns_.append(file);
     }
 }
@@ -158,7 +153,7 @@ void TestHostUntouched::initTestCase()
     QVERIFY(QDir().mkpath(programs()) && QDir().mkpath(marksFolder()));
     for (const QString &name :
          {u"kestrune-rehearse"_s, u"kestrune-stocktool"_s, QStringLiteral(KESTRUNE_WINDOW_PROGRAM)})
-        QVERIFY(QFile::copy(builtProgram(name + suffix), program(name)));
+        copyProgram(name, programs() + u'/' + name);
     for (const QString &name : {u"img"_s, u"machines/windows11"_s})
         copyFolder(builtProgram(name), programs() + u'/' + name);
     layStandIns(programs());
@@ -205,7 +200,21 @@ void TestHostUntouched::run(const QString &machine, const QStringList &arguments
     QVERIFY2(ended.exitCode == 0 || ended.exitCode == 1, qPrintable(arguments.join(u' ')));
 }
 
-void TestHostUntouched::runEverything(const QString &machine, bool tour)
+void TestHostUntouched::runTweaks(const QString &machine) const
+{
+    for (const auto &[group, last, none] :
+         {std::tuple(u"ssd"_s, 9, 0), std::tuple(u"gaming"_s, 14, 0), std::tuple(u"windows"_s, 12, 11)}) {
+        for (int id = 1; id <= last; ++id) {
+            for (const QString &state : {u"on"_s, u"off"_s}) {
+                if (id != none)
+                    run(machine, {u"tweak"_s, group, QString::number(id), state});
+            }
+        }
+    }
+}
+
+/** The tweaks one by one, and the window, only if it is to be the whole: the Automatizer applies most of them. */
+void TestHostUntouched::runEverything(const QString &machine, bool whole)
 {
     for (const char *what : {"services", "tasks", "packages", "autorun", "processes"})
         QCOMPARE(rehearse({u"list"_s, machine, QString::fromLatin1(what)}).exitCode, 0);
@@ -219,19 +228,12 @@ void TestHostUntouched::runEverything(const QString &machine, bool tour)
     run(machine, {u"package-install"_s, u"Microsoft.OneDrive"_s, u"Microsoft.BingNews"_s});
     run(machine, {u"autorun-disable"_s, u"Tempting"_s});
     run(machine, {u"autorun-enable"_s, u"Tempting"_s});
-    for (const auto &[group, last, none] :
-         {std::tuple(u"ssd"_s, 9, 0), std::tuple(u"gaming"_s, 14, 0), std::tuple(u"windows"_s, 12, 11)}) {
-        for (int id = 1; id <= last; ++id) {
-            for (const QString &state : {u"on"_s, u"off"_s}) {
-                if (id != none)
-                    run(machine, {u"tweak"_s, group, QString::number(id), state});
-            }
-        }
-    }
+    if (whole)
+        runTweaks(machine);
     run(machine, {u"analyze"_s});
     run(machine, {u"optimize"_s, u"--yes"_s});
     run(machine, {u"restore"_s});
-    if (tour)
+    if (whole)
         QCOMPARE(rehearse({u"tour"_s, machine, u"--out"_s, folder_.filePath(u"pictures"_s)}).exitCode, 0);
 }
 
@@ -239,10 +241,10 @@ void TestHostUntouched::noProgramOfTheHostIsStarted_data()
 {
     QTest::addColumn<QString>("sources");
     QTest::addColumn<QString>("addition");
-    QTest::addColumn<bool>("tour");
+    QTest::addColumn<bool>("whole");
     const QString small = QStringLiteral(KESTRUNE_TEST_DATA "/small");
     const QString place = QDir::toNativeSeparators(standInFolder());
-    const QString sc = place + QDir::separator() + u"sc"_s + suffix;
+    const QString sc = place + QDir::separator() + u"sc"_s + programSuffix;
     QTest::newRow("a built-in PC") << builtProgram(u"machines/windows11"_s) << QString() << true;
     QTest::newRow("tools that are missing")
         << small
@@ -268,10 +270,11 @@ void TestHostUntouched::noProgramOfTheHostIsStarted()
 {
     QFETCH(const QString, sources);
     QFETCH(const QString, addition);
-    QFETCH(const bool, tour);
+    QFETCH(const bool, whole);
     const QString machine = makeMachine(u"machine"_s, sources);
     // The registry, the tasks and the machine's own files tempt in every row.
-    const QString tempting = QDir::toNativeSeparators(standInFolder()) + QDir::separator() + u"tempting"_s + suffix;
+    const QString tempting =
+        QDir::toNativeSeparators(standInFolder()) + QDir::separator() + u"tempting"_s + programSuffix;
     const QByteArray path = json(tempting);
     const QByteArray quoted = json(u'"' + tempting + u"\" /x"_s);
     const QByteArray dll = json(u'@' + tempting + u",-1"_s);
@@ -300,10 +303,10 @@ void TestHostUntouched::noProgramOfTheHostIsStarted()
     for (const QString &place : {u"/tools"_s, u"/drive_c/Windows/System32"_s, u"/program"_s}) {
         QVERIFY(QDir().mkpath(machine + place));
         for (const QString &name : temptations)
-            QFile::copy(builtProgram(u"marker"_s + suffix), machine + place + u'/' + name + suffix);
+            QFile::copy(builtProgram(u"marker"_s + programSuffix), machine + place + u'/' + name + programSuffix);
     }
 
-    runEverything(machine, tour);
+    runEverything(machine, whole);
     const Ended preview =
         rehearse({u"preview"_s, machine, u"--undo"_s, folder_.filePath(u"undo.reg"_s), u"--html"_s,
                   folder_.filePath(u"preview.html"_s), u"--json"_s, folder_.filePath(u"preview.json"_s)});
@@ -317,7 +320,7 @@ void TestHostUntouched::withoutTheStockToolNothingIsStarted()
 {
     const QString machine = makeMachine(u"planted"_s, QStringLiteral(KESTRUNE_TEST_DATA "/small"));
     for (const QString &name : temptations)
-        QVERIFY(QFile::copy(builtProgram(u"marker"_s + suffix), machine + u"/tools/"_s + name + suffix));
+        QVERIFY(QFile::copy(builtProgram(u"marker"_s + programSuffix), machine + u"/tools/"_s + name + programSuffix));
     const QString stockTool = program(u"kestrune-stocktool"_s);
     QVERIFY(QFile::rename(stockTool, stockTool + u".away"_s));
     run(machine, {u"svc-disable"_s, u"DiagTrack"_s});

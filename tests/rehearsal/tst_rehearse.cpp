@@ -534,28 +534,25 @@ void TestRehearse::diffAsJsonAndPage()
 void TestRehearse::guiStartsTheWindowOnTheMachine()
 {
     const Workplace work;
-    // The program beside is a script that tells what it was given.
     const QTemporaryDir programs;
-    const QString rehearseCopy = programs.filePath(u"kestrune-rehearse"_s);
-    QVERIFY(QFile::copy(builtProgram(u"kestrune-rehearse"_s), rehearseCopy));
-    const QString window = programs.filePath(u"kestrune"_s);
-    writeFile(window, "#!/bin/sh\necho \"$KESTRUNE_MACHINE $KESTRUNE_ELEVATED\"\nexit 7\n");
-    QVERIFY(QFile::setPermissions(window, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    const QString rehearseCopy = copyProgram(u"kestrune-rehearse"_s, programs.filePath(u"kestrune-rehearse"_s));
+    copyProgram(u"windowstandin"_s, programs.filePath(QStringLiteral(KESTRUNE_WINDOW_PROGRAM)));
     const Ended ended = runProgram(rehearseCopy, {u"gui"_s, work.a});
     QCOMPARE(ended.exitCode, 7);
-    QCOMPARE(ended.output, work.a.toUtf8() + " 1\n");
-    QCOMPARE(runProgram(rehearseCopy, {u"gui"_s, u"--not-elevated"_s, work.a}).output, work.a.toUtf8() + " 0\n");
+    QCOMPARE(ended.output.trimmed(), work.a.toUtf8() + " 1");
+    QCOMPARE(runProgram(rehearseCopy, {u"gui"_s, u"--not-elevated"_s, work.a}).output.trimmed(),
+             work.a.toUtf8() + " 0");
 }
 
 void TestRehearse::guiWithoutTheProgram()
 {
     const Workplace work;
     const QTemporaryDir programs;
-    const QString rehearseCopy = programs.filePath(u"kestrune-rehearse"_s);
-    QVERIFY(QFile::copy(builtProgram(u"kestrune-rehearse"_s), rehearseCopy));
+    const QString rehearseCopy = copyProgram(u"kestrune-rehearse"_s, programs.filePath(u"kestrune-rehearse"_s));
     const Ended ended = runProgram(rehearseCopy, {u"gui"_s, work.a});
     QCOMPARE(ended.exitCode, jobFailed);
-    QCOMPARE(ended.errors, QByteArray("kestrune-rehearse: the program kestrune is missing beside this one\n"));
+    QCOMPARE(ended.errors,
+             QByteArray("kestrune-rehearse: the program " KESTRUNE_WINDOW_PROGRAM " is missing beside this one\n"));
 }
 
 void TestRehearse::pipesGetNoProgress()
