@@ -80,6 +80,7 @@ install_make() {
 }
 
 inside_install() {
+    mkdir -p "$inside_build/screenshots"
     desk_begin win11 install
     try_installer CurrentUser HKCU
     try_installer AllUsers HKLM

@@ -129,8 +129,7 @@ run_program() {
 }
 
 # Programs of Windows that a rehearsal might start in place of its own
-readonly marked_programs=(sc schtasks taskkill cmd powercfg bcdedit takeown icacls dism reg OneDriveSetup
-    WindowsPowerShell/v1.0/powershell)
+readonly marked_programs=(sc schtasks taskkill cmd powercfg bcdedit takeown icacls dism reg powershell OneDriveSetup)
 
 # run_host_proof: whatever a rehearsal machine holds, it starts no program of the PC. The system's own are replaced by
 # stand-ins that leave a mark; nothing else can be tried in this prefix after that.
@@ -138,16 +137,19 @@ run_host_proof() {
     local windows=$WINEPREFIX/drive_c/windows program folder place begin=$SECONDS
     local marked=()
     for program in "${marked_programs[@]}"; do
-        for folder in /system32 /syswow64 ''; do
+        for folder in /system32 /syswow64 '' /system32/WindowsPowerShell/v1.0; do
             place=$windows$folder/$program.exe
             mkdir -p "$(dirname "$place")"
             cp --remove-destination "$inside_build/bin/marker.exe" "$place"
             marked+=("$(sed -e 's|.*/drive_c/|C:/|' <<<"$place")")
         done
     done
+    # Wine would take its own in their place.
+    local overrides="$WINEDLLOVERRIDES;${marked_programs[*]/%/.exe}"
+    overrides=${overrides// /,}=native
     KESTRUNE_MARKED_PROGRAMS=$(IFS=';'; echo "${marked[*]}")
     export KESTRUNE_MARKED_PROGRAMS
-    quietly hostuntouched 600 wine "$inside_build/bin/tst_hostuntouched.exe" -o "Z:$desk_log/hostuntouched.qtest,txt"
+    WINEDLLOVERRIDES=$overrides quietly hostuntouched 600 wine "$inside_build/bin/tst_hostuntouched.exe" -o "Z:$desk_log/hostuntouched.qtest,txt"
     without_warnings hostuntouched
     say "trial: nothing of the host is started, in $(took $((SECONDS - begin)))"
 }

@@ -184,7 +184,11 @@ void TestHostUntouched::standInsLeaveMarks()
 QString TestHostUntouched::makeMachine(const QString &name, const QString &sources)
 {
     const QString folder = folder_.filePath(name);
-    ::makeMachine(folder, sources, Existing::Replace);
+    try {
+        ::makeMachine(folder, sources, Existing::Keep);
+    } catch (const MachineError &error) {
+        qFatal("%s", qPrintable(error.message));
+    }
     return folder;
 }
 
@@ -271,7 +275,7 @@ void TestHostUntouched::noProgramOfTheHostIsStarted()
     QFETCH(const QString, sources);
     QFETCH(const QString, addition);
     QFETCH(const bool, whole);
-    const QString machine = makeMachine(u"machine"_s, sources);
+    const QString machine = makeMachine(QString::fromLatin1(QTest::currentDataTag()), sources);
     // The registry, the tasks and the machine's own files tempt in every row.
     const QString tempting =
         QDir::toNativeSeparators(standInFolder()) + QDir::separator() + u"tempting"_s + programSuffix;

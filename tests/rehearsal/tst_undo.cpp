@@ -30,7 +30,7 @@ struct Result
 
 Result rehearse(const QStringList &arguments)
 {
-    constexpr int patience = 120000; // milliseconds
+    constexpr int patience = 250000; // milliseconds
     QProcess process;
     process.start(builtProgram(u"kestrune-rehearse"_s), arguments);
     if (!process.waitForFinished(patience))
