@@ -5,6 +5,7 @@
 #include "platform/simulated/database.h"
 #include "processes.h"
 #include "recordingplatform.h"
+#include "rehearsal/capture/capturekeys.h"
 #include "rehearsal/capture/neutralnames.h"
 #include "rehearsal/machinecopy.h"
 #include "rehearsal/machinediff.h"
@@ -193,6 +194,7 @@ private Q_SLOTS:
     void commandsOnlyRead();
     void namesAreReplacedAndPathsStillFindTheirFiles();
     void tasksLoseWhatTheyAreGiven();
+    void packageComesBackByItsName();
     void withoutElevation();
     void keyThatMayNotBeReadIsTold();
     void brokenOffLeavesNothing();
@@ -371,6 +373,25 @@ void TestCapture::tasksLoseWhatTheyAreGiven()
     QCOMPARE(Machine::open(place(u"tasks"_s))->task(u"\\Backup"_s)->document,
              u"<Task>\n  <RegistrationInfo>\n    <URI>\\Backup</URI>\n  </RegistrationInfo>\n  <Actions>\n    <Exec>\n"
              "      <Command>C:\\b.exe</Command>\n    </Exec>\n  </Actions>\n</Task>"_s);
+}
+
+void TestCapture::packageComesBackByItsName()
+{
+    const QString pc = make(u"windows11"_s);
+    const QString package = u"\\Microsoft.BingNews_4.55.62231.0_x64__8wekyb3d8bbwe"_s;
+    std::optional<RegistryValue> name;
+    {
+        const auto machine = Machine::open(pc);
+        RegistryStore &store = machine->registry();
+        name = store.value(*store.find(capturedUserPackages + package), u"DisplayName"_s);
+        QVERIFY(name);
+        // As on a real PC, where the name stands in the package.
+        store.removeValue(*store.find(capturedMachinePackages + package), u"DisplayName"_s);
+    }
+    captureMachine(pc, place(u"named"_s));
+    const auto captured = Machine::open(place(u"named"_s));
+    const RegistryStore &store = captured->registry();
+    QVERIFY(store.value(*store.find(capturedMachinePackages + package), u"DisplayName"_s) == name);
 }
 
 void TestCapture::withoutElevation()

@@ -35,11 +35,8 @@ QList<CaptureKey> keysOfRoutines()
         {capturedServices, Reach::NamedOfSubkeys,
          {u"Type"_s, u"Start"_s, u"ErrorControl"_s, u"DisplayName"_s, u"Description"_s, u"DependOnService"_s,
           u"DelayedAutostart"_s}},
-        // Packages of the user, and those from which they come back.
-        {appModel + u"\\Repository\\Packages"_s, Reach::NamedOfSubkeys,
-         {u"DisplayName"_s, u"PackageID"_s, u"PackageRootFolder"_s}},
-        {u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Appx\\AppxAllUserStore\\Applications"_s,
-         Reach::NamedOfSubkeys, {u"DisplayName"_s, u"Path"_s}},
+        {capturedUserPackages, Reach::NamedOfSubkeys, {u"DisplayName"_s, u"PackageID"_s, u"PackageRootFolder"_s}},
+        {capturedMachinePackages, Reach::NamedOfSubkeys, {u"DisplayName"_s, u"Path"_s}}, // behind the user's
         {userCurrentVersion + u"\\Uninstall\\OneDriveSetup.exe"_s, Reach::Tree},
         {userCurrentVersion + u"\\Explorer\\StartupApproved\\Run"_s, Reach::Named, {u"OneDrive"_s}},
         {appModel + u"\\SystemAppData\\Microsoft.WindowsTerminal_8wekyb3d8bbwe\\StartTerminalOnLoginTask"_s,

@@ -4,6 +4,10 @@
 
 #include "capturekeys.h"
 
+#include <QMap>
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -19,6 +23,13 @@ bool isText(const RegistryValue &value)
 bool isNamed(const RegistryValue &value, QLatin1StringView name)
 {
     return value.name.compare(name, Qt::CaseInsensitive) == 0;
+}
+
+std::optional<RegistryValue> valueNamed(const KeyContent &content, QLatin1StringView name)
+{
+    const auto value = std::find_if(content.values.begin(), content.values.end(),
+                                    [name](const RegistryValue &each) { return isNamed(each, name); });
+    return value == content.values.end() ? std::nullopt : std::optional(*value);
 }
 
 /** Another text of the same length, so that it is cut and counted alike. */
@@ -105,10 +116,22 @@ private:
     void takeSubkey(const CaptureKey &key, const QString &name)
     {
         const QString path = key.path + u'\\' + name;
-        if (key.path == capturedServices && name.startsWith(cloudBackupPrefix, Qt::CaseInsensitive))
+        if (key.path == capturedServices && name.startsWith(cloudBackupPrefix, Qt::CaseInsensitive)) {
             takeTree(path);
-        else
-            takeValues(path, &key.values);
+            return;
+        }
+        const KeyContent content = takeValues(path, &key.values);
+        if (key.path == capturedUserPackages)
+            packageNames_.insert(foldName(name), valueNamed(content, "DisplayName"_L1));
+        else if (key.path == capturedMachinePackages && !valueNamed(content, "DisplayName"_L1))
+            lendName(path, packageNames_.value(foldName(name)));
+    }
+
+    /** A package that comes back is named by what stands in it; a rehearsal machine looks for that name here. */
+    void lendName(const QString &path, const std::optional<RegistryValue> &name)
+    {
+        if (name)
+            takeValue(path, *name);
     }
 
     void takeAdapters()
@@ -171,6 +194,7 @@ private:
 
     const SystemReader &system_;
     bool withNames_;
+    QMap<QString, std::optional<RegistryValue>> packageNames_; ///< of the user's packages, by full name
     CapturedRegistry result_;
 };
 
