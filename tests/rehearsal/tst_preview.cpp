@@ -68,6 +68,8 @@ private Q_SLOTS:
     void serviceAsAWholeInAFewWords();
     void taskTellsWhatItIsFor();
     void packageAsAWholeIsInstalledOrNot();
+    void optionAsAWholeIsAppliedOrNot_data();
+    void optionAsAWholeIsAppliedOrNot();
     void manyValuesAreCounted();
     void programAtLogonIsCalledByItsValue();
     void ownRecordsStandApartAndDoNotCount();
@@ -229,6 +231,39 @@ void TestPreview::packageAsAWholeIsInstalledOrNot()
     QCOMPARE(items.first().comesBack(), Return::NotAtAll);
     QCOMPARE(items.last().title, u"Vendor.Maps"_s);
     QCOMPARE(sidesOf(items.last()).restored, u"installed"_s);
+}
+
+void TestPreview::optionAsAWholeIsAppliedOrNot_data()
+{
+    QTest::addColumn<quint32>("optimized");
+    QTest::addColumn<quint32>("restored");
+    QTest::addColumn<QStringList>("expected");
+
+    const QString own = u"your setting"_s;
+    QTest::newRow("back") << 1U << 0U << QStringList{own, u"applied"_s, own};
+    QTest::newRow("a default") << 1U << 7U << QStringList{own, u"applied"_s, u"a default"_s};
+    QTest::newRow("stays") << 1U << 1U << QStringList{own, u"applied"_s, u"applied"_s};
+    QTest::newRow("only restored") << 0U << 7U << QStringList{own, own, u"a default"_s};
+}
+
+void TestPreview::optionAsAWholeIsAppliedOrNot()
+{
+    QFETCH(quint32, optimized);
+    QFETCH(quint32, restored);
+    QFETCH(QStringList, expected);
+    const QString key = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Power"_s;
+    const QString name = u"PowerThrottlingOff"_s;
+    Three three;
+    setNumber(*three.before, key, name, 0);
+    setNumber(*three.optimized, key, name, optimized);
+    setNumber(*three.restored, key, name, restored);
+
+    const PreviewItem item = onlyItem(three.items());
+    QCOMPARE(item.title, u"Disable CPU power throttling"_s);
+    QVERIFY(item.about.contains(u"battery"_s));
+    QCOMPARE(item.details.first().place, key);
+    const PreviewSides sides = sidesOf(item);
+    QCOMPARE(QStringList({sides.before, sides.optimized, sides.restored}), expected);
 }
 
 void TestPreview::manyValuesAreCounted()

@@ -155,6 +155,18 @@ PreviewSides countedSides(const PreviewItem &item)
                     counted(countOf(item, Return::NotAtAll), u"stay changed"_s)})};
 }
 
+/** What the values of an option mean is its own affair, and for who looks them up; in short it is applied or not. */
+PreviewSides optionSides(const PreviewItem &item)
+{
+    const bool untouched = countOf(item, Return::Unasked) == item.details.size();
+    PreviewSides sides{u"your setting"_s, untouched ? u"your setting"_s : u"applied"_s, u"a default"_s};
+    if (item.comesBack() == Return::Exactly)
+        sides.restored = sides.before;
+    else if (item.comesBack() == Return::NotAtAll)
+        sides.restored = countOf(item, Return::NotAtAll) == item.details.size() ? u"applied"_s : u"applied in part"_s;
+    return sides;
+}
+
 PreviewSides sidesBy(QString (*text)(const PreviewItem &, Side), const PreviewItem &item)
 {
     PreviewSides sides{text(item, &PreviewDetail::before), text(item, &PreviewDetail::optimized),
@@ -217,6 +229,8 @@ PreviewSides sidesOf(const PreviewItem &item)
         return sidesBy(packageSide, item);
     if (item.group == PreviewGroup::Autorun && item.details.size() == 1)
         return sidesBy(autorunSide, item);
+    if (item.group == PreviewGroup::Features)
+        return optionSides(item);
     if (item.details.size() > 1)
         return countedSides(item);
     const PreviewDetail &detail = item.details.first();
