@@ -69,6 +69,7 @@ class TestPreviewPage : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void cleanupTestCase();
     void init();
     void countsAreThoseOfTheReport();
     void asksForNothingAndComplainsOfNothing();
@@ -109,6 +110,11 @@ void TestPreviewPage::initTestCase()
     QVERIFY2(ended.exitCode == 0, ended.errors.constData());
     report_ = QJsonDocument::fromJson(readFile(folder_.filePath(u"preview.json"_s))).object();
     QVERIFY(report_[u"items"_s].toArray().size() > 100);
+}
+
+void TestPreviewPage::cleanupTestCase()
+{
+    QVERIFY2(browser_.stop(), "a process of the browser is left");
 }
 
 void TestPreviewPage::init()

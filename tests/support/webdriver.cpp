@@ -10,9 +10,12 @@
 #include <QNetworkReply>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QThread>
 
+#include <cerrno>
 #include <csignal>
 #include <sys/prctl.h>
+#include <sys/wait.h>
 
 using namespace Qt::StringLiterals;
 
@@ -53,14 +56,36 @@ QProcessEnvironment environmentIn(const QString &home)
 
 } // namespace
 
+WebDriver::WebDriver()
+{
+    // What the browser leaves without a parent becomes a child of this process, which can wait for it.
+    ::prctl(PR_SET_CHILD_SUBREAPER, 1);
+}
+
 WebDriver::~WebDriver()
 {
+    stop();
+}
+
+bool WebDriver::stop()
+{
+    if (driver_.state() == QProcess::NotRunning)
+        return true;
     if (!session_.isEmpty())
         ask("DELETE", session(QString()));
+    session_.clear();
     driver_.terminate();
-    if (driver_.state() != QProcess::NotRunning && !driver_.waitForFinished(patience))
+    if (!driver_.waitForFinished(patience)) {
         driver_.kill();
-    driver_.waitForFinished(patience);
+        driver_.waitForFinished(patience);
+    }
+    const QDeadlineTimer deadline(patience);
+    while (!deadline.hasExpired()) {
+        if (::waitpid(-1, nullptr, WNOHANG) < 0)
+            return errno == ECHILD; // the last one is gone
+        QThread::msleep(10);
+    }
+    return false;
 }
 
 QString WebDriver::start()

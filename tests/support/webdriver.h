@@ -16,10 +16,14 @@
 class WebDriver
 {
 public:
+    WebDriver();
     ~WebDriver();
+    Q_DISABLE_COPY_MOVE(WebDriver)
 
     /** Why there is no browser; empty where there is one. */
     QString start();
+    /** Ends the browser. False where a process of it is still there then. */
+    bool stop();
 
     void open(const QUrl &url);
     /** Runs the body of a function and gives what it returns. */
