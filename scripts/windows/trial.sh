@@ -149,7 +149,7 @@ run_host_proof() {
     overrides=${overrides// /,}=native
     KESTRUNE_MARKED_PROGRAMS=$(IFS=';'; echo "${marked[*]}")
     export KESTRUNE_MARKED_PROGRAMS
-    WINEDLLOVERRIDES=$overrides quietly hostuntouched 600 wine "$inside_build/bin/tst_hostuntouched.exe" -o "Z:$desk_log/hostuntouched.qtest,txt"
+    WINEDLLOVERRIDES=$overrides QTEST_FUNCTION_TIMEOUT=800000 quietly hostuntouched 900 wine "$inside_build/bin/tst_hostuntouched.exe" -o "Z:$desk_log/hostuntouched.qtest,txt"
     without_warnings hostuntouched
     say "trial: nothing of the host is started, in $(took $((SECONDS - begin)))"
 }

@@ -20,7 +20,7 @@ using Variables = QMap<QString, QString>;
 
 inline Ended runProgram(const QString &program, const QStringList &arguments, const Variables &variables = {})
 {
-    constexpr int patience = 120000; // milliseconds
+    constexpr int patience = 250000; // milliseconds
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (auto it = variables.begin(); it != variables.end(); ++it)
