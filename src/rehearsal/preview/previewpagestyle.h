@@ -61,6 +61,8 @@ td:first-child, td.badge { font-family: inherit; font-size: .9rem; }
 td code { color: var(--faint); display: block; font-family: ui-monospace, monospace; font-size: 12px; }
 table { table-layout: fixed; }
 th:first-child { width: 34%; }
+/* Of thousands of items those out of sight cost little. */
+@media screen { details { content-visibility: auto; contain-intrinsic-size: auto 4.5rem; } }
 @media (max-width: 62rem) {
   .columns { display: none; }
   .row { grid-template-columns: repeat(3, minmax(0, 1fr)); row-gap: .35rem; }
