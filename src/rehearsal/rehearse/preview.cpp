@@ -103,10 +103,12 @@ void makeCopies(Copies &copies, const QString &folder, const QStringList &option
 
 int runPreview(const Arguments &arguments)
 {
-    for (const QLatin1StringView report : {"html"_L1, "json"_L1, "undo"_L1}) {
+    for (const QLatin1StringView report : {"html"_L1, "json"_L1}) {
         if (arguments.has(report))
             checkReportFile(arguments.value(report));
     }
+    if (arguments.has("undo"_L1))
+        checkReportFiles(arguments.value("undo"_L1));
     checkFiles(arguments.operand(0));
     Progress progress;
     Copies copies;

@@ -50,6 +50,13 @@ void checkReportFile(const QString &path)
     file.cancelWriting();
 }
 
+void checkReportFiles(const QString &path)
+{
+    if (isDevice(path))
+        fail(path, u"is no file"_s);
+    checkReportFile(path);
+}
+
 void writeReportFile(const QString &path, const QByteArray &report)
 {
     if (isDevice(path)) {
