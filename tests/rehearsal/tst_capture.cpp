@@ -43,8 +43,7 @@ QStringList comparableLines(const QString &previewFile)
     QJsonArray items;
     for (const QJsonValue item : report[u"items"_s].toArray()) {
         // The export of tasks and its backup are smaller by what the tasks are given.
-        const QString title = item[u"title"_s].toString();
-        if (title != "Files beside the program"_L1 && !title.endsWith("\\Temp\\tasks.xml"_L1))
+        if (!QJsonDocument(item.toObject()).toJson().contains("tasks.xml"))
             items.append(item);
     }
     report[u"items"_s] = items;
