@@ -156,6 +156,7 @@ private Q_SLOTS:
     void runEndsItsTools_data();
     void runEndsItsTools();
     void previewEndsAToolThatHangs();
+    void verifyAtAnyMoment();
     void tourAtAnyMoment();
     void ignoredSignalStaysIgnored();
     void readerThatGoesAwayLeavesNothingTemporary();
@@ -317,6 +318,35 @@ void TestInterruption::previewEndsAToolThatHangs()
     run.signalProcess(SIGINT);
     QCOMPARE(run.exitCode(), brokenOff);
     QVERIFY(!run.isAnyoneLeft());
+}
+
+void TestInterruption::verifyAtAnyMoment()
+{
+    constexpr int moments = 8;
+
+    const QTemporaryDir place;
+    const QString machine = newMachine(place);
+    QCOMPARE(Rehearsal(place, {u"run"_s, machine, u"optimize"_s}).exitCode(), done);
+    const QStringList verify{u"verify"_s, machine, machine};
+    QElapsedTimer clock;
+    clock.start();
+    const int verdict = Rehearsal(place, verify).exitCode();
+    const qint64 duration = clock.elapsed();
+    const QByteArray before = fingerprint(machine);
+
+    int broken = 0;
+    for (int moment = 0; moment < moments; ++moment) {
+        Rehearsal run(place, verify);
+        run.hasEnded(static_cast<int>(duration * moment / moments));
+        run.signalProcess(SIGINT);
+        const int code = run.exitCode();
+        QVERIFY2(code == brokenOff || code == verdict, qPrintable(u"moment %1: %2"_s.arg(moment).arg(code)));
+        broken += code == brokenOff;
+        QVERIFY(!run.isAnyoneLeft());
+        QCOMPARE(leftIn(temporaryFolder(place)), QStringList());
+        QCOMPARE(fingerprint(machine), before);
+    }
+    QVERIFY2(broken >= moments / 2, qPrintable(QString::number(broken)));
 }
 
 void TestInterruption::tourAtAnyMoment()

@@ -10,16 +10,19 @@
 #include "work/tweaks/tweakrecord.h"
 #include "work/windowsname.h"
 
+#include <QScopeGuard>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/** Puts all recorded options of a machine in force once more. The machine is this process's from then on. */
+/** Puts all recorded options of a machine in force once more. */
 void applyOptionsAgain(const QString &machine, Progress &progress)
 {
     setPlatform(std::make_unique<SimulatedPlatform>(machine, SimulatedOptions()));
+    // Also where it is broken off: what is open can't be removed everywhere.
+    const auto close = qScopeGuard([] { setPlatform(nullptr); });
     const TweakState recorded = storedTweaks();
     WorkThread worker;
     const WindowsName windows = readWindowsName();
@@ -32,7 +35,6 @@ void applyOptionsAgain(const QString &machine, Progress &progress)
         if (recorded.boxes.value(box.name))
             runToEnd([&] { (worker.*box.tweak)(1, box.id); });
     }
-    setPlatform(nullptr);
 }
 
 int runVerify(const Arguments &arguments)
