@@ -135,6 +135,7 @@ private:
 
     QTemporaryDir folder_;
     QStringList standIns_; ///< paths
+    QString smallSources_;
 };
 
 void TestHostUntouched::layStandIns(const QString &folder)
@@ -163,6 +164,8 @@ void TestHostUntouched::initTestCase()
     standIns_ += qEnvironmentVariable("KESTRUNE_MARKED_PROGRAMS").split(u';', Qt::SkipEmptyParts);
     qputenv("KESTRUNE_MARKS", QFile::encodeName(QDir::toNativeSeparators(marksFolder())));
     qputenv("PATH", QFile::encodeName(QDir::toNativeSeparators(standInFolder())));
+    // With its drive, before another one is the current one
+    smallSources_ = QFileInfo(QStringLiteral(KESTRUNE_TEST_DATA "/small")).absoluteFilePath();
     QVERIFY(QDir::setCurrent(standInFolder()));
 }
 
@@ -255,25 +258,24 @@ void TestHostUntouched::noProgramOfTheHostIsStarted_data()
     QTest::addColumn<QString>("sources");
     QTest::addColumn<QString>("addition");
     QTest::addColumn<bool>("whole");
-    const QString small = QStringLiteral(KESTRUNE_TEST_DATA "/small");
     const QString place = QDir::toNativeSeparators(standInFolder());
     const QString sc = place + QDir::separator() + u"sc"_s + programSuffix;
     QTest::newRow("a built-in PC") << builtProgram(u"machines/windows11"_s) << QString() << true;
     QTest::newRow("tools that are missing")
-        << small
+        << smallSources_
         << uR"("faults": { "sc": {"missing": true}, "schtasks": {"missing": true}, "powershell": {"missing": true},
                        "taskkill": {"missing": true}, "onedrivesetup": {"missing": true}, "cmd": {"missing": true},
                        "powercfg": {"missing": true}, "bcdedit": {"missing": true}, "takeown": {"missing": true},
                        "icacls": {"missing": true} })"_s
         << false;
     QTest::newRow("variables that name the host")
-        << small
+        << smallSources_
         << uR"("environment": { "windir": %1, "SystemRoot": %1, "PATH": %1, "ComSpec": %2, "LD_PRELOAD": %2,
                        "TEMP": %1, "LOCALAPPDATA": %1 })"_s.arg(QString::fromUtf8(json(place)),
                                                                 QString::fromUtf8(json(sc)))
         << false;
     QTest::newRow("paths that name the host")
-        << small
+        << smallSources_
         << uR"("dlls": { "C:\\Windows\\System32\\OneDriveSetup.exe": {} }, "processes": [%1, "sc.exe"])"_s.arg(
                QString::fromUtf8(json(sc)))
         << false;
@@ -326,7 +328,7 @@ void TestHostUntouched::noProgramOfTheHostIsStarted()
 /** What lies in the machine's tools folder is no way round it. */
 void TestHostUntouched::withoutTheStockToolNothingIsStarted()
 {
-    const QString machine = makeMachine(u"planted"_s, QStringLiteral(KESTRUNE_TEST_DATA "/small"));
+    const QString machine = makeMachine(u"planted"_s, smallSources_);
     for (const QString &name : temptations)
         QVERIFY(QFile::copy(builtProgram(u"marker"_s + programSuffix), machine + u"/tools/"_s + name + programSuffix));
     const QString stockTool = program(u"kestrune-stocktool"_s);
