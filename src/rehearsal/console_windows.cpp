@@ -3,7 +3,6 @@
 #include "console.h"
 
 #include <fcntl.h>
-#include <io.h>
 #include <windows.h>
 
 #include <windows.h>
