@@ -3,8 +3,7 @@
 #include "console.h"
 
 #include <fcntl.h>
-#include <windows.h>
-
+#include <io.h>
 #include <windows.h>
 
 #include <cstdio>
