@@ -73,7 +73,7 @@ install_key() {
     } 2>/dev/null | digest
 }
 install_stamp() { echo "$source_folder/build/windows/.installed"; }
-install_says() { echo "installs, starts and uninstalls the program under Wine; about 1 minute"; }
+install_says() { echo "installs, starts and uninstalls the program under Wine; about 2 minutes"; }
 install_make() {
     in_root --caller inside_install
     write_stamp "$(install_stamp)" "$1"

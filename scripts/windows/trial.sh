@@ -5,7 +5,7 @@
 
 trial_key() { trial_digest; }
 trial_stamp() { echo "$source_folder/build/windows/.trial"; }
-trial_says() { echo "the tests and the window under Wine, as Windows 10 and as 11; about 7 minutes"; }
+trial_says() { echo "the tests and the window under Wine, as Windows 10 and as 11; about 12 minutes"; }
 trial_make() {
     in_root --caller inside_trial
     write_stamp "$(trial_stamp)" "$1"
