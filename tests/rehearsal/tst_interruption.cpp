@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Breaking kestrune-rehearse off by signals, at any moment of what it does.
 
+#include "rehearsing.h"
 #include "smallmachine.h"
 
 #include <QCryptographicHash>
@@ -17,7 +18,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-constexpr int done = 0;
 constexpr int brokenOff = 128 + SIGINT;
 
 QString temporaryFolder(const QTemporaryDir &place)
@@ -103,7 +103,7 @@ QStringList leftIn(const QString &folder)
 QString newMachine(const QTemporaryDir &place, const QString &sources = smallSources())
 {
     const QString machine = place.filePath(u"pc"_s);
-    const Ended ended = runProgram(builtProgram(u"kestrune-rehearse"_s), {u"new"_s, machine, u"--from"_s, sources});
+    const Ended ended = rehearse({u"new"_s, machine, u"--from"_s, sources});
     if (ended.exitCode != done)
         qFatal("no machine: %s", ended.errors.constData());
     return machine;
@@ -279,7 +279,7 @@ void TestInterruption::importLeavesTheMachineAsItWas()
     QVERIFY(!run.hasEnded(50));
     run.signalProcess(SIGINT);
     QCOMPARE(run.exitCode(), brokenOff);
-    const Ended left = runProgram(builtProgram(u"kestrune-rehearse"_s), {u"export"_s, machine, key});
+    const Ended left = rehearse({u"export"_s, machine, key});
     QVERIFY2(left.errors.contains("there is no key"), left.errors.constData());
     QVERIFY(!QFileInfo::exists(machine + u"/machine.sqlite-wal"_s));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Previews: items from three machines, and their reports.
 
+#include "registryvalues.h"
 #include "smallmachine.h"
 
 #include "rehearsal/preview/previewpage.h"
@@ -19,18 +20,6 @@ namespace {
 const QString servicesKey = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s;
 const QString runKey = u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
 const QString otherKey = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Other"_s;
-
-void setNumber(Machine &machine, const QString &key, const QString &name, quint32 value)
-{
-    RegistryStore &store = machine.registry();
-    store.setValue(*store.make(key), {name, RegistryType::DWord, registryDWord(value)});
-}
-
-void setText(Machine &machine, const QString &key, const QString &name, const QString &value)
-{
-    RegistryStore &store = machine.registry();
-    store.setValue(*store.make(key), {name, RegistryType::String, registryText(value)});
-}
 
 /** A machine, what an optimization made of it, and what a restoration made of that. */
 struct Three

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse, run as the process it is.
 
+#include "rehearsing.h"
 #include "smallmachine.h"
 
 #include <QDir>
@@ -13,16 +14,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int done = 0;
-constexpr int jobFailed = 1;
-constexpr int badArguments = 2;
-constexpr int machineUnreadable = 3;
-
-Ended rehearse(const QStringList &arguments, const Variables &variables = {})
-{
-    return runProgram(builtProgram(u"kestrune-rehearse"_s), arguments, variables);
-}
 
 /** A folder to work in, with the untouched machine "a" and the machine "b" to change. */
 class Workplace

@@ -2,8 +2,8 @@
 // The Automatizer in kestrune-rehearse: all its lines on the built-in machines, its options and refusals, and what is
 // left when the process is killed.
 
-#include "processes.h"
 #include "rehearsal/taskdocument.h"
+#include "rehearsing.h"
 #include "support/automatizermachine.h"
 #include "work/automatizer/restorelists.h"
 #include "work/settings.h"
@@ -16,16 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int done = 0;
-constexpr int jobFailed = 1;
-
 const QString givenUp = u"printer=0,bluetooth-audio=0,files-sharing=0,xbox-app=0,upnp=0,proxy-vpn=0,nfc=0,"
                         "xbox-game-bar=0,codecs=0"_s;
-
-Ended rehearse(const QStringList &arguments)
-{
-    return runProgram(builtProgram(u"kestrune-rehearse"_s), arguments);
-}
 
 Ended runOn(const TestMachine &machine, const QStringList &arguments)
 {

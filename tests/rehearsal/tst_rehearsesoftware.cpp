@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Lists and jobs of kestrune-rehearse for scheduled tasks, packaged applications and programs started at logon.
 
+#include "rehearsing.h"
 #include "smallmachine.h"
 
 #include <QDir>
@@ -13,19 +14,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int done = 0;
-constexpr int jobFailed = 1;
-constexpr int badArguments = 2;
-
 const QByteArray taskGroup = "HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale\\Task\\";
 const QByteArray packageGroup = "HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale\\Packages\\";
 const QByteArray autorunGroup = "HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale\\Autorun\\";
 const QString defrag = u"\\Microsoft\\Windows\\Defrag\\ScheduledDefrag"_s;
-
-Ended rehearse(const QStringList &arguments)
-{
-    return runProgram(builtProgram(u"kestrune-rehearse"_s), arguments);
-}
 
 void makeBuiltIn(const QString &folder, const QString &from)
 {

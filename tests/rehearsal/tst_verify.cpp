@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse verify: what of the recorded changes holds.
 
+#include "registryvalues.h"
+#include "rehearsing.h"
 #include "smallmachine.h"
 
 #include "rehearsal/machinecopy.h"
@@ -17,10 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int done = 0;
 constexpr int notAllInForce = 1;
-constexpr int badArguments = 2;
-constexpr int machineUnreadable = 3;
 
 const QString servicesKey = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s;
 const QString packagesKey = u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\"
@@ -28,23 +27,6 @@ const QString packagesKey = u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settin
 const QString userRunKey = u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
 const QString desktopKey = u"HKEY_CURRENT_USER\\Control Panel\\Desktop"_s;
 const QString consolidator = u"\\Microsoft\\Windows\\Customer Experience Improvement Program\\Consolidator"_s;
-
-Ended rehearse(const QStringList &arguments)
-{
-    return runProgram(builtProgram(u"kestrune-rehearse"_s), arguments);
-}
-
-void setNumber(Machine &machine, const QString &key, const QString &name, quint32 value)
-{
-    RegistryStore &store = machine.registry();
-    store.setValue(*store.make(key), {name, RegistryType::DWord, registryDWord(value)});
-}
-
-void setText(Machine &machine, const QString &key, const QString &name, const QString &value)
-{
-    RegistryStore &store = machine.registry();
-    store.setValue(*store.make(key), {name, RegistryType::String, registryText(value)});
-}
 
 /** Gives a value what another machine has there. */
 void takeValue(Machine &machine, Machine &from, const QString &key, const QString &name)
