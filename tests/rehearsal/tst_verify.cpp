@@ -213,8 +213,8 @@ void TestVerify::serviceSetBack_data()
     QTest::addColumn<int>("start");
     QTest::addColumn<Verdict>("verdict");
     // It started by itself before.
-    QTest::newRow("to what it was, after sc had done it") << Later::Log::Kept << 2 << Verdict::ChangedBack;
-    QTest::newRow("to something else, after sc had done it") << Later::Log::Kept << 3 << Verdict::ChangedBack;
+    QTest::newRow("to what it was, after sc had switched it off") << Later::Log::Kept << 2 << Verdict::ChangedBack;
+    QTest::newRow("to something else, after sc had switched it off") << Later::Log::Kept << 3 << Verdict::ChangedBack;
     QTest::newRow("to what it was, without a log") << Later::Log::None << 2 << Verdict::AsBefore;
     QTest::newRow("to something else, without a log") << Later::Log::None << 3 << Verdict::ChangedBack;
     QTest::newRow("not at all") << Later::Log::None << 4 << Verdict::InForce;
@@ -256,7 +256,7 @@ void TestVerify::taskEnabledAgainByHand()
 
     const VerifiedItem item = later.item(consolidator);
     QCOMPARE(item.verdict, Verdict::ChangedBack);
-    QCOMPARE(item.why, u"schtasks had done it"_s);
+    QCOMPARE(item.why, u"schtasks had switched it off"_s);
 }
 
 void TestVerify::taskEnabledAgainByTool()
@@ -267,7 +267,7 @@ void TestVerify::taskEnabledAgainByTool()
 
     const VerifiedItem item = later.item(consolidator);
     QCOMPARE(item.verdict, Verdict::ChangedBack);
-    QCOMPARE(item.why, u"schtasks was told to"_s);
+    QCOMPARE(item.why, u"schtasks was told to change it back"_s);
 }
 
 void TestVerify::taskSwitchedOnByThePageIsInForceWhereItIsOn()

@@ -28,7 +28,7 @@ struct VerdictRow
 constexpr VerdictRow verdicts[] = {
     {Verdict::InForce,     "in-force"_L1,     "in force"_L1,        "as it is recorded"_L1},
     {Verdict::Refused,     "refused"_L1,      "refused"_L1,         "the system said no"_L1},
-    {Verdict::ChangedBack, "changed-back"_L1, "changed back"_L1,    "was in force, and something has changed it since"_L1},
+    {Verdict::ChangedBack, "changed-back"_L1, "changed back"_L1,    "was in force, and Restore or something else has changed it since"_L1},
     {Verdict::AsBefore,    "as-before"_L1,    "as before"_L1,       "refused without a word, never carried out, or set back to just that"_L1},
     {Verdict::Gone,        "gone"_L1,         "no longer there"_L1, "the service or task itself is gone"_L1},
 };

@@ -53,10 +53,10 @@ VerifiedItem judged(VerifiedItem item, const Sides &sides, const std::optional<S
         item.why = u"%1 ended with %2"_s.arg(last->tool).arg(last->exitCode);
     } else if (off) {
         item.verdict = Verdict::ChangedBack;
-        item.why = u"%1 had done it"_s.arg(last->tool);
+        item.why = u"%1 had switched it off"_s.arg(last->tool);
     } else if (last && last->exitCode == 0) {
         item.verdict = Verdict::ChangedBack;
-        item.why = u"%1 was told to"_s.arg(last->tool);
+        item.why = u"%1 was told to change it back"_s.arg(last->tool);
     } else {
         item.verdict = sides.now == sides.before ? Verdict::AsBefore : Verdict::ChangedBack;
     }
