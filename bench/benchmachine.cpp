@@ -71,3 +71,32 @@ void BenchMachine::silenceTools()
     QFile::remove(sc);
     QFile::link(u"/bin/true"_s, sc);
 }
+
+QString vendorsTask(const QString &path)
+{
+    return uR"(<Task version="1.4" xmlns="http://schemas.microsoft.com/windows/2004/02/mit/task">
+  <RegistrationInfo>
+    <Date>2024-05-01T10:00:00</Date>
+    <Author>Vendor</Author>
+    <Description>Does what %1 is there for, and nothing else.</Description>
+    <URI>%2</URI>
+    <SecurityDescriptor>D:P(A;;FA;;;BA)(A;;FA;;;SY)</SecurityDescriptor>
+  </RegistrationInfo>
+  <Triggers>
+    <TimeTrigger>
+      <Repetition><Interval>PT1H</Interval></Repetition>
+      <StartBoundary>2024-05-01T10:00:00</StartBoundary>
+    </TimeTrigger>
+  </Triggers>
+  <Principals>
+    <Principal id="LocalSystem"><UserId>S-1-5-18</UserId><RunLevel>HighestAvailable</RunLevel></Principal>
+  </Principals>
+  <Settings>
+    <MultipleInstancesPolicy>IgnoreNew</MultipleInstancesPolicy>
+    <DisallowStartIfOnBatteries>false</DisallowStartIfOnBatteries>
+    <Hidden>true</Hidden>
+    <ExecutionTimeLimit>PT5M</ExecutionTimeLimit>
+  </Settings>
+  <Actions Context="LocalSystem"><Exec><Command>C:\Vendor\task.exe</Command></Exec></Actions>
+</Task>)"_s.arg(path.section(u'\\', -1), path);
+}

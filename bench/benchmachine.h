@@ -29,3 +29,6 @@ private:
     QTemporaryDir folder_;
     SimulatedPlatform *platform_ = nullptr;
 };
+
+/** The document of a scheduled task as programs of vendors register them. */
+QString vendorsTask(const QString &path);

@@ -2,6 +2,7 @@
 
 #include "largemachine.h"
 
+#include "benchmachine.h"
 #include "platform/simulated/database.h"
 #include "rehearsal/machinesource.h"
 #include "work/tasks/taskcatalogue.h"
@@ -39,35 +40,11 @@ void addServices(Machine &machine)
 
 void addTasks(Machine &machine)
 {
-    const QString document = uR"(<Task version="1.4" xmlns="http://schemas.microsoft.com/windows/2004/02/mit/task">
-  <RegistrationInfo>
-    <Author>Vendor</Author>
-    <Description>Does what task %1 is there for, and nothing else.</Description>
-    <URI>%2</URI>
-    <SecurityDescriptor>D:P(A;;FA;;;BA)(A;;FA;;;SY)</SecurityDescriptor>
-  </RegistrationInfo>
-  <Triggers>
-    <TimeTrigger>
-      <Repetition><Interval>PT1H</Interval></Repetition>
-      <StartBoundary>2024-05-01T10:00:00</StartBoundary>
-    </TimeTrigger>
-  </Triggers>
-  <Principals>
-    <Principal id="LocalSystem"><UserId>S-1-5-18</UserId><RunLevel>HighestAvailable</RunLevel></Principal>
-  </Principals>
-  <Settings>
-    <MultipleInstancesPolicy>IgnoreNew</MultipleInstancesPolicy>
-    <DisallowStartIfOnBatteries>false</DisallowStartIfOnBatteries>
-    <Hidden>true</Hidden>
-    <ExecutionTimeLimit>PT5M</ExecutionTimeLimit>
-  </Settings>
-  <Actions Context="LocalSystem"><Exec><Command>C:\Vendor\task.exe</Command></Exec></Actions>
-</Task>)"_s;
     const QString nonVital = nonVitalTaskPrefixes().constFirst();
     for (int i = 0; i < tasks; ++i) {
         const QString name = (i % tasksInFolder == 0 ? nonVital : u"Task "_s) + QString::number(i);
         const QString path = u"\\Vendor\\Folder %1\\%2"_s.arg(i / tasksInFolder).arg(name);
-        machine.setTask({path, document.arg(QString::number(i), path)});
+        machine.setTask({path, vendorsTask(path)});
     }
 }
 

@@ -18,34 +18,8 @@ QString exportOf(int count)
 {
     QString text = u"<?xml version=\"1.0\" ?>\n<Tasks>\n"_s;
     for (int i = 0; i < count; ++i) {
-        text += uR"(
-<!-- \Vendor\Folder\Task %1 -->
-<Task version="1.4" xmlns="http://schemas.microsoft.com/windows/2004/02/mit/task">
-  <RegistrationInfo>
-    <Date>2024-05-01T10:00:00</Date>
-    <Author>Vendor</Author>
-    <Description>Does what task %1 is there for, and nothing else.</Description>
-    <URI>\Vendor\Folder\Task %1</URI>
-    <SecurityDescriptor>D:P(A;;FA;;;BA)(A;;FA;;;SY)</SecurityDescriptor>
-  </RegistrationInfo>
-  <Triggers>
-    <TimeTrigger>
-      <Repetition><Interval>PT1H</Interval></Repetition>
-      <StartBoundary>2024-05-01T10:00:00</StartBoundary>
-    </TimeTrigger>
-  </Triggers>
-  <Principals>
-    <Principal id="LocalSystem"><UserId>S-1-5-18</UserId><RunLevel>HighestAvailable</RunLevel></Principal>
-  </Principals>
-  <Settings>
-    <MultipleInstancesPolicy>IgnoreNew</MultipleInstancesPolicy>
-    <DisallowStartIfOnBatteries>false</DisallowStartIfOnBatteries>
-    <Hidden>true</Hidden>
-    <ExecutionTimeLimit>PT5M</ExecutionTimeLimit>
-  </Settings>
-  <Actions Context="LocalSystem"><Exec><Command>C:\Vendor\task.exe</Command></Exec></Actions>
-</Task>
-)"_s.arg(i);
+        const QString path = u"\\Vendor\\Folder\\Task %1"_s.arg(i);
+        text += u"\n<!-- %1 -->\n%2\n"_s.arg(path, vendorsTask(path));
     }
     return text + u"</Tasks>\n"_s;
 }
