@@ -101,8 +101,15 @@ void makeCopies(Copies &copies, const QString &folder, const QStringList &option
     progress.show(u"comparing"_s, 4, steps);
 }
 
+/** The PC, and how it was optimized where that isn't the usual way. */
+QString describedPc(const Machine &machine, const QStringList &options)
+{
+    return options.isEmpty() ? machine.name() : u"%1 (Optimize run with %2)"_s.arg(machine.name(), options.join(u' '));
+}
+
 int runPreview(const Arguments &arguments)
 {
+    const QStringList choice = automatizerOptions(arguments);
     for (const QLatin1StringView report : {"html"_L1, "json"_L1}) {
         if (arguments.has(report))
             checkReportFile(arguments.value(report));
@@ -112,7 +119,7 @@ int runPreview(const Arguments &arguments)
     checkFiles(arguments.operand(0));
     Progress progress;
     Copies copies;
-    makeCopies(copies, arguments.operand(0), automatizerOptions(arguments), progress);
+    makeCopies(copies, arguments.operand(0), choice, progress);
     const QList<PreviewItem> items = previewItems(*copies.before, *copies.optimized, *copies.restored);
     progress.clear();
 
@@ -122,7 +129,7 @@ int runPreview(const Arguments &arguments)
             print(file + u'\n');
     }
     if (arguments.has("html"_L1))
-        writeReportFile(arguments.value("html"_L1), previewHtml(items, copies.before->name()).toUtf8());
+        writeReportFile(arguments.value("html"_L1), previewHtml(items, describedPc(*copies.before, choice)).toUtf8());
     if (arguments.has("json"_L1))
         writeReportFile(arguments.value("json"_L1), previewJson(items));
     if (!arguments.has("html"_L1) && !arguments.has("json"_L1) && !arguments.has("undo"_L1))

@@ -100,7 +100,11 @@ QMap<Place, DiffRow> byPlace(const QList<DiffRow> &rows)
 QList<VerifiedItem> verifyOptions(Machine &before, Machine &now, Machine &again)
 {
     const QMap<Place, DiffRow> sinceBefore = byPlace(compareMachines(before, now));
-    const QList<DiffRow> rows = compareMachines(now, again);
+    QMap<QString, QList<DiffRow>> rowsOf; // by box
+    for (const DiffRow &row : compareMachines(now, again)) {
+        if (!isEmptyKey(row))
+            rowsOf[featureOf(row)].append(row);
+    }
     const QList<ToolRun> runs = readToolLog(now);
     const OptionJudgement judgement(sinceBefore, runs);
 
@@ -110,10 +114,8 @@ QList<VerifiedItem> verifyOptions(Machine &before, Machine &now, Machine &again)
         if (!isRecorded(now, box.name))
             continue;
         VerifiedItem item{PreviewGroup::Features, box.name, featureWords(box.name).option};
-        for (const DiffRow &row : rows) {
-            if (!isEmptyKey(row) && featureOf(row) == box.name)
-                judgement.judge(item, row);
-        }
+        for (const DiffRow &row : rowsOf.value(box.name))
+            judgement.judge(item, row);
         items.append(item);
     }
     return items;
