@@ -10,7 +10,10 @@ rehearse_make() {
     local program=$source_folder/build/dev/bin/kestrune-rehearse captured=$source_folder/build/windows/captured version
     [[ -x $program && -x ${program%/*}/tst_undo ]] || fail "rehearse: the dev build is missing; ./dev test makes it"
     in_root --caller inside_capture
-    for version in win10 win11; do rehearse_on "$program" "$captured/$version"; done
+    for version in win10 win11; do
+        rehearse_on "$program" "$captured/$version"
+        "$program" preview "$captured/$version-neutral" >/dev/null || fail "rehearse: the neutral capture gives no preview"
+    done
 }
 
 # rehearse_on PROGRAM MACHINE: opens the captured PC, looks at it, and lets Optimize loose on a copy
@@ -26,6 +29,11 @@ rehearse_on() {
     say "rehearse: $version: $services services and $applications packages captured, $found findings, taken back"
 }
 
+# capture_into FOLDER [OPTION…]
+capture_into() {
+    quietly "capture-$1" 120 wine "$inside_build/bin/kestrune-rehearse.exe" capture "Z:$inside_build/captured/$1" "${@:2}"
+}
+
 inside_capture() {
     local version
     rm -rf "$inside_build/captured"
@@ -34,9 +42,10 @@ inside_capture() {
         desk_begin "$version" "capture-$version"
         mkdir -p "$inside_making/trial"
         lay_pc "$version"
-        quietly capture 120 wine "$inside_build/bin/kestrune-rehearse.exe" capture "Z:$inside_build/captured/$version"
+        capture_into "$version" --with-names # a way back needs them
+        capture_into "$version-neutral"
         desk_end
-        ! grep -rqaiE '[\\/]users[\\/]+'"$USER" "$inside_build/captured/$version" ||
+        ! grep -rqaiE '[\\/]users[\\/]+'"$USER" "$inside_build/captured/$version-neutral" ||
             fail "rehearse: the name of the user stands in the captured machine"
     done
     rm -rf "$inside_making/trial"

@@ -20,6 +20,7 @@ struct FileDescription
 struct MachineDescription
 {
     std::optional<QString> name;
+    bool namesReplaced = false; ///< those of the PC and its users, by whoever made this
     QMap<QString, QString> environment;
     QStringList running;
     std::optional<QStringList> processes;

@@ -102,6 +102,8 @@ void Import::apply(const MachineDescription &description)
 {
     if (description.name)
         machine_.setName(*description.name);
+    if (description.namesReplaced)
+        machine_.setReplacedNames();
     addVariables(description.environment);
     for (const QString &service : description.running)
         machine_.setRunning(service, true);

@@ -192,6 +192,7 @@ private Q_SLOTS:
     void pcIsNotChanged();
     void commandsOnlyRead();
     void namesAreReplacedAndPathsStillFindTheirFiles();
+    void replacedNamesGiveNoWayBack();
     void tasksLoseWhatTheyAreGiven();
     void packageComesBackByItsName();
     void withoutElevation();
@@ -358,6 +359,19 @@ void TestCapture::namesAreReplacedAndPathsStillFindTheirFiles()
             QVERIFY2(!bytes.contains(registryText(word).chopped(2)), qPrintable(word));
         }
     }
+}
+
+void TestCapture::replacedNamesGiveNoWayBack()
+{
+    captureMachine(make(u"windows11"_s), place(u"strangers"_s), Names::Replace);
+    const Ended ended = rehearse({u"preview"_s, place(u"strangers"_s), u"--undo"_s, place(u"strangers.reg"_s)});
+    QCOMPARE(ended.exitCode, 2);
+    QVERIFY2(ended.errors.contains("capture it with --with-names"), ended.errors);
+    QVERIFY(!QFileInfo::exists(place(u"strangers.reg"_s)));
+    // It stays so on copies, and a look at what would change is allowed.
+    copyMachine(*Machine::open(place(u"strangers"_s)), place(u"copy"_s));
+    QVERIFY(Machine::open(place(u"copy"_s))->hasReplacedNames());
+    QCOMPARE(rehearse({u"preview"_s, place(u"copy"_s), u"--html"_s, place(u"strangers.html"_s)}).exitCode, 0);
 }
 
 void TestCapture::tasksLoseWhatTheyAreGiven()

@@ -149,6 +149,7 @@ private Q_SLOTS:
     void recordsOfWhatIsGone();
     void emptyKeysAreNoChange();
     void differentPcsAreRefused();
+    void replacedNamesAreNotHeldAgainstRealOnes();
     void damagedMachines();
     void nothingRecorded();
     void longListsAreCutInTheText();
@@ -444,9 +445,21 @@ void TestVerify::differentPcsAreRefused()
     QCOMPARE(rehearse({u"new"_s, folder.filePath(u"other"_s), u"--from"_s, u"windows10"_s}).exitCode, done);
     const Ended ended = rehearse({u"verify"_s, folder.filePath(u"other"_s), pc_->now()});
     QCOMPARE(ended.exitCode, badArguments);
-    QVERIFY2(ended.errors.startsWith("kestrune-rehearse: these aren't the same PC: one has the mainboard "),
-             ended.errors.constData());
+    QVERIFY2(
+        ended.errors.startsWith("kestrune-rehearse: these can't be held against each other: one has the mainboard "),
+        ended.errors.constData());
     QCOMPARE(ended.errors.count('\n'), 1);
+}
+
+void TestVerify::replacedNamesAreNotHeldAgainstRealOnes()
+{
+    const QTemporaryDir folder;
+    const QString captured = folder.filePath(u"captured"_s);
+    copyMachine(*Machine::open(pc_->now()), captured);
+    Machine::open(captured)->setReplacedNames();
+    const Ended ended = rehearse({u"verify"_s, captured, pc_->now()});
+    QCOMPARE(ended.exitCode, badArguments);
+    QVERIFY2(ended.errors.contains("the names of one were replaced when it was captured"), ended.errors.constData());
 }
 
 void TestVerify::damagedMachines()

@@ -83,6 +83,9 @@ public:
     /** A text of one line that names the machine. */
     QString name() const;
     void setName(const QString &name);
+    /** Whether it was captured from a PC whose names were replaced, so that what it holds isn't what the PC has. */
+    bool hasReplacedNames() const;
+    void setReplacedNames();
 
     /** Environment variables by the name they were given with. */
     QMap<QString, QString> environment() const;

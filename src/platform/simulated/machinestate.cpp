@@ -34,6 +34,16 @@ void Machine::setName(const QString &name)
     database_->query("INSERT OR REPLACE INTO meta VALUES ('name', ?)").bind(name).run();
 }
 
+bool Machine::hasReplacedNames() const
+{
+    return database_->query("SELECT 1 FROM meta WHERE name = 'replacedNames'").next();
+}
+
+void Machine::setReplacedNames()
+{
+    database_->query("INSERT OR REPLACE INTO meta VALUES ('replacedNames', 1)").run();
+}
+
 QMap<QString, QString> Machine::environment() const
 {
     QMap<QString, QString> variables;

@@ -238,4 +238,5 @@ void NeutralNames::replaceIn(MachineContents &contents)
             text(task.document).replace(otherAccount, u"\\1"_s + neutralHost + u'\\' + neutralUser + u"\\2"_s);
     }
     replaceIn(contents.description);
+    contents.description.namesReplaced = true;
 }

@@ -53,12 +53,13 @@ QString moreHelp()
     return u"The PC is read and not changed. What is taken is what the program looks at: its registry keys, services,\n"
            "scheduled tasks without their arguments, packages, programs at logon, names of processes, hardware, and\n"
            "the sizes of some files. The PC is called PC and its user User, in paths and texts alike.\n"
+           "A way back ('preview --undo') needs the real names: capture the PC with --with-names for one.\n"
            "Administrator rights aren't needed; without them a few things can't be read, which is told in the end.\n"_s;
 }
 
 // clang-format off
 constexpr OptionRow options[] = {
-    {"with-names"_L1, {}, "keep the names of the PC, its users and networks"_L1},
+    {"with-names"_L1, {}, "keep the names of the PC, its users and networks, as a way back needs them"_L1},
     {"force"_L1,      {}, "replace the machine that is there"_L1},
 };
 // clang-format on

@@ -79,6 +79,16 @@ void checkFiles(const QString &folder)
         throw Failure{ExitMachineUnreadable, u"%1: its files are missing: there is no folder drive_c"_s.arg(folder)};
 }
 
+/** What would be brought back must be what the PC has. */
+void checkNames(const QString &folder)
+{
+    if (openMachine(folder)->hasReplacedNames()) {
+        throw Failure{ExitBadArguments,
+                      u"%1: the names of this PC and its user were replaced, and a way back would bring back these; "
+                      "capture it with --with-names"_s.arg(folder)};
+    }
+}
+
 std::unique_ptr<Machine> copyOf(const Machine &machine, const QString &folder)
 {
     copyMachine(machine, folder);
@@ -114,9 +124,11 @@ int runPreview(const Arguments &arguments)
         if (arguments.has(report))
             checkReportFile(arguments.value(report));
     }
-    if (arguments.has("undo"_L1))
-        checkReportFiles(arguments.value("undo"_L1));
     checkFiles(arguments.operand(0));
+    if (arguments.has("undo"_L1)) {
+        checkReportFiles(arguments.value("undo"_L1));
+        checkNames(arguments.operand(0));
+    }
     Progress progress;
     Copies copies;
     makeCopies(copies, arguments.operand(0), choice, progress);

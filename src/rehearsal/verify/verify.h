@@ -66,5 +66,5 @@ QList<VerifiedItem> verifySwitches(Machine &before, Machine &now);
  */
 QList<VerifiedItem> verifyOptions(Machine &before, Machine &now, Machine &again);
 
-/** How two machines show that they can't be the same PC; empty where nothing speaks against it. */
+/** Why two machines can't be states of one PC that may be compared; empty where nothing speaks against it. */
 QString differentPcs(Machine &before, Machine &now);

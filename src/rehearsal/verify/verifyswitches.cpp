@@ -270,6 +270,8 @@ QList<VerifiedItem> verifySwitches(Machine &before, Machine &now)
 
 QString differentPcs(Machine &before, Machine &now)
 {
+    if (before.hasReplacedNames() != now.hasReplacedNames())
+        return u"the names of one were replaced when it was captured, and those of the other weren't"_s;
     const QString key = u"HKEY_LOCAL_MACHINE\\HARDWARE\\DESCRIPTION\\System\\BIOS"_s;
     const auto board = [&key](Machine &machine) {
         QStringList words;
