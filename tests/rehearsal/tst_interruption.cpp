@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include <signal.h>
 
@@ -67,8 +68,14 @@ public:
     }
     QByteArray errors() { return process_.readAllStandardError(); }
     QByteArray output() { return process_.readAllStandardOutput(); }
-    /** Whether anything that it ran still does. */
-    bool isAnyoneLeft() const { return kill(-group_, 0) == 0; }
+    /** Whether anything that it ran still does. On a busy computer an ended process is there for a moment yet. */
+    bool isAnyoneLeft() const
+    {
+        constexpr int moment = 2000;
+        for (int waited = 0; waited < moment && kill(-group_, 0) == 0; waited += 20)
+            QThread::msleep(20);
+        return kill(-group_, 0) == 0;
+    }
 
 private:
     QProcess process_;
