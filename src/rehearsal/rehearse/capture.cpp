@@ -22,7 +22,8 @@ void printReport(const QString &folder, const CaptureReport &report)
         print(u"not read: %1 (%2)\n"_s.arg(part.what, part.reason));
     if (!report.elevated) {
         print(u"run without administrator rights: with them it would also have the boot options, and those\n"
-              "scheduled tasks, services and registry keys that this user may not see\n"_s);
+              "scheduled tasks, services and registry keys that this user may not see; a way back that is made\n"
+              "of this copy takes them for not there\n"_s);
     }
     print(u"'kestrune-rehearse preview %1' shows what an optimization would change\n"_s.arg(place));
 }
@@ -53,7 +54,8 @@ QString moreHelp()
     return u"The PC is read and not changed. What is taken is what the program looks at: its registry keys, services,\n"
            "scheduled tasks without their arguments, packages, programs at logon, names of processes, hardware, and\n"
            "the sizes of some files. The PC is called PC and its user User, in paths and texts alike.\n"
-           "A way back ('preview --undo') needs the real names: capture the PC with --with-names for one.\n"
+           "A way back ('preview --undo') needs the real names and all that there is: capture the PC for one with\n"
+           "--with-names and as an administrator.\n"
            "Administrator rights aren't needed; without them a few things can't be read, which is told in the end.\n"_s;
 }
 
