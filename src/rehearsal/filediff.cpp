@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /** Contents are compared up to this size; what is larger is mostly a hole. */
-constexpr qint64 largestContent = 1024 * 1024;
+constexpr qint64 largestContent = qint64{1024} * 1024;
 
 struct Entry
 {

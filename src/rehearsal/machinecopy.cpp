@@ -36,7 +36,7 @@ void makeFolder(const QString &folder)
 /** Copies a file's content; what is a hole, or reads as one, becomes a hole. */
 void copyFile(const QString &from, const QString &to)
 {
-    constexpr qint64 blockSize = 64 * 1024;
+    constexpr qint64 blockSize = qint64{64} * 1024;
 
     QFile source(from);
     QFile copy(to);

@@ -58,7 +58,7 @@ qint64 nextData(QFile &file, qint64 offset)
 
 bool resizeWithHole(QFile &file, qint64 size)
 {
-    constexpr qint64 smallest = 1024 * 1024; // below that a hole is of no use
+    constexpr qint64 smallest = qint64{1024} * 1024; // below that a hole is of no use
 
     if (size - file.size() >= smallest) {
         DWORD ignored = 0;

@@ -90,7 +90,7 @@ std::optional<FileDescription> describe(const QString &path)
 /** The content of the file in which the encoder is switched, which Optimize writes anew. */
 std::optional<QByteArray> contentOf(const QString &path)
 {
-    constexpr qint64 most = 1024 * 1024; // a file of settings has some hundred bytes
+    constexpr qint64 most = qint64{1024} * 1024; // a file of settings has some hundred bytes
     QFile file(platform().hostPath(path));
     if (path != pathOf(encoderConfig) || file.size() > most || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
