@@ -96,15 +96,20 @@ void TestUndo::previewTellsOfEveryGroup()
     const QJsonObject report = QJsonDocument::fromJson(file.readAll()).object();
     QMap<QString, int> groups;
     QStringList titles;
+    QStringList unexplainedFiles;
     for (const QJsonValue item : report[u"items"_s].toArray()) {
         ++groups[item[u"group"_s].toString()];
         titles.append(item[u"title"_s].toString());
+        if (item[u"group"_s] == "Files"_L1 && item[u"about"_s].toString().isEmpty())
+            unexplainedFiles.append(titles.last());
     }
     for (const QString &group : {u"Services"_s, u"Scheduled tasks"_s, u"Windows applications"_s,
                                  u"Programs started at logon"_s, u"System options"_s, u"Kestrune's own notes"_s})
         QVERIFY2(groups.value(group) > 0, qPrintable(group));
     QVERIFY2(titles.contains(u"Print Spooler"_s), qPrintable(titles.join(u'\n')));
     QVERIFY2(titles.contains(u"Disable telemetry"_s), qPrintable(titles.join(u'\n')));
+    QVERIFY(groups.value(u"Files"_s) > 0);
+    QCOMPARE(unexplainedFiles, QStringList());
     const QByteArray page = readFile(folder_.filePath(u"preview.html"_s));
     QVERIFY(page.size() > 10000);
     QVERIFY(page.contains("(Optimize run with --keep printer=0)</p>"));

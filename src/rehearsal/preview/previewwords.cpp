@@ -167,6 +167,29 @@ PreviewWords registryWords(Machine &before, Machine &optimized, const DiffRow &r
     return words;
 }
 
+struct FileAbout
+{
+    QLatin1StringView end; ///< of its path, in upper case
+    QLatin1StringView about;
+};
+
+// clang-format off
+constexpr FileAbout fileAbouts[] = {
+    {"\\RIVATUNER STATISTICS SERVER\\PROFILES\\CONFIG"_L1,
+     "The settings of RivaTuner Statistics Server, which shows figures over games: its video encoder is switched off"_L1},
+    {"\\TASKS.XML"_L1, "The list of scheduled tasks as Kestrune has asked for it"_L1},
+};
+// clang-format on
+
+QString aboutFile(const QString &path)
+{
+    for (const FileAbout &file : fileAbouts) {
+        if (foldName(path).endsWith(file.end))
+            return file.about;
+    }
+    return QString();
+}
+
 PreviewWords fileWords(const DiffRow &row)
 {
     static const QMap<DiffKind, QString> details{{DiffKind::File, u"the file"_s},
@@ -185,6 +208,7 @@ PreviewWords fileWords(const DiffRow &row)
     return {.group = PreviewGroup::Files,
             .item = foldName(row.path),
             .title = row.path.section(u'\\', -1),
+            .about = aboutFile(row.path),
             .name = row.path,
             .detail = detail};
 }
