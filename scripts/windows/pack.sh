@@ -68,7 +68,7 @@ write_manifests() {
 install_key() {
     {
         cd "$source_folder"
-        cat build/windows/packages/*setup.exe build/windows/bin/tst_program.exe scripts/windows/{desk,pack}.sh
+        cat build/windows/packages/*setup.exe build/windows/bin/tests_program.exe scripts/windows/{desk,pack}.sh
         cat tests/rehearsal/data/small/*
     } 2>/dev/null | digest
 }
@@ -148,7 +148,7 @@ install_program() {
     [[ -n $(find "$WINEPREFIX/drive_c" -name Kestrune.lnk) ]] || fail "the installer made no entry in the start menu"
     export KESTRUNE_TRIAL_PROGRAM="$place\\kestrune.exe"
     export KESTRUNE_TRIAL_PICTURE=Z:$inside_build/screenshots/installed-$1.png
-    run_qtest "installed-$1" "$inside_build/bin/tst_program.exe" startsIsSeenAndEnds
+    run_qtest "installed-$1" "$inside_build/bin/tests_program.exe" tst_program startsIsSeenAndEnds
 }
 
 # uninstall_program HIVE [ARGUMENT…]: the uninstaller goes on in a copy of itself, so it is waited for

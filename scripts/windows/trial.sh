@@ -26,7 +26,6 @@ readonly stand_ins=(sc schtasks powercfg bcdedit takeown icacls taskkill)
 
 # What clicks through the window, in this order; the Automatizer, which takes the other pages' changes back, last
 readonly page_tests=(tst_realwindow tst_reallists tst_realfeatures tst_realsysteminfo)
-readonly window_tests=("${page_tests[@]}" tst_realautomatizer)
 
 inside_trial() {
     local version
@@ -64,7 +63,7 @@ lay_trial_folder() {
     local system=$WINEPREFIX/drive_c/windows
     rm -rf "$folder"
     mkdir -p "$folder"
-    for program in kestrune tst_program "${window_tests[@]}"; do
+    for program in kestrune tests_program tests_trial; do
         cp -l "$inside_build/bin/$program.exe" "$folder/" 2>/dev/null || cp "$inside_build/bin/$program.exe" "$folder/"
     done
     cp -r "$inside_build"/bin/{img,machines,Translations} "$folder/"
@@ -101,7 +100,7 @@ run_window() {
 }
 
 run_window_test() {
-    (cd "$inside_making/trial" && run_qtest "${1#tst_}" "$1.exe")
+    (cd "$inside_making/trial" && run_qtest "${1#tst_}" tests_trial.exe "$1")
 }
 
 # What the tests of the pages leave, as Windows' own tool sees it
@@ -125,7 +124,7 @@ run_program() {
     set_value 'HKCU\Software\Kestrune\Ondrevale' lastPage REG_DWORD 1
     export KESTRUNE_TRIAL_PROGRAM=Z:$inside_making/trial/kestrune.exe
     export KESTRUNE_TRIAL_PICTURE=Z:$inside_build/screenshots/$1/kestrune.png
-    (cd "$inside_making/trial" && run_qtest program tst_program.exe)
+    (cd "$inside_making/trial" && run_qtest program tests_program.exe tst_program)
 }
 
 # Programs of Windows that a rehearsal might start in place of its own
@@ -149,7 +148,8 @@ run_host_proof() {
     overrides=${overrides// /,}=native
     KESTRUNE_MARKED_PROGRAMS=$(IFS=';'; echo "${marked[*]}")
     export KESTRUNE_MARKED_PROGRAMS
-    WINEDLLOVERRIDES=$overrides QTEST_FUNCTION_TIMEOUT=800000 quietly hostuntouched 900 wine "$inside_build/bin/tst_hostuntouched.exe" -o "Z:$desk_log/hostuntouched.qtest,txt"
+    WINEDLLOVERRIDES=$overrides QTEST_FUNCTION_TIMEOUT=800000 quietly hostuntouched 900 \
+        wine "$inside_build/bin/tests_rehearsal.exe" tst_hostuntouched -o "Z:$desk_log/hostuntouched.qtest,txt"
     without_warnings hostuntouched
     say "trial: nothing of the host is started, in $(took $((SECONDS - begin)))"
 }

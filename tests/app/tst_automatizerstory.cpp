@@ -6,8 +6,10 @@
 #include "support/boxes.h"
 #include "support/machinepair.h"
 #include "support/packageplaces.h"
+#include "support/suite.h"
 #include "work/settings.h"
 
+#include <QApplication>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -219,5 +221,5 @@ void TestAutomatizerStory::pcIsOptimizedAndRestored()
     QCOMPARE(boxes.shown().constLast().text, u"Cannot restore if you have not yet optimized!"_s);
 }
 
-QTEST_MAIN(TestAutomatizerStory)
+KESTRUNE_WINDOW_SUITE(TestAutomatizerStory)
 #include "tst_automatizerstory.moc"

@@ -6,10 +6,12 @@
 #include "rehearsal/machinediff.h"
 #include "rehearsal/taskdocument.h"
 #include "support/boxes.h"
+#include "support/suite.h"
 #include "support/tweakrows.h"
 #include "support/windowdriver.h"
 #include "work/tweaks/tweakcatalogue.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
 #include <QDirIterator>
@@ -350,5 +352,5 @@ void TestFeaturesStory::everyBoxIsAppliedAndTakenBack()
     }
 }
 
-QTEST_MAIN(TestFeaturesStory)
+KESTRUNE_WINDOW_SUITE(TestFeaturesStory)
 #include "tst_featuresstory.moc"

@@ -6,9 +6,11 @@
 #include "support/listpages.h"
 #include "support/machinepair.h"
 #include "support/packageplaces.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 #include "work/settings.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QTest>
 
@@ -226,5 +228,5 @@ void TestListStory::programsAreSwitchedOffAndOn()
         QVERIFY2(lost.contains(difference) || shortened.contains(difference), qPrintable(difference));
 }
 
-QTEST_MAIN(TestListStory)
+KESTRUNE_WINDOW_SUITE(TestListStory)
 #include "tst_liststory.moc"

@@ -2,8 +2,10 @@
 // The program itself, as a process of its own: how it starts, what it refuses, and how it gives way to an elevated one.
 
 #include "platform/simulated/database.h"
+#include "support/suite.h"
 #include "support/testmachine.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -224,5 +226,5 @@ void TestProgram::unelevatedProgramGivesWayToAnElevatedOne()
     QCOMPARE(instances(folder, "1"), QList<pid_t>{second});
 }
 
-QTEST_MAIN(TestProgram)
+KESTRUNE_WINDOW_SUITE(TestProgram)
 #include "tst_program.moc"

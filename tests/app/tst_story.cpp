@@ -2,8 +2,10 @@
 // A person's way through the Services page, on the built-in PCs: from the first listing to everything restored.
 
 #include "support/boxes.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QHelpEvent>
@@ -180,5 +182,5 @@ void TestStory::needlessServicesGoAndComeBack()
     QVERIFY(machine.shellStarts().isEmpty());
 }
 
-QTEST_MAIN(TestStory)
+KESTRUNE_WINDOW_SUITE(TestStory)
 #include "tst_story.moc"

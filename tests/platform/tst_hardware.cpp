@@ -2,6 +2,7 @@
 // The seam's questions about hardware and load: what every platform answers alike, and a rehearsal machine's own part.
 
 #include "contractplatform.h"
+#include "support/suite.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -260,5 +261,5 @@ void TestHardware::aDamagedDescriptionIsNone()
 
 #endif
 
-QTEST_GUILESS_MAIN(TestHardware)
+KESTRUNE_SUITE(TestHardware)
 #include "tst_hardware.moc"

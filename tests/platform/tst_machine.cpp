@@ -3,6 +3,7 @@
 
 #include "contractplatform.h"
 #include "platform/simulated/database.h"
+#include "support/suite.h"
 
 #include <QDirIterator>
 #include <QJsonDocument>
@@ -792,20 +793,20 @@ void TestMachine::processesLoseNothing()
         QVERIFY2(QJsonDocument::fromJson(line).object().value(u"program"_s) == u"sc"_s, line.constData());
 }
 
-int main(int argc, char **argv)
-{
-    QCoreApplication application(argc, argv);
+/** One of the processes that write at once. */
+static const SuiteHelper writer([](int argc, char **argv) -> std::optional<int> {
+    if (argc < 4 || QByteArrayView(argv[1]) != "--write")
+        return std::nullopt;
+    const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == u"--write"_s) { // one of the processes that write at once
-        try {
-            writeRounds(*Machine::open(arguments.value(2)), arguments.value(3));
-        } catch (const MachineError &error) {
-            qCritical("%s", qUtf8Printable(error.message));
-            return 1;
-        }
-        return 0;
+    try {
+        writeRounds(*Machine::open(arguments.at(2)), arguments.at(3));
+    } catch (const MachineError &error) {
+        qCritical("%s", qUtf8Printable(error.message));
+        return 1;
     }
-    TestMachine test;
-    return QTest::qExec(&test, arguments);
-}
+    return 0;
+});
+
+KESTRUNE_SUITE(TestMachine)
 #include "tst_machine.moc"

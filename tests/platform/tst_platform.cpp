@@ -2,6 +2,7 @@
 // The rest of the seam on a rehearsal machine: walks, programs, exit codes, pauses, DLL strings and WMI.
 
 #include "contractplatform.h"
+#include "support/suite.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -642,15 +643,15 @@ void TestPlatform::pausesEndWhenInterrupted()
     QVERIFY(thread->wait(20000));
 }
 
-int main(int argc, char **argv)
-{
-    QCoreApplication application(argc, argv);
+/** Where the environment names a file, the program was started by a test. */
+static const SuiteHelper recorder([](int argc, char **argv) -> std::optional<int> {
     const QByteArray file = qgetenv(recordVariable);
-    if (!file.isEmpty()) { // started by a test
-        record(QString::fromLocal8Bit(file));
-        return 0;
-    }
-    TestPlatform test;
-    return QTest::qExec(&test, QCoreApplication::arguments());
-}
+    if (file.isEmpty())
+        return std::nullopt;
+    const QCoreApplication application(argc, argv);
+    record(QString::fromLocal8Bit(file));
+    return 0;
+});
+
+KESTRUNE_SUITE(TestPlatform)
 #include "tst_platform.moc"

@@ -4,6 +4,7 @@
 
 #include "contractplatform.h"
 #include "platform/simulated/regfile.h"
+#include "support/suite.h"
 
 #include <QStringEncoder>
 #include <QTest>
@@ -418,5 +419,5 @@ void TestRegFile::readsMany()
     QCOMPARE(key->value(u"4999/n"_s), QVariant(4999));
 }
 
-QTEST_GUILESS_MAIN(TestRegFile)
+KESTRUNE_SUITE(TestRegFile)
 #include "tst_regfile.moc"

@@ -3,6 +3,7 @@
 // it.
 
 #include "contractplatform.h"
+#include "support/suite.h"
 
 #include <QTest>
 
@@ -547,5 +548,5 @@ void TestRegistryKey::anObjectSeesWhatAnotherWrites()
     QVERIFY(!one->contains(u"a"_s));
 }
 
-QTEST_GUILESS_MAIN(TestRegistryKey)
+KESTRUNE_SUITE(TestRegistryKey)
 #include "tst_registrykey.moc"

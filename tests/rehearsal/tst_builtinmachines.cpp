@@ -2,6 +2,7 @@
 // What the built-in machines have of scheduled tasks, packaged applications and programs started at logon.
 
 #include "smallmachine.h"
+#include "support/suite.h"
 
 #include "rehearsal/resourcetext.h"
 #include "rehearsal/taskdocument.h"
@@ -307,5 +308,5 @@ void TestBuiltInMachines::hardwareDiffersBetweenThem()
     QVERIFY(!eleven->registry().find(radeon));
 }
 
-QTEST_GUILESS_MAIN(TestBuiltInMachines)
+KESTRUNE_SUITE(TestBuiltInMachines)
 #include "tst_builtinmachines.moc"

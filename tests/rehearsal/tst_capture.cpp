@@ -9,6 +9,7 @@
 #include "rehearsal/capture/neutralnames.h"
 #include "rehearsal/machinecopy.h"
 #include "rehearsal/machinediff.h"
+#include "support/suite.h"
 #include "undoing.h"
 #include "work/automatizerruns.h"
 #include "work/tweaks/tweakcatalogue.h"
@@ -566,5 +567,5 @@ void TestCapture::boundsOfNames()
     QCOMPARE(names.text(text), neutral);
 }
 
-QTEST_GUILESS_MAIN(TestCapture)
+KESTRUNE_SUITE(TestCapture)
 #include "tst_capture.moc"

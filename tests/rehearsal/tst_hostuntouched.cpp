@@ -4,6 +4,7 @@
 
 #include "processes.h"
 #include "rehearsal/machinesource.h"
+#include "support/suite.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -377,5 +378,5 @@ void TestHostUntouched::nothingOutsideIsReadOrWritten()
 }
 #endif
 
-QTEST_GUILESS_MAIN(TestHostUntouched)
+KESTRUNE_SUITE(TestHostUntouched)
 #include "tst_hostuntouched.moc"

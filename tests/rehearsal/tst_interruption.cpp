@@ -3,6 +3,7 @@
 
 #include "rehearsing.h"
 #include "smallmachine.h"
+#include "support/suite.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -406,5 +407,5 @@ void TestInterruption::readerThatGoesAwayLeavesNothingTemporary()
     QCOMPARE(leftIn(temporaryFolder(place)), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestInterruption)
+KESTRUNE_SUITE(TestInterruption)
 #include "tst_interruption.moc"

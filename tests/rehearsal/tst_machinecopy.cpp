@@ -2,6 +2,7 @@
 // Copies of machines.
 
 #include "smallmachine.h"
+#include "support/suite.h"
 
 #include "rehearsal/machinecopy.h"
 #include "rehearsal/machinediff.h"
@@ -151,5 +152,5 @@ void TestMachineCopy::folderThatCannotBeMadeIsTold()
     QVERIFY(errorOf([&] { copyMachine(*source, source.beside(u"file/copy"_s)); }).contains(u"can't be made"_s));
 }
 
-QTEST_GUILESS_MAIN(TestMachineCopy)
+KESTRUNE_SUITE(TestMachineCopy)
 #include "tst_machinecopy.moc"

@@ -2,6 +2,7 @@
 // Comparisons of machines.
 
 #include "smallmachine.h"
+#include "support/suite.h"
 
 #include "rehearsal/diffreport.h"
 
@@ -367,5 +368,5 @@ void TestMachineDiff::pageIsEscapedAndSelfContained()
     QVERIFY(diffHtml({}, u"a"_s, u"b"_s).contains("Nothing differs."_L1));
 }
 
-QTEST_GUILESS_MAIN(TestMachineDiff)
+KESTRUNE_SUITE(TestMachineDiff)
 #include "tst_machinediff.moc"

@@ -2,6 +2,7 @@
 // Making machines from sources, and importing into them.
 
 #include "smallmachine.h"
+#include "support/suite.h"
 
 #include "platform/simulated/regfile.h"
 #include "rehearsal/machinediff.h"
@@ -441,5 +442,5 @@ void TestMachineSource::unknownFilesAreRefused()
     QCOMPARE(errorOf([&] { importFile(*machine, machine.folder()); }), machine.folder() + u": is a folder"_s);
 }
 
-QTEST_GUILESS_MAIN(TestMachineSource)
+KESTRUNE_SUITE(TestMachineSource)
 #include "tst_machinesource.moc"

@@ -2,6 +2,7 @@
 // The manual page and the help of kestrune-rehearse: they tell the same, and what they show to try can be tried.
 
 #include "processes.h"
+#include "support/suite.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -170,5 +171,5 @@ void TestManual::eachCommandHasAnExample()
         QVERIFY2(help({command}).contains(u"Examples:\n  kestrune-rehearse %1 "_s.arg(command)), qPrintable(command));
 }
 
-QTEST_GUILESS_MAIN(TestManual)
+KESTRUNE_SUITE(TestManual)
 #include "tst_manual.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // OneDriveSetup, run as the process it is.
 
+#include "support/suite.h"
 #include "toolrun.h"
 
 #include "platform/simulated/regfile.h"
@@ -85,5 +86,5 @@ void TestOneDriveSetup::otherArgumentsDoNothing()
     QCOMPARE(compareMachines(*before, *machine), QList<DiffRow>());
 }
 
-QTEST_GUILESS_MAIN(TestOneDriveSetup)
+KESTRUNE_SUITE(TestOneDriveSetup)
 #include "tst_onedrivesetup.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // powershell, run as the process it is.
 
+#include "support/suite.h"
 #include "toolrun.h"
 
 #include "rehearsal/machinediff.h"
@@ -216,5 +217,5 @@ void TestPowerShellTool::otherCommandsAreRefused()
     QCOMPARE(installed(machine).size(), 4);
 }
 
-QTEST_GUILESS_MAIN(TestPowerShellTool)
+KESTRUNE_SUITE(TestPowerShellTool)
 #include "tst_powershelltool.moc"

@@ -3,6 +3,7 @@
 
 #include "registryvalues.h"
 #include "smallmachine.h"
+#include "support/suite.h"
 
 #include "rehearsal/preview/previewpage.h"
 #include "rehearsal/preview/previewreport.h"
@@ -348,5 +349,5 @@ void TestPreview::pageIsEscapedAndNeedsNothingElse()
         QVERIFY2(!page.contains(outside), qPrintable(outside));
 }
 
-QTEST_GUILESS_MAIN(TestPreview)
+KESTRUNE_SUITE(TestPreview)
 #include "tst_preview.moc"

@@ -2,6 +2,7 @@
 // The page of a preview in a real browser: opened from disk, searched, filtered, in light and dark, narrow and printed.
 
 #include "smallmachine.h"
+#include "support/suite.h"
 #include "support/webdriver.h"
 
 #include "rehearsal/preview/previewpage.h"
@@ -378,5 +379,5 @@ void TestPreviewPage::thousandsOfItemsAreSearched()
     QCOMPARE(titles(), QStringList(u"Service 4711"_s));
 }
 
-QTEST_GUILESS_MAIN(TestPreviewPage)
+KESTRUNE_SUITE(TestPreviewPage)
 #include "tst_previewpage.moc"

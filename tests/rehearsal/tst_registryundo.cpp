@@ -2,6 +2,7 @@
 // The way back of a registry: applied as a script to what a machine has become, it gives the machine before.
 
 #include "smallmachine.h"
+#include "support/suite.h"
 
 #include "rehearsal/machinediff.h"
 #include "rehearsal/preview/registryundo.h"
@@ -150,5 +151,5 @@ void TestRegistryUndo::keyWhoseNameBeginsLikeARemovedOneIsNotLost()
     QVERIFY2(script.contains(u"["_s + key + u"\\newer]\n\"x\"=dword:00000001"_s), qPrintable(script));
 }
 
-QTEST_GUILESS_MAIN(TestRegistryUndo)
+KESTRUNE_SUITE(TestRegistryUndo)
 #include "tst_registryundo.moc"

@@ -3,6 +3,7 @@
 
 #include "rehearsing.h"
 #include "smallmachine.h"
+#include "support/suite.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -563,5 +564,5 @@ void TestRehearse::outputThatCantBeWrittenIsAFailure()
     QCOMPARE(ended.errors, QByteArray("kestrune-rehearse: standard output can't be written\n"));
 }
 
-QTEST_GUILESS_MAIN(TestRehearse)
+KESTRUNE_SUITE(TestRehearse)
 #include "tst_rehearse.moc"

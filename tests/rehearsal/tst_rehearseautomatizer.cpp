@@ -5,6 +5,7 @@
 #include "rehearsal/taskdocument.h"
 #include "rehearsing.h"
 #include "support/automatizermachine.h"
+#include "support/suite.h"
 #include "work/automatizer/restorelists.h"
 #include "work/settings.h"
 
@@ -391,5 +392,5 @@ void TestRehearseAutomatizer::aKilledOptimizeLeavesNothingUnaccounted()
 }
 #endif
 
-QTEST_GUILESS_MAIN(TestRehearseAutomatizer)
+KESTRUNE_SUITE(TestRehearseAutomatizer)
 #include "tst_rehearseautomatizer.moc"

@@ -3,6 +3,7 @@
 
 #include "rehearsing.h"
 #include "smallmachine.h"
+#include "support/suite.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -386,5 +387,5 @@ void TestRehearseSoftware::operandsAreChecked()
         QCOMPARE(rehearse({u"run"_s, folder.path(), job, u"x"_s}).exitCode, badArguments);
 }
 
-QTEST_GUILESS_MAIN(TestRehearseSoftware)
+KESTRUNE_SUITE(TestRehearseSoftware)
 #include "tst_rehearsesoftware.moc"

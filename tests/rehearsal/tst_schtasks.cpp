@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // schtasks, run as the process it is.
 
+#include "support/suite.h"
 #include "toolrun.h"
 
 #include "rehearsal/taskdocument.h"
@@ -219,5 +220,5 @@ void TestSchtasks::faultsOfOneVerb()
     QCOMPARE(runTool(machine, u"schtasks"_s, {u"/xml"_s}).exitCode, 0);
 }
 
-QTEST_GUILESS_MAIN(TestSchtasks)
+KESTRUNE_SUITE(TestSchtasks)
 #include "tst_schtasks.moc"

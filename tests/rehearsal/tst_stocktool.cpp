@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The stock tools, run as the processes they are.
 
+#include "support/suite.h"
 #include "toolrun.h"
 
 #include "platform/simulated/regfile.h"
@@ -534,5 +535,5 @@ void TestStockTool::otherCommandsAreNotRecognized()
                                       "operable program or batch file.\r\n"));
 }
 
-QTEST_GUILESS_MAIN(TestStockTool)
+KESTRUNE_SUITE(TestStockTool)
 #include "tst_stocktool.moc"

@@ -2,6 +2,7 @@
 // What a scheduled task's XML says, and its switch.
 
 #include "rehearsal/taskdocument.h"
+#include "support/suite.h"
 
 #include <QTest>
 
@@ -137,5 +138,5 @@ void TestTaskDocument::malformedTextIsLeftAlone()
     }
 }
 
-QTEST_GUILESS_MAIN(TestTaskDocument)
+KESTRUNE_SUITE(TestTaskDocument)
 #include "tst_taskdocument.moc"

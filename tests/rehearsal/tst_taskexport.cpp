@@ -2,6 +2,7 @@
 // Importing what "schtasks /xml" printed, and the code page of a console.
 
 #include "smallmachine.h"
+#include "support/suite.h"
 
 #include "rehearsal/consolecodepage.h"
 #include "rehearsal/taskexport.h"
@@ -209,5 +210,5 @@ void TestTaskExport::largeExport()
     QCOMPARE(tasks.last().path, u"\\t2999"_s);
 }
 
-QTEST_GUILESS_MAIN(TestTaskExport)
+KESTRUNE_SUITE(TestTaskExport)
 #include "tst_taskexport.moc"

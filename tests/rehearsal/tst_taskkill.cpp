@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // taskkill, run as the process it is.
 
+#include "support/suite.h"
 #include "toolrun.h"
 
 #include <QJsonObject>
@@ -81,5 +82,5 @@ void TestTaskkill::badArguments()
     QCOMPARE(machine->processes().size(), 2);
 }
 
-QTEST_GUILESS_MAIN(TestTaskkill)
+KESTRUNE_SUITE(TestTaskkill)
 #include "tst_taskkill.moc"

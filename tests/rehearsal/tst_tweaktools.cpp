@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // powercfg, bcdedit, takeown and icacls, each run as the process it is.
 
+#include "support/suite.h"
 #include "toolrun.h"
 
 #include "rehearsal/machinediff.h"
@@ -233,5 +234,5 @@ void TestTweakTools::machineJsonCarriesThem()
     QCOMPARE(machine->attributes(u"C:\\x"_s), 0x2020u);
 }
 
-QTEST_GUILESS_MAIN(TestTweakTools)
+KESTRUNE_SUITE(TestTweakTools)
 #include "tst_tweaktools.moc"

@@ -2,6 +2,7 @@
 // kestrune-rehearse preview and its way back: applied to the optimized copy, it gives the machine before.
 
 #include "smallmachine.h"
+#include "support/suite.h"
 #include "toolrun.h"
 #include "undoing.h"
 
@@ -184,5 +185,5 @@ void TestUndo::badMachineIsTold()
     QVERIFY(!result.errors.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestUndo)
+KESTRUNE_SUITE(TestUndo)
 #include "tst_undo.moc"

@@ -4,6 +4,7 @@
 #include "registryvalues.h"
 #include "rehearsing.h"
 #include "smallmachine.h"
+#include "support/suite.h"
 
 #include "rehearsal/machinecopy.h"
 #include "rehearsal/machinediff.h"
@@ -497,5 +498,5 @@ void TestVerify::longListsAreCutInTheText()
     QVERIFY2(text.size() < 20000, qPrintable(QString::number(text.size())));
 }
 
-QTEST_GUILESS_MAIN(TestVerify)
+KESTRUNE_SUITE(TestVerify)
 #include "tst_verify.moc"

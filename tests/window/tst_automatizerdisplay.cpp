@@ -5,7 +5,9 @@
 #include "support/automatizerview.h"
 #include "support/boxes.h"
 #include "support/markingtranslator.h"
+#include "support/suite.h"
 
+#include <QApplication>
 #include <QScopeGuard>
 #include <QTest>
 
@@ -739,5 +741,5 @@ void TestAutomatizerDisplay::endOfRestoreForgetsProgramsAndTweaks()
     QCOMPARE(view.status, u"Restoration finished: Restart your PC!"_s);
 }
 
-QTEST_MAIN(TestAutomatizerDisplay)
+KESTRUNE_WINDOW_SUITE(TestAutomatizerDisplay)
 #include "tst_automatizerdisplay.moc"

@@ -4,8 +4,10 @@
 #include "support/automatizerview.h"
 #include "support/boxes.h"
 #include "support/markingtranslator.h"
+#include "support/suite.h"
 #include "work/settings.h"
 
+#include <QApplication>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -555,5 +557,5 @@ void TestAutomatizerPage::namelessRecordsAreNotRestored()
     QVERIFY(driver.endJob());
 }
 
-QTEST_MAIN(TestAutomatizerPage)
+KESTRUNE_WINDOW_SUITE(TestAutomatizerPage)
 #include "tst_automatizerpage.moc"

@@ -4,8 +4,10 @@
 #include "support/boxes.h"
 #include "support/menus.h"
 #include "support/packageplaces.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QTest>
 
@@ -757,5 +759,5 @@ void TestAutorunPage::refreshGoesBackToTheActiveView()
     QCOMPARE(driver.column(table, 0), QStringList{u"A"_s});
 }
 
-QTEST_MAIN(TestAutorunPage)
+KESTRUNE_WINDOW_SUITE(TestAutorunPage)
 #include "tst_autorunpage.moc"

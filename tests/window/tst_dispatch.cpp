@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the window makes of the lines of the ordinary jobs.
 
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
+#include <QApplication>
 #include <QTest>
 #include <QTextEdit>
 
@@ -282,5 +284,5 @@ void TestDispatch::lineThatHoldsTheTextPrefixElsewhereIsNotAppended()
     QCOMPARE(automatizerText(driver), QString());
 }
 
-QTEST_MAIN(TestDispatch)
+KESTRUNE_WINDOW_SUITE(TestDispatch)
 #include "tst_dispatch.moc"

@@ -5,9 +5,11 @@
 #include "support/boxes.h"
 #include "support/featuresview.h"
 #include "support/menus.h"
+#include "support/suite.h"
 #include "support/tweakprobes.h"
 #include "work/tweaks/tweakcatalogue.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QTest>
 
@@ -672,5 +674,5 @@ void TestFeaturesApply::endOfTheRemovalAloneEndsAnOptimize()
     QCOMPARE(flagAfter(JobTweakReset, 1), 1);
 }
 
-QTEST_MAIN(TestFeaturesApply)
+KESTRUNE_WINDOW_SUITE(TestFeaturesApply)
 #include "tst_featuresapply.moc"

@@ -3,9 +3,11 @@
 
 #include "support/boxes.h"
 #include "support/menus.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 #include "work/tweaks/tweakcatalogue.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
@@ -520,5 +522,5 @@ void TestFeaturesPage::dismWithoutRightsOffersThem()
     QVERIFY(machine.shellStarts().isEmpty());
 }
 
-QTEST_MAIN(TestFeaturesPage)
+KESTRUNE_WINDOW_SUITE(TestFeaturesPage)
 #include "tst_featurespage.moc"

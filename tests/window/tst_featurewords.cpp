@@ -2,9 +2,11 @@
 // What previews call the options of the Features page against what the page itself calls them.
 
 #include "rehearsal/preview/featurewords.h"
+#include "support/suite.h"
 #include "ui_kestrune.h"
 #include "work/tweaks/tweakcatalogue.h"
 
+#include <QApplication>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -63,5 +65,5 @@ void TestFeatureWords::otherNamesHaveNoWords()
         QVERIFY2(featureWords(name).option.isEmpty(), qPrintable(name));
 }
 
-QTEST_MAIN(TestFeatureWords)
+KESTRUNE_WINDOW_SUITE(TestFeatureWords)
 #include "tst_featurewords.moc"

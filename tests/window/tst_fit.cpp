@@ -5,8 +5,10 @@
 // as a dash as wide as an ideograph.
 
 #include "app/standinfonts.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
@@ -243,5 +245,5 @@ void TestFit::everyTextFits()
     QVERIFY2(misfits.isEmpty(), qPrintable(misfits.join(u'\n')));
 }
 
-QTEST_MAIN(TestFit)
+KESTRUNE_WINDOW_SUITE(TestFit)
 #include "tst_fit.moc"

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window's form against its tables: every widget, its place, its settings and its texts, written out by hand.
 
+#include "support/suite.h"
 #include "ui_kestrune.h"
 
+#include <QApplication>
 #include <QMetaProperty>
 #include <QProxyStyle>
 #include <QSignalSpy>
@@ -1860,6 +1862,6 @@ void FormTest::slotsAreBoundByName()
     QCOMPARE(window.calls.join(u' '), u"btnMenuHome btnSvcDisable btnAutomatizerRestore btnTweakApply chkSsd7"_s);
 }
 
-QTEST_MAIN(FormTest)
+KESTRUNE_WINDOW_SUITE(FormTest)
 
 #include "tst_form.moc"

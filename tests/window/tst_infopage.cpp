@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The System information page: the lines of its job, and the report that is made of the job's texts.
 
+#include "support/suite.h"
 #include "support/windowdriver.h"
 #include "work/settings.h"
 
@@ -443,5 +444,5 @@ void TestInfoPage::headingsFollowAChangeOfThemeBetweenTwoReports()
     QCOMPARE(html.count(u"color:"_s + before), 0);
 }
 
-QTEST_MAIN(TestInfoPage)
+KESTRUNE_WINDOW_SUITE(TestInfoPage)
 #include "tst_infopage.moc"

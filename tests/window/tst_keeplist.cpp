@@ -2,11 +2,13 @@
 // The Keep list: what its rows say, what is stored, and what the workers are told.
 
 #include "support/markingtranslator.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
 #include "window/keeplist.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QStandardItemModel>
 #include <QTest>
@@ -451,5 +453,5 @@ void TestKeepList::secondWindowTakesTheListOver()
     QCOMPARE(stored(machine, 1), QVariant(0));
 }
 
-QTEST_MAIN(TestKeepList)
+KESTRUNE_WINDOW_SUITE(TestKeepList)
 #include "tst_keeplist.moc"

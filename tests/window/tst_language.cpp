@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The language at the start and its changes, on a computer whose system speaks Austrian German.
 
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLocale>
 #include <QTest>
@@ -350,5 +352,5 @@ void TestLanguage::aWorkersTextsAreWholeWhileTheLanguageChanges()
     QCOMPARE(strange.load(), 0);
 }
 
-QTEST_MAIN(TestLanguage)
+KESTRUNE_WINDOW_SUITE(TestLanguage)
 #include "tst_language.moc"

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The monitor as the window knows it: its timer, its title and its three options.
 
+#include "support/suite.h"
 #include "support/windowdriver.h"
 #include "work/settings.h"
 
+#include <QApplication>
 #include <QTest>
 #include <QTimer>
 
@@ -307,5 +309,5 @@ void TestMonitorTitle::ticksDuringASlowRunAreSwallowed()
     QTRY_COMPARE_WITH_TIMEOUT(monitorWorker(driver).job, int(JobMonitor), patience);
 }
 
-QTEST_MAIN(TestMonitorTitle)
+KESTRUNE_WINDOW_SUITE(TestMonitorTitle)
 #include "tst_monitortitle.moc"

@@ -2,8 +2,10 @@
 // The menu on the left, the pages behind it, and what keeps a busy program on its page.
 
 #include "support/menus.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QImage>
 #include <QScrollArea>
@@ -550,5 +552,5 @@ void TestNavigation::formPreparedAgainPutsWidthsBack()
     QVERIFY(driver.get<QTabWidget>(u"tabWidget"_s)->tabBar()->isHidden());
 }
 
-QTEST_MAIN(TestNavigation)
+KESTRUNE_WINDOW_SUITE(TestNavigation)
 #include "tst_navigation.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Options page and the About page: what they show, and what they store.
 
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
 #include "window/webhost.h"
@@ -352,5 +353,5 @@ void TestOptionsPage::linksNameTheHostOfTheBuild()
                 .contains(u"https://"_s + webHost() + u"/optimization.html"_s));
 }
 
-QTEST_MAIN(TestOptionsPage)
+KESTRUNE_WINDOW_SUITE(TestOptionsPage)
 #include "tst_optionspage.moc"

@@ -5,8 +5,10 @@
 #include "support/boxes.h"
 #include "support/menus.h"
 #include "support/packageplaces.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
+#include <QApplication>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -701,5 +703,5 @@ void TestPackagesPage::refreshDoesNothing()
     QCOMPARE(driver.status(), u"Packages installed: 1  |  uninstalled: 0  "_s);
 }
 
-QTEST_MAIN(TestPackagesPage)
+KESTRUNE_WINDOW_SUITE(TestPackagesPage)
 #include "tst_packagespage.moc"

@@ -4,10 +4,12 @@
 
 #include "support/boxes.h"
 #include "support/menus.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
 #include "work/command.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
@@ -1025,5 +1027,5 @@ void TestServiceChange::nameIsCutAtItsFirstColon()
     QVERIFY(driver.waitForList());
 }
 
-QTEST_MAIN(TestServiceChange)
+KESTRUNE_WINDOW_SUITE(TestServiceChange)
 #include "tst_servicechange.moc"

@@ -3,9 +3,11 @@
 
 #include "support/boxes.h"
 #include "support/menus.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 #include "work/services/servicecatalogue.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QTest>
 
@@ -789,5 +791,5 @@ void TestServicesPage::uncheckAllOnFeaturesTakesEveryCheck()
         QVERIFY2(!box->isChecked(), qPrintable(box->objectName()));
 }
 
-QTEST_MAIN(TestServicesPage)
+KESTRUNE_WINDOW_SUITE(TestServicesPage)
 #include "tst_servicespage.moc"

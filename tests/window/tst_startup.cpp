@@ -2,10 +2,12 @@
 // How the window comes up, how it asks for administrator rights, and how it ends.
 
 #include "support/boxes.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
 #include "window/elevation.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
@@ -475,5 +477,5 @@ void TestStartup::programThatGivesWayBeforeItsEventLoopIsGone()
     QCOMPARE(runEventLoop(), stillRunning);
 }
 
-QTEST_MAIN(TestStartup)
+KESTRUNE_WINDOW_SUITE(TestStartup)
 #include "tst_startup.moc"

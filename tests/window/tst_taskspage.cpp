@@ -4,10 +4,12 @@
 
 #include "support/boxes.h"
 #include "support/menus.h"
+#include "support/suite.h"
 #include "support/taskexport.h"
 #include "support/windowdriver.h"
 #include "work/settings.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -1086,5 +1088,5 @@ void TestTasksPage::restoreWhileAJobRunsIsIgnored()
     QVERIFY(driver.endJob());
 }
 
-QTEST_MAIN(TestTasksPage)
+KESTRUNE_WINDOW_SUITE(TestTasksPage)
 #include "tst_taskspage.moc"

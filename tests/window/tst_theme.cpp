@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The themes: which one is chosen, the cells of its palette, and what each kind of widget wears.
 
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
 #include <QApplication>
@@ -314,5 +315,5 @@ void TestTheme::themeInForceIsPutOnAgainUnchanged()
     QCOMPARE(driver.button(u"btnSvcDisable"_s)->styleSheet(), darkStyles().button);
 }
 
-QTEST_MAIN(TestTheme)
+KESTRUNE_WINDOW_SUITE(TestTheme)
 #include "tst_theme.moc"

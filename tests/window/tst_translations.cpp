@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The texts of all languages against those of the sources, which lupdate reads out of them.
 
+#include "support/suite.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QHash>
@@ -287,5 +289,5 @@ void TestTranslations::qtFindsTheFileOfEveryCountry()
     QCOMPARE(translator.translate("Kestrune", "Yes"), yes);
 }
 
-QTEST_GUILESS_MAIN(TestTranslations)
+KESTRUNE_SUITE(TestTranslations)
 #include "tst_translations.moc"

@@ -2,8 +2,10 @@
 // The check for a newer version, against a small server that stands in for the program's host.
 
 #include "support/boxes.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDate>
 #include <QDesktopServices>
@@ -372,5 +374,5 @@ void TestUpdateCheck::uncheckingTheBoxChecksNothing()
     QVERIFY(!pc.read(settingsKey, u"LastCheckUpdate"_s).isValid());
 }
 
-QTEST_MAIN(TestUpdateCheck)
+KESTRUNE_WINDOW_SUITE(TestUpdateCheck)
 #include "tst_updatecheck.moc"

@@ -2,6 +2,7 @@
 // The values of the tweaks, written to the real registry: every row, below a key of the tests.
 
 #include "nativecontract.h"
+#include "support/suite.h"
 
 #include "work/tweaks/tweakvalues.h"
 
@@ -95,5 +96,5 @@ void TestNativeTweaks::everyRowIsWritten()
         QCOMPARE(contract_.readRaw(row->key, row->name), expectedValue(*row, apply));
 }
 
-QTEST_GUILESS_MAIN(TestNativeTweaks)
+KESTRUNE_SUITE(TestNativeTweaks)
 #include "tst_nativetweaks.moc"

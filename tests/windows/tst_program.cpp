@@ -2,6 +2,9 @@
 // A program as its user has it: started, seen, closed. The environment names it (KESTRUNE_TRIAL_PROGRAM) and where the
 // picture of the screen goes (KESTRUNE_TRIAL_PICTURE).
 
+#include "support/suite.h"
+
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -167,5 +170,5 @@ void TestProgram::startTimeBesideNotepads()
     }
 }
 
-QTEST_MAIN(TestProgram)
+KESTRUNE_WINDOW_SUITE(TestProgram)
 #include "tst_program.moc"

@@ -7,10 +7,12 @@
 #include "support/boxes.h"
 #include "support/listpages.h"
 #include "support/packageplaces.h"
+#include "support/suite.h"
 #include "windows/standin/standinkeys.h"
 #include "windows/trialpc.h"
 #include "work/settings.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QProcess>
 #include <QTest>
@@ -363,5 +365,5 @@ void TestRealAutomatizer::restoreBringsItBack()
     QCOMPARE(commandsOf(u"icacls"_s), QList<QStringList>(1, {searchProgram(u".exe"_s), u"/reset"_s}));
 }
 
-QTEST_MAIN(TestRealAutomatizer)
+KESTRUNE_WINDOW_SUITE(TestRealAutomatizer)
 #include "tst_realautomatizer.moc"

@@ -3,8 +3,10 @@
 
 #include "platform/platform.h"
 #include "support/featuresview.h"
+#include "support/suite.h"
 #include "windows/trialpc.h"
 
+#include <QApplication>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -118,5 +120,5 @@ void TestRealFeatures::uncheckedBoxesAreTakenBack()
     clickAndApply(false);
 }
 
-QTEST_MAIN(TestRealFeatures)
+KESTRUNE_WINDOW_SUITE(TestRealFeatures)
 #include "tst_realfeatures.moc"

@@ -6,10 +6,12 @@
 #include "support/listpages.h"
 #include "support/menus.h"
 #include "support/packageplaces.h"
+#include "support/suite.h"
 #include "windows/standin/standinkeys.h"
 #include "windows/trialpc.h"
 #include "work/settings.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QTest>
 
@@ -278,5 +280,5 @@ void TestRealLists::programsAreSwitchedOffAndOn()
     QCOMPARE(commandsOf(u"taskkill"_s), QList<QStringList>());
 }
 
-QTEST_MAIN(TestRealLists)
+KESTRUNE_WINDOW_SUITE(TestRealLists)
 #include "tst_reallists.moc"

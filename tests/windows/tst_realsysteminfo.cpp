@@ -2,9 +2,11 @@
 // The System information page and the monitor on a real system, held against what its own tool for WMI tells.
 
 #include "platform/platform.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 #include "windows/trialpc.h"
 
+#include <QApplication>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QScreen>
@@ -201,5 +203,5 @@ void TestRealSystemInfo::monitorTellsTheLoad()
     }
 }
 
-QTEST_MAIN(TestRealSystemInfo)
+KESTRUNE_WINDOW_SUITE(TestRealSystemInfo)
 #include "tst_realsysteminfo.moc"

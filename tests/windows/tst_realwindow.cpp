@@ -4,10 +4,12 @@
 #include "platform/platform.h"
 #include "support/boxes.h"
 #include "support/menus.h"
+#include "support/suite.h"
 #include "support/windowdriver.h"
 #include "windows/standin/standinkeys.h"
 #include "windows/trialpc.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QTest>
 
@@ -217,5 +219,5 @@ void TestRealWindow::speaksFrench()
     platform().openKey(settingsKey)->setValue(u"lang"_s, u"en"_s);
 }
 
-QTEST_MAIN(TestRealWindow)
+KESTRUNE_WINDOW_SUITE(TestRealWindow)
 #include "tst_realwindow.moc"

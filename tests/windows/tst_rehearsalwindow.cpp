@@ -2,6 +2,7 @@
 // kestrune-rehearse gui: the window opens on a rehearsal machine, is seen, and is closed.
 
 #include "rehearsal/machinesource.h"
+#include "support/suite.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -86,5 +87,5 @@ void TestRehearsalWindow::opensOnTheMachineAndIsClosed()
     QCOMPARE(rehearsalWindow(), nullptr);
 }
 
-QTEST_GUILESS_MAIN(TestRehearsalWindow)
+KESTRUNE_SUITE(TestRehearsalWindow)
 #include "tst_rehearsalwindow.moc"

@@ -2,6 +2,7 @@
 // The seam on the Windows that the test runs on, beside the registry.
 
 #include "platform/windows/windowsplatform.h"
+#include "support/suite.h"
 #include "work/command.h"
 #include "work/workthread.h"
 
@@ -388,5 +389,5 @@ void TestWindowsPlatform::shellStartsAProgramWithParameters()
     QTRY_VERIFY_WITH_TIMEOUT(QFile::remove(file) || !QFile::exists(file), 20000);
 }
 
-QTEST_GUILESS_MAIN(TestWindowsPlatform)
+KESTRUNE_SUITE(TestWindowsPlatform)
 #include "tst_windowsplatform.moc"

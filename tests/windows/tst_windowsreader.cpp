@@ -3,6 +3,7 @@
 
 #include "nativecontract.h"
 #include "platform/windows/windowsreader.h"
+#include "support/suite.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -188,5 +189,5 @@ void TestWindowsReader::captureChangesNoKey()
     QVERIFY2(changed.isEmpty(), qPrintable(changed.join(u'\n')));
 }
 
-QTEST_GUILESS_MAIN(TestWindowsReader)
+KESTRUNE_SUITE(TestWindowsReader)
 #include "tst_windowsreader.moc"

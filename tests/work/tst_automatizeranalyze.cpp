@@ -3,6 +3,7 @@
 
 #include "automatizerruns.h"
 #include "rehearsal/machinediff.h"
+#include "support/suite.h"
 #include "work/automatizer/encoder.h"
 
 #include <QTest>
@@ -479,5 +480,5 @@ void TestAutomatizerAnalyze::theEncoderNeedsItsFile()
     QCOMPARE(encoderServerFound, 0);
 }
 
-QTEST_GUILESS_MAIN(TestAutomatizerAnalyze)
+KESTRUNE_SUITE(TestAutomatizerAnalyze)
 #include "tst_automatizeranalyze.moc"

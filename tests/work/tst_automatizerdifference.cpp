@@ -3,6 +3,7 @@
 // they have run on is compared with one that is changed by hand.
 
 #include "rehearsal/taskdocument.h"
+#include "support/suite.h"
 #include "tweakruns.h"
 #include "work/automatizer/encoder.h"
 
@@ -266,5 +267,5 @@ void TestAutomatizerDifference::aSecondRunBringsBackWhatIsKept()
     QVERIFY(machine.names(packageRecordsKey).contains(u"Microsoft.XboxGamingOverlay"_s));
 }
 
-QTEST_GUILESS_MAIN(TestAutomatizerDifference)
+KESTRUNE_SUITE(TestAutomatizerDifference)
 #include "tst_automatizerdifference.moc"

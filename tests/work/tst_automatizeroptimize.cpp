@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of Optimize: its phases, their lines, pauses, commands and records.
 
+#include "support/suite.h"
 #include "tweakruns.h"
 #include "work/automatizer/encoder.h"
 #include "work/command.h"
@@ -688,5 +689,5 @@ void TestAutomatizerOptimize::featuresStayRunningForTheWindow()
     QCOMPARE(linesOf(worker, JobAutomatizerOptimize), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestAutomatizerOptimize)
+KESTRUNE_SUITE(TestAutomatizerOptimize)
 #include "tst_automatizeroptimize.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of Restore: what comes back, and what doesn't.
 
+#include "support/suite.h"
 #include "tweakruns.h"
 #include "work/automatizer/encoder.h"
 #include "work/settings.h"
@@ -376,5 +377,5 @@ void TestAutomatizerRestore::theCloseForgetsAutorunsAndTweaks()
         QCOMPARE(recordedNames(QString::fromLatin1(group)), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestAutomatizerRestore)
+KESTRUNE_SUITE(TestAutomatizerRestore)
 #include "tst_automatizerrestore.moc"

@@ -3,6 +3,7 @@
 
 #include "joblines.h"
 #include "support/packageplaces.h"
+#include "support/suite.h"
 
 #include <QTest>
 
@@ -227,5 +228,5 @@ void TestAutorunList::nothingIsChanged()
     QCOMPARE(machine.names(autorunRecordsKey), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestAutorunList)
+KESTRUNE_SUITE(TestAutorunList)
 #include "tst_autorunlist.moc"

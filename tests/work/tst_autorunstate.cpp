@@ -3,6 +3,7 @@
 
 #include "joblines.h"
 #include "support/packageplaces.h"
+#include "support/suite.h"
 #include "work/autorun/autorun.h"
 
 #include <QTest>
@@ -281,5 +282,5 @@ void TestAutorunState::taskLeavesTheListAndComesBack()
     QCOMPARE(listed(), QStringList{terminalTaskKey + u'='});
 }
 
-QTEST_GUILESS_MAIN(TestAutorunState)
+KESTRUNE_SUITE(TestAutorunState)
 #include "tst_autorunstate.moc"

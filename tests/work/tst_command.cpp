@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of how stock tools are run, with real processes.
 
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/command.h"
 
@@ -396,5 +397,5 @@ void TestCommand::waitingForOutputEndsWhenThereIsSome()
     QCOMPARE(command.readAllStandardOutput(), "text"_ba);
 }
 
-QTEST_GUILESS_MAIN(TestCommand)
+KESTRUNE_SUITE(TestCommand)
 #include "tst_command.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of which graphics card counts.
 
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/displayadapter.h"
 
@@ -50,5 +51,5 @@ void TestDisplayAdapter::withoutAdaptersThereIsNone()
     QVERIFY(!firstDisplayAdapter());
 }
 
-QTEST_GUILESS_MAIN(TestDisplayAdapter)
+KESTRUNE_SUITE(TestDisplayAdapter)
 #include "tst_displayadapter.moc"

@@ -2,6 +2,7 @@
 // Tests of the error log.
 
 #include "joblines.h"
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/errorlog.h"
 
@@ -160,5 +161,5 @@ void TestErrorLog::twoThreadsAtOnceGiveWholeLines()
     }
 }
 
-QTEST_GUILESS_MAIN(TestErrorLog)
+KESTRUNE_SUITE(TestErrorLog)
 #include "tst_errorlog.moc"

@@ -3,6 +3,7 @@
 
 #include "fakeplatform.h"
 #include "joblines.h"
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/sysinfo/processorload.h"
 
@@ -328,5 +329,5 @@ void TestMonitor::runsBesideAListingJob()
         QVERIFY(arguments.first().toString().startsWith(u"cpu "_s));
 }
 
-QTEST_GUILESS_MAIN(TestMonitor)
+KESTRUNE_SUITE(TestMonitor)
 #include "tst_monitor.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of what the program knows about packaged applications.
 
+#include "support/suite.h"
 #include "work/packages/packagecatalogue.h"
 
 #include <QTest>
@@ -111,5 +112,5 @@ void TestPackageCatalogue::oneDrivesRowHasItsName()
     QCOMPARE(oneDriveName, u"MS OneDrive"_s);
 }
 
-QTEST_APPLESS_MAIN(TestPackageCatalogue)
+KESTRUNE_SUITE(TestPackageCatalogue)
 #include "tst_packagecatalogue.moc"

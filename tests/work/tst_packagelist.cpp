@@ -3,6 +3,7 @@
 
 #include "joblines.h"
 #include "support/packageplaces.h"
+#include "support/suite.h"
 #include "work/packages/packagecatalogue.h"
 
 #include <QTest>
@@ -631,5 +632,5 @@ void TestPackageList::thousandsOfPackagesAreListed()
     QCOMPARE(namesOf(worker.packages), QStringList(1000, u"Microsoft.Todos"_s));
 }
 
-QTEST_GUILESS_MAIN(TestPackageList)
+KESTRUNE_SUITE(TestPackageList)
 #include "tst_packagelist.moc"

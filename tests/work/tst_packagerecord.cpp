@@ -2,6 +2,7 @@
 // Tests of the record of removed packages, as it is kept from the lines of a job.
 
 #include "support/packageplaces.h"
+#include "support/suite.h"
 #include "work/packages/packagerecord.h"
 
 #include <QTest>
@@ -107,5 +108,5 @@ void TestPackageRecord::lineOfTheOldXboxAppIsRecordedAsItReads()
              QStringList{u"Microsoft.XboxApp (Old Xbox App, no longer supported!) "_s});
 }
 
-QTEST_GUILESS_MAIN(TestPackageRecord)
+KESTRUNE_SUITE(TestPackageRecord)
 #include "tst_packagerecord.moc"

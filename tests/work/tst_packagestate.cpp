@@ -3,6 +3,7 @@
 
 #include "joblines.h"
 #include "support/packageplaces.h"
+#include "support/suite.h"
 #include "work/command.h"
 
 #include <QTest>
@@ -557,5 +558,5 @@ void TestPackageState::nothingIsLogged()
     QCOMPARE(machine.errorLog(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestPackageState)
+KESTRUNE_SUITE(TestPackageState)
 #include "tst_packagestate.moc"

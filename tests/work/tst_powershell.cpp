@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of where PowerShell is looked for.
 
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/command.h"
 #include "work/workthread.h"
@@ -76,5 +77,5 @@ void TestPowerShell::withoutWindirThePathStartsAtTheRoot()
     QCOMPARE(worker.powerShellPath, u"/system32/WindowsPowerShell/v1.0/powershell.exe"_s);
 }
 
-QTEST_GUILESS_MAIN(TestPowerShell)
+KESTRUNE_SUITE(TestPowerShell)
 #include "tst_powershell.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of what the program knows about services and tasks: each list stands here a second time, as one text.
 
+#include "support/suite.h"
 #include "work/services/servicecatalogue.h"
 #include "work/tasks/taskcatalogue.h"
 
@@ -247,5 +248,5 @@ void TestServiceCatalogue::givingUpAFeatureAddsNothingByItself()
     QVERIFY(!worker.nonVitalServices.contains(u"Spooler"_s));
 }
 
-QTEST_GUILESS_MAIN(TestServiceCatalogue)
+KESTRUNE_SUITE(TestServiceCatalogue)
 #include "tst_servicecatalogue.moc"

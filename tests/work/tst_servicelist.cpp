@@ -2,6 +2,7 @@
 // Tests of the list of services.
 
 #include "joblines.h"
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/command.h"
 
@@ -554,5 +555,5 @@ void TestServiceList::theListingChangesNothingButTheBackup()
     QVERIFY(QFile::exists(machine.platform().programFolder() + u"/backup_svc/StartMode.reg"_s));
 }
 
-QTEST_GUILESS_MAIN(TestServiceList)
+KESTRUNE_SUITE(TestServiceList)
 #include "tst_servicelist.moc"

@@ -2,6 +2,7 @@
 // Tests of disabling and enabling services.
 
 #include "joblines.h"
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/command.h"
 
@@ -686,5 +687,5 @@ void TestServiceState::nothingIsLoggedUnlessTheLogIsOn()
     QVERIFY(!QFile::exists(machine.platform().programFolder() + u"/log.txt"_s));
 }
 
-QTEST_GUILESS_MAIN(TestServiceState)
+KESTRUNE_SUITE(TestServiceState)
 #include "tst_servicestate.moc"

@@ -2,6 +2,7 @@
 // Tests of registry strings that stand for a string in a DLL.
 
 #include "fakeplatform.h"
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/workthread.h"
 
@@ -301,5 +302,5 @@ void TestServiceText::nothingIsLoggedUnlessTheLogIsOn()
     QCOMPARE(machine.errorLog(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestServiceText)
+KESTRUNE_SUITE(TestServiceText)
 #include "tst_servicetext.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of the program's settings and records.
 
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/settings.h"
 
@@ -171,5 +172,5 @@ void TestSettings::recordsAreKeptByAProcessThatIsNotElevated()
     QCOMPARE(recordedNames(u"SVC"_s), QStringList{u"DiagTrack"_s});
 }
 
-QTEST_GUILESS_MAIN(TestSettings)
+KESTRUNE_SUITE(TestSettings)
 #include "tst_settings.moc"

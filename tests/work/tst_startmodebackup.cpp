@@ -4,6 +4,7 @@
 #include "fakeplatform.h"
 #include "joblines.h"
 #include "platform/simulated/regfile.h"
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/services/startmodebackup.h"
 
@@ -359,5 +360,5 @@ void TestStartModeBackup::theWindowsRegistryEditorWouldReadItBack()
     QCOMPARE(machine.read(servicesKey + u"\\Appinfo"_s, u"Start"_s), QVariant(2));
 }
 
-QTEST_GUILESS_MAIN(TestStartModeBackup)
+KESTRUNE_SUITE(TestStartModeBackup)
 #include "tst_startmodebackup.moc"

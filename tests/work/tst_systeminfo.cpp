@@ -3,6 +3,7 @@
 
 #include "fakeplatform.h"
 #include "joblines.h"
+#include "support/suite.h"
 #include "support/testmachine.h"
 
 #include <QTest>
@@ -820,5 +821,5 @@ void TestSystemInfo::theBatteryIsLeftAlone()
     QCOMPARE(worker.batteryCharge, u"-1"_s);
 }
 
-QTEST_GUILESS_MAIN(TestSystemInfo)
+KESTRUNE_SUITE(TestSystemInfo)
 #include "tst_systeminfo.moc"

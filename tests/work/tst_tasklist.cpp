@@ -2,6 +2,7 @@
 // Tests of the list of scheduled tasks.
 
 #include "joblines.h"
+#include "support/suite.h"
 #include "support/taskexport.h"
 #include "support/testmachine.h"
 #include "work/command.h"
@@ -690,5 +691,5 @@ void TestTaskList::nothingIsLoggedOfAListingThatWorked()
     QCOMPARE(machine.errorLog(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestTaskList)
+KESTRUNE_SUITE(TestTaskList)
 #include "tst_tasklist.moc"

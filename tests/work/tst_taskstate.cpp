@@ -2,6 +2,7 @@
 // Tests of disabling and enabling scheduled tasks.
 
 #include "joblines.h"
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/command.h"
 #include "work/settings.h"
@@ -428,5 +429,5 @@ void TestTaskState::nothingIsLoggedUnlessTheLogIsOn()
     QVERIFY(!QFile::exists(machine.platform().programFolder() + u"/log.txt"_s));
 }
 
-QTEST_GUILESS_MAIN(TestTaskState)
+KESTRUNE_SUITE(TestTaskState)
 #include "tst_taskstate.moc"

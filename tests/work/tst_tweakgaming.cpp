@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The gaming group.
 
+#include "support/suite.h"
 #include "tweaktrial.h"
 
 #include "work/command.h"
@@ -248,5 +249,5 @@ void TestTweakGaming::withoutRightsTheUsersValuesAreWrittenAlone()
     COMPARE_OUTCOMES(trial.outcome(), (Outcome{.changes = changes, .pauses = {300}, .needReboot = 1}));
 }
 
-QTEST_GUILESS_MAIN(TestTweakGaming)
+KESTRUNE_SUITE(TestTweakGaming)
 #include "tst_tweakgaming.moc"

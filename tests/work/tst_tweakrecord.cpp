@@ -2,6 +2,7 @@
 // Tests of the boxes of the Features page as a table, and of what is stored of them, above all after a run of the
 // Automatizer.
 
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/tweaks/tweakcatalogue.h"
 #include "work/tweaks/tweakrecord.h"
@@ -257,5 +258,5 @@ void TestTweakRecord::optimizeAfterARestoreStillSaysFalse()
     QCOMPARE(machine.read(tweakKey, u"chkSsd1"_s), QVariant(u"false"_s));
 }
 
-QTEST_GUILESS_MAIN(TestTweakRecord)
+KESTRUNE_SUITE(TestTweakRecord)
 #include "tst_tweakrecord.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The SSD group, but for the walk.
 
+#include "support/suite.h"
 #include "tweaktrial.h"
 
 #include "fakeplatform.h"
@@ -232,5 +233,5 @@ void TestTweakSsd::refusedWritesAreSilent()
     COMPARE_OUTCOMES(trial.outcome(), Outcome{.needReboot = 1});
 }
 
-QTEST_GUILESS_MAIN(TestTweakSsd)
+KESTRUNE_SUITE(TestTweakSsd)
 #include "tst_tweakssd.moc"

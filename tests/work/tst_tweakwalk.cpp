@@ -3,6 +3,7 @@
 
 #include "fakeplatform.h"
 #include "joblines.h"
+#include "support/suite.h"
 #include "support/testmachine.h"
 
 #include <QDir>
@@ -266,5 +267,5 @@ void TestTweakWalk::whatWasDoneByThenStays()
     QCOMPARE(Machine::open(machine.folder())->attributes(file), notIndexed);
 }
 
-QTEST_GUILESS_MAIN(TestTweakWalk)
+KESTRUNE_SUITE(TestTweakWalk)
 #include "tst_tweakwalk.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Windows group, the telemetry values among it.
 
+#include "support/suite.h"
 #include "tweaktrial.h"
 
 #include "work/command.h"
@@ -304,5 +305,5 @@ void TestTweakWindows::cloudTasksThatAreMissingGoUnnoticed()
     QCOMPARE(trial.machine.commands().constLast().exitCode, 1);
 }
 
-QTEST_GUILESS_MAIN(TestTweakWindows)
+KESTRUNE_SUITE(TestTweakWindows)
 #include "tst_tweakwindows.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of which Windows this is.
 
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/windowsname.h"
 
@@ -97,5 +98,5 @@ void TestWindowsName::aMissingBuildLeavesTheName()
     QCOMPARE(found.build, u"unknown"_s);
 }
 
-QTEST_GUILESS_MAIN(TestWindowsName)
+KESTRUNE_SUITE(TestWindowsName)
 #include "tst_windowsname.moc"

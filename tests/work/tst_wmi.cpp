@@ -2,6 +2,7 @@
 // Tests of the WMI query and of the text that it gives.
 
 #include "fakeplatform.h"
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/wmi.h"
 
@@ -230,5 +231,5 @@ void TestWmi::twoThreadsMayAskAtOnce()
     QCOMPARE(twos, QStringList(50, u"\r\nP=two"_s));
 }
 
-QTEST_GUILESS_MAIN(TestWmi)
+KESTRUNE_SUITE(TestWmi)
 #include "tst_wmi.moc"

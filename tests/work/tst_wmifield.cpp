@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of how one property is cut out of a WMI answer, and of the size of the memory.
 
+#include "support/suite.h"
 #include "work/sysinfo/memorysize.h"
 #include "work/sysinfo/wmifield.h"
 
@@ -117,5 +118,5 @@ void TestWmiField::memoryThatIsNoNumberIsUnknown()
     QCOMPARE(memoryText(memoryUnits(bytes)), u"unknown"_s);
 }
 
-QTEST_GUILESS_MAIN(TestWmiField)
+KESTRUNE_SUITE(TestWmiField)
 #include "tst_wmifield.moc"

@@ -3,6 +3,7 @@
 
 #include "fakeplatform.h"
 #include "joblines.h"
+#include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/command.h"
 
@@ -522,5 +523,5 @@ void TestWorkThread::aThreadThatDoesNotAnswerIsEndedByForce()
     QCOMPARE(lines.all().size(), 3);
 }
 
-QTEST_GUILESS_MAIN(TestWorkThread)
+KESTRUNE_SUITE(TestWorkThread)
 #include "tst_workthread.moc"

@@ -3,6 +3,7 @@
 
 #include "rehearsal/machinecopy.h"
 #include "rehearsal/machinediff.h"
+#include "support/suite.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -99,5 +100,5 @@ void TestTour::unwritableFolderIsTold()
     QVERIFY2(result.errors.contains(u"can't be made"_s), qPrintable(result.errors));
 }
 
-QTEST_GUILESS_MAIN(TestTour)
+KESTRUNE_SUITE(TestTour)
 #include "tst_tour.moc"
