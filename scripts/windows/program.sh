@@ -19,6 +19,7 @@ build_make() {
 
 inside_build_programs() {
     export CCACHE_DIR=$inside_making/ccache CCACHE_MAXSIZE=2G
+    export CCACHE_DEPEND=1 CCACHE_SLOPPINESS=pch_defines,time_macros # as in ./dev
     [[ -e $inside_build/build.ninja ]] || configure "$inside_source" "$inside_build"
     cmake --build "$inside_build" --parallel "$jobs" --target "${programs[@]}" wine_tests
     # The first run of a test program must not find the tools of another version beside it.
