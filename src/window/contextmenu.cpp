@@ -3,7 +3,7 @@
 
 #include "kestrune.h"
 
-#include "themestyles.h"
+#include "theme.h"
 
 #include <QCursor>
 #include <QMenu>

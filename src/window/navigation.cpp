@@ -5,7 +5,6 @@
 
 #include "platform/platform.h"
 #include "theme.h"
-#include "themestyles.h"
 #include "webhost.h"
 
 #include <QCursor>

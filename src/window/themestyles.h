@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The style sheets of the themes.
+// The look of the themes that are the program's own: palettes and style sheets.
 
 #pragma once
 
-#include <QColor>
+#include <QPalette>
 #include <QString>
+
+QPalette darkPalette();
+QPalette lightPalette();
 
 /** Colours of the buttons below a page's list. */
 struct ButtonColors
@@ -36,8 +39,3 @@ struct MenuColors
     QColor hover;
 };
 QString menuStyle(const MenuColors &colors);
-
-/** Which of the two popup menus; in the light theme they differ. */
-enum class PopupMenu { Programs, Context };
-/** The style of a popup menu by the theme that is stored; empty for the system's own. */
-QString popupMenuStyle(PopupMenu menu);

@@ -51,8 +51,6 @@ public:
      * @return false when the thread still runs: it must not be deleted then
      */
     bool endJob();
-    /** For a job that has begun to end in good order: being ended by force on its way out would end the process. */
-    static void refuseTermination() { setTerminationEnabled(false); }
 
     int job = JobSvcMakeList;
 
