@@ -244,9 +244,7 @@ void Kestrune::setServiceStart(const QString &argument)
             names.append(nameFromToolTip(item->toolTip()));
     }
     for (const QString &name : names) {
-        Command sc;
-        sc.start(u"sc"_s, {u"config"_s, name, argument});
-        sc.waitForFinished();
+        runTool(u"sc"_s, {u"config"_s, name, argument});
         refreshPage();
     }
 }

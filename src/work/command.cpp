@@ -98,7 +98,16 @@ void Command::close()
     process_.close();
 }
 
-bool startListing(Command &command, const QString &routine, const QString &tool, const QStringList &arguments)
+int runTool(const QString &program, const QStringList &arguments)
+{
+    Command command;
+    command.start(program, arguments);
+    command.waitForFinished();
+    command.close();
+    return command.exitCode();
+}
+
+bool startLogged(Command &command, const QString &routine, const QString &tool, const QStringList &arguments)
 {
     const QString prefix = routine + u": "_s + tool + u" process error"_s;
     command.start(tool, arguments);

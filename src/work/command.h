@@ -58,8 +58,11 @@ private:
     mutable std::optional<int> exitCode_;
 };
 
+/** Runs a tool to its end, or ends it after the time limit. The exit code; of one that had to be ended endedByForce. */
+int runTool(const QString &program, const QStringList &arguments);
+
 /**
- * Starts a tool whose output a routine is going to read. False where it can't be started; the reason is in the log
- * then, and the command is closed.
+ * Starts a tool for a routine that looks whether it could be started. False where it couldn't; the reason is in the log
+ * then, in the routine's name, and the command is closed.
  */
-bool startListing(Command &command, const QString &routine, const QString &tool, const QStringList &arguments);
+bool startLogged(Command &command, const QString &routine, const QString &tool, const QStringList &arguments);

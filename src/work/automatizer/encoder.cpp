@@ -58,10 +58,7 @@ void WorkThread::optimizeEncoder()
     QFile file(configFile());
     if (!file.exists() || !file.open(QIODevice::ReadWrite))
         return;
-    Command taskkill;
-    taskkill.start(u"taskkill"_s, {u"/im"_s, u"RTSS.exe"_s, u"/f"_s, u"/t"_s});
-    taskkill.waitForFinished();
-    taskkill.close();
+    runTool(u"taskkill"_s, {u"/im"_s, u"RTSS.exe"_s, u"/f"_s, u"/t"_s});
 
     const QByteArray config = withEncoderOff(file.readAll());
     file.seek(0);

@@ -16,13 +16,6 @@ bool isPackagedTaskExactly(const QString &name)
     return name == "StartTerminalOnLoginTask"_L1 || name == "Xbox.App.Tasks.FullTrustComponent"_L1;
 }
 
-void endProgram(const QString &program)
-{
-    Command taskkill;
-    taskkill.start(u"taskkill"_s, {u"/im"_s, program, u"/f"_s, u"/t"_s});
-    taskkill.waitForFinished();
-}
-
 /** Switches the entry off and records it. Gives the name by which it is told. */
 QString switchOff(const AutorunEntry &entry)
 {
@@ -33,7 +26,7 @@ QString switchOff(const AutorunEntry &entry)
     disablePackagedTask(entry);
     // The process would have to bear the task's name.
     const QString program = QString(entry.name).remove(u".exe"_s) + u".exe"_s;
-    endProgram(program);
+    runTool(u"taskkill"_s, {u"/im"_s, program, u"/f"_s, u"/t"_s});
     return program;
 }
 

@@ -18,14 +18,10 @@ QString schtasksPath(const QString &path)
     return path.contains(u'\\') ? u'\\' + path : path;
 }
 
-/** The exit code of schtasks; that of one that had to be ended is a failure. */
+/** The exit code of schtasks. */
 int changeTask(const QString &path, const QString &change)
 {
-    Command schtasks;
-    schtasks.start(u"schtasks"_s, {u"/CHANGE"_s, u"/TN"_s, path, change});
-    schtasks.waitForFinished();
-    schtasks.close();
-    return schtasks.exitCode();
+    return runTool(u"schtasks"_s, {u"/CHANGE"_s, u"/TN"_s, path, change});
 }
 
 } // namespace

@@ -57,7 +57,7 @@ void WorkThread::SvcMakeList()
     WriteStartModeBackup();
 
     Command sc;
-    if (!startListing(sc, u"SvcMakeList"_s, u"sc"_s, {u"query"_s, u"state="_s, u"all"_s}))
+    if (!startLogged(sc, u"SvcMakeList"_s, u"sc"_s, {u"query"_s, u"state="_s, u"all"_s}))
         return;
     sc.waitForFinished();
     sc.waitForReadyRead();

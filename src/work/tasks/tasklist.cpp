@@ -51,7 +51,7 @@ void WorkThread::TaskMakeList()
 
     Command schtasks;
     schtasks.setStandardOutputFile(fileName);
-    if (!startListing(schtasks, u"TaskMakeList"_s, u"schtasks"_s, {u"/xml"_s}))
+    if (!startLogged(schtasks, u"TaskMakeList"_s, u"schtasks"_s, {u"/xml"_s}))
         return;
     schtasks.waitForFinished();
     appendToExport(fileName, schtasks.readAllStandardOutput());

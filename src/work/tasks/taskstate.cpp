@@ -18,8 +18,8 @@ void WorkThread::TaskStopOrStart(const QList<TaskRow> &list)
     for (qsizetype i = 0; i < list.size(); ++i) {
         const TaskRow &task = list.at(i);
         Command schtasks;
-        if (!startListing(schtasks, u"TaskStopOrStart"_s, u"schtasks"_s,
-                          {u"/CHANGE"_s, u"/TN"_s, task.path, task.disabled == 1 ? u"/DISABLE"_s : u"/ENABLE"_s}))
+        if (!startLogged(schtasks, u"TaskStopOrStart"_s, u"schtasks"_s,
+                         {u"/CHANGE"_s, u"/TN"_s, task.path, task.disabled == 1 ? u"/DISABLE"_s : u"/ENABLE"_s}))
             continue;
         schtasks.waitForFinished();
         pauseFor(settleDelay);
