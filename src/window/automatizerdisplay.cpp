@@ -8,6 +8,7 @@
 #include "rowtext.h"
 #include "work/automatizer/restorelists.h"
 #include "work/tweaks/tweakrecord.h"
+#include "work/windowsname.h"
 
 using namespace Qt::StringLiterals;
 
@@ -79,14 +80,13 @@ void Kestrune::closeAnalyze()
 
 void Kestrune::logImprovements()
 {
-    const bool onBattery = workThread->batteryCharge != "-1"_L1;
+    const bool onBattery = workThread->hasBattery();
     if (onBattery)
         ui.txtAutomatizer->append(
             tr("Features: Battery detected! Some optimizations will not be applied to maintain battery life"));
     if (ui.chkAutomatizerTweak->isChecked()) {
         QString text = tr("Features: %1 improvements can be applied");
-        ui.txtAutomatizer->append(
-            text.replace(u"%1"_s, improvementCount(workThread->winName.contains("10"_L1), onBattery)));
+        ui.txtAutomatizer->append(text.replace(u"%1"_s, improvementCount(isWindows10(workThread->winName), onBattery)));
     }
 }
 

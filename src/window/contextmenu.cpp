@@ -4,6 +4,7 @@
 #include "kestrune.h"
 
 #include "theme.h"
+#include "work/tweaks/tweakcatalogue.h"
 
 #include <QCursor>
 #include <QMenu>
@@ -54,8 +55,8 @@ void Kestrune::uncheckAll()
         setChecks(ui.tblPackages, Qt::Checked, Qt::Unchecked);
         break;
     case Features:
-        for (QCheckBox *box : ui.scrollArea->findChildren<QCheckBox *>())
-            box->setChecked(false);
+        for (const TweakBox &box : tweakBoxes())
+            checkBoxOf(box)->setChecked(false);
         break;
     default:
         break;
@@ -72,11 +73,9 @@ void Kestrune::checkAll()
         setChecks(ui.tblPackages, Qt::Unchecked, Qt::Checked);
         break;
     case Features:
-        for (QCheckBox *box : ui.scrollArea->findChildren<QCheckBox *>()) {
-            // These two are features of Windows 11.
-            const bool newer = box == ui.chkGaming8 || box == ui.chkWindows5;
-            if (!newer || workThread->winName.contains("11"_L1))
-                box->setChecked(true);
+        for (const TweakBox &box : tweakBoxes()) {
+            if (holds(box.check, *workThread))
+                checkBoxOf(box)->setChecked(true);
         }
         break;
     default:

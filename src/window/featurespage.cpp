@@ -10,6 +10,7 @@
 #include "work/settings.h"
 #include "work/tweaks/tweakcatalogue.h"
 #include "work/tweaks/tweakrecord.h"
+#include "work/windowsname.h"
 
 #include <QFileInfo>
 
@@ -33,9 +34,11 @@ QString withOneDecimal(const QString &number)
 
 void Kestrune::showFeaturesPage()
 {
-    if (workThread->winName.contains("10"_L1)) {
-        ui.chkWindows5->setEnabled(false);
-        ui.chkGaming8->setEnabled(false);
+    if (isWindows10(workThread->winName)) {
+        for (const TweakBox &box : tweakBoxes()) {
+            if (box.check == When::Windows11)
+                checkBoxOf(box)->setEnabled(false);
+        }
         ui.chkWindows10->setText(ui.chkWindows10->text().replace("SearchHost.exe"_L1, "SearchApp.exe"_L1));
     }
     // In this order: the first showing marks nothing. A later one finds the marks connected, so that from then on all
@@ -125,11 +128,9 @@ void Kestrune::on_btnTweakApply_clicked()
 
 void Kestrune::applyTouchedTweaks()
 {
-    const bool windows11 = workThread->winName.contains("11"_L1);
     for (const TweakBox &box : tweakBoxes()) {
         const QCheckBox *check = checkBoxOf(box);
-        const bool suits = box.applied == TweakApply::Always || (box.applied == TweakApply::Windows11 && windows11);
-        if (suits && touchedBoxes.contains(check))
+        if (touchedBoxes.contains(check) && holds(box.apply, *workThread))
             (workThread->*box.tweak)(check->isChecked() ? 1 : 0, box.id);
     }
 }

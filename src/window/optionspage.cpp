@@ -6,6 +6,7 @@
 #include "language.h"
 #include "theme.h"
 #include "work/settings.h"
+#include "work/windowsname.h"
 
 #include <QCoreApplication>
 
@@ -51,7 +52,7 @@ void Kestrune::loadComboBox(QComboBox *box, int index, void (Kestrune::*slot)(in
 
 void Kestrune::loadTheme()
 {
-    const bool onWindows10 = workThread->winName.contains("10"_L1);
+    const bool onWindows10 = isWindows10(workThread->winName);
     const QString stored = storedTheme();
     int index = ui.cbOptionsTheme->currentIndex();
     if (!onWindows10 && stored == "dark"_L1)

@@ -17,3 +17,13 @@ WindowsName readWindowsName()
         name.product.replace(u"Windows 10"_s, u"Windows 11"_s, Qt::CaseInsensitive);
     return name;
 }
+
+bool isWindows10(const QString &product)
+{
+    return product.contains("10"_L1);
+}
+
+bool isWindows11(const QString &product)
+{
+    return product.contains("11"_L1);
+}

@@ -10,7 +10,7 @@ constexpr int firstBuildOfWindows11 = 22000;
 
 struct WindowsName
 {
-    QString product; ///< "Windows 11 Home"; the generation is told everywhere by "10" or "11" in it
+    QString product; ///< "Windows 11 Home"
     QString build;
 };
 
@@ -19,3 +19,7 @@ struct WindowsName
  * Windows 11 still calls itself Windows 10 there: from firstBuildOfWindows11 on the name is set right.
  */
 WindowsName readWindowsName();
+
+/** The generation of a product, which goes by these digits anywhere in its name; some names are of neither. */
+bool isWindows10(const QString &product);
+bool isWindows11(const QString &product);

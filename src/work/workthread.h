@@ -118,6 +118,7 @@ public:
     int monitorStorageAge = 10; ///< runs of the monitor since it looked at the system drive
     /** "-1" is a machine without battery. Nothing reads a battery yet, so every machine counts as one without. */
     QString batteryCharge{QStringLiteral("-1")};
+    bool hasBattery() const { return batteryCharge != QLatin1StringView("-1"); }
     QString powerShellPath; ///< set by powerShellProgram()
 
     /** Lists the services into `services`. */

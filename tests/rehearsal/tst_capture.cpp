@@ -72,7 +72,7 @@ void runEverything(const QString &folder, Questions &questions)
             runJob(worker, job);
         worker.AutorunGetList();
         for (const TweakBox &box : tweakBoxes()) {
-            if (box.applied == TweakApply::AsJob)
+            if (box.apply == When::AsJob)
                 continue; // walks over all files, which aren't taken
             (worker.*box.tweak)(1, box.id);
             (worker.*box.tweak)(0, box.id);

@@ -46,7 +46,7 @@ QStringList directBoxes()
 {
     QStringList names;
     for (const TweakBox &each : tweakBoxes()) {
-        if (each.applied != TweakApply::AsJob)
+        if (each.apply != When::AsJob)
             names.append(each.name);
     }
     return names;

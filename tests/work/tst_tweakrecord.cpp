@@ -104,9 +104,9 @@ void TestTweakRecord::onlyThreeBoxesAreAppliedOnWindows11Alone()
     QStringList windows11Only;
     QStringList asJob;
     for (const TweakBox &box : tweakBoxes()) {
-        if (box.applied == TweakApply::Windows11)
+        if (box.apply == When::Windows11)
             windows11Only.append(box.name);
-        if (box.applied == TweakApply::AsJob)
+        if (box.apply == When::AsJob)
             asJob.append(box.name);
     }
     QCOMPARE(windows11Only, (QStringList{u"chkGaming8"_s, u"chkWindows5"_s, u"chkWindows9"_s}));

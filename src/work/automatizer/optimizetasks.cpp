@@ -6,6 +6,7 @@
 #include "work/interruption.h"
 #include "work/settings.h"
 #include "work/tasks/taskcatalogue.h"
+#include "work/windowsname.h"
 #include "work/workthread.h"
 
 using namespace Qt::StringLiterals;
@@ -28,7 +29,7 @@ int changeTask(const QString &path, const QString &change)
 
 void WorkThread::optimizeTasks()
 {
-    const int settleDelay = winName.contains("10"_L1, Qt::CaseInsensitive) ? 1020 : 200;
+    const int settleDelay = isWindows10(winName) ? 1020 : 200;
 
     reportPhase(tr("Tasks"));
     reportMaximum(automatizerTasks.size());

@@ -2,9 +2,8 @@
 // Restore: takes back what was recorded. No mirror of Optimize: what wasn't recorded stays, and some steps differ.
 
 #include "platform/platform.h"
-#include "work/interruption.h"
 #include "work/settings.h"
-#include "work/workthread.h"
+#include "work/tweaks/tweakcatalogue.h"
 
 using namespace Qt::StringLiterals;
 
@@ -65,33 +64,17 @@ void WorkThread::restorePackages()
 
 void WorkThread::restoreFeatures()
 {
-    constexpr int settleDelay = 10;
-    const bool onWindows11 = winName.contains("11"_L1);
-
     reportPhase(tr("Features"));
     reportMaximum(3);
     reportStep(0);
     reportToAutomatizer(tr("Features: reset SSD optimizations"));
-    for (quint32 id = 1; id <= 9; ++id) {
-        // Optimize has applied 9 everywhere, and never 7.
-        if (id != 8 && (id != 9 || onWindows11))
-            TweakSSD(0, id);
-        pauseFor(settleDelay);
-    }
+    restoreTweaks(*this, &WorkThread::TweakSSD, 9);
     reportStep(1);
     reportToAutomatizer(tr("Features: reset Gaming optimizations"));
-    for (quint32 id = 1; id <= 13; ++id) {
-        if (id != 8 || onWindows11)
-            TweakGaming(0, id);
-        pauseFor(settleDelay);
-    }
+    restoreTweaks(*this, &WorkThread::TweakGaming, 13);
     reportStep(2);
     reportToAutomatizer(tr("Features: reset Windows optimizations"));
-    for (quint32 id = 1; id <= 10; ++id) {
-        if (id != 5 || onWindows11)
-            TweakWindows(0, id);
-        pauseFor(settleDelay);
-    }
+    restoreTweaks(*this, &WorkThread::TweakWindows, 10);
     reportStep(3);
     reportToAutomatizer(u"tweaksDone"_s);
 }

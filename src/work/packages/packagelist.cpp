@@ -4,6 +4,7 @@
 #include "packagecatalogue.h"
 #include "platform/platform.h"
 #include "work/interruption.h"
+#include "work/windowsname.h"
 #include "work/workthread.h"
 
 #include <QFileInfo>
@@ -52,7 +53,7 @@ void WorkThread::choosePackages()
         nonVitalPackages += xboxGameBarPackages();
     if (keepXboxApp == 0)
         nonVitalPackages += xboxAppPackages();
-    else if (winName.contains("11"_L1))
+    else if (isWindows11(winName))
         nonVitalPackages += u"Microsoft.XboxApp"_s; // the old app, which Windows 11 has replaced
     if (keepCodecs == 0)
         nonVitalPackages += codecPackages();

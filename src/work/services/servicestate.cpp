@@ -6,6 +6,7 @@
 #include "work/errorlog.h"
 #include "work/interruption.h"
 #include "work/settings.h"
+#include "work/windowsname.h"
 #include "work/workthread.h"
 
 using namespace Qt::StringLiterals;
@@ -26,7 +27,7 @@ struct Manner
 
 Manner mannerFor(const QString &winName)
 {
-    const bool onWindows10 = winName.contains("10"_L1);
+    const bool onWindows10 = isWindows10(winName);
     const bool wished = openSettings()->value(u"DoNotStartOrStopSvc"_s, 0).toInt() != 0;
     return {onWindows10, onWindows10 || wished, onWindows10 ? 1020 : 300};
 }

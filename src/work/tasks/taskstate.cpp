@@ -5,6 +5,7 @@
 #include "work/errorlog.h"
 #include "work/interruption.h"
 #include "work/settings.h"
+#include "work/windowsname.h"
 #include "work/workthread.h"
 
 using namespace Qt::StringLiterals;
@@ -13,7 +14,7 @@ void WorkThread::TaskStopOrStart(const QList<TaskRow> &list)
 {
     if (optimizeRunning == 0 && restoreRunning == 0)
         report(u"pgr:max:"_s + QString::number(list.size()));
-    const int settleDelay = winName.contains("10"_L1) ? 1020 : 300;
+    const int settleDelay = isWindows10(winName) ? 1020 : 300;
 
     for (qsizetype i = 0; i < list.size(); ++i) {
         const TaskRow &task = list.at(i);

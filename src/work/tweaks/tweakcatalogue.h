@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The boxes of the Features page and the tweaks behind them.
+// The tweaks with their boxes on the Features page, and when each of them runs.
 
 #pragma once
 
@@ -7,31 +7,50 @@
 
 #include <span>
 
-/** When the Apply button runs the tweak of a box that the user touched. */
-enum class TweakApply {
+/** On which machine, and in which setting, something holds of a tweak. */
+enum class When {
     Always,
-    Windows11,
-    AsJob, ///< the walk over all files: after a question, as job 11 or 12
-};
-
-/** Whether a run of the Automatizer is recorded in a box. */
-enum class TweakRecord {
-    Always,
-    Windows11,
-    WithoutBattery,
-    GameBarGivenUp, ///< Optimize leaves the game bar alone where it is kept; Restore doesn't ask
     Never,
+    Windows11,
+    NoBattery,
+    BarGivenUp,           ///< the Xbox game bar isn't kept
+    BarGivenUpOrRestored, ///< the same, and in any case when a Restore runs or has run with the tweaks
+    BatteryOrAmd,         ///< with a battery in any case, else where the first graphics card is one of AMD
+    AsJob,                ///< not in its turn: after a question, as job 11 or 12
 };
 
-/** A box: checked while its tweak is in force. */
+/** Whether it holds now. Asks WMI for the graphics card where that decides. Any thread. */
+bool holds(When when, const WorkThread &worker);
+
+/** TweakSSD, TweakGaming or TweakWindows. */
+using TweakRoutine = void (WorkThread::*)(quint8 apply, quint32 id);
+
+/** A tweak. Its box is checked while it is in force. */
 struct TweakBox
 {
-    QLatin1StringView name; ///< of the object, and of the value that stores the box
-    void (WorkThread::*tweak)(quint8 apply, quint32 id);
-    quint32 id;
-    TweakApply applied;
-    TweakRecord recorded;
+    QLatin1StringView name;            ///< of the box, and of the value that stores its state
+    TweakRoutine tweak;                ///< of its group
+    quint32 id;                        ///< in its group
+    When reboot;                       ///< it takes effect, and ends, at a restart
+    When check;                        ///< Check all checks the box
+    When apply;                        ///< the Apply button runs it, if the user touched its box
+    When optimize;                     ///< Optimize puts it in force
+    When restore;                      ///< Restore takes it back
+    When record;                       ///< a run of the Automatizer is recorded in its box
+    TweakRoutine inOptimize = nullptr; ///< another group's tweak of its number that Optimize runs in its place
 };
 
-/** All boxes, in the order in which the Apply button takes them. */
+/** All tweaks, in the order of the Apply button. */
 std::span<const TweakBox> tweakBoxes();
+
+/** The tweak of that number in a group; nullptr where there is none. */
+const TweakBox *findTweak(TweakRoutine group, quint32 id);
+/** Whether it takes effect at a restart only. */
+bool needsReboot(TweakRoutine group, quint32 id, const WorkThread &worker);
+
+/**
+ * A run of the Automatizer through one group: by one column, the numbers 1 to @p last in their order, with a pause
+ * after each, also after one that doesn't run or isn't there. Throws JobInterrupted.
+ */
+void optimizeTweaks(WorkThread &worker, TweakRoutine group, quint32 last);
+void restoreTweaks(WorkThread &worker, TweakRoutine group, quint32 last);

@@ -3,9 +3,11 @@
 
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
+#include "tweakcatalogue.h"
 #include "tweakvalues.h"
 #include "work/command.h"
 #include "work/interruption.h"
+#include "work/windowsname.h"
 #include "work/workthread.h"
 
 #include <array>
@@ -51,12 +53,12 @@ void setPlatformClock(bool apply, const QString &winName)
     // One key of Windows in two spellings: this one is the tweak's own.
     const QString driver = u"HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Services\\Hpet"_s;
 
-    if (winName.contains("11"_L1))
+    if (isWindows11(winName))
         runTool(u"bcdedit"_s, {u"/set"_s, u"useplatformclock"_s, apply ? u"False"_s : u"True"_s});
     else
         platform().openKey(driver)->setValue(u"Start"_s, apply ? StartDisabled : StartAutomatic);
     // Unlike after other tools it is Windows 10 that is asked for: any other system gets the short pause.
-    pauseFor(winName.contains("10"_L1) ? 300 : 30);
+    pauseFor(isWindows10(winName) ? 300 : 30);
 }
 
 /** Lets the boot configuration switch the dynamic tick off, or on again. */
@@ -154,29 +156,23 @@ void WorkThread::TweakGaming(quint8 apply, quint32 id)
     switch (id) {
     case 5:
         setPlatformClock(isApply, winName);
-        needReboot = 1;
         break;
     case 7:
-        if (winName.contains("11"_L1)) {
+        if (isWindows11(winName))
             setDynamicTick(isApply);
-            needReboot = 1;
-        }
         break;
     case 10:
         setTcpAcknowledgement(isApply);
-        needReboot = 1;
         break;
     case 11:
         setQuantum(isApply, win32PrioritySeparationIndex);
         break;
-    case 13:
-        needReboot = 1;
-        break;
     case 14:
         setUlps(isApply);
-        needReboot = 1;
         break;
     default:
         break;
     }
+    if (needsReboot(&WorkThread::TweakGaming, id, *this))
+        needReboot = 1;
 }

@@ -11,23 +11,6 @@ namespace {
 
 const QString priorityName = u"cbWin32PrioritySeparation"_s;
 
-bool isRecorded(TweakRecord rule, const WorkThread &worker)
-{
-    switch (rule) {
-    case TweakRecord::Always:
-        break;
-    case TweakRecord::Windows11:
-        return worker.winName.contains("11"_L1);
-    case TweakRecord::WithoutBattery:
-        return worker.batteryCharge == "-1"_L1;
-    case TweakRecord::GameBarGivenUp:
-        return worker.restoreRunning != 0 || worker.keepXboxGameBar == 0;
-    case TweakRecord::Never:
-        return false;
-    }
-    return true;
-}
-
 } // namespace
 
 TweakState storedTweaks()
@@ -53,7 +36,7 @@ void recordTweaksOfAutomatizer(const WorkThread &worker, int priorityIndex)
     TweakState state;
     state.priorityIndex = priorityIndex;
     for (const TweakBox &box : tweakBoxes()) {
-        if (isRecorded(box.recorded, worker))
+        if (holds(box.record, worker))
             state.boxes.insert(box.name, worker.restoreRunning == 0);
     }
     storeTweaks(state);

@@ -3,10 +3,12 @@
 
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
+#include "tweakcatalogue.h"
 #include "tweakvalues.h"
 #include "work/command.h"
 #include "work/interruption.h"
 #include "work/sysinfo/memorysize.h"
+#include "work/windowsname.h"
 #include "work/wmi.h"
 #include "work/workthread.h"
 
@@ -32,7 +34,7 @@ constexpr TweakValue values[] = {
 void setHibernation(bool apply, const QString &winName)
 {
     runTool(u"powercfg"_s, {u"-h"_s, apply ? u"OFF"_s : u"ON"_s});
-    pauseFor(winName.contains("11"_L1) ? 30 : 300);
+    pauseFor(isWindows11(winName) ? 30 : 300);
 }
 
 bool isSystemEntry(quint32 word)
@@ -150,9 +152,10 @@ void WorkThread::TweakSSD(quint8 apply, quint32 id)
         break;
     case 9:
         setIoPageLock(isApply, memTotal);
-        needReboot = 1;
         break;
     default:
         break;
     }
+    if (needsReboot(&WorkThread::TweakSSD, id, *this))
+        needReboot = 1;
 }

@@ -3,9 +3,11 @@
 
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
+#include "tweakcatalogue.h"
 #include "tweakvalues.h"
 #include "work/command.h"
 #include "work/interruption.h"
+#include "work/windowsname.h"
 #include "work/workthread.h"
 
 #include <QFile>
@@ -165,14 +167,9 @@ void WorkThread::TweakWindows(quint8 apply, quint32 id)
     writeTweakValues(values, id, isApply);
     writeTweakValues(telemetryValues(), id, isApply);
     switch (id) {
-    case 1:
-        needReboot = 1;
-        break;
     case 5:
-        if (winName.contains("11"_L1)) {
+        if (isWindows11(winName))
             setClassicMenu(isApply);
-            needReboot = 1;
-        }
         break;
     case 10:
         setSearch(isApply, winName);
@@ -184,4 +181,6 @@ void WorkThread::TweakWindows(quint8 apply, quint32 id)
     const QString cloudBackup = findCloudBackupService();
     if (id == 12)
         setCloudBackup(isApply, cloudBackup);
+    if (needsReboot(&WorkThread::TweakWindows, id, *this))
+        needReboot = 1;
 }
