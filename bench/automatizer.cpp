@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Analyze and Optimize on the built-in Windows 11 PC, tools included.
 
-#include "platform/simulated/simulatedplatform.h"
-#include "rehearsal/machinesource.h"
+#include "machine/seam/simulatedplatform.h"
+#include "machine/source/machinesource.h"
 #include "work/workthread.h"
 
 #include <QCoreApplication>

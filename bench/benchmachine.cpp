@@ -2,7 +2,7 @@
 
 #include "benchmachine.h"
 
-#include "platform/simulated/database.h"
+#include "machine/database.h"
 
 #include <QFile>
 

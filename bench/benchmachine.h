@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/simulated/simulatedplatform.h"
+#include "machine/seam/simulatedplatform.h"
 
 #include <QTemporaryDir>
 

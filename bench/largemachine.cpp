@@ -3,8 +3,8 @@
 #include "largemachine.h"
 
 #include "benchmachine.h"
-#include "platform/simulated/database.h"
-#include "rehearsal/machinesource.h"
+#include "machine/database.h"
+#include "machine/source/machinesource.h"
 #include "work/tasks/taskcatalogue.h"
 
 #include <QCoreApplication>

@@ -2,7 +2,7 @@
 // From the start of the program until the first page is painted, against a program with an empty window.
 
 #include "benchmachine.h"
-#include "rehearsal/machinesource.h"
+#include "machine/source/machinesource.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Shows the window on the given machine, or an empty one, until it is painted for the first time.
 
-#include "platform/simulated/simulatedplatform.h"
+#include "machine/seam/simulatedplatform.h"
 #include "window/kestrune.h"
 
 #include <QApplication>

@@ -3,7 +3,7 @@
 // its own; and the telemetry values.
 
 #include "benchmachine.h"
-#include "platform/simulated/database.h"
+#include "machine/database.h"
 #include "work/workthread.h"
 
 #include <QDir>

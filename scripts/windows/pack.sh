@@ -69,7 +69,7 @@ install_key() {
     {
         cd "$source_folder"
         cat build/windows/packages/*setup.exe build/windows/bin/tests_program.exe scripts/windows/{desk,pack}.sh
-        cat tests/rehearsal/data/small/*
+        cat tests/data/small/*
     } 2>/dev/null | digest
 }
 install_stamp() { echo "$source_folder/build/windows/.installed"; }
@@ -115,7 +115,7 @@ try_rehearsals() {
     mkdir -p "$machines"
     before=$(listing "$folder")
     rehearse_installed "new-$1" new "Z:$machines/$1" --from windows11
-    rehearse_installed "new-small-$1" new "Z:$machines/small" --from "Z:$inside_source/tests/rehearsal/data/small"
+    rehearse_installed "new-small-$1" new "Z:$machines/small" --from "Z:$inside_source/tests/data/small"
     rehearse_installed "preview-$1" preview "Z:$machines/small" --html "Z:$machines/preview.html" --undo "Z:$machines/undo.reg"
     rehearse_installed "tour-$1" tour "Z:$machines/small" --out "Z:$machines/pictures"
     grep -q '</html>' "$machines/preview.html" || fail "the installed kestrune-rehearse wrote no preview"

@@ -8,7 +8,7 @@ rehearse_stamp() { :; }
 rehearse_says() { echo "captures a PC under Wine, and rehearses on it with the dev build of Linux; about 2 minutes"; }
 rehearse_make() {
     local program=$source_folder/build/dev/bin/kestrune-rehearse captured=$source_folder/build/windows/captured version
-    [[ -x $program && -x ${program%/*}/tests_rehearsal ]] || fail "rehearse: the dev build is missing; ./dev test makes it"
+    [[ -x $program && -x ${program%/*}/tests_preview ]] || fail "rehearse: the dev build is missing; ./dev test makes it"
     in_root --caller inside_capture
     for version in win10 win11; do
         rehearse_on "$program" "$captured/$version"
@@ -24,7 +24,7 @@ rehearse_on() {
     ((services > 100 && applications > 50)) || fail "rehearse: $services services and $applications packages were captured"
     found=$("$1" run "$2" analyze | grep -c 'can be') || fail "rehearse: Analyze finds nothing on the captured PC"
     # The same round trip as on the built-in PCs: previewed, optimized, and taken back to the last value
-    KESTRUNE_CAPTURED_PC=$2 QT_QPA_PLATFORM=offscreen "${1%/*}/tests_rehearsal" tst_undo undoGivesTheMachineBefore:captured \
+    KESTRUNE_CAPTURED_PC=$2 QT_QPA_PLATFORM=offscreen "${1%/*}/tests_preview" tst_undo undoGivesTheMachineBefore:captured \
         >"$2-undo.txt" 2>&1 || { cat "$2-undo.txt" >&2; fail "rehearse: the captured PC can't be taken back"; }
     say "rehearse: $version: $services services and $applications packages captured, $found findings, taken back"
 }

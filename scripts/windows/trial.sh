@@ -16,7 +16,7 @@ trial_make() {
 trial_digest() {
     (
         cd "$source_folder"
-        find tests/rehearsal/data -type f -exec cat {} +
+        find tests/data -type f -exec cat {} +
         cat build/windows/bin/*.exe scripts/windows.sh scripts/windows/{desk,trial}.sh resources/machines/*/*
     ) 2>/dev/null | digest
 }
@@ -149,7 +149,7 @@ run_host_proof() {
     KESTRUNE_MARKED_PROGRAMS=$(IFS=';'; echo "${marked[*]}")
     export KESTRUNE_MARKED_PROGRAMS
     WINEDLLOVERRIDES=$overrides QTEST_FUNCTION_TIMEOUT=800000 quietly hostuntouched 900 \
-        wine "$inside_build/bin/tests_rehearsal.exe" tst_hostuntouched -o "Z:$desk_log/hostuntouched.qtest,txt"
+        wine "$inside_build/bin/tests_rehearse.exe" tst_hostuntouched -o "Z:$desk_log/hostuntouched.qtest,txt"
     without_warnings hostuntouched
     say "trial: nothing of the host is started, in $(took $((SECONDS - begin)))"
 }

@@ -6,8 +6,8 @@
 #ifdef KESTRUNE_REAL_MACHINE
 #include "platform/windows/windowsplatform.h"
 #else
+#include "machine/seam/simulatedplatform.h"
 #include "pictures.h"
-#include "platform/simulated/simulatedplatform.h"
 #endif
 #ifndef Q_OS_WIN
 #include "standinfonts.h"

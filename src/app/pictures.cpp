@@ -2,7 +2,7 @@
 
 #include "pictures.h"
 
-#include "rehearsal/interruption.h"
+#include "console/programinterruption.h"
 #include "window/kestrune.h"
 
 #include <QApplication>

@@ -3,8 +3,8 @@
 // taken back and applied. A second PC is changed by hand as the tweaks ought to change it, and the two are compared
 // as a whole.
 
-#include "rehearsal/machinediff.h"
-#include "rehearsal/taskdocument.h"
+#include "machine/compare/machinediff.h"
+#include "machine/taskdocument.h"
 #include "support/boxes.h"
 #include "support/suite.h"
 #include "support/tweakrows.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program itself, as a process of its own: how it starts, what it refuses, and how it gives way to an elevated one.
 
-#include "platform/simulated/database.h"
+#include "machine/database.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
 

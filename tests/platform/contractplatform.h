@@ -7,7 +7,7 @@
 #include "windows/nativecontract.h"
 #else
 
-#include "platform/simulated/simulatedplatform.h"
+#include "machine/seam/simulatedplatform.h"
 
 #include <QTemporaryDir>
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "rehearsal/machinediff.h"
-#include "rehearsal/machinesource.h"
+#include "machine/compare/machinediff.h"
+#include "machine/source/machinesource.h"
 #include "testmachine.h"
 
 #include <QCoreApplication>

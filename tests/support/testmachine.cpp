@@ -2,7 +2,7 @@
 
 #include "testmachine.h"
 
-#include "rehearsal/machinesource.h"
+#include "machine/source/machinesource.h"
 
 #include <QCoreApplication>
 #include <QDir>

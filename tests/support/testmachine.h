@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/simulated/machine.h"
-#include "platform/simulated/simulatedplatform.h"
+#include "machine/machine.h"
+#include "machine/seam/simulatedplatform.h"
 
 #include <QJsonObject>
 #include <QTemporaryDir>

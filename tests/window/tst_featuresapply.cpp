@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the Apply button of the Features page does: which boxes count as touched, what runs, and the walk's question.
 
-#include "platform/simulated/database.h"
+#include "machine/database.h"
 #include "support/boxes.h"
 #include "support/featuresview.h"
 #include "support/menus.h"

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/simulated/registrystore.h"
+#include "machine/registrystore.h"
 #include "platform/windows/windowsplatform.h"
 
 /** The counterpart of the class that stands for a rehearsal machine: the same questions, past the seam. */

@@ -2,8 +2,8 @@
 
 #include "trialpc.h"
 
+#include "machine/source/taskexport.h"
 #include "platform/windows/windowsplatform.h"
-#include "rehearsal/taskexport.h"
 #include "windows/standin/standinkeys.h"
 
 #include <QDir>

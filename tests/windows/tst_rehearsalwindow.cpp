@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse gui: the window opens on a rehearsal machine, is seen, and is closed.
 
-#include "rehearsal/machinesource.h"
+#include "machine/source/machinesource.h"
 #include "support/suite.h"
 
 #include <QCoreApplication>

@@ -2,7 +2,7 @@
 // Tests of Analyze: what is found, told and left for Optimize.
 
 #include "automatizerruns.h"
-#include "rehearsal/machinediff.h"
+#include "machine/compare/machinediff.h"
 #include "support/suite.h"
 #include "work/automatizer/encoder.h"
 

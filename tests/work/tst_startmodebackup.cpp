@@ -3,7 +3,7 @@
 
 #include "fakeplatform.h"
 #include "joblines.h"
-#include "platform/simulated/regfile.h"
+#include "machine/source/regfile.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/services/startmodebackup.h"

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "joblines.h"
-#include "platform/simulated/database.h"
-#include "rehearsal/machinediff.h"
+#include "machine/compare/machinediff.h"
+#include "machine/database.h"
 #include "support/testmachine.h"
 #include "support/tweakrows.h"
 #include "work/workthread.h"

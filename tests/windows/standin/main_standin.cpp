@@ -5,8 +5,8 @@
 #include "nativetoolhost.h"
 #include "standinkeys.h"
 
-#include "rehearsal/console.h"
-#include "rehearsal/stocktool/tools.h"
+#include "console/console.h"
+#include "stocktool/tools.h"
 
 #include <QCoreApplication>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "rehearsal/stocktool/toolhost.h"
+#include "stocktool/toolhost.h"
 
 /**
  * Acts on the real registry. Which services run, which tasks there are and which processes are kept in keys of the

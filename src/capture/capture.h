@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Takes a running PC into a rehearsal machine, and changes nothing on the PC.
+
+#pragma once
+
+#include "capturetasks.h"
+#include "machine/source/machinesource.h"
+#include "platform/systemreader.h"
+
+class ReadingPlatform;
+
+struct CaptureReport
+{
+    QStringList counts;     ///< "283 services"
+    QList<NotRead> notRead; ///< what could not be read
+    bool elevated = false;
+};
+
+/** Whether the names of the PC and its users are replaced by neutral ones. */
+enum class Names { Replace, Keep };
+
+/**
+ * Reads the PC behind @p pc, which must be the platform in force. Takes what the program looks at, and no more. Throws
+ * what @p progress throws.
+ */
+MachineContents readPc(const ReadingPlatform &pc, const SystemReader &system, Names names, CaptureReport &report,
+                       const ProgressCallback &progress = {});
+
+/** Makes a machine of the PC, as a whole or not at all. Throws MachineError. */
+CaptureReport capturePc(const QString &folder, Existing existing, const ReadingPlatform &pc, const SystemReader &system,
+                        Names names, const ProgressCallback &progress = {});

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "programinterruption.h"
+
+#include <atomic>
+
+#include <signal.h>
+
+namespace {
+
+std::atomic<int> received = 0; // the number of the signal
+static_assert(std::atomic<int>::is_always_lock_free);
+
+extern "C" void noteSignal(int number)
+{
+    received = number;
+}
+
+} // namespace
+
+void watchForInterruption()
+{
+    struct sigaction action = {};
+    action.sa_handler = noteSignal;
+    sigemptyset(&action.sa_mask);
+    // Without SA_RESTART: writing to a pipe that nobody reads ends by the signal.
+    for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) {
+        struct sigaction former = {};
+        sigaction(number, nullptr, &former);
+        if (former.sa_handler != SIG_IGN)
+            sigaction(number, &action, nullptr);
+    }
+}
+
+bool isInterrupted()
+{
+    return received != 0;
+}
+
+void stopIfInterrupted()
+{
+    if (const int number = received; number != 0)
+        throw Interrupted{128 + number};
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "attributewords.h"
+
+#include "machine/database.h"
+#include "machine/machine.h"
+
+#include <QFileInfo>
+
+namespace {
+
+constexpr qsizetype atOnce = 5000;
+// INVALID_FILE_ATTRIBUTES, which no file takes.
+constexpr quint32 noWord = 0xffffffff;
+
+} // namespace
+
+std::optional<quint32> AttributeWords::read(const QString &file)
+{
+    const std::lock_guard lock(lock_);
+    if (waiting_.contains(file))
+        store();
+    const std::optional<quint32> word = machine_.attributesOfFile(file);
+    present_ = word ? file : QString();
+    return word;
+}
+
+void AttributeWords::write(const QString &file, quint32 word)
+{
+    const std::lock_guard lock(lock_);
+    if (word == noWord || (file != present_ && !QFileInfo::exists(file)))
+        return;
+    present_.clear();
+    waiting_.insert(file, word);
+    if (walks_ == 0 || waiting_.size() >= atOnce)
+        store();
+}
+
+void AttributeWords::store()
+{
+    if (waiting_.isEmpty())
+        return;
+    try {
+        Database::Transaction transaction(machine_.database());
+        for (auto each = waiting_.cbegin(); each != waiting_.cend(); ++each)
+            machine_.setAttributes(each.key(), each.value());
+        transaction.commit();
+    } catch (const MachineError &error) {
+        qWarning("%s", qUtf8Printable(error.message));
+    }
+    waiting_.clear();
+}
+
+AttributeWords::Walk::Walk(AttributeWords &words)
+    : words_(words)
+{
+    const std::lock_guard lock(words_.lock_);
+    ++words_.walks_;
+}
+
+AttributeWords::Walk::~Walk()
+{
+    const std::lock_guard lock(words_.lock_);
+    --words_.walks_;
+    words_.store();
+}

@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A rehearsal machine behind the seam.
+
+#include "simulatedplatform.h"
+
+#include "environment.h"
+#include "folderwalk.h"
+#include "guarded.h"
+#include "machine/simulatedkey.h"
+#include "scriptopener.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QThread>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint32 hiddenBit = 0x2;
+constexpr quint32 errorModuleNotFound = 126;
+constexpr quint32 errorBadImage = 193;
+constexpr qint32 wmiInvalidClass = -2147217392; // WBEM_E_INVALID_CLASS
+constexpr int pauseSlice = 10;                  // milliseconds
+constexpr qsizetype mostProcesses = 1024;
+
+#ifdef Q_OS_WIN
+constexpr QLatin1StringView executableSuffix(".exe");
+#else
+constexpr QLatin1StringView executableSuffix("");
+#endif
+
+QString withoutQuotes(const QString &program)
+{
+    const bool quoted = program.size() >= 2 && program.startsWith(u'"') && program.endsWith(u'"');
+    return quoted ? program.sliced(1).chopped(1) : program;
+}
+
+/** "sc" of "C:\Windows\System32\SC.EXE". */
+QString toolOf(const QString &program)
+{
+    const qsizetype start = std::max(program.lastIndexOf(u'/'), program.lastIndexOf(u'\\')) + 1;
+    QString name = program.sliced(start);
+    if (name.endsWith(u".exe", Qt::CaseInsensitive))
+        name.chop(4);
+    for (const QString &tool : Machine::toolNames()) {
+        if (tool.compare(name, Qt::CaseInsensitive) == 0)
+            return tool;
+    }
+    return {};
+}
+
+bool isBareName(const QString &program)
+{
+    return std::none_of(program.cbegin(), program.cend(),
+                        [](QChar unit) { return unit == u'/' || unit == u'\\' || unit == u':'; });
+}
+
+/** A property as the text of what its VARIANT holds, read as a text or else as 32 bits. */
+QString propertyText(const QJsonObject &instance, const QString &name)
+{
+    QJsonValue value;
+    for (auto each = instance.begin(); each != instance.end(); ++each) {
+        if (each.key().compare(name, Qt::CaseInsensitive) == 0)
+            value = each.value();
+    }
+    if (value.isString())
+        return value.toString();
+    if (value.isBool())
+        return value.toBool() ? u"65535"_s : u"0"_s; // VARIANT_TRUE is 16 bits, all set
+    if (value.isDouble()) {
+        const qint64 number = value.toInteger(qint64(std::clamp(value.toDouble(), -9e18, 9e18)));
+        return QString::number(qint32(quint32(number)));
+    }
+    return u"0"_s;
+}
+
+} // namespace
+
+SimulatedPlatform::SimulatedPlatform(const QString &machineFolder, SimulatedOptions options)
+    : machine_(Machine::open(machineFolder))
+    , options_(std::move(options))
+    , attributes_(*machine_)
+    , scriptOpener_(std::make_unique<ScriptOpener>(*machine_, options_.elevated))
+{
+    if (options_.resourceFolder.isEmpty())
+        options_.resourceFolder = QCoreApplication::applicationDirPath();
+    if (options_.stockTool.isEmpty())
+        options_.stockTool = QCoreApplication::applicationDirPath() + u"/kestrune-stocktool"_s + executableSuffix;
+    if (QFileInfo::exists(options_.stockTool))
+        machine_->placeTools(options_.stockTool);
+    else
+        options_.stockTool.clear(); // and what lies in the machine in its place isn't started
+    enterEnvironment(machine_->environment());
+    // For the tools, and for this program when it is started anew.
+    qputenv("KESTRUNE_MACHINE", machine_->folder().toLocal8Bit());
+    qputenv("KESTRUNE_ELEVATED", options_.elevated ? "1" : "0");
+}
+
+SimulatedPlatform::~SimulatedPlatform() = default;
+
+QList<int> SimulatedPlatform::takePauses() const
+{
+    const std::lock_guard lock(pausesLock_);
+    return std::exchange(pauses_, {});
+}
+
+std::unique_ptr<RegistryKey> SimulatedPlatform::openKey(const QString &path) const
+{
+    return std::make_unique<SimulatedKey>(machine_->registry(), path, options_.elevated);
+}
+
+QString SimulatedPlatform::hostPath(const QString &windowsPath) const
+{
+    return machine_->hostPath(windowsPath);
+}
+
+QString SimulatedPlatform::programFolder() const
+{
+    return machine_->programFolder();
+}
+
+QString SimulatedPlatform::resourceFolder() const
+{
+    return options_.resourceFolder;
+}
+
+void SimulatedPlatform::walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const
+{
+    const AttributeWords::Walk together(attributes_);
+    const QStringList hidden = guarded(QStringList(), [this] { return machine_->pathsWithAttribute(hiddenBit); });
+    walkFolder(
+        hostPath(windowsPath), QSet<QString>(hidden.cbegin(), hidden.cend()),
+        [this](const QString &link) { return machine_->leadsOut(link); }, visit);
+}
+
+quint32 SimulatedPlatform::fileAttributes(const QString &file) const
+{
+    return guarded(invalidAttributes, [&] { return attributes_.read(file).value_or(invalidAttributes); });
+}
+
+void SimulatedPlatform::setFileAttributes(const QString &file, quint32 word) const
+{
+    attributes_.write(file, word);
+}
+
+QString SimulatedPlatform::programFile(const QString &program) const
+{
+    return guarded(QString(), [&] { return resolvedProgram(withoutQuotes(program)); });
+}
+
+QString SimulatedPlatform::resolvedProgram(const QString &program) const
+{
+    const QString tool = toolOf(program);
+    if (tool.isEmpty() || options_.stockTool.isEmpty())
+        return {};
+    const std::optional<ToolFault> fault = machine_->fault(tool);
+    if (fault && fault->missing)
+        return {};
+    if (!isBareName(program)) {
+        const bool present = QFileInfo(hostPath(program)).isFile() || QFileInfo(hostPath(program + u".exe"_s)).isFile();
+        if (!present)
+            return {};
+    }
+    const QString file = machine_->toolsFolder() + u'/' + tool + executableSuffix;
+    return QFileInfo(file).isFile() ? file : QString();
+}
+
+int SimulatedPlatform::exitCode(qint64 processId, int reported) const
+{
+    return guarded(reported, [&] { return machine_->takeExitCode(processId).value_or(reported); });
+}
+
+bool SimulatedPlatform::isElevated() const
+{
+    return options_.elevated;
+}
+
+void SimulatedPlatform::shellExecute(const ShellStart &start) const
+{
+    if (options_.launcher) {
+        options_.launcher(start);
+        return;
+    }
+    const QString own = QCoreApplication::applicationFilePath();
+    const bool isOwn = QFileInfo(start.file) == QFileInfo(own);
+    QProcess process;
+    process.setProgram(isOwn ? own : programFile(start.file));
+    if (process.program().isEmpty())
+        return;
+    process.setArguments(QProcess::splitCommand(start.parameters));
+    if (start.verb.compare(u"runas", Qt::CaseInsensitive) == 0) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"KESTRUNE_ELEVATED"_s, u"1"_s);
+        process.setProcessEnvironment(environment);
+    }
+    process.startDetached();
+}
+
+QStringList SimulatedPlatform::processNames() const
+{
+    return guarded(QStringList(), [this] { return machine_->processes().mid(0, mostProcesses); });
+}
+
+DllString SimulatedPlatform::dllString(const QString &windowsPath, uint id) const
+{
+    // Windows looks for a bare name in its system folder.
+    const QString path = isBareName(windowsPath) ? u"C:\\Windows\\System32\\"_s + windowsPath : windowsPath;
+    DllString result;
+    if (!QFileInfo(hostPath(path)).isFile()) {
+        result.error = errorModuleNotFound;
+        return result;
+    }
+    const auto found = guarded(std::optional<std::optional<QString>>(), [&] { return machine_->dllString(path, id); });
+    result.loaded = found.has_value();
+    if (found)
+        result.text = *found;
+    else
+        result.error = errorBadImage;
+    return result;
+}
+
+WmiAnswer SimulatedPlatform::queryWmi(const QString &className, const QStringList &properties) const
+{
+    const WmiAnswer invalidClass{{}, {{WmiStep::Query, wmiInvalidClass}}};
+    return guarded(invalidClass, [&] {
+        if (!machine_->hasWmiClass(className))
+            return invalidClass;
+        WmiAnswer answer;
+        for (const QJsonObject &instance : machine_->wmiInstances(className)) {
+            QStringList texts;
+            for (const QString &property : properties)
+                texts << propertyText(instance, property);
+            answer.instances << texts;
+        }
+        return answer;
+    });
+}
+
+void SimulatedPlatform::pause(int milliseconds) const
+{
+    {
+        const std::lock_guard lock(pausesLock_);
+        pauses_ << milliseconds;
+    }
+    const auto length = qint64(milliseconds * options_.pace);
+    for (qint64 left = length; left > 0; left -= pauseSlice) {
+        if (QThread::currentThread()->isInterruptionRequested())
+            return;
+        QThread::msleep(static_cast<unsigned long>(std::min<qint64>(left, pauseSlice)));
+    }
+}

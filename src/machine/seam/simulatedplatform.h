@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A rehearsal machine behind the seam.
+
+#pragma once
+
+#include "platform/platform.h"
+
+#include "attributewords.h"
+#include "machine/machine.h"
+
+#include <mutex>
+
+/** How a rehearsal machine is put behind the seam. */
+struct SimulatedOptions
+{
+    bool elevated = true;
+    double pace = 0;          ///< pauses are slept this many times their length
+    QString resourceFolder{}; ///< host path; empty: the folder of the running program
+    QString
+        stockTool{}; ///< the program behind the machine's tools; empty: kestrune-stocktool beside the running program
+    /** Starts what the shell is asked to start; by default a real process on the same machine. */
+    std::function<void(const ShellStart &)> launcher{};
+};
+
+class ScriptOpener;
+
+class SimulatedPlatform final : public Platform
+{
+public:
+    /**
+     * Opens the machine, sets its environment variables in this process in every spelling that is read, and makes this
+     * program the handler of .reg files for QDesktopServices. To be made before the first thread; one for a process at
+     * a time. Throws MachineError.
+     */
+    SimulatedPlatform(const QString &machineFolder, SimulatedOptions options);
+    ~SimulatedPlatform() override;
+
+    Machine &machine() const { return *machine_; }
+    /** The pauses asked for so far, in order, in milliseconds; cleared by the call. */
+    QList<int> takePauses() const;
+
+    std::unique_ptr<RegistryKey> openKey(const QString &path) const override;
+    QString hostPath(const QString &windowsPath) const override;
+    QString programFolder() const override;
+    QString resourceFolder() const override;
+    void walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const override;
+    quint32 fileAttributes(const QString &file) const override;
+    void setFileAttributes(const QString &file, quint32 word) const override;
+    QString programFile(const QString &program) const override;
+    int exitCode(qint64 processId, int reported) const override;
+    bool isElevated() const override;
+    void shellExecute(const ShellStart &start) const override;
+    QStringList processNames() const override;
+    DllString dllString(const QString &windowsPath, uint id) const override;
+    WmiAnswer queryWmi(const QString &className, const QStringList &properties) const override;
+    std::optional<bool> seekPenalty(const QString &windowsPath) const override;
+    std::optional<int> colorSpace() const override;
+    QSize screenSize() const override;
+    ProcessorTimes processorTimes() const override;
+    QList<quint32> processIds() const override;
+    int threadCount() const override;
+    quint64 freeMemory() const override;
+    RootDrive rootDrive() const override;
+    void pause(int milliseconds) const override;
+
+private:
+    QString resolvedProgram(const QString &program) const;
+    QJsonObject hardware() const;
+    /** What the machine says of the volume that a Windows path lies on. */
+    QJsonObject volume(const QString &windowsPath) const;
+
+    std::unique_ptr<Machine> machine_;
+    SimulatedOptions options_;
+    mutable AttributeWords attributes_;
+    std::unique_ptr<ScriptOpener> scriptOpener_;
+    mutable std::mutex pausesLock_;
+    mutable QList<int> pauses_;
+    mutable std::mutex readingsLock_;
+    mutable ProcessorTimes lastReading_;
+    mutable qsizetype readings_ = 0;
+};

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// machine.json: everything of a rehearsal machine that isn't registry.
+
+#pragma once
+
+#include "machine/machine.h"
+
+/** A file or folder that a machine has on its drive. */
+struct FileDescription
+{
+    QString path;               ///< Windows path with a drive, without a backslash at its end
+    bool folder = false;        ///< written with a backslash at its end
+    std::optional<qint64> size; ///< bytes; what the content doesn't fill is a hole
+    std::optional<QByteArray> content;
+    std::optional<quint32> attributes; ///< the whole attribute word
+    std::optional<FileSecurity> security{};
+};
+
+/** What a machine.json says; a part that it doesn't name is empty. */
+struct MachineDescription
+{
+    std::optional<QString> name;
+    bool namesReplaced = false; ///< those of the PC and its users, by whoever made this
+    QMap<QString, QString> environment;
+    QStringList running;
+    std::optional<QStringList> processes;
+    QMap<QString, QList<QJsonObject>> wmi;
+    QJsonObject hardware; ///< see Machine::hardware
+    QList<FileDescription> files;
+    QMap<QString, QString> bootOptions;
+    QMap<QString, QMap<uint, QString>> dlls;
+    QMap<QString, std::optional<ToolFault>> faults; ///< nothing: an end to the fault
+};
+
+/** Reads a machine.json. Throws MachineError with "file:line: reason" or "file: key: reason". */
+MachineDescription parseMachineJson(const QByteArray &bytes, const QString &fileName);

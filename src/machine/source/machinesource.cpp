@@ -1,0 +1,292 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "machinesource.h"
+
+#include "console/programinterruption.h"
+#include "filechanges.h"
+#include "machine/database.h"
+#include "taskexport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QStringDecoder>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    if (QFileInfo(path).isDir())
+        throw MachineError{u"%1: is a folder"_s.arg(path)};
+    if (!file.open(QIODevice::ReadOnly))
+        throw MachineError{u"%1: %2"_s.arg(path, file.errorString())};
+    return file.readAll();
+}
+
+/** Text in UTF-16 with its mark, in UTF-8, or in some code page of a console, whose ASCII part is all that matters. */
+QString decoded(const QByteArray &bytes)
+{
+    QStringDecoder decoder(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8));
+    const QString text = decoder(bytes);
+    return decoder.hasError() ? QString::fromLatin1(bytes) : text;
+}
+
+bool isRegistryScript(const QString &file, const QString &text)
+{
+    return file.endsWith(".reg"_L1, Qt::CaseInsensitive) || text.startsWith("Windows Registry Editor"_L1)
+           || text.startsWith("REGEDIT4"_L1);
+}
+
+/** Imports files and descriptions; all of it stands once commit() was called. */
+class Import
+{
+public:
+    Import(Machine &machine, const ProgressCallback &progress)
+        : machine_(machine)
+        , progress_(progress)
+        , transaction_(machine.database())
+    {
+    }
+
+    void file(const QString &path);
+    void contents(const MachineContents &contents)
+    {
+        applyRegistryScript(machine_.database(), machine_.registry(), contents.registry);
+        apply(contents.services);
+        apply(contents.tasks);
+        apply(contents.description);
+    }
+    void commit()
+    {
+        transaction_.commit();
+        files_.commit();
+    }
+
+private:
+    void apply(const MachineDescription &description);
+    void apply(const QList<FileDescription> &files);
+    void apply(const QList<ServiceReport> &services);
+    void apply(const QList<ScheduledTask> &tasks);
+    void addVariables(const QMap<QString, QString> &added);
+    void addDll(const QString &path, const QMap<uint, QString> &strings);
+
+    Machine &machine_;
+    const ProgressCallback &progress_;
+    Database::Transaction transaction_;
+    FileChanges files_;
+};
+
+void Import::file(const QString &path)
+{
+    const QByteArray bytes = readFile(path);
+    const QString text = decoded(bytes);
+    if (isRegistryScript(path, text))
+        applyRegistryScript(machine_.database(), machine_.registry(), parseRegistryScript(bytes, path),
+                            stopIfInterrupted);
+    else if (isTaskExport(path, bytes))
+        apply(parseTaskExport(bytes, path));
+    else if (path.endsWith(".json"_L1, Qt::CaseInsensitive) || text.trimmed().startsWith(u'{'))
+        apply(parseMachineJson(bytes, path));
+    else if (isServiceReport(text))
+        apply(parseServiceReport(text, path));
+    else
+        throw MachineError{
+            u"%1: neither a registry script, nor scheduled tasks, nor a machine.json, nor a list of services by sc"_s
+                .arg(path)};
+}
+
+void Import::apply(const MachineDescription &description)
+{
+    if (description.name)
+        machine_.setName(*description.name);
+    if (description.namesReplaced)
+        machine_.setReplacedNames();
+    addVariables(description.environment);
+    for (const QString &service : description.running)
+        machine_.setRunning(service, true);
+    if (description.processes)
+        machine_.setProcesses(*description.processes);
+    for (auto it = description.wmi.begin(); it != description.wmi.end(); ++it)
+        machine_.setWmiInstances(it.key(), it.value());
+    if (!description.hardware.isEmpty())
+        machine_.setHardware(description.hardware);
+    apply(description.files);
+    for (auto it = description.bootOptions.begin(); it != description.bootOptions.end(); ++it)
+        machine_.setBootOption(it.key(), it.value());
+    for (auto it = description.dlls.begin(); it != description.dlls.end(); ++it)
+        addDll(it.key(), it.value());
+    for (auto it = description.faults.begin(); it != description.faults.end(); ++it) {
+        if (it.value())
+            machine_.setFault(it.key(), *it.value());
+        else
+            machine_.clearFault(it.key());
+    }
+}
+
+void Import::addVariables(const QMap<QString, QString> &added)
+{
+    if (added.isEmpty())
+        return;
+    QMap<QString, QString> variables = machine_.environment();
+    for (auto it = added.begin(); it != added.end(); ++it) {
+        // Names of variables are one whatever their case.
+        variables.removeIf([&it](std::pair<const QString &, QString &> entry) {
+            return entry.first.compare(it.key(), Qt::CaseInsensitive) == 0;
+        });
+        variables.insert(it.key(), it.value());
+    }
+    machine_.setEnvironment(variables);
+}
+
+void Import::apply(const QList<FileDescription> &files)
+{
+    int done = 0;
+    for (const FileDescription &file : files) {
+        stopIfInterrupted();
+        if (progress_)
+            progress_(file.path, done++, static_cast<int>(files.size()));
+        const QString host = machine_.hostPath(file.path);
+        if (file.folder) {
+            files_.makeFolder(host);
+        } else {
+            const QByteArray content = file.content.value_or(QByteArray());
+            files_.write(host, content, file.size.value_or(content.size()));
+        }
+        if (file.attributes)
+            machine_.setAttributes(file.path, *file.attributes);
+        if (file.security)
+            machine_.setSecurity(file.path, *file.security);
+    }
+}
+
+void Import::apply(const QList<ServiceReport> &services)
+{
+    for (const ServiceReport &service : services) {
+        // One that never ran has no run state at all, unless the machine already gives it one.
+        if (service.everRan || machine_.isRunning(service.name))
+            machine_.setRunning(service.name, service.running);
+    }
+}
+
+void Import::apply(const QList<ScheduledTask> &tasks)
+{
+    for (const ScheduledTask &task : tasks) {
+        stopIfInterrupted();
+        machine_.setTask(task);
+    }
+}
+
+void Import::addDll(const QString &path, const QMap<uint, QString> &strings)
+{
+    machine_.setDllStrings(path, strings);
+    if (const QString host = machine_.hostPath(path); !QFileInfo::exists(host))
+        files_.write(host, QByteArray(), 0);
+}
+
+QStringList sourceFiles(const QString &sources)
+{
+    const QDir folder(sources);
+    if (!folder.exists())
+        throw MachineError{u"%1: there is no such folder"_s.arg(sources)};
+    QStringList files;
+    for (const QString &name : folder.entryList({u"*.reg"_s}, QDir::Files, QDir::Name))
+        files.append(folder.filePath(name));
+    for (const QString &name : {u"tasks.xml"_s, u"machine.json"_s}) {
+        if (folder.exists(name))
+            files.append(folder.filePath(name));
+    }
+    if (files.isEmpty())
+        throw MachineError{u"%1: holds neither .reg files nor a tasks.xml nor a machine.json"_s.arg(sources)};
+    return files;
+}
+
+bool isMachine(const QString &folder)
+{
+    return QFileInfo(folder + u"/machine.sqlite"_s).isFile();
+}
+
+/** Says why a machine can't come to be in that place, by throwing. */
+void checkPlace(const QString &folder, Existing existing)
+{
+    const QFileInfo place(folder);
+    if (!place.exists())
+        return;
+    if (!place.isDir())
+        throw MachineError{u"%1: is not a folder"_s.arg(folder)};
+    if (isMachine(folder)) {
+        if (existing == Existing::Keep)
+            throw MachineError{u"%1: there is a machine already"_s.arg(folder)};
+    } else if (!QDir(folder).isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System)) {
+        throw MachineError{u"%1: the folder isn't empty"_s.arg(folder)};
+    }
+}
+
+/** Puts a finished machine where it is wanted. The one that is there goes last, so that there is always one. */
+void moveIntoPlace(const QString &made, const QString &folder, const QString &staging)
+{
+    const QString former = staging + u"/former"_s;
+    const bool replaces = QFileInfo::exists(folder);
+    if (replaces && !QDir().rename(folder, former))
+        throw MachineError{u"%1: can't be replaced"_s.arg(folder)};
+    if (!QDir().rename(made, folder)) {
+        if (replaces)
+            QDir().rename(former, folder);
+        throw MachineError{u"%1: the folder can't be made"_s.arg(folder)};
+    }
+}
+
+} // namespace
+
+void makeMachine(const QString &folder, Existing existing, const std::function<void(Machine &)> &fill)
+{
+    const QString place = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
+    checkPlace(place, existing);
+    const QString parent = QFileInfo(place).path();
+    if (!QFileInfo(parent).isDir())
+        throw MachineError{u"%1: there is no such folder"_s.arg(parent)};
+    // Made beside its place, so that nobody ever sees half a machine.
+    const QTemporaryDir staging(parent + u"/.kestrune-XXXXXX"_s);
+    if (!staging.isValid())
+        throw MachineError{u"%1: %2"_s.arg(parent, staging.errorString())};
+    const QString made = staging.filePath(u"machine"_s);
+    {
+        const std::unique_ptr<Machine> machine = Machine::create(made);
+        fill(*machine);
+    }
+    moveIntoPlace(made, place, staging.path());
+}
+
+void makeMachine(const QString &folder, const QString &sources, Existing existing, const ProgressCallback &progress)
+{
+    makeMachine(folder, existing, [&](Machine &machine) {
+        importFiles(machine, sources.isEmpty() ? QStringList() : sourceFiles(sources), progress);
+    });
+}
+
+void importFile(Machine &machine, const QString &file, const ProgressCallback &progress)
+{
+    importFiles(machine, {file}, progress);
+}
+
+void importFiles(Machine &machine, const QStringList &files, const ProgressCallback &progress)
+{
+    Import import(machine, progress);
+    int done = 0;
+    for (const QString &file : files) {
+        stopIfInterrupted();
+        if (progress)
+            progress(file, done++, static_cast<int>(files.size()));
+        import.file(file);
+    }
+    import.commit();
+}
+
+void importContents(Machine &machine, const MachineContents &contents, const ProgressCallback &progress)
+{
+    Import import(machine, progress);
+    import.contents(contents);
+    import.commit();
+}

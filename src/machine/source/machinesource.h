@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Makes rehearsal machines from text that people can read, and imports such text into them.
+
+#pragma once
+
+#include "machine/machine.h"
+#include "machinejson.h"
+#include "regfile.h"
+#include "screport.h"
+
+#include <functional>
+
+/** Told of each step of something long: what is done now, how many steps are behind, how many there are. */
+using ProgressCallback = std::function<void(const QString &step, int done, int total)>;
+
+/** Whether making a machine may take the place of one that is there. */
+enum class Existing { Keep, Replace };
+
+/** What a machine is filled with, already read. */
+struct MachineContents
+{
+    MachineDescription description;
+    QList<RegistryEdit> registry{};
+    QList<ServiceReport> services{};
+    QList<ScheduledTask> tasks{};
+};
+
+/**
+ * Makes a machine and lets @p fill fill it. A machine comes to be as a whole or not at all. Throws Interrupted,
+ * and MachineError, also where @p folder holds something that may not be replaced: only a machine ever is.
+ */
+void makeMachine(const QString &folder, Existing existing, const std::function<void(Machine &)> &fill);
+/**
+ * Makes a machine from a folder of sources: all its .reg files in the order of their names, then its tasks.xml and
+ * its machine.json. An empty @p sources makes an empty machine.
+ */
+void makeMachine(const QString &folder, const QString &sources, Existing existing,
+                 const ProgressCallback &progress = {});
+
+/**
+ * Imports a registry script, a machine.json, or what "sc query state= all" or "schtasks /xml" printed on a PC, told
+ * apart by their content. What the file names is set, the rest stays. Throws MachineError and Interrupted, and leaves
+ * the machine as it was then.
+ */
+void importFile(Machine &machine, const QString &file, const ProgressCallback &progress = {});
+/** Imports several, together or not at all. */
+void importFiles(Machine &machine, const QStringList &files, const ProgressCallback &progress = {});
+/** Takes over what was read, together or not at all. */
+void importContents(Machine &machine, const MachineContents &contents, const ProgressCallback &progress = {});

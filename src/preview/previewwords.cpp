@@ -1,0 +1,272 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "previewwords.h"
+
+#include "featurewords.h"
+#include "machine/resourcetext.h"
+#include "machine/taskdocument.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto servicesKey = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_L1;
+constexpr auto recordsKey = "HKEY_CURRENT_USER\\Software\\Kestrune"_L1;
+constexpr auto packagesKey = "\\AppModel\\Repository\\Packages\\"_L1;
+constexpr auto packagedTasksKey = "\\AppModel\\SystemAppData\\"_L1;
+const QString oneDrive = u"OneDrive"_s;
+const QString keyDetail = u"the key itself"_s;
+constexpr auto runKey = "\\Microsoft\\Windows\\CurrentVersion\\Run"_L1;
+
+/** A text for people: one that stands elsewhere, where this machine can't read it, says nothing. */
+QString readable(const QString &text)
+{
+    for (const QLatin1StringView reference : {"@"_L1, "$("_L1, "ms-resource:"_L1}) {
+        if (text.startsWith(reference))
+            return QString();
+    }
+    return text.simplified();
+}
+
+QString registryTextAt(const Machine &machine, const RegistryStore &store, const QString &key, const QString &name)
+{
+    const auto id = store.find(key);
+    const std::optional<RegistryValue> value = id ? store.value(*id, name) : std::nullopt;
+    return value ? readable(resolveResourceText(machine, textOf(value->data))) : QString();
+}
+
+/** The text behind a prefix up to the next backslash; empty where the path doesn't begin so. */
+QString partBehind(const QString &path, QLatin1StringView prefix)
+{
+    return path.startsWith(prefix, Qt::CaseInsensitive) ? path.mid(prefix.size()).section(u'\\', 0, 0) : QString();
+}
+
+/** The text, or the other one where it is empty. */
+QString orElse(const QString &text, const QString &other)
+{
+    return text.isEmpty() ? other : text;
+}
+
+/** What a registry value is called, and where it stands. */
+void putValue(PreviewWords &words, const DiffRow &row)
+{
+    words.detail = orElse(row.name, keyDetail);
+    words.place = row.path;
+}
+
+PreviewWords serviceWords(Machine &machine, const QString &service)
+{
+    const auto text = [&](const QString &value) {
+        return registryTextAt(machine, machine.registry(), servicesKey + service, value);
+    };
+    return {.group = PreviewGroup::Services,
+            .item = foldName(service),
+            .title = orElse(text(u"DisplayName"_s), service),
+            .about = text(u"Description"_s),
+            .name = service};
+}
+
+PreviewWords serviceStateWords(Machine &machine, const DiffRow &row)
+{
+    PreviewWords words = serviceWords(machine, row.path);
+    words.detail = runStateDetail;
+    return words;
+}
+
+PreviewWords serviceValueWords(Machine &machine, const QString &service, const DiffRow &row)
+{
+    PreviewWords words = serviceWords(machine, service);
+    putValue(words, row);
+    const QString name = foldName(row.name);
+    if (name == "START"_L1)
+        words.detail = startModeDetail;
+    else if (name == "DELAYEDAUTOSTART"_L1)
+        words.detail = delayedStartDetail;
+    if (words.detail != row.name)
+        words.place += u'\\' + row.name;
+    return words;
+}
+
+PreviewWords taskWords(const Machine &machine, const DiffRow &row)
+{
+    PreviewWords words{.group = PreviewGroup::Tasks,
+                       .item = foldName(row.path),
+                       .title = row.path.section(u'\\', -1),
+                       .name = row.path,
+                       .detail = u"state"_s};
+    if (const std::optional<ScheduledTask> task = machine.task(row.path))
+        words.about = readable(resolveResourceText(machine, taskFacts(task->document).description));
+    return words;
+}
+
+PreviewWords packageWords(Machine &machine, const DiffRow &row)
+{
+    const qsizetype start = row.path.indexOf(packagesKey, 0, Qt::CaseInsensitive) + packagesKey.size();
+    const QString fullName = row.path.mid(start).section(u'\\', 0, 0);
+    const QString family = fullName.section(u'_', 0, 0);
+    const QString title =
+        registryTextAt(machine, machine.registry(), row.path.first(start) + fullName, u"DisplayName"_s);
+    PreviewWords words{
+        .group = PreviewGroup::Packages, .item = foldName(family), .title = orElse(title, family), .name = family};
+    putValue(words, row);
+    return words;
+}
+
+PreviewWords oneDriveWords(const QString &detail, const QString &place)
+{
+    return {.group = PreviewGroup::Packages,
+            .item = oneDrive,
+            .title = u"Microsoft OneDrive"_s,
+            .name = oneDrive,
+            .detail = detail,
+            .place = place};
+}
+
+/** An entry of a Run key, told by its command. */
+PreviewWords runValueWords(const DiffRow &row)
+{
+    const QString &command = orElse(row.before, row.after);
+    PreviewWords words{.group = PreviewGroup::Autorun, .item = foldName(row.path + row.name), .title = row.name};
+    words.about = command.mid(1, command.size() - 2);
+    putValue(words, row);
+    return words;
+}
+
+PreviewWords packagedTaskWords(const DiffRow &row)
+{
+    const QString task = row.path.section(u'\\', -1);
+    PreviewWords words{.group = PreviewGroup::Autorun,
+                       .item = foldName(row.path),
+                       .title = task,
+                       .about = u"A start that an application of Windows has registered: "_s
+                                + row.path.section(u'\\', -2, -2).section(u'_', 0, 0)};
+    putValue(words, row);
+    return words;
+}
+
+PreviewWords registryWords(Machine &before, Machine &optimized, const DiffRow &row)
+{
+    const QString &path = row.path;
+    if (path.startsWith(recordsKey, Qt::CaseInsensitive)) {
+        PreviewWords words{.group = PreviewGroup::Records, .item = u"notes"_s, .title = u"Notes of what was done"_s};
+        putValue(words, row);
+        return words;
+    }
+    if (path.contains(packagesKey, Qt::CaseInsensitive))
+        return packageWords(before.registry().find(path) ? before : optimized, row);
+    if (path.endsWith(runKey, Qt::CaseInsensitive))
+        return runValueWords(row);
+    if (path.contains(packagedTasksKey, Qt::CaseInsensitive))
+        return packagedTaskWords(row);
+    if (const QString service = partBehind(path, servicesKey); path.size() == servicesKey.size() + service.size())
+        return serviceValueWords(before, service, row);
+    if (path.endsWith("\\Uninstall\\OneDriveSetup.exe"_L1, Qt::CaseInsensitive))
+        return oneDriveWords(orElse(row.name, keyDetail), path);
+    PreviewWords words{.group = PreviewGroup::Registry, .item = foldName(path), .title = path};
+    words.detail = orElse(row.name, keyDetail);
+    return words;
+}
+
+struct FileAbout
+{
+    QLatin1StringView end; ///< of its path, in upper case
+    QLatin1StringView about;
+};
+
+// clang-format off
+constexpr FileAbout fileAbouts[] = {
+    {"\\RIVATUNER STATISTICS SERVER\\PROFILES\\CONFIG"_L1,
+     "The settings of RivaTuner Statistics Server, which shows figures over games: its video encoder is switched off"_L1},
+    {"\\TASKS.XML"_L1, "The list of scheduled tasks as Kestrune has asked for it"_L1},
+};
+// clang-format on
+
+QString aboutFile(const QString &path)
+{
+    for (const FileAbout &file : fileAbouts) {
+        if (foldName(path).endsWith(file.end))
+            return file.about;
+    }
+    return QString();
+}
+
+PreviewWords fileWords(const DiffRow &row)
+{
+    static const QMap<DiffKind, QString> details{{DiffKind::File, u"the file"_s},
+                                                 {DiffKind::Attribute, u"its attributes"_s},
+                                                 {DiffKind::Security, u"its owner and who may do what"_s}};
+    const QString detail = details.value(row.kind);
+    if (row.path.startsWith("program\\"_L1)) {
+        return {.group = PreviewGroup::Records,
+                .item = u"files"_s,
+                .title = u"Log and backups beside the program"_s,
+                .detail = detail,
+                .place = row.path};
+    }
+    if (row.path.contains("\\Microsoft\\OneDrive\\"_L1, Qt::CaseInsensitive))
+        return oneDriveWords(detail, row.path);
+    return {.group = PreviewGroup::Files,
+            .item = foldName(row.path),
+            .title = row.path.section(u'\\', -1),
+            .about = aboutFile(row.path),
+            .name = row.path,
+            .detail = detail};
+}
+
+PreviewWords optionWords(const FeatureWords &feature, const DiffRow &row)
+{
+    PreviewWords words{
+        .group = PreviewGroup::Features, .item = feature.option, .title = feature.option, .about = feature.about};
+    putValue(words, row);
+    if (row.kind == DiffKind::Registry)
+        return words;
+    words.detail = fileWords(row).detail;
+    if (row.kind == DiffKind::BootOption) {
+        words.detail = u"boot option "_s + row.path;
+        words.place.clear();
+    } else if (row.kind == DiffKind::Task || row.kind == DiffKind::Service) {
+        words.detail = kindName(row.kind);
+    }
+    return words;
+}
+
+} // namespace
+
+QString sideInWords(const PreviewWords &words, const QString &side)
+{
+    static const QMap<QString, QString> modes{{u"dword 0"_s, u"boot"_s},
+                                              {u"dword 1"_s, u"system"_s},
+                                              {u"dword 2"_s, u"automatic"_s},
+                                              {u"dword 3"_s, u"manual"_s},
+                                              {u"dword 4"_s, u"disabled"_s}};
+    static const QMap<QString, QString> answers{{u"dword 0"_s, u"no"_s}, {u"dword 1"_s, u"yes"_s}};
+    if (words.group == PreviewGroup::Services && words.detail == startModeDetail)
+        return modes.value(side, side);
+    if (words.group == PreviewGroup::Services && words.detail == delayedStartDetail)
+        return answers.value(side, side);
+    return words.detail == keyDetail && !side.isEmpty() ? u"an empty key"_s : side;
+}
+
+PreviewWords previewWords(Machine &before, Machine &optimized, const DiffRow &row)
+{
+    if (const FeatureWords feature = featureWords(featureOf(row)); !feature.option.isEmpty())
+        return optionWords(feature, row);
+    switch (row.kind) {
+    case DiffKind::Service:
+        return serviceStateWords(before, row);
+    case DiffKind::Task:
+        return taskWords(before.task(row.path) ? before : optimized, row);
+    case DiffKind::Registry:
+        return registryWords(before, optimized, row);
+    case DiffKind::File:
+    case DiffKind::Attribute:
+    case DiffKind::Security:
+        return fileWords(row);
+    case DiffKind::BootOption:
+        return {.group = PreviewGroup::Registry,
+                .item = foldName(row.path),
+                .title = u"Boot option "_s + row.path,
+                .detail = u"in the boot configuration"_s};
+    }
+    return {};
+}

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// An exact way back from what a machine has become, with nothing but the system's own tools.
+
+#pragma once
+
+#include "machine/compare/machinediff.h"
+#include "machine/source/regfile.h"
+
+/** What has to be put where, because a command can't say it. */
+struct UndoFile
+{
+    QString name; ///< in the folder of the files
+    QByteArray content;
+};
+
+struct Undo
+{
+    QList<RegistryEdit> registry;
+    QStringList commands; ///< for the command prompt, in the order in which they are given
+    QList<UndoFile> files;
+};
+
+/**
+ * What makes @p after as @p before was, but for the program's own files. Packages come back by commands: what the
+ * registry says of them is the system's own record. Changes nothing in either. Throws MachineError.
+ * @param filesFolder how the commands call the folder of the files
+ */
+Undo undoOf(Machine &before, Machine &after, const QString &filesFolder);
+/**
+ * Writes the registry script as @p file, as the registry editor likes it, and beside it a text of the commands and a
+ * folder of the files, both named after it. Throws MachineError. @return what was written
+ */
+QStringList writeUndo(Machine &before, Machine &after, const QString &file);

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "jobrunner.h"
+
+#include "console/programinterruption.h"
+#include "subcommands.h"
+#include "work/interruption.h"
+
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTimer>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+void LinePrinter::take(QLatin1StringView signal, const QString &line)
+{
+    printPair(u"signal"_s, signal, u"line"_s, line);
+}
+
+void LinePrinter::takeResult(const QString &name, const QString &text)
+{
+    QString shown = text;
+    if (!json_)
+        shown.replace(u'\r', u"\\r"_s).replace(u'\n', u"\\n"_s);
+    printPair(u"name"_s, name, u"text"_s, shown);
+}
+
+void LinePrinter::printPair(const QString &firstKey, const QString &first, const QString &secondKey,
+                            const QString &second)
+{
+    progress_.clear();
+    if (json_)
+        print(QJsonDocument(QJsonObject{{firstKey, first}, {secondKey, second}}).toJson(QJsonDocument::Compact) + '\n');
+    else
+        print(first + u'\t' + second + u'\n');
+    std::fflush(stdout);
+}
+
+std::optional<QString> runToEnd(WorkThread &worker, int job, LinePrinter &printer, void (*record)(const QString &line))
+{
+    std::optional<QString> last;
+    QEventLoop loop;
+    QObject::connect(&worker, &WorkThread::valueChanged, &loop, [&](const QString &line) {
+        last = line;
+        printer.take("valueChanged"_L1, line);
+        if (record != nullptr)
+            record(line);
+    });
+    QObject::connect(&worker, &WorkThread::automatizerValueChanged, &loop, [&](const QString &line) {
+        last = line;
+        printer.take("automatizerValueChanged"_L1, line);
+    });
+    // Queued behind the lines that are under way.
+    QObject::connect(&worker, &QThread::finished, &loop, &QEventLoop::quit, Qt::QueuedConnection);
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &worker, [&worker] {
+        if (isInterrupted())
+            worker.requestInterruption();
+    });
+    watch.start(interruptionSlice);
+    worker.startJob(job);
+    loop.exec();
+    worker.wait();
+    stopIfInterrupted();
+    return last;
+}
+
+void runToEnd(const std::function<void()> &work)
+{
+    const std::unique_ptr<QThread> thread(QThread::create([&work] {
+        try {
+            work();
+        } catch (const JobInterrupted &) {
+            // The one who asked for it waits below.
+        }
+    }));
+    thread->start();
+    while (!thread->wait(interruptionSlice)) {
+        if (isInterrupted())
+            thread->requestInterruption();
+    }
+    stopIfInterrupted();
+}

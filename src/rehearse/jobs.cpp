@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "jobs.h"
+
+#include "autorunjobs.h"
+#include "machine/seam/simulatedplatform.h"
+#include "machine/taskdocument.h"
+#include "reporttexts.h"
+#include "work/packages/packagecatalogue.h"
+#include "work/packages/packagerecord.h"
+#include "work/settings.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int startAutomatic = 2;
+constexpr int startDisabled = 4;
+
+void takeServices(WorkThread &worker, const QStringList &names)
+{
+    worker.servicesToChange = names;
+}
+
+int startModeOf(const QString &service)
+{
+    // Opened above the service: opening the key of one that isn't there would make it.
+    const auto services = platform().openKey(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services"_s);
+    return services->value(service + u"/Start"_s, -1).toInt();
+}
+
+bool isRecorded(const QString &service)
+{
+    return openSettings()->contains(u"SVC/"_s + service);
+}
+
+QStringList servicesNotDisabled(const QStringList &names)
+{
+    QStringList left;
+    for (const QString &name : names) {
+        if (startModeOf(name) != startDisabled || !isRecorded(name))
+            left.append(name);
+    }
+    return left;
+}
+
+QStringList servicesNotEnabled(const QStringList &names)
+{
+    QStringList left;
+    for (const QString &name : names) {
+        if (startModeOf(name) != startAutomatic || isRecorded(name))
+            left.append(name);
+    }
+    return left;
+}
+
+/** The path of a task as the logic has it. */
+QString withoutBackslash(const QString &path)
+{
+    return path.startsWith(u'\\') ? path.sliced(1) : path;
+}
+
+void takeTasks(WorkThread &worker, const QStringList &paths, int disabled)
+{
+    for (const QString &operand : paths) {
+        const QString path = withoutBackslash(operand);
+        worker.tasksToChange.append({path, {}, path.section(u'\\', -1), {}, disabled});
+    }
+}
+
+/** Tasks whose switch or record isn't as it should be. */
+QStringList tasksUnlike(const QStringList &paths, bool enabled)
+{
+    // The machine is asked, since the logic's own list writes files.
+    const Machine &machine = static_cast<const SimulatedPlatform &>(platform()).machine();
+    QStringList left;
+    for (const QString &operand : paths) {
+        const QString path = withoutBackslash(operand);
+        const auto task = machine.task(u'\\' + path);
+        const int record = openRecords(u"Task"_s)->value(path, -1).toInt();
+        if (!task || taskFacts(task->document).enabled != enabled || record != (enabled ? 0 : 1))
+            left.append(operand);
+    }
+    return left;
+}
+
+/** The rows of the list, which say where OneDrive's uninstaller is; a package that isn't listed gets a bare one. */
+void takePackages(WorkThread &worker, const QStringList &names, bool install)
+{
+    worker.PackageGetList();
+    for (const QString &name : names) {
+        const auto listed = std::find_if(worker.packages.cbegin(), worker.packages.cend(),
+                                         [&](const PackageRow &row) { return row.name == name; });
+        worker.packagesToChange.append(listed == worker.packages.cend() ? PackageRow{name, name, {}} : *listed);
+    }
+    worker.packageInstall = install;
+}
+
+bool isInstalled(const QString &name)
+{
+    if (name == oneDriveName) {
+        const QString program = qEnvironmentVariable("LOCALAPPDATA") + u"\\Microsoft\\OneDrive\\OneDrive.exe"_s;
+        return QFileInfo::exists(platform().hostPath(program));
+    }
+    const auto packages =
+        platform().openKey(u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\"
+                           "Windows\\CurrentVersion\\AppModel\\Repository\\Packages"_s);
+    const QStringList fullNames = packages->childGroups();
+    return std::any_of(fullNames.cbegin(), fullNames.cend(), [&name](const QString &fullName) {
+        return fullName.section(u'_', 0, 0).compare(name, Qt::CaseInsensitive) == 0;
+    });
+}
+
+QStringList packagesUnlike(const QStringList &names, bool installed)
+{
+    QStringList left;
+    for (const QString &name : names) {
+        if (isInstalled(name) != installed)
+            left.append(name);
+    }
+    return left;
+}
+
+// clang-format off
+constexpr JobRow rows[] = {
+    {"services"_L1,          {},           "list the services"_L1,              JobSvcMakeList,     0,  0,
+     "WorkThread::SvcMakeList"_L1},
+    {"svc-disable"_L1,       "NAME..."_L1, "disable and stop services"_L1,      JobSvcDisable,      1, -1,
+     "pgr:SvcStopOrStart=finished"_L1, takeServices, servicesNotDisabled},
+    {"svc-enable"_L1,        "NAME..."_L1, "enable and start services"_L1,      JobSvcEnable,       1, -1,
+     "pgr:SvcStopOrStart=finished"_L1, takeServices, servicesNotEnabled},
+    {"tasks"_L1,             {},           "list the scheduled tasks"_L1,       JobTaskMakeList,    0,  0,
+     "WorkThread::TaskMakeList"_L1},
+    {"task-disable"_L1,      "PATH..."_L1, "disable scheduled tasks"_L1,        JobTaskStopOrStart, 1, -1,
+     "pgr:TaskSetState=finished"_L1,
+     [](WorkThread &worker, const QStringList &paths) { takeTasks(worker, paths, 1); },
+     [](const QStringList &paths) { return tasksUnlike(paths, false); }},
+    {"task-enable"_L1,       "PATH..."_L1, "enable scheduled tasks"_L1,         JobTaskStopOrStart, 1, -1,
+     "pgr:TaskSetState=finished"_L1,
+     [](WorkThread &worker, const QStringList &paths) { takeTasks(worker, paths, 0); },
+     [](const QStringList &paths) { return tasksUnlike(paths, true); }},
+    {"packages"_L1,          {},           "list the packaged applications"_L1, JobPackageGetList,  0,  0,
+     "WorkThread::PackageGetList"_L1},
+    {"package-uninstall"_L1, "NAME..."_L1, "remove packaged applications"_L1,   JobPackageSetState, 1, -1,
+     "   Uninstall   packages finished  "_L1,
+     [](WorkThread &worker, const QStringList &names) { takePackages(worker, names, false); },
+     [](const QStringList &names) { return packagesUnlike(names, false); },
+     [](const QString &line) { recordPackageLine(line, false); }},
+    {"package-install"_L1,   "NAME..."_L1, "bring packaged applications back"_L1, JobPackageSetState, 1, -1,
+     "   Install   packages finished  "_L1,
+     [](WorkThread &worker, const QStringList &names) { takePackages(worker, names, true); },
+     [](const QStringList &names) { return packagesUnlike(names, true); },
+     [](const QString &line) { recordPackageLine(line, true); }},
+    {"autorun"_L1,           {},           "list what starts at logon"_L1,      jobAutorun,         0,  0, {}},
+    {"autorun-disable"_L1,   "NAME..."_L1, "keep programs from starting at logon"_L1, jobAutorun,   1, -1,
+     {}, disableAutoruns, autorunsNotDisabled},
+    {"autorun-enable"_L1,    "NAME..."_L1, "let programs start at logon again"_L1, jobAutorun,      1, -1,
+     {}, enableAutoruns, autorunsNotEnabled},
+    {"tweak"_L1,             "GROUP ID on|off"_L1, "apply a tweak of ssd, gaming or windows, or take it back"_L1,
+     jobTweak,                                                                              3,  3, {}},
+    {"analyze"_L1,           {},           "look for what could be optimized"_L1, JobAutomatizerAnalyze,  0, 0, {}},
+    {"optimize"_L1,          {},           "analyze and optimize"_L1,           JobAutomatizerOptimize, 0,  0, {}},
+    {"restore"_L1,           {},           "take an optimization back"_L1,      JobAutomatizerRestore,  0,  0, {}},
+    {"winsxs"_L1,            {},           "measure the component store"_L1,    JobWinSxsSize,      0,  0, {}},
+    {"sysinfo"_L1,           {},           "collect what the system report tells"_L1, JobGetSystemInfo, 0, 0,
+     "pgr:value:7"_L1, {}, {}, {}, reportTexts},
+    {"monitor"_L1,           {},           "tell once how busy the machine is"_L1, JobMonitor,      0,  0, anyLine},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const JobRow> jobRows()
+{
+    return rows;
+}

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "keepoption.h"
+
+#include "console/arguments.h"
+#include "platform/platform.h"
+#include "work/keepfeatures.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+KeepChoice parseEntry(const QString &entry)
+{
+    const QString name = entry.section(u'=', 0, 0);
+    const QString state = entry.section(u'=', 1);
+    const auto feature = std::find_if(keepFeatures.begin(), keepFeatures.end(),
+                                      [&name](const KeepFeature &each) { return each.name == name; });
+    if (feature == keepFeatures.end() || (state != "0"_L1 && state != "2"_L1))
+        throw UsageError{u"invalid argument '%1' for '--keep'"_s.arg(entry)};
+    return {feature->keep, state.toInt()};
+}
+
+} // namespace
+
+QList<KeepChoice> parseKeep(const QString &text)
+{
+    QList<KeepChoice> choices;
+    for (const QString &entry : text.split(u',', Qt::SkipEmptyParts))
+        choices.append(parseEntry(entry));
+    return choices;
+}
+
+void applyKeep(WorkThread &worker, const QList<KeepChoice> &choices)
+{
+    // Opened above the program's key: opening that would make it, and it counts as a change of the machine.
+    const auto software = platform().openKey(u"HKEY_CURRENT_USER\\Software"_s);
+    qsizetype row = 0;
+    for (const KeepFeature &feature : keepFeatures) {
+        // Any other stored value keeps the feature.
+        const QVariant stored = software->value(u"Kestrune/Ondrevale/"_s + keepSetting(++row), Qt::Checked);
+        if (stored.toInt() == Qt::Unchecked)
+            worker.*feature.keep = Qt::Unchecked;
+    }
+    for (const KeepChoice &choice : choices)
+        worker.*choice.feature = choice.state;
+}
+
+QString keepNames()
+{
+    QStringList names;
+    for (const KeepFeature &feature : keepFeatures)
+        names.append(feature.name);
+    return names.join(", "_L1);
+}

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// kestrune-rehearse: makes rehearsal machines, runs the logic on them, shows what it changes.
+
+#include "console/console.h"
+#include "console/programinterruption.h"
+#include "examples.h"
+#include "machine/machine.h"
+#include "subcommands.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto program = "kestrune-rehearse"_L1;
+
+constexpr const Subcommand *subcommands[] = {
+    &newSubcommand,  &captureSubcommand, &listSubcommand, &runSubcommand,    &previewSubcommand, &verifySubcommand,
+    &diffSubcommand, &guiSubcommand,     &tourSubcommand, &exportSubcommand, &importSubcommand,
+};
+
+QString optionsOf(const Subcommand &subcommand)
+{
+    QString text;
+    for (const OptionRow &option : subcommand.options) {
+        QString word = u"  --"_s + option.name;
+        if (!option.value.isEmpty())
+            word += u' ' + QString(option.value);
+        text += word.leftJustified(26) + u"  "_s + option.help + u'\n';
+    }
+    return text + u"  --help                    display this help and exit\n"_s;
+}
+
+void printHelp(const Subcommand &subcommand)
+{
+    print(u"Usage: %1 %2 %3%4\n"_s.arg(program, subcommand.name, subcommand.operands,
+                                       subcommand.options.empty() ? ""_L1 : " [OPTION]..."_L1));
+    QString summary = subcommand.summary;
+    summary[0] = summary.at(0).toUpper();
+    print(summary + u".\n\n"_s + optionsOf(subcommand));
+    if (subcommand.moreHelp != nullptr) {
+        if (const QString more = subcommand.moreHelp(); !more.isEmpty())
+            print(u'\n' + more);
+    }
+    if (const QString examples = examplesOf(subcommand.name); !examples.isEmpty())
+        print(u'\n' + examples);
+}
+
+void printHelp()
+{
+    print(u"Usage: %1 COMMAND [ARG]...\n"
+          "Rehearse changes to Windows on a copy: a rehearsal machine, which is a folder. Nothing that a command does\n"
+          "leaves that folder, and no program of this computer is started for it.\n\n"
+          "Commands:\n"_s.arg(program));
+    for (const Subcommand *subcommand : subcommands)
+        print(u"  "_s + QString(subcommand->name).leftJustified(9) + subcommand->summary + u'\n');
+    print(u"\nOptions:\n"
+          "  --help     display this help and exit\n"
+          "  --version  output version information and exit\n\n"
+          "To begin with:\n"
+          "  %1 new pc --from windows11\n"
+          "      make a Windows 11 PC in the folder pc\n"
+          "  %1 preview pc --html preview.html\n"
+          "      see what an optimization would change on it, and what would come back\n"
+          "  %1 gui pc\n"
+          "      try whatever you like in the window\n\n"
+          "Exit status: 0 done, 1 the job reported a failure, 2 bad arguments, 3 the machine can't be read,\n"
+          "130 broken off by Ctrl-C.\n"
+          "'%1 COMMAND --help' tells more of a command, with examples.\n"_s.arg(program));
+}
+
+const Subcommand &findSubcommand(const QStringList &words)
+{
+    if (words.isEmpty())
+        throw UsageError{u"missing command"_s};
+    for (const Subcommand *subcommand : subcommands) {
+        if (words.first() == subcommand->name)
+            return *subcommand;
+    }
+    if (words.first().startsWith(u'-'))
+        throw UsageError{u"unrecognized option '%1'"_s.arg(words.first())};
+    throw UsageError{u"unknown command '%1'"_s.arg(words.first())};
+}
+
+/** Whether help is asked for, before the words that are no options any more. */
+bool asksForHelp(const QStringList &words)
+{
+    const qsizetype end = words.indexOf(u"--"_s);
+    return words.first(end < 0 ? words.size() : end).contains(u"--help"_s);
+}
+
+int run(const QStringList &words)
+{
+    if (words.value(0) == "--help"_L1) {
+        printHelp();
+        return ExitDone;
+    }
+    if (words.value(0) == "--version"_L1) {
+        print(u"%1 (Kestrune) %2\n"_s.arg(program, QLatin1StringView(KESTRUNE_VERSION)));
+        return ExitDone;
+    }
+    const Subcommand &subcommand = findSubcommand(words);
+    if (asksForHelp(words.mid(1))) {
+        printHelp(subcommand);
+        return ExitDone;
+    }
+    return subcommand.run(
+        Arguments(words.mid(1), subcommand.options, subcommand.fewestOperands, subcommand.mostOperands));
+}
+
+/** Whatever fails once the program is broken off may fail of that, and isn't told. */
+void complain(const QString &message)
+{
+    stopIfInterrupted();
+    std::fflush(stdout);
+    std::fprintf(stderr, "%s: %s\n", program.data(), message.toUtf8().constData());
+}
+
+int runAndComplain(const QStringList &words)
+{
+    try {
+        const int code = run(words);
+        if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+            throw Failure{ExitJobFailed, u"standard output can't be written"_s};
+        return code;
+    } catch (const UsageError &error) {
+        complain(error.message);
+        std::fprintf(stderr, "Try '%s --help' for more information.\n", program.data());
+        return ExitBadArguments;
+    } catch (const Failure &failure) {
+        complain(failure.message);
+        return failure.code;
+    } catch (const MachineError &error) {
+        complain(error.message);
+        return error.damaged ? ExitMachineUnreadable : ExitJobFailed;
+    }
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    watchForInterruption();
+    const QCoreApplication application(argc, argv);
+    useUtf8Output();
+    try {
+        return runAndComplain(QCoreApplication::arguments().mid(1));
+    } catch (const Interrupted &interrupted) {
+        return interrupted.exitCode;
+    }
+}

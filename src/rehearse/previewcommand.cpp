@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// kestrune-rehearse preview
+
+#include "childprocess.h"
+#include "console/programinterruption.h"
+#include "machine/machine.h"
+#include "machine/machinecopy.h"
+#include "preview/previewpage.h"
+#include "preview/previewreport.h"
+#include "preview/undo.h"
+#include "progress.h"
+#include "reportfile.h"
+#include "subcommands.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/**
+ * Runs a job of the Automatizer on a copy, in a process of its own: a process has one machine. False where there is
+ * nothing to optimize, and so nothing to restore.
+ */
+bool runOnCopy(const QString &copy, const QString &job, const QStringList &options)
+{
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), QStringList{u"run"_s, copy, job} + options);
+    if (!waitForEnd(process))
+        throw Failure{ExitJobFailed, u"%1: %2"_s.arg(job, process.errorString())};
+    if (tellsInterruption(process.exitCode()))
+        throw Interrupted{process.exitCode()};
+    const QString errors = QString::fromUtf8(process.readAllStandardError()).trimmed();
+    if (errors.endsWith("no optimizations found"_L1))
+        return false;
+    if (process.exitCode() != ExitDone)
+        throw Failure{static_cast<ExitCode>(process.exitCode()), errors.section(u": "_s, 1)};
+    return true;
+}
+
+/** The options of a run that a preview takes too. */
+QStringList automatizerOptions(const Arguments &arguments)
+{
+    QStringList options;
+    if (arguments.has("keep"_L1))
+        options << u"--keep"_s << arguments.value("keep"_L1);
+    for (const QLatin1StringView name : {"no-programs"_L1, "no-features"_L1}) {
+        if (arguments.has(name))
+            options << u"--"_s + name;
+    }
+    return options;
+}
+
+/**
+ * A machine as it was at one moment, and what became of it. The machine itself isn't among them: other processes may go
+ * on working on it.
+ */
+struct Copies
+{
+    Copies()
+    {
+        if (!work.isValid())
+            throw Failure{ExitJobFailed, work.errorString()};
+    }
+
+    const QTemporaryDir work;
+    std::unique_ptr<Machine> before{};
+    std::unique_ptr<Machine> optimized{};
+    std::unique_ptr<Machine> restored{};
+};
+
+/** Opening would make the folder anew, and a preview without the PC's files would look right and be wrong. */
+void checkFiles(const QString &folder)
+{
+    if (QFileInfo::exists(folder + u"/machine.sqlite"_s) && !QFileInfo(folder + u"/drive_c"_s).isDir())
+        throw Failure{ExitMachineUnreadable, u"%1: its files are missing: there is no folder drive_c"_s.arg(folder)};
+}
+
+/** What would be brought back must be what the PC has. */
+void checkNames(const QString &folder)
+{
+    if (openMachine(folder)->hasReplacedNames()) {
+        throw Failure{ExitBadArguments,
+                      u"%1: the names of this PC and its user were replaced, and a way back would bring back these; "
+                      "capture it with --with-names"_s.arg(folder)};
+    }
+}
+
+std::unique_ptr<Machine> copyOf(const Machine &machine, const QString &folder)
+{
+    copyMachine(machine, folder);
+    return Machine::open(folder);
+}
+
+void makeCopies(Copies &copies, const QString &folder, const QStringList &options, Progress &progress)
+{
+    constexpr int steps = 5;
+    progress.show(u"copying the machine"_s, 0, steps);
+    copies.before = copyOf(*openMachine(folder), copies.work.filePath(u"before"_s));
+    copies.optimized = copyOf(*copies.before, copies.work.filePath(u"optimized"_s));
+    progress.show(u"Optimize"_s, 1, steps);
+    const bool anyFound = runOnCopy(copies.optimized->folder(), u"optimize"_s, options);
+    progress.show(u"copying the optimized machine"_s, 2, steps);
+    copies.restored = copyOf(*copies.optimized, copies.work.filePath(u"restored"_s));
+    progress.show(u"Restore"_s, 3, steps);
+    if (anyFound)
+        runOnCopy(copies.restored->folder(), u"restore"_s, options);
+    progress.show(u"comparing"_s, 4, steps);
+}
+
+/** The PC, and how it was optimized where that isn't the usual way. */
+QString describedPc(const Machine &machine, const QStringList &options)
+{
+    return options.isEmpty() ? machine.name() : u"%1 (Optimize run with %2)"_s.arg(machine.name(), options.join(u' '));
+}
+
+int runPreview(const Arguments &arguments)
+{
+    const QStringList choice = automatizerOptions(arguments);
+    for (const QLatin1StringView report : {"html"_L1, "json"_L1}) {
+        if (arguments.has(report))
+            checkReportFile(arguments.value(report));
+    }
+    checkFiles(arguments.operand(0));
+    if (arguments.has("undo"_L1)) {
+        checkReportFiles(arguments.value("undo"_L1));
+        checkNames(arguments.operand(0));
+    }
+    Progress progress;
+    Copies copies;
+    makeCopies(copies, arguments.operand(0), choice, progress);
+    const QList<PreviewItem> items = previewItems(*copies.before, *copies.optimized, *copies.restored);
+    progress.clear();
+
+    if (arguments.has("undo"_L1)) {
+        for (const QString &file :
+             writeUndo(*copies.before, *copies.optimized, absoluteFolder(arguments.value("undo"_L1))))
+            print(file + u'\n');
+    }
+    if (arguments.has("html"_L1))
+        writeReportFile(arguments.value("html"_L1), previewHtml(items, describedPc(*copies.before, choice)).toUtf8());
+    if (arguments.has("json"_L1))
+        writeReportFile(arguments.value("json"_L1), previewJson(items));
+    if (!arguments.has("html"_L1) && !arguments.has("json"_L1) && !arguments.has("undo"_L1))
+        print(previewText(items));
+    return ExitDone;
+}
+
+// clang-format off
+constexpr OptionRow options[] = {
+    {"keep"_L1,        "FEATURE=STATE,..."_L1, "say which features are kept, as 'run' does"_L1},
+    {"no-programs"_L1, {},                     "let the Automatizer leave packages and programs at logon alone"_L1},
+    {"no-features"_L1, {},                     "let the Automatizer leave the tweaks alone"_L1},
+    {"html"_L1,        "FILE"_L1,              "write a web page"_L1},
+    {"json"_L1,        "FILE"_L1,              "write JSON"_L1},
+    {"undo"_L1,        "FILE"_L1,              "write the way back: a .reg file, and the commands beside it"_L1},
+};
+// clang-format on
+
+} // namespace
+
+const Subcommand previewSubcommand{
+    "preview"_L1, "DIR"_L1, "show what Optimize would change, and what Restore would bring back"_L1, options, 1, 1,
+    runPreview,
+};

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "progress.h"
+
+#include "console/console.h"
+#include "console/programinterruption.h"
+
+#include <QDeadlineTimer>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+Progress::Progress()
+    : terminal_(errorsGoToTerminal())
+{
+}
+
+Progress::~Progress()
+{
+    clear();
+}
+
+void Progress::show(const QString &step, int done, int total)
+{
+    constexpr qint64 interval = 50;
+    constexpr qsizetype width = 70;
+
+    stopIfInterrupted();
+    if (!terminal_)
+        return;
+    // A terminal is slower than most steps.
+    const qint64 now = QDeadlineTimer::current().deadline();
+    if (shown_ && now - lastShown_ < interval)
+        return;
+    lastShown_ = now;
+    const QString percent = total > 0 ? u"%1% "_s.arg(100 * done / total, 3) : QString();
+    const QString line = percent + (step.size() > width ? u"…"_s + step.last(width - 1) : step);
+    clear();
+    std::fputs(line.toUtf8().constData(), stderr);
+    std::fflush(stderr);
+    shown_ = true;
+}
+
+void Progress::clear()
+{
+    if (shown_)
+        std::fputs("\r\033[K", stderr);
+    shown_ = false;
+}
+
+ProgressCallback Progress::callback()
+{
+    return [this](const QString &step, int done, int total) { show(step, done, total); };
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Progress of long steps, for whoever sits at a terminal.
+
+#pragma once
+
+#include "machine/source/machinesource.h"
+
+/** One line on standard error that is written over and over and is gone in the end; nothing where that is no terminal.
+ */
+class Progress
+{
+public:
+    Progress();
+    ~Progress();
+    Q_DISABLE_COPY_MOVE(Progress)
+
+    /** Also where the program stops if it is broken off: throws Interrupted. */
+    void show(const QString &step, int done, int total);
+    /** Takes the line away, for other output to come. */
+    void clear();
+    ProgressCallback callback();
+
+private:
+    bool terminal_;
+    bool shown_ = false;
+    qint64 lastShown_ = 0;
+};

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// kestrune-rehearse run
+
+#include "automatizer.h"
+#include "jobrunner.h"
+#include "jobs.h"
+#include "keepoption.h"
+#include "machine/seam/simulatedplatform.h"
+#include "progress.h"
+#include "subcommands.h"
+#include "tweakjobs.h"
+#include "work/windowsname.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const JobRow &findJob(const Arguments &arguments)
+{
+    const QString name = arguments.operand(1);
+    const qsizetype operands = arguments.operands().size() - 2;
+    for (const JobRow &row : jobRows()) {
+        if (row.name != name)
+            continue;
+        if (operands < row.fewestOperands)
+            throw UsageError{u"missing operand after '%1'"_s.arg(arguments.operands().last())};
+        if (row.mostOperands >= 0 && operands > row.mostOperands)
+            throw UsageError{u"extra operand '%1'"_s.arg(arguments.operand(2 + row.mostOperands))};
+        return row;
+    }
+    throw UsageError{u"unknown job '%1'"_s.arg(name)};
+}
+
+double parsePace(const Arguments &arguments)
+{
+    if (!arguments.has("pace"_L1))
+        return 0;
+    bool isNumber = false;
+    const double pace = arguments.value("pace"_L1).toDouble(&isNumber);
+    if (!isNumber || !(pace >= 0 && pace <= 1000))
+        throw UsageError{u"invalid argument '%1' for '--pace'"_s.arg(arguments.value("pace"_L1))};
+    return pace;
+}
+
+/** Whether a job's last line is the one that the row tells. */
+bool isClosed(const JobRow &row, const std::optional<QString> &lastLine)
+{
+    return lastLine && (row.closingLine == anyLine || *lastLine == row.closingLine);
+}
+
+/** Prints what starts at logon now. */
+void printAutorun(WorkThread &worker, LinePrinter &printer)
+{
+    worker.AutorunGetList();
+    for (const AutorunRow &entry : std::as_const(worker.autoruns))
+        printer.take("autorun"_L1, entry);
+}
+
+/** A tweak tells nothing of itself; what is left to do for the user is said. */
+void runTweak(WorkThread &worker, const TweakRequest &tweak, LinePrinter &printer)
+{
+    if (const std::optional<int> job = tweak.job())
+        runToEnd(worker, *job, printer);
+    else
+        runToEnd([&] { (worker.*tweak.run)(tweak.apply ? 1 : 0, tweak.id); });
+    printer.take("tweak"_L1, u"%1 %2 %3"_s.arg(tweak.group).arg(tweak.id).arg(tweak.apply ? "on"_L1 : "off"_L1));
+    if (worker.needReboot == 1)
+        printer.take("tweak"_L1, u"restart needed"_s);
+}
+
+/** Runs a job of the worker and prints what it leaves. A Failure where it didn't come to its end. */
+void runOrdinaryJob(WorkThread &worker, const JobRow &row, LinePrinter &printer)
+{
+    if (!isClosed(row, runToEnd(worker, row.job, printer, row.record)))
+        throw Failure{ExitJobFailed, u"the job %1 ended without its closing line"_s.arg(row.name)};
+    if (row.results != nullptr) {
+        for (const auto &[name, text] : row.results(worker))
+            printer.takeResult(name, text);
+    }
+}
+
+/** The state of the window's boxes and the answers to its questions. */
+AutomatizerChoice automatizerChoice(const Arguments &arguments)
+{
+    return {.programs = !arguments.has("no-programs"_L1),
+            .features = !arguments.has("no-features"_L1),
+            .walk = arguments.has("yes"_L1) && !arguments.has("no-walk"_L1)};
+}
+
+/** Runs what the row says on a worker that has its input. */
+void runRow(WorkThread &worker, const JobRow &row, const Arguments &arguments)
+{
+    Progress progress;
+    progress.show(u"running %1 ..."_s.arg(row.name), 0, 0);
+    LinePrinter printer(arguments.has("json"_L1), progress);
+    if (row.job == jobAutorun)
+        printAutorun(worker, printer);
+    else if (row.job == jobTweak)
+        runTweak(worker, parseTweak(arguments.operands().mid(2)), printer);
+    else if (isAutomatizerJob(row.job))
+        runAutomatizer(worker, row.job, automatizerChoice(arguments), printer);
+    else
+        runOrdinaryJob(worker, row, printer);
+}
+
+int runJob(const Arguments &arguments)
+{
+    const JobRow &row = findJob(arguments);
+    const QStringList operands = arguments.operands().mid(2);
+    if (row.job == jobTweak)
+        parseTweak(operands); // before anything is opened
+    SimulatedOptions simulated;
+    simulated.elevated = !arguments.has("not-elevated"_L1);
+    simulated.pace = parsePace(arguments);
+    const QList<KeepChoice> keep = parseKeep(arguments.value("keep"_L1));
+
+    const QString folder = openMachine(arguments.operand(0))->folder();
+    setPlatform(std::make_unique<SimulatedPlatform>(folder, simulated));
+    WorkThread worker;
+    applyKeep(worker, keep);
+    const WindowsName windows = readWindowsName();
+    worker.winName = windows.product;
+    worker.winBuild = windows.build;
+    if (row.prepare != nullptr)
+        row.prepare(worker, operands);
+
+    runRow(worker, row, arguments);
+    if (row.unreached != nullptr) {
+        if (const QStringList left = row.unreached(operands); !left.isEmpty())
+            throw Failure{ExitJobFailed, u"%1 failed for %2"_s.arg(row.name, left.join(", "_L1))};
+    }
+    return ExitDone;
+}
+
+QString moreHelp()
+{
+    QString text = u"Jobs:\n"_s;
+    for (const JobRow &row : jobRows())
+        text += u"  "_s + (QString(row.name) + u' ' + row.operands).leftJustified(28) + row.help + u'\n';
+    text += u"\nTweaks, by their group and ID:\n"_s + tweaksInWords();
+    return text
+           + u"\nFeatures for --keep, each with 2 to keep it or 0 to give it up (default: as in the machine's Keep "
+             u"list):\n"
+             "  %1.\n"_s.arg(keepNames());
+}
+
+// clang-format off
+constexpr OptionRow options[] = {
+    {"not-elevated"_L1, {},                   "run it as a user without administrator rights"_L1},
+    {"pace"_L1,         "FACTOR"_L1,          "sleep this many times each pause of the job (default 0)"_L1},
+    {"keep"_L1,         "FEATURE=STATE,..."_L1, "keep or give up features, for this run alone"_L1},
+    {"no-programs"_L1,  {},                   "let the Automatizer leave packages and programs at logon alone"_L1},
+    {"no-features"_L1,  {},                   "let the Automatizer leave the tweaks alone"_L1},
+    {"yes"_L1,          {},                   "answer Yes to the window's question for a walk over all files"_L1},
+    {"no-walk"_L1,      {},                   "answer No to it (default)"_L1},
+    {"json"_L1,         {},                   "print each line as a JSON object"_L1},
+};
+// clang-format on
+
+} // namespace
+
+const Subcommand runSubcommand{
+    "run"_L1, "DIR JOB [ARG]..."_L1, "run a job without a window and print its lines"_L1, options, 2, -1, runJob,
+    moreHelp,
+};

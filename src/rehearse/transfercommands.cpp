@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// kestrune-rehearse import and export
+
+#include "machine/machine.h"
+#include "machine/source/regfile.h"
+#include "progress.h"
+#include "subcommands.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int runImport(const Arguments &arguments)
+{
+    const std::unique_ptr<Machine> machine = openMachine(arguments.operand(0));
+    Progress progress;
+    importFiles(*machine, arguments.operands().mid(1), progress.callback());
+    return ExitDone;
+}
+
+int runExport(const Arguments &arguments)
+{
+    const std::unique_ptr<Machine> machine = openMachine(arguments.operand(0));
+    const QString key = arguments.operand(1);
+    if (!machine->registry().find(key))
+        throw Failure{ExitBadArguments, u"there is no key '%1'"_s.arg(key)};
+    print(writeRegistryScript(machine->registry(), key));
+    return ExitDone;
+}
+
+} // namespace
+
+const Subcommand importSubcommand{
+    "import"_L1,
+    "DIR FILE..."_L1,
+    "import .reg files, machine.json, or what 'sc query state= all' or 'schtasks /xml' printed on a PC"_L1,
+    {},
+    2,
+    -1,
+    runImport,
+};
+
+const Subcommand exportSubcommand{
+    "export"_L1, "DIR KEY"_L1, "print a registry key and all below it as a .reg file"_L1, {}, 2, 2, runExport,
+};

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One program behind all stock tools of a rehearsal machine: it answers as the tool by whose name it is started.
+
+#include "console/console.h"
+#include "machine/machine.h"
+#include "machinetoolhost.h"
+#include "tools.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QFileInfo>
+#include <QThread>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int exitMachineUnreadable = 3;
+
+void print(const QByteArray &bytes, std::FILE *stream = stdout)
+{
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+}
+
+/** Waits to be ended; also ends when its starter has gone, so that a run that was broken off leaves nothing behind. */
+void hang()
+{
+    constexpr int longest = 10 * 60 * 1000;
+    constexpr int slice = 50;
+
+    std::fflush(stdout);
+    const QDeadlineTimer deadline(longest);
+    while (!deadline.hasExpired() && !starterIsGone())
+        QThread::msleep(slice);
+}
+
+ToolResult runFault(const ToolFault &fault)
+{
+    if (fault.missing)
+        return {exitNoSuchProgram};
+    const QByteArray output = fault.output.value_or(QString()).toUtf8();
+    for (int i = 0; i < fault.repeat && !output.isEmpty(); ++i)
+        print(output);
+    if (fault.hang)
+        hang();
+    return {fault.exitCode.value_or(0)};
+}
+
+/** The machine in whose tools folder the program lies, else the one that the environment names. */
+QString machineFolder(const QString &program)
+{
+    const QFileInfo file(program);
+    if (program.contains(u'/') || program.contains(u'\\')) {
+        const QString folder = QFileInfo(file.absolutePath()).path();
+        if (QFileInfo::exists(folder + u"/machine.sqlite"_s))
+            return folder;
+    }
+    return qEnvironmentVariable("KESTRUNE_MACHINE");
+}
+
+int runOnMachine(const QString &program, const QStringList &arguments)
+{
+    const std::unique_ptr<Machine> machine = Machine::open(machineFolder(program));
+    const qint64 self = QCoreApplication::applicationPid();
+    // A number that an earlier process had must not answer for this one.
+    machine->dropExitCode(self);
+
+    const QString name = toolName(program);
+    const std::optional<ToolFault> fault = machine->fault(name, arguments);
+    MachineToolHost host(*machine, qEnvironmentVariable("KESTRUNE_ELEVATED") != "0"_L1);
+    const ToolResult result = fault ? runFault(*fault) : runTool(name, host, arguments);
+
+    // All is written down before anyone can know the end of the output.
+    machine->logCommand(name, arguments, result.exitCode);
+    machine->leaveExitCode(self, result.exitCode);
+    print(result.errors, stderr);
+    print(result.output);
+    return result.exitCode;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    useBinaryOutput();
+    QStringList arguments = QCoreApplication::arguments();
+    const QString program = arguments.takeFirst();
+    try {
+        // Systems with exit codes of 8 bits cut it; the whole one lies in the machine.
+        return runOnMachine(program, arguments);
+    } catch (const MachineError &error) {
+        std::fprintf(stderr, "%s: %s\n", qPrintable(QFileInfo(program).fileName()), qPrintable(error.message));
+        return exitMachineUnreadable;
+    }
+}

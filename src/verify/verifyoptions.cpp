@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "console/programinterruption.h"
+#include "preview/featurewords.h"
+#include "toollog.h"
+#include "verify.h"
+#include "work/tweaks/tweakcatalogue.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Place = std::tuple<DiffKind, QString, QString>;
+
+Place placeOf(const DiffRow &row)
+{
+    return {row.kind, foldName(row.path), foldName(row.name)};
+}
+
+QString shownPlace(const DiffRow &row)
+{
+    return row.name.isEmpty() ? row.path : row.path + u'\\' + row.name;
+}
+
+bool isRecorded(Machine &machine, const QString &box)
+{
+    const auto key = machine.registry().find(recordsKey("Tweak"_L1));
+    const auto value = key ? machine.registry().value(*key, box) : std::nullopt;
+    return value && textOf(value->data) == "true"_L1;
+}
+
+/** Where a value is removed from a key that isn't there, the key comes to be, and that changes nothing. */
+bool isEmptyKey(const DiffRow &row)
+{
+    return row.kind == DiffKind::Registry && row.name.isEmpty();
+}
+
+/** Whether a run is the one that writes what the row tells. */
+bool writes(const ToolRun &run, const DiffRow &row)
+{
+    if (row.kind == DiffKind::BootOption)
+        return run.program == "bcdedit"_L1 && run.arguments.contains(row.path, Qt::CaseInsensitive);
+    if (row.kind == DiffKind::Task)
+        return run.program == "schtasks"_L1 && run.arguments.contains(row.path, Qt::CaseInsensitive);
+    return row.path.endsWith("\\hiberfil.sys"_L1, Qt::CaseInsensitive) && run.program == "powercfg"_L1
+           && run.arguments.contains("-h"_L1);
+}
+
+/** The exit code of the last run that was to write it, where there was one and it failed. */
+std::optional<ToolRun> refusal(const QList<ToolRun> &runs, const DiffRow &row)
+{
+    const auto last =
+        std::find_if(runs.crbegin(), runs.crend(), [&row](const ToolRun &run) { return writes(run, row); });
+    return last == runs.crend() || last->exitCode == 0 ? std::nullopt : std::optional(*last);
+}
+
+/** What the rows of one option, which aren't in force, make of it. */
+class OptionJudgement
+{
+public:
+    OptionJudgement(const QMap<Place, DiffRow> &sinceBefore, const QList<ToolRun> &runs)
+        : sinceBefore_(sinceBefore)
+        , runs_(runs)
+    {
+    }
+
+    void judge(VerifiedItem &item, const DiffRow &row) const
+    {
+        // Where nothing has happened since, the machine before has what the machine now has.
+        const auto change = sinceBefore_.find(placeOf(row));
+        const bool asBefore = change == sinceBefore_.end();
+        item.details.append({shownPlace(row), asBefore ? row.before : change->before, row.before, row.after});
+        if (const std::optional<ToolRun> refused = refusal(runs_, row)) {
+            item.verdict = Verdict::Refused;
+            item.why = u"%1 ended with %2"_s.arg(refused->program).arg(refused->exitCode);
+        } else if (item.verdict != Verdict::Refused && !asBefore) {
+            item.verdict = Verdict::ChangedBack;
+        } else if (item.verdict == Verdict::InForce) {
+            item.verdict = Verdict::AsBefore;
+        }
+    }
+
+private:
+    const QMap<Place, DiffRow> &sinceBefore_;
+    const QList<ToolRun> &runs_;
+};
+
+QMap<Place, DiffRow> byPlace(const QList<DiffRow> &rows)
+{
+    QMap<Place, DiffRow> map;
+    for (const DiffRow &row : rows)
+        map.insert(placeOf(row), row);
+    return map;
+}
+
+} // namespace
+
+QList<VerifiedItem> verifyOptions(Machine &before, Machine &now, Machine &again)
+{
+    const QMap<Place, DiffRow> sinceBefore = byPlace(compareMachines(before, now));
+    QMap<QString, QList<DiffRow>> rowsOf; // by box
+    for (const DiffRow &row : compareMachines(now, again)) {
+        if (!isEmptyKey(row))
+            rowsOf[featureOf(row)].append(row);
+    }
+    const QList<ToolRun> runs = readToolLog(now);
+    const OptionJudgement judgement(sinceBefore, runs);
+
+    QList<VerifiedItem> items;
+    for (const TweakBox &box : tweakBoxes()) {
+        stopIfInterrupted();
+        if (!isRecorded(now, box.name))
+            continue;
+        VerifiedItem item{PreviewGroup::Features, box.name, featureWords(box.name).option};
+        for (const DiffRow &row : rowsOf.value(box.name))
+            judgement.judge(item, row);
+        items.append(item);
+    }
+    return items;
+}

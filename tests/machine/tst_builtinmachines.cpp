@@ -1,0 +1,312 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the built-in machines have of scheduled tasks, packaged applications and programs started at logon.
+
+#include "support/smallmachine.h"
+#include "support/suite.h"
+
+#include "machine/resourcetext.h"
+#include "machine/taskdocument.h"
+
+#include <QJsonArray>
+#include <QSet>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString userVersion = u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion"_s;
+const QString appModel = u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\"
+                         "CurrentVersion\\AppModel"_s;
+
+/** The machine of the running row. */
+class BuiltIn
+{
+public:
+    explicit BuiltIn(const QString &name)
+    {
+        makeMachine(folder_.filePath(u"m"_s), builtProgram(u"machines/"_s + name), Existing::Keep);
+        machine_ = Machine::open(folder_.filePath(u"m"_s));
+    }
+    Machine *operator->() { return machine_.get(); }
+    Machine &operator*() { return *machine_; }
+    QString text(const QString &key, const QString &name)
+    {
+        const auto id = machine_->registry().find(key);
+        const auto value = id ? machine_->registry().value(*id, name) : std::nullopt;
+        return value ? textOf(value->data) : QString();
+    }
+    QStringList subkeys(const QString &key)
+    {
+        const auto id = machine_->registry().find(key);
+        return id ? QStringList(machine_->registry().subkeys(*id)) : QStringList();
+    }
+    bool exists(const QString &windowsPath) { return QFile::exists(machine_->hostPath(windowsPath)); }
+
+private:
+    QTemporaryDir folder_;
+    std::unique_ptr<Machine> machine_;
+};
+
+} // namespace
+
+class TestBuiltInMachines : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tasks_data();
+    void tasks();
+    void theAutomatizerFindsTasksOfFeaturesAndAnEncoder_data() { machines(); }
+    void theAutomatizerFindsTasksOfFeaturesAndAnEncoder();
+    void taskReferencesAreResolved_data() { machines(); }
+    void taskReferencesAreResolved();
+    void packages_data() { machines(); }
+    void packages();
+    void oneDrive_data() { machines(); }
+    void oneDrive();
+    void whatTweaksLookFor_data();
+    void whatTweaksLookFor();
+    void runKeys_data() { machines(); }
+    void runKeys();
+    void hardware_data() { machines(); }
+    void hardware();
+    void hardwareDiffersBetweenThem();
+
+private:
+    static void machines()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"windows11", "windows10"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+};
+
+void TestBuiltInMachines::tasks_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<qsizetype>("fewest");
+    QTest::addColumn<QString>("ofTheVendor");
+    QTest::newRow("windows11") << u"windows11"_s << qsizetype(180)
+                               << u"\\NvTmRep_{B2FE1952-0186-46C3-BAEC-A80AA35AC5B8}"_s;
+    QTest::newRow("windows10") << u"windows10"_s << qsizetype(145) << u"\\AMDRyzenMasterSDKTask"_s;
+}
+
+void TestBuiltInMachines::tasks()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, ofTheVendor);
+    BuiltIn machine(name);
+    const QList<ScheduledTask> tasks = machine->tasks();
+    QFETCH(qsizetype, fewest);
+    QVERIFY(tasks.size() >= fewest);
+    QVERIFY(machine->task(ofTheVendor));
+    QVERIFY(machine->task(u"\\Microsoft\\Windows\\Ras\\MobilityManager"_s));
+
+    int off = 0, onlyInATrigger = 0, undescribed = 0, described = 0, references = 0, forAdministrators = 0;
+    for (const ScheduledTask &task : tasks) {
+        const TaskFacts facts = taskFacts(task.document);
+        QCOMPARE(facts.uri, task.path);
+        off += facts.enabled ? 0 : 1;
+        onlyInATrigger += facts.enabled && task.document.contains("<Enabled>"_L1);
+        undescribed += facts.description.isEmpty();
+        references += facts.description.startsWith("$(@"_L1);
+        described += !facts.description.isEmpty() && !facts.description.startsWith("$(@"_L1);
+        forAdministrators += facts.forAdministrators;
+    }
+    for (const int kind : {off, onlyInATrigger, undescribed, described, references, forAdministrators})
+        QVERIFY(kind > 0 && kind < tasks.size());
+}
+
+void TestBuiltInMachines::theAutomatizerFindsTasksOfFeaturesAndAnEncoder()
+{
+    QFETCH(QString, name);
+    BuiltIn machine(name);
+    int on = 0, off = 0;
+    for (const ScheduledTask &task : machine->tasks()) {
+        if (task.path.contains("\\Printing\\"_L1))
+            ++(taskFacts(task.document).enabled ? on : off);
+    }
+    QVERIFY(on > 0 && off > 0);
+    QCOMPARE(taskFacts(machine->task(u"\\Microsoft\\Windows\\Ras\\MobilityManager"_s)->document).enabled,
+             name == u"windows11");
+    const QStringList encoders = machine->processes().filter(u"EncoderServer"_s);
+    QCOMPARE(encoders, QStringList{name == u"windows11" ? u"EncoderServer64.exe"_s : u"EncoderServer.exe"_s});
+    QVERIFY(machine->processes().contains(u"RTSS.exe"_s));
+    QVERIFY(machine.exists(u"C:\\Program Files (x86)\\RivaTuner Statistics Server\\Profiles\\config"_s));
+}
+
+void TestBuiltInMachines::taskReferencesAreResolved()
+{
+    QFETCH(QString, name);
+    BuiltIn machine(name);
+    for (const ScheduledTask &task : machine->tasks()) {
+        const QString description = taskFacts(task.document).description;
+        if (!description.startsWith("$(@"_L1))
+            continue;
+        const QString reference = description.sliced(2).chopped(1);
+        QVERIFY2(resolveResourceText(*machine, reference) != reference, qUtf8Printable(task.path));
+    }
+}
+
+void TestBuiltInMachines::packages()
+{
+    QFETCH(QString, name);
+    BuiltIn machine(name);
+    const QString key = appModel + u"\\Repository\\Packages"_s;
+    const QStringList fullNames = machine.subkeys(key);
+    QVERIFY(fullNames.size() >= 85);
+    QSet<QString> families;
+    int plain = 0, resources = 0, references = 0;
+    for (const QString &fullName : fullNames) {
+        families.insert(fullName.section(u'_', 0, 0));
+        QCOMPARE(fullName.count(u'_'), 4);
+        const QString shown = machine.text(key + u'\\' + fullName, u"DisplayName"_s);
+        resources += shown.startsWith("ms-resource:"_L1);
+        references += shown.startsWith("@{"_L1 + fullName + u'?');
+        plain += !shown.isEmpty() && !shown.startsWith("ms-resource:"_L1) && !shown.startsWith(u'@');
+        QCOMPARE(machine.text(key + u'\\' + fullName, u"PackageID"_s), fullName);
+    }
+    QCOMPARE(plain + resources + references, int(fullNames.size()));
+    QVERIFY(plain > 0 && resources > 0 && references > 0);
+    QVERIFY(families.size() < fullNames.size());
+    QCOMPARE(machine.subkeys(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Appx\\"
+                             "AppxAllUserStore\\Applications"_s),
+             fullNames);
+}
+
+void TestBuiltInMachines::oneDrive()
+{
+    QFETCH(QString, name);
+    BuiltIn machine(name);
+    const QString home = machine->environment().value(u"LOCALAPPDATA"_s);
+    QVERIFY(machine.exists(home + u"\\Microsoft\\OneDrive\\OneDrive.exe"_s));
+    QVERIFY(machine.exists(u"C:\\Windows\\SysWOW64\\OneDriveSetup.exe"_s));
+    QCOMPARE(machine.exists(u"C:\\Windows\\System32\\OneDriveSetup.exe"_s), name == "windows11"_L1);
+    const QString command = machine.text(userVersion + u"\\Uninstall\\OneDriveSetup.exe"_s, u"UninstallString"_s);
+    QVERIFY(command.startsWith(u'"') && command.endsWith("\"  /uninstall "_L1));
+    QVERIFY(machine.exists(command.split(u'"').at(1)));
+    QVERIFY(machine.exists(machine->environment().value(u"TEMP"_s)));
+    QVERIFY(machine.exists(u"C:\\Windows\\system32\\WindowsPowerShell\\v1.0\\powershell.exe"_s));
+}
+
+void TestBuiltInMachines::whatTweaksLookFor_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QString>("cloudService");
+    QTest::addColumn<QString>("vendor");
+    QTest::addColumn<QList<qsizetype>>("hints");
+    QTest::newRow("windows11") << u"windows11"_s << u"MicrosoftWindows.Client.CBS_cw5n1h2txyewy\\SearchHost.exe"_s
+                               << u"CloudBackupRestoreSvc_5cbba"_s << u"NVIDIA"_s << QList<qsizetype>{0, 0, 22};
+    QTest::newRow("windows10") << u"windows10"_s << u"Microsoft.Windows.Search_cw5n1h2txyewy\\SearchApp.exe"_s
+                               << u"CloudBackupRestoreSvc_3f1a2"_s << u"Advanced Micro Devices, Inc."_s
+                               << QList<qsizetype>{0, 21, 22};
+}
+
+void TestBuiltInMachines::whatTweaksLookFor()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, search);
+    QFETCH(const QString, cloudService);
+    BuiltIn machine(name);
+    const QString control = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\"_s;
+
+    const QString interfaces = control + u"Services\\Tcpip\\Parameters\\Interfaces"_s;
+    QList<qsizetype> hints;
+    for (const QString &each : machine.subkeys(interfaces)) {
+        const QString hint = machine.text(interfaces + u'\\' + each, u"DhcpNetworkHint"_s);
+        hints.append(hint.size());
+        if (hint.size() == 22)
+            QCOMPARE(machine.subkeys(interfaces + u'\\' + each), QStringList(hint.first(12)));
+    }
+    std::sort(hints.begin(), hints.end());
+    QTEST(hints, "hints");
+
+    const QString video = control + u"Control\\Video"_s;
+    const QStringList adapters = machine.subkeys(video);
+    QCOMPARE(adapters.size(), 2);
+    QTEST(machine.text(video + u'\\' + adapters.first() + u"\\0000"_s, u"ProviderName"_s), "vendor");
+
+    QVERIFY(machine.exists(u"C:\\Windows\\SystemApps\\"_s + search));
+    QVERIFY(machine.exists(u"C:\\hiberfil.sys"_s));
+    QVERIFY(machine->task(u"\\Microsoft\\Windows\\CloudRestore\\Backup"_s));
+    QVERIFY(machine->task(u"\\Microsoft\\Windows\\CloudRestore\\Restore"_s));
+    const auto service = machine->registry().find(control + u"Services\\"_s + cloudService);
+    QVERIFY(service);
+    // On one of them nothing sorts behind Type, on the other something does.
+    QCOMPARE(machine->registry().valueNames(*service).constLast(),
+             name == u"windows11" ? u"Type"_s : u"UserServiceFlags"_s);
+    QCOMPARE(machine->registry().find(control + u"Services\\Hpet"_s).has_value(), name == u"windows10");
+}
+
+void TestBuiltInMachines::runKeys()
+{
+    QFETCH(QString, name);
+    BuiltIn machine(name);
+    const QString wow = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
+    const QString machineRun = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
+    int quoted = 0, unquoted = 0, withEquals = 0, missing = 0, unnamed = 0;
+    for (const QString &key : {userVersion + u"\\Run"_s, machineRun, wow}) {
+        const auto id = machine->registry().find(key);
+        QVERIFY(id);
+        for (const RegistryValue &value : machine->registry().values(*id)) {
+            const QString command = textOf(value.data);
+            unnamed += value.name.isEmpty();
+            withEquals += command.contains(u'=');
+            unquoted += !command.startsWith(u'"');
+            quoted += command.startsWith(u'"');
+            missing += !value.name.isEmpty() && command.startsWith(u'"') && !machine.exists(command.split(u'"').at(1));
+        }
+    }
+    QVERIFY(quoted > 2 && unquoted > 1 && withEquals > 0);
+    QCOMPARE(missing, 1);
+    QCOMPARE(unnamed, 1);
+    QVERIFY(!machine.text(machineRun, u"SecurityHealth"_s).isEmpty());
+}
+
+void TestBuiltInMachines::hardware()
+{
+    QFETCH(QString, name);
+    BuiltIn machine(name);
+    // As many processes for WMI as there are.
+    QCOMPARE(machine->wmiInstances(u"win32_process"_s).size(), machine->processes().size());
+    for (const QJsonObject &process : machine->wmiInstances(u"win32_process"_s))
+        QVERIFY(process.value(u"HandleCount"_s).toInt(-1) >= 0);
+    for (const QString &single :
+         {u"Win32_ComputerSystem"_s, u"Win32_OperatingSystem"_s, u"Win32_PageFileUsage"_s, u"Win32_Processor"_s})
+        QCOMPARE(machine->wmiInstances(single).size(), 1);
+    const QJsonObject hardware = machine->hardware();
+    const QString freeMemory =
+        machine->wmiInstances(u"Win32_OperatingSystem"_s).first().value(u"FreePhysicalMemory"_s).toString();
+    QCOMPARE(hardware.value(u"freeMemory"_s).toInteger(), freeMemory.toLongLong() * 1024);
+    QVERIFY(hardware.value(u"threads"_s).toInt() > machine->processes().size());
+    const QJsonObject drive = hardware.value(u"volumes"_s).toObject().value(u"C:"_s).toObject();
+    QVERIFY(drive.value(u"seekPenalty"_s).isBool() && drive.value(u"freeBytes"_s).toInteger() > 0);
+    const QJsonArray steps = hardware.value(u"processorTimes"_s).toArray();
+    // An odd number, since a run of the monitor takes two: so all of them are seen.
+    QVERIFY(steps.size() > 5 && steps.size() % 2 == 1);
+    for (const QJsonValue step : steps)
+        QVERIFY(step[u"kernel"_s].toInteger() >= step[u"idle"_s].toInteger()); // which it contains
+}
+
+void TestBuiltInMachines::hardwareDiffersBetweenThem()
+{
+    BuiltIn eleven(u"windows11"_s);
+    BuiltIn ten(u"windows10"_s);
+    for (const QString &className : {u"Win32_PhysicalMemory"_s, u"Win32_DiskDrive"_s, u"Win32_VideoController"_s}) {
+        QCOMPARE(eleven->wmiInstances(className).size(), 1);
+        QCOMPARE(ten->wmiInstances(className).size(), 2);
+    }
+    const auto cache = [](BuiltIn &machine) {
+        return machine->wmiInstances(u"Win32_Processor"_s).first().value(u"L2CacheSize"_s).toInt();
+    };
+    QVERIFY(cache(eleven) >= 1024 && cache(ten) > 0 && cache(ten) < 1024);
+    const QString radeon = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\ATI Technologies\\Install"_s;
+    QVERIFY(!ten.text(radeon, u"RadeonSoftwareVersion"_s).isEmpty());
+    QVERIFY(ten.exists(ten.text(radeon, u"InstallDir"_s) + u"\\Bin64\\AMDSoftwareInstaller.exe"_s));
+    QVERIFY(!eleven->registry().find(radeon));
+}
+
+KESTRUNE_SUITE(TestBuiltInMachines)
+#include "tst_builtinmachines.moc"

@@ -1,0 +1,396 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The Automatizer in kestrune-rehearse: all its lines on the built-in machines, its options and refusals, and what is
+// left when the process is killed.
+
+#include "machine/taskdocument.h"
+#include "support/automatizermachine.h"
+#include "support/rehearsing.h"
+#include "support/suite.h"
+#include "work/automatizer/restorelists.h"
+#include "work/settings.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString givenUp = u"printer=0,bluetooth-audio=0,files-sharing=0,xbox-app=0,upnp=0,proxy-vpn=0,nfc=0,"
+                        "xbox-game-bar=0,codecs=0"_s;
+
+Ended runOn(const TestMachine &machine, const QStringList &arguments)
+{
+    return rehearse(QStringList{u"run"_s, machine.folder()} + arguments);
+}
+
+/** The recorded lines of a built-in machine. A carriage return stands as "\r" there. */
+QByteArray recorded(const QString &name)
+{
+    return readFile(QStringLiteral(KESTRUNE_TEST_DATA "/automatizer/") + name + u".txt"_s);
+}
+
+/** Line by line, so that the first one that differs is told. */
+void compareLines(const QByteArray &actual, const QByteArray &expected)
+{
+    const QList<QByteArray> actualLines = actual.split('\n');
+    const QList<QByteArray> expectedLines = expected.split('\n');
+    for (qsizetype i = 0; i < qMin(actualLines.size(), expectedLines.size()); ++i)
+        QCOMPARE(actualLines.at(i), expectedLines.at(i));
+    QCOMPARE(actualLines.size(), expectedLines.size());
+}
+
+} // namespace
+
+class TestRehearseAutomatizer : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void linesOfTheBuiltInMachines_data();
+    void linesOfTheBuiltInMachines();
+    void refusals();
+    void nothingFoundIsAFailure();
+    void choicesLeaveOutWhatTheySay();
+    void storedKeepStatesAreTheDefault();
+    void theWalkIsRunOnlyWhenAskedFor_data();
+    void theWalkIsRunOnlyWhenAskedFor();
+    void aWalkBehindRestoreTellsThePage();
+    void differencesOfTheBuiltInMachines_data();
+    void differencesOfTheBuiltInMachines();
+    void theWindowsClosingStepsAreDone();
+#ifndef Q_OS_WIN
+    void aKilledOptimizeLeavesNothingUnaccounted_data();
+    void aKilledOptimizeLeavesNothingUnaccounted();
+#endif
+};
+
+void TestRehearseAutomatizer::linesOfTheBuiltInMachines_data()
+{
+    QTest::addColumn<QString>("builtIn");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QList<QStringList>>("runs");
+    const QList<QStringList> kept{{u"optimize"_s}, {u"restore"_s}};
+    const QList<QStringList> twice{{u"optimize"_s, u"--no-features"_s, u"--keep"_s, givenUp},
+                                   {u"optimize"_s, u"--no-features"_s},
+                                   {u"restore"_s, u"--no-features"_s}};
+    for (const char *name : {"windows11", "windows10"}) {
+        const QString builtIn = QString::fromLatin1(name);
+        QTest::addRow("%s, all kept", name) << builtIn << u"%1-kept"_s.arg(builtIn) << kept;
+        QTest::addRow("%s, given up and kept again", name) << builtIn << u"%1-givenup"_s.arg(builtIn) << twice;
+    }
+}
+
+void TestRehearseAutomatizer::linesOfTheBuiltInMachines()
+{
+    QFETCH(const QString, builtIn);
+    QFETCH(const QString, file);
+    QFETCH(const QList<QStringList>, runs);
+    const QTemporaryDir folder;
+    const QString machine = folder.filePath(u"m"_s);
+    QCOMPARE(rehearse({u"new"_s, machine, u"--from"_s, builtIn}).exitCode, done);
+    QByteArray lines;
+    for (const QStringList &run : runs) {
+        const Ended ended = rehearse(QStringList{u"run"_s, machine} + run);
+        QCOMPARE(ended.exitCode, done);
+        lines += ended.output;
+    }
+    compareLines(lines.replace("\r", "\\r"), recorded(file));
+}
+
+void TestRehearseAutomatizer::refusals()
+{
+    TestMachine machine;
+    fillServices(machine);
+    for (const char *job : {"analyze", "optimize", "restore"}) {
+        const Ended ended = runOn(machine, {QString::fromLatin1(job), u"--not-elevated"_s});
+        QCOMPARE(ended.exitCode, jobFailed);
+        QVERIFY(ended.output.isEmpty());
+        QVERIFY(ended.errors.contains("administrator rights"));
+    }
+    const Ended tooEarly = runOn(machine, {u"restore"_s});
+    QCOMPARE(tooEarly.exitCode, jobFailed);
+    QVERIFY(tooEarly.output.isEmpty());
+    QVERIFY(tooEarly.errors.contains("not yet been optimized"));
+    QCOMPARE(machine.names(settingsKey), QStringList());
+}
+
+void TestRehearseAutomatizer::nothingFoundIsAFailure()
+{
+    const TestMachine machine;
+    const Ended ended = runOn(machine, {u"optimize"_s});
+    QCOMPARE(ended.exitCode, jobFailed);
+    QVERIFY(ended.output.endsWith("\tAutomatizerAnalyze:finished\n"));
+    QVERIFY(ended.errors.contains("no optimizations found"));
+    QVERIFY(!wasOptimized());
+}
+
+void TestRehearseAutomatizer::choicesLeaveOutWhatTheySay()
+{
+    TestMachine machine;
+    fillAutomatizerMachine(machine);
+    const Ended ended =
+        runOn(machine, {u"optimize"_s, u"--no-programs"_s, u"--no-features"_s, u"--keep"_s, u"nfc=0"_s});
+    QCOMPARE(ended.exitCode, done);
+    QVERIFY(ended.output.endsWith("\tautomatizerEnd\n"));
+    QVERIFY(ended.output.contains("Service: disable and stop SEMgrSvc done"));
+    QVERIFY(!ended.output.contains("Spooler"));
+    QVERIFY(!ended.output.contains("pgr: Autorun") && !ended.output.contains("pgr: Features"));
+    QCOMPARE(machine.names(userRunKey).size(), 3);
+    QVERIFY(recordedNames(u"Tweak"_s).isEmpty());
+}
+
+void TestRehearseAutomatizer::theWindowsClosingStepsAreDone()
+{
+    TestMachine machine;
+    fillAutomatizerMachine(machine);
+    QCOMPARE(runOn(machine, {u"optimize"_s, u"--no-walk"_s}).exitCode, done);
+    QCOMPARE(machine.read(settingsKey + u"\\Tweak"_s, u"chkSsd1"_s), QVariant(u"true"_s));
+    QVERIFY(wasOptimized());
+    // With the features the records stay, and the tweaks are recorded as off.
+    QVERIFY(runOn(machine, {u"restore"_s}).output.endsWith("\ttweaksDone\n"));
+    QCOMPARE(machine.read(settingsKey + u"\\Tweak"_s, u"chkSsd1"_s), QVariant(u"false"_s));
+    QVERIFY(wasOptimized());
+    QVERIFY(!recordedNames(u"Autorun"_s).isEmpty());
+    // Without them they go.
+    QVERIFY(runOn(machine, {u"restore"_s, u"--no-features"_s}).output.endsWith("\tAutomatizerRestore:finished\n"));
+    QVERIFY(!wasOptimized());
+    for (const char *group : {"Autorun", "Tweak"})
+        QVERIFY(recordedNames(QString::fromLatin1(group)).isEmpty());
+    QVERIFY(!recordedNames(u"Packages"_s).isEmpty());
+}
+
+void TestRehearseAutomatizer::storedKeepStatesAreTheDefault()
+{
+    TestMachine machine;
+    fillServices(machine);
+    const auto lines = [&machine](const QStringList &options) {
+        return runOn(machine, QStringList{u"analyze"_s} + options).output;
+    };
+    QVERIFY(!lines({}).contains("can be disable: Spooler"));
+    machine.write(settingsKey, u"Keep_1"_s, 0);
+    machine.write(settingsKey, u"Keep_7"_s, 0);
+    machine.write(settingsKey, u"Keep_5"_s, 1); // neither of the two states
+    QVERIFY(lines({}).contains("can be disable: Spooler\n"));
+    QVERIFY(lines({}).contains("can be disable: SEMgrSvc\n"));
+    QVERIFY(!lines({}).contains("SSDPSRV"));
+    // The option is for this run alone.
+    const QByteArray chosen = lines({u"--keep"_s, u"printer=2,bluetooth-audio=0"_s});
+    QVERIFY(!chosen.contains("Spooler"));
+    QVERIFY(chosen.contains("can be disable: BthAvctpSvc\n"));
+    QVERIFY(chosen.contains("can be disable: SEMgrSvc\n"));
+    QCOMPARE(machine.read(settingsKey, u"Keep_1"_s), QVariant(0));
+    QVERIFY(!machine.names(settingsKey).contains(u"Keep_2"_s));
+}
+
+namespace {
+
+/** A small machine with a file, whose attribute word tells whether a walk has come by. */
+class WalkedMachine
+{
+public:
+    WalkedMachine()
+    {
+        fillAutomatizerMachine(machine);
+        machine.addFile(file_);
+    }
+    bool isWalked() const
+    {
+        constexpr quint32 notIndexed = 0x2000;
+        return (machine.machine().attributes(file_) & notIndexed) != 0;
+    }
+    TestMachine machine;
+
+private:
+    const QString file_ = u"C:\\Users\\Test\\letter.txt"_s;
+};
+
+} // namespace
+
+void TestRehearseAutomatizer::theWalkIsRunOnlyWhenAskedFor_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<bool>("walked");
+    QTest::newRow("nothing said") << QStringList() << false;
+    QTest::newRow("yes") << QStringList{u"--yes"_s} << true;
+    QTest::newRow("no walk") << QStringList{u"--no-walk"_s} << false;
+    QTest::newRow("both") << QStringList{u"--yes"_s, u"--no-walk"_s} << false;
+    // Without the features there is no question.
+    QTest::newRow("yes without features") << QStringList{u"--yes"_s, u"--no-features"_s} << false;
+}
+
+void TestRehearseAutomatizer::theWalkIsRunOnlyWhenAskedFor()
+{
+    QFETCH(const QStringList, options);
+    QFETCH(const bool, walked);
+    WalkedMachine walk;
+    const Ended ended = runOn(walk.machine, QStringList{u"optimize"_s} + options);
+    QCOMPARE(ended.exitCode, done);
+    QCOMPARE(walk.isWalked(), walked);
+    QCOMPARE(ended.output.endsWith("automatizerValueChanged\ttweaksDone\n"
+                                   "automatizerValueChanged\tRemoveIndexedAttrib_end\n"),
+             walked);
+}
+
+void TestRehearseAutomatizer::aWalkBehindRestoreTellsThePage()
+{
+    WalkedMachine walk;
+    QCOMPARE(runOn(walk.machine, {u"optimize"_s}).exitCode, done);
+    const Ended ended = runOn(walk.machine, {u"restore"_s, u"--yes"_s});
+    QCOMPARE(ended.exitCode, done);
+    QVERIFY(walk.isWalked());
+    QVERIFY(ended.output.endsWith("automatizerValueChanged\ttweaksDone\n"
+                                  "valueChanged\tWorkThread::TweakSSD::RemoveIndexedAttrib\n"));
+}
+
+namespace {
+
+/** What differs between two machines, without the program's own settings and the sizes of files. */
+QByteArray differences(const QString &before, const QString &after)
+{
+    static const QRegularExpression columns(u" {2,}"_s);
+    QByteArray lines;
+    for (const QByteArray &line : rehearse({u"diff"_s, before, after}).output.split('\n')) {
+        QStringList parts = QString::fromUtf8(line).split(columns);
+        if (parts.size() < 3 || parts.at(1).contains("\\Kestrune\\Ondrevale"_L1))
+            continue;
+        if (parts.first() == "file"_L1)
+            parts.resize(2);
+        lines += parts.join(u'\t').toUtf8() + '\n';
+    }
+    return lines;
+}
+
+} // namespace
+
+void TestRehearseAutomatizer::differencesOfTheBuiltInMachines_data()
+{
+    QTest::addColumn<QString>("builtIn");
+    QTest::addColumn<QStringList>("keep");
+    QTest::newRow("all kept") << u"windows11"_s << QStringList();
+    QTest::newRow("none kept") << u"windows10"_s << QStringList{u"--keep"_s, givenUp};
+}
+
+/** All that is changed but for the tweaks, which have tests of their own. */
+void TestRehearseAutomatizer::differencesOfTheBuiltInMachines()
+{
+    QFETCH(const QString, builtIn);
+    QFETCH(const QStringList, keep);
+    const QTemporaryDir folder;
+    const QString fresh = folder.filePath(u"fresh"_s);
+    const QString machine = folder.filePath(u"m"_s);
+    for (const QString &path : {fresh, machine})
+        QCOMPARE(rehearse({u"new"_s, path, u"--from"_s, builtIn}).exitCode, done);
+    for (const char *job : {"optimize", "restore"}) {
+        const QString name = QString::fromLatin1(job);
+        QCOMPARE(rehearse(QStringList{u"run"_s, machine, name, u"--no-features"_s} + keep).exitCode, done);
+        compareLines(differences(fresh, machine), recorded(builtIn + u"-behind-"_s + name));
+        if (QTest::currentTestFailed())
+            return;
+    }
+}
+
+#ifndef Q_OS_WIN
+namespace {
+
+/** A copy of kestrune-rehearse whose tools kill it at one of their calls. */
+class Killer
+{
+public:
+    Killer()
+    {
+        QFile::copy(builtProgram(u"kestrune-rehearse"_s), path("kestrune-rehearse"));
+        QDir(folder_.path()).mkdir(u"real"_s);
+        for (const QString &tool : Machine::toolNames())
+            QFile::link(builtProgram(u"kestrune-stocktool"_s), path("real/") + tool);
+        writeFile(path("kestrune-stocktool"), "#!/bin/sh\n"
+                                              "n=$(cat \"$COUNT\" 2>/dev/null)\n"
+                                              "n=$((${n:-0} + 1))\n"
+                                              "echo $n >\"$COUNT\"\n"
+                                              "[ $n -ne $KILL_AT ] && exec \"$REAL/${0##*/}\" \"$@\"\n"
+                                              "[ $WHEN = before ] || \"$REAL/${0##*/}\" \"$@\" >&2\n"
+                                              "kill -9 $PPID\n");
+        QFile::setPermissions(path("kestrune-stocktool"), QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
+    }
+
+    Ended optimize(const TestMachine &machine, int killAt, const QString &when) const
+    {
+        return runProgram(path("kestrune-rehearse"), {u"run"_s, machine.folder(), u"optimize"_s},
+                          {{u"KILL_AT"_s, QString::number(killAt)},
+                           {u"WHEN"_s, when},
+                           {u"REAL"_s, path("real")},
+                           {u"COUNT"_s, machine.folder() + u"/calls"_s}});
+    }
+
+private:
+    QString path(const char *name) const { return folder_.filePath(QString::fromLatin1(name)); }
+    QTemporaryDir folder_;
+};
+
+/** What was taken away and isn't recorded. */
+QStringList unaccounted(const TestMachine &machine)
+{
+    QStringList missing;
+    for (const char *name : {"FontCache", "PcaSvc"}) {
+        const QString service = QString::fromLatin1(name);
+        const bool changed = machine.read(servicesKey + u'\\' + service, u"Start"_s).toInt() != 2
+                             || machine.machine().isRunning(service) != std::optional(true);
+        if (changed && !recordedNames(u"SVC"_s).contains(service))
+            missing.append(service);
+    }
+    for (const QString &path :
+         {u"Microsoft\\Windows\\Autochk\\Proxy"_s, u"OneDrive Standalone Update Task-S-1-5-21"_s}) {
+        if (!taskFacts(machine.machine().task(u'\\' + path)->document).enabled
+            && !recordedNames(u"Task"_s).contains(path))
+            missing.append(path);
+    }
+    if (!machine.machine().registry().find(repositoryKey + u"\\Microsoft.BingNews_1.0.0.0_x64__8wekyb3d8bbwe"_s)
+        && !recordedNames(u"Packages"_s).contains(u"Microsoft.BingNews"_s))
+        missing.append(u"Microsoft.BingNews"_s);
+    const QStringList autoruns = recordedNames(u"Autorun"_s);
+    for (const QString &name : {u"Gone"_s, u"Quoted"_s, u"Unquoted"_s}) {
+        if (!machine.names(userRunKey).contains(name) && !autoruns.contains(name))
+            missing.append(name);
+    }
+    if (machine.read(terminalTaskKey, u"State"_s).toInt() != 2 && !autoruns.contains(u"StartTerminalOnLoginTask"_s))
+        missing.append(u"Terminal"_s);
+    return missing;
+}
+
+} // namespace
+
+void TestRehearseAutomatizer::aKilledOptimizeLeavesNothingUnaccounted_data()
+{
+    QTest::addColumn<QString>("when");
+    QTest::newRow("before the tool has acted") << u"before"_s;
+    QTest::newRow("behind it, before anyone knows") << u"after"_s;
+}
+
+void TestRehearseAutomatizer::aKilledOptimizeLeavesNothingUnaccounted()
+{
+    QFETCH(const QString, when);
+    const Killer killer;
+    int killed = 0;
+    for (bool finished = false; !finished; ++killed) {
+        TestMachine machine;
+        fillAutomatizerMachine(machine);
+        const Ended ended = killer.optimize(machine, killed + 1, when);
+        finished = ended.exitCode == done;
+        // The single step in flight.
+        const QStringList missing = unaccounted(machine);
+        QVERIFY2(missing.size() <= (finished ? 0 : 1), qPrintable(missing.join(u' ')));
+        QCOMPARE(wasOptimized(), finished);
+        // The next start does the rest.
+        QVERIFY2(finished || runOn(machine, {u"optimize"_s}).exitCode == done, qPrintable(QString::number(killed)));
+        QVERIFY(wasOptimized());
+        QCOMPARE(machine.machine().isRunning(u"PcaSvc"_s), std::optional(false));
+        QCOMPARE(machine.names(userRunKey), QStringList());
+    }
+    // At least the two listings, two services with two calls each, two tasks, a package and two ended programs.
+    QVERIFY(killed > 2 + 4 + 2 + 1 + 2);
+}
+#endif
+
+KESTRUNE_SUITE(TestRehearseAutomatizer)
+#include "tst_rehearseautomatizer.moc"
