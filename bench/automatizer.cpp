@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Analyze and Optimize on the built-in Windows 11 PC, tools included.
 
-#include "machine/seam/simulatedplatform.h"
+#include "machine/seam/machineplatform.h"
 #include "machine/source/machinesource.h"
 #include "work/workthread.h"
 
@@ -24,7 +24,7 @@ public:
     {
         const QString folder = folder_.filePath(u"machine"_s);
         makeMachine(folder, QCoreApplication::applicationDirPath() + u"/machines/windows11"_s, Existing::Keep);
-        setPlatform(std::make_unique<SimulatedPlatform>(folder, SimulatedOptions{}));
+        setPlatform(std::make_unique<MachinePlatform>(folder, MachineOptions{}));
     }
     ~BuiltInPc() { setPlatform(nullptr); }
     Q_DISABLE_COPY_MOVE(BuiltInPc)

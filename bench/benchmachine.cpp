@@ -13,7 +13,7 @@ BenchMachine::BenchMachine()
     const QString folder = folder_.path() + u"/machine"_s;
     Machine::create(folder)->setEnvironment(
         {{u"SystemRoot"_s, u"C:\\Windows"_s}, {u"windir"_s, u"C:\\Windows"_s}, {u"homedrive"_s, u"C:"_s}});
-    auto platform = std::make_unique<SimulatedPlatform>(folder, SimulatedOptions{});
+    auto platform = std::make_unique<MachinePlatform>(folder, MachineOptions{});
     platform_ = platform.get();
     setPlatform(std::move(platform));
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "machine/seam/simulatedplatform.h"
+#include "machine/seam/machineplatform.h"
 
 #include <QTemporaryDir>
 
@@ -27,7 +27,7 @@ public:
 
 private:
     QTemporaryDir folder_;
-    SimulatedPlatform *platform_ = nullptr;
+    MachinePlatform *platform_ = nullptr;
 };
 
 /** The document of a scheduled task as programs of vendors register them. */

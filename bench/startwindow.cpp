@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Shows the window on the given machine, or an empty one, until it is painted for the first time.
 
-#include "machine/seam/simulatedplatform.h"
+#include "machine/seam/machineplatform.h"
 #include "window/kestrune.h"
 
 #include <QApplication>
@@ -25,7 +25,7 @@ int main(int argc, char **argv)
         window.resize(800, 640);
         return showUntilPainted(window);
     }
-    setPlatform(std::make_unique<SimulatedPlatform>(QString::fromLocal8Bit(argv[1]), SimulatedOptions{}));
+    setPlatform(std::make_unique<MachinePlatform>(QString::fromLocal8Bit(argv[1]), MachineOptions{}));
     Kestrune window;
     return showUntilPainted(window);
 }

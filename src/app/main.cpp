@@ -6,7 +6,7 @@
 #ifdef KESTRUNE_REAL_MACHINE
 #include "platform/windows/windowsplatform.h"
 #else
-#include "machine/seam/simulatedplatform.h"
+#include "machine/seam/machineplatform.h"
 #include "pictures.h"
 #endif
 #ifndef Q_OS_WIN
@@ -45,10 +45,10 @@ bool choosePlatform()
         return false;
     }
     try {
-        SimulatedOptions options;
+        MachineOptions options;
         options.elevated = qEnvironmentVariable("KESTRUNE_ELEVATED", u"1"_s) != "0"_L1;
         options.pace = isForPictures() ? 0 : 1;
-        setPlatform(std::make_unique<SimulatedPlatform>(folder, options));
+        setPlatform(std::make_unique<MachinePlatform>(folder, options));
     } catch (const MachineError &error) {
         qCritical("kestrune: %s", qUtf8Printable(error.message));
         return false;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A rehearsal machine: the folder that holds a whole simulated Windows.
+// A rehearsal machine: the folder that holds a whole Windows.
 
 #pragma once
 

@@ -3,7 +3,7 @@
 #include "jobs.h"
 
 #include "autorunjobs.h"
-#include "machine/seam/simulatedplatform.h"
+#include "machine/seam/machineplatform.h"
 #include "machine/taskdocument.h"
 #include "reporttexts.h"
 #include "work/packages/packagecatalogue.h"
@@ -76,7 +76,7 @@ void takeTasks(WorkThread &worker, const QStringList &paths, int disabled)
 QStringList tasksUnlike(const QStringList &paths, bool enabled)
 {
     // The machine is asked, since the logic's own list writes files.
-    const Machine &machine = static_cast<const SimulatedPlatform &>(platform()).machine();
+    const Machine &machine = static_cast<const MachinePlatform &>(platform()).machine();
     QStringList left;
     for (const QString &operand : paths) {
         const QString path = withoutBackslash(operand);

@@ -5,7 +5,7 @@
 #include "jobrunner.h"
 #include "jobs.h"
 #include "keepoption.h"
-#include "machine/seam/simulatedplatform.h"
+#include "machine/seam/machineplatform.h"
 #include "progress.h"
 #include "subcommands.h"
 #include "tweakjobs.h"
@@ -109,13 +109,13 @@ int runJob(const Arguments &arguments)
     const QStringList operands = arguments.operands().mid(2);
     if (row.job == jobTweak)
         parseTweak(operands); // before anything is opened
-    SimulatedOptions simulated;
-    simulated.elevated = !arguments.has("not-elevated"_L1);
-    simulated.pace = parsePace(arguments);
+    MachineOptions machineOptions;
+    machineOptions.elevated = !arguments.has("not-elevated"_L1);
+    machineOptions.pace = parsePace(arguments);
     const QList<KeepChoice> keep = parseKeep(arguments.value("keep"_L1));
 
     const QString folder = openMachine(arguments.operand(0))->folder();
-    setPlatform(std::make_unique<SimulatedPlatform>(folder, simulated));
+    setPlatform(std::make_unique<MachinePlatform>(folder, machineOptions));
     WorkThread worker;
     applyKeep(worker, keep);
     const WindowsName windows = readWindowsName();

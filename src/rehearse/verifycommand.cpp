@@ -3,7 +3,7 @@
 
 #include "jobrunner.h"
 #include "machine/machinecopy.h"
-#include "machine/seam/simulatedplatform.h"
+#include "machine/seam/machineplatform.h"
 #include "subcommands.h"
 #include "verify/verifyreport.h"
 #include "work/tweaks/tweakcatalogue.h"
@@ -20,7 +20,7 @@ namespace {
 /** Puts all recorded options of a machine in force once more. */
 void applyOptionsAgain(const QString &machine, Progress &progress)
 {
-    setPlatform(std::make_unique<SimulatedPlatform>(machine, SimulatedOptions()));
+    setPlatform(std::make_unique<MachinePlatform>(machine, MachineOptions()));
     // Also where it is broken off: what is open can't be removed everywhere.
     const auto close = qScopeGuard([] { setPlatform(nullptr); });
     const TweakState recorded = storedTweaks();

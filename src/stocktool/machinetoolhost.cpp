@@ -4,8 +4,8 @@
 
 #include "machine/database.h"
 #include "machine/filehole.h"
+#include "machine/machinekey.h"
 #include "machine/resourcetext.h"
-#include "machine/simulatedkey.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -28,7 +28,7 @@ MachineToolHost::MachineToolHost(Machine &machine, bool elevated)
 std::unique_ptr<RegistryKey> MachineToolHost::openKey(const QString &path) const
 {
     // The key itself instead of the whole platform behind it: a tool must start in no time.
-    return std::make_unique<SimulatedKey>(machine_.registry(), path, elevated_);
+    return std::make_unique<MachineKey>(machine_.registry(), path, elevated_);
 }
 
 void MachineToolHost::writeText(const QString &path, const QString &name, const QString &text)

@@ -5,11 +5,11 @@
 
 #include "capture/capture.h"
 #include "capture/readingplatform.h"
+#include "machine/seam/machineplatform.h"
 #include "machine/seam/machinereader.h"
-#include "machine/seam/simulatedplatform.h"
 
 inline CaptureReport captureMachine(const QString &source, const QString &folder, Names names = Names::Keep,
-                                    const SimulatedOptions &options = {}, Existing existing = Existing::Keep,
+                                    const MachineOptions &options = {}, Existing existing = Existing::Keep,
                                     const ProgressCallback &progress = {})
 {
     // In force until the end, whatever is thrown.
@@ -18,7 +18,7 @@ inline CaptureReport captureMachine(const QString &source, const QString &folder
         ~InForce() { setPlatform(nullptr); }
     } const inForce;
 
-    auto reading = std::make_unique<ReadingPlatform>(std::make_unique<SimulatedPlatform>(source, options));
+    auto reading = std::make_unique<ReadingPlatform>(std::make_unique<MachinePlatform>(source, options));
     const ReadingPlatform &pc = *reading;
     setPlatform(std::move(reading));
     const auto machine = Machine::open(source);

@@ -56,8 +56,8 @@ QStringList comparableLines(const QString &previewFile)
 /** Everything that the window and the Automatizer do, some of it twice. */
 void runEverything(const QString &folder, Questions &questions)
 {
-    setPlatform(std::make_unique<RecordingPlatform>(std::make_unique<SimulatedPlatform>(folder, SimulatedOptions()),
-                                                    questions));
+    setPlatform(
+        std::make_unique<RecordingPlatform>(std::make_unique<MachinePlatform>(folder, MachineOptions()), questions));
     {
         WorkThread worker;
         const WindowsName windows = readWindowsName();
@@ -153,7 +153,7 @@ QStringList foundMissing(Machine &pc, Machine &captured, const Questions &questi
 /** What the seam tells of hardware and the like. */
 QStringList seamAnswers(const QString &folder, const Questions &questions)
 {
-    const SimulatedPlatform pc(folder, {});
+    const MachinePlatform pc(folder, {});
     QStringList answers{pc.processNames().join(u','),
                         QString::number(pc.screenSize().width()),
                         QString::number(pc.screenSize().height()),
@@ -419,7 +419,7 @@ void TestCapture::withoutElevation()
              (QMap<QString, QString>{{u"useplatformclock"_s, u"Yes"_s}}));
 
     const CaptureReport report =
-        captureMachine(pc, place(u"not-elevated"_s), Names::Keep, SimulatedOptions{.elevated = false});
+        captureMachine(pc, place(u"not-elevated"_s), Names::Keep, MachineOptions{.elevated = false});
     QVERIFY(!report.elevated);
     QCOMPARE(report.notRead.size(), 1);
     QCOMPARE(report.notRead.first().what, u"boot options"_s);
@@ -443,8 +443,7 @@ void TestCapture::keyThatMayNotBeReadIsTold()
     };
 
     const TestMachine pc;
-    auto reading =
-        std::make_unique<ReadingPlatform>(std::make_unique<SimulatedPlatform>(pc.folder(), SimulatedOptions()));
+    auto reading = std::make_unique<ReadingPlatform>(std::make_unique<MachinePlatform>(pc.folder(), MachineOptions()));
     const ReadingPlatform &platform = *reading;
     setPlatform(std::move(reading));
     CaptureReport report;

@@ -269,9 +269,9 @@ void TestMachine::damageInsideIsAnErrorAndNoCrash()
 void TestMachine::theRegistryOfADamagedMachineGivesDefaults()
 {
     Machine::create(folder());
-    SimulatedPlatform simulated(folder(), {});
-    simulated.machine().database().execute("DROP TABLE value");
-    const auto key = simulated.openKey(u"HKEY_CURRENT_USER\\a"_s);
+    MachinePlatform damaged(folder(), {});
+    damaged.machine().database().execute("DROP TABLE value");
+    const auto key = damaged.openKey(u"HKEY_CURRENT_USER\\a"_s);
     const QRegularExpression complaint(u"no such table: value"_s);
     QTest::ignoreMessage(QtWarningMsg, complaint);
     QCOMPARE(key->value(u"x"_s, 5), QVariant(5));

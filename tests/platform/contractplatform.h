@@ -7,7 +7,7 @@
 #include "windows/nativecontract.h"
 #else
 
-#include "machine/seam/simulatedplatform.h"
+#include "machine/seam/machineplatform.h"
 
 #include <QTemporaryDir>
 
@@ -15,7 +15,7 @@
 class ContractPlatform
 {
 public:
-    explicit ContractPlatform(const SimulatedOptions &options = {})
+    explicit ContractPlatform(const MachineOptions &options = {})
     {
         Machine::create(folder());
         restart(options);
@@ -23,14 +23,14 @@ public:
 
     QString folder() const { return folder_.filePath(QStringLiteral("machine")); }
     /** The same machine seen by another process. */
-    void restart(const SimulatedOptions &options)
+    void restart(const MachineOptions &options)
     {
-        auto made = std::make_unique<SimulatedPlatform>(folder(), options);
+        auto made = std::make_unique<MachinePlatform>(folder(), options);
         platform_ = made.get();
         setPlatform(std::move(made));
     }
 
-    SimulatedPlatform &simulated() const { return *platform_; }
+    MachinePlatform &machinePlatform() const { return *platform_; }
     Machine &machine() const { return platform_->machine(); }
 
     /** Values as the registry has them, past the seam. The key is made. */
@@ -47,7 +47,7 @@ public:
 
 private:
     QTemporaryDir folder_;
-    SimulatedPlatform *platform_ = nullptr;
+    MachinePlatform *platform_ = nullptr;
 };
 
 #endif

@@ -104,7 +104,7 @@ private:
 
 void TestPlatform::init()
 {
-    SimulatedOptions options;
+    MachineOptions options;
     options.stockTool = QCoreApplication::applicationFilePath();
     contract_ = std::make_unique<ContractPlatform>(options);
     temporary_ = std::make_unique<QTemporaryDir>();
@@ -114,7 +114,7 @@ void TestPlatform::init()
 void TestPlatform::notElevatedWritesTheUsersHiveAlone()
 {
     platform().openKey(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\There"_s)->setValue(u"a"_s, 1);
-    SimulatedOptions options;
+    MachineOptions options;
     options.elevated = false;
     contract_->restart(options);
     QVERIFY(!platform().isElevated());
@@ -394,7 +394,7 @@ void TestPlatform::foldersOfTheProgram()
 {
     QCOMPARE(platform().programFolder(), contract_->folder() + u"/program"_s);
     QCOMPARE(platform().resourceFolder(), QCoreApplication::applicationDirPath());
-    SimulatedOptions options;
+    MachineOptions options;
     options.resourceFolder = temporary_->path();
     contract_->restart(options);
     QCOMPARE(platform().resourceFolder(), temporary_->path());
@@ -404,7 +404,7 @@ void TestPlatform::foldersOfTheProgram()
 void TestPlatform::launcherIsAskedInstead()
 {
     QList<ShellStart> starts;
-    SimulatedOptions options;
+    MachineOptions options;
     options.launcher = [&starts](const ShellStart &start) { starts << start; };
     contract_->restart(options);
     platform().shellExecute({u"runas"_s, u"C:\\x.exe"_s, u"-a \"b c\""_s});
@@ -422,7 +422,7 @@ QString TestPlatform::recorded() const
 
 void TestPlatform::startsToolsOfTheMachine()
 {
-    SimulatedOptions options;
+    MachineOptions options;
     options.elevated = false;
     options.stockTool = QCoreApplication::applicationFilePath();
     contract_->restart(options);
@@ -433,7 +433,7 @@ void TestPlatform::startsToolsOfTheMachine()
 
 void TestPlatform::startsItselfElevated()
 {
-    SimulatedOptions options;
+    MachineOptions options;
     options.elevated = false;
     contract_->restart(options);
     qputenv(recordVariable, temporary_->filePath(u"record"_s).toLocal8Bit());
@@ -455,7 +455,7 @@ void TestPlatform::startsNothingOfTheHost()
 
 void TestPlatform::withoutTheStockToolNoToolIsStarted()
 {
-    SimulatedOptions options;
+    MachineOptions options;
     options.stockTool = temporary_->filePath(u"absent"_s);
     contract_->restart(options);
     const QString planted = contract_->machine().toolsFolder() + u"/sc"_s;
@@ -528,7 +528,7 @@ void TestPlatform::opensRegistryScripts()
     writeFile(script, "Windows Registry Editor Version 5.00\r\r\n\r\r\n[HKEY_LOCAL_MACHINE\\SOFTWARE\\Opened]\r\r\n"
                       "\"a\"=dword:00000004\r\r\n");
     const QString key = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Opened"_s;
-    SimulatedOptions options;
+    MachineOptions options;
     options.elevated = false;
     contract_->restart(options);
     QDesktopServices::openUrl(QUrl::fromLocalFile(script));
@@ -613,13 +613,13 @@ void TestPlatform::pausesAreRecorded()
     platform().pause(0);
     platform().pause(100);
     QVERIFY(timer.elapsed() < 15000); // not slept
-    QCOMPARE(contract_->simulated().takePauses(), (QList<int>{30000, 0, 100}));
-    QVERIFY(contract_->simulated().takePauses().isEmpty());
+    QCOMPARE(contract_->machinePlatform().takePauses(), (QList<int>{30000, 0, 100}));
+    QVERIFY(contract_->machinePlatform().takePauses().isEmpty());
 }
 
 void TestPlatform::pausesAreSleptByPace()
 {
-    SimulatedOptions options;
+    MachineOptions options;
     options.pace = 0.5;
     contract_->restart(options);
     QElapsedTimer timer;
@@ -630,13 +630,13 @@ void TestPlatform::pausesAreSleptByPace()
 
 void TestPlatform::pausesEndWhenInterrupted()
 {
-    SimulatedOptions options;
+    MachineOptions options;
     options.pace = 1;
     contract_->restart(options);
     const std::unique_ptr<QThread> thread(QThread::create([] { platform().pause(600000); }));
     thread->start();
     QList<int> pauses;
-    QTRY_VERIFY(!(pauses += contract_->simulated().takePauses()).isEmpty());
+    QTRY_VERIFY(!(pauses += contract_->machinePlatform().takePauses()).isEmpty());
     QCOMPARE(pauses, QList<int>{600000});
     QVERIFY(!thread->wait(50));
     thread->requestInterruption();

@@ -30,7 +30,7 @@ const QMap<QString, QString> environment{
 
 } // namespace
 
-TestMachine::TestMachine(Windows windows, SimulatedOptions options)
+TestMachine::TestMachine(Windows windows, MachineOptions options)
 {
     {
         const auto made = Machine::create(folder());
@@ -42,7 +42,7 @@ TestMachine::TestMachine(Windows windows, SimulatedOptions options)
     write(key, u"CurrentBuild"_s, windows == Windows::Eleven ? u"26100"_s : u"19045"_s);
 }
 
-TestMachine::TestMachine(const QString &builtIn, SimulatedOptions options)
+TestMachine::TestMachine(const QString &builtIn, MachineOptions options)
 {
     makeMachine(folder(), QCoreApplication::applicationDirPath() + u"/machines/"_s + builtIn, Existing::Keep);
     start(std::move(options));
@@ -53,11 +53,11 @@ TestMachine::~TestMachine()
     setPlatform(nullptr);
 }
 
-void TestMachine::start(SimulatedOptions options)
+void TestMachine::start(MachineOptions options)
 {
     if (!options.launcher)
         options.launcher = [starts = shellStarts_](const ShellStart &start) { starts->append(start); };
-    auto platform = std::make_unique<SimulatedPlatform>(folder(), std::move(options));
+    auto platform = std::make_unique<MachinePlatform>(folder(), std::move(options));
     platform_ = platform.get();
     setPlatform(std::move(platform));
 }

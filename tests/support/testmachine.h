@@ -4,7 +4,7 @@
 #pragma once
 
 #include "machine/machine.h"
-#include "machine/seam/simulatedplatform.h"
+#include "machine/seam/machineplatform.h"
 
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -40,14 +40,14 @@ public:
      * A small machine with the Windows name, the environment and the stock tools, and nothing else.
      * Its platform is in force until the object goes. Only one at a time, and no worker may run at either end.
      */
-    explicit TestMachine(Windows windows = Windows::Eleven, SimulatedOptions options = {});
+    explicit TestMachine(Windows windows = Windows::Eleven, MachineOptions options = {});
     /** A copy of a built-in machine: "windows11" or "windows10". */
-    explicit TestMachine(const QString &builtIn, SimulatedOptions options = {});
+    explicit TestMachine(const QString &builtIn, MachineOptions options = {});
     ~TestMachine();
     Q_DISABLE_COPY_MOVE(TestMachine)
 
     Machine &machine() const { return platform_->machine(); }
-    SimulatedPlatform &platform() const { return *platform_; }
+    MachinePlatform &platform() const { return *platform_; }
     QString folder() const { return folder_.path() + QStringLiteral("/machine"); }
 
     void add(const TestService &service);
@@ -69,11 +69,11 @@ public:
     QList<ShellStart> shellStarts() const { return *shellStarts_; }
 
 private:
-    void start(SimulatedOptions options);
+    void start(MachineOptions options);
 
     QTemporaryDir folder_;
     std::shared_ptr<QList<ShellStart>> shellStarts_ = std::make_shared<QList<ShellStart>>();
-    SimulatedPlatform *platform_ = nullptr;
+    MachinePlatform *platform_ = nullptr;
 };
 
 inline const QString servicesKey = QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services");

@@ -17,17 +17,17 @@
 constexpr int patience = 20000;
 
 /** A machine on which this process has no administrator rights. */
-inline SimulatedOptions notElevated()
+inline MachineOptions notElevated()
 {
-    SimulatedOptions options;
+    MachineOptions options;
     options.elevated = false;
     return options;
 }
 
 /** A machine on which the deliberate pauses are slept, so that a job lasts. */
-inline SimulatedOptions realPauses()
+inline MachineOptions realPauses()
 {
-    SimulatedOptions options;
+    MachineOptions options;
     options.pace = 1;
     return options;
 }

@@ -632,7 +632,7 @@ void TestAutomatizerDisplay::acceptedWalkStartsWithABusyBar()
 void TestAutomatizerDisplay::acceptedWalkStartsThoughTheJobIsInItsLastInstructions()
 {
     // Stands for the job behind its closing line: 150 ms are left when the line is read.
-    SimulatedOptions slow;
+    MachineOptions slow;
     slow.pace = 0.05;
     TestMachine machine(TestMachine::Windows::Eleven, slow);
     const WindowDriver driver;

@@ -37,9 +37,9 @@ public:
         QVERIFY(spoilt.open(QIODevice::WriteOnly));
         spoilt.write("no translation");
     }
-    SimulatedOptions options() const
+    MachineOptions options() const
     {
-        SimulatedOptions options;
+        MachineOptions options;
         options.resourceFolder = folder_.path();
         return options;
     }

@@ -400,7 +400,7 @@ void TestPackagesPage::uninstallWithNothingCheckedIsSilent_data()
 void TestPackagesPage::uninstallWithNothingCheckedIsSilent()
 {
     QFETCH(const bool, elevated);
-    TestMachine machine(TestMachine::Windows::Eleven, elevated ? SimulatedOptions() : notElevated());
+    TestMachine machine(TestMachine::Windows::Eleven, elevated ? MachineOptions() : notElevated());
     const WindowDriver driver;
     openWith(driver, rowsOf({u"A"_s}));
     driver.firstCell(table, u"A"_s)->setCheckState(Qt::Unchecked);

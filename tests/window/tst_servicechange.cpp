@@ -178,7 +178,7 @@ void TestServiceChange::disableWithNothingCheckedIsSilent_data()
 void TestServiceChange::disableWithNothingCheckedIsSilent()
 {
     QFETCH(const bool, elevated);
-    SimulatedOptions options;
+    MachineOptions options;
     options.elevated = elevated;
     TestMachine machine(TestMachine::Windows::Eleven, options);
     machine.add({.name = u"Alpha"_s, .start = 2, .running = true});
@@ -437,7 +437,7 @@ void TestServiceChange::assistantFindsNothing_data()
 void TestServiceChange::assistantFindsNothing()
 {
     QFETCH(const bool, elevated);
-    SimulatedOptions options;
+    MachineOptions options;
     options.elevated = elevated;
     TestMachine machine(TestMachine::Windows::Eleven, options);
     machine.add({.name = u"Alpha"_s, .start = 2, .running = true});

@@ -273,7 +273,7 @@ void TestStartup::startAsAdminTakesThePlaceOfAnUnelevatedInstance()
     QFETCH(const QVariant, value);
     QFETCH(const bool, elevated);
     QFETCH(const bool, givesWay);
-    SimulatedOptions options;
+    MachineOptions options;
     options.elevated = elevated;
     TestMachine machine(TestMachine::Windows::Eleven, options);
     if (!name.isEmpty())

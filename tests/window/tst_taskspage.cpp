@@ -62,7 +62,7 @@ void openWith(const WindowDriver &driver, const QList<TaskRow> &rows)
 class TaskMachine : public TestMachine
 {
 public:
-    explicit TaskMachine(const QList<ExportedTask> &tasks, SimulatedOptions options = {})
+    explicit TaskMachine(const QList<ExportedTask> &tasks, MachineOptions options = {})
         : TestMachine(Windows::Eleven, std::move(options))
     {
         QDir().mkpath(platform().hostPath(u"C:\\Users\\Test\\AppData\\Local\\Temp"_s));
@@ -607,7 +607,7 @@ void TestTasksPage::disableWithNothingCheckedIsSilent_data()
 void TestTasksPage::disableWithNothingCheckedIsSilent()
 {
     QFETCH(const bool, elevated);
-    const TaskMachine machine({}, elevated ? SimulatedOptions() : notElevated());
+    const TaskMachine machine({}, elevated ? MachineOptions() : notElevated());
     const WindowDriver driver;
     openWith(driver, tasksOf({u"A"_s}));
     driver.worker().tasksToChange = tasksOf({u"before"_s});
@@ -831,7 +831,7 @@ void TestTasksPage::assistantWithNothingToDoSaysSo()
 {
     QFETCH(const bool, elevated);
     QFETCH(const QStringList, paths);
-    const TaskMachine machine({}, elevated ? SimulatedOptions() : notElevated());
+    const TaskMachine machine({}, elevated ? MachineOptions() : notElevated());
     const WindowDriver driver;
     openWith(driver, tasksOf(paths));
     check(driver, paths.first(paths.isEmpty() ? 0 : 1));

@@ -650,7 +650,7 @@ void TestAutomatizerOptimize::tweaksGoByTheMachine()
         run(worker);
         return stateOf(machine);
     };
-    const auto takePauses = [] { return static_cast<SimulatedPlatform &>(platform()).takePauses(); };
+    const auto takePauses = [] { return static_cast<MachinePlatform &>(platform()).takePauses(); };
     QList<int> pauses, pausesOfTweaks;
     const QStringList optimized = leftBy([&](WorkThread &worker) {
         linesOf(worker, JobAutomatizerOptimize);

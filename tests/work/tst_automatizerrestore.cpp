@@ -344,7 +344,7 @@ void TestAutomatizerRestore::tweaksGoByTheGeneration()
         run(worker);
         return stateOf(machine);
     };
-    const auto takePauses = [] { return static_cast<SimulatedPlatform &>(platform()).takePauses(); };
+    const auto takePauses = [] { return static_cast<MachinePlatform &>(platform()).takePauses(); };
     QList<int> pauses, pausesOfTweaks;
     const QStringList restored = leftBy([&](WorkThread &worker) {
         restore(worker);

@@ -280,7 +280,7 @@ void TestMonitor::anAbortedMeasurementReadsMinusOne()
 
 void TestMonitor::anEndedRunGivesNoLine()
 {
-    SimulatedOptions options;
+    MachineOptions options;
     options.pace = 6000; // ten minutes
     const TestMachine machine(TestMachine::Windows::Eleven, options);
     WorkThread worker;

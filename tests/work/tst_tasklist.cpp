@@ -82,7 +82,7 @@ QList<TaskRow> rowsOf(const TestMachine &machine, const QString &text)
 class TaskMachine : public TestMachine
 {
 public:
-    explicit TaskMachine(SimulatedOptions options = {})
+    explicit TaskMachine(MachineOptions options = {})
         : TestMachine(Windows::Eleven, std::move(options))
     {
         QDir().mkpath(QFileInfo(exportFile(*this)).path());

@@ -302,7 +302,7 @@ void TestTweakConditions::graphicsCardIsAskedForGaming13Alone()
     QStringList heard;
     setPlatform(nullptr); // one at a time
     setPlatform(std::make_unique<ListeningPlatform>(
-        std::make_unique<SimulatedPlatform>(machine.folder(), SimulatedOptions()), heard));
+        std::make_unique<MachinePlatform>(machine.folder(), MachineOptions()), heard));
     WorkThread worker;
     prepare(worker, {.battery = battery, .cards = {}});
     linesOf(worker, JobAutomatizerOptimize);

@@ -83,7 +83,7 @@ public:
     using Windows = TestMachine::Windows;
 
     /** @p group begins the names of the boxes whose values are there before; empty: none */
-    explicit TweakTrial(Windows windows, const QString &group = {}, SimulatedOptions options = {})
+    explicit TweakTrial(Windows windows, const QString &group = {}, MachineOptions options = {})
         : machine(windows, options)
         , lines_(worker)
     {

@@ -11,7 +11,7 @@
 #include <mutex>
 
 /** How a rehearsal machine is put behind the seam. */
-struct SimulatedOptions
+struct MachineOptions
 {
     bool elevated = true;
     double pace = 0;          ///< pauses are slept this many times their length
@@ -24,7 +24,7 @@ struct SimulatedOptions
 
 class ScriptOpener;
 
-class SimulatedPlatform final : public Platform
+class MachinePlatform final : public Platform
 {
 public:
     /**
@@ -32,8 +32,8 @@ public:
      * program the handler of .reg files for QDesktopServices. To be made before the first thread; one for a process at
      * a time. Throws MachineError.
      */
-    SimulatedPlatform(const QString &machineFolder, SimulatedOptions options);
-    ~SimulatedPlatform() override;
+    MachinePlatform(const QString &machineFolder, MachineOptions options);
+    ~MachinePlatform() override;
 
     Machine &machine() const { return *machine_; }
     /** The pauses asked for so far, in order, in milliseconds; cleared by the call. */
@@ -70,7 +70,7 @@ private:
     QJsonObject volume(const QString &windowsPath) const;
 
     std::unique_ptr<Machine> machine_;
-    SimulatedOptions options_;
+    MachineOptions options_;
     mutable AttributeWords attributes_;
     std::unique_ptr<ScriptOpener> scriptOpener_;
     mutable std::mutex pausesLock_;

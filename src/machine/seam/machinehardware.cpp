@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A rehearsal machine behind the seam: its hardware, and how busy it is.
 
-#include "simulatedplatform.h"
+#include "machineplatform.h"
 
 #include "guarded.h"
 
@@ -20,12 +20,12 @@ quint64 count(const QJsonObject &object, const QString &key)
 
 } // namespace
 
-QJsonObject SimulatedPlatform::hardware() const
+QJsonObject MachinePlatform::hardware() const
 {
     return guarded(QJsonObject(), [this] { return machine_->hardware(); });
 }
 
-QJsonObject SimulatedPlatform::volume(const QString &windowsPath) const
+QJsonObject MachinePlatform::volume(const QString &windowsPath) const
 {
     const QString file = machine_->hostPath(windowsPath);
     const QString path = machine_->windowsPath(file);
@@ -35,7 +35,7 @@ QJsonObject SimulatedPlatform::volume(const QString &windowsPath) const
     return hardware().value(u"volumes"_s).toObject().value(path.first(2)).toObject();
 }
 
-std::optional<bool> SimulatedPlatform::seekPenalty(const QString &windowsPath) const
+std::optional<bool> MachinePlatform::seekPenalty(const QString &windowsPath) const
 {
     if (windowsPath.isEmpty())
         return {};
@@ -43,19 +43,19 @@ std::optional<bool> SimulatedPlatform::seekPenalty(const QString &windowsPath) c
     return penalty.isBool() ? std::optional(penalty.toBool()) : std::nullopt;
 }
 
-std::optional<int> SimulatedPlatform::colorSpace() const
+std::optional<int> MachinePlatform::colorSpace() const
 {
     const QJsonValue space = hardware().value(u"screen"_s).toObject().value(u"colorSpace"_s);
     return space.isDouble() ? std::optional(space.toInt()) : std::nullopt;
 }
 
-QSize SimulatedPlatform::screenSize() const
+QSize MachinePlatform::screenSize() const
 {
     const QJsonObject screen = hardware().value(u"screen"_s).toObject();
     return {screen.value(u"width"_s).toInt(), screen.value(u"height"_s).toInt()};
 }
 
-ProcessorTimes SimulatedPlatform::processorTimes() const
+ProcessorTimes MachinePlatform::processorTimes() const
 {
     const QJsonArray steps = hardware().value(u"processorTimes"_s).toArray();
     const std::lock_guard lock(readingsLock_);
@@ -69,7 +69,7 @@ ProcessorTimes SimulatedPlatform::processorTimes() const
     return lastReading_;
 }
 
-QList<quint32> SimulatedPlatform::processIds() const
+QList<quint32> MachinePlatform::processIds() const
 {
     constexpr qsizetype stepBetweenIds = 4; // as Windows gives them
 
@@ -80,17 +80,17 @@ QList<quint32> SimulatedPlatform::processIds() const
     return ids;
 }
 
-int SimulatedPlatform::threadCount() const
+int MachinePlatform::threadCount() const
 {
     return hardware().value(u"threads"_s).toInt();
 }
 
-quint64 SimulatedPlatform::freeMemory() const
+quint64 MachinePlatform::freeMemory() const
 {
     return count(hardware(), u"freeMemory"_s);
 }
 
-RootDrive SimulatedPlatform::rootDrive() const
+RootDrive MachinePlatform::rootDrive() const
 {
     const QString drive = qEnvironmentVariable("SystemDrive", u"C:"_s);
     return {drive + u'/', count(volume(drive), u"freeBytes"_s)};

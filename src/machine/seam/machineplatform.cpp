@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A rehearsal machine behind the seam.
 
-#include "simulatedplatform.h"
+#include "machineplatform.h"
 
 #include "environment.h"
 #include "folderwalk.h"
 #include "guarded.h"
-#include "machine/simulatedkey.h"
+#include "machine/machinekey.h"
 #include "scriptopener.h"
 
 #include <QCoreApplication>
@@ -81,7 +81,7 @@ QString propertyText(const QJsonObject &instance, const QString &name)
 
 } // namespace
 
-SimulatedPlatform::SimulatedPlatform(const QString &machineFolder, SimulatedOptions options)
+MachinePlatform::MachinePlatform(const QString &machineFolder, MachineOptions options)
     : machine_(Machine::open(machineFolder))
     , options_(std::move(options))
     , attributes_(*machine_)
@@ -101,35 +101,35 @@ SimulatedPlatform::SimulatedPlatform(const QString &machineFolder, SimulatedOpti
     qputenv("KESTRUNE_ELEVATED", options_.elevated ? "1" : "0");
 }
 
-SimulatedPlatform::~SimulatedPlatform() = default;
+MachinePlatform::~MachinePlatform() = default;
 
-QList<int> SimulatedPlatform::takePauses() const
+QList<int> MachinePlatform::takePauses() const
 {
     const std::lock_guard lock(pausesLock_);
     return std::exchange(pauses_, {});
 }
 
-std::unique_ptr<RegistryKey> SimulatedPlatform::openKey(const QString &path) const
+std::unique_ptr<RegistryKey> MachinePlatform::openKey(const QString &path) const
 {
-    return std::make_unique<SimulatedKey>(machine_->registry(), path, options_.elevated);
+    return std::make_unique<MachineKey>(machine_->registry(), path, options_.elevated);
 }
 
-QString SimulatedPlatform::hostPath(const QString &windowsPath) const
+QString MachinePlatform::hostPath(const QString &windowsPath) const
 {
     return machine_->hostPath(windowsPath);
 }
 
-QString SimulatedPlatform::programFolder() const
+QString MachinePlatform::programFolder() const
 {
     return machine_->programFolder();
 }
 
-QString SimulatedPlatform::resourceFolder() const
+QString MachinePlatform::resourceFolder() const
 {
     return options_.resourceFolder;
 }
 
-void SimulatedPlatform::walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const
+void MachinePlatform::walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const
 {
     const AttributeWords::Walk together(attributes_);
     const QStringList hidden = guarded(QStringList(), [this] { return machine_->pathsWithAttribute(hiddenBit); });
@@ -138,22 +138,22 @@ void SimulatedPlatform::walk(const QString &windowsPath, const std::function<boo
         [this](const QString &link) { return machine_->leadsOut(link); }, visit);
 }
 
-quint32 SimulatedPlatform::fileAttributes(const QString &file) const
+quint32 MachinePlatform::fileAttributes(const QString &file) const
 {
     return guarded(invalidAttributes, [&] { return attributes_.read(file).value_or(invalidAttributes); });
 }
 
-void SimulatedPlatform::setFileAttributes(const QString &file, quint32 word) const
+void MachinePlatform::setFileAttributes(const QString &file, quint32 word) const
 {
     attributes_.write(file, word);
 }
 
-QString SimulatedPlatform::programFile(const QString &program) const
+QString MachinePlatform::programFile(const QString &program) const
 {
     return guarded(QString(), [&] { return resolvedProgram(withoutQuotes(program)); });
 }
 
-QString SimulatedPlatform::resolvedProgram(const QString &program) const
+QString MachinePlatform::resolvedProgram(const QString &program) const
 {
     const QString tool = toolOf(program);
     if (tool.isEmpty() || options_.stockTool.isEmpty())
@@ -170,17 +170,17 @@ QString SimulatedPlatform::resolvedProgram(const QString &program) const
     return QFileInfo(file).isFile() ? file : QString();
 }
 
-int SimulatedPlatform::exitCode(qint64 processId, int reported) const
+int MachinePlatform::exitCode(qint64 processId, int reported) const
 {
     return guarded(reported, [&] { return machine_->takeExitCode(processId).value_or(reported); });
 }
 
-bool SimulatedPlatform::isElevated() const
+bool MachinePlatform::isElevated() const
 {
     return options_.elevated;
 }
 
-void SimulatedPlatform::shellExecute(const ShellStart &start) const
+void MachinePlatform::shellExecute(const ShellStart &start) const
 {
     if (options_.launcher) {
         options_.launcher(start);
@@ -201,12 +201,12 @@ void SimulatedPlatform::shellExecute(const ShellStart &start) const
     process.startDetached();
 }
 
-QStringList SimulatedPlatform::processNames() const
+QStringList MachinePlatform::processNames() const
 {
     return guarded(QStringList(), [this] { return machine_->processes().mid(0, mostProcesses); });
 }
 
-DllString SimulatedPlatform::dllString(const QString &windowsPath, uint id) const
+DllString MachinePlatform::dllString(const QString &windowsPath, uint id) const
 {
     // Windows looks for a bare name in its system folder.
     const QString path = isBareName(windowsPath) ? u"C:\\Windows\\System32\\"_s + windowsPath : windowsPath;
@@ -224,7 +224,7 @@ DllString SimulatedPlatform::dllString(const QString &windowsPath, uint id) cons
     return result;
 }
 
-WmiAnswer SimulatedPlatform::queryWmi(const QString &className, const QStringList &properties) const
+WmiAnswer MachinePlatform::queryWmi(const QString &className, const QStringList &properties) const
 {
     const WmiAnswer invalidClass{{}, {{WmiStep::Query, wmiInvalidClass}}};
     return guarded(invalidClass, [&] {
@@ -241,7 +241,7 @@ WmiAnswer SimulatedPlatform::queryWmi(const QString &className, const QStringLis
     });
 }
 
-void SimulatedPlatform::pause(int milliseconds) const
+void MachinePlatform::pause(int milliseconds) const
 {
     {
         const std::lock_guard lock(pausesLock_);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A key of a rehearsal machine's registry, with the manners of QSettings' native format.
 
-#include "simulatedkey.h"
+#include "machinekey.h"
 
 #include "machine.h"
 #include "settingsvalue.h"
@@ -81,7 +81,7 @@ Result guarded(Operation operation)
 
 } // namespace
 
-SimulatedKey::SimulatedKey(RegistryStore &store, const QString &path, bool elevated)
+MachineKey::MachineKey(RegistryStore &store, const QString &path, bool elevated)
     : store_(store)
 {
     const QString trimmed = path.startsWith(u'\\') ? path.mid(1) : path;
@@ -93,20 +93,20 @@ SimulatedKey::SimulatedKey(RegistryStore &store, const QString &path, bool eleva
     writable_ = elevated || beginsWithHive(path_, u"HKEY_CURRENT_USER") || beginsWithHive(path_, u"HKCU");
 }
 
-std::optional<KeyId> SimulatedKey::base() const
+std::optional<KeyId> MachineKey::base() const
 {
     if (!base_ && !path_.isEmpty())
         base_ = writable_ ? store_.make(path_) : store_.find(path_);
     return base_;
 }
 
-std::optional<KeyId> SimulatedKey::currentGroup() const
+std::optional<KeyId> MachineKey::currentGroup() const
 {
     const std::optional<KeyId> key = base();
     return key ? store_.find(*key, swapSlashes(prefix_)) : key;
 }
 
-std::optional<RegistryValue> SimulatedKey::read(const QString &name) const
+std::optional<RegistryValue> MachineKey::read(const QString &name) const
 {
     const Place place = placeOf(prefix_ + normalised(name));
     std::optional<KeyId> key = base();
@@ -115,7 +115,7 @@ std::optional<RegistryValue> SimulatedKey::read(const QString &name) const
     return key ? store_.value(*key, place.name) : std::nullopt;
 }
 
-QVariant SimulatedKey::value(const QString &name, const QVariant &fallback) const
+QVariant MachineKey::value(const QString &name, const QVariant &fallback) const
 {
     if (name.isEmpty())
         return {};
@@ -123,12 +123,12 @@ QVariant SimulatedKey::value(const QString &name, const QVariant &fallback) cons
     return found ? variantOf(*found) : fallback;
 }
 
-bool SimulatedKey::contains(const QString &name) const
+bool MachineKey::contains(const QString &name) const
 {
     return guarded<bool>([&] { return read(name).has_value(); });
 }
 
-void SimulatedKey::setValue(const QString &name, const QVariant &value)
+void MachineKey::setValue(const QString &name, const QVariant &value)
 {
     if (name.isEmpty())
         return;
@@ -141,7 +141,7 @@ void SimulatedKey::setValue(const QString &name, const QVariant &value)
     });
 }
 
-void SimulatedKey::remove(const QString &name)
+void MachineKey::remove(const QString &name)
 {
     guarded<void>([&] {
         const std::optional<KeyId> key = base();
@@ -165,7 +165,7 @@ void SimulatedKey::remove(const QString &name)
     });
 }
 
-QStringList SimulatedKey::allKeys() const
+QStringList MachineKey::allKeys() const
 {
     return guarded<QStringList>([&] {
         const std::optional<KeyId> key = currentGroup();
@@ -178,7 +178,7 @@ QStringList SimulatedKey::allKeys() const
     });
 }
 
-QStringList SimulatedKey::childKeys() const
+QStringList MachineKey::childKeys() const
 {
     return guarded<QStringList>([&] {
         const std::optional<KeyId> key = currentGroup();
@@ -186,7 +186,7 @@ QStringList SimulatedKey::childKeys() const
     });
 }
 
-QStringList SimulatedKey::childGroups() const
+QStringList MachineKey::childGroups() const
 {
     return guarded<QStringList>([&] {
         const std::optional<KeyId> key = currentGroup();
@@ -194,14 +194,14 @@ QStringList SimulatedKey::childGroups() const
     });
 }
 
-void SimulatedKey::beginGroup(const QString &name)
+void MachineKey::beginGroup(const QString &name)
 {
     groups_ << normalised(name);
     if (!groups_.constLast().isEmpty())
         prefix_ += groups_.constLast() + u'/';
 }
 
-void SimulatedKey::endGroup()
+void MachineKey::endGroup()
 {
     if (groups_.isEmpty())
         return;

@@ -9,11 +9,11 @@
 
 #include <QList>
 
-class SimulatedKey final : public RegistryKey
+class MachineKey final : public RegistryKey
 {
 public:
     /** @param elevated without it, the current user's hive alone can be written */
-    SimulatedKey(RegistryStore &store, const QString &path, bool elevated);
+    MachineKey(RegistryStore &store, const QString &path, bool elevated);
 
     QVariant value(const QString &name, const QVariant &fallback = {}) const override;
     void setValue(const QString &name, const QVariant &value) override;
