@@ -24,10 +24,8 @@ void Kestrune::on_btnAutomatizerAnalyze_clicked()
 {
     if (workThread->isRunning())
         return;
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     takeAutomatizerBoxes();
     ui.txtAutomatizer->clear();
     if (workThread->analyzeRunning != 0 || workThread->optimizeRunning != 0)
@@ -43,10 +41,8 @@ void Kestrune::on_btnAutomatize_clicked()
     takeAutomatizerBoxes();
     if (workThread->optimizeRunning != 0 || workThread->analyzeRunning != 0 || !hasFindings())
         return;
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     workThread->win32PrioritySeparationIndex = ui.cbWin32PrioritySeparation->currentIndex();
     ui.txtAutomatizer->clear();
     workThread->analyzeRunning = 0;
@@ -58,10 +54,8 @@ void Kestrune::on_btnAutomatizerRestore_clicked()
     if (workThread->isRunning())
         return;
     takeAutomatizerBoxes();
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     if (!wasOptimized()) {
         tell(tr("Cannot restore if you have not yet optimized!"));
         return;

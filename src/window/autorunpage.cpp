@@ -73,10 +73,8 @@ void Kestrune::switchCheckedAutoruns()
 {
     if (workThread->isRunning())
         return;
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     const bool disable = ui.btnAutorun->text() == tr("Disable checked programs");
     bool done = false;
     for (const QTableWidgetItem *item : firstCells(ui.tblAutorun)) {

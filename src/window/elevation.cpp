@@ -36,6 +36,14 @@ void showAdminRequiredDialog(Kestrune *window)
         moveToElevatedInstance(window);
 }
 
+bool mayChange(Kestrune *window)
+{
+    const bool elevated = isProcessElevated();
+    if (!elevated)
+        showAdminRequiredDialog(window);
+    return elevated;
+}
+
 void Kestrune::StartAsAdmin()
 {
     // The Options page writes this value as "StartAsAdmin"; names in the registry don't mind case.

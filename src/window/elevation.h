@@ -5,7 +5,7 @@
 
 class Kestrune;
 
-/** Whether this process has an elevated token; false where that can't be told. */
+/** Whether this process has an elevated token; false where that is unknown. */
 bool isProcessElevated();
 
 /** Starts this program once more with administrator rights. Refusal and failure are silent. */
@@ -16,3 +16,6 @@ void moveToElevatedInstance(Kestrune *window);
 
 /** Tells that an action needs administrator rights and offers to start again with them. */
 void showAdminRequiredDialog(Kestrune *window);
+
+/** Whether this process may change the system. Where it may not, that dialog is shown. */
+bool mayChange(Kestrune *window);

@@ -109,10 +109,8 @@ void Kestrune::on_btnTweakApply_clicked()
 {
     if (workThread->isRunning())
         return;
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     workThread->win32PrioritySeparationIndex = ui.cbWin32PrioritySeparation->currentIndex();
     applyTouchedTweaks();
     QString summary = tr("Apply features finished successfully.");
@@ -166,10 +164,8 @@ void Kestrune::onAttributeWalkEnd()
 
 void Kestrune::on_btnSsd8_clicked()
 {
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     platform().shellExecute({u"open"_s, qEnvironmentVariable("windir") + u"\\System32\\cmd.exe"_s,
                              u"/k dism /online /Cleanup-Image /StartComponentCleanup"_s});
 }

@@ -64,10 +64,8 @@ void Kestrune::on_btnPackagesUninst_clicked()
     workThread->packagesToChange.clear();
     if (checked.isEmpty())
         return;
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     workThread->packagesToChange = checked;
     workThread->packageInstall = ui.btnPackagesUninst->text() == tr("Install packages");
     // Before the start: the job's own true must be the last word.

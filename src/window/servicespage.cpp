@@ -123,10 +123,8 @@ void Kestrune::on_btnSvcDisable_clicked()
     }
     if (names.isEmpty())
         return;
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     workThread->servicesToChange = names;
     if (ui.btnSvcDisable->text() == tr("DISABLE checked services"))
         workThread->startJob(JobSvcDisable);
@@ -152,10 +150,8 @@ void Kestrune::on_btnSvcAssist_clicked()
         ui.lblStatus->setText(tr("Assistant - no services to deactivate"));
         return;
     }
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     const auto answer = ask({.text = tr("Disable checked services"),
                              .informativeText = tr("Are you sure to disable all checked services?"),
                              .defaultButton = QMessageBox::No});
@@ -173,10 +169,8 @@ void Kestrune::on_btnSvcRestore_clicked()
 {
     if (workThread->isRunning())
         return;
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     const QString backup = startModeBackupFile();
     if (!QFile::exists(backup)) {
         restoreRecordedServices();
@@ -234,10 +228,8 @@ void Kestrune::setServiceAutomaticStart()
 
 void Kestrune::setServiceStart(const QString &argument)
 {
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     QStringList names;
     for (const QTableWidgetItem *item : ui.tblSvc->selectedItems()) {
         if (item->toolTip().contains(u':'))

@@ -131,10 +131,8 @@ void Kestrune::disableCheckedTasks()
     }
     if (checked.isEmpty())
         return;
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     workThread->tasksToChange = checked;
     workThread->startJob(JobTaskStopOrStart);
 }
@@ -155,10 +153,8 @@ void Kestrune::on_btnTaskAssist_clicked()
         ui.lblStatus->setText(tr("Assistant - no tasks to deactivate"));
         return;
     }
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     // The default button asked for isn't in the box, so the style chooses one.
     const auto answer = ask({.text = tr("Disable scheduled tasks"),
                              .informativeText = tr("Are you sure to disable all checked tasks?"),
@@ -181,10 +177,8 @@ void Kestrune::on_btnTaskRestore_clicked()
 {
     if (workThread->isRunning())
         return;
-    if (!isProcessElevated()) {
-        showAdminRequiredDialog(this);
+    if (!mayChange(this))
         return;
-    }
     const auto answer =
         ask({.text = tr("Restoring scheduled tasks"),
              .informativeText = tr("Are you sure you want to restore the startup of all scheduled tasks?"),
