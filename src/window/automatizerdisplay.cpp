@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the lines of Analyze, Optimize and Restore mean: log, status and bar, and what closes each of the three. Lines
-// are compared as they are sent, whatever the language.
+// What the lines of Analyze, Optimize and Restore mean: log, status and bar, and what closes each of the three.
 
 #include "kestrune.h"
 
 #include "messagebox.h"
 #include "rowtext.h"
 #include "work/automatizer/restorelists.h"
+#include "work/statusline.h"
 #include "work/tweaks/tweakrecord.h"
 #include "work/windowsname.h"
 
@@ -31,22 +31,22 @@ QString improvementCount(bool onWindows10, bool onBattery)
 
 void Kestrune::onAutomatizerValueChanged(const QString &line)
 {
-    if (line == "tweaksDone"_L1) {
+    if (line == StatusLine::tweaksDone) {
         closeTweaks();
-    } else if (line.startsWith("pgr:"_L1)) {
+    } else if (StatusLine::isProgress(line)) {
         onAutomatizerProgressLine(line);
-    } else if (line == "AutomatizerAnalyze:finished"_L1) {
+    } else if (line == StatusLine::analyzed) {
         closeAnalyze();
-    } else if (line == "automatizerEnd"_L1) {
+    } else if (line == StatusLine::optimizedWithoutTweaks) {
         fillBar();
         ui.txtAutomatizer->append(QString());
         logAndShow(tr("Optimization finished"));
-    } else if (line == "AutomatizerRestore:finished"_L1) {
+    } else if (line == StatusLine::restoredWithoutTweaks) {
         closeRestore();
         fillBar();
         ui.txtAutomatizer->append(QString());
         logAndShow(tr("Restoration finished: Restart your PC!"));
-    } else if (line == "RemoveIndexedAttrib_end"_L1) {
+    } else if (line == StatusLine::attributesSetByOptimize) {
         closeAttributeWalk();
     } else {
         ui.txtAutomatizer->append(line);
@@ -56,13 +56,13 @@ void Kestrune::onAutomatizerValueChanged(const QString &line)
 void Kestrune::onAutomatizerProgressLine(const QString &line)
 {
     ui.pgrBar->show();
-    // What is no number is the head of a phase, which stands behind "Optimize" during Restore too.
-    if (line.startsWith("pgr:max:"_L1))
-        ui.pgrBar->setMaximum(QStringView(line).sliced(8).toInt());
-    else if (line.startsWith("pgr:value:"_L1))
-        ui.pgrBar->setValue(QStringView(line).sliced(10).toInt());
+    // What is no number is the head of a phase, which stands after "Optimize" during Restore too.
+    if (const auto steps = StatusLine::maximumOf(line))
+        ui.pgrBar->setMaximum(steps->toInt());
+    else if (const auto reached = StatusLine::stepOf(line))
+        ui.pgrBar->setValue(reached->toInt());
     else
-        ui.lblStatus->setText(tr("Optimize") + u" : "_s + line.sliced(4));
+        ui.lblStatus->setText(tr("Optimize") + u" : "_s + StatusLine::phaseOf(line));
 }
 
 void Kestrune::closeAnalyze()

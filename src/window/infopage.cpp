@@ -2,6 +2,7 @@
 // The System information page: a template whose marks give way to the texts that the job has gathered.
 
 #include "kestrune.h"
+#include "work/statusline.h"
 
 #include <span>
 
@@ -105,16 +106,17 @@ void Kestrune::showInfoPage()
 
 void Kestrune::onInfoJobLine(QString &line)
 {
-    if (line.startsWith("pgr:"_L1))
+    if (StatusLine::isProgress(line))
         ui.pgrBar->show();
-    if (line.startsWith("pgr:max:"_L1)) {
-        line.remove(0, 8);
+    if (const auto steps = StatusLine::maximumOf(line)) {
+        line = *steps;
         ui.pgrBar->setMaximum(line.toInt());
         return;
     }
-    if (!line.startsWith("pgr:value:"_L1))
+    const auto reached = StatusLine::stepOf(line);
+    if (!reached)
         return;
-    line.remove(0, 10);
+    line = *reached;
     ui.pgrBar->setValue(line.toInt());
     if (line == infoSteps[std::size(infoSteps) - 1].value) {
         showSystemReport();

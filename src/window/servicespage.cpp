@@ -11,6 +11,7 @@
 #include "work/services/servicecatalogue.h"
 #include "work/services/startmodebackup.h"
 #include "work/settings.h"
+#include "work/statusline.h"
 
 #include <QDesktopServices>
 #include <QFile>
@@ -46,18 +47,18 @@ void Kestrune::onServiceJobLine(QString &line)
     const bool disabling = workThread->job == JobSvcDisable;
     // The prefix is cut off before the next look at the line, so a maximum doesn't show the bar, and a number stands in
     // the status until the name comes.
-    if (line.startsWith("pgr:max:"_L1)) {
-        line.remove(0, 8);
+    if (const auto steps = StatusLine::maximumOf(line)) {
+        line = *steps;
         ui.pgrBar->setMaximum(line.toInt());
     }
-    if (line.startsWith("pgr:"_L1))
+    if (StatusLine::isProgress(line))
         ui.pgrBar->show();
-    if (line.startsWith("pgr:value:"_L1)) {
-        line.remove(0, 10);
+    if (const auto reached = StatusLine::stepOf(line)) {
+        line = *reached;
         ui.pgrBar->setValue(line.toInt());
     }
-    if (line.startsWith("pgr:"_L1)) {
-        if (line.endsWith("finished"_L1)) {
+    if (StatusLine::isProgress(line)) {
+        if (StatusLine::isEnd(line)) {
             ui.lblStatus->setText(
                 (disabling ? tr("Disable checked services finished") : tr("Enable checked services finished"))
                 + u"  "_s);

@@ -7,6 +7,7 @@
 #include "messagebox.h"
 #include "rowtext.h"
 #include "work/settings.h"
+#include "work/statusline.h"
 #include "work/tasks/taskcatalogue.h"
 
 using namespace Qt::StringLiterals;
@@ -95,16 +96,16 @@ void Kestrune::addTaskRow(const TaskRow &row)
 
 void Kestrune::onTaskJobLine(const QString &line)
 {
-    if (line.startsWith("pgr:max:"_L1))
-        ui.pgrBar->setMaximum(QStringView(line).sliced(8).toInt());
-    if (!line.startsWith("pgr:"_L1)) {
+    if (const auto steps = StatusLine::maximumOf(line))
+        ui.pgrBar->setMaximum(steps->toInt());
+    if (!StatusLine::isProgress(line)) {
         ui.lblStatus->setText(line);
         return;
     }
     ui.pgrBar->show();
-    if (line.startsWith("pgr:value:"_L1))
-        ui.pgrBar->setValue(QStringView(line).sliced(10).toInt());
-    if (line.endsWith("finished"_L1)) {
+    if (const auto reached = StatusLine::stepOf(line))
+        ui.pgrBar->setValue(reached->toInt());
+    if (StatusLine::isEnd(line)) {
         ui.lblStatus->setText((workThread->taskRestoreMode ? tr("Restore scheduled tasks completed successfully")
                                                            : tr("Disable scheduled tasks completed successfully"))
                               + u"  "_s);

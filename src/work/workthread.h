@@ -4,6 +4,7 @@
 #pragma once
 
 #include "rows.h"
+#include "statusline.h"
 
 #include <QList>
 #include <QStringList>
@@ -199,7 +200,7 @@ private:
 
     // The Automatizer's recurring lines.
     void reportFinding(int &count, const QString &line);
-    void reportPhase(const QString &name) { reportToAutomatizer(QStringLiteral("pgr: ") + name); }
+    void reportPhase(const QString &name) { reportToAutomatizer(StatusLine::phase(name)); }
     void reportMaximum(qsizetype steps);
     void reportStep(qsizetype step);
     void reportBreak() { reportToAutomatizer(QString()); }

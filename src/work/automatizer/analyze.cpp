@@ -4,6 +4,7 @@
 #include "restorelists.h"
 #include "work/autorun/autorun.h"
 #include "work/packages/packagecatalogue.h"
+#include "work/statusline.h"
 #include "work/workthread.h"
 
 using namespace Qt::StringLiterals;
@@ -45,7 +46,7 @@ void WorkThread::AutomatizerAnalyze()
         reportStep(5);
         analyzeProcesses();
     }
-    reportToAutomatizer(u"AutomatizerAnalyze:finished"_s);
+    reportToAutomatizer(StatusLine::analyzed);
     analyzeRunning = 0;
 }
 
@@ -83,10 +84,10 @@ void WorkThread::reportFinding(int &count, const QString &line)
 
 void WorkThread::reportMaximum(qsizetype steps)
 {
-    reportToAutomatizer(u"pgr:max:"_s + QString::number(steps));
+    reportToAutomatizer(StatusLine::maximum(steps));
 }
 
 void WorkThread::reportStep(qsizetype step)
 {
-    reportToAutomatizer(u"pgr:value:"_s + QString::number(step));
+    reportToAutomatizer(StatusLine::step(step));
 }

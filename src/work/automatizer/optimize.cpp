@@ -8,6 +8,7 @@
 #include "work/packages/packagecatalogue.h"
 #include "work/services/manualstart.h"
 #include "work/services/servicecatalogue.h"
+#include "work/statusline.h"
 #include "work/workthread.h"
 
 #include <algorithm>
@@ -33,7 +34,7 @@ void WorkThread::AutomatizerOptimize()
         // Still running: the window ends it, when it has recorded the tweaks and asked its question.
         optimizeFeatures();
     } else {
-        reportToAutomatizer(u"automatizerEnd"_s);
+        reportToAutomatizer(StatusLine::optimizedWithoutTweaks);
         optimizeRunning = 0;
     }
     // Whatever failed: from now on Optimize also brings back what is kept.

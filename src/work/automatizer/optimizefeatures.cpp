@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Optimize's phase of tweaks.
 
+#include "work/statusline.h"
 #include "work/tweaks/tweakcatalogue.h"
 
 using namespace Qt::StringLiterals;
@@ -23,5 +24,5 @@ void WorkThread::optimizeFeatures()
     // There is no 11, which has its pause all the same.
     optimizeTweaks(*this, &WorkThread::TweakWindows, 11);
     reportStep(3);
-    reportToAutomatizer(u"tweaksDone"_s);
+    reportToAutomatizer(StatusLine::tweaksDone);
 }

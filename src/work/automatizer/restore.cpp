@@ -3,6 +3,7 @@
 
 #include "platform/platform.h"
 #include "work/settings.h"
+#include "work/statusline.h"
 #include "work/tweaks/tweakcatalogue.h"
 
 using namespace Qt::StringLiterals;
@@ -22,7 +23,7 @@ void WorkThread::AutomatizerRestore()
         restoreFeatures();
         return;
     }
-    reportToAutomatizer(u"AutomatizerRestore:finished"_s);
+    reportToAutomatizer(StatusLine::restoredWithoutTweaks);
     restoreRunning = 0;
 }
 
@@ -76,5 +77,5 @@ void WorkThread::restoreFeatures()
     reportToAutomatizer(tr("Features: reset Windows optimizations"));
     restoreTweaks(*this, &WorkThread::TweakWindows, 10);
     reportStep(3);
-    reportToAutomatizer(u"tweaksDone"_s);
+    reportToAutomatizer(StatusLine::tweaksDone);
 }

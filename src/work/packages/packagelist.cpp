@@ -4,6 +4,7 @@
 #include "packagecatalogue.h"
 #include "platform/platform.h"
 #include "work/interruption.h"
+#include "work/statusline.h"
 #include "work/windowsname.h"
 #include "work/workthread.h"
 
@@ -85,5 +86,5 @@ void WorkThread::PackageGetList()
             packages.append({oneDriveName, oneDriveName, uninstaller});
     }
     if (analyzeRunning == 0)
-        report(u"WorkThread::PackageGetList"_s);
+        report(StatusLine::packagesListed);
 }

@@ -7,6 +7,7 @@
 #include "work/command.h"
 #include "work/interruption.h"
 #include "work/settings.h"
+#include "work/statusline.h"
 #include "work/workthread.h"
 
 #include <QFileInfo>
@@ -102,7 +103,7 @@ int WorkThread::PackageSetState(const QList<PackageRow> &list, bool install)
             if (exitCode == 0)
                 openRecords(u"Packages"_s)->setValue(row.name, 1);
             reportToAutomatizer(automatizerText(command, row.name, install));
-            reportToAutomatizer(u"pgr:value:"_s + QString::number(counter));
+            reportToAutomatizer(StatusLine::step(counter));
         } else {
             report(pageText(header, row.name, exitCode));
         }

@@ -5,6 +5,7 @@
 #include "startmodebackup.h"
 #include "work/command.h"
 #include "work/interruption.h"
+#include "work/statusline.h"
 #include "work/workthread.h"
 
 #include <QSet>
@@ -85,5 +86,5 @@ void WorkThread::SvcMakeList()
         key->endGroup();
     }
     if (analyzeRunning != 1)
-        report(u"WorkThread::SvcMakeList"_s);
+        report(StatusLine::servicesListed);
 }

@@ -6,6 +6,7 @@
 #include "work/errorlog.h"
 #include "work/interruption.h"
 #include "work/settings.h"
+#include "work/statusline.h"
 #include "work/windowsname.h"
 #include "work/workthread.h"
 
@@ -111,7 +112,7 @@ int WorkThread::SvcStopOrStart(QStringList list, bool enable)
     list.sort(Qt::CaseInsensitive);
     const bool forAutomatizer = optimizeRunning != 0 || restoreRunning != 0;
     if (!forAutomatizer)
-        report(u"pgr:max:"_s + QString::number(list.size()));
+        report(StatusLine::maximum(list.size()));
     const Manner manner = mannerFor(winName);
 
     int counter = 1;
@@ -120,7 +121,7 @@ int WorkThread::SvcStopOrStart(QStringList list, bool enable)
         enable ? change.enable() : change.disable();
         const int exitCode = change.exitCode();
 
-        const QString progress = u"pgr:value:"_s + QString::number(counter);
+        const QString progress = StatusLine::step(counter);
         if (!forAutomatizer && analyzeRunning == 0) {
             report(progress);
             report(name);
@@ -136,6 +137,6 @@ int WorkThread::SvcStopOrStart(QStringList list, bool enable)
         }
         ++counter;
     }
-    report(u"pgr:SvcStopOrStart=finished"_s);
+    report(StatusLine::servicesChanged);
     return 0;
 }

@@ -3,6 +3,7 @@
 
 #include "reportsteps.h"
 #include "work/interruption.h"
+#include "work/statusline.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,13 +18,13 @@ constexpr Step steps[] = {collectWindows, collectMotherboard, collectGraphics,
 
 void WorkThread::GetSystemInfo()
 {
-    report(u"pgr:max:7"_s);
+    report(StatusLine::maximum(7));
     int reached = 1;
-    report(u"pgr:value:%1"_s.arg(reached));
+    report(StatusLine::step(reached));
     for (const Step collect : steps) {
         endIfInterrupted();
         collect(*this);
         // The window reads the texts when the last of these lines has come: nothing is written behind it.
-        report(u"pgr:value:%1"_s.arg(++reached));
+        report(StatusLine::step(++reached));
     }
 }

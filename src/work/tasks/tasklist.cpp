@@ -5,6 +5,7 @@
 #include "work/command.h"
 #include "work/errorlog.h"
 #include "work/interruption.h"
+#include "work/statusline.h"
 #include "work/workthread.h"
 
 #include <QDir>
@@ -72,7 +73,7 @@ void WorkThread::TaskMakeList()
     QString exported = decoder(bytes);
     readTasks(exported.replace("\r\n"_L1, "\n"_L1));
     if (analyzeRunning == 0)
-        report(u"WorkThread::TaskMakeList"_s);
+        report(StatusLine::tasksListed);
 }
 
 void WorkThread::readTasks(const QString &exported)

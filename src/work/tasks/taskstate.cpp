@@ -5,6 +5,7 @@
 #include "work/errorlog.h"
 #include "work/interruption.h"
 #include "work/settings.h"
+#include "work/statusline.h"
 #include "work/windowsname.h"
 #include "work/workthread.h"
 
@@ -13,7 +14,7 @@ using namespace Qt::StringLiterals;
 void WorkThread::TaskStopOrStart(const QList<TaskRow> &list)
 {
     if (optimizeRunning == 0 && restoreRunning == 0)
-        report(u"pgr:max:"_s + QString::number(list.size()));
+        report(StatusLine::maximum(list.size()));
     const int settleDelay = isWindows10(winName) ? 1020 : 300;
 
     for (qsizetype i = 0; i < list.size(); ++i) {
@@ -28,7 +29,7 @@ void WorkThread::TaskStopOrStart(const QList<TaskRow> &list)
             openRecords(u"Task"_s)->setValue(task.path, task.disabled);
 
         // The count begins at 0, so that the bar is full only when the closing line comes.
-        const QString progress = u"pgr:value:"_s + QString::number(i);
+        const QString progress = StatusLine::step(i);
         if (optimizeRunning == 0 && restoreRunning == 0 && analyzeRunning == 0) {
             report(progress);
             report(tr("Task:") + u' ' + task.name);
@@ -37,5 +38,5 @@ void WorkThread::TaskStopOrStart(const QList<TaskRow> &list)
             reportToAutomatizer(progress);
         }
     }
-    report(u"pgr:TaskSetState=finished"_s);
+    report(StatusLine::tasksChanged);
 }

@@ -7,6 +7,7 @@
 #include "tweakvalues.h"
 #include "work/command.h"
 #include "work/interruption.h"
+#include "work/statusline.h"
 #include "work/sysinfo/memorysize.h"
 #include "work/windowsname.h"
 #include "work/wmi.h"
@@ -146,9 +147,9 @@ void WorkThread::TweakSSD(quint8 apply, quint32 id)
     case 8:
         RemoveIndexedAttrib(qEnvironmentVariable("homedrive"), !isApply);
         if (optimizeRunning == 1)
-            reportToAutomatizer(u"RemoveIndexedAttrib_end"_s);
+            reportToAutomatizer(StatusLine::attributesSetByOptimize);
         else
-            report(u"WorkThread::TweakSSD::RemoveIndexedAttrib"_s);
+            report(StatusLine::attributesSet);
         break;
     case 9:
         setIoPageLock(isApply, memTotal);
