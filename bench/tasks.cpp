@@ -3,6 +3,7 @@
 
 #include "benchmachine.h"
 #include "window/kestrune.h"
+#include "work/tasks/tasklist.h"
 
 #include <QElapsedTimer>
 #include <QHeaderView>
@@ -60,20 +61,19 @@ void readTasks(benchmark::State &state)
 {
     BenchMachine machine;
     const QString text = exportOf(static_cast<int>(state.range(0)));
-    WorkThread worker;
+    QList<TaskRow> tasks;
     QList<TaskRow> parsed;
     qint64 ours = 0;
     qint64 parsers = 0;
     QElapsedTimer timer;
     for (auto _ : state) {
         timer.start();
-        worker.tasks.clear();
-        worker.readTasks(text);
+        tasks = tasksOf(text);
         ours += timer.nsecsElapsed();
         state.PauseTiming();
         timer.start();
-        if (readByParser(text, parsed) != state.range(0) || worker.tasks.size() != parsed.size()
-            || worker.tasks.constLast().path != parsed.constLast().path)
+        if (readByParser(text, parsed) != state.range(0) || tasks.size() != parsed.size()
+            || tasks.constLast().path != parsed.constLast().path)
             state.SkipWithError("the list is not complete");
         parsers += timer.nsecsElapsed();
         state.ResumeTiming();

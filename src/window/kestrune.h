@@ -171,7 +171,6 @@ private:
     void fillTaskTable();
     void addTaskRow(const TaskRow &row);
     void disableCheckedTasks();
-    bool isNeedlessTask(const QString &name) const;
 
     // Autorun page
     void showAutorunPage();

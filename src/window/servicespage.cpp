@@ -6,8 +6,8 @@
 #include "elevation.h"
 #include "messagebox.h"
 #include "rowtext.h"
-#include "servicerow.h"
 #include "work/command.h"
+#include "work/keepfeatures.h"
 #include "work/services/servicecatalogue.h"
 #include "work/services/startmodebackup.h"
 #include "work/settings.h"
@@ -19,6 +19,29 @@
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/** "Auto", "Manual" or "Disabled" in the user's language; empty for other start modes. */
+QString startModeText(const ServiceRow &row)
+{
+    if (row.startsAs(StartAutomatic))
+        return Kestrune::tr("Auto");
+    if (row.startsAs(StartOnDemand))
+        return Kestrune::tr("Manual");
+    if (row.startsAs(StartDisabled))
+        return Kestrune::tr("Disabled");
+    return {};
+}
+
+/** Whether Windows needs the service, so that its row is greyed and can't be checked. */
+bool isCriticalService(const ServiceRow &row)
+{
+    // 224 is a per-user service's instance, which can't be disabled by itself.
+    return criticalServices.contains(row.name) || row.type == "224"_L1;
+}
+
+} // namespace
 
 void Kestrune::showServicesPage()
 {
@@ -81,7 +104,7 @@ void Kestrune::fillServiceTable()
         } else {
             ++svcStoppedCount;
         }
-        if (row.start == "4"_L1)
+        if (row.startsAs(StartDisabled))
             ++svcDisabledCount;
     }
     ui.lblStatus->setText(countText(tr("Services:"), workThread->services.size()) + summarySeparator
@@ -92,7 +115,7 @@ void Kestrune::fillServiceTable()
 
 void Kestrune::addServiceRow(const ServiceRow &row, int greyed)
 {
-    const QString texts[] = {row.displayName.isEmpty() ? row.name : row.displayName, startModeText(row.start),
+    const QString texts[] = {row.displayName.isEmpty() ? row.name : row.displayName, startModeText(row),
                              row.description};
     const QString toolTip = rowToolTip(row.name, row.description);
     const bool locked = greyed == 1 || isCriticalService(row);
@@ -212,7 +235,7 @@ void Kestrune::on_btnSvcViewDisabled_clicked()
     for (const ServiceRow &row : workThread->services) {
         if (records->value(row.name, 0).toInt() == 1)
             addServiceRow(row, 0);
-        else if (row.start == "4"_L1)
+        else if (row.startsAs(StartDisabled))
             addServiceRow(row, 1);
     }
 }

@@ -14,26 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool endsWithAny(const QString &text, const QStringList &endings)
-{
-    return std::any_of(endings.begin(), endings.end(),
-                       [&text](const QString &ending) { return text.endsWith(ending, Qt::CaseInsensitive); });
-}
-
-bool startsWithAny(const QString &text, const QStringList &beginnings)
-{
-    return std::any_of(beginnings.begin(), beginnings.end(),
-                       [&text](const QString &beginning) { return text.startsWith(beginning, Qt::CaseInsensitive); });
-}
-
-QString behindLastBackslash(const QString &path)
+QString nameOfTask(const QString &path)
 {
     return path.sliced(path.lastIndexOf(u'\\') + 1);
 }
 
 TaskRow taskToChange(const QString &path, int disabled)
 {
-    return {path, QString(), behindLastBackslash(path), QString(), disabled};
+    return {path, QString(), nameOfTask(path), QString(), disabled};
 }
 
 } // namespace
@@ -145,7 +133,7 @@ void Kestrune::on_btnTaskAssist_clicked()
     workThread->taskRestoreMode = false;
     int count = 0;
     for (QTableWidgetItem *item : firstCells(ui.tblTasks)) {
-        if (!isNeedlessTask(behindLastBackslash(nameFromToolTip(item->toolTip()))))
+        if (reasonsAgainstTask(*workThread, nameOfTask(nameFromToolTip(item->toolTip()))) == 0)
             continue;
         item->setCheckState(Qt::Checked);
         ++count;
@@ -163,15 +151,6 @@ void Kestrune::on_btnTaskAssist_clicked()
                              .plainNo = true});
     if (answer == QMessageBox::Yes)
         disableCheckedTasks();
-}
-
-bool Kestrune::isNeedlessTask(const QString &name) const
-{
-    for (const KeepFeatureTasks &feature : keepFeatureTasks()) {
-        if (workThread->*feature.keep == 0 && endsWithAny(name, feature.nameEndings))
-            return true;
-    }
-    return workThread->nonVitalTasks.contains(name, Qt::CaseInsensitive) || startsWithAny(name, nonVitalTaskPrefixes());
 }
 
 void Kestrune::on_btnTaskRestore_clicked()

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/windowsfacts.h"
+
 #include <QString>
 
 struct ServiceRow
@@ -13,13 +15,15 @@ struct ServiceRow
     QString type;        ///< "16", "32", "96", "224" or "272"
     QString start;       ///< "2" automatic, "3" manual, "4" disabled; others as they read
     bool running = false;
+
+    bool startsAs(StartMode mode) const { return start == QString::number(mode); }
 };
 
 struct TaskRow
 {
     QString path; ///< without its leading backslash
     QString description;
-    QString name;     ///< the path's part behind its last backslash
+    QString name;     ///< the path's part after its last backslash
     QString extra;    ///< always empty
     int disabled = 0; ///< listed: 1 is switched off; to change: 1 disables, 0 enables
 };

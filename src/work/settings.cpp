@@ -6,20 +6,19 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString rootPath = u"HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale"_s;
-
-} // namespace
+QString recordKey(const QString &group)
+{
+    return programKey + u'\\' + group;
+}
 
 std::unique_ptr<RegistryKey> openSettings()
 {
-    return platform().openKey(rootPath);
+    return platform().openKey(programKey);
 }
 
 std::unique_ptr<RegistryKey> openRecords(const QString &group)
 {
-    return platform().openKey(rootPath + u'\\' + group);
+    return platform().openKey(recordKey(group));
 }
 
 QStringList recordedNames(const QString &group)

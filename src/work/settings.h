@@ -7,9 +7,12 @@
 
 #include <memory>
 
-/** The root of the settings tree. */
+/** The program's own key, which holds its settings. */
+inline const QString programKey = QStringLiteral("HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale");
+/** The key below it that holds a group of records: SVC, Task, Autorun, Packages or Tweak. */
+QString recordKey(const QString &group);
+
 std::unique_ptr<RegistryKey> openSettings();
-/** A group of records below the root: SVC, Task, Autorun, Packages or Tweak. */
 std::unique_ptr<RegistryKey> openRecords(const QString &group);
 /** The names in a group of records, in order; the key's unnamed value is none. */
 QStringList recordedNames(const QString &group);

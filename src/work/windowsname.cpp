@@ -3,13 +3,14 @@
 #include "windowsname.h"
 
 #include "platform/platform.h"
+#include "platform/windowsfacts.h"
 #include "workthread.h"
 
 using namespace Qt::StringLiterals;
 
 WindowsName readWindowsName()
 {
-    const auto key = platform().openKey(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion"_s);
+    const auto key = platform().openKey(WindowsKey::currentVersion);
     WindowsName name;
     name.product = key->value(u"ProductName"_s, WorkThread::tr("unknown")).toString();
     name.build = key->value(u"CurrentBuild"_s, WorkThread::tr("unknown")).toString();

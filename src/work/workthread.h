@@ -128,8 +128,6 @@ public:
     int SvcStopOrStart(QStringList list, bool enable);
     /** Lists the scheduled tasks into `tasks`. */
     void TaskMakeList();
-    /** Cuts the tasks out of the text that schtasks prints and appends them to `tasks`. */
-    void readTasks(const QString &exported);
     /** Disables or enables scheduled tasks, each as its row says. */
     void TaskStopOrStart(const QList<TaskRow> &list);
     /** Lists the packaged applications that can be removed into `packages`. */

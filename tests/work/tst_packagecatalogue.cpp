@@ -2,6 +2,7 @@
 // Tests of what the program knows about packaged applications.
 
 #include "support/suite.h"
+#include "work/keepfeatures.h"
 #include "work/packages/packagecatalogue.h"
 
 #include <QTest>
@@ -50,14 +51,15 @@ void TestPackageCatalogue::removablePackages()
 
 void TestPackageCatalogue::packagesOfFeatures()
 {
-    QCOMPARE(xboxGameBarPackages(), (QStringList{u"Microsoft.XboxGamingOverlay"_s, u"Microsoft.XboxGameOverlay"_s,
-                                                 u"Microsoft.XboxSpeechToTextOverlay"_s}));
-    QCOMPARE(xboxAppPackages(),
+    QCOMPARE(keepFeatures[7].packages, (QStringList{u"Microsoft.XboxGamingOverlay"_s, u"Microsoft.XboxGameOverlay"_s,
+                                                    u"Microsoft.XboxSpeechToTextOverlay"_s}));
+    QCOMPARE(keepFeatures[3].packages,
              (QStringList{u"Microsoft.XboxApp"_s, u"Microsoft.GamingApp"_s, u"Microsoft.GamingServices"_s,
                           u"Microsoft.Xbox.TCUI"_s, u"Microsoft.XboxIdentityProvider"_s}));
-    QCOMPARE(codecPackages(), (QStringList{u"Microsoft.AV1VideoExtension"_s, u"Microsoft.VP9VideoExtensions"_s,
-                                           u"Microsoft.AVCEncoderVideoExtension"_s, u"Microsoft.HEVCVideoExtension"_s,
-                                           u"Microsoft.MPEG2VideoExtension"_s}));
+    QCOMPARE(keepFeatures[8].packages,
+             (QStringList{u"Microsoft.AV1VideoExtension"_s, u"Microsoft.VP9VideoExtensions"_s,
+                          u"Microsoft.AVCEncoderVideoExtension"_s, u"Microsoft.HEVCVideoExtension"_s,
+                          u"Microsoft.MPEG2VideoExtension"_s}));
 }
 
 void TestPackageCatalogue::commentIsFoundByTheNameInIt_data()

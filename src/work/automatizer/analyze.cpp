@@ -3,7 +3,7 @@
 
 #include "restorelists.h"
 #include "work/autorun/autorun.h"
-#include "work/packages/packagecatalogue.h"
+#include "work/keepfeatures.h"
 #include "work/statusline.h"
 #include "work/workthread.h"
 
@@ -56,10 +56,10 @@ void WorkThread::analyzePackages()
     for (const PackageRow &row : std::as_const(packages))
         reportFinding(analyzePackageCount, uninstallText(row.name));
     if (wasOptimized()) {
-        for (const KeepFeaturePackages &feature : keepFeaturePackages()) {
-            if (this->*feature.keep == 0 || this->*feature.installed != 0)
+        for (const KeepFeature &feature : keepFeaturesToBringBack()) {
+            if (!feature.isKept(*this) || feature.packages.isEmpty() || this->*feature.installed != 0)
                 continue;
-            for (const QString &name : feature.toBringBack())
+            for (const QString &name : feature.packagesToBringBack())
                 reportFinding(analyzePackageCount, tr("Package: can be installed: ") + name);
         }
     }

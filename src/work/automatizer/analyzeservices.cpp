@@ -2,8 +2,9 @@
 // The services that Analyze finds.
 
 #include "restorelists.h"
-#include "work/services/manualstart.h"
+#include "work/keepfeatures.h"
 #include "work/services/servicecatalogue.h"
+#include "work/services/servicestate.h"
 #include "work/workthread.h"
 
 #include <algorithm>
@@ -12,18 +13,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isDisabled(const ServiceRow &row)
-{
-    return row.start == "4"_L1;
-}
-
 /** Whether a feature that is kept names the service; an instance of one user's is named by more than that. */
 bool isOfKeptFeature(const WorkThread &worker, const QString &service)
 {
     const auto isIn = [&service](const QString &name) { return service.contains(name, Qt::CaseInsensitive); };
-    const auto features = keepFeatureServicesToBringBack();
-    return std::any_of(features.cbegin(), features.cend(), [&](const KeepFeatureServices &feature) {
-        return worker.*feature.keep != 0 && std::any_of(feature.services.cbegin(), feature.services.cend(), isIn);
+    return std::any_of(keepFeatures.begin(), keepFeatures.end(), [&](const KeepFeature &feature) {
+        return feature.isKept(worker) && std::any_of(feature.services.cbegin(), feature.services.cend(), isIn);
     });
 }
 
@@ -36,10 +31,10 @@ void WorkThread::analyzeServices()
     addServicesOfFeaturesGivenUp(*this);
     const bool bringBack = wasOptimized();
     for (const ServiceRow &row : std::as_const(services)) {
-        if (row.running && !isDisabled(row) && nonVitalServices.contains(row.name, Qt::CaseInsensitive)) {
+        if (row.running && !row.startsAs(StartDisabled) && nonVitalServices.contains(row.name, Qt::CaseInsensitive)) {
             automatizerServices.append(row);
             reportFinding(analyzeServiceCount, tr("Service: can be disable: ") + row.name);
-        } else if (bringBack && !row.running && isDisabled(row) && isOfKeptFeature(*this, row.name)) {
+        } else if (bringBack && !row.running && row.startsAs(StartDisabled) && isOfKeptFeature(*this, row.name)) {
             // No list takes it: Optimize brings back all that is kept.
             reportFinding(analyzeServiceCount, tr("Service: can be enable: ") + row.name);
         }

@@ -2,28 +2,11 @@
 // The scheduled tasks that Analyze finds.
 
 #include "restorelists.h"
+#include "work/keepfeatures.h"
 #include "work/tasks/taskcatalogue.h"
 #include "work/workthread.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-bool endsWithAny(const QString &name, const QStringList &endings)
-{
-    return std::any_of(endings.cbegin(), endings.cend(),
-                       [&name](const QString &ending) { return name.endsWith(ending, Qt::CaseInsensitive); });
-}
-
-bool startsWithAny(const QString &name, const QStringList &prefixes)
-{
-    return std::any_of(prefixes.cbegin(), prefixes.cend(),
-                       [&name](const QString &prefix) { return name.startsWith(prefix, Qt::CaseInsensitive); });
-}
-
-} // namespace
 
 void WorkThread::analyzeTasks()
 {
@@ -34,8 +17,8 @@ void WorkThread::analyzeTasks()
             analyzeTask(task);
             continue;
         }
-        for (const KeepFeatureTasks &feature : keepFeatureTasks()) {
-            if (bringBack && this->*feature.keep != 0 && endsWithAny(task.name, feature.nameEndings))
+        for (const KeepFeature &feature : keepFeatures) {
+            if (bringBack && feature.isKept(*this) && feature.hasTask(task.name))
                 reportFinding(analyzeTaskCount, tr("Task: can be enable: ") + task.path);
         }
     }
@@ -45,15 +28,9 @@ void WorkThread::analyzeTasks()
 
 void WorkThread::analyzeTask(const TaskRow &task)
 {
-    const auto select = [&] {
+    // A task that goes for two reasons is selected and counted twice.
+    for (int reasons = reasonsAgainstTask(*this, task.name); reasons > 0; --reasons) {
         automatizerTasks.append(task);
         reportFinding(analyzeTaskCount, tr("Task: can be disable: ") + task.path);
-    };
-    // A task that goes for two reasons is selected and counted twice.
-    for (const KeepFeatureTasks &feature : keepFeatureTasks()) {
-        if (this->*feature.keep == 0 && endsWithAny(task.name, feature.nameEndings))
-            select();
     }
-    if (nonVitalTasks.contains(task.name, Qt::CaseInsensitive) || startsWithAny(task.name, nonVitalTaskPrefixes()))
-        select();
 }

@@ -3,11 +3,12 @@
 
 #include "encoder.h"
 #include "platform/platform.h"
+#include "platform/windowsfacts.h"
 #include "restorelists.h"
 #include "work/interruption.h"
-#include "work/packages/packagecatalogue.h"
-#include "work/services/manualstart.h"
+#include "work/keepfeatures.h"
 #include "work/services/servicecatalogue.h"
+#include "work/services/servicestate.h"
 #include "work/statusline.h"
 #include "work/workthread.h"
 
@@ -45,9 +46,7 @@ void WorkThread::optimizeServices()
 {
     constexpr int settleDelay = 300;
 
-    platform()
-        .openKey(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control"_s)
-        ->setValue(u"WaitToKillServiceTimeout"_s, u"3000"_s);
+    platform().openKey(WindowsKey::control)->setValue(u"WaitToKillServiceTimeout"_s, u"3000"_s);
     reportPhase(tr("Services"));
     servicesToChange.clear();
     for (const ServiceRow &row : std::as_const(automatizerServices))
@@ -58,8 +57,8 @@ void WorkThread::optimizeServices()
     if (wasOptimized()) {
         pauseFor(settleDelay);
         servicesToChange.clear();
-        for (const KeepFeatureServices &feature : keepFeatureServicesToBringBack()) {
-            if (this->*feature.keep != 0)
+        for (const KeepFeature &feature : keepFeaturesToBringBack()) {
+            if (feature.isKept(*this))
                 servicesToChange += feature.services;
         }
         reportMaximum(servicesToChange.size());
@@ -82,11 +81,13 @@ void WorkThread::optimizePackages()
     reportStep(0);
     PackageSetState(packages, false);
     if (wasOptimized()) {
-        for (const KeepFeaturePackages &feature : keepFeaturePackages()) {
-            const QStringList names = feature.toBringBack();
+        for (const KeepFeature &feature : keepFeaturesToBringBack()) {
+            const QStringList names = feature.packagesToBringBack();
+            if (names.isEmpty() || !feature.isKept(*this))
+                continue;
             const auto isFirst = [&names](const PackageRow &row) { return row.name == names.first(); };
             // The list is that of Analyze, or of the feature before: it names these only where the box was set since.
-            if (this->*feature.keep == 0 || std::any_of(packages.cbegin(), packages.cend(), isFirst))
+            if (std::any_of(packages.cbegin(), packages.cend(), isFirst))
                 continue;
             packages.clear();
             for (const QString &name : names)

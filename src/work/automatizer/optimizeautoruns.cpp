@@ -10,12 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/** The page takes more names for a packaged task's than this. */
-bool isPackagedTaskExactly(const QString &name)
-{
-    return name == "StartTerminalOnLoginTask"_L1 || name == "Xbox.App.Tasks.FullTrustComponent"_L1;
-}
-
 /** Switches the entry off and records it. Gives the name by which it is told. */
 QString switchOff(const AutorunEntry &entry)
 {

@@ -4,8 +4,8 @@
 #include "restorelists.h"
 #include "work/command.h"
 #include "work/interruption.h"
+#include "work/keepfeatures.h"
 #include "work/settings.h"
-#include "work/tasks/taskcatalogue.h"
 #include "work/windowsname.h"
 #include "work/workthread.h"
 
@@ -46,11 +46,11 @@ void WorkThread::optimizeTasks()
         ++counter;
     }
     if (wasOptimized()) {
-        for (const KeepFeatureTasks &feature : keepFeatureTasks()) {
-            if (this->*feature.keep == 0)
+        for (const KeepFeature &feature : keepFeatures) {
+            if (!feature.isKept(*this))
                 continue;
-            for (const QString &name : feature.nameEndings) {
-                const QString path = feature.folder + name;
+            for (const QString &name : feature.tasks) {
+                const QString path = feature.taskFolder + name;
                 // Told as done, whether it was or not, and neither recorded nor counted.
                 changeTask(path, u"/ENABLE"_s);
                 reportToAutomatizer(tr("Task: Enable and start %1 done").replace(u"%1"_s, path));

@@ -2,6 +2,7 @@
 // Restore: takes back what was recorded. No mirror of Optimize: what wasn't recorded stays, and some steps differ.
 
 #include "platform/platform.h"
+#include "platform/windowsfacts.h"
 #include "work/settings.h"
 #include "work/statusline.h"
 #include "work/tweaks/tweakcatalogue.h"
@@ -32,9 +33,7 @@ void WorkThread::restoreServices()
     // Not what was there before Optimize, and not a text as that was.
     constexpr int timeout = 2000;
 
-    platform()
-        .openKey(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control"_s)
-        ->setValue(u"WaitToKillServiceTimeout"_s, timeout);
+    platform().openKey(WindowsKey::control)->setValue(u"WaitToKillServiceTimeout"_s, timeout);
     reportPhase(tr("Services"));
     reportMaximum(servicesToChange.size());
     SvcStopOrStart(servicesToChange, true);

@@ -3,9 +3,13 @@
 #include "autorun.h"
 
 #include "platform/platform.h"
+#include "platform/windowsfacts.h"
 #include "work/settings.h"
+#include "work/workthread.h"
 
 #include <QFileInfo>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -14,6 +18,14 @@ namespace {
 constexpr int taskOff = 1; // as if the user had switched it off
 constexpr int taskOn = 2;
 
+/** The keys of the packaged tasks, whose last parts are their names. */
+const QString packagedTasks[] = {WindowsKey::terminalTask, WindowsKey::xboxTask};
+
+QString lastPartOf(const QString &path)
+{
+    return path.sliced(path.lastIndexOf(u'\\') + 1);
+}
+
 QString keyOf(const AutorunEntry &entry)
 {
     return entry.path.left(entry.path.lastIndexOf(u'\\'));
@@ -21,7 +33,7 @@ QString keyOf(const AutorunEntry &entry)
 
 QString valueNameOf(const AutorunEntry &entry)
 {
-    return entry.path.sliced(entry.path.lastIndexOf(u'\\') + 1);
+    return lastPartOf(entry.path);
 }
 
 /** The program of a command in double quotes is there. */
@@ -36,17 +48,49 @@ bool canBeRestored(const QString &command)
 
 } // namespace
 
+QList<AutorunRow> autorunRows()
+{
+    QList<AutorunRow> rows;
+    for (const QString &run : WindowsKey::runKeys) {
+        const auto key = platform().openKey(run);
+        for (const QString &name : key->childKeys()) {
+            const bool unnamed = name.isEmpty() || name == "."_L1;
+            // The system's own icon of that name stays where the machine's key has it.
+            const bool hidden =
+                run == WindowsKey::machineRun && name.contains("SecurityHealth"_L1, Qt::CaseInsensitive);
+            if (!unnamed && !hidden)
+                rows.append(run + u'\\' + name + u'=' + key->value(name).toString());
+        }
+    }
+    for (const QString &task : packagedTasks) {
+        if (platform().openKey(task)->value(u"State"_s).toInt() == taskOn)
+            rows.append(task + u'=');
+    }
+    return rows;
+}
+
+void WorkThread::AutorunGetList()
+{
+    autoruns = autorunRows();
+}
+
 AutorunEntry autorunEntry(const AutorunRow &row)
 {
     const QStringList parts = row.split(u'=');
     const QString &path = parts.first();
-    return {path.sliced(path.lastIndexOf(u'\\') + 1), path, parts.value(1)};
+    return {lastPartOf(path), path, parts.value(1)};
 }
 
 bool isPackagedTask(const QString &name)
 {
-    return name.contains("StartTerminalOnLoginTask"_L1, Qt::CaseInsensitive)
-           || name.contains("Xbox.App.Tasks.FullTrustComponent"_L1, Qt::CaseInsensitive);
+    return std::any_of(std::begin(packagedTasks), std::end(packagedTasks),
+                       [&name](const QString &task) { return name.contains(lastPartOf(task), Qt::CaseInsensitive); });
+}
+
+bool isPackagedTaskExactly(const QString &name)
+{
+    return std::any_of(std::begin(packagedTasks), std::end(packagedTasks),
+                       [&name](const QString &task) { return name == lastPartOf(task); });
 }
 
 void disableAutorun(const AutorunEntry &entry)

@@ -1,24 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Programs started at logon: how an entry is switched off, recorded, and switched on again.
+// Programs started at logon: what they are, and how an entry is switched off, recorded, and switched on again.
 
 #pragma once
 
 #include "work/rows.h"
 
+#include <QList>
+
+/** What starts at logon now: the Run values of user and machine, and two packaged tasks. Any thread. */
+QList<AutorunRow> autorunRows();
+
 /** Where an entry stands: the full path of its Run value, or of its packaged task's key. */
 struct AutorunEntry
 {
-    QString name;    ///< the part of the path behind its last backslash; names the record
+    QString name;    ///< the part of the path after its last backslash; names the record
     QString path;    ///< "<key>\<name>"
     QString command; ///< of a Run value
 };
 
-/** The entry of a row of the list. What stands behind a second "=" is lost, and with it the rest of such a command. */
+/** The entry of a row of the list. What follows a second "=" is lost, and with it the rest of such a command. */
 AutorunEntry autorunEntry(const AutorunRow &row);
 
 /** Whether an entry is one of the two packaged tasks, which have a switch, and no Run value, which is there or isn't.
  */
 bool isPackagedTask(const QString &name);
+/** The same by the whole name: isPackagedTask() takes more names for theirs. */
+bool isPackagedTaskExactly(const QString &name);
 
 /** Takes the entry out of the start-up and records it. */
 void disableAutorun(const AutorunEntry &entry);
@@ -27,7 +34,7 @@ void disablePackagedTask(const AutorunEntry &entry);
 
 /**
  * Brings the entry back. A Run value comes back only if its command stands in double quotes and that program exists:
- * with anything else it can't be told where the program's path ends. The record is left alone.
+ * with anything else it is unknown where the program's path ends. The record is left alone.
  */
 void enableAutorun(const AutorunEntry &entry);
 void enableRunValue(const QString &key, const QString &name, const QString &command);

@@ -2,7 +2,7 @@
 
 #include "packagecatalogue.h"
 
-#include <array>
+#include "work/workthread.h"
 
 using namespace Qt::StringLiterals;
 
@@ -64,35 +64,6 @@ QStringList removablePackageNames()
     };
 }
 
-QStringList xboxGameBarPackages()
-{
-    return {u"Microsoft.XboxGamingOverlay"_s, u"Microsoft.XboxGameOverlay"_s, u"Microsoft.XboxSpeechToTextOverlay"_s};
-}
-
-QStringList xboxAppPackages()
-{
-    return {u"Microsoft.XboxApp"_s, u"Microsoft.GamingApp"_s, u"Microsoft.GamingServices"_s, u"Microsoft.Xbox.TCUI"_s,
-            u"Microsoft.XboxIdentityProvider"_s};
-}
-
-QStringList codecPackages()
-{
-    return {u"Microsoft.AV1VideoExtension"_s, u"Microsoft.VP9VideoExtensions"_s, u"Microsoft.AVCEncoderVideoExtension"_s,
-            u"Microsoft.HEVCVideoExtension"_s, u"Microsoft.MPEG2VideoExtension"_s};
-}
-
-std::span<const KeepFeaturePackages> keepFeaturePackages()
-{
-    static const std::array features{
-        KeepFeaturePackages{&WorkThread::keepXboxGameBar, &WorkThread::hasXboxGameBar, xboxGameBarPackages(),
-                            u"Microsoft.XboxGameOverlay"_s},
-        KeepFeaturePackages{&WorkThread::keepXboxApp,     &WorkThread::hasXboxApp,     xboxAppPackages(),
-                            u"Microsoft.XboxApp"_s},
-        KeepFeaturePackages{&WorkThread::keepCodecs,      &WorkThread::hasCodecs,      codecPackages(), {}},
-    };
-    return features;
-}
-
 QString packageComment(const QString &familyName)
 {
     struct Comment
@@ -120,10 +91,3 @@ QString packageComment(const QString &familyName)
     return {};
 }
 // clang-format on
-
-QStringList KeepFeaturePackages::toBringBack() const
-{
-    QStringList names = packages;
-    names.removeAll(superseded);
-    return names;
-}

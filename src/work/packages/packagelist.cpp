@@ -3,7 +3,9 @@
 
 #include "packagecatalogue.h"
 #include "platform/platform.h"
+#include "platform/windowsfacts.h"
 #include "work/interruption.h"
+#include "work/keepfeatures.h"
 #include "work/statusline.h"
 #include "work/windowsname.h"
 #include "work/workthread.h"
@@ -14,8 +16,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString repositoryPath = u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\"
-                               "CurrentVersion\\AppModel\\Repository\\Packages"_s;
+/** The package by which one sees that a feature's packages are there. */
+struct FeatureMark
+{
+    int WorkThread::*installed;
+    QString package;
+};
+
+QList<FeatureMark> featureMarks()
+{
+    QList<FeatureMark> marks;
+    for (const KeepFeature &feature : keepFeatures) {
+        if (!feature.packages.isEmpty())
+            marks.append({feature.installed, feature.packagesToBringBack().first()});
+    }
+    return marks;
+}
 
 bool exists(const QString &windowsPath)
 {
@@ -50,21 +66,20 @@ QString oneDriveUninstaller()
 void WorkThread::choosePackages()
 {
     nonVitalPackages = removablePackageNames();
-    if (keepXboxGameBar == 0)
-        nonVitalPackages += xboxGameBarPackages();
-    if (keepXboxApp == 0)
-        nonVitalPackages += xboxAppPackages();
-    else if (isWindows11(winName))
-        nonVitalPackages += u"Microsoft.XboxApp"_s; // the old app, which Windows 11 has replaced
-    if (keepCodecs == 0)
-        nonVitalPackages += codecPackages();
+    for (const KeepFeature &feature : keepFeaturesToBringBack()) {
+        if (!feature.isKept(*this))
+            nonVitalPackages += feature.packages;
+        else if (feature.keep == &WorkThread::keepXboxApp && isWindows11(winName))
+            nonVitalPackages += feature.superseded; // the old app, which Windows 11 has replaced
+    }
 }
 
 void WorkThread::PackageGetList()
 {
     choosePackages();
     packages.clear();
-    const auto repository = platform().openKey(repositoryPath);
+    const QList<FeatureMark> marks = featureMarks();
+    const auto repository = platform().openKey(WindowsKey::userPackages);
     for (const QString &fullName : repository->childGroups()) {
         endIfInterrupted();
         const qsizetype end = fullName.indexOf(u'_');
@@ -72,9 +87,8 @@ void WorkThread::PackageGetList()
             continue;
         const QString familyName = fullName.first(end);
         // Each package overwrites what the one before it said: only the last one counts.
-        hasXboxGameBar = familyName.contains("Microsoft.XboxGamingOverlay"_L1, Qt::CaseInsensitive);
-        hasXboxApp = familyName.contains("Microsoft.GamingApp"_L1, Qt::CaseInsensitive);
-        hasCodecs = familyName.contains("Microsoft.AV1VideoExtension"_L1, Qt::CaseInsensitive);
+        for (const FeatureMark &mark : marks)
+            this->*mark.installed = familyName.contains(mark.package, Qt::CaseInsensitive);
         if (!nonVitalPackages.contains(familyName)
             || fullName.startsWith("Microsoft.YourPhone_0.24112.110.0_neutral"_L1, Qt::CaseInsensitive))
             continue;

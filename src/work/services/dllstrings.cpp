@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Registry strings that stand for a string in a DLL.
+
+#include "dllstrings.h"
 
 #include "platform/platform.h"
 #include "work/errorlog.h"
@@ -49,7 +50,7 @@ bool isThere(const QString &windowsPath)
 
 } // namespace
 
-QString WorkThread::ExpandResourceString(const QString &text)
+QString expandResourceString(const QString &text)
 {
     QString reference = text;
     if (reference.startsWith("$(@"_L1))
@@ -64,7 +65,7 @@ QString WorkThread::ExpandResourceString(const QString &text)
     QString result = text;
     if (reference.contains(",-"_L1)) {
         const QStringList parts = reference.split(u",-"_s);
-        result = isThere(parts.at(0)) ? GetResourceInDll(parts.at(0), parts.at(1)) : tr("no description");
+        result = isThere(parts.at(0)) ? resourceInDll(parts.at(0), parts.at(1)) : WorkThread::tr("no description");
     }
     // The Bluetooth service of one vendor names itself by its program's path.
     if (result.contains("RtkBtManServ"_L1))
@@ -72,7 +73,7 @@ QString WorkThread::ExpandResourceString(const QString &text)
     return result;
 }
 
-QString WorkThread::GetResourceInDll(const QString &dllPath, const QString &id)
+QString resourceInDll(const QString &dllPath, const QString &id)
 {
     DllString string;
     const auto log = [&](const QString &what) {
@@ -90,5 +91,15 @@ QString WorkThread::GetResourceInDll(const QString &dllPath, const QString &id)
     } catch (const std::exception &) {
         log({});
     }
-    return tr("no description");
+    return WorkThread::tr("no description");
+}
+
+QString WorkThread::ExpandResourceString(const QString &text)
+{
+    return expandResourceString(text);
+}
+
+QString WorkThread::GetResourceInDll(const QString &dllPath, const QString &id)
+{
+    return resourceInDll(dllPath, id);
 }

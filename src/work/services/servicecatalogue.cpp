@@ -2,11 +2,6 @@
 
 #include "servicecatalogue.h"
 
-#include "work/workthread.h"
-
-#include <algorithm>
-#include <array>
-
 using namespace Qt::StringLiterals;
 
 // clang-format off
@@ -45,36 +40,4 @@ QStringList startModeBackupExclusions()
     return {u"DPS"_s, u"DcomLaunch"_s, u"RpcSs"_s, u"SamSs"_s, u"TrkWks"_s, u"WdiServiceHost"_s, u"WdiSystemHost"_s,
             u"gpsvc"_s, u"wscsvc"_s};
 }
-
-std::span<const KeepFeatureServices> keepFeatureServices()
-{
-    static const std::array features{
-        KeepFeatureServices{&WorkThread::keepPrinter,        {u"Spooler"_s}},
-        KeepFeatureServices{&WorkThread::keepBluetoothAudio, {u"BthAvctpSvc"_s, u"BTAGService"_s}},
-        KeepFeatureServices{&WorkThread::keepFilesSharing,   {u"LanmanWorkstation"_s, u"LanmanServer"_s, u"lmhosts"_s,
-                                                              u"FDResPub"_s}},
-        KeepFeatureServices{&WorkThread::keepXboxApp,        {u"XblAuthManager"_s}},
-        KeepFeatureServices{&WorkThread::keepUpnp,           {u"SSDPSRV"_s}},
-        KeepFeatureServices{&WorkThread::keepProxyVpn,       {u"RasMan"_s, u"SstpSvc"_s}},
-        KeepFeatureServices{&WorkThread::keepNfc,            {u"SEMgrSvc"_s}},
-    };
-    return features;
-}
 // clang-format on
-
-QList<KeepFeatureServices> keepFeatureServicesToBringBack()
-{
-    const auto features = keepFeatureServices();
-    QList<KeepFeatureServices> ordered(features.begin(), features.end());
-    std::stable_partition(ordered.begin(), ordered.end(),
-                          [](const KeepFeatureServices &feature) { return feature.keep != &WorkThread::keepXboxApp; });
-    return ordered;
-}
-
-void addServicesOfFeaturesGivenUp(WorkThread &worker)
-{
-    for (const KeepFeatureServices &feature : keepFeatureServices()) {
-        if (worker.*feature.keep == 0)
-            worker.nonVitalServices += feature.services;
-    }
-}

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the program knows about services: which matter, which don't, and which belong to a feature.
+// What the program knows about services: which matter, and which don't.
 
 #pragma once
 
-#include "work/workthread.h"
-
-#include <span>
+#include <QStringList>
 
 /** Services that Windows can't do without; the Services page greys them. Compared with case. */
 extern const QStringList criticalServices;
@@ -18,21 +16,3 @@ QStringList manualStartServiceNames();
 
 /** Services that the start-mode backup leaves out. Compared with case. */
 QStringList startModeBackupExclusions();
-
-/** A feature of the Keep list with the services that go with it. */
-struct KeepFeatureServices
-{
-    std::atomic<int> WorkThread::*keep; ///< 0 when the feature is given up
-    QStringList services;
-};
-
-/** The features that have services, in the order in which their services join the non-vital ones. */
-std::span<const KeepFeatureServices> keepFeatureServices();
-
-/**
- * The same in the order in which the services of features that are kept are brought back: the Xbox app's come last.
- */
-QList<KeepFeatureServices> keepFeatureServicesToBringBack();
-
-/** Adds the services of every feature that is given up to the worker's non-vital services. */
-void addServicesOfFeaturesGivenUp(WorkThread &worker);

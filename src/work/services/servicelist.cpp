@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The list of services: the registry tells what there is, sc tells what runs.
 
+#include "dllstrings.h"
 #include "platform/platform.h"
+#include "platform/windowsfacts.h"
 #include "startmodebackup.h"
 #include "work/command.h"
 #include "work/interruption.h"
@@ -65,7 +67,7 @@ void WorkThread::SvcMakeList()
     const QSet<QString> running = runningServices(QString::fromUtf8(sc.readAllStandardOutput()));
 
     services.clear();
-    const auto key = platform().openKey(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services"_s);
+    const auto key = platform().openKey(WindowsKey::services);
     for (const QString &name : key->childGroups()) {
         endIfInterrupted();
         key->beginGroup(name);
@@ -74,10 +76,10 @@ void WorkThread::SvcMakeList()
             row.name = name;
             row.type = type;
             row.start = key->value(u"Start"_s).toString();
-            row.displayName = ExpandResourceString(key->value(u"DisplayName"_s).toString());
+            row.displayName = expandResourceString(key->value(u"DisplayName"_s).toString());
             if (row.displayName.startsWith("error"_L1))
                 row.displayName = name;
-            row.description = ExpandResourceString(key->value(u"Description"_s).toString());
+            row.description = expandResourceString(key->value(u"Description"_s).toString());
             if (row.description.startsWith("error"_L1) || row.description.isEmpty())
                 row.description = tr("no description");
             row.running = running.contains(name);

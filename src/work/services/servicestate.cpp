@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Disabling and enabling services.
 
+#include "servicestate.h"
+
 #include "platform/platform.h"
+#include "platform/windowsfacts.h"
 #include "work/command.h"
 #include "work/errorlog.h"
 #include "work/interruption.h"
@@ -14,19 +17,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int startAutomatic = 2;
-constexpr int startDisabled = 4;
 constexpr int errorAlreadyRunning = 1056;
 
-/** How services are handled in one run, which differs by the generation of Windows. */
-struct Manner
+/** How services are changed in one run, which differs by the generation of Windows. */
+struct ChangePolicy
 {
     bool onWindows10; ///< the registry is written, sc is left alone
     bool noStartStop; ///< start modes change, services go on as they are
     int settleDelay;  ///< milliseconds after each step
 };
 
-Manner mannerFor(const QString &winName)
+ChangePolicy policyFor(const QString &winName)
 {
     const bool onWindows10 = isWindows10(winName);
     const bool wished = openSettings()->value(u"DoNotStartOrStopSvc"_s, 0).toInt() != 0;
@@ -37,25 +38,25 @@ Manner mannerFor(const QString &winName)
 class ServiceChange
 {
 public:
-    ServiceChange(const QString &name, const Manner &manner)
+    ServiceChange(const QString &name, const ChangePolicy &policy)
         : name_(name)
-        , manner_(manner)
+        , policy_(policy)
     {
     }
 
     void disable()
     {
-        if (!manner_.noStartStop)
+        if (!policy_.noStartStop)
             run({u"stop"_s, name_});
-        setStartMode(startDisabled, u"start=disabled"_s);
+        setStartMode(StartDisabled, u"start=disabled"_s);
         if (exitCode() == 0)
             openRecords(u"SVC"_s)->setValue(name_, 1);
     }
 
     void enable()
     {
-        setStartMode(startAutomatic, u"start=auto"_s);
-        if (!manner_.noStartStop)
+        setStartMode(StartAutomatic, u"start=auto"_s);
+        if (!policy_.noStartStop)
             run({u"start"_s, name_});
         openRecords(u"SVC"_s)->remove(name_);
     }
@@ -68,26 +69,30 @@ private:
     {
         sc_.start(u"sc"_s, arguments);
         sc_.waitForFinished();
-        pauseFor(manner_.settleDelay);
+        pauseFor(policy_.settleDelay);
     }
 
-    void setStartMode(int start, const QString &argument)
+    void setStartMode(StartMode start, const QString &argument)
     {
         // Windows 10 guards the key of this one service; sc gets through.
-        if (!manner_.onWindows10 || name_ == "TrkWks"_L1) {
+        if (!policy_.onWindows10 || name_ == "TrkWks"_L1) {
             run({u"config"_s, name_, argument});
             return;
         }
-        platform()
-            .openKey(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s + name_)
-            ->setValue(u"Start"_s, start);
-        pauseFor(manner_.settleDelay);
+        platform().openKey(WindowsKey::services + u'\\' + name_)->setValue(u"Start"_s, start);
+        pauseFor(policy_.settleDelay);
     }
 
     QString name_;
-    Manner manner_;
+    ChangePolicy policy_;
     Command sc_;
 };
+
+/** Opened above the service: opening the key of one that isn't there would make it. */
+std::unique_ptr<RegistryKey> openServices()
+{
+    return platform().openKey(WindowsKey::services);
+}
 
 /** The Automatizer's line for a service, with "%1" for its name. */
 QString outcomeText(bool onWindows10, bool enable, bool failed)
@@ -107,17 +112,28 @@ QString outcomeText(bool onWindows10, bool enable, bool failed)
 
 } // namespace
 
+bool startsByItself(const QString &service)
+{
+    const int start = openServices()->value(service + u"/Start"_s, 0).toInt();
+    return start != StartDisabled && start != StartOnDemand && start != 0;
+}
+
+void setManualStart(const QString &service)
+{
+    openServices()->setValue(service + u"/Start"_s, StartOnDemand);
+}
+
 int WorkThread::SvcStopOrStart(QStringList list, bool enable)
 {
     list.sort(Qt::CaseInsensitive);
     const bool forAutomatizer = optimizeRunning != 0 || restoreRunning != 0;
     if (!forAutomatizer)
         report(StatusLine::maximum(list.size()));
-    const Manner manner = mannerFor(winName);
+    const ChangePolicy policy = policyFor(winName);
 
     int counter = 1;
     for (const QString &name : list) {
-        ServiceChange change(name, manner);
+        ServiceChange change(name, policy);
         enable ? change.enable() : change.disable();
         const int exitCode = change.exitCode();
 
@@ -128,7 +144,7 @@ int WorkThread::SvcStopOrStart(QStringList list, bool enable)
         }
         if (forAutomatizer) {
             QString message = exitCode == errorAlreadyRunning ? tr("Service: enable and start %1, already running!")
-                                                              : outcomeText(manner.onWindows10, enable, exitCode != 0);
+                                                              : outcomeText(policy.onWindows10, enable, exitCode != 0);
             reportToAutomatizer(message.replace(u"%1"_s, name));
             reportToAutomatizer(progress);
         }

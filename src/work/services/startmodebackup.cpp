@@ -3,6 +3,7 @@
 #include "startmodebackup.h"
 
 #include "platform/platform.h"
+#include "platform/windowsfacts.h"
 #include "servicecatalogue.h"
 
 #include <QDir>
@@ -16,13 +17,11 @@ namespace {
 // the backups people already have look like this.
 const QString lineEnd = u"\r\r\n"_s;
 
-const QString servicesPath = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services"_s;
-
 QString startModes()
 {
     QString script = u"Windows Registry Editor Version 5.00"_s + lineEnd + lineEnd;
     const QStringList exclusions = startModeBackupExclusions();
-    const auto services = platform().openKey(servicesPath);
+    const auto services = platform().openKey(WindowsKey::services);
     for (const QString &name : services->childGroups()) {
         if (exclusions.contains(name))
             continue;
@@ -32,7 +31,7 @@ QString startModes()
         services->endGroup();
         if (type != "32"_L1)
             continue;
-        script += u'[' + servicesPath + u'\\' + name + u']' + lineEnd;
+        script += u'[' + WindowsKey::services + u'\\' + name + u']' + lineEnd;
         // Start modes have one digit, so that seven zeros make it eight.
         script += u"\"Start\"=dword:0000000"_s + start + lineEnd;
     }

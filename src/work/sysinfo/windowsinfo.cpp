@@ -2,6 +2,7 @@
 // The report's part on Windows itself.
 
 #include "platform/platform.h"
+#include "platform/windowsfacts.h"
 #include "reportsteps.h"
 #include "work/windowsname.h"
 
@@ -23,7 +24,7 @@ void collectWindows(WorkThread &worker)
     const WindowsName windows = readWindowsName();
     setIfOther(worker.winName, windows.product);
     setIfOther(worker.winBuild, windows.build);
-    const auto key = platform().openKey(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion"_s);
+    const auto key = platform().openKey(WindowsKey::currentVersion);
     worker.winEdition = textOrUnknown(*key, u"CompositionEditionID"_s);
     worker.winVersion = textOrUnknown(*key, u"DisplayVersion"_s);
 

@@ -2,7 +2,9 @@
 
 #include "taskcatalogue.h"
 
-#include <array>
+#include "work/keepfeatures.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -77,15 +79,17 @@ QStringList nonVitalTaskPrefixes()
 {
     return {u"OneDrive"_s, u"MicrosoftEdgeUpdateTaskMachine"_s};
 }
-
-std::span<const KeepFeatureTasks> keepFeatureTasks()
-{
-    static const std::array features{
-        KeepFeatureTasks{&WorkThread::keepPrinter,  {u"EduPrintProv"_s, u"PrinterCleanupTask"_s, u"PrintJobCleanupTask"_s},
-                         u"\\Microsoft\\Windows\\Printing\\"_s},
-        KeepFeatureTasks{&WorkThread::keepProxyVpn, {u"MobilityManager"_s},
-                         u"\\Microsoft\\Windows\\Ras\\"_s},
-    };
-    return features;
-}
 // clang-format on
+
+int reasonsAgainstTask(const WorkThread &worker, const QString &name)
+{
+    const QStringList prefixes = nonVitalTaskPrefixes();
+    const bool isNonVital = worker.nonVitalTasks.contains(name, Qt::CaseInsensitive)
+                            || std::any_of(prefixes.cbegin(), prefixes.cend(), [&name](const QString &prefix) {
+                                   return name.startsWith(prefix, Qt::CaseInsensitive);
+                               });
+    const auto features = std::count_if(keepFeatures.begin(), keepFeatures.end(), [&](const KeepFeature &feature) {
+        return !feature.isKept(worker) && feature.hasTask(name);
+    });
+    return static_cast<int>(features) + (isNonVital ? 1 : 0);
+}

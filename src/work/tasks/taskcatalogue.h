@@ -3,21 +3,18 @@
 
 #pragma once
 
-#include "work/workthread.h"
+#include <QStringList>
 
-#include <span>
+class WorkThread;
 
-/** Tasks that most people don't need, by the part of their path behind the last backslash. */
+/** Tasks that most people don't need, by the part of their path after the last backslash. */
 QStringList nonVitalTaskNames();
 
 /** Beginnings of further such names, for vendors that add an account's number to theirs. Compared without case. */
 QStringList nonVitalTaskPrefixes();
 
-/** A feature of the Keep list with the tasks that go with it, by the end of their names. Compared without case. */
-struct KeepFeatureTasks
-{
-    std::atomic<int> WorkThread::*keep; ///< 0 when the feature is given up
-    QStringList nameEndings;
-    QString folder; ///< where Windows has them, from backslash to backslash
-};
-std::span<const KeepFeatureTasks> keepFeatureTasks();
+/**
+ * How many reasons there are to switch a task off, by the part of its path after the last backslash: each feature that
+ * is given up and has it, and that most people don't need it.
+ */
+int reasonsAgainstTask(const WorkThread &worker, const QString &name);

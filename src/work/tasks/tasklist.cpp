@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The list of scheduled tasks, cut out of the export that schtasks prints.
+
+#include "tasklist.h"
 
 #include "platform/platform.h"
 #include "work/command.h"
 #include "work/errorlog.h"
 #include "work/interruption.h"
+#include "work/services/dllstrings.h"
 #include "work/statusline.h"
 #include "work/workthread.h"
 
@@ -16,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/** What stands between the first @p begin and the @p end behind it; nothing where either is missing. */
+/** What stands between the first @p begin and the @p end after it; nothing where either is missing. */
 QStringView between(QStringView text, QStringView begin, QStringView end)
 {
     const qsizetype start = text.indexOf(begin);
@@ -71,15 +73,16 @@ void WorkThread::TaskMakeList()
     const QByteArray bytes = file.readAll();
     QStringDecoder decoder(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8));
     QString exported = decoder(bytes);
-    readTasks(exported.replace("\r\n"_L1, "\n"_L1));
+    tasks = tasksOf(exported.replace("\r\n"_L1, "\n"_L1));
     if (analyzeRunning == 0)
         report(StatusLine::tasksListed);
 }
 
-void WorkThread::readTasks(const QString &exported)
+QList<TaskRow> tasksOf(const QString &exported)
 {
+    QList<TaskRow> tasks;
     QList<QStringView> parts = QStringView(exported).split(u"</Task>"_s);
-    // Behind the last task there is at most the list's own closing tag.
+    // After the last task there is at most the list's own closing tag.
     parts.removeLast();
     for (const QStringView part : std::as_const(parts)) {
         endIfInterrupted();
@@ -94,10 +97,11 @@ void WorkThread::readTasks(const QString &exported)
         if (part.contains(u"<Description>")) {
             row.description = between(part, u"<Description>", u"</Description>").toString();
             if (row.description.startsWith("$(@"_L1))
-                row.description = ExpandResourceString(row.description);
+                row.description = expandResourceString(row.description);
         } else {
-            row.description = tr("no description");
+            row.description = WorkThread::tr("no description");
         }
         tasks.append(row);
     }
+    return tasks;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Services that start by themselves without need.
+// Changes of how services start, besides disabling and enabling them, which are jobs of WorkThread.
 
 #pragma once
 
