@@ -6,11 +6,11 @@
 #include "elevation.h"
 #include "messagebox.h"
 #include "platform/platform.h"
-#include "work/displayadapter.h"
 #include "work/settings.h"
 #include "work/tweaks/tweakcatalogue.h"
 #include "work/tweaks/tweakrecord.h"
 #include "work/windowsname.h"
+#include "work/wmi.h"
 
 #include <QFileInfo>
 

@@ -2,9 +2,11 @@
 // The System information page: a template whose marks give way to the texts that the job has gathered.
 
 #include "kestrune.h"
-#include "work/statusline.h"
 
-#include <span>
+#include "work/statusline.h"
+#include "work/sysinfo/systeminfo.h"
+
+#include <QMap>
 
 using namespace Qt::StringLiterals;
 
@@ -27,63 +29,19 @@ constexpr InfoStep infoSteps[] = {
     {"6"_L1, QT_TRANSLATE_NOOP("Kestrune", "Load system info:"), QT_TRANSLATE_NOOP("Kestrune", "CPU")},
     {"7"_L1, QT_TRANSLATE_NOOP("Kestrune", "Load system info:"), QT_TRANSLATE_NOOP("Kestrune", "finished")},
 };
-
-struct Mark
-{
-    QLatin1StringView name;
-    QString WorkThread::*text;
-};
-
-constexpr Mark windowsMarks[] = {
-    {"%winName"_L1,    &WorkThread::winName},
-    {"%winBuild"_L1,   &WorkThread::winBuild},
-    {"%winEdition"_L1, &WorkThread::winEdition},
-    {"%winVersion"_L1, &WorkThread::winVersion},
-    {"%winOnSsd"_L1,   &WorkThread::winOnSsd},
-};
-
-constexpr Mark motherBoardMarks[] = {
-    {"%mbModel"_L1,        &WorkThread::mbModel},
-    {"%mbManufacturer"_L1, &WorkThread::mbManufacturer},
-    {"%mbBiosVersion"_L1,  &WorkThread::mbBiosVersion},
-    {"%mbBiosDate"_L1,     &WorkThread::mbBiosDate},
-};
-
-constexpr Mark processorMarks[] = {
-    {"%cpuName"_L1,   &WorkThread::cpuName},
-    {"%cpuCore"_L1,   &WorkThread::cpuCore},
-    {"%cpuThread"_L1, &WorkThread::cpuThread},
-    {"%cpuL2Size"_L1, &WorkThread::cpuL2Size},
-    {"%cpuL3Size"_L1, &WorkThread::cpuL3Size},
-    {"%cpuSocket"_L1, &WorkThread::cpuSocket},
-    {"%cpuFreq"_L1,   &WorkThread::cpuFreq},
-    {"%cpuV"_L1,      &WorkThread::cpuV},
-    {"%cpuHt"_L1,     &WorkThread::cpuHt},
-};
-
-constexpr Mark graphicsMarks[] = {
-    {"%gpuName"_L1,              &WorkThread::gpuName},
-    {"%gpuDesktopSize"_L1,       &WorkThread::gpuDesktopSize},
-    {"%gpuDesktopMaxSize"_L1,    &WorkThread::gpuDesktopMaxSize},
-    {"%gpuRefreshRate"_L1,       &WorkThread::gpuRefreshRate},
-    {"%gpuDriverVersion"_L1,     &WorkThread::gpuDriverVersion},
-    {"%gpuDriverDate"_L1,        &WorkThread::gpuDriverDate},
-    {"%screenMaxRefreshRate"_L1, &WorkThread::screenMaxRefreshRate},
-    {"%screenHdr"_L1,            &WorkThread::screenHdr},
-};
-
-constexpr Mark memoryMarks[] = {
-    {"%memFree"_L1,       &WorkThread::memFree},
-    {"%memFreq"_L1,       &WorkThread::memFreq},
-    {"%memTotal"_L1,      &WorkThread::memTotal},
-    {"%memFormFactor"_L1, &WorkThread::memFormFactor},
-};
 // clang-format on
 
-QString withTexts(QString html, std::span<const Mark> marks, const WorkThread &worker)
+/** The HTML with the texts of a part of the report in the place of their marks. */
+QString withTexts(QString html, ReportPart part, const WorkThread &worker)
 {
-    for (const Mark &mark : marks)
-        html.replace(mark.name, worker.*mark.text);
+    // In their turns: a text may hold the mark of a later one.
+    QMap<int, const ReportText *> marks;
+    for (const ReportText &text : reportTexts()) {
+        if (text.part == part && text.turn > 0)
+            marks.insert(text.turn, &text);
+    }
+    for (const ReportText *mark : std::as_const(marks))
+        html.replace(u'%' + QString(mark->name), worker.*(mark->text));
     return html;
 }
 
@@ -144,14 +102,12 @@ void Kestrune::showSystemReport()
     }
     // One group at a time, so that what an earlier text has brought in is well-formed when the next marks are looked
     // for.
-    for (const std::span<const Mark> marks :
-         {std::span<const Mark>(windowsMarks), std::span<const Mark>(motherBoardMarks),
-          std::span<const Mark>(processorMarks)})
-        ui.txtInfo->setHtml(withTexts(ui.txtInfo->toHtml(), marks, *workThread));
+    for (const ReportPart part : {ReportPart::Windows, ReportPart::Motherboard, ReportPart::Processor})
+        ui.txtInfo->setHtml(withTexts(ui.txtInfo->toHtml(), part, *workThread));
 
-    QString html = withTexts(ui.txtInfo->toHtml(), graphicsMarks, *workThread);
+    QString html = withTexts(ui.txtInfo->toHtml(), ReportPart::Graphics, *workThread);
     ui.txtInfo->setHtml(html.replace(tr("loading screen info..."), screenName));
-    html = withTexts(ui.txtInfo->toHtml(), memoryMarks, *workThread);
+    html = withTexts(ui.txtInfo->toHtml(), ReportPart::Memory, *workThread);
     ui.txtInfo->setHtml(html.replace("%memVSize"_L1, workThread->memVSize + tr("on drive") + u' '
                                                          + workThread->memVSizeDrive.toUpper()));
     html = ui.txtInfo->toHtml();

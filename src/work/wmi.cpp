@@ -43,3 +43,28 @@ QString WmiQuery(const QString &className, const QStringList &properties)
     }
     return result;
 }
+
+std::optional<QString> wmiField(const QString &answer, const QString &property, FieldEnd end)
+{
+    if (!answer.contains(property, Qt::CaseInsensitive))
+        return {};
+    QString value = answer;
+    value.remove(0, value.indexOf(property) + property.size() + 1);
+    if (end == FieldEnd::Line) {
+        // -1 without a line break: the last character goes, on purpose.
+        const qsizetype lineEnd = value.indexOf(u"\r\n"_s);
+        value.remove(lineEnd, value.size() - lineEnd);
+    }
+    return value;
+}
+
+std::optional<QString> firstDisplayAdapter()
+{
+    const QString name = u"Caption"_s;
+    const QString answer = WmiQuery(u"Win32_VideoController"_s, {name});
+    const qsizetype found = answer.indexOf(name, 0, Qt::CaseInsensitive);
+    if (found < 0)
+        return {};
+    // The "=" follows the name.
+    return answer.mid(found + name.size() + 1).section(u"\r\n"_s, 0, 0);
+}

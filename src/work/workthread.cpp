@@ -3,8 +3,11 @@
 #include "workthread.h"
 
 #include "interruption.h"
+#include "platform/platform.h"
 #include "services/servicecatalogue.h"
 #include "tasks/taskcatalogue.h"
+
+using namespace Qt::StringLiterals;
 
 WorkThread::WorkThread(QObject *parent)
     : QThread(parent)
@@ -94,6 +97,21 @@ void WorkThread::runJob(int number)
     default:
         break;
     }
+}
+
+void WorkThread::WinSxsSize()
+{
+    constexpr double gibibytesPerByte = 1.0 / (1024.0 * 1024.0 * 1024.0);
+
+    report(tr("Status: Getting WinSxS folder size..."));
+    qint64 bytes = 0;
+    walkFolder(qEnvironmentVariable("windir") + u"\\WinSxS"_s,
+               [&bytes](const WalkEntry &entry) { bytes += entry.size; });
+    report(QString::number(static_cast<double>(bytes) * gibibytesPerByte, 'g', 6));
+    report(tr("Status: Getting WinSxS folder size finished!"));
+    pauseFor(3000);
+    // The empty line clears the status.
+    report(QString());
 }
 
 void WorkThread::send(LineSignal signal, const QString &line)

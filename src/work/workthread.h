@@ -4,7 +4,6 @@
 #pragma once
 
 #include "rows.h"
-#include "statusline.h"
 
 #include <QList>
 #include <QStringList>
@@ -162,6 +161,8 @@ protected:
     void run() override;
 
 private:
+    friend class Automatizer; // sends lines of its own
+
     using LineSignal = void (WorkThread::*)(const QString &);
 
     /** Sends a line to the thread that owns the object, in order. */
@@ -174,34 +175,8 @@ private:
     void choosePackages();
 
     void AutomatizerAnalyze();
-    void analyzeServices();
-    void analyzeTasks();
-    void analyzeTask(const TaskRow &task);
-    void analyzePackages();
-    void analyzeAutoruns();
-    void analyzeProcesses();
-
     void AutomatizerOptimize();
-    void optimizeServices();
-    void optimizeTasks();
-    void optimizePackages();
-    void optimizeAutoruns();
-    void optimizeEncoder();
-    void optimizeFeatures();
-
     void AutomatizerRestore();
-    void restoreServices();
-    void restoreTasks();
-    void restoreAutoruns();
-    void restorePackages();
-    void restoreFeatures();
-
-    // The Automatizer's recurring lines.
-    void reportFinding(int &count, const QString &line);
-    void reportPhase(const QString &name) { reportToAutomatizer(StatusLine::phase(name)); }
-    void reportMaximum(qsizetype steps);
-    void reportStep(qsizetype step);
-    void reportBreak() { reportToAutomatizer(QString()); }
 
     void MonitorSystem();
 

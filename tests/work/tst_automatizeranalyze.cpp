@@ -4,7 +4,7 @@
 #include "automatizerruns.h"
 #include "machine/compare/machinediff.h"
 #include "support/suite.h"
-#include "work/automatizer/encoder.h"
+#include "work/automatizer/automatizer.h"
 
 #include <QTest>
 

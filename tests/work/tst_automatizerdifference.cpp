@@ -5,7 +5,7 @@
 #include "machine/taskdocument.h"
 #include "support/suite.h"
 #include "tweakruns.h"
-#include "work/automatizer/encoder.h"
+#include "work/automatizer/automatizer.h"
 
 #include <QFile>
 #include <QTest>

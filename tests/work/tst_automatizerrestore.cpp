@@ -3,7 +3,7 @@
 
 #include "support/suite.h"
 #include "tweakruns.h"
-#include "work/automatizer/encoder.h"
+#include "work/automatizer/automatizer.h"
 #include "work/settings.h"
 
 #include <QFile>

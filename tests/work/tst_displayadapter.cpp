@@ -3,7 +3,7 @@
 
 #include "support/suite.h"
 #include "support/testmachine.h"
-#include "work/displayadapter.h"
+#include "work/wmi.h"
 
 #include <QTest>
 

@@ -5,7 +5,7 @@
 #include "joblines.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
-#include "work/sysinfo/processorload.h"
+#include "work/sysinfo/systemload.h"
 
 #include <QJsonArray>
 #include <QSignalSpy>

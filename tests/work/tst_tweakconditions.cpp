@@ -5,7 +5,7 @@
 #include "support/suite.h"
 #include "support/tweakprobes.h"
 #include "tweakruns.h"
-#include "work/automatizer/encoder.h"
+#include "work/automatizer/automatizer.h"
 #include "work/tweaks/tweakcatalogue.h"
 #include "work/tweaks/tweakrecord.h"
 

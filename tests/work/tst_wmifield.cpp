@@ -2,8 +2,8 @@
 // Tests of how one property is cut out of a WMI answer, and of the size of the memory.
 
 #include "support/suite.h"
-#include "work/sysinfo/memorysize.h"
-#include "work/sysinfo/wmifield.h"
+#include "work/sysinfo/systeminfo.h"
+#include "work/wmi.h"
 
 #include <QTest>
 

@@ -6,6 +6,7 @@
 #include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/command.h"
+#include "work/sysinfo/systeminfo.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -143,40 +144,9 @@ void TestWorkThread::aNewWorkerHasItsInitialValues()
     QCOMPARE(worker.analyzeProcessCount, 0);
     QCOMPARE(worker.automatizerTweak, 1);
     QCOMPARE(worker.automatizerProgram, 1);
-    const QStringList report{worker.winName,
-                             worker.winBuild,
-                             worker.winVersion,
-                             worker.winEdition,
-                             worker.winOnSsd,
-                             worker.cpuName,
-                             worker.cpuFreq,
-                             worker.cpuCore,
-                             worker.cpuThread,
-                             worker.cpuL2Size,
-                             worker.cpuL3Size,
-                             worker.cpuSocket,
-                             worker.cpuV,
-                             worker.cpuHt,
-                             worker.memTotal,
-                             worker.memFree,
-                             worker.memFreq,
-                             worker.memFormFactor,
-                             worker.memVSize,
-                             worker.memVSizeDrive,
-                             worker.mbManufacturer,
-                             worker.mbModel,
-                             worker.mbBiosVersion,
-                             worker.mbBiosDate,
-                             worker.gpuName,
-                             worker.gpuDriverVersion,
-                             worker.gpuDriverDate,
-                             worker.gpuRefreshRate,
-                             worker.gpuDesktopSize,
-                             worker.gpuDesktopMaxSize,
-                             worker.screenMaxRefreshRate,
-                             worker.screenHdr,
-                             worker.diskInfo};
-    QCOMPARE(report, QStringList(33, QString()));
+    QCOMPARE(reportTexts().size(), std::size_t(33));
+    for (const ReportText &text : reportTexts())
+        QCOMPARE(worker.*text.text, QString());
     QCOMPARE(worker.monitorThreadAndHandle.load(), 0);
     QCOMPARE(worker.monitorEnabled.load(), 0);
     QCOMPARE(worker.monitorStorageAge, 10);

@@ -1,15 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Analyze: what could be optimized. Changes nothing; leaves lists and counts for Optimize, and a line for each finding.
+// Analyze: what could be optimized, a line for each finding.
 
+#include "automatizer.h"
+#include "platform/windowsfacts.h"
 #include "restorelists.h"
 #include "work/autorun/autorun.h"
 #include "work/keepfeatures.h"
+#include "work/services/servicecatalogue.h"
+#include "work/services/servicestate.h"
 #include "work/statusline.h"
-#include "work/workthread.h"
+#include "work/tasks/taskcatalogue.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/** Whether a feature that is kept names the service; an instance of one user's is named by more than that. */
+bool isOfKeptFeature(const WorkThread &worker, const QString &service)
+{
+    const auto isIn = [&service](const QString &name) { return service.contains(name, Qt::CaseInsensitive); };
+    return std::any_of(keepFeatures.begin(), keepFeatures.end(), [&](const KeepFeature &feature) {
+        return feature.isKept(worker) && std::any_of(feature.services.cbegin(), feature.services.cend(), isIn);
+    });
+}
 
 QString uninstallText(const QString &package)
 {
@@ -21,16 +36,16 @@ QString uninstallText(const QString &package)
 
 } // namespace
 
-void WorkThread::AutomatizerAnalyze()
+void Automatizer::analyze()
 {
     constexpr int sections = 5;
 
-    if (analyzeRunning == 0) {
-        analyzeRunning = 1;
-        automatizerServices.clear();
-        automatizerTasks.clear();
-        for (int *count : {&analyzeServiceCount, &analyzeTaskCount, &analyzePackageCount, &analyzeAutorunCount,
-                           &analyzeProcessCount})
+    if (worker_.analyzeRunning == 0) {
+        worker_.analyzeRunning = 1;
+        worker_.automatizerServices.clear();
+        worker_.automatizerTasks.clear();
+        for (int *count : {&worker_.analyzeServiceCount, &worker_.analyzeTaskCount, &worker_.analyzePackageCount,
+                           &worker_.analyzeAutorunCount, &worker_.analyzeProcessCount})
             *count = 0;
         reportMaximum(sections);
         reportStep(1);
@@ -38,56 +53,90 @@ void WorkThread::AutomatizerAnalyze()
         reportStep(2);
         analyzeTasks();
         reportStep(3);
-        if (automatizerProgram == 1)
+        if (worker_.automatizerProgram == 1)
             analyzePackages();
         reportStep(4);
-        if (automatizerProgram == 1)
+        if (worker_.automatizerProgram == 1)
             analyzeAutoruns();
         reportStep(5);
         analyzeProcesses();
     }
-    reportToAutomatizer(StatusLine::analyzed);
-    analyzeRunning = 0;
+    report(StatusLine::analyzed);
+    worker_.analyzeRunning = 0;
 }
 
-void WorkThread::analyzePackages()
+void Automatizer::analyzeServices()
 {
-    PackageGetList();
-    for (const PackageRow &row : std::as_const(packages))
-        reportFinding(analyzePackageCount, uninstallText(row.name));
-    if (wasOptimized()) {
-        for (const KeepFeature &feature : keepFeaturesToBringBack()) {
-            if (!feature.isKept(*this) || feature.packages.isEmpty() || this->*feature.installed != 0)
-                continue;
-            for (const QString &name : feature.packagesToBringBack())
-                reportFinding(analyzePackageCount, tr("Package: can be installed: ") + name);
+    int &count = worker_.analyzeServiceCount;
+    worker_.SvcMakeList();
+    worker_.nonVitalServices = nonVitalServiceNames();
+    addServicesOfFeaturesGivenUp(worker_);
+    const bool bringBack = wasOptimized();
+    for (const ServiceRow &row : std::as_const(worker_.services)) {
+        const bool disabled = row.startsAs(StartDisabled);
+        if (row.running && !disabled && worker_.nonVitalServices.contains(row.name, Qt::CaseInsensitive)) {
+            worker_.automatizerServices.append(row);
+            reportFinding(count, WorkThread::tr("Service: can be disable: ") + row.name);
+        } else if (bringBack && !row.running && disabled && isOfKeptFeature(worker_, row.name)) {
+            // No list takes it: Optimize brings back all that is kept.
+            reportFinding(count, WorkThread::tr("Service: can be enable: ") + row.name);
         }
     }
-    if (analyzePackageCount > 0)
+    for (const QString &name : manualStartServiceNames()) {
+        if (startsByItself(name))
+            reportFinding(count, WorkThread::tr("Service: can be set to manual:") + u' ' + name);
+    }
+    if (count > 0)
         reportBreak();
 }
 
-void WorkThread::analyzeAutoruns()
+void Automatizer::analyzeTasks()
 {
-    AutorunGetList();
-    for (const AutorunRow &row : std::as_const(autoruns))
-        reportFinding(analyzeAutorunCount, tr("Autorun: can be disabled: ") + u' ' + autorunEntry(row).name);
-    if (analyzeAutorunCount > 0)
+    int &count = worker_.analyzeTaskCount;
+    worker_.TaskMakeList();
+    const bool bringBack = wasOptimized();
+    for (const TaskRow &task : std::as_const(worker_.tasks)) {
+        if (task.disabled == 0) {
+            // A task that goes for two reasons is selected and counted twice.
+            for (int reasons = reasonsAgainstTask(worker_, task.name); reasons > 0; --reasons) {
+                worker_.automatizerTasks.append(task);
+                reportFinding(count, WorkThread::tr("Task: can be disable: ") + task.path);
+            }
+            continue;
+        }
+        for (const KeepFeature &feature : keepFeatures) {
+            if (bringBack && feature.isKept(worker_) && feature.hasTask(task.name))
+                reportFinding(count, WorkThread::tr("Task: can be enable: ") + task.path);
+        }
+    }
+    if (count > 0)
         reportBreak();
 }
 
-void WorkThread::reportFinding(int &count, const QString &line)
+void Automatizer::analyzePackages()
 {
-    ++count;
-    reportToAutomatizer(line);
+    int &count = worker_.analyzePackageCount;
+    worker_.PackageGetList();
+    for (const PackageRow &row : std::as_const(worker_.packages))
+        reportFinding(count, uninstallText(row.name));
+    if (wasOptimized()) {
+        for (const KeepFeature &feature : keepFeaturesToBringBack()) {
+            if (feature.packages.isEmpty() || !feature.isKept(worker_) || worker_.*feature.installed != 0)
+                continue;
+            for (const QString &name : feature.packagesToBringBack())
+                reportFinding(count, WorkThread::tr("Package: can be installed: ") + name);
+        }
+    }
+    if (count > 0)
+        reportBreak();
 }
 
-void WorkThread::reportMaximum(qsizetype steps)
+void Automatizer::analyzeAutoruns()
 {
-    reportToAutomatizer(StatusLine::maximum(steps));
-}
-
-void WorkThread::reportStep(qsizetype step)
-{
-    reportToAutomatizer(StatusLine::step(step));
+    int &count = worker_.analyzeAutorunCount;
+    worker_.AutorunGetList();
+    for (const AutorunRow &row : std::as_const(worker_.autoruns))
+        reportFinding(count, WorkThread::tr("Autorun: can be disabled: ") + u' ' + autorunEntry(row).name);
+    if (count > 0)
+        reportBreak();
 }

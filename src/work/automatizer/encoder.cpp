@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The video encoder that comes with the overlay program RivaTuner Statistics Server: found by Analyze, switched off by
+// Optimize.
 
-#include "encoder.h"
-
+#include "automatizer.h"
 #include "platform/platform.h"
 #include "work/command.h"
-#include "work/workthread.h"
 
 #include <QFile>
 
@@ -26,7 +26,7 @@ bool isEncoder(const QString &process)
     return process == "EncoderServer.exe"_L1 || process == "EncoderServer64.exe"_L1;
 }
 
-/** Handled as bytes, since the file's code page isn't told. */
+/** Handled as bytes, since the file's code page is unknown. */
 QByteArray withEncoderOff(QByteArray config)
 {
     // A switch that has another case or another value stays.
@@ -37,7 +37,7 @@ QByteArray withEncoderOff(QByteArray config)
 
 } // namespace
 
-void WorkThread::analyzeProcesses()
+void Automatizer::analyzeProcesses()
 {
     encoderServerFound = 0;
     for (const QString &process : platform().processNames()) {
@@ -45,15 +45,16 @@ void WorkThread::analyzeProcesses()
             continue;
         encoderServerFound = 1;
         reportFinding(
-            analyzeProcessCount,
-            tr("Process: can be disable: %1 from Riva Tuner Statistic Server app!\r\nThis process only allows "
-               "screen video capture.Does not affect the monitoring display in any way")
+            worker_.analyzeProcessCount,
+            WorkThread::tr(
+                "Process: can be disable: %1 from Riva Tuner Statistic Server app!\r\nThis process only allows "
+                "screen video capture.Does not affect the monitoring display in any way")
                 .replace(u"%1"_s, process));
         reportBreak();
     }
 }
 
-void WorkThread::optimizeEncoder()
+void Automatizer::optimizeEncoder()
 {
     QFile file(configFile());
     if (!file.exists() || !file.open(QIODevice::ReadWrite))
@@ -64,6 +65,6 @@ void WorkThread::optimizeEncoder()
     file.seek(0);
     file.write(config);
     file.close();
-    reportToAutomatizer(tr("Process: disable EncoderServer done"));
+    report(WorkThread::tr("Process: disable EncoderServer done"));
     reportBreak();
 }

@@ -1,80 +1,128 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Restore: takes back what was recorded. No mirror of Optimize: what wasn't recorded stays, and some steps differ.
 
+#include "automatizer.h"
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
+#include "work/autorun/autorun.h"
 #include "work/settings.h"
 #include "work/statusline.h"
 #include "work/tweaks/tweakcatalogue.h"
 
 using namespace Qt::StringLiterals;
 
-void WorkThread::AutomatizerRestore()
+namespace {
+
+/** The key of a Run value's path, up to the first place where its name stands. */
+QString runKey(const QString &path, const QString &name)
 {
-    if (!servicesToChange.isEmpty())
+    return path.left(path.indexOf(u'\\' + name));
+}
+
+/** Brings back what a record of the start-up names. False for a record that names nothing. */
+bool bringBack(const QString &name, const QString &record)
+{
+    const QStringList parts = record.split(u'=');
+    if (parts.size() < 2)
+        return false;
+    if (parts.at(1).isEmpty())
+        enablePackagedTask(parts.first());
+    else
+        enableRunValue(runKey(parts.at(1), name), name, parts.first());
+    return true;
+}
+
+} // namespace
+
+void Automatizer::restore()
+{
+    if (!worker_.servicesToChange.isEmpty())
         restoreServices();
-    if (!tasksToChange.isEmpty())
+    if (!worker_.tasksToChange.isEmpty())
         restoreTasks();
-    if (automatizerProgram != 0) {
+    if (worker_.automatizerProgram != 0) {
         restoreAutoruns();
         restorePackages();
     }
-    if (automatizerTweak != 0) {
+    if (worker_.automatizerTweak != 0) {
         // restoreRunning stays set, and what follows counts as a Restore until the program ends.
-        restoreFeatures();
+        restoreTweaks();
         return;
     }
-    reportToAutomatizer(StatusLine::restoredWithoutTweaks);
-    restoreRunning = 0;
+    report(StatusLine::restoredWithoutTweaks);
+    worker_.restoreRunning = 0;
 }
 
-void WorkThread::restoreServices()
+void Automatizer::restoreServices()
 {
     // Not what was there before Optimize, and not a text as that was.
     constexpr int timeout = 2000;
 
     platform().openKey(WindowsKey::control)->setValue(u"WaitToKillServiceTimeout"_s, timeout);
-    reportPhase(tr("Services"));
-    reportMaximum(servicesToChange.size());
-    SvcStopOrStart(servicesToChange, true);
+    reportPhase(WorkThread::tr("Services"));
+    reportMaximum(worker_.servicesToChange.size());
+    worker_.SvcStopOrStart(worker_.servicesToChange, true);
     reportBreak();
 }
 
-void WorkThread::restoreTasks()
+void Automatizer::restoreTasks()
 {
-    reportPhase(tr("Tasks"));
-    reportMaximum(tasksToChange.size());
-    TaskStopOrStart(tasksToChange);
+    reportPhase(WorkThread::tr("Tasks"));
+    reportMaximum(worker_.tasksToChange.size());
+    worker_.TaskStopOrStart(worker_.tasksToChange);
     reportBreak();
 }
 
-void WorkThread::restorePackages()
+void Automatizer::restoreAutoruns()
 {
-    packagesToChange.clear();
-    for (const QString &name : recordedNames(u"Packages"_s))
-        packagesToChange.append({name, {}, u""_s});
-    if (packagesToChange.isEmpty())
+    const QStringList names = recordedNames(u"Autorun"_s);
+    // A single one stays off, without a word.
+    if (names.size() < 2)
         return;
-    reportPhase(tr("Windows applications"));
+    reportPhase(WorkThread::tr("Autorun"));
+    reportMaximum(names.size());
     reportStep(0);
-    reportMaximum(packagesToChange.size());
-    PackageSetState(packagesToChange, true);
+    const auto records = openRecords(u"Autorun"_s);
+    int counter = 1;
+    for (const QString &name : names) {
+        // Also reported of one that can't be brought back.
+        if (bringBack(name, records->value(name).toString()))
+            report(WorkThread::tr("Autorun program: enable %1 done").replace(u"%1"_s, name));
+        reportStep(counter);
+        ++counter;
+    }
+    reportStep(names.size());
     reportBreak();
 }
 
-void WorkThread::restoreFeatures()
+void Automatizer::restorePackages()
 {
-    reportPhase(tr("Features"));
+    QList<PackageRow> &packages = worker_.packagesToChange;
+    packages.clear();
+    for (const QString &name : recordedNames(u"Packages"_s))
+        packages.append({name, {}, u""_s});
+    if (packages.isEmpty())
+        return;
+    reportPhase(WorkThread::tr("Windows applications"));
+    reportStep(0);
+    reportMaximum(packages.size());
+    worker_.PackageSetState(packages, true);
+    reportBreak();
+}
+
+void Automatizer::restoreTweaks()
+{
+    reportPhase(WorkThread::tr("Features"));
     reportMaximum(3);
     reportStep(0);
-    reportToAutomatizer(tr("Features: reset SSD optimizations"));
-    restoreTweaks(*this, &WorkThread::TweakSSD, 9);
+    report(WorkThread::tr("Features: reset SSD optimizations"));
+    restoreGroup(worker_, &WorkThread::TweakSSD, 9);
     reportStep(1);
-    reportToAutomatizer(tr("Features: reset Gaming optimizations"));
-    restoreTweaks(*this, &WorkThread::TweakGaming, 13);
+    report(WorkThread::tr("Features: reset Gaming optimizations"));
+    restoreGroup(worker_, &WorkThread::TweakGaming, 13);
     reportStep(2);
-    reportToAutomatizer(tr("Features: reset Windows optimizations"));
-    restoreTweaks(*this, &WorkThread::TweakWindows, 10);
+    report(WorkThread::tr("Features: reset Windows optimizations"));
+    restoreGroup(worker_, &WorkThread::TweakWindows, 10);
     reportStep(3);
-    reportToAutomatizer(StatusLine::tweaksDone);
+    report(StatusLine::tweaksDone);
 }

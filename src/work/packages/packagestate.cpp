@@ -82,6 +82,12 @@ QString pageText(const QString &header, const QString &name, int exitCode)
 
 } // namespace
 
+QString WorkThread::powerShellProgram()
+{
+    powerShellPath = qEnvironmentVariable("windir") + u"/system32/WindowsPowerShell/v1.0/powershell.exe"_s;
+    return QFileInfo::exists(platform().hostPath(powerShellPath)) ? powerShellPath : QString();
+}
+
 int WorkThread::PackageSetState(const QList<PackageRow> &list, bool install)
 {
     const QString header = u"   "_s + (install ? tr("Install") : tr("Uninstall"));

@@ -2,9 +2,9 @@
 
 #include "tweakcatalogue.h"
 
-#include "work/displayadapter.h"
 #include "work/interruption.h"
 #include "work/windowsname.h"
+#include "work/wmi.h"
 
 #include <algorithm>
 
@@ -109,7 +109,7 @@ bool needsReboot(TweakRoutine group, quint32 id, const WorkThread &worker)
     return box != nullptr && holds(box->reboot, worker);
 }
 
-void optimizeTweaks(WorkThread &worker, TweakRoutine group, quint32 last)
+void optimizeGroup(WorkThread &worker, TweakRoutine group, quint32 last)
 {
     constexpr int settleDelay = 30;
 
@@ -120,7 +120,7 @@ void optimizeTweaks(WorkThread &worker, TweakRoutine group, quint32 last)
     }
 }
 
-void restoreTweaks(WorkThread &worker, TweakRoutine group, quint32 last)
+void restoreGroup(WorkThread &worker, TweakRoutine group, quint32 last)
 {
     constexpr int settleDelay = 10;
 

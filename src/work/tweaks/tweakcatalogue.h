@@ -52,5 +52,5 @@ bool needsReboot(TweakRoutine group, quint32 id, const WorkThread &worker);
  * A run of the Automatizer through one group: by one column, the numbers 1 to @p last in their order, with a pause
  * after each, also after one that doesn't run or isn't there. Throws JobInterrupted.
  */
-void optimizeTweaks(WorkThread &worker, TweakRoutine group, quint32 last);
-void restoreTweaks(WorkThread &worker, TweakRoutine group, quint32 last);
+void optimizeGroup(WorkThread &worker, TweakRoutine group, quint32 last);
+void restoreGroup(WorkThread &worker, TweakRoutine group, quint32 last);

@@ -8,7 +8,7 @@
 #include "work/command.h"
 #include "work/interruption.h"
 #include "work/statusline.h"
-#include "work/sysinfo/memorysize.h"
+#include "work/sysinfo/systeminfo.h"
 #include "work/windowsname.h"
 #include "work/wmi.h"
 #include "work/workthread.h"

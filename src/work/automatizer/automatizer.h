@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The Automatizer: Analyze, Optimize and Restore.
+
+#pragma once
+
+#include "work/workthread.h"
+
+/** 1 when the last Analyze saw a process of a video encoder that can be switched off. */
+extern std::atomic<int> encoderServerFound;
+
+/** A run of one of the three on a worker, whose members are its input and its results. Throws JobInterrupted. */
+class Automatizer
+{
+public:
+    explicit Automatizer(WorkThread &worker)
+        : worker_(worker)
+    {
+    }
+
+    /** Finds what could be optimized and changes nothing; leaves lists and counts for Optimize. */
+    void analyze();
+    /** Carries out what Analyze has left, and records what Restore needs. */
+    void optimize();
+    /** Takes back what was recorded. */
+    void restore();
+
+private:
+    void analyzeServices();
+    void analyzeTasks();
+    void analyzePackages();
+    void analyzeAutoruns();
+    void analyzeProcesses();
+
+    void optimizeServices();
+    void optimizeTasks();
+    void optimizePackages();
+    void optimizeAutoruns();
+    void optimizeEncoder();
+    void optimizeTweaks();
+
+    void restoreServices();
+    void restoreTasks();
+    void restoreAutoruns();
+    void restorePackages();
+    void restoreTweaks();
+
+    void report(const QString &line) { worker_.reportToAutomatizer(line); }
+    void reportFinding(int &count, const QString &line);
+    void reportPhase(const QString &name);
+    void reportMaximum(qsizetype steps);
+    void reportStep(qsizetype step);
+    /** The empty line at the end of a section. */
+    void reportBreak() { report(QString()); }
+
+    WorkThread &worker_;
+};
