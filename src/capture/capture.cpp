@@ -7,8 +7,9 @@
 #include "captureregistry.h"
 #include "machine/taskdocument.h"
 #include "neutralnames.h"
+#include "platform/windowsfacts.h"
 #include "readingplatform.h"
-#include "work/workthread.h"
+#include "work/services/dllstrings.h"
 
 using namespace Qt::StringLiterals;
 
@@ -72,8 +73,8 @@ private:
         description.wmi = captureWmi(report_.notRead);
         tell(u"boot options"_s);
         description.bootOptions = captureBootOptions(report_.notRead);
-        description.name = u"Captured PC with Windows, build %1"_s.arg(registryTextOf(
-            system_, u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion"_s, u"CurrentBuild"_s));
+        description.name = u"Captured PC with Windows, build %1"_s.arg(
+            registryTextOf(system_, WindowsKey::currentVersion, u"CurrentBuild"_s));
     }
 
     void readServices()
@@ -88,12 +89,11 @@ private:
     /** Lets the logic itself find the DLLs behind its texts, which are remembered on the way. */
     void resolveTexts()
     {
-        WorkThread worker;
         for (const QString &text : std::as_const(registry_.serviceTexts))
-            worker.ExpandResourceString(text);
+            expandResourceString(text);
         for (const ScheduledTask &task : std::as_const(contents_.tasks)) {
             if (const QString text = taskFacts(task.document).description; text.startsWith("$(@"_L1))
-                worker.ExpandResourceString(text);
+                expandResourceString(text);
         }
         for (const AskedDll &dll : pc_.askedDlls())
             contents_.description.dlls.insert(dll.path, dll.strings);

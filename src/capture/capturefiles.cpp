@@ -4,6 +4,7 @@
 
 #include "captureregistry.h"
 #include "platform/platform.h"
+#include "platform/windowsfacts.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -60,8 +61,7 @@ QString oneDriveUninstaller(const SystemReader &system)
 
 QString radeonInstaller(const SystemReader &system)
 {
-    const QString key = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\ATI Technologies\\Install"_s;
-    const QString folder = registryTextOf(system, key, u"InstallDir"_s);
+    const QString folder = registryTextOf(system, WindowsKey::radeonSoftware, u"InstallDir"_s);
     return folder.isEmpty() ? QString() : folder + u"\\Bin64\\AMDSoftwareInstaller.exe"_s;
 }
 

@@ -3,6 +3,8 @@
 #include "captureregistry.h"
 
 #include "capturekeys.h"
+#include "platform/windowsfacts.h"
+#include "work/settings.h"
 
 #include <QMap>
 
@@ -101,9 +103,9 @@ private:
     {
         result_.edits.append({RegistryEdit::Kind::SetValue, path, value});
         const bool shown = isNamed(value, "DisplayName"_L1) || isNamed(value, "Description"_L1);
-        if (shown && path.startsWith(capturedServices))
+        if (shown && path.startsWith(WindowsKey::services))
             result_.serviceTexts.append(textOf(value.data));
-        else if (isText(value) && (capturedRunKeys().contains(path) || path == capturedSettings + u"\\Autorun"_s))
+        else if (isText(value) && (WindowsKey::runKeys.contains(path) || path == recordKey(u"Autorun"_s)))
             result_.commands.append(textOf(value.data));
     }
 
@@ -116,14 +118,14 @@ private:
     void takeSubkey(const CaptureKey &key, const QString &name)
     {
         const QString path = key.path + u'\\' + name;
-        if (key.path == capturedServices && name.startsWith(cloudBackupPrefix, Qt::CaseInsensitive)) {
+        if (key.path == WindowsKey::services && name.startsWith(cloudBackupPrefix, Qt::CaseInsensitive)) {
             takeTree(path);
             return;
         }
         const KeyContent content = takeValues(path, &key.values);
-        if (key.path == capturedUserPackages)
+        if (key.path == WindowsKey::userPackages)
             packageNames_.insert(foldName(name), valueNamed(content, "DisplayName"_L1));
-        else if (key.path == capturedMachinePackages && !valueNamed(content, "DisplayName"_L1))
+        else if (key.path == WindowsKey::machinePackages && !valueNamed(content, "DisplayName"_L1))
             lendName(path, packageNames_.value(foldName(name)));
     }
 
@@ -137,8 +139,8 @@ private:
     void takeAdapters()
     {
         const QStringList wanted{u"EnableUlps"_s};
-        for (const QString &adapter : open(capturedAdapters).subkeys) {
-            const QString path = capturedAdapters + u'\\' + adapter;
+        for (const QString &adapter : open(WindowsKey::displayAdapters).subkeys) {
+            const QString path = WindowsKey::displayAdapters + u'\\' + adapter;
             open(path);
             for (int instance = 0; instance <= 5; ++instance)
                 takeValues(path + u"\\000"_s + QString::number(instance), &wanted);
@@ -147,9 +149,9 @@ private:
 
     void takeInterfaces()
     {
-        takeInterface(capturedInterfaces); // values may lie there, too
-        for (const QString &name : system_.key(capturedInterfaces).subkeys)
-            takeInterface(capturedInterfaces + u'\\' + name);
+        takeInterface(WindowsKey::networkInterfaces); // values may lie there, too
+        for (const QString &name : system_.key(WindowsKey::networkInterfaces).subkeys)
+            takeInterface(WindowsKey::networkInterfaces + u'\\' + name);
     }
 
     void takeInterface(const QString &path)

@@ -3,6 +3,8 @@
 #include "neutralnames.h"
 
 #include "capturekeys.h"
+#include "platform/windowsfacts.h"
+#include "work/settings.h"
 
 #include <QtEndian>
 
@@ -193,7 +195,7 @@ void NeutralNames::replaceIn(RegistryEdit &edit)
         return;
     edit.value = value(edit.value);
     // Elsewhere the names of values are the program's own.
-    if (capturedRunKeys().contains(edit.key) || edit.key.startsWith(capturedSettings + u'\\'))
+    if (WindowsKey::runKeys.contains(edit.key) || edit.key.startsWith(programKey + u'\\'))
         edit.value.name = text(edit.value.name);
 }
 

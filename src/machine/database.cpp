@@ -3,7 +3,7 @@
 
 #include "database.h"
 
-#include "machine.h"
+#include "machineerror.h"
 
 #include <QDir>
 #include <QFileInfo>

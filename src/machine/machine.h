@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "machineerror.h"
 #include "registrystore.h"
 
 #include <QJsonObject>
@@ -13,13 +14,6 @@
 #include <optional>
 
 class Database;
-
-/** What went wrong with a machine, in one line for a person. */
-struct MachineError
-{
-    QString message;
-    bool damaged = false; ///< the machine's own files aren't what they were
-};
 
 /** A scheduled task. */
 struct ScheduledTask

@@ -3,7 +3,7 @@
 
 #include "machinekey.h"
 
-#include "machine.h"
+#include "machineerror.h"
 #include "settingsvalue.h"
 
 #include <algorithm>

@@ -4,6 +4,7 @@
 #include "machine.h"
 
 #include "database.h"
+#include "platform/windowsfacts.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -12,9 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr quint32 folderBit = 0x10;
-constexpr quint32 archiveBit = 0x20;
 
 #ifdef Q_OS_WIN
 constexpr Qt::CaseSensitivity hostCase = Qt::CaseInsensitive;
@@ -178,8 +176,8 @@ quint32 Machine::attributeWord(const QString &path, bool isFolder) const
     auto query = database_->query("SELECT word FROM attribute WHERE fold = ?");
     const bool stored = query.bind(pathKey(path)).next();
     if (isFolder)
-        return (stored ? quint32(query.integer(0)) : 0) | folderBit;
-    return stored ? quint32(query.integer(0)) & ~folderBit : archiveBit;
+        return (stored ? quint32(query.integer(0)) : 0) | AttributeFolder;
+    return stored ? quint32(query.integer(0)) & ~AttributeFolder : quint32(AttributeArchive);
 }
 
 quint32 Machine::attributes(const QString &windowsPath) const

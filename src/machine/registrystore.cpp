@@ -241,6 +241,12 @@ std::optional<RegistryValue> RegistryStore::value(KeyId key, const QString &name
     return RegistryValue{query.text(0), RegistryType(quint32(query.integer(1))), query.bytes(2)};
 }
 
+std::optional<RegistryValue> RegistryStore::value(const QString &path, const QString &name) const
+{
+    const std::optional<KeyId> key = find(path);
+    return key ? value(*key, name) : std::nullopt;
+}
+
 void RegistryStore::setValue(KeyId key, const RegistryValue &value)
 {
     database_

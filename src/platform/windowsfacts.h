@@ -41,27 +41,33 @@ inline const QString hardware = QStringLiteral("HKEY_LOCAL_MACHINE\\HARDWARE\\DE
 /** The software of one vendor's graphics cards. */
 inline const QString radeonSoftware = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\ATI Technologies\\Install");
 
-/** What Windows keeps of packaged applications for the user. */
-inline const QString appModel = QStringLiteral(
-    "HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\CurrentVersion\\AppModel");
-/** A subkey for each package that the user has, by its full name. */
-inline const QString userPackages = appModel + QStringLiteral("\\Repository\\Packages");
-/** A subkey for each package that is there for all users. */
-inline const QString machinePackages = QStringLiteral(
-    "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Appx\\AppxAllUserStore\\Applications");
-/** Below it lie the tasks of packages, some of which start at logon. */
-inline const QString packagedTasks = appModel + QStringLiteral("\\SystemAppData");
+/** A subkey for each package of a user, by its full name; the part of the key that is the same for all users. */
+inline const QString packagesPart = QStringLiteral("\\AppModel\\Repository\\Packages");
+/** Likewise: below it lie the tasks of packages, some of which start at logon. */
+inline const QString packagedTasksPart = QStringLiteral("\\AppModel\\SystemAppData");
+inline const QString userClasses = QStringLiteral(
+    "HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\CurrentVersion");
+inline const QString userPackages = userClasses + packagesPart;
+inline const QString packagedTasks = userClasses + packagedTasksPart;
 inline const QString terminalTask =
     packagedTasks + QStringLiteral("\\Microsoft.WindowsTerminal_8wekyb3d8bbwe\\StartTerminalOnLoginTask");
 inline const QString xboxTask =
     packagedTasks + QStringLiteral("\\Microsoft.GamingApp_8wekyb3d8bbwe\\Xbox.App.Tasks.FullTrustComponent");
+/** A subkey for each package that is there for all users. */
+inline const QString machinePackages = QStringLiteral(
+    "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Appx\\AppxAllUserStore\\Applications");
 
-/** The commands of programs that start at logon: the user's, the machine's, and the machine's of 32 bits. */
-inline const QString userRun = QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run");
-inline const QString machineRun =
-    QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run");
-inline const QString machineRun32 =
-    QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\Microsoft\\Windows\\CurrentVersion\\Run");
+/** Commands of programs that start at logon; the part of the key that is the same for user and machine. */
+inline const QString runPart = QStringLiteral("\\Microsoft\\Windows\\CurrentVersion\\Run");
+inline const QString userRun = QStringLiteral("HKEY_CURRENT_USER\\Software") + runPart;
+inline const QString machineRun = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE") + runPart;
+inline const QString machineRun32 = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node") + runPart;
 inline const QStringList runKeys{userRun, machineRun, machineRun32};
 
 } // namespace WindowsKey
+
+/** The name of a package, which its full name begins with. */
+inline QString packageNameOf(const QString &fullName)
+{
+    return fullName.section(u'_', 0, 0);
+}

@@ -2,6 +2,8 @@
 
 #include "featurewords.h"
 
+#include "machine/compare/diffrow.h"
+#include "machine/registrystore.h"
 #include "work/tweaks/tweakvalues.h"
 
 #include <algorithm>

@@ -3,7 +3,9 @@
 
 #pragma once
 
-#include "machine/compare/machinediff.h"
+#include <QString>
+
+struct DiffRow;
 
 struct FeatureWords
 {

@@ -2,6 +2,8 @@
 
 #include "preview.h"
 
+#include "machine/compare/machinediff.h"
+#include "machine/machine.h"
 #include "previewwords.h"
 
 #include <algorithm>

@@ -3,7 +3,11 @@
 
 #pragma once
 
-#include "machine/compare/machinediff.h"
+#include "console/progresscallback.h"
+
+#include <QList>
+
+class Machine;
 
 /** What a restoration leaves of a change. */
 enum class Return {

@@ -3,20 +3,22 @@
 #include "previewwords.h"
 
 #include "featurewords.h"
+#include "machine/compare/machinediff.h"
 #include "machine/resourcetext.h"
 #include "machine/taskdocument.h"
+#include "platform/windowsfacts.h"
+#include "work/settings.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto servicesKey = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_L1;
-constexpr auto recordsKey = "HKEY_CURRENT_USER\\Software\\Kestrune"_L1;
-constexpr auto packagesKey = "\\AppModel\\Repository\\Packages\\"_L1;
-constexpr auto packagedTasksKey = "\\AppModel\\SystemAppData\\"_L1;
+const QString servicePrefix = WindowsKey::services + u'\\';
+const QString recordsPrefix = programKey.section(u'\\', 0, -2);
+const QString packagesPart = WindowsKey::packagesPart + u'\\';
+const QString packagedTasksPart = WindowsKey::packagedTasksPart + u'\\';
 const QString oneDrive = u"OneDrive"_s;
 const QString keyDetail = u"the key itself"_s;
-constexpr auto runKey = "\\Microsoft\\Windows\\CurrentVersion\\Run"_L1;
 
 /** A text for people: one that stands elsewhere, where this machine can't read it, says nothing. */
 QString readable(const QString &text)
@@ -30,13 +32,12 @@ QString readable(const QString &text)
 
 QString registryTextAt(const Machine &machine, const RegistryStore &store, const QString &key, const QString &name)
 {
-    const auto id = store.find(key);
-    const std::optional<RegistryValue> value = id ? store.value(*id, name) : std::nullopt;
+    const std::optional<RegistryValue> value = store.value(key, name);
     return value ? readable(resolveResourceText(machine, textOf(value->data))) : QString();
 }
 
 /** The text behind a prefix up to the next backslash; empty where the path doesn't begin so. */
-QString partBehind(const QString &path, QLatin1StringView prefix)
+QString partBehind(const QString &path, const QString &prefix)
 {
     return path.startsWith(prefix, Qt::CaseInsensitive) ? path.mid(prefix.size()).section(u'\\', 0, 0) : QString();
 }
@@ -57,7 +58,7 @@ void putValue(PreviewWords &words, const DiffRow &row)
 PreviewWords serviceWords(Machine &machine, const QString &service)
 {
     const auto text = [&](const QString &value) {
-        return registryTextAt(machine, machine.registry(), servicesKey + service, value);
+        return registryTextAt(machine, machine.registry(), servicePrefix + service, value);
     };
     return {.group = PreviewGroup::Services,
             .item = foldName(service),
@@ -101,9 +102,9 @@ PreviewWords taskWords(const Machine &machine, const DiffRow &row)
 
 PreviewWords packageWords(Machine &machine, const DiffRow &row)
 {
-    const qsizetype start = row.path.indexOf(packagesKey, 0, Qt::CaseInsensitive) + packagesKey.size();
+    const qsizetype start = row.path.indexOf(packagesPart, 0, Qt::CaseInsensitive) + packagesPart.size();
     const QString fullName = row.path.mid(start).section(u'\\', 0, 0);
-    const QString family = fullName.section(u'_', 0, 0);
+    const QString family = packageNameOf(fullName);
     const QString title =
         registryTextAt(machine, machine.registry(), row.path.first(start) + fullName, u"DisplayName"_s);
     PreviewWords words{
@@ -147,18 +148,18 @@ PreviewWords packagedTaskWords(const DiffRow &row)
 PreviewWords registryWords(Machine &before, Machine &optimized, const DiffRow &row)
 {
     const QString &path = row.path;
-    if (path.startsWith(recordsKey, Qt::CaseInsensitive)) {
+    if (path.startsWith(recordsPrefix, Qt::CaseInsensitive)) {
         PreviewWords words{.group = PreviewGroup::Records, .item = u"notes"_s, .title = u"Notes of what was done"_s};
         putValue(words, row);
         return words;
     }
-    if (path.contains(packagesKey, Qt::CaseInsensitive))
+    if (path.contains(packagesPart, Qt::CaseInsensitive))
         return packageWords(before.registry().find(path) ? before : optimized, row);
-    if (path.endsWith(runKey, Qt::CaseInsensitive))
+    if (path.endsWith(WindowsKey::runPart, Qt::CaseInsensitive))
         return runValueWords(row);
-    if (path.contains(packagedTasksKey, Qt::CaseInsensitive))
+    if (path.contains(packagedTasksPart, Qt::CaseInsensitive))
         return packagedTaskWords(row);
-    if (const QString service = partBehind(path, servicesKey); path.size() == servicesKey.size() + service.size())
+    if (const QString service = partBehind(path, servicePrefix); path.size() == servicePrefix.size() + service.size())
         return serviceValueWords(before, service, row);
     if (path.endsWith("\\Uninstall\\OneDriveSetup.exe"_L1, Qt::CaseInsensitive))
         return oneDriveWords(orElse(row.name, keyDetail), path);

@@ -5,6 +5,8 @@
 
 #include "preview.h"
 
+struct DiffRow;
+
 /** The item that a change belongs to, and the change itself, in words. */
 struct PreviewWords
 {

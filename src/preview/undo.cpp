@@ -2,8 +2,11 @@
 
 #include "undo.h"
 
+#include "machine/compare/machinediff.h"
 #include "machine/database.h"
 #include "machine/fileowner.h"
+#include "machine/machine.h"
+#include "platform/windowsfacts.h"
 #include "registryundo.h"
 
 #include <QDir>
@@ -17,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto packagesKey = "\\AppModel\\Repository\\Packages\\"_L1;
+const QString packagesPart = WindowsKey::packagesPart + u'\\';
 
 QString quoted(const QString &text)
 {
@@ -26,7 +29,7 @@ QString quoted(const QString &text)
 
 bool isOfPackage(const QString &key)
 {
-    return key.contains(packagesKey, Qt::CaseInsensitive);
+    return key.contains(packagesPart, Qt::CaseInsensitive);
 }
 
 bool isOfProgram(const DiffRow &row)
@@ -124,8 +127,8 @@ private:
         for (const RegistryEdit &edit : registry) {
             if (edit.kind != RegistryEdit::Kind::MakeKey || !isOfPackage(edit.key))
                 continue;
-            const qsizetype start = edit.key.indexOf(packagesKey, 0, Qt::CaseInsensitive) + packagesKey.size();
-            families.append(edit.key.mid(start).section(u'\\', 0, 0).section(u'_', 0, 0));
+            const qsizetype start = edit.key.indexOf(packagesPart, 0, Qt::CaseInsensitive) + packagesPart.size();
+            families.append(packageNameOf(edit.key.mid(start).section(u'\\', 0, 0)));
         }
         families.removeDuplicates();
         for (const QString &family : std::as_const(families)) {
@@ -142,8 +145,11 @@ private:
 
     void setAttributes(const QString &path)
     {
-        static const std::pair<quint32, QLatin1StringView> letters[] = {
-            {0x1, "r"_L1}, {0x2, "h"_L1}, {0x4, "s"_L1}, {0x20, "a"_L1}, {0x2000, "i"_L1}};
+        static const std::pair<quint32, QLatin1StringView> letters[] = {{AttributeReadOnly, "r"_L1},
+                                                                        {AttributeHidden, "h"_L1},
+                                                                        {AttributeSystem, "s"_L1},
+                                                                        {AttributeArchive, "a"_L1},
+                                                                        {AttributeNotIndexed, "i"_L1}};
         const quint32 word = before_.attributes(path);
         QString command = u"attrib"_s;
         for (const auto &[bit, letter] : letters)

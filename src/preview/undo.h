@@ -3,8 +3,9 @@
 
 #pragma once
 
-#include "machine/compare/machinediff.h"
 #include "machine/source/regfile.h"
+
+class Machine;
 
 /** What has to be put where, because a command can't say it. */
 struct UndoFile

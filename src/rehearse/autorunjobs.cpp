@@ -27,10 +27,8 @@ AutorunEntry recordedEntry(const QString &name)
 
 QStringList listedNames()
 {
-    WorkThread lister;
-    lister.AutorunGetList();
     QStringList names;
-    for (const AutorunRow &row : std::as_const(lister.autoruns))
+    for (const AutorunRow &row : autorunRows())
         names.append(autorunEntry(row).name);
     return names;
 }
@@ -42,13 +40,13 @@ bool isListed(const QString &name)
 
 } // namespace
 
-void disableAutoruns(WorkThread &worker, const QStringList &names)
+void disableAutoruns(WorkThread &, const QStringList &names)
 {
     if (!platform().isElevated())
         return;
-    worker.AutorunGetList();
+    const QList<AutorunRow> rows = autorunRows();
     for (const QString &name : names) {
-        for (const AutorunRow &row : std::as_const(worker.autoruns)) {
+        for (const AutorunRow &row : rows) {
             if (const AutorunEntry entry = autorunEntry(row); areSame(entry.name, name))
                 disableAutorun(entry);
         }

@@ -2,6 +2,8 @@
 // kestrune-rehearse diff
 
 #include "machine/compare/diffreport.h"
+#include "machine/compare/machinediff.h"
+#include "machine/machine.h"
 #include "progress.h"
 #include "reportfile.h"
 #include "subcommands.h"

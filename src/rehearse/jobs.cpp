@@ -5,21 +5,17 @@
 #include "autorunjobs.h"
 #include "machine/seam/machineplatform.h"
 #include "machine/taskdocument.h"
-#include "reporttexts.h"
-#include "work/packages/packagecatalogue.h"
-#include "work/packages/packagerecord.h"
+#include "platform/windowsfacts.h"
+#include "work/packages/packagestate.h"
 #include "work/settings.h"
-
-#include <QFileInfo>
+#include "work/statusline.h"
+#include "work/sysinfo/systeminfo.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int startAutomatic = 2;
-constexpr int startDisabled = 4;
 
 void takeServices(WorkThread &worker, const QStringList &names)
 {
@@ -29,7 +25,7 @@ void takeServices(WorkThread &worker, const QStringList &names)
 int startModeOf(const QString &service)
 {
     // Opened above the service: opening the key of one that isn't there would make it.
-    const auto services = platform().openKey(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services"_s);
+    const auto services = platform().openKey(WindowsKey::services);
     return services->value(service + u"/Start"_s, -1).toInt();
 }
 
@@ -42,7 +38,7 @@ QStringList servicesNotDisabled(const QStringList &names)
 {
     QStringList left;
     for (const QString &name : names) {
-        if (startModeOf(name) != startDisabled || !isRecorded(name))
+        if (startModeOf(name) != StartDisabled || !isRecorded(name))
             left.append(name);
     }
     return left;
@@ -52,7 +48,7 @@ QStringList servicesNotEnabled(const QStringList &names)
 {
     QStringList left;
     for (const QString &name : names) {
-        if (startModeOf(name) != startAutomatic || isRecorded(name))
+        if (startModeOf(name) != StartAutomatic || isRecorded(name))
             left.append(name);
     }
     return left;
@@ -100,51 +96,44 @@ void takePackages(WorkThread &worker, const QStringList &names, bool install)
     worker.packageInstall = install;
 }
 
-bool isInstalled(const QString &name)
-{
-    if (name == oneDriveName) {
-        const QString program = qEnvironmentVariable("LOCALAPPDATA") + u"\\Microsoft\\OneDrive\\OneDrive.exe"_s;
-        return QFileInfo::exists(platform().hostPath(program));
-    }
-    const auto packages =
-        platform().openKey(u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\"
-                           "Windows\\CurrentVersion\\AppModel\\Repository\\Packages"_s);
-    const QStringList fullNames = packages->childGroups();
-    return std::any_of(fullNames.cbegin(), fullNames.cend(), [&name](const QString &fullName) {
-        return fullName.section(u'_', 0, 0).compare(name, Qt::CaseInsensitive) == 0;
-    });
-}
-
 QStringList packagesUnlike(const QStringList &names, bool installed)
 {
     QStringList left;
     for (const QString &name : names) {
-        if (isInstalled(name) != installed)
+        if (isPackageInstalled(name) != installed)
             left.append(name);
     }
     return left;
 }
 
+JobResults systemReport(const WorkThread &worker)
+{
+    JobResults results;
+    for (const ReportText &text : reportTexts())
+        results.append({text.name, worker.*(text.text)});
+    return results;
+}
+
 // clang-format off
 constexpr JobRow rows[] = {
     {"services"_L1,          {},           "list the services"_L1,              JobSvcMakeList,     0,  0,
-     "WorkThread::SvcMakeList"_L1},
+     StatusLine::servicesListed},
     {"svc-disable"_L1,       "NAME..."_L1, "disable and stop services"_L1,      JobSvcDisable,      1, -1,
-     "pgr:SvcStopOrStart=finished"_L1, takeServices, servicesNotDisabled},
+     StatusLine::servicesChanged, takeServices, servicesNotDisabled},
     {"svc-enable"_L1,        "NAME..."_L1, "enable and start services"_L1,      JobSvcEnable,       1, -1,
-     "pgr:SvcStopOrStart=finished"_L1, takeServices, servicesNotEnabled},
+     StatusLine::servicesChanged, takeServices, servicesNotEnabled},
     {"tasks"_L1,             {},           "list the scheduled tasks"_L1,       JobTaskMakeList,    0,  0,
-     "WorkThread::TaskMakeList"_L1},
+     StatusLine::tasksListed},
     {"task-disable"_L1,      "PATH..."_L1, "disable scheduled tasks"_L1,        JobTaskStopOrStart, 1, -1,
-     "pgr:TaskSetState=finished"_L1,
+     StatusLine::tasksChanged,
      [](WorkThread &worker, const QStringList &paths) { takeTasks(worker, paths, 1); },
      [](const QStringList &paths) { return tasksUnlike(paths, false); }},
     {"task-enable"_L1,       "PATH..."_L1, "enable scheduled tasks"_L1,         JobTaskStopOrStart, 1, -1,
-     "pgr:TaskSetState=finished"_L1,
+     StatusLine::tasksChanged,
      [](WorkThread &worker, const QStringList &paths) { takeTasks(worker, paths, 0); },
      [](const QStringList &paths) { return tasksUnlike(paths, true); }},
     {"packages"_L1,          {},           "list the packaged applications"_L1, JobPackageGetList,  0,  0,
-     "WorkThread::PackageGetList"_L1},
+     StatusLine::packagesListed},
     {"package-uninstall"_L1, "NAME..."_L1, "remove packaged applications"_L1,   JobPackageSetState, 1, -1,
      "   Uninstall   packages finished  "_L1,
      [](WorkThread &worker, const QStringList &names) { takePackages(worker, names, false); },
@@ -167,7 +156,7 @@ constexpr JobRow rows[] = {
     {"restore"_L1,           {},           "take an optimization back"_L1,      JobAutomatizerRestore,  0,  0, {}},
     {"winsxs"_L1,            {},           "measure the component store"_L1,    JobWinSxsSize,      0,  0, {}},
     {"sysinfo"_L1,           {},           "collect what the system report tells"_L1, JobGetSystemInfo, 0, 0,
-     "pgr:value:7"_L1, {}, {}, {}, reportTexts},
+     "pgr:value:7"_L1, {}, {}, {}, systemReport},
     {"monitor"_L1,           {},           "tell once how busy the machine is"_L1, JobMonitor,      0,  0, anyLine},
 };
 // clang-format on

@@ -5,6 +5,7 @@
 #include "console/arguments.h"
 #include "platform/platform.h"
 #include "work/keepfeatures.h"
+#include "work/settings.h"
 
 #include <algorithm>
 
@@ -36,11 +37,13 @@ QList<KeepChoice> parseKeep(const QString &text)
 void applyKeep(WorkThread &worker, const QList<KeepChoice> &choices)
 {
     // Opened above the program's key: opening that would make it, and it counts as a change of the machine.
-    const auto software = platform().openKey(u"HKEY_CURRENT_USER\\Software"_s);
+    const QString root = u"HKEY_CURRENT_USER\\Software"_s;
+    const QString settings = programKey.sliced(root.size() + 1).replace(u'\\', u'/') + u'/';
+    const auto software = platform().openKey(root);
     qsizetype row = 0;
     for (const KeepFeature &feature : keepFeatures) {
         // Any other stored value keeps the feature.
-        const QVariant stored = software->value(u"Kestrune/Ondrevale/"_s + keepSetting(++row), Qt::Checked);
+        const QVariant stored = software->value(settings + keepSetting(++row), Qt::Checked);
         if (stored.toInt() == Qt::Unchecked)
             worker.*feature.keep = Qt::Unchecked;
     }

@@ -4,6 +4,7 @@
 #include "machine/machine.h"
 #include "machine/resourcetext.h"
 #include "machinelists.h"
+#include "platform/windowsfacts.h"
 #include "subcommands.h"
 
 #include <QJsonArray>
@@ -43,7 +44,7 @@ void listServices(Machine &machine, const QString &, bool json)
     const RegistryStore &store = machine.registry();
     QJsonArray array;
     QList<QStringList> rows;
-    const auto services = store.find(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services"_s);
+    const auto services = store.find(WindowsKey::services);
     QStringList names = services ? QStringList(store.subkeys(*services)) : QStringList();
     names.sort(Qt::CaseInsensitive);
     for (const QString &name : std::as_const(names)) {

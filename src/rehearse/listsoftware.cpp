@@ -6,6 +6,7 @@
 #include "machine/resourcetext.h"
 #include "machine/taskdocument.h"
 #include "machinelists.h"
+#include "platform/windowsfacts.h"
 #include "subcommands.h"
 
 #include <QJsonArray>
@@ -18,17 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using KeyId = RegistryStore::KeyId;
-
-const QString packagesKey = u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\"
-                            "CurrentVersion\\AppModel\\Repository\\Packages"_s;
-const QString packagedTasksKey = u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\"
-                                 "CurrentVersion\\AppModel\\SystemAppData"_s;
-
-const QString runKeys[] = {
-    u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s,
-    u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run"_s,
-    u"HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\Microsoft\\Windows\\CurrentVersion\\Run"_s,
-};
 
 QStringList subkeys(const RegistryStore &store, std::optional<KeyId> key)
 {
@@ -61,13 +51,13 @@ void appendPackagedTasks(const RegistryStore &store, QList<Entry> &entries)
 {
     constexpr quint32 on = 2;
 
-    const auto packages = store.find(packagedTasksKey);
+    const auto packages = store.find(WindowsKey::packagedTasks);
     for (const QString &package : subkeys(store, packages)) {
         const auto packageKey = store.find(*packages, package);
         for (const QString &task : subkeys(store, packageKey)) {
             const auto state = store.value(*store.find(*packageKey, task), u"State"_s);
             if (state && state->type == RegistryType::DWord && state->data.size() == sizeof(quint32))
-                entries.append({packagedTasksKey + u'\\' + package + u'\\' + task, QString(),
+                entries.append({WindowsKey::packagedTasks + u'\\' + package + u'\\' + task, QString(),
                                 qFromLittleEndian<quint32>(state->data.constData()) == on});
         }
     }
@@ -76,7 +66,7 @@ void appendPackagedTasks(const RegistryStore &store, QList<Entry> &entries)
 QList<Entry> autorunEntries(const RegistryStore &store)
 {
     QList<Entry> entries;
-    for (const QString &path : runKeys) {
+    for (const QString &path : WindowsKey::runKeys) {
         const auto key = store.find(path);
         for (const QString &name : key ? store.valueNames(*key) : QStringList()) {
             if (!name.isEmpty())
@@ -114,11 +104,11 @@ void listTasks(Machine &machine, const QString &, bool json)
 void listPackages(Machine &machine, const QString &, bool json)
 {
     const RegistryStore &store = machine.registry();
-    const auto packages = store.find(packagesKey);
+    const auto packages = store.find(WindowsKey::userPackages);
     QList<QStringList> rows;
     QJsonArray array;
     for (const QString &fullName : subkeys(store, packages)) {
-        const QString name = fullName.section(u'_', 0, 0);
+        const QString name = packageNameOf(fullName);
         const QString displayName = text(store, store.find(*packages, fullName), u"DisplayName"_s);
         rows.append({name, fullName, displayName});
         array.append(QJsonObject{{u"name"_s, name}, {u"fullName"_s, fullName}, {u"displayName"_s, displayName}});

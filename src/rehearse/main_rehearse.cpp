@@ -4,7 +4,7 @@
 #include "console/console.h"
 #include "console/programinterruption.h"
 #include "examples.h"
-#include "machine/machine.h"
+#include "machine/machineerror.h"
 #include "subcommands.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse new
 
+#include "machine/source/machinesource.h"
 #include "progress.h"
 #include "subcommands.h"
 

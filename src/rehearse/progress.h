@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "machine/source/machinesource.h"
+#include "console/progresscallback.h"
 
 /** One line on standard error that is written over and over and is gone in the end; nothing where that is no terminal.
  */

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse run
 
-#include "automatizer.h"
+#include "automatizerjobs.h"
 #include "jobrunner.h"
 #include "jobs.h"
 #include "keepoption.h"
@@ -118,9 +118,7 @@ int runJob(const Arguments &arguments)
     setPlatform(std::make_unique<MachinePlatform>(folder, machineOptions));
     WorkThread worker;
     applyKeep(worker, keep);
-    const WindowsName windows = readWindowsName();
-    worker.winName = windows.product;
-    worker.winBuild = windows.build;
+    setWindowsName(worker);
     if (row.prepare != nullptr)
         row.prepare(worker, operands);
 

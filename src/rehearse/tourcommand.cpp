@@ -4,9 +4,11 @@
 #include "childprocess.h"
 #include "machine/machine.h"
 #include "machine/machinecopy.h"
+#include "platform/windowsfacts.h"
 #include "progress.h"
 #include "subcommands.h"
 #include "windowprogram.h"
+#include "work/settings.h"
 #include "work/windowsname.h"
 
 #include <QDir>
@@ -25,7 +27,7 @@ constexpr QLatin1StringView pages[] = {
 void setTheme(Machine &machine, QLatin1StringView theme)
 {
     RegistryStore &registry = machine.registry();
-    const auto key = registry.make(u"HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale"_s);
+    const auto key = registry.make(programKey);
     registry.setValue(*key, {u"palette"_s, RegistryType::String, registryText(theme)});
 }
 
@@ -61,9 +63,7 @@ QStringList takePictures(const Machine &machine, QLatin1StringView theme, const 
 /** Windows 10 has no dark theme. */
 bool hasDarkTheme(Machine &machine)
 {
-    RegistryStore &registry = machine.registry();
-    const auto key = registry.find(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion"_s);
-    const auto build = key ? registry.value(*key, u"CurrentBuild"_s) : std::nullopt;
+    const auto build = machine.registry().value(WindowsKey::currentVersion, u"CurrentBuild"_s);
     return build && textOf(build->data).toInt() >= firstBuildOfWindows11;
 }
 

@@ -2,6 +2,7 @@
 // kestrune-rehearse import and export
 
 #include "machine/machine.h"
+#include "machine/source/machinesource.h"
 #include "machine/source/regfile.h"
 #include "progress.h"
 #include "subcommands.h"

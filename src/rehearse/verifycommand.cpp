@@ -25,9 +25,7 @@ void applyOptionsAgain(const QString &machine, Progress &progress)
     const auto close = qScopeGuard([] { setPlatform(nullptr); });
     const TweakState recorded = storedTweaks();
     WorkThread worker;
-    const WindowsName windows = readWindowsName();
-    worker.winName = windows.product;
-    worker.winBuild = windows.build;
+    setWindowsName(worker);
     worker.win32PrioritySeparationIndex = recorded.priorityIndex;
     int done = 0;
     for (const TweakBox &box : tweakBoxes()) {

@@ -2,6 +2,7 @@
 // OneDriveSetup: installs OneDrive for the user, and removes it.
 
 #include "machine/filehole.h"
+#include "platform/windowsfacts.h"
 #include "tools.h"
 
 #include <QDir>
@@ -17,7 +18,6 @@ constexpr qint64 programSize = 4812304; // bytes
 constexpr qint64 setupSize = 52428800;  // bytes
 
 const QString version = u"25.149.0803.0003"_s;
-const QString runKey = u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
 const QString uninstallKey = u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s;
 const QString setupName = u"OneDriveSetup.exe"_s;
 
@@ -42,7 +42,7 @@ ToolResult install(ToolHost &host)
     if ((missing(program) && !makeFile(host.hostPath(program), programSize))
         || (missing(setup) && !makeFile(host.hostPath(setup), setupSize)))
         return {exitFailed};
-    host.openKey(runKey)->setValue(u"OneDrive"_s, u"\"%1\" /background"_s.arg(program));
+    host.openKey(WindowsKey::userRun)->setValue(u"OneDrive"_s, u"\"%1\" /background"_s.arg(program));
     const auto key = host.openKey(uninstallKey + u'\\' + setupName);
     key->setValue(u"DisplayIcon"_s, program + u",0"_s);
     key->setValue(u"DisplayName"_s, u"Microsoft OneDrive"_s);
@@ -59,7 +59,7 @@ ToolResult uninstall(ToolHost &host)
     const QString program = host.hostPath(home() + u"OneDrive.exe"_s);
     if (QFileInfo::exists(program) && !QFile::remove(program))
         return {exitFailed};
-    host.openKey(runKey)->remove(u"OneDrive"_s);
+    host.openKey(WindowsKey::userRun)->remove(u"OneDrive"_s);
     host.openKey(uninstallKey)->remove(setupName);
     return {};
 }

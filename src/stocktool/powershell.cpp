@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // powershell: removes packaged applications for the user, and registers them again.
 
+#include "platform/windowsfacts.h"
 #include "tools.h"
 
 #include <QRegularExpression>
@@ -11,12 +12,9 @@ namespace {
 
 constexpr int exitFailed = 1;
 
-// Keys below ones that are always there: to open a missing key would make it.
+// Keys that are always there: what lies below is opened from them, since to open a missing key would make it.
 const QString userRoot = u"HKEY_CURRENT_USER\\Software"_s;
-const QString userPackages = u"Classes/Local Settings/Software/Microsoft/Windows/CurrentVersion/AppModel/Repository/"
-                             "Packages"_s;
 const QString machineRoot = u"HKEY_LOCAL_MACHINE\\SOFTWARE"_s;
-const QString machinePackages = u"Microsoft/Windows/CurrentVersion/Appx/AppxAllUserStore/Applications"_s;
 
 const QString removal = u"| Remove-AppxPackage"_s;
 const QString registration = u" | Foreach {Add-AppxPackage -DisableDevelopmentMode -Register "
@@ -29,7 +27,7 @@ public:
     PackageList(ToolHost &host, const QString &root, const QString &path)
         : key_(host.openKey(root))
     {
-        key_->beginGroup(path);
+        key_->beginGroup(path.sliced(root.size() + 1).replace(u'\\', u'/'));
     }
 
     RegistryKey &key() { return *key_; }
@@ -44,7 +42,7 @@ public:
                                           | QRegularExpression::DotMatchesEverythingOption);
         QStringList found;
         for (const QString &fullName : key_->childGroups()) {
-            if (name.match(fullName.section(u'_', 0, 0)).hasMatch())
+            if (name.match(packageNameOf(fullName)).hasMatch())
                 found.append(fullName);
         }
         return found;
@@ -56,7 +54,7 @@ private:
 
 ToolResult removePackages(ToolHost &host, const QString &pattern)
 {
-    PackageList packages(host, userRoot, userPackages);
+    PackageList packages(host, userRoot, WindowsKey::userPackages);
     for (const QString &fullName : packages.find(pattern))
         packages.key().remove(fullName);
     return {};
@@ -65,10 +63,10 @@ ToolResult removePackages(ToolHost &host, const QString &pattern)
 /** Registers a package of the machine for the user. */
 void registerPackage(ToolHost &host, PackageList &machine, const QString &fullName)
 {
-    const QString key = userRoot + u'\\' + QString(userPackages).replace(u'/', u'\\') + u'\\' + fullName;
+    const QString key = WindowsKey::userPackages + u'\\' + fullName;
     const QString manifest = machine.key().value(fullName + u"/Path"_s).toString();
     const QString root = manifest.left(manifest.lastIndexOf(u'\\'));
-    const QString name = fullName.section(u'_', 0, 0);
+    const QString name = packageNameOf(fullName);
     host.writeText(key, u"DisplayName"_s, machine.key().value(fullName + u"/DisplayName"_s, name).toString());
     host.writeText(key, u"PackageID"_s, fullName);
     host.writeText(key, u"PackageRootFolder"_s, root);
@@ -78,8 +76,8 @@ ToolResult registerPackages(ToolHost &host, const QString &pattern)
 {
     if (!host.isElevated())
         return {exitFailed, {}, "Get-AppxPackage : Access is denied.\r\n"};
-    PackageList machine(host, machineRoot, machinePackages);
-    PackageList user(host, userRoot, userPackages);
+    PackageList machine(host, machineRoot, WindowsKey::machinePackages);
+    PackageList user(host, userRoot, WindowsKey::userPackages);
     const QStringList registered = user.key().childGroups();
     for (const QString &fullName : machine.find(pattern)) {
         if (!registered.contains(fullName, Qt::CaseInsensitive))

@@ -128,12 +128,12 @@ struct StartModeWord
 
 // clang-format off
 constexpr StartModeWord startModeWords[] = {
-    {"boot"_L1,         StartMode::Boot},
-    {"system"_L1,       StartMode::System},
-    {"auto"_L1,         StartMode::Auto},
-    {"demand"_L1,       StartMode::Demand},
-    {"disabled"_L1,     StartMode::Disabled},
-    {"delayed-auto"_L1, StartMode::Auto, true},
+    {"boot"_L1,         StartAtBoot},
+    {"system"_L1,       StartBySystem},
+    {"auto"_L1,         StartAutomatic},
+    {"demand"_L1,       StartOnDemand},
+    {"disabled"_L1,     StartDisabled},
+    {"delayed-auto"_L1, StartAutomatic, true},
 };
 // clang-format on
 

@@ -122,7 +122,7 @@ QByteArray scConfiguration(const ServiceDatabase &services, const Service &servi
 {
     const auto number = [](quint32 value, QLatin1StringView text) { return QString::number(value) + u"   "_s + text; };
     const auto start = static_cast<quint32>(service.start);
-    const bool delayed = service.start == StartMode::Auto && services.number(service, u"DelayedAutostart"_s) != 0;
+    const bool delayed = service.start == StartAutomatic && services.number(service, u"DelayedAutostart"_s) != 0;
     const quint32 errorControl = services.number(service, u"ErrorControl"_s);
     const QStringList dependencies = services.dependencies(service);
 

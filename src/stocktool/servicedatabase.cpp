@@ -8,8 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString servicesPath = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services"_s;
-
 bool isNumber(const QVariant &value)
 {
     return value.typeId() == QMetaType::Int;
@@ -19,7 +17,7 @@ bool isNumber(const QVariant &value)
 
 ServiceDatabase::ServiceDatabase(ToolHost &host)
     : host_(host)
-    , key_(host.openKey(servicesPath))
+    , key_(host.openKey(WindowsKey::services))
 {
     for (const QString &name : key_->childGroups())
         names_.insert(name.toCaseFolded(), name);
@@ -77,7 +75,7 @@ ServiceError ServiceDatabase::start(const Service &service)
 {
     if (isRunning(service))
         return AlreadyRunning;
-    if (service.start == StartMode::Disabled)
+    if (service.start == StartDisabled)
         return ServiceDisabled;
     QStringList visiting;
     QStringList toStart;
@@ -101,7 +99,7 @@ ServiceError ServiceDatabase::plan(const Service &service, QStringList &visiting
         // Drivers are taken to run: a rehearsal machine has no hardware that would refuse them.
         if (!needed->isWin32() || isRunning(*needed) || toStart.contains(needed->name))
             continue;
-        if (needed->start == StartMode::Disabled)
+        if (needed->start == StartDisabled)
             return DependencyFailed;
         if (const ServiceError error = plan(*needed, visiting, toStart); error != NoError)
             return error;
@@ -127,13 +125,13 @@ ServiceError ServiceDatabase::stop(const Service &service)
 ServiceError ServiceDatabase::setStartMode(const Service &service, StartMode mode, bool delayed)
 {
     // Only drivers are started that early.
-    if (service.isWin32() && (mode == StartMode::Boot || mode == StartMode::System))
+    if (service.isWin32() && (mode == StartAtBoot || mode == StartBySystem))
         return InvalidParameter;
     key_->setValue(service.name + u"/Start"_s, static_cast<int>(mode));
     const QString delayedStart = service.name + u"/DelayedAutostart"_s;
     if (delayed)
         key_->setValue(delayedStart, 1);
-    else if (mode == StartMode::Auto && key_->value(delayedStart).toInt() != 0)
+    else if (mode == StartAutomatic && key_->value(delayedStart).toInt() != 0)
         key_->setValue(delayedStart, 0);
     return NoError;
 }

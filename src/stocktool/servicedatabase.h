@@ -3,12 +3,10 @@
 
 #pragma once
 
+#include "platform/windowsfacts.h"
 #include "toolhost.h"
 
 #include <QMap>
-
-/** How a service starts, as its Start value has it. */
-enum class StartMode : int { Boot = 0, System = 1, Auto = 2, Demand = 3, Disabled = 4 };
 
 /** Win32 errors that sc gives as its exit code. */
 enum ServiceError : int {
@@ -31,7 +29,7 @@ struct Service
 {
     QString name; ///< as its key is written
     quint32 type = 0;
-    StartMode start = StartMode::Demand;
+    StartMode start = StartOnDemand;
 
     bool isWin32() const { return (type & 0x30) != 0; }
 };

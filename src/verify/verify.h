@@ -51,9 +51,6 @@ struct VerifiedItem
     QList<VerifiedDetail> details{};
 };
 
-/** "HKEY_CURRENT_USER\Software\Kestrune\Ondrevale\SVC" and so on. */
-QString recordsKey(QLatin1StringView group);
-
 /**
  * The records of services, scheduled tasks, packages and autorun entries, and what of these was refused; sorted by
  * group and title. Changes nothing in either machine. Throws MachineError.

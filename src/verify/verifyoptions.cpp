@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "console/programinterruption.h"
+#include "machine/compare/machinediff.h"
+#include "machine/machine.h"
 #include "preview/featurewords.h"
 #include "toollog.h"
 #include "verify.h"
+#include "work/settings.h"
 #include "work/tweaks/tweakcatalogue.h"
 
 #include <algorithm>
@@ -26,8 +29,7 @@ QString shownPlace(const DiffRow &row)
 
 bool isRecorded(Machine &machine, const QString &box)
 {
-    const auto key = machine.registry().find(recordsKey("Tweak"_L1));
-    const auto value = key ? machine.registry().value(*key, box) : std::nullopt;
+    const auto value = machine.registry().value(recordKey(u"Tweak"_s), box);
     return value && textOf(value->data) == "true"_L1;
 }
 

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "machine/compare/diffrow.h"
+#include "machine/machine.h"
 #include "machine/registrydisplay.h"
 #include "machine/taskdocument.h"
+#include "platform/windowsfacts.h"
 #include "preview/previewwords.h"
 #include "toollog.h"
 #include "verify.h"
 #include "work/autorun/autorun.h"
 #include "work/packages/packagecatalogue.h"
+#include "work/settings.h"
 
 #include <QFileInfo>
 
@@ -16,19 +20,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString packagesKey = u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\"
-                            "CurrentVersion\\AppModel\\Repository\\Packages"_s;
-
-std::optional<RegistryValue> valueAt(const RegistryStore &store, const QString &key, const QString &name)
-{
-    const auto id = store.find(key);
-    return id ? store.value(*id, name) : std::nullopt;
-}
-
 /** The value in words; empty where there is none. */
 QString textAt(Machine &machine, const QString &key, const QString &name)
 {
-    const std::optional<RegistryValue> value = valueAt(machine.registry(), key, name);
+    const std::optional<RegistryValue> value = machine.registry().value(key, name);
     return value ? valueText(*value) : QString();
 }
 
@@ -90,7 +85,7 @@ private:
     QStringList recorded(QLatin1StringView group)
     {
         const RegistryStore &store = now_.registry();
-        const auto key = store.find(recordsKey(group));
+        const auto key = store.find(recordKey(group));
         QStringList names = key ? store.valueNames(*key) : QStringList();
         names.removeAll(QString());
         // The registry has no backslash in the name of a value that the program writes.
@@ -129,7 +124,7 @@ private:
 
     QString startMode(Machine &machine, const QString &service) const
     {
-        const QString key = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s + service;
+        const QString key = WindowsKey::services + u'\\' + service;
         const PreviewWords words =
             previewWords(before_, now_, {DiffKind::Registry, key, u"Start"_s, QString(), QString()});
         return sideInWords(words, textAt(machine, key, u"Start"_s));
@@ -163,7 +158,7 @@ private:
     /** The Tasks page records what it has switched on, too. */
     QString recordedTaskState(const QString &name)
     {
-        const QString text = textAt(now_, recordsKey("Task"_L1), QString(name).replace(u'\\', u'/'));
+        const QString text = textAt(now_, recordKey(u"Task"_s), QString(name).replace(u'\\', u'/'));
         return text == "dword 0"_L1 ? u"enabled"_s : u"disabled"_s;
     }
 
@@ -196,10 +191,10 @@ private:
         if (name == oneDriveName)
             return installedOneDrive(machine);
         const RegistryStore &store = machine.registry();
-        const auto key = store.find(packagesKey);
+        const auto key = store.find(WindowsKey::userPackages);
         QStringList found;
         for (const QString &fullName : key ? store.subkeys(*key) : QList<QString>()) {
-            if (fullName.section(u'_', 0, 0).compare(name, Qt::CaseInsensitive) == 0)
+            if (packageNameOf(fullName).compare(name, Qt::CaseInsensitive) == 0)
                 found.append(fullName);
         }
         return found.join(", "_L1);
@@ -237,7 +232,7 @@ private:
     void verifyAutoruns()
     {
         for (const QString &name : recorded("Autorun"_L1)) {
-            const std::optional<RegistryValue> record = valueAt(now_.registry(), recordsKey("Autorun"_L1), name);
+            const std::optional<RegistryValue> record = now_.registry().value(recordKey(u"Autorun"_s), name);
             const QString text = textOf(record->data);
             const QString path = text.section(u'=', 1, 1);
             const AutorunEntry entry{name, path.isEmpty() ? text.section(u'=', 0, 0) : path, {}};
@@ -258,11 +253,6 @@ private:
 
 } // namespace
 
-QString recordsKey(QLatin1StringView group)
-{
-    return u"HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale\\"_s + group;
-}
-
 QList<VerifiedItem> verifySwitches(Machine &before, Machine &now)
 {
     return SwitchVerification(before, now).run();
@@ -272,11 +262,11 @@ QString differentPcs(Machine &before, Machine &now)
 {
     if (before.hasReplacedNames() != now.hasReplacedNames())
         return u"the names of one were replaced when it was captured, and those of the other weren't"_s;
-    const QString key = u"HKEY_LOCAL_MACHINE\\HARDWARE\\DESCRIPTION\\System\\BIOS"_s;
+    const QString key = WindowsKey::hardware + u"\\BIOS"_s;
     const auto board = [&key](Machine &machine) {
         QStringList words;
         for (const QString &name : {u"BaseBoardManufacturer"_s, u"BaseBoardProduct"_s}) {
-            if (const auto value = valueAt(machine.registry(), key, name))
+            if (const auto value = machine.registry().value(key, name))
                 words.append(textOf(value->data));
         }
         return words.join(u' ');

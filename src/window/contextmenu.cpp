@@ -3,7 +3,7 @@
 
 #include "kestrune.h"
 
-#include "theme.h"
+#include "themestyles.h"
 #include "work/tweaks/tweakcatalogue.h"
 
 #include <QCursor>

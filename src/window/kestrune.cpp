@@ -20,9 +20,7 @@ Kestrune::Kestrune()
     // A table's own default is descending.
     ui.tblTasks->horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
 
-    const WindowsName windows = readWindowsName();
-    workThread->winName = windows.product;
-    workThread->winBuild = windows.build;
+    setWindowsName(*workThread);
     startPalette = QGuiApplication::palette();
     monitorTimer = new QTimer(this);
 

@@ -117,6 +117,11 @@ private Q_SLOTS:
     void onKeepModelChanged(const QModelIndex &first, const QModelIndex &last);
 
 private:
+    /** A row of cbOptionsLang; Auto is the language of the system, as far as there is a file for it. */
+    enum LanguageChoice : int { English = 0, French = 1, Auto = 2 };
+    /** The theme in force; there is no 2. */
+    enum Theme : int { DarkTheme = 0, LightTheme = 1, SystemTheme = 3 };
+
     // Start-up
     void makeWorkers();
     /** Waits until the job whose closing line has come is over, so that the next one can start. */
@@ -231,7 +236,7 @@ private:
     QString infoTemplate;                           ///< the report with its marks, once there has been one
     QPalette startPalette;                          ///< the system's own palette
     QColor previousLinkColor;                       ///< of the theme before the present one
-    int currentTheme = 0;                           ///< a Theme
+    Theme currentTheme = DarkTheme;
     int svcDisabledCount = 0;
     int svcStartedCount = 0;
     int svcStoppedCount = 0;

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Which language the window speaks.
 
-#include "language.h"
-
 #include "kestrune.h"
+
 #include "platform/platform.h"
 #include "work/settings.h"
 

@@ -4,7 +4,7 @@
 #include "kestrune.h"
 
 #include "platform/platform.h"
-#include "theme.h"
+#include "themestyles.h"
 #include "webhost.h"
 
 #include <QCursor>

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Options page and the About page.
 
-#include "checkstate.h"
 #include "kestrune.h"
-#include "language.h"
-#include "theme.h"
+#include "themestyles.h"
 #include "work/settings.h"
 #include "work/windowsname.h"
 
@@ -13,6 +11,13 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/** The signal of a check box that was changed, by whichever name Qt has it. */
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+constexpr auto checkStateChanged = &QCheckBox::checkStateChanged;
+#else
+constexpr auto checkStateChanged = &QCheckBox::stateChanged;
+#endif
 
 void store(const QString &key, int state)
 {

@@ -9,7 +9,7 @@
 #include "work/command.h"
 #include "work/keepfeatures.h"
 #include "work/services/servicecatalogue.h"
-#include "work/services/startmodebackup.h"
+#include "work/services/startmode.h"
 #include "work/settings.h"
 #include "work/statusline.h"
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Putting a theme in force: palette, style sheets and the coloured texts.
 
-#include "theme.h"
-
 #include "kestrune.h"
+
 #include "platform/platform.h"
 #include "themestyles.h"
 #include "work/settings.h"
@@ -21,30 +20,7 @@ QString linkColor()
     return QGuiApplication::palette().color(QPalette::Link).name();
 }
 
-/** Whether a stored text asks for the dark theme: the word itself, or the hint that early versions stored. */
-bool meansDark(const QString &stored)
-{
-    return stored == "dark"_L1 || stored == "possible values: 'light' or 'dark' or 'system'"_L1;
-}
-
 } // namespace
-
-QString storedTheme()
-{
-    return openSettings()->value(u"palette"_s, u"dark"_s).toString();
-}
-
-QString popupMenuStyle(PopupMenu menu)
-{
-    const QString stored = storedTheme();
-    if (meansDark(stored))
-        return menuStyle({{50, 50, 50}, {70, 70, 70}, {60, 60, 60}});
-    if (stored != "light"_L1)
-        return {};
-    if (menu == PopupMenu::Programs)
-        return menuStyle({{248, 248, 248}, {224, 224, 224}, {230, 230, 230}});
-    return menuStyle({{240, 240, 240}, {70, 70, 70}, {230, 230, 230}});
-}
 
 void Kestrune::applyPalette()
 {

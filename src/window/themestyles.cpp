@@ -2,6 +2,8 @@
 
 #include "themestyles.h"
 
+#include "work/settings.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -52,6 +54,16 @@ QPalette paletteOf(QColor RoleColors::*all, QColor RoleColors::*disabled)
 }
 
 } // namespace
+
+QString storedTheme()
+{
+    return openSettings()->value(u"palette"_s, u"dark"_s).toString();
+}
+
+bool meansDark(const QString &stored)
+{
+    return stored == "dark"_L1 || stored == "possible values: 'light' or 'dark' or 'system'"_L1;
+}
 
 QPalette darkPalette()
 {
@@ -135,4 +147,16 @@ QString menuStyle(const MenuColors &colors)
            + u"; }QMenu::item { padding: 6px; background: transparent; }QMenu:item:hover  { background-color: "_s
            + hover + u"; border-radius: 6px; }QMenu:item:selected  { background-color: "_s + hover
            + u"; border-radius: 6px; }"_s;
+}
+
+QString popupMenuStyle(PopupMenu menu)
+{
+    const QString stored = storedTheme();
+    if (meansDark(stored))
+        return menuStyle({{50, 50, 50}, {70, 70, 70}, {60, 60, 60}});
+    if (stored != "light"_L1)
+        return {};
+    if (menu == PopupMenu::Programs)
+        return menuStyle({{248, 248, 248}, {224, 224, 224}, {230, 230, 230}});
+    return menuStyle({{240, 240, 240}, {70, 70, 70}, {230, 230, 230}});
 }

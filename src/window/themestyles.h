@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The look of the themes that are the program's own: palettes and style sheets.
+// Which theme is stored, and the look of those that are the program's own: palettes and style sheets.
 
 #pragma once
 
 #include <QPalette>
 #include <QString>
+
+/** The stored theme; "dark" where none is stored. */
+QString storedTheme();
+
+/** Whether a stored text asks for the dark theme: the word itself, or the hint that early versions stored. */
+bool meansDark(const QString &stored);
 
 QPalette darkPalette();
 QPalette lightPalette();
@@ -39,3 +45,8 @@ struct MenuColors
     QColor hover;
 };
 QString menuStyle(const MenuColors &colors);
+
+/** Which of the two popup menus; in the light theme they differ. */
+enum class PopupMenu { Programs, Context };
+/** The style of a popup menu by the theme that is stored; empty for the system's own. */
+QString popupMenuStyle(PopupMenu menu);

@@ -19,6 +19,13 @@ WindowsName readWindowsName()
     return name;
 }
 
+void setWindowsName(WorkThread &worker)
+{
+    const WindowsName windows = readWindowsName();
+    worker.winName = windows.product;
+    worker.winBuild = windows.build;
+}
+
 bool isWindows10(const QString &product)
 {
     return product.contains("10"_L1);

@@ -4,6 +4,7 @@
 // as a whole.
 
 #include "machine/compare/machinediff.h"
+#include "machine/source/machinesource.h"
 #include "machine/taskdocument.h"
 #include "support/boxes.h"
 #include "support/suite.h"

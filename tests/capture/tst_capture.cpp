@@ -397,15 +397,15 @@ void TestCapture::packageComesBackByItsName()
     {
         const auto machine = Machine::open(pc);
         RegistryStore &store = machine->registry();
-        name = store.value(*store.find(capturedUserPackages + package), u"DisplayName"_s);
+        name = store.value(*store.find(WindowsKey::userPackages + package), u"DisplayName"_s);
         QVERIFY(name);
         // As on a real PC, where the name stands in the package.
-        store.removeValue(*store.find(capturedMachinePackages + package), u"DisplayName"_s);
+        store.removeValue(*store.find(WindowsKey::machinePackages + package), u"DisplayName"_s);
     }
     captureMachine(pc, place(u"named"_s));
     const auto captured = Machine::open(place(u"named"_s));
     const RegistryStore &store = captured->registry();
-    QVERIFY(store.value(*store.find(capturedMachinePackages + package), u"DisplayName"_s) == name);
+    QVERIFY(store.value(*store.find(WindowsKey::machinePackages + package), u"DisplayName"_s) == name);
 }
 
 void TestCapture::withoutElevation()
@@ -567,4 +567,5 @@ void TestCapture::boundsOfNames()
 }
 
 KESTRUNE_SUITE(TestCapture)
+#include "platform/windowsfacts.h"
 #include "tst_capture.moc"

@@ -5,6 +5,7 @@
 #include "support/suite.h"
 
 #include "machine/compare/diffreport.h"
+#include "machine/compare/machinediff.h"
 
 #include <QDir>
 #include <QJsonArray>

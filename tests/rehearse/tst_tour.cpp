@@ -3,6 +3,7 @@
 
 #include "machine/compare/machinediff.h"
 #include "machine/machinecopy.h"
+#include "machine/source/machinesource.h"
 #include "support/suite.h"
 
 #include <QCoreApplication>

@@ -18,8 +18,8 @@ public:
 };
 
 /**
- * What a suite does when it starts its own program as somebody else's: it looks at the arguments and the environment, and
- * gives an exit code where it is meant.
+ * What a suite does when it starts its own program as somebody else's: it looks at the arguments and the environment,
+ * and gives an exit code where it is meant.
  */
 class SuiteHelper
 {

@@ -10,6 +10,7 @@
 #include "machine/machinecopy.h"
 #include "machine/taskdocument.h"
 #include "verify/verifyreport.h"
+#include "work/settings.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -277,7 +278,7 @@ void TestVerify::taskSwitchedOnByThePageIsInForceWhereItIsOn()
     Later later(*pc_, Later::Log::None);
     // As the program writes it: the registry's backslashes are no part of a value's name there.
     const QString name = QString(consolidator).sliced(1).replace(u'\\', u'/');
-    setNumber(*later.now, recordsKey("Task"_L1), name, 0);
+    setNumber(*later.now, recordKey(u"Task"_s), name, 0);
     const VerifiedItem off = later.item(consolidator);
     QCOMPARE(off.verdict, Verdict::ChangedBack);
     QCOMPARE(off.details.first().recorded, u"enabled"_s);
@@ -292,7 +293,7 @@ void TestVerify::backupOfTasksIsNoRecord()
 {
     Later later(*pc_);
     const qsizetype count = verifySwitches(*later.before, *later.now).size();
-    setNumber(*later.now, recordsKey("Task"_L1), u"Backup_1"_s, 1);
+    setNumber(*later.now, recordKey(u"Task"_s), u"Backup_1"_s, 1);
     QCOMPARE(verifySwitches(*later.before, *later.now).size(), count);
 }
 
@@ -500,3 +501,4 @@ void TestVerify::longListsAreCutInTheText()
 
 KESTRUNE_SUITE(TestVerify)
 #include "tst_verify.moc"
+#include "work/settings.h"

@@ -3,6 +3,7 @@
 
 #include "automatizerruns.h"
 #include "machine/compare/machinediff.h"
+#include "machine/source/machinesource.h"
 #include "support/suite.h"
 #include "work/automatizer/automatizer.h"
 

@@ -3,7 +3,7 @@
 
 #include "support/packageplaces.h"
 #include "support/suite.h"
-#include "work/packages/packagerecord.h"
+#include "work/packages/packagestate.h"
 
 #include <QTest>
 

@@ -2,6 +2,7 @@
 
 #include "diffreport.h"
 
+#include "machinediff.h"
 #include "webpage.h"
 
 #include <QJsonArray>

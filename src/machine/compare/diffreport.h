@@ -3,7 +3,9 @@
 
 #pragma once
 
-#include "machinediff.h"
+#include "diffrow.h"
+
+#include <QList>
 
 /** A line for each row, in columns; empty where nothing differs. */
 QString diffText(const QList<DiffRow> &rows);

@@ -3,6 +3,8 @@
 #include "filediff.h"
 
 #include "console/programinterruption.h"
+#include "machine/machine.h"
+#include "platform/windowsfacts.h"
 #include <QCryptographicHash>
 #include <QDirIterator>
 #include <QFile>
@@ -140,30 +142,28 @@ struct AttributeWord
 
 // clang-format off
 constexpr std::array attributeWords{
-    AttributeWord{0x00001, "readonly"_L1},
-    AttributeWord{0x00002, "hidden"_L1},
-    AttributeWord{0x00004, "system"_L1},
-    AttributeWord{0x00020, "archive"_L1},
-    AttributeWord{0x00080, "normal"_L1},
-    AttributeWord{0x00100, "temporary"_L1},
-    AttributeWord{0x00200, "sparse"_L1},
-    AttributeWord{0x00400, "reparse-point"_L1},
-    AttributeWord{0x00800, "compressed"_L1},
-    AttributeWord{0x01000, "offline"_L1},
-    AttributeWord{0x02000, "not-indexed"_L1},
-    AttributeWord{0x04000, "encrypted"_L1},
-    AttributeWord{0x20000, "no-scrub"_L1},
-    AttributeWord{0x80000, "pinned"_L1},
+    AttributeWord{AttributeReadOnly,   "readonly"_L1},
+    AttributeWord{AttributeHidden,     "hidden"_L1},
+    AttributeWord{AttributeSystem,     "system"_L1},
+    AttributeWord{AttributeArchive,    "archive"_L1},
+    AttributeWord{0x00080,             "normal"_L1},
+    AttributeWord{0x00100,             "temporary"_L1},
+    AttributeWord{0x00200,             "sparse"_L1},
+    AttributeWord{0x00400,             "reparse-point"_L1},
+    AttributeWord{0x00800,             "compressed"_L1},
+    AttributeWord{0x01000,             "offline"_L1},
+    AttributeWord{AttributeNotIndexed, "not-indexed"_L1},
+    AttributeWord{0x04000,             "encrypted"_L1},
+    AttributeWord{0x20000,             "no-scrub"_L1},
+    AttributeWord{0x80000,             "pinned"_L1},
 };
 // clang-format on
 
 /** "hidden system", with bits that have no word as one number at the end. */
 QString attributeText(quint32 word)
 {
-    constexpr quint32 folderBit = 0x10;
-
     QStringList words;
-    quint32 rest = word & ~folderBit;
+    quint32 rest = word & ~AttributeFolder;
     for (const AttributeWord &attribute : attributeWords) {
         if (rest & attribute.bit)
             words.append(attribute.name);

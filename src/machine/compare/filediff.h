@@ -3,7 +3,11 @@
 
 #pragma once
 
-#include "machinediff.h"
+#include "diffrow.h"
+
+#include <QList>
+
+class Machine;
 
 /** Files, folders and attributes of the drives, and the files of the program folder. */
 void compareFiles(const Machine &before, const Machine &after, QList<DiffRow> &rows);

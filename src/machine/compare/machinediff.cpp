@@ -5,6 +5,7 @@
 #include "console/programinterruption.h"
 #include "filediff.h"
 #include "machine/database.h"
+#include "machine/machine.h"
 #include "machine/taskdocument.h"
 #include "registrydiff.h"
 

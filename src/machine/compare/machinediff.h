@@ -3,24 +3,12 @@
 
 #pragma once
 
-#include "machine/source/machinesource.h"
+#include "console/progresscallback.h"
+#include "diffrow.h"
 
 #include <QList>
 
-/** Kinds of things that can differ, in the order in which they are told. */
-enum class DiffKind { Service, Task, Registry, File, Attribute, Security, BootOption };
-
-/** One thing that differs. Its text is empty on a side that doesn't have it, and never empty elsewhere. */
-struct DiffRow
-{
-    DiffKind kind = DiffKind::Service;
-    QString path; ///< service, task, key, file or boot option
-    QString name; ///< of a value
-    QString before;
-    QString after;
-
-    friend bool operator==(const DiffRow &, const DiffRow &) = default;
-};
+class Machine;
 
 /** "service", "task", "registry", "file", "attribute", "rights", "boot" */
 QString kindName(DiffKind kind);

@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include "machinediff.h"
+#include "diffrow.h"
+#include "machine/registrystore.h"
 
 #include <functional>
 

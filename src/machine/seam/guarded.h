@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "machine/machine.h"
+#include "machine/machineerror.h"
 
 /** What is wrong with the machine is said, and the question gets the answer of a system without the thing. */
 template<typename Result, typename Operation>

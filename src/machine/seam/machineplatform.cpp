@@ -7,6 +7,7 @@
 #include "folderwalk.h"
 #include "guarded.h"
 #include "machine/machinekey.h"
+#include "platform/windowsfacts.h"
 #include "scriptopener.h"
 
 #include <QCoreApplication>
@@ -21,7 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr quint32 hiddenBit = 0x2;
 constexpr quint32 errorModuleNotFound = 126;
 constexpr quint32 errorBadImage = 193;
 constexpr qint32 wmiInvalidClass = -2147217392; // WBEM_E_INVALID_CLASS
@@ -132,7 +132,7 @@ QString MachinePlatform::resourceFolder() const
 void MachinePlatform::walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const
 {
     const AttributeWords::Walk together(attributes_);
-    const QStringList hidden = guarded(QStringList(), [this] { return machine_->pathsWithAttribute(hiddenBit); });
+    const QStringList hidden = guarded(QStringList(), [this] { return machine_->pathsWithAttribute(AttributeHidden); });
     walkFolder(
         hostPath(windowsPath), QSet<QString>(hidden.cbegin(), hidden.cend()),
         [this](const QString &link) { return machine_->leadsOut(link); }, visit);

@@ -3,7 +3,7 @@
 #include "filechanges.h"
 
 #include "machine/filehole.h"
-#include "machine/machine.h"
+#include "machine/machineerror.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,7 +2,7 @@
 
 #include "jsonreader.h"
 
-#include "machine/machine.h"
+#include "machine/machineerror.h"
 
 #include <QJsonDocument>
 

@@ -4,6 +4,7 @@
 
 #include "hardwarejson.h"
 #include "jsonreader.h"
+#include "platform/windowsfacts.h"
 
 #include <array>
 
@@ -19,14 +20,12 @@ struct Attribute
 
 // clang-format off
 constexpr std::array attributeWords{
-    Attribute{"readonly"_L1,    0x0001},
-    Attribute{"hidden"_L1,      0x0002},
-    Attribute{"system"_L1,      0x0004},
-    Attribute{"not-indexed"_L1, 0x2000},
+    Attribute{"readonly"_L1,    AttributeReadOnly},
+    Attribute{"hidden"_L1,      AttributeHidden},
+    Attribute{"system"_L1,      AttributeSystem},
+    Attribute{"not-indexed"_L1, AttributeNotIndexed},
 };
 // clang-format on
-constexpr quint32 folderBit = 0x10;
-constexpr quint32 archiveBit = 0x20;
 
 /** Reads one document, part by part. */
 class MachineJsonParser
@@ -241,7 +240,7 @@ FileDescription MachineJsonParser::file(const QJsonValue &value, const QString &
 
 quint32 MachineJsonParser::attributes(const QJsonValue &value, const QString &key, bool folder) const
 {
-    quint32 word = folder ? folderBit : archiveBit;
+    quint32 word = folder ? AttributeFolder : AttributeArchive;
     qsizetype index = 0;
     for (const QString &name : read_.names(value, key)) {
         const auto row = std::find_if(attributeWords.begin(), attributeWords.end(),

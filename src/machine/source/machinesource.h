@@ -3,15 +3,13 @@
 
 #pragma once
 
+#include "console/progresscallback.h"
 #include "machine/machine.h"
 #include "machinejson.h"
 #include "regfile.h"
 #include "screport.h"
 
 #include <functional>
-
-/** Told of each step of something long: what is done now, how many steps are behind, how many there are. */
-using ProgressCallback = std::function<void(const QString &step, int done, int total)>;
 
 /** Whether making a machine may take the place of one that is there. */
 enum class Existing { Keep, Replace };

@@ -4,7 +4,7 @@
 #include "regfile.h"
 
 #include "machine/database.h"
-#include "machine/machine.h"
+#include "machine/machineerror.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,7 +3,7 @@
 
 #include "regfile.h"
 
-#include "machine/machine.h"
+#include "machine/machineerror.h"
 #include "scripttext.h"
 
 using namespace Qt::StringLiterals;

@@ -2,7 +2,7 @@
 
 #include "screport.h"
 
-#include "machine/machine.h"
+#include "machine/machineerror.h"
 
 #include <QRegularExpression>
 

@@ -7,7 +7,7 @@
 #include "work/autorun/autorun.h"
 #include "work/keepfeatures.h"
 #include "work/services/servicecatalogue.h"
-#include "work/services/servicestate.h"
+#include "work/services/startmode.h"
 #include "work/statusline.h"
 #include "work/tasks/taskcatalogue.h"
 

@@ -10,7 +10,7 @@
 #include "work/interruption.h"
 #include "work/keepfeatures.h"
 #include "work/services/servicecatalogue.h"
-#include "work/services/servicestate.h"
+#include "work/services/startmode.h"
 #include "work/settings.h"
 #include "work/statusline.h"
 #include "work/tweaks/tweakcatalogue.h"

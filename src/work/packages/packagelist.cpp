@@ -2,6 +2,7 @@
 // The list of packaged applications that can be removed.
 
 #include "packagecatalogue.h"
+#include "packagestate.h"
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
 #include "work/interruption.h"
@@ -95,7 +96,7 @@ void WorkThread::PackageGetList()
         const QString displayName = repository->value(fullName + u"/DisplayName"_s, familyName).toString();
         packages.append({familyName, shownName(displayName, familyName), packageComment(familyName)});
     }
-    if (exists(qEnvironmentVariable("LOCALAPPDATA") + u"\\Microsoft\\OneDrive\\OneDrive.exe"_s)) {
+    if (isPackageInstalled(oneDriveName)) {
         if (const QString uninstaller = oneDriveUninstaller(); !uninstaller.isEmpty())
             packages.append({oneDriveName, oneDriveName, uninstaller});
     }

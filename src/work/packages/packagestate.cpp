@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Removing packaged applications, and bringing them back.
 
+#include "packagestate.h"
+
 #include "packagecatalogue.h"
-#include "packagerecord.h"
 #include "platform/platform.h"
+#include "platform/windowsfacts.h"
 #include "work/command.h"
 #include "work/interruption.h"
 #include "work/settings.h"
@@ -11,6 +13,8 @@
 #include "work/workthread.h"
 
 #include <QFileInfo>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -81,6 +85,34 @@ QString pageText(const QString &header, const QString &name, int exitCode)
 }
 
 } // namespace
+
+bool isPackageInstalled(const QString &name)
+{
+    if (name == oneDriveName) {
+        const QString program = qEnvironmentVariable("LOCALAPPDATA") + u"\\Microsoft\\OneDrive\\OneDrive.exe"_s;
+        return QFileInfo::exists(platform().hostPath(program));
+    }
+    const QStringList fullNames = platform().openKey(WindowsKey::userPackages)->childGroups();
+    return std::any_of(fullNames.cbegin(), fullNames.cend(), [&name](const QString &fullName) {
+        return packageNameOf(fullName).compare(name, Qt::CaseInsensitive) == 0;
+    });
+}
+
+void recordPackageLine(const QString &line, bool install)
+{
+    const QString mark = WorkThread::tr("package: ");
+    const QString done = WorkThread::tr("done");
+    if (!line.contains(mark) || !line.endsWith(done))
+        return;
+    const QString name = line.split(mark).at(1).split(u": "_s + done).first();
+    if (name.isEmpty())
+        return; // names the whole group
+    const auto records = openRecords(u"Packages"_s);
+    if (install)
+        records->remove(name);
+    else
+        records->setValue(name, 1);
+}
 
 QString WorkThread::powerShellProgram()
 {

@@ -4,7 +4,7 @@
 #include "dllstrings.h"
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
-#include "startmodebackup.h"
+#include "startmode.h"
 #include "work/command.h"
 #include "work/interruption.h"
 #include "work/statusline.h"

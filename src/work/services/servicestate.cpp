@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Disabling and enabling services.
 
-#include "servicestate.h"
-
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
 #include "work/command.h"
@@ -88,12 +86,6 @@ private:
     Command sc_;
 };
 
-/** Opened above the service: opening the key of one that isn't there would make it. */
-std::unique_ptr<RegistryKey> openServices()
-{
-    return platform().openKey(WindowsKey::services);
-}
-
 /** The Automatizer's line for a service, with "%1" for its name. */
 QString outcomeText(bool onWindows10, bool enable, bool failed)
 {
@@ -111,17 +103,6 @@ QString outcomeText(bool onWindows10, bool enable, bool failed)
 }
 
 } // namespace
-
-bool startsByItself(const QString &service)
-{
-    const int start = openServices()->value(service + u"/Start"_s, 0).toInt();
-    return start != StartDisabled && start != StartOnDemand && start != 0;
-}
-
-void setManualStart(const QString &service)
-{
-    openServices()->setValue(service + u"/Start"_s, StartOnDemand);
-}
 
 int WorkThread::SvcStopOrStart(QStringList list, bool enable)
 {

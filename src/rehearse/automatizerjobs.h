@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The Automatizer's three buttons without the window: their guards, their jobs, and what the window does behind the
+// The Automatizer's three buttons without the window: their guards, their jobs, and what the window does after the
 // closing lines.
 
 #pragma once

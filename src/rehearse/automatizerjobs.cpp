@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "automatizer.h"
+#include "automatizerjobs.h"
 
 #include "jobrunner.h"
 #include "platform/platform.h"
 #include "subcommands.h"
 #include "work/automatizer/restorelists.h"
+#include "work/statusline.h"
 #include "work/tweaks/tweakrecord.h"
 
 using namespace Qt::StringLiterals;
@@ -21,18 +22,17 @@ void runUpTo(const QString &closingLine, WorkThread &worker, int job, LinePrinte
 
 void analyze(WorkThread &worker, LinePrinter &printer)
 {
-    runUpTo(u"AutomatizerAnalyze:finished"_s, worker, JobAutomatizerAnalyze, printer);
+    runUpTo(StatusLine::analyzed, worker, JobAutomatizerAnalyze, printer);
 }
 
-/** Behind "tweaksDone": the record, and the walk, if it is asked for. */
+/** After "tweaksDone": the record, and the walk, if it is asked for. */
 void closeTweaks(WorkThread &worker, bool walk, LinePrinter &printer)
 {
     recordTweaksOfAutomatizer(worker, worker.win32PrioritySeparationIndex);
     // Optimize isn't over before the walk, which tells its end by that.
     if (walk)
-        runUpTo(worker.optimizeRunning == 1 ? u"RemoveIndexedAttrib_end"_s
-                                            : u"WorkThread::TweakSSD::RemoveIndexedAttrib"_s,
-                worker, JobTweakApply, printer);
+        runUpTo(worker.optimizeRunning == 1 ? StatusLine::attributesSetByOptimize : StatusLine::attributesSet, worker,
+                JobTweakApply, printer);
     worker.optimizeRunning = 0;
 }
 
@@ -43,7 +43,8 @@ void optimize(WorkThread &worker, const AutomatizerChoice &choice, LinePrinter &
                       + worker.analyzeAutorunCount + worker.analyzeProcessCount;
     if (found == 0)
         throw Failure{ExitJobFailed, u"no optimizations found"_s};
-    runUpTo(choice.features ? u"tweaksDone"_s : u"automatizerEnd"_s, worker, JobAutomatizerOptimize, printer);
+    runUpTo(choice.features ? StatusLine::tweaksDone : StatusLine::optimizedWithoutTweaks, worker,
+            JobAutomatizerOptimize, printer);
     if (choice.features)
         closeTweaks(worker, choice.walk, printer);
 }
@@ -55,7 +56,7 @@ void restore(WorkThread &worker, const AutomatizerChoice &choice, LinePrinter &p
     fillRestoreLists(worker);
     worker.taskRestoreMode = true;
     worker.restoreRunning = 1;
-    runUpTo(choice.features ? u"tweaksDone"_s : u"AutomatizerRestore:finished"_s, worker, JobAutomatizerRestore,
+    runUpTo(choice.features ? StatusLine::tweaksDone : StatusLine::restoredWithoutTweaks, worker, JobAutomatizerRestore,
             printer);
     if (choice.features)
         closeTweaks(worker, choice.walk, printer);

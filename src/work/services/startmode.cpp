@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "startmodebackup.h"
+#include "startmode.h"
 
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
@@ -38,6 +38,12 @@ QString startModes()
     return script;
 }
 
+/** Opened above the service: opening the key of one that isn't there would make it. */
+std::unique_ptr<RegistryKey> openServices()
+{
+    return platform().openKey(WindowsKey::services);
+}
+
 } // namespace
 
 QString startModeBackupFile()
@@ -57,4 +63,15 @@ try {
     return 2;
 } catch (const std::exception &) {
     return 1;
+}
+
+bool startsByItself(const QString &service)
+{
+    const int start = openServices()->value(service + u"/Start"_s, 0).toInt();
+    return start != StartDisabled && start != StartOnDemand && start != 0;
+}
+
+void setManualStart(const QString &service)
+{
+    openServices()->setValue(service + u"/Start"_s, StartOnDemand);
 }

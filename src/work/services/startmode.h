@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The one-time backup of how services were set to start.
+// How services are set to start: the one-time backup, and those that needn't start by themselves.
 
 #pragma once
 
@@ -14,3 +14,8 @@ QString startModeBackupFile();
  * @return 0 written; -1 there already, or can't be opened; 1 and 2 an exception of the runtime, or of a file
  */
 int WriteStartModeBackup();
+
+/** Whether the service is there and set to start in another way than on demand or not at all. */
+bool startsByItself(const QString &service);
+/** Lets the service start on demand. */
+void setManualStart(const QString &service);
