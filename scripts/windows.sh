@@ -12,7 +12,7 @@
 # Settings, all optional, taken from the environment:
 #   KESTRUNE_WINDOWS_CACHE   where the root and the libraries are kept; below the user's cache folder without it
 #   KESTRUNE_DEBIAN_MIRROR   a Debian mirror; without it the one that this computer's apt uses
-#   KESTRUNE_QT_ARCHIVE      an archive of a finished Qt (top folder qt-mingw) to unpack in place of the half hour's build
+#   KESTRUNE_QT_ARCHIVE      the archive of a finished Qt whose sum libraries.sh has, in place of the half hour's build
 #   KESTRUNE_JOBS            how many compilers run at once; all cores without it
 
 # shellcheck disable=SC2317  # stages and the functions that run inside the root are called by their names

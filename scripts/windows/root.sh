@@ -4,6 +4,8 @@
 # The stages "root" and "packages": a Debian root with all that is needed. Sourced by scripts/windows.sh.
 
 readonly suite=trixie
+# By which Debian's archive is known, on this computer as in the root
+readonly debian_keys=/usr/share/keyrings/debian-archive-keyring.gpg
 
 readonly packages=(
     g++-mingw-w64-x86-64-posix cmake ninja-build ccache   # the cross-compiler and its helpers
@@ -54,18 +56,21 @@ mirror_of_apt() {
 root_make() {
     local address new=$root.new
     command -v debootstrap >/dev/null || [[ -x /usr/sbin/debootstrap ]] || install_on_host debootstrap
+    [[ -e $debian_keys ]] || install_on_host debian-archive-keyring
+    command -v gpgv >/dev/null || install_on_host gpgv
     address=$(mirror)
     rm -rf --one-file-system "$new" "$root"
     say "from $address"
     PATH=$PATH:/usr/sbin:/sbin "${namespaces[@]}" \
-        debootstrap --variant=minbase --include=ca-certificates "$suite" "$new" "$address" >"$cache/log" 2>&1 ||
+        debootstrap --variant=minbase --include=ca-certificates --force-check-gpg --keyring="$debian_keys" \
+        "$suite" "$new" "$address" >"$cache/log" 2>&1 ||
         { tail -n 20 "$cache/log" >&2; fail "debootstrap failed; its whole output is in $cache/log"; }
     cat >"$new/etc/apt/sources.list.d/kestrune.sources" <<END
 Types: deb deb-src
 URIs: $address
 Suites: $suite
 Components: main
-Signed-By: /usr/share/keyrings/debian-archive-keyring.gpg
+Signed-By: $debian_keys
 END
     rm -f "$new/etc/apt/sources.list"
     # A proxy, and whether an older state of the archive is accepted, as on this computer
