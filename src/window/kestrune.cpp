@@ -54,10 +54,24 @@ void Kestrune::makeWorkers()
     workThread = new WorkThread(this);
     connect(workThread, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueChanged);
     connect(workThread, &WorkThread::automatizerValueChanged, this, &Kestrune::onAutomatizerValueChanged);
-    workThreadWinSxs = new WorkThread(this);
-    connect(workThreadWinSxs, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueWinSxs);
+    makeWinSxsWorker();
     workThreadMonitor = new WorkThread(this);
     connect(workThreadMonitor, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueMonitor);
+}
+
+void Kestrune::makeWinSxsWorker()
+{
+    workThreadWinSxs = new WorkThread(this);
+    connect(workThreadWinSxs, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueWinSxs);
+}
+
+void Kestrune::endWinSxsCount()
+{
+    if (!workThreadWinSxs->isRunning() || workThreadWinSxs->endJob())
+        return;
+    connect(workThreadWinSxs, &QThread::finished, workThreadWinSxs, &QObject::deleteLater);
+    workThreadWinSxs->setParent(nullptr);
+    makeWinSxsWorker();
 }
 
 void Kestrune::waitForLastInstructions()

@@ -124,6 +124,9 @@ private:
 
     // Start-up
     void makeWorkers();
+    void makeWinSxsWorker();
+    /** Ends the count of the WinSxS folder; one that doesn't answer is left alone, and the next has a new worker. */
+    void endWinSxsCount();
     /** Waits until the job whose closing line has come is over, so that the next one can start. */
     void waitForLastInstructions();
     void onKeepItemChanged(int firstRow, int lastRow);

@@ -64,8 +64,7 @@ void Kestrune::showPage(int page)
     ui.lblStatus->clear();
     ui.pgrBar->hide();
     // Nobody waits any more for the size that the Features page asked for.
-    if (workThreadWinSxs->isRunning())
-        workThreadWinSxs->endJob();
+    endWinSxsCount();
     if (page < 0 || page >= pageCount)
         return;
 

@@ -6,24 +6,10 @@
 
 #include <QThread>
 
-namespace {
-
-/** Lets a thread say of itself that it isn't to be ended by force any more. */
-class CurrentThread : public QThread
-{
-public:
-    static void refuseTermination() { setTerminationEnabled(false); }
-};
-
-} // namespace
-
 void endIfInterrupted()
 {
-    if (!QThread::currentThread()->isInterruptionRequested())
-        return;
-    // The job begins to end in good order: being ended by force on its way out would end the process.
-    CurrentThread::refuseTermination();
-    throw JobInterrupted{};
+    if (QThread::currentThread()->isInterruptionRequested())
+        throw JobInterrupted{};
 }
 
 void pauseFor(int milliseconds)

@@ -46,9 +46,9 @@ public:
     /** Writes the job's number and starts the thread. Lines of an earlier job that are still under way are dropped. */
     void startJob(int number);
     /**
-     * Ends the running job: asks, waits 30 ms, and ends the thread by force if it didn't answer. No line of the job
-     * arrives any more.
-     * @return false when the thread still runs: it must not be deleted then
+     * Asks the running job to end, and waits a moment for it. No line of the job arrives any more.
+     * @return false when the thread still runs, in a call into the system as a rule: it must not be deleted then, and
+     *         ends when the call comes back
      */
     bool endJob();
 

@@ -32,6 +32,14 @@ inline MachineOptions realPauses()
     return options;
 }
 
+/** A machine on which the first deliberate pause of a job lasts until the job is asked to end. */
+inline SimulatedOptions endlessPauses()
+{
+    SimulatedOptions options;
+    options.pace = 1e6;
+    return options;
+}
+
 /** Builds the window on the platform in force and shows it; the platform must outlive it. */
 class WindowDriver
 {
