@@ -76,7 +76,7 @@ void Kestrune::endWinSxsCount()
 
 void Kestrune::waitForLastInstructions()
 {
-    constexpr int patience = 200;
+    constexpr int patience = 2000; // a busy computer takes its time
     workThread->wait(patience);
 }
 

@@ -307,8 +307,7 @@ private Q_SLOTS:
 
 void TestFeaturesStory::everyBoxIsAppliedAndTakenBack_data()
 {
-    QTest::addColumn<QString>("builtIn");
-    QTest::addColumn<QStringList>("notClicked");
+    addColumns<QString, QStringList>("builtIn", "notClicked");
     QTest::newRow("Windows 11") << u"windows11"_s << QStringList{u"chkGaming14"_s};
     QTest::newRow("Windows 10") << u"windows10"_s << QStringList{u"chkGaming8"_s, u"chkWindows5"_s};
 }

@@ -101,8 +101,7 @@ void TestListStory::needlessTasksGoAndComeBack()
         QVERIFY2(file.startsWith("file "_L1) && file.endsWith("tasks.xml"_L1), qPrintable(file));
 
     // The assistant checks what nobody needs, and it goes.
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver.click(u"btnTaskAssist"_s);
     const QStringList needless = driver.checkedIn(table);
     QVERIFY(needless.size() > 8);

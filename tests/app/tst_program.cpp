@@ -2,6 +2,7 @@
 // The program itself, as a process of its own: how it starts, what it refuses, and how it gives way to an elevated one.
 
 #include "machine/database.h"
+#include "support/files.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
 
@@ -102,12 +103,6 @@ void endInstances(const QString &machine)
     }
 }
 
-QByteArray content(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /** What a machine's database holds, put out of order. */
 enum class Damage { Letter, NewerVersion };
 
@@ -164,7 +159,7 @@ void TestProgram::damagedMachineIsToldAndLeftAlone()
     Machine::create(machine).reset();
     damage(machine, how);
     const QString database = machine + u"/machine.sqlite"_s;
-    const QByteArray before = content(database);
+    const QByteArray before = readFile(database);
 
     Run run(machine);
     QVERIFY(run.ends());
@@ -172,7 +167,7 @@ void TestProgram::damagedMachineIsToldAndLeftAlone()
     const QString errors = run.errors();
     QVERIFY2(errors.startsWith("kestrune: "_L1) && errors.contains(machine), qPrintable(errors));
     QCOMPARE(errors.trimmed().count(u'\n'), 0);
-    QCOMPARE(content(database), before);
+    QCOMPARE(readFile(database), before);
 }
 
 void TestProgram::folderThatIsNoMachineIsToldAndLeftAlone()

@@ -2,6 +2,7 @@
 // A person's way through the Services page, on the built-in PCs: from the first listing to everything restored.
 
 #include "support/boxes.h"
+#include "support/files.h"
 #include "support/suite.h"
 #include "support/windowdriver.h"
 
@@ -49,12 +50,6 @@ QStringList sorted(QStringList names, Qt::CaseSensitivity sensitivity = Qt::Case
     return names;
 }
 
-QByteArray content(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /** What a user reads who lets the mouse rest on a service. */
 QString textUnderTheMouse(const WindowDriver &driver, const QString &service)
 {
@@ -92,8 +87,7 @@ private Q_SLOTS:
 
 void TestStory::needlessServicesGoAndComeBack_data()
 {
-    QTest::addColumn<QString>("builtIn");
-    QTest::addColumn<bool>("stopsServices");
+    addColumns<QString, bool>("builtIn", "stopsServices");
     QTest::newRow("Windows 11") << u"windows11"_s << true;
     QTest::newRow("Windows 10") << u"windows10"_s << false;
 }
@@ -109,8 +103,7 @@ void TestStory::needlessServicesGoAndComeBack()
     QVERIFY(!QFile::exists(backup));
 
     // The list, with its descriptions.
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     const int started = driver.services()->rowCount();
     QVERIFY(started > 80);
     QCOMPARE(driver.cell(u"DiagTrack"_s)->text(), u"Connected User Experiences and Telemetry"_s);
@@ -119,7 +112,7 @@ void TestStory::needlessServicesGoAndComeBack()
     QVERIFY(description != "no description"_L1);
     const QString shown = textUnderTheMouse(driver, u"DiagTrack"_s);
     QVERIFY2(shown.startsWith("DiagTrack:<br><br>"_L1) && shown.contains(description), qPrintable(shown));
-    const QByteArray firstBackup = content(backup);
+    const QByteArray firstBackup = readFile(backup);
     QVERIFY(firstBackup.contains("Services\\SysMain]"));
 
     // The assistant checks what nobody needs, and asks.
@@ -131,8 +124,7 @@ void TestStory::needlessServicesGoAndComeBack()
     }
     QVERIFY(needless.size() > 8);
     QVERIFY(needless.contains(u"DiagTrack"_s) && needless.contains(u"TrkWks"_s) && needless.contains(u"lfsvc"_s));
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(u"btnSvcAssist"_s);
     QCOMPARE(driver.checked(), needless);
     QVERIFY(driver.waitForList());
@@ -178,7 +170,7 @@ void TestStory::needlessServicesGoAndComeBack()
     QCOMPARE(startModes(machine), changed(firstModes, needless, 2));
     QCOMPARE(machine.machine().runStates(), firstStates);
     QCOMPARE(driver.services()->rowCount(), started);
-    QCOMPARE(content(backup), firstBackup);
+    QCOMPARE(readFile(backup), firstBackup);
     QVERIFY(machine.shellStarts().isEmpty());
 }
 

@@ -535,9 +535,7 @@ void TestCapture::shortNameOfTheUsersFolder()
 
 void TestCapture::boundsOfNames_data()
 {
-    QTest::addColumn<QString>("user");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("neutral");
+    addColumns<QString, QString, QString>("user", "text", "neutral");
     QTest::newRow("a path") << u"kim"_s << u"C:\\Users\\Kim\\x"_s << u"C:\\Users\\User\\x"_s;
     QTest::newRow("a path with slashes") << u"Kim"_s << u"c:/users/kim/x"_s << u"c:/users/User/x"_s;
     QTest::newRow("another user's path") << u"Kim"_s << u"C:\\Users\\Lee B\\x"_s << u"C:\\Users\\Other\\x"_s;

@@ -84,9 +84,7 @@ private:
 
 void TestBuiltInMachines::tasks_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<qsizetype>("fewest");
-    QTest::addColumn<QString>("ofTheVendor");
+    addColumns<QString, qsizetype, QString>("name", "fewest", "ofTheVendor");
     QTest::newRow("windows11") << u"windows11"_s << qsizetype(180)
                                << u"\\NvTmRep_{B2FE1952-0186-46C3-BAEC-A80AA35AC5B8}"_s;
     QTest::newRow("windows10") << u"windows10"_s << qsizetype(145) << u"\\AMDRyzenMasterSDKTask"_s;
@@ -192,11 +190,8 @@ void TestBuiltInMachines::oneDrive()
 
 void TestBuiltInMachines::whatTweaksLookFor_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("search");
-    QTest::addColumn<QString>("cloudService");
-    QTest::addColumn<QString>("vendor");
-    QTest::addColumn<QList<qsizetype>>("hints");
+    addColumns<QString, QString, QString, QString, QList<qsizetype>>("name", "search", "cloudService", "vendor",
+                                                                     "hints");
     QTest::newRow("windows11") << u"windows11"_s << u"MicrosoftWindows.Client.CBS_cw5n1h2txyewy\\SearchHost.exe"_s
                                << u"CloudBackupRestoreSvc_5cbba"_s << u"NVIDIA"_s << QList<qsizetype>{0, 0, 22};
     QTest::newRow("windows10") << u"windows10"_s << u"Microsoft.Windows.Search_cw5n1h2txyewy\\SearchApp.exe"_s

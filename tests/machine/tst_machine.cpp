@@ -3,6 +3,7 @@
 
 #include "machine/database.h"
 #include "platform/contractplatform.h"
+#include "support/files.h"
 #include "support/suite.h"
 
 #include <QDirIterator>
@@ -37,20 +38,6 @@ void writeRounds(Machine &machine, const QString &writer)
         registry.setValue(own, {u"v"_s, RegistryType::DWord, registryDWord(quint32(round))});
         machine.logCommand(u"sc"_s, {u"query"_s, writer, QString(200, u'x')}, round);
     }
-}
-
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly), qUtf8Printable(path));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
-
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /** All files below a folder with what they hold. */

@@ -134,11 +134,7 @@ void TestMachineDiff::tasks()
 
 void TestMachineDiff::valuesOfEachType_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
+    addColumns<QString, int, QByteArray, QString, QString>("name", "type", "data", "before", "after");
     const auto row = [](const char *title, const QString &name, RegistryType type, const QByteArray &data,
                         const QString &before, const QString &after) {
         QTest::newRow(title) << name << static_cast<int>(type) << data << before << after;

@@ -162,8 +162,7 @@ void TestMachineSource::emptyMachine()
 
 void TestMachineSource::malformedJsonIsToldWithItsPlace_data()
 {
-    QTest::addColumn<QByteArray>("document");
-    QTest::addColumn<QString>("message");
+    addColumns<QByteArray, QString>("document", "message");
     // clang-format off
     QTest::newRow("syntax")          << QByteArray("{\n  \"formatVersion\": 1,\n  \"name\" 2\n}") << u":3: missing name separator"_s;
     QTest::newRow("cut off")         << QByteArray("{\n  \"formatVersion\": 1,\n  \"running\": [") << u":3: unterminated array"_s;
@@ -237,8 +236,7 @@ void TestMachineSource::hardwareIsImportedPartByPart()
 
 void TestMachineSource::brokenSourcesLeaveNothing_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QByteArray>("content");
+    addColumns<QString, QByteArray>("file", "content");
     QTest::newRow("registry script") << u"z.reg"_s
                                      << QByteArray("Windows Registry Editor Version 5.00\r\n\r\nnonsense\r\n");
     QTest::newRow("machine.json") << u"machine.json"_s << QByteArray("{");
@@ -329,8 +327,7 @@ void TestMachineSource::importSetsWhatItNamesAndLeavesTheRest()
 
 void TestMachineSource::failedImportChangesNothing_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("content");
+    addColumns<QString, QByteArray>("name", "content");
     QTest::newRow("script with a broken line at its end")
         << u"x.reg"_s
         << QByteArray("Windows Registry Editor Version "

@@ -84,10 +84,7 @@ private:
 void TestRegFile::readsValues_data()
 {
     using Type = RegistryType;
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<RegistryType>("type");
-    QTest::addColumn<QByteArray>("data");
+    addColumns<QByteArray, QString, RegistryType, QByteArray>("line", "name", "type", "data");
     const QString a = u"a"_s;
     QTest::newRow("text") << QByteArray("\"a\"=\"b\"") << a << Type::String << registryText(u"b"_s);
     QTest::newRow("empty text") << QByteArray("\"a\"=\"\"") << a << Type::String << registryText({});
@@ -209,9 +206,7 @@ void TestRegFile::readsVersion4()
 
 void TestRegFile::tellsWhatIsWrong_data()
 {
-    QTest::addColumn<QByteArray>("script");
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QString>("reason");
+    addColumns<QByteArray, int, QString>("script", "line", "reason");
     QTest::newRow("empty") << QByteArray() << 1 << u"no registry script"_s;
     QTest::newRow("other text") << QByteArray("\n\nHello\n") << 3 << u"no registry script"_s;
     QTest::newRow("no script") << QByteArray("[HKEY_CURRENT_USER\\a]\n") << 1 << u"no registry script"_s;
@@ -335,9 +330,7 @@ void TestRegFile::writesAsTheRegistryEditorDoes()
 
 void TestRegFile::comesBackExactly_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<RegistryType>("type");
-    QTest::addColumn<QByteArray>("data");
+    addColumns<QString, RegistryType, QByteArray>("name", "type", "data");
     const QList<QByteArray> samples{
         QByteArray(),
         QByteArray("\0", 1),

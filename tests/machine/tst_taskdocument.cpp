@@ -25,8 +25,7 @@ private Q_SLOTS:
 
 void TestTaskDocument::switchComesAndGoes_data()
 {
-    QTest::addColumn<QString>("on");
-    QTest::addColumn<QString>("off");
+    addColumns<QString, QString>("on", "off");
 
     // clang-format off
     QTest::newRow("behind the battery rules")
@@ -60,9 +59,7 @@ void TestTaskDocument::switchComesAndGoes()
 
 void TestTaskDocument::switchIsSetWhereItStands_data()
 {
-    QTest::addColumn<QString>("document");
-    QTest::addColumn<QString>("off");
-    QTest::addColumn<QString>("on");
+    addColumns<QString, QString, QString>("document", "off", "on");
 
     // clang-format off
     QTest::newRow("said to be on")    << u"<Task><Settings><Enabled>true</Enabled></Settings></Task>"_s
@@ -91,9 +88,7 @@ void TestTaskDocument::switchIsSetWhereItStands()
 
 void TestTaskDocument::whatItSays_data()
 {
-    QTest::addColumn<QString>("body");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<bool>("forAdministrators");
+    addColumns<QString, bool, bool>("body", "enabled", "forAdministrators");
 
     const auto principal = [](const char *body) {
         return u"<Principals><Principal id=\"x\">%1</Principal></Principals>"_s.arg(QLatin1StringView(body));

@@ -113,8 +113,7 @@ void TestTaskExport::doubledCarriageReturns()
 
 void TestTaskExport::mistakesAreToldWithTheirLine_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("message");
+    addColumns<QString, QString>("text", "message");
     // clang-format off
     QTest::newRow("empty")              << u""_s                                         << u"f:1: holds no task"_s;
     QTest::newRow("list without tasks") << u"<Tasks>\n</Tasks>"_s                        << u"f:1: holds no task"_s;
@@ -168,9 +167,7 @@ void TestTaskExport::sourceFolderHasTasks()
 
 void TestTaskExport::knownByItsContent_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<bool>("known");
+    addColumns<QString, QByteArray, bool>("name", "bytes", "known");
     // clang-format off
     QTest::newRow("by its name")        << u"TASKS.XML"_s << QByteArray()                        << true;
     QTest::newRow("comment")            << u"a.txt"_s     << QByteArray("\r\n<!-- \\a -->\r\n")  << true;

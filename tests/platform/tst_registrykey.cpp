@@ -220,8 +220,7 @@ void TestRegistryKey::theUnnamedValueOfASubkey()
 
 void TestRegistryKey::lookUpsIgnoreCase_data()
 {
-    QTest::addColumn<QString>("written");
-    QTest::addColumn<QString>("read");
+    addColumns<QString, QString>("written", "read");
     QTest::newRow("letters") << u"DisplayName"_s << u"dISPLAYnAME"_s;
     QTest::newRow("umlauts") << u"Größe Ä"_s << u"gRÖßE ä"_s;
     QTest::newRow("Cyrillic") << u"Служба"_s << u"СЛУЖБА"_s;
@@ -332,9 +331,7 @@ void TestRegistryKey::anEmptyGroupIsNoLevel()
 void TestRegistryKey::readsEveryType_data()
 {
     using Type = RegistryType;
-    QTest::addColumn<RegistryType>("type");
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<QVariant>("expected");
+    addColumns<RegistryType, QByteArray, QVariant>("type", "data", "expected");
     const QByteArray none;
     QTest::newRow("text") << Type::String << registryText(u"a b"_s) << QVariant(u"a b"_s);
     QTest::newRow("empty text") << Type::String << registryText(QString()) << QVariant(QString());
@@ -404,9 +401,7 @@ void TestRegistryKey::containsTellsValuesFromSubkeys()
 void TestRegistryKey::writesTypes_data()
 {
     using Type = RegistryType;
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<RegistryType>("type");
-    QTest::addColumn<QByteArray>("data");
+    addColumns<QVariant, RegistryType, QByteArray>("value", "type", "data");
     QTest::newRow("int") << QVariant(4) << Type::DWord << registryDWord(4);
     QTest::newRow("negative int") << QVariant(-1) << Type::DWord << registryDWord(0xFFFFFFFFU);
     QTest::newRow("uint") << QVariant(0xFFFFFFFEU) << Type::DWord << registryDWord(0xFFFFFFFEU);

@@ -78,10 +78,7 @@ void TestPreview::nothingChanges()
 
 void TestPreview::whatComesBack_data()
 {
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("optimized");
-    QTest::addColumn<int>("restored");
-    QTest::addColumn<Return>("expected");
+    addColumns<int, int, int, Return>("before", "optimized", "restored", "expected");
 
     constexpr int absent = -1;
     QTest::newRow("as it was") << 1 << 2 << 1 << Return::Exactly;
@@ -225,9 +222,7 @@ void TestPreview::packageAsAWholeIsInstalledOrNot()
 
 void TestPreview::optionAsAWholeIsAppliedOrNot_data()
 {
-    QTest::addColumn<quint32>("optimized");
-    QTest::addColumn<quint32>("restored");
-    QTest::addColumn<QStringList>("expected");
+    addColumns<quint32, quint32, QStringList>("optimized", "restored", "expected");
 
     const QString own = u"your setting"_s;
     QTest::newRow("back") << 1U << 0U << QStringList{own, u"applied"_s, own};

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse preview and its way back: applied to the optimized copy, it gives the machine before.
 
-#include "support/smallmachine.h"
+#include "support/rehearsing.h"
 #include "support/suite.h"
-#include "support/toolrun.h"
 #include "support/undoing.h"
 
 #include "machine/compare/machinediff.h"
@@ -14,33 +13,11 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QStringDecoder>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct Result
-{
-    int code = -1;
-    QString output;
-    QString errors;
-};
-
-Result rehearse(const QStringList &arguments)
-{
-    constexpr int patience = 250000; // milliseconds
-    QProcess process;
-    process.start(builtProgram(u"kestrune-rehearse"_s), arguments);
-    if (!process.waitForFinished(patience))
-        return {};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
-} // namespace
 
 class TestUndo : public QObject
 {
@@ -78,10 +55,10 @@ void TestUndo::initTestCase()
 {
     pc_ = make(u"windows11"_s);
     copyMachine(*Machine::open(pc_), folder_.filePath(u"as-it-was"_s));
-    const Result result =
+    const Ended result =
         rehearse({u"preview"_s, pc_, u"--keep"_s, u"printer=0"_s, u"--json"_s, folder_.filePath(u"preview.json"_s),
                   u"--html"_s, folder_.filePath(u"preview.html"_s), u"--undo"_s, folder_.filePath(u"preview.reg"_s)});
-    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    QVERIFY2(result.exitCode == done, result.errors.constData());
 }
 
 void TestUndo::previewLeavesTheMachineAlone()
@@ -92,9 +69,7 @@ void TestUndo::previewLeavesTheMachineAlone()
 
 void TestUndo::previewTellsOfEveryGroup()
 {
-    QFile file(folder_.filePath(u"preview.json"_s));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QJsonObject report = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonObject report = QJsonDocument::fromJson(readFile(folder_.filePath(u"preview.json"_s))).object();
     QMap<QString, int> groups;
     QStringList titles;
     QStringList unexplainedFiles;
@@ -118,8 +93,7 @@ void TestUndo::previewTellsOfEveryGroup()
 
 void TestUndo::undoGivesTheMachineBefore_data()
 {
-    QTest::addColumn<QString>("builtIn");
-    QTest::addColumn<QString>("keep");
+    addColumns<QString, QString>("builtIn", "keep");
     const QString none = u"printer=0,bluetooth-audio=0,files-sharing=0,xbox-app=0,upnp=0,proxy-vpn=0,nfc=0,"
                          "xbox-game-bar=0,codecs=0"_s;
     QTest::newRow("Windows 11, none kept") << u"windows11"_s << none;
@@ -135,13 +109,13 @@ void TestUndo::undoGivesTheMachineBefore()
     QFETCH(QString, keep);
     const QString pc = make(builtIn);
     const QString undo = folder_.filePath(u"undo.reg"_s);
-    Result result = rehearse({u"preview"_s, pc, u"--keep"_s, keep, u"--undo"_s, undo});
-    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    Ended result = rehearse({u"preview"_s, pc, u"--keep"_s, keep, u"--undo"_s, undo});
+    QVERIFY2(result.exitCode == done, result.errors.constData());
 
     QDir(folder_.filePath(u"before"_s)).removeRecursively();
     copyMachine(*Machine::open(pc), folder_.filePath(u"before"_s));
     result = rehearse({u"run"_s, pc, u"optimize"_s, u"--keep"_s, keep});
-    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    QVERIFY2(result.exitCode == done, result.errors.constData());
     const auto before = Machine::open(folder_.filePath(u"before"_s));
     const auto optimized = Machine::open(pc);
     QVERIFY(!compareMachines(*before, *optimized).isEmpty());
@@ -160,9 +134,7 @@ void TestUndo::undoGivesTheMachineBefore()
 
 void TestUndo::scriptIsInTheFormOfTheRegistryEditor()
 {
-    QFile file(folder_.filePath(u"preview.reg"_s));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = readFile(folder_.filePath(u"preview.reg"_s));
     QVERIFY(bytes.startsWith("\xff\xfe"));
     const QString text = QStringDecoder(QStringConverter::Utf16)(bytes);
     QVERIFY(text.startsWith(u"Windows Registry Editor Version 5.00\r\n"_s));
@@ -173,15 +145,15 @@ void TestUndo::nothingToOptimize()
 {
     const QString pc = folder_.filePath(u"empty"_s);
     makeMachine(pc, QString(), Existing::Keep);
-    const Result result = rehearse({u"preview"_s, pc, u"--no-features"_s});
-    QVERIFY2(result.code == 0, qPrintable(result.errors));
-    QVERIFY2(result.output.startsWith(u"    0 come back exactly\n"_s), qPrintable(result.output));
+    const Ended result = rehearse({u"preview"_s, pc, u"--no-features"_s});
+    QVERIFY2(result.exitCode == done, result.errors.constData());
+    QVERIFY2(result.output.startsWith("    0 come back exactly\n"), result.output.constData());
 }
 
 void TestUndo::badMachineIsTold()
 {
-    const Result result = rehearse({u"preview"_s, folder_.filePath(u"nothing"_s)});
-    QCOMPARE(result.code, 3);
+    const Ended result = rehearse({u"preview"_s, folder_.filePath(u"nothing"_s)});
+    QCOMPARE(result.exitCode, machineUnreadable);
     QVERIFY(!result.errors.isEmpty());
 }
 

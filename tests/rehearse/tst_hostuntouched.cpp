@@ -253,9 +253,7 @@ void TestHostUntouched::runEverything(const QString &machine, bool whole)
 
 void TestHostUntouched::noProgramOfTheHostIsStarted_data()
 {
-    QTest::addColumn<QString>("sources");
-    QTest::addColumn<QString>("addition");
-    QTest::addColumn<bool>("whole");
+    addColumns<QString, QString, bool>("sources", "addition", "whole");
     const QString place = QDir::toNativeSeparators(standInFolder());
     const QString sc = place + QDir::separator() + u"sc"_s + programSuffix;
     QTest::newRow("a built-in PC") << builtProgram(u"machines/windows11"_s) << QString() << true;

@@ -134,8 +134,7 @@ QString TestPreviewTrouble::copyOf(const QString &machine, const QString &name)
 
 void TestPreviewTrouble::damagedMachineIsTold_data()
 {
-    QTest::addColumn<Damage>("damage");
-    QTest::addColumn<QString>("told");
+    addColumns<Damage, QString>("damage", "told");
 
     const auto databaseOf = [](const QString &machine) { return machine + u"/machine.sqlite"_s; };
     const auto inDatabase = [databaseOf](const QString &machine, qint64 place, const QByteArray &bytes) {
@@ -246,8 +245,7 @@ void TestPreviewTrouble::machineThatCannotBeWrittenIsPreviewed()
 
 void TestPreviewTrouble::reportThatCannotBeWrittenIsToldFirst_data()
 {
-    QTest::addColumn<QString>("option");
-    QTest::addColumn<QString>("file");
+    addColumns<QString, QString>("option", "file");
     for (const QString &option : {u"--html"_s, u"--json"_s, u"--undo"_s}) {
         QTest::addRow("%s, no such folder", qPrintable(option)) << option << u"missing/report"_s;
         QTest::addRow("%s, a folder", qPrintable(option)) << option << u"."_s;

@@ -159,8 +159,7 @@ void TestRehearse::version()
 
 void TestRehearse::badArgumentsAreToldInOneManner_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("message");
+    addColumns<QString, QString>("arguments", "message");
     // clang-format off
     QTest::newRow("nothing")            << "" << "missing command";
     QTest::newRow("command")            << "frobnicate" << "unknown command 'frobnicate'";
@@ -446,8 +445,7 @@ void TestRehearse::runMonitor()
 
 void TestRehearse::runReportsServicesThatFailed_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QByteArray>("message");
+    addColumns<QStringList, QByteArray>("arguments", "message");
     QTest::newRow("no such service") << QStringList{u"svc-disable"_s, u"Nope"_s, u"DiagTrack"_s}
                                      << QByteArray("svc-disable failed for Nope");
     QTest::newRow("not elevated") << QStringList{u"svc-disable"_s, u"DiagTrack"_s, u"--not-elevated"_s}

@@ -68,9 +68,7 @@ private Q_SLOTS:
 
 void TestRehearseAutomatizer::linesOfTheBuiltInMachines_data()
 {
-    QTest::addColumn<QString>("builtIn");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QList<QStringList>>("runs");
+    addColumns<QString, QString, QList<QStringList>>("builtIn", "file", "runs");
     const QList<QStringList> kept{{u"optimize"_s}, {u"restore"_s}};
     const QList<QStringList> twice{{u"optimize"_s, u"--no-features"_s, u"--keep"_s, givenUp},
                                    {u"optimize"_s, u"--no-features"_s},
@@ -128,8 +126,7 @@ void TestRehearseAutomatizer::nothingFoundIsAFailure()
 
 void TestRehearseAutomatizer::choicesLeaveOutWhatTheySay()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
+    AutomatizerMachine machine;
     const Ended ended =
         runOn(machine, {u"optimize"_s, u"--no-programs"_s, u"--no-features"_s, u"--keep"_s, u"nfc=0"_s});
     QCOMPARE(ended.exitCode, done);
@@ -143,8 +140,7 @@ void TestRehearseAutomatizer::choicesLeaveOutWhatTheySay()
 
 void TestRehearseAutomatizer::theWindowsClosingStepsAreDone()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
+    AutomatizerMachine machine;
     QCOMPARE(runOn(machine, {u"optimize"_s, u"--no-walk"_s}).exitCode, done);
     QCOMPARE(machine.read(settingsKey + u"\\Tweak"_s, u"chkSsd1"_s), QVariant(u"true"_s));
     QVERIFY(wasOptimized());
@@ -210,8 +206,7 @@ private:
 
 void TestRehearseAutomatizer::theWalkIsRunOnlyWhenAskedFor_data()
 {
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<bool>("walked");
+    addColumns<QStringList, bool>("options", "walked");
     QTest::newRow("nothing said") << QStringList() << false;
     QTest::newRow("yes") << QStringList{u"--yes"_s} << true;
     QTest::newRow("no walk") << QStringList{u"--no-walk"_s} << false;
@@ -266,8 +261,7 @@ QByteArray differences(const QString &before, const QString &after)
 
 void TestRehearseAutomatizer::differencesOfTheBuiltInMachines_data()
 {
-    QTest::addColumn<QString>("builtIn");
-    QTest::addColumn<QStringList>("keep");
+    addColumns<QString, QStringList>("builtIn", "keep");
     QTest::newRow("all kept") << u"windows11"_s << QStringList();
     QTest::newRow("none kept") << u"windows10"_s << QStringList{u"--keep"_s, givenUp};
 }

@@ -180,8 +180,7 @@ void TestRehearseSoftware::taskDisableAndEnable()
 
 void TestRehearseSoftware::taskReportsWhatFailed_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QByteArray>("errors");
+    addColumns<QStringList, QByteArray>("arguments", "errors");
     QTest::newRow("no such task") << QStringList{u"task-disable"_s, u"none"_s, defrag}
                                   << QByteArray("kestrune-rehearse: task-disable failed for none\n");
     QTest::newRow("not elevated") << QStringList{u"--not-elevated"_s, u"task-enable"_s, defrag}
@@ -293,8 +292,7 @@ void TestRehearseSoftware::autorunDisableAndEnable()
 
 void TestRehearseSoftware::autorunReportsWhatFailed_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("second");
+    addColumns<QString, QByteArray>("name", "second");
     // One without quotes, one whose program is gone: they can be switched off and never on again.
     QTest::newRow("without quotes") << u"LogiOptionsPlus"_s
                                     << QByteArray("kestrune-rehearse: autorun-enable failed for LogiOptionsPlus\n");

@@ -87,8 +87,7 @@ private Q_SLOTS:
 
 void TestPowerShellTool::removesAPackage_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QStringList>("left");
+    addColumns<QString, QStringList>("name", "left");
     // clang-format off
     QTest::newRow("one")                << u"Microsoft.WindowsCamera"_s     << QStringList{alone, olderCalculator, calculator};
     QTest::newRow("all of its names")   << u"Microsoft.WindowsCalculator"_s << QStringList{alone, camera};

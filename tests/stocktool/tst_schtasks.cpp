@@ -154,9 +154,7 @@ void TestSchtasks::changeSwitchesTheTask()
 
 void TestSchtasks::failuresChangeNothing_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<bool>("isElevated");
-    QTest::addColumn<QByteArray>("errors");
+    addColumns<QStringList, bool, QByteArray>("arguments", "isElevated", "errors");
     const QStringList change{u"/CHANGE"_s, u"/TN"_s};
     // clang-format off
     QTest::newRow("no such task")       << change + QStringList{u"none"_s, u"/DISABLE"_s} << true

@@ -80,8 +80,7 @@ void TestTweakTools::hibernationForTheFirstTime()
 
 void TestTweakTools::powercfgRefuses_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<Variables>("variables");
+    addColumns<QStringList, Variables>("arguments", "variables");
     QTest::newRow("nothing") << QStringList() << elevated;
     QTest::newRow("no state") << QStringList{u"-h"_s} << elevated;
     QTest::newRow("another state") << QStringList{u"-h"_s, u"maybe"_s} << elevated;
@@ -125,8 +124,7 @@ void TestTweakTools::bootOptionIsSetAndDeleted()
 
 void TestTweakTools::bcdeditRefuses_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<Variables>("variables");
+    addColumns<QStringList, Variables>("arguments", "variables");
     QTest::newRow("nothing") << QStringList() << elevated;
     QTest::newRow("no value") << QStringList{u"/set"_s, u"useplatformclock"_s} << elevated;
     QTest::newRow("no state") << QStringList{u"/set"_s, u"useplatformclock"_s, u"maybe"_s} << elevated;
@@ -166,8 +164,7 @@ void TestTweakTools::ownerAndRights()
 
 void TestTweakTools::takeownRefuses_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<Variables>("variables");
+    addColumns<QStringList, Variables>("arguments", "variables");
     QTest::newRow("nothing") << QStringList() << elevated;
     QTest::newRow("no such file") << QStringList{u"/f"_s, u"C:\\none"_s} << elevated;
     QTest::newRow("without rights") << QStringList{u"/f"_s, explorer} << notElevated;
@@ -186,9 +183,7 @@ void TestTweakTools::takeownRefuses()
 
 void TestTweakTools::icaclsRefuses_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<Variables>("variables");
-    QTest::addColumn<int>("exitCode");
+    addColumns<QStringList, Variables, int>("arguments", "variables", "exitCode");
     QTest::newRow("nothing") << QStringList() << elevated << 87;
     QTest::newRow("no verb") << QStringList{explorer} << elevated << 87;
     QTest::newRow("two verbs") << QStringList{explorer, u"/reset"_s, u"/reset"_s} << elevated << 87;

@@ -92,3 +92,9 @@ inline void fillAutomatizerMachine(TestMachine &machine)
     fillAutoruns(machine);
     fillEncoder(machine);
 }
+
+class AutomatizerMachine : public TestMachine
+{
+public:
+    AutomatizerMachine() { fillAutomatizerMachine(*this); }
+};

@@ -31,7 +31,8 @@ ShownBox read(const QMessageBox &box)
 
 } // namespace
 
-Boxes::Boxes()
+Boxes::Boxes(const QList<QMessageBox::StandardButton> &answers)
+    : answers_(answers)
 {
     connect(&timer_, &QTimer::timeout, this, &Boxes::look);
     timer_.start(interval);

@@ -33,7 +33,7 @@ class Boxes : public QObject
     Q_OBJECT
 
 public:
-    Boxes();
+    explicit Boxes(const QList<QMessageBox::StandardButton> &answers = {});
     ~Boxes() override;
 
     /** The next box is answered by a click of this button; NoButton presses Escape instead. */

@@ -6,6 +6,8 @@
 #include <QMenu>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int interval = 5; // milliseconds
@@ -21,7 +23,8 @@ QAction *actionOf(const QMenu &menu, const QString &text)
 
 } // namespace
 
-Menus::Menus()
+Menus::Menus(const QStringList &choices)
+    : choices_(choices)
 {
     connect(&timer_, &QTimer::timeout, this, &Menus::look);
     timer_.start(interval);
@@ -58,4 +61,15 @@ void Menus::look()
     }
     menu->setActiveAction(action);
     QTest::keyClick(menu, Qt::Key_Return);
+}
+
+QString menuStyle(const QStringList &colors)
+{
+    if (colors.isEmpty())
+        return {};
+    return u"QMenu { background-color: %1; border-radius: 6px; border: 1px solid %2; }"
+           "QMenu::item { padding: 6px; background: transparent; }"
+           "QMenu:item:hover  { background-color: %3; border-radius: 6px; }"
+           "QMenu:item:selected  { background-color: %3; border-radius: 6px; }"_s.arg(colors.at(0), colors.at(1),
+                                                                                      colors.at(2));
 }

@@ -25,7 +25,7 @@ class Menus : public QObject
     Q_OBJECT
 
 public:
-    Menus();
+    explicit Menus(const QStringList &choices = {});
     ~Menus() override;
 
     /** In the next menu the action of this text is chosen; an empty one leaves the menu by Escape. */
@@ -39,3 +39,6 @@ private:
     QStringList choices_;
     QList<ShownMenu> shown_;
 };
+
+/** How a menu is styled in these colors: its ground, its border, and the action under the pointer; in none, not. */
+QString menuStyle(const QStringList &colors);

@@ -50,3 +50,10 @@ inline void addPowerShell(TestMachine &machine, int exitCode = 0)
     fault.exitCode = exitCode;
     machine.machine().setFault(QStringLiteral("powershell"), fault);
 }
+
+/** A small machine whose PowerShell succeeds and changes nothing. */
+class PowerShellMachine : public TestMachine
+{
+public:
+    PowerShellMachine() { addPowerShell(*this); }
+};

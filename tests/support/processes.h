@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include "files.h"
+
 #include <QCoreApplication>
-#include <QFile>
 #include <QProcess>
 
 /** What a process left behind. */
@@ -55,17 +56,4 @@ inline QString copyProgram(const QString &name, const QString &place)
     if (!QFile::copy(builtProgram(name) + programSuffix, place + programSuffix))
         qFatal("%s can't be copied", qPrintable(name));
     return place + programSuffix;
-}
-
-inline void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("%s can't be written", qPrintable(path));
-}
-
-inline QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }

@@ -5,14 +5,17 @@
 
 #include "machine/machine.h"
 
+inline void setValue(Machine &machine, const QString &key, const RegistryValue &value)
+{
+    machine.registry().setValue(*machine.registry().make(key), value);
+}
+
 inline void setNumber(Machine &machine, const QString &key, const QString &name, quint32 value)
 {
-    RegistryStore &store = machine.registry();
-    store.setValue(*store.make(key), {name, RegistryType::DWord, registryDWord(value)});
+    setValue(machine, key, {name, RegistryType::DWord, registryDWord(value)});
 }
 
 inline void setText(Machine &machine, const QString &key, const QString &name, const QString &value)
 {
-    RegistryStore &store = machine.registry();
-    store.setValue(*store.make(key), {name, RegistryType::String, registryText(value)});
+    setValue(machine, key, {name, RegistryType::String, registryText(value)});
 }

@@ -39,6 +39,16 @@ int runSuite(int argc, char **argv)
     return QTest::qExec(&test, argc, argv);
 }
 
+template<typename>
+using ColumnName = const char *;
+
+/** Adds the columns of a table of cases, in order. */
+template<typename... Types>
+void addColumns(ColumnName<Types>... names)
+{
+    (QTest::addColumn<Types>(names), ...);
+}
+
 /** A suite that needs no display. */
 #define KESTRUNE_SUITE(Test) static const Suite thisSuite(__FILE__, runSuite<QCoreApplication, Test>);
 /** A suite that opens windows; its file includes QApplication. */

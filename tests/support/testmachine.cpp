@@ -2,6 +2,8 @@
 
 #include "testmachine.h"
 
+#include "files.h"
+
 #include "machine/source/machinesource.h"
 
 #include <QCoreApplication>
@@ -83,10 +85,7 @@ void TestMachine::add(const TestService &service)
 QString TestMachine::addFile(const QString &windowsPath, const QByteArray &content)
 {
     const QString path = machine().hostPath(windowsPath);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("can't write %s", qUtf8Printable(path));
+    writeFile(path, content);
     return path;
 }
 

@@ -76,5 +76,12 @@ private:
     MachinePlatform *platform_ = nullptr;
 };
 
+/** A small machine whose error log is on. */
+class LoggingMachine : public TestMachine
+{
+public:
+    LoggingMachine() { logErrors(); }
+};
+
 inline const QString servicesKey = QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services");
 inline const QString settingsKey = QStringLiteral("HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale");

@@ -3,12 +3,13 @@
 
 #pragma once
 
+#include "processes.h"
+
 #include "machine/machine.h"
 #include "machine/source/machinesource.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 
 /** The command line's words, as the system's programs take them apart. */
 inline QStringList wordsOf(const QString &command)
@@ -77,18 +78,11 @@ inline bool runBuiltIn(Machine &machine, const QStringList &words, const QString
 /** Runs a tool of the machine, which is in its environment. */
 inline int runToolOf(const Machine &machine, const QStringList &words)
 {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    const QMap<QString, QString> variables = machine.environment();
-    for (auto it = variables.begin(); it != variables.end(); ++it)
-        environment.insert(it.key(), it.value());
-    environment.insert(QStringLiteral("KESTRUNE_MACHINE"), machine.folder());
-    environment.insert(QStringLiteral("KESTRUNE_ELEVATED"), QStringLiteral("1"));
-    process.setProcessEnvironment(environment);
+    Variables variables = machine.environment();
+    variables[QStringLiteral("KESTRUNE_MACHINE")] = machine.folder();
+    variables[QStringLiteral("KESTRUNE_ELEVATED")] = QStringLiteral("1");
     const QString name = words.first().section(u'\\', -1).section(u'.', 0, 0).toLower();
-    process.start(machine.toolsFolder() + u'/' + name, words.mid(1));
-    process.waitForFinished();
-    return process.exitCode();
+    return runProgram(machine.toolsFolder() + u'/' + name, words.mid(1), variables).exitCode;
 }
 
 /** Imports the script and gives the commands beside it. The first command that failed; empty where none did. */

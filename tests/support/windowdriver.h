@@ -24,18 +24,10 @@ inline MachineOptions notElevated()
     return options;
 }
 
-/** A machine on which the deliberate pauses are slept, so that a job lasts. */
-inline MachineOptions realPauses()
+/** A machine on which the first deliberate pause of a job lasts until the job is asked to end. */
+inline MachineOptions endlessPauses()
 {
     MachineOptions options;
-    options.pace = 1;
-    return options;
-}
-
-/** A machine on which the first deliberate pause of a job lasts until the job is asked to end. */
-inline SimulatedOptions endlessPauses()
-{
-    SimulatedOptions options;
     options.pace = 1e6;
     return options;
 }
@@ -120,4 +112,38 @@ private:
     std::unique_ptr<Kestrune> window_;
     int listings_ = 0;
     mutable int awaited_ = 0;
+};
+
+/** The machine of a window, which must be there first. */
+class MachineOfWindow
+{
+protected:
+    explicit MachineOfWindow(const MachineOptions &options)
+        : machine_(TestMachine::Windows::Eleven, options)
+    {
+    }
+
+private:
+    TestMachine machine_;
+};
+
+/** The window on a small machine that the test itself has nothing to do with. */
+class WindowOnPc : private MachineOfWindow, public WindowDriver
+{
+public:
+    explicit WindowOnPc(const MachineOptions &options = {})
+        : MachineOfWindow(options)
+    {
+    }
+};
+
+/** The window with the Services page open and its list there. */
+class ServicesPage : public WindowDriver
+{
+public:
+    ServicesPage()
+    {
+        if (!openServices())
+            qFatal("the services aren't listed");
+    }
 };

@@ -167,8 +167,7 @@ void TestVerify::initTestCase()
 
 void TestVerify::optimizedPcIsInForceButForWhatIsOnlyRecorded_data()
 {
-    QTest::addColumn<QString>("builtIn");
-    QTest::addColumn<QStringList>("onlyRecorded");
+    addColumns<QString, QStringList>("builtIn", "onlyRecorded");
 
     // Recorded by the Automatizer, which never runs them: hibernation, the walk, the power state of display adapters,
     // and the cloud backup. Multiplane overlays go by the card, and the lock screen by the Windows.
@@ -212,9 +211,7 @@ void TestVerify::nothingIsChangedByIt()
 
 void TestVerify::serviceSetBack_data()
 {
-    QTest::addColumn<Later::Log>("log");
-    QTest::addColumn<int>("start");
-    QTest::addColumn<Verdict>("verdict");
+    addColumns<Later::Log, int, Verdict>("log", "start", "verdict");
     // It started by itself before.
     QTest::newRow("to what it was, after sc had switched it off") << Later::Log::Kept << 2 << Verdict::ChangedBack;
     QTest::newRow("to something else, after sc had switched it off") << Later::Log::Kept << 3 << Verdict::ChangedBack;
@@ -299,9 +296,7 @@ void TestVerify::backupOfTasksIsNoRecord()
 
 void TestVerify::packageThatCameBack_data()
 {
-    QTest::addColumn<Later::Log>("log");
-    QTest::addColumn<QString>("fullName");
-    QTest::addColumn<Verdict>("verdict");
+    addColumns<Later::Log, QString, Verdict>("log", "fullName", "verdict");
     const QString newer = u"Microsoft.BingNews_99.0.0.0_x64__8wekyb3d8bbwe"_s;
     QTest::newRow("the same version, after it had been removed")
         << Later::Log::Kept << QString() << Verdict::ChangedBack;
@@ -363,8 +358,7 @@ void TestVerify::packagedTaskThatCameBack()
 
 void TestVerify::optionValueChanged_data()
 {
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("verdict");
+    addColumns<QString, QString>("value", "verdict");
     QTest::newRow("to something else") << u"200"_s << u"changed-back"_s;
     QTest::newRow("to what it was") << QString() << u"as-before"_s;
 }

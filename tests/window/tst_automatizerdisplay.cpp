@@ -108,8 +108,7 @@ private Q_SLOTS:
 
 void TestAutomatizerDisplay::linesOfTheWorkerArriveInTheirOrder()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     for (const char *line : {"pgr:max:7", "first", "pgr:value:3", "second", "", "pgr: Tasks"})
         Q_EMIT driver.worker().automatizerValueChanged(QString::fromLatin1(line));
     const AutomatizerView view(driver);
@@ -170,8 +169,7 @@ void TestAutomatizerDisplay::anyOtherLineIsLoggedAsItStands()
 
 void TestAutomatizerDisplay::emptyLineIsABreakInTheLog()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     for (const char *line : {"a", "", "", "b"})
         send(driver, QString::fromLatin1(line));
     QCOMPARE(AutomatizerView(driver).log, (QStringList{u"a"_s, QString(), QString(), u"b"_s}));
@@ -179,16 +177,14 @@ void TestAutomatizerDisplay::emptyLineIsABreakInTheLog()
 
 void TestAutomatizerDisplay::logLineThatHoldsALineEndTakesTwoLines()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     send(driver, u"Process: can be disable\r\nThis process"_s);
     QCOMPARE(AutomatizerView(driver).log, (QStringList{u"Process: can be disable"_s, u"This process"_s}));
 }
 
 void TestAutomatizerDisplay::maximumLineShowsTheBarAndSetsItsMaximum()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     send(driver, u"pgr:max:42"_s);
     const AutomatizerView view(driver);
@@ -200,8 +196,7 @@ void TestAutomatizerDisplay::maximumLineShowsTheBarAndSetsItsMaximum()
 
 void TestAutomatizerDisplay::valueLineShowsTheBarAndSetsItsValue()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     const int maximum = driver.bar()->maximum();
     send(driver, u"pgr:value:17"_s);
@@ -224,8 +219,7 @@ void TestAutomatizerDisplay::numberThatDoesNotParseSetsZero_data()
 void TestAutomatizerDisplay::numberThatDoesNotParseSetsZero()
 {
     QFETCH(const QString, number);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     send(driver, u"pgr:max:12"_s);
     send(driver, u"pgr:value:3"_s);
@@ -239,8 +233,7 @@ void TestAutomatizerDisplay::numberThatDoesNotParseSetsZero()
 
 void TestAutomatizerDisplay::headOfAPhaseStandsBehindOptimize_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("status");
+    addColumns<QString, QString>("line", "status");
     QTest::newRow("services") << u"pgr: Services"_s << u"Optimize :  Services"_s;
     QTest::newRow("applications") << u"pgr: Windows applications"_s << u"Optimize :  Windows applications"_s;
     QTest::newRow("nothing behind it") << u"pgr:"_s << u"Optimize : "_s;
@@ -253,8 +246,7 @@ void TestAutomatizerDisplay::headOfAPhaseStandsBehindOptimize_data()
 void TestAutomatizerDisplay::headOfAPhaseStandsBehindOptimize()
 {
     QFETCH(const QString, line);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     const AutomatizerView before(driver);
     send(driver, line);
@@ -268,8 +260,7 @@ void TestAutomatizerDisplay::headOfAPhaseStandsBehindOptimize()
 
 void TestAutomatizerDisplay::labelSaysOptimizeDuringRestoreToo()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().job = JobAutomatizerRestore;
     driver.worker().restoreRunning = 1;
     send(driver, u"pgr: Tasks"_s);
@@ -278,8 +269,7 @@ void TestAutomatizerDisplay::labelSaysOptimizeDuringRestoreToo()
 
 void TestAutomatizerDisplay::translationChangesTheLabelAndNotTheComparison()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     const MarkingTranslator language("Kestrune");
     send(driver, u"pgr: Tasks"_s);
     QCOMPARE(driver.status(), u"«Optimize» :  Tasks"_s);
@@ -287,8 +277,7 @@ void TestAutomatizerDisplay::translationChangesTheLabelAndNotTheComparison()
     QCOMPARE(driver.status(), u"«Services:» 0  |  «Tasks:» 0  |  «Packages:» 0  |  «Autorun:» 0"_s);
     send(driver, u"automatizerEnd"_s);
     QCOMPARE(driver.status(), u"«Optimization finished»"_s);
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     send(driver, u"tweaksDone"_s);
     QCOMPARE(boxes.shown().constLast().text, u'«' + walkQuestion + u'»');
     QCOMPARE(boxes.shown().constLast().buttonTexts, (QStringList{u"«Yes»"_s, u"«No»"_s}));
@@ -304,8 +293,7 @@ void TestAutomatizerDisplay::translationChangesTheLabelAndNotTheComparison()
 
 void TestAutomatizerDisplay::nothingFoundIsSaidAndTheLabelIsSetAllTheSame()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     send(driver, u"pgr:max:5"_s);
     send(driver, u"AutomatizerAnalyze:finished"_s);
@@ -325,8 +313,7 @@ void TestAutomatizerDisplay::oneFindingOfAnyKindIsEnough_data()
 void TestAutomatizerDisplay::oneFindingOfAnyKindIsEnough()
 {
     QFETCH(const int, index);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().*findingCounters.at(index).member = 1;
     begin(driver);
     send(driver, u"AutomatizerAnalyze:finished"_s);
@@ -335,8 +322,7 @@ void TestAutomatizerDisplay::oneFindingOfAnyKindIsEnough()
 
 void TestAutomatizerDisplay::encoderAloneIsAFindingThatTheLabelDoesNotShow()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().analyzeProcessCount = 2;
     send(driver, u"AutomatizerAnalyze:finished"_s);
     const AutomatizerView view(driver);
@@ -346,8 +332,7 @@ void TestAutomatizerDisplay::encoderAloneIsAFindingThatTheLabelDoesNotShow()
 
 void TestAutomatizerDisplay::labelCountsServicesTasksPackagesAndAutorun()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().analyzeServiceCount = 12;
     driver.worker().analyzeTaskCount = 34;
     driver.worker().analyzePackageCount = 56;
@@ -361,9 +346,7 @@ void TestAutomatizerDisplay::labelCountsServicesTasksPackagesAndAutorun()
 
 void TestAutomatizerDisplay::improvementsGoByWindowsAndBattery_data()
 {
-    QTest::addColumn<QString>("winName");
-    QTest::addColumn<QString>("battery");
-    QTest::addColumn<QString>("count");
+    addColumns<QString, QString, QString>("winName", "battery", "count");
     QTest::newRow("11") << u"Windows 11 Home"_s << u"-1"_s << u"32"_s;
     QTest::newRow("10") << u"Windows 10 Pro"_s << u"-1"_s << u"30"_s;
     QTest::newRow("unknown") << u"unknown"_s << u"-1"_s << u"32"_s;
@@ -378,8 +361,7 @@ void TestAutomatizerDisplay::improvementsGoByWindowsAndBattery()
     QFETCH(const QString, winName);
     QFETCH(const QString, battery);
     QFETCH(const QString, count);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().winName = winName;
     driver.worker().batteryCharge = battery;
     driver.worker().analyzeTaskCount = 1;
@@ -393,8 +375,7 @@ void TestAutomatizerDisplay::improvementsGoByWindowsAndBattery()
 
 void TestAutomatizerDisplay::withoutFeaturesOnlyTheBatteryIsTold()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.get<QCheckBox>(u"chkAutomatizerTweak"_s)->setChecked(false);
     driver.worker().analyzeTaskCount = 1;
     begin(driver);
@@ -407,8 +388,7 @@ void TestAutomatizerDisplay::withoutFeaturesOnlyTheBatteryIsTold()
 
 void TestAutomatizerDisplay::batteryIsNotToldWhereNothingWasFound()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().batteryCharge = u"55"_s;
     send(driver, u"AutomatizerAnalyze:finished"_s);
     QCOMPARE(AutomatizerView(driver).log, QStringList(u"No optimizations found!"_s));
@@ -416,8 +396,7 @@ void TestAutomatizerDisplay::batteryIsNotToldWhereNothingWasFound()
 
 void TestAutomatizerDisplay::checkBoxCountsAsItStandsAtTheEnd()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().analyzeTaskCount = 1;
     driver.worker().automatizerTweak = 0;
     begin(driver);
@@ -450,11 +429,9 @@ void TestAutomatizerDisplay::questionIsAskedAfterOptimizeAndAfterRestore_data()
 void TestAutomatizerDisplay::questionIsAskedAfterOptimizeAndAfterRestore()
 {
     QFETCH(const int, restoreRunning);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().restoreRunning = restoreRunning;
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     send(driver, u"tweaksDone"_s);
     QCOMPARE(boxes.shown().size(), 1);
     const ShownBox &box = boxes.shown().constFirst();
@@ -478,8 +455,7 @@ void TestAutomatizerDisplay::recordStandsWhenTheQuestionComes()
         recorded = machine.names(tweakRecordsKey);
         running = driver.worker().optimizeRunning;
     });
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     send(driver, u"tweaksDone"_s);
     QVERIFY(recorded.contains("cbWin32PrioritySeparation"_L1) && recorded.contains("chkWindows1"_L1));
     QCOMPARE(running, 1);
@@ -495,8 +471,7 @@ void TestAutomatizerDisplay::recordSaysFalseUnderRestore()
     machine.write(tweakRecordsKey, u"chkGaming1"_s, u"true"_s);
     const WindowDriver driver;
     driver.worker().restoreRunning = 1;
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     send(driver, u"tweaksDone"_s);
     for (const QString &name : {u"chkGaming1"_s, u"chkGaming6"_s, u"chkSsd8"_s})
         QCOMPARE(machine.read(tweakRecordsKey, name), QVariant(u"false"_s));
@@ -508,16 +483,14 @@ void TestAutomatizerDisplay::recordTakesTheEntryOfTheComboBox()
     const WindowDriver driver;
     driver.get<QComboBox>(u"cbWin32PrioritySeparation"_s)->setCurrentIndex(5);
     driver.worker().win32PrioritySeparationIndex = 1;
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     send(driver, u"tweaksDone"_s);
     QCOMPARE(machine.read(tweakRecordsKey, u"cbWin32PrioritySeparation"_s), QVariant(5));
 }
 
 void TestAutomatizerDisplay::buttonsDoNothingWhileTheQuestionIsOpen()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().optimizeRunning = 1;
     driver.worker().analyzeServiceCount = 1;
     const Starts starts(driver.worker());
@@ -528,8 +501,7 @@ void TestAutomatizerDisplay::buttonsDoNothingWhileTheQuestionIsOpen()
         driver.call("on_btnAutomatize_clicked");
         driver.window().showPage(1);
     });
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     send(driver, u"tweaksDone"_s);
     QVERIFY(asked);
     QCOMPARE(starts.count(), 0);
@@ -540,14 +512,12 @@ void TestAutomatizerDisplay::buttonsDoNothingWhileTheQuestionIsOpen()
 void TestAutomatizerDisplay::refusedWalkEndsOptimize()
 {
     QFETCH(const QMessageBox::StandardButton, answer);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().optimizeRunning = 1;
     driver.worker().job = JobAutomatizerOptimize;
     begin(driver);
     const Starts starts(driver.worker());
-    Boxes boxes;
-    boxes.answer(answer);
+    Boxes boxes({answer});
     send(driver, u"tweaksDone"_s);
     const AutomatizerView view(driver);
     QCOMPARE(view.log, (QStringList{u"before"_s, restartText, QString(), u"Optimization finished"_s}));
@@ -567,8 +537,7 @@ void TestAutomatizerDisplay::refusedWalkEndsRestore()
     const WindowDriver driver;
     driver.worker().restoreRunning = 1;
     begin(driver);
-    Boxes boxes;
-    boxes.answer(answer);
+    Boxes boxes({answer});
     send(driver, u"tweaksDone"_s);
     const AutomatizerView view(driver);
     QCOMPARE(view.log, (QStringList{u"before"_s, restartText, QString(), u"Restoration finished"_s}));
@@ -586,8 +555,7 @@ void TestAutomatizerDisplay::refusedWalkOfAnOptimizeAfterARestoreReadsAsARestore
     const WindowDriver driver;
     driver.worker().restoreRunning = 1;
     driver.worker().optimizeRunning = 1;
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     send(driver, u"tweaksDone"_s);
     QCOMPARE(driver.worker().optimizeRunning.load(), 0);
     QCOMPARE(driver.status(), u"Restoration finished"_s);
@@ -596,8 +564,7 @@ void TestAutomatizerDisplay::refusedWalkOfAnOptimizeAfterARestoreReadsAsARestore
 
 void TestAutomatizerDisplay::acceptedWalkStartsWithABusyBar_data()
 {
-    QTest::addColumn<int>("optimizeRunning");
-    QTest::addColumn<int>("restoreRunning");
+    addColumns<int, int>("optimizeRunning", "restoreRunning");
     QTest::newRow("Optimize") << 1 << 0;
     QTest::newRow("Restore") << 0 << 1;
     QTest::newRow("Optimize after a Restore") << 1 << 1;
@@ -607,15 +574,13 @@ void TestAutomatizerDisplay::acceptedWalkStartsWithABusyBar()
 {
     QFETCH(const int, optimizeRunning);
     QFETCH(const int, restoreRunning);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().optimizeRunning = optimizeRunning;
     driver.worker().restoreRunning = restoreRunning;
     driver.worker().job = JobAutomatizerOptimize;
     begin(driver);
     const Starts starts(driver.worker());
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     send(driver, u"tweaksDone"_s);
     QVERIFY(driver.worker().wait(patience));
     QCOMPARE(starts.count(), 1);
@@ -631,15 +596,14 @@ void TestAutomatizerDisplay::acceptedWalkStartsWithABusyBar()
 
 void TestAutomatizerDisplay::acceptedWalkStartsThoughTheJobIsInItsLastInstructions()
 {
-    // Stands for the job behind its closing line: 150 ms are left when the line is read.
+    // Stands for the job behind its closing line: it isn't over yet when the line is read.
     MachineOptions slow;
-    slow.pace = 0.05;
+    slow.pace = 0.01;
     TestMachine machine(TestMachine::Windows::Eleven, slow);
     const WindowDriver driver;
     const Starts starts(driver.worker());
     driver.worker().startJob(JobWinSxsSize);
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     send(driver, u"tweaksDone"_s);
     QVERIFY(driver.worker().wait(patience));
     QCOMPARE(starts.count(), 2);
@@ -648,13 +612,11 @@ void TestAutomatizerDisplay::acceptedWalkStartsThoughTheJobIsInItsLastInstructio
 
 void TestAutomatizerDisplay::walkIsNamedAfterTheHomeDrive()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     const QByteArray before = qgetenv("homedrive");
     const auto restore = qScopeGuard([&before] { qputenv("homedrive", before); });
     qputenv("homedrive", "Q:");
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     send(driver, u"tweaksDone"_s);
     QVERIFY(driver.worker().wait(patience));
     QCOMPARE(driver.status(), u"Remove indexing attribute of Q:"_s);
@@ -665,8 +627,7 @@ void TestAutomatizerDisplay::walkIsNamedAfterTheHomeDrive()
 
 void TestAutomatizerDisplay::endOfTheWalkClosesOptimize()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().optimizeRunning = 1;
     driver.bar()->setMaximum(0);
     begin(driver);
@@ -683,8 +644,7 @@ void TestAutomatizerDisplay::endOfTheWalkClosesOptimize()
 
 void TestAutomatizerDisplay::endOfTheWalkAfterARestoreLeavesOptimizationFinished()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().optimizeRunning = 1;
     driver.worker().restoreRunning = 1;
     send(driver, u"RemoveIndexedAttrib_end"_s);
@@ -695,8 +655,7 @@ void TestAutomatizerDisplay::endOfTheWalkAfterARestoreLeavesOptimizationFinished
 
 void TestAutomatizerDisplay::endOfTheWalkWithoutOptimizeIsOnlyShown()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     send(driver, u"RemoveIndexedAttrib_end"_s);
     const AutomatizerView view(driver);
@@ -707,8 +666,7 @@ void TestAutomatizerDisplay::endOfTheWalkWithoutOptimizeIsOnlyShown()
 
 void TestAutomatizerDisplay::endOfTheWalkWithoutOptimizeAfterARestoreNamesTheDrive()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().restoreRunning = 1;
     begin(driver);
     send(driver, u"RemoveIndexedAttrib_end"_s);

@@ -84,13 +84,8 @@ class TestAutomatizerPage : public QObject
 
 private Q_SLOTS:
     // All three
-    void buttonsDoNothingWhileAJobRuns_data() { addButtons(); }
-    void buttonsDoNothingWhileAJobRuns();
     void checkBoxesAreReadAnewByEachButton_data() { addButtons(); }
     void checkBoxesAreReadAnewByEachButton();
-    void withoutRightsTheElevatedInstanceIsOffered_data() { addButtons(); }
-    void withoutRightsTheElevatedInstanceIsOffered();
-    void acceptedOfferComesBackToThisPage();
 
     // Analyze
     void analyzeClearsTheLogAndStarts();
@@ -123,32 +118,10 @@ private Q_SLOTS:
     void namelessRecordsAreNotRestored();
 };
 
-void TestAutomatizerPage::buttonsDoNothingWhileAJobRuns()
-{
-    QFETCH(const QString, button);
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
-    machine.write(settingsKey, u"optimized"_s, 1);
-    const WindowDriver driver;
-    driver.worker().analyzeServiceCount = 1;
-    begin(driver);
-    const Starts starts(driver.worker());
-    driver.worker().startJob(JobWinSxsSize);
-    driver.worker().job = JobMonitor;
-    const Boxes noBox;
-    driver.click(button);
-    QVERIFY(driver.worker().isRunning());
-    QVERIFY(nothingHasBegun(driver));
-    QCOMPARE(boxesTaken(driver), notTaken);
-    QCOMPARE(logOf(driver)->toPlainText(), u"before"_s);
-    QVERIFY(driver.endJob());
-    QCOMPARE(starts.count(), 1);
-}
-
 void TestAutomatizerPage::checkBoxesAreReadAnewByEachButton()
 {
     QFETCH(const QString, button);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     // Optimize has nothing to do then, Restore is refused, Analyze runs; each has read the boxes.
     for (const QList<int> &states : {QList<int>{0, 1}, QList<int>{1, 0}, QList<int>{1, 1}, QList<int>{0, 0}}) {
         check(driver, states.at(0) == 1, states.at(1) == 1);
@@ -161,45 +134,9 @@ void TestAutomatizerPage::checkBoxesAreReadAnewByEachButton()
     }
 }
 
-void TestAutomatizerPage::withoutRightsTheElevatedInstanceIsOffered()
-{
-    QFETCH(const QString, button);
-    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
-    machine.write(settingsKey, u"optimized"_s, 1);
-    const WindowDriver driver;
-    driver.worker().analyzeServiceCount = 1;
-    begin(driver);
-    const Starts starts(driver.worker());
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
-    driver.click(button);
-    QCOMPARE(boxes.shown().size(), 1);
-    QCOMPARE(boxes.shown().constFirst().text, elevationText);
-    QVERIFY(nothingHasBegun(driver));
-    QCOMPARE(logOf(driver)->toPlainText(), u"before"_s);
-    QCOMPARE(starts.count(), 0);
-    QVERIFY(machine.shellStarts().isEmpty());
-    // Optimize and Restore have read the boxes by then.
-    QCOMPARE(boxesTaken(driver), button == analyze ? notTaken : taken);
-}
-
-void TestAutomatizerPage::acceptedOfferComesBackToThisPage()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
-    const WindowDriver driver;
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
-    driver.click(analyze);
-    QCOMPARE(machine.shellStarts().size(), 1);
-    QCOMPARE(machine.read(settingsKey, u"lastPage"_s), QVariant(0));
-    QVERIFY(driver.window().hasLeft());
-    QVERIFY(!driver.worker().isRunning());
-}
-
 void TestAutomatizerPage::analyzeClearsTheLogAndStarts()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     const Starts starts(driver.worker());
     const Boxes noBox;
@@ -213,13 +150,11 @@ void TestAutomatizerPage::analyzeClearsTheLogAndStarts()
 
 void TestAutomatizerPage::analyzeWithoutRightsTakesNothing()
 {
-    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
-    const WindowDriver driver;
+    const WindowOnPc driver(notElevated());
     begin(driver);
     // Not even where a flag would stop it.
     driver.worker().optimizeRunning = 1;
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver.click(analyze);
     QCOMPARE(boxes.shown().size(), 1);
     QCOMPARE(boxesTaken(driver), notTaken);
@@ -228,8 +163,7 @@ void TestAutomatizerPage::analyzeWithoutRightsTakesNothing()
 
 void TestAutomatizerPage::analyzeUnderAFlagClearsTheLogAndStops_data()
 {
-    QTest::addColumn<int>("analyzeRunning");
-    QTest::addColumn<int>("optimizeRunning");
+    addColumns<int, int>("analyzeRunning", "optimizeRunning");
     QTest::newRow("Analyze") << 1 << 0;
     QTest::newRow("Optimize") << 0 << 1;
     QTest::newRow("an odd value") << 0 << 2;
@@ -239,8 +173,7 @@ void TestAutomatizerPage::analyzeUnderAFlagClearsTheLogAndStops()
 {
     QFETCH(const int, analyzeRunning);
     QFETCH(const int, optimizeRunning);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     driver.worker().analyzeRunning = analyzeRunning;
     driver.worker().optimizeRunning = optimizeRunning;
@@ -255,8 +188,7 @@ void TestAutomatizerPage::analyzeUnderAFlagClearsTheLogAndStops()
 
 void TestAutomatizerPage::analyzeDoesNotMindAPastRestore()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().restoreRunning = 1;
     const Starts starts(driver.worker());
     driver.click(analyze);
@@ -266,8 +198,7 @@ void TestAutomatizerPage::analyzeDoesNotMindAPastRestore()
 
 void TestAutomatizerPage::optimizeWithoutFindingsIsSilent()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     const Starts starts(driver.worker());
     const Boxes noBox;
@@ -288,8 +219,7 @@ void TestAutomatizerPage::optimizeUnderAFlagIsSilent()
 {
     QFETCH(const int, analyzeRunning);
     QFETCH(const int, optimizeRunning);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     driver.worker().analyzeServiceCount = 3;
     driver.worker().analyzeRunning = analyzeRunning;
@@ -306,8 +236,7 @@ void TestAutomatizerPage::optimizeUnderAFlagIsSilent()
 
 void TestAutomatizerPage::silenceComesBeforeTheOfferOfRights()
 {
-    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
-    const WindowDriver driver;
+    const WindowOnPc driver(notElevated());
     const Boxes noBox;
     driver.click(optimize);
     driver.worker().analyzeTaskCount = 1;
@@ -329,8 +258,7 @@ void TestAutomatizerPage::oneFindingOfAnyKindIsEnough_data()
 void TestAutomatizerPage::oneFindingOfAnyKindIsEnough()
 {
     QFETCH(const int, index);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     driver.worker().*findingCounters.at(index).member = 1;
     const Starts starts(driver.worker());
@@ -346,8 +274,7 @@ void TestAutomatizerPage::oneFindingOfAnyKindIsEnough()
 
 void TestAutomatizerPage::optimizeTakesTheEntryOfTheComboBox()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     driver.get<QComboBox>(u"cbWin32PrioritySeparation"_s)->setCurrentIndex(6);
     driver.click(optimize);
@@ -360,8 +287,7 @@ void TestAutomatizerPage::optimizeTakesTheEntryOfTheComboBox()
 
 void TestAutomatizerPage::optimizeStaysPossibleAfterItsFirstRun()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     begin(driver);
     driver.worker().analyzeTaskCount = 1;
     const Starts starts(driver.worker());
@@ -393,8 +319,7 @@ void TestAutomatizerPage::restoreIsRefusedUnlessOptimized()
     const WindowDriver driver;
     begin(driver);
     const Starts starts(driver.worker());
-    Boxes boxes;
-    boxes.answer(QMessageBox::Ok);
+    Boxes boxes({QMessageBox::Ok});
     driver.click(restore);
     QCOMPARE(boxes.shown().size(), 1);
     QCOMPARE(boxes.shown().constFirst().text, refusalText);
@@ -406,10 +331,8 @@ void TestAutomatizerPage::restoreIsRefusedUnlessOptimized()
 
 void TestAutomatizerPage::refusalHasOneButtonAndNoIcon()
 {
-    TestMachine machine;
-    const WindowDriver driver;
-    Boxes boxes;
-    boxes.answer(QMessageBox::NoButton);
+    const WindowOnPc driver;
+    Boxes boxes({QMessageBox::NoButton});
     driver.click(restore);
     const ShownBox &box = boxes.shown().constFirst();
     QCOMPARE(box.buttons, QMessageBox::Ok);
@@ -420,10 +343,8 @@ void TestAutomatizerPage::refusalHasOneButtonAndNoIcon()
 
 void TestAutomatizerPage::rightsAreAskedForBeforeTheRefusal()
 {
-    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
-    const WindowDriver driver;
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    const WindowOnPc driver(notElevated());
+    Boxes boxes({QMessageBox::No});
     driver.click(restore);
     QCOMPARE(boxes.shown().size(), 1);
     QCOMPARE(boxes.shown().constFirst().text, elevationText);
@@ -438,8 +359,7 @@ void TestAutomatizerPage::restoreAsksBeforeItTouchesAnything()
     const WindowDriver driver;
     begin(driver);
     const Starts starts(driver.worker());
-    Boxes boxes;
-    boxes.answer(answer);
+    Boxes boxes({answer});
     driver.click(restore);
     QCOMPARE(boxes.shown().size(), 1);
     const ShownBox &box = boxes.shown().constFirst();
@@ -459,8 +379,7 @@ void TestAutomatizerPage::questionsButtonsAreTranslated()
     TestMachine machine;
     const WindowDriver driver;
     const MarkingTranslator language("Kestrune");
-    Boxes boxes;
-    boxes.answer(QMessageBox::Ok);
+    Boxes boxes({QMessageBox::Ok});
     driver.click(restore);
     QCOMPARE(boxes.shown().constLast().text, u'«' + refusalText + u'»');
     machine.write(settingsKey, u"optimized"_s, 1);
@@ -482,8 +401,7 @@ void TestAutomatizerPage::restoreStartsWithWhatIsRecorded()
     const WindowDriver driver;
     begin(driver);
     const Starts starts(driver.worker());
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(restore);
     const WorkThread &worker = driver.worker();
     QCOMPARE(worker.job, int(JobAutomatizerRestore));
@@ -513,8 +431,7 @@ void TestAutomatizerPage::restoreWithoutRecordsStartsWithEmptyLists()
     // A Restore asks for neither findings nor idle flags.
     driver.worker().optimizeRunning = 1;
     const Starts starts(driver.worker());
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(restore);
     QCOMPARE(driver.worker().servicesToChange, QStringList());
     QVERIFY(driver.worker().tasksToChange.isEmpty());
@@ -529,8 +446,7 @@ void TestAutomatizerPage::recordsOfTheTasksBackupAreNotRestored()
     for (const char *task : {"Backup", "BackupOfTasks", "backup of mine", "My Backup"})
         machine.write(taskRecordsKey, QString::fromLatin1(task), 1);
     const WindowDriver driver;
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(restore);
     QStringList tasks;
     for (const TaskRow &row : driver.worker().tasksToChange)
@@ -549,8 +465,7 @@ void TestAutomatizerPage::namelessRecordsAreNotRestored()
         machine.write(key, u"Named"_s, 1);
     }
     const WindowDriver driver;
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(restore);
     QCOMPARE(driver.worker().servicesToChange, QStringList(u"Named"_s));
     QCOMPARE(driver.worker().tasksToChange.size(), 1);

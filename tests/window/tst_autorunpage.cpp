@@ -45,6 +45,13 @@ void open(const WindowDriver &driver)
     driver.window().showPage(3);
 }
 
+/** The window with the page open, which lists the programs there and then. */
+class AutorunPage : public WindowDriver
+{
+public:
+    AutorunPage() { open(*this); }
+};
+
 void keepOnlyChecked(const WindowDriver &driver, const QStringList &names)
 {
     QTableWidget *widget = driver.table(table);
@@ -78,7 +85,6 @@ private Q_SLOTS:
     void secondClickGoesBackToTheActiveView();
     void anyOtherTextOfTheButtonMeansTheSecondView();
     void comingBackByTheMenuGivesTheActiveView();
-    void viewDoesNotChangeWhileAJobRuns();
 
     // Switching off
     void disableTakesEveryRowThatStaysChecked();
@@ -94,7 +100,6 @@ private Q_SLOTS:
     void twoProgramsOfOneNameShareARecord();
     void textOfTheEndIsNotSeen();
     void disableWithoutRightsOffersThemAndListsAnew();
-    void disableWhileAJobRunsIsIgnored();
     void disableStartsNoTool();
 
     // Switching on
@@ -122,8 +127,7 @@ void TestAutorunPage::programsMenuListsTheMachinesAutoruns()
     machine.write(terminalTaskKey, u"State"_s, 2);
     machine.write(autorunRecordsKey, u"Old"_s, u"old.exe=key\\Old"_s);
     const WindowDriver driver;
-    Menus menus;
-    menus.choose(u"Automatically started programs"_s);
+    Menus menus({u"Automatically started programs"_s});
     driver.click(u"btnMenuPackage"_s);
     QCOMPARE(driver.window().currentPage(), 3);
     QCOMPARE(rows(driver), (QList<QStringList>{
@@ -139,10 +143,7 @@ void TestAutorunPage::programsMenuListsTheMachinesAutoruns()
 
 void TestAutorunPage::rowShowsNameAndCommand_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("data");
-    QTest::addColumn<QString>("shownName");
-    QTest::addColumn<QString>("shownCommand");
+    addColumns<QString, QString, QString, QString>("name", "data", "shownName", "shownCommand");
     QTest::addColumn<QString>("path"); // behind the key
     const auto row = [](const char *title, const QString &name, const QString &data, const QString &shownName,
                         const QString &shownCommand, const QString &path) {
@@ -167,8 +168,7 @@ void TestAutorunPage::rowShowsNameAndCommand()
     QFETCH(const QString, path);
     TestMachine machine;
     machine.write(userRunKey, name, data);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     QCOMPARE(rows(driver), (QList<QStringList>{{shownName, shownCommand, userRunKey + u'\\' + path, shownCommand}}));
 }
 
@@ -178,8 +178,7 @@ void TestAutorunPage::rowsStartCheckedAndCannotBeEdited()
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
     machine.write(userRunKey, u"B"_s, u"b.exe"_s);
     machine.write(autorunRecordsKey, u"C"_s, u"c.exe=k\\C"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     for (const int count : {2, 1}) {
         QCOMPARE(driver.table(table)->rowCount(), count);
         QCOMPARE(driver.checkedIn(table).size(), count);
@@ -204,8 +203,7 @@ void TestAutorunPage::rowsComeInTheOrderOfTheList()
     machine.write(machineRunKey, u"C"_s, u"c.exe"_s);
     machine.write(userRunKey, u"Z"_s, u"z.exe"_s);
     machine.write(userRunKey, u"B"_s, u"b.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     QCOMPARE(driver.column(table, 0), (QStringList{u"B"_s, u"Z"_s, u"C"_s, u"A"_s}));
     QVERIFY(!driver.table(table)->isSortingEnabled());
 }
@@ -213,8 +211,7 @@ void TestAutorunPage::rowsComeInTheOrderOfTheList()
 void TestAutorunPage::statusCountsEntriesAndRecords()
 {
     TestMachine machine;
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     QCOMPARE(driver.status(), u"Autorun: 0  |  disabled: 0  "_s);
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
     for (const QString &name : {u"X"_s, u"Y"_s, QString()})
@@ -243,8 +240,7 @@ void TestAutorunPage::showingThePageListsAnew()
 {
     TestMachine machine;
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     machine.platform().openKey(userRunKey)->remove(u"A"_s);
     machine.write(userRunKey, u"B"_s, u"b.exe"_s);
     open(driver);
@@ -253,7 +249,7 @@ void TestAutorunPage::showingThePageListsAnew()
 
 void TestAutorunPage::showingThePageWhileAJobRunsIsIgnored()
 {
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
+    TestMachine machine(TestMachine::Windows::Eleven, endlessPauses());
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
     const WindowDriver driver;
     driver.worker().startJob(JobWinSxsSize);
@@ -265,8 +261,7 @@ void TestAutorunPage::showingThePageWhileAJobRunsIsIgnored()
 
 void TestAutorunPage::secondViewHasItsTexts()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     open(driver);
     QCOMPARE(texts(driver), activeView);
     driver.click(viewButton);
@@ -275,9 +270,7 @@ void TestAutorunPage::secondViewHasItsTexts()
 
 void TestAutorunPage::secondViewListsTheRecords_data()
 {
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QString>("path");
+    addColumns<QString, QString, QString>("value", "command", "path");
     const auto row = [](const char *title, const QString &value, const QString &shown, const QString &path) {
         QTest::newRow(title) << value << shown << path;
     };
@@ -300,8 +293,7 @@ void TestAutorunPage::secondViewListsTheRecords()
     TestMachine machine;
     machine.write(autorunRecordsKey, u"My app"_s, value);
     machine.write(autorunRecordsKey, QString(), u"unnamed"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(viewButton);
     QCOMPARE(rows(driver), (QList<QStringList>{{u"My app"_s, command, path, command}}));
     QCOMPARE(driver.checkedIn(table), QStringList{u"My app"_s});
@@ -312,8 +304,7 @@ void TestAutorunPage::secondViewOfNothingIsEmpty()
 {
     TestMachine machine;
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(viewButton);
     QCOMPARE(driver.table(table)->rowCount(), 0);
     QCOMPARE(driver.status(), u"Auto started programs disabled: 0  "_s);
@@ -324,8 +315,7 @@ void TestAutorunPage::secondClickGoesBackToTheActiveView()
     TestMachine machine;
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
     machine.write(autorunRecordsKey, u"B"_s, u"b.exe=k\\B"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(viewButton);
     QCOMPARE(driver.column(table, 0), QStringList{u"B"_s});
     driver.click(viewButton);
@@ -338,8 +328,7 @@ void TestAutorunPage::anyOtherTextOfTheButtonMeansTheSecondView()
 {
     TestMachine machine;
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.button(viewButton)->setText(u"neither"_s);
     driver.click(viewButton);
     QCOMPARE(texts(driver), activeView);
@@ -350,26 +339,12 @@ void TestAutorunPage::comingBackByTheMenuGivesTheActiveView()
 {
     TestMachine machine;
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(viewButton);
     driver.window().showPage(0);
     open(driver);
     QCOMPARE(texts(driver), activeView);
     QCOMPARE(driver.column(table, 0), QStringList{u"A"_s});
-}
-
-void TestAutorunPage::viewDoesNotChangeWhileAJobRuns()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
-    machine.write(userRunKey, u"A"_s, u"a.exe"_s);
-    const WindowDriver driver;
-    open(driver);
-    driver.worker().startJob(JobWinSxsSize);
-    driver.click(viewButton);
-    QCOMPARE(texts(driver), activeView);
-    QCOMPARE(driver.column(table, 0), QStringList{u"A"_s});
-    QVERIFY(driver.endJob());
 }
 
 void TestAutorunPage::disableTakesEveryRowThatStaysChecked()
@@ -378,8 +353,7 @@ void TestAutorunPage::disableTakesEveryRowThatStaysChecked()
     machine.write(userRunKey, u"A"_s, u"a.exe /x"_s);
     machine.write(machineRunKey, u"B"_s, command);
     machine.write(machineRunKey32, u"C"_s, u"c.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     WindowDriver::clickCheckBox(driver.table(table), driver.firstCell(table, u"A"_s));
     const Boxes noBox;
     driver.click(actionButton);
@@ -404,8 +378,7 @@ void TestAutorunPage::disableSwitchesATaskOffAndRecordsIt()
     QFETCH(const QString, key);
     TestMachine machine;
     machine.write(key, u"State"_s, 2);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(actionButton);
     QCOMPARE(machine.read(key, u"State"_s), QVariant(1));
     const QString name = key.section(u'\\', -1);
@@ -419,8 +392,7 @@ void TestAutorunPage::taskIsToldByItsNameInAnyCase()
 {
     TestMachine machine;
     machine.write(userRunKey, u"my xbox.app.tasks.fulltrustcomponent"_s, u"a.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(actionButton);
     // Taken for a task, whose key is made of the value's path; the value stays.
     QCOMPARE(machine.names(userRunKey), QStringList{u"my xbox.app.tasks.fulltrustcomponent"_s});
@@ -432,8 +404,7 @@ void TestAutorunPage::disableWithNothingCheckedListsAnew()
 {
     TestMachine machine;
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     keepOnlyChecked(driver, {});
     machine.write(userRunKey, u"B"_s, u"b.exe"_s);
     driver.click(actionButton);
@@ -445,8 +416,7 @@ void TestAutorunPage::disableWithNothingCheckedListsAnew()
 void TestAutorunPage::disableOfAnEmptyTableListsAnew()
 {
     TestMachine machine;
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     machine.write(userRunKey, u"B"_s, u"b.exe"_s);
     driver.click(actionButton);
     QCOMPARE(driver.column(table, 0), QStringList{u"B"_s});
@@ -457,8 +427,7 @@ void TestAutorunPage::commandWithAnEqualsSignLosesItsTail()
 {
     TestMachine machine;
     machine.write(userRunKey, u"A"_s, u"\"C:\\Program Files\\App\\app.exe\" --mode=quiet"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(actionButton);
     QCOMPARE(machine.read(autorunRecordsKey, u"A"_s),
              QVariant(u"\"C:\\Program Files\\App\\app.exe\" --mode="_s + userRunKey + u"\\A"_s));
@@ -468,8 +437,7 @@ void TestAutorunPage::commandThatBeginsWithAnEqualsSignIsRecordedByItsPath()
 {
     TestMachine machine;
     machine.write(userRunKey, u"A"_s, u"=a.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(actionButton);
     const QString path = userRunKey + u"\\A"_s;
     QCOMPARE(machine.names(userRunKey), QStringList());
@@ -478,8 +446,7 @@ void TestAutorunPage::commandThatBeginsWithAnEqualsSignIsRecordedByItsPath()
 
 void TestAutorunPage::oddDataGoesAndComesBackAsFarAsItCan_data()
 {
-    QTest::addColumn<RegistryType>("type");
-    QTest::addColumn<QString>("data");
+    addColumns<RegistryType, QString>("type", "data");
     QTest::addColumn<QString>("record"); // what stands there before the path
     QTest::addColumn<bool>("comesBack");
     const QString path = userRunKey + u"\\A"_s;
@@ -504,8 +471,7 @@ void TestAutorunPage::oddDataGoesAndComesBackAsFarAsItCan()
     RegistryStore &registry = machine.machine().registry();
     const RegistryStore::KeyId key = *registry.make(userRunKey);
     registry.setValue(key, {u"A"_s, type, registryText(data)});
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(actionButton);
     QCOMPARE(machine.names(userRunKey), QStringList());
     QCOMPARE(machine.read(autorunRecordsKey, u"A"_s), QVariant(record + u'=' + userRunKey + u"\\A"_s));
@@ -525,8 +491,7 @@ void TestAutorunPage::twoProgramsOfOneNameShareARecord()
     TestMachine machine;
     machine.write(userRunKey, u"App"_s, u"first.exe"_s);
     machine.write(machineRunKey, u"App"_s, u"second.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(actionButton);
     QCOMPARE(machine.names(autorunRecordsKey), QStringList{u"App"_s});
     QCOMPARE(machine.read(autorunRecordsKey, u"App"_s), QVariant(u"second.exe="_s + machineRunKey + u"\\App"_s));
@@ -537,8 +502,7 @@ void TestAutorunPage::textOfTheEndIsNotSeen()
 {
     TestMachine machine;
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(actionButton);
     QCOMPARE(driver.status(), u"Autorun: 0  |  disabled: 1  "_s);
     // Where the page can't be shown, it stays up.
@@ -558,11 +522,9 @@ void TestAutorunPage::disableWithoutRightsOffersThemAndListsAnew()
 {
     TestMachine machine(TestMachine::Windows::Eleven, notElevated());
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     machine.write(userRunKey, u"B"_s, u"b.exe"_s);
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver.click(actionButton);
     QCOMPARE(boxes.shown().at(0).text, u"You must launch this app with Admin rights!"_s);
     QCOMPARE(machine.names(userRunKey), (QStringList{u"A"_s, u"B"_s}));
@@ -576,30 +538,13 @@ void TestAutorunPage::disableWithoutRightsOffersThemAndListsAnew()
     QCOMPARE(boxes.shown().size(), 2);
 }
 
-void TestAutorunPage::disableWhileAJobRunsIsIgnored()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
-    machine.write(userRunKey, u"A"_s, u"a.exe"_s);
-    const WindowDriver driver;
-    open(driver);
-    const QString status = driver.status();
-    driver.worker().startJob(JobWinSxsSize);
-    const Boxes noBox;
-    driver.click(actionButton);
-    QCOMPARE(machine.names(userRunKey), QStringList{u"A"_s});
-    QCOMPARE(machine.names(autorunRecordsKey), QStringList());
-    QCOMPARE(driver.status(), status);
-    QVERIFY(driver.endJob());
-}
-
 void TestAutorunPage::disableStartsNoTool()
 {
     TestMachine machine;
     machine.machine().setProcesses({u"StartTerminalOnLoginTask.exe"_s, u"A.exe"_s});
     machine.write(userRunKey, u"A"_s, u"A.exe"_s);
     machine.write(terminalTaskKey, u"State"_s, 2);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(actionButton);
     QCOMPARE(machine.commands(), QList<LoggedCommand>());
     QCOMPARE(machine.machine().processes().size(), 2);
@@ -614,8 +559,7 @@ void TestAutorunPage::enableBringsTheCheckedRowsBack()
                       command + u'=' + key + u"\\App "_s + key.at(5) + QString::number(key.size()));
     const QStringList names = machine.names(autorunRecordsKey);
     QCOMPARE(names.size(), 3);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(viewButton);
     keepOnlyChecked(driver, {names.at(0), names.at(1)});
     driver.click(actionButton);
@@ -640,8 +584,7 @@ void TestAutorunPage::enableSwitchesATaskOn()
     QFETCH(const QString, key);
     TestMachine machine;
     machine.write(key, u"State"_s, 2);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(actionButton);
     driver.click(viewButton);
     driver.click(actionButton);
@@ -667,8 +610,7 @@ void TestAutorunPage::commandThatCannotComeBackIsDropped()
     TestMachine machine;
     machine.addFile(program);
     machine.write(autorunRecordsKey, u"A"_s, text + u'=' + userRunKey + u"\\A"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(viewButton);
     driver.click(actionButton);
     QCOMPARE(machine.names(userRunKey), QStringList());
@@ -681,8 +623,7 @@ void TestAutorunPage::recordOfAShortenedCommandBringsTheShortOneBack()
     TestMachine machine;
     machine.addFile(program);
     machine.write(userRunKey, u"A"_s, command + u" --mode=quiet"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(actionButton);
     driver.click(viewButton);
     driver.click(actionButton);
@@ -705,8 +646,7 @@ void TestAutorunPage::damagedRecordIsDropped()
     TestMachine machine;
     machine.addFile(program);
     machine.write(autorunRecordsKey, u"A"_s, value);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(viewButton);
     driver.click(actionButton);
     QCOMPARE(machine.names(autorunRecordsKey), QStringList());
@@ -719,8 +659,7 @@ void TestAutorunPage::anyOtherTextOfTheButtonEnables()
     TestMachine machine;
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
     machine.write(autorunRecordsKey, u"A"_s, u"old=k\\A"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.button(actionButton)->setText(u"neither"_s);
     driver.click(actionButton);
     QCOMPARE(machine.names(userRunKey), QStringList{u"A"_s});
@@ -732,11 +671,9 @@ void TestAutorunPage::checkAllAndUncheckAll()
     TestMachine machine;
     for (const QString &name : {u"A"_s, u"B"_s, u"C"_s})
         machine.write(userRunKey, name, u"x.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     keepOnlyChecked(driver, {u"B"_s});
-    Menus menus;
-    menus.choose(u"Uncheck all"_s);
+    Menus menus({u"Uncheck all"_s});
     Q_EMIT driver.table(table)->customContextMenuRequested({});
     QCOMPARE(driver.checkedIn(table), QStringList());
     menus.choose(u"Check all"_s);
@@ -749,11 +686,9 @@ void TestAutorunPage::refreshGoesBackToTheActiveView()
 {
     TestMachine machine;
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
-    const WindowDriver driver;
-    open(driver);
+    const AutorunPage driver;
     driver.click(viewButton);
-    Menus menus;
-    menus.choose(u"Refresh"_s);
+    Menus menus({u"Refresh"_s});
     Q_EMIT driver.table(table)->customContextMenuRequested({});
     QCOMPARE(texts(driver), activeView);
     QCOMPARE(driver.column(table, 0), QStringList{u"A"_s});

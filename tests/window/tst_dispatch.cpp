@@ -81,8 +81,7 @@ void TestDispatch::jobs()
 void TestDispatch::maximumLineSetsTheMaximumAndLeavesTheBarHidden()
 {
     QFETCH(const int, job);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     send(driver, job, u"pgr:max:12"_s);
     QCOMPARE(driver.bar()->maximum(), 12);
     QVERIFY(driver.bar()->isHidden());
@@ -92,8 +91,7 @@ void TestDispatch::maximumLineSetsTheMaximumAndLeavesTheBarHidden()
 void TestDispatch::valueLineShowsTheBarAndLeavesItsDigitInTheStatus()
 {
     QFETCH(const int, job);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     send(driver, job, u"pgr:max:12"_s);
     send(driver, job, u"pgr:value:3"_s);
     QVERIFY(!driver.bar()->isHidden());
@@ -113,8 +111,7 @@ void TestDispatch::numberThatDoesNotParseSetsZero_data()
 void TestDispatch::numberThatDoesNotParseSetsZero()
 {
     QFETCH(const QString, number);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     for (const int job : {JobSvcDisable, JobSvcEnable}) {
         send(driver, job, u"pgr:max:12"_s);
         send(driver, job, u"pgr:value:3"_s);
@@ -130,8 +127,7 @@ void TestDispatch::numberThatDoesNotParseSetsZero()
 void TestDispatch::nameStandsBehindItsLabel()
 {
     QFETCH(const int, job);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     send(driver, job, u"DiagTrack"_s);
     QCOMPARE(driver.status(), label(job) + u"DiagTrack"_s);
     send(driver, job, QString());
@@ -142,8 +138,7 @@ void TestDispatch::nameStandsBehindItsLabel()
 void TestDispatch::unknownBarLineShowsTheBarAndLeavesTheStatus()
 {
     QFETCH(const int, job);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     send(driver, job, u"Alpha"_s);
     send(driver, job, u"pgr:something"_s);
     QVERIFY(!driver.bar()->isHidden());
@@ -153,8 +148,7 @@ void TestDispatch::unknownBarLineShowsTheBarAndLeavesTheStatus()
 void TestDispatch::finishedStaysUpWhereNothingCanBeRefreshed()
 {
     QFETCH(const int, job);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     // The guard of the page switch stands for a worker that is still in its last instructions.
     driver.worker().analyzeRunning = 1;
     send(driver, job, u"pgr:SvcStopOrStart=finished"_s);
@@ -167,8 +161,7 @@ void TestDispatch::finishedRefreshesTheServicesPage()
     QFETCH(const int, job);
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     machine.add({.name = u"Beta"_s, .running = true});
     send(driver, job, u"pgr:SvcStopOrStart=finished"_s);
     QCOMPARE(driver.status(), QString());
@@ -179,8 +172,7 @@ void TestDispatch::finishedRefreshesTheServicesPage()
 
 void TestDispatch::finishedWithoutItsPrefixIsAName()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     send(driver, JobSvcDisable, u"SvcStopOrStart=finished"_s);
     QCOMPARE(driver.status(), u"Stop service:  SvcStopOrStart=finished"_s);
 }
@@ -188,8 +180,7 @@ void TestDispatch::finishedWithoutItsPrefixIsAName()
 void TestDispatch::maximumBehindAMaximumIsReadOnce()
 {
     // Each form is looked for in what the one before it has left of the line.
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     send(driver, JobSvcDisable, u"pgr:max:5"_s);
     send(driver, JobSvcDisable, u"pgr:max:pgr:value:7"_s);
     QCOMPARE(driver.bar()->maximum(), 0);
@@ -209,8 +200,7 @@ void TestDispatch::anyLineOfAListingFillsTheTable_data()
 void TestDispatch::anyLineOfAListingFillsTheTable()
 {
     QFETCH(const QString, line);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     ServiceRow row;
     row.name = u"Alpha"_s;
     row.running = true;
@@ -234,8 +224,7 @@ void TestDispatch::jobsWithoutAReaderHaveNoEffect_data()
 void TestDispatch::jobsWithoutAReaderHaveNoEffect()
 {
     QFETCH(const int, job);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.get<QLabel>(u"lblStatus"_s)->setText(u"untouched"_s);
     const int maximum = driver.bar()->maximum();
     const int value = driver.bar()->value();
@@ -259,8 +248,7 @@ void TestDispatch::textLineIsAppendedWithItsPrefixDuringAnyJob_data()
 void TestDispatch::textLineIsAppendedWithItsPrefixDuringAnyJob()
 {
     QFETCH(const int, job);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.get<QTextEdit>(u"txtAutomatizer"_s)->setPlainText(u"first"_s);
     send(driver, job, u"txt:second"_s);
     QCOMPARE(automatizerText(driver), u"first\ntxt:second"_s);
@@ -268,8 +256,7 @@ void TestDispatch::textLineIsAppendedWithItsPrefixDuringAnyJob()
 
 void TestDispatch::textLineIsLookedForInWhatANumberLineLeaves()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     send(driver, JobSvcEnable, u"pgr:value:txt:5"_s);
     QCOMPARE(automatizerText(driver), u"txt:5"_s);
     QCOMPARE(driver.status(), u"Start service:  txt:5"_s);
@@ -277,8 +264,7 @@ void TestDispatch::textLineIsLookedForInWhatANumberLineLeaves()
 
 void TestDispatch::lineThatHoldsTheTextPrefixElsewhereIsNotAppended()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     send(driver, JobSvcDisable, u" txt:5"_s);
     send(driver, JobSvcDisable, u"TXT:5"_s);
     QCOMPARE(automatizerText(driver), QString());

@@ -41,6 +41,13 @@ void show(const WindowDriver &driver)
     driver.window().showPage(featuresPage);
 }
 
+/** The window with the page open. */
+class FeaturesPage : public WindowDriver
+{
+public:
+    FeaturesPage() { show(*this); }
+};
+
 /** All boxes but the one whose tweak is a job. */
 QStringList directBoxes()
 {
@@ -113,10 +120,7 @@ private Q_SLOTS:
     void stateIsStoredAsText();
     void needOfARebootIsToldOnce();
     void onlyOneMeansAReboot();
-    void applyWhileAJobRunsIsIgnored();
     void applyWhileTheWalkRunsIsIgnored();
-    void applyWithoutRightsOffersThem_data();
-    void applyWithoutRightsOffersThem();
 
     // The walk
     void walkIsAskedForWhenItsBoxWasTouched();
@@ -134,8 +138,7 @@ private Q_SLOTS:
 
 void TestFeaturesApply::touchedBoxRunsItsTweakAndNoOther_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("clicks");
+    addColumns<QString, int>("name", "clicks");
     for (const QString &name : directBoxes()) {
         QTest::addRow("%s on", qPrintable(name)) << name << 1;
         QTest::addRow("%s on and off again", qPrintable(name)) << name << 2;
@@ -148,8 +151,7 @@ void TestFeaturesApply::touchedBoxRunsItsTweakAndNoOther()
     QFETCH(const int, clicks);
     TestMachine machine;
     TweakProbes probes(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     for (int i = 0; i < clicks; ++i)
         clickBox(driver, name);
     QCOMPARE(box(driver, name)->isChecked(), clicks == 1);
@@ -164,8 +166,7 @@ void TestFeaturesApply::nothingTouchedRunsNothingAndIsStored()
 {
     TestMachine machine;
     const TweakProbes probes(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     const Boxes noBox;
     apply(driver);
     QCOMPARE(probes.ran(), QStringList());
@@ -179,8 +180,7 @@ void TestFeaturesApply::windows10LeavesOutWhatIsOfWindows11()
     TestMachine machine(TestMachine::Windows::Ten);
     machine.write(tweakKey, u"chkGaming8"_s, u"true"_s);
     TweakProbes probes(machine, false);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     show(driver);
     for (const QString &name : directBoxes())
         box(driver, name)->setChecked(true);
@@ -212,8 +212,7 @@ void TestFeaturesApply::tweaksRunInTheOrderOfTheirNumbers()
 {
     TestMachine machine;
     TweakProbes probes(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     // Touched from the last to the first.
     QStringList names = directBoxes();
     std::reverse(names.begin(), names.end());
@@ -235,14 +234,11 @@ void TestFeaturesApply::checkAllOfTheMenuTouchesDisabledBoxesToo()
     TestMachine machine;
     machine.machine().setWmiInstances(u"Win32_VideoController"_s, {{{u"Caption"_s, u"NVIDIA"_s}}});
     TweakProbes probes(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     QVERIFY(!box(driver, u"chkGaming14"_s)->isEnabled());
-    Menus menus;
-    menus.choose(u"Check all"_s);
+    Menus menus({u"Check all"_s});
     Q_EMIT driver.get<QWidget>(u"scrollArea"_s)->customContextMenuRequested(QPoint());
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     apply(driver);
     QCOMPARE(probes.ran(), ran(directBoxes(), u"on"_s));
 
@@ -260,8 +256,7 @@ void TestFeaturesApply::firstShowingTouchesNothing()
     storeAllChecked(machine);
     machine.write(tweakKey, u"cbWin32PrioritySeparation"_s, 5);
     const TweakProbes probes(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     const Boxes noBox;
     apply(driver);
     QCOMPARE(probes.ran(), QStringList());
@@ -274,8 +269,7 @@ void TestFeaturesApply::secondShowingTouchesWhatIsStoredAsChecked()
         machine.write(tweakKey, QString::fromLatin1(name), u"true"_s);
     machine.write(tweakKey, u"chkWindows3"_s, u"false"_s);
     const TweakProbes probes(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     driver.window().showPage(8);
     show(driver);
     apply(driver);
@@ -298,8 +292,7 @@ void TestFeaturesApply::touchedStaysTouched()
 {
     TestMachine machine;
     TweakProbes probes(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     clickBox(driver, u"chkSsd1"_s);
     // What was clicked and not applied is dropped by the next showing, but its mark isn't.
     driver.window().showPage(0);
@@ -313,8 +306,7 @@ void TestFeaturesApply::applyingTwiceWritesTwice()
 {
     TestMachine machine;
     TweakProbes probes(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     clickBox(driver, u"chkSsd1"_s);
     clickBox(driver, u"chkWindows2"_s);
     for (int round = 0; round < 2; ++round) {
@@ -326,9 +318,7 @@ void TestFeaturesApply::applyingTwiceWritesTwice()
 
 void TestFeaturesApply::comboTouchesItsBox_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<bool>("checked");
-    QTest::addColumn<QVariant>("value");
+    addColumns<int, bool, QVariant>("index", "checked", "value");
     QTest::newRow("first, checked") << 0 << true << QVariant(22);
     QTest::newRow("last, checked") << 7 << true << QVariant(40);
     QTest::newRow("unchecked: the value goes") << 6 << false << QVariant();
@@ -341,8 +331,7 @@ void TestFeaturesApply::comboTouchesItsBox()
     TestMachine machine;
     machine.write(tweakKey, u"chkGaming11"_s, checked ? u"true"_s : u"false"_s);
     machine.write(priorityControl, u"Win32PrioritySeparation"_s, 2);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     priorities(driver)->setCurrentIndex(index);
     apply(driver);
     QCOMPARE(driver.worker().win32PrioritySeparationIndex, index);
@@ -354,8 +343,7 @@ void TestFeaturesApply::comboThatIsLoadedAnewTouchesItsBox()
 {
     TestMachine machine;
     machine.write(priorityControl, u"Win32PrioritySeparation"_s, 2);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     machine.write(tweakKey, u"cbWin32PrioritySeparation"_s, 1);
     show(driver);
     apply(driver);
@@ -365,8 +353,7 @@ void TestFeaturesApply::comboThatIsLoadedAnewTouchesItsBox()
 void TestFeaturesApply::stateIsStoredAsText()
 {
     TestMachine machine;
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     clickBox(driver, u"chkWindows2"_s);
     priorities(driver)->setCurrentIndex(4);
     box(driver, u"chkOptionsMonitor"_s)->setChecked(true);
@@ -386,8 +373,7 @@ void TestFeaturesApply::stateIsStoredAsText()
 
 void TestFeaturesApply::needOfARebootIsToldOnce()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     show(driver);
     driver.worker().needReboot = 1;
     apply(driver);
@@ -399,8 +385,7 @@ void TestFeaturesApply::needOfARebootIsToldOnce()
 
 void TestFeaturesApply::onlyOneMeansAReboot()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     show(driver);
     driver.worker().needReboot = 2;
     apply(driver);
@@ -408,33 +393,12 @@ void TestFeaturesApply::onlyOneMeansAReboot()
     QCOMPARE(driver.worker().needReboot, 0);
 }
 
-void TestFeaturesApply::applyWhileAJobRunsIsIgnored()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
-    const TweakProbes probes(machine);
-    const WindowDriver driver;
-    show(driver);
-    clickBox(driver, u"chkSsd1"_s);
-    clickBox(driver, u"chkSsd8"_s);
-    // Lasts three seconds.
-    driver.worker().startJob(JobWinSxsSize);
-    driver.get<QLabel>(u"lblStatus"_s)->setText(u"before"_s);
-    const Boxes noBox;
-    apply(driver);
-    QVERIFY(driver.worker().isRunning());
-    QCOMPARE(driver.worker().job, int(JobWinSxsSize));
-    QCOMPARE(driver.status(), u"before"_s);
-    QCOMPARE(probes.ran(), QStringList());
-    QCOMPARE(machine.names(tweakKey), QStringList());
-}
-
 void TestFeaturesApply::applyWhileTheWalkRunsIsIgnored()
 {
     TestMachine machine;
     const TweakProbes probes(machine);
     const QString file = addFileToWalk(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     for (const QString &name : {u"chkSsd1"_s, u"chkSsd8"_s})
         clickBox(driver, name);
     {
@@ -455,43 +419,12 @@ void TestFeaturesApply::applyWhileTheWalkRunsIsIgnored()
     QCOMPARE(machine.names(tweakKey), QStringList());
 }
 
-void TestFeaturesApply::applyWithoutRightsOffersThem_data()
-{
-    QTest::addColumn<QMessageBox::StandardButton>("answer");
-    QTest::newRow("Yes") << QMessageBox::Yes;
-    QTest::newRow("No") << QMessageBox::No;
-}
-
-void TestFeaturesApply::applyWithoutRightsOffersThem()
-{
-    QFETCH(const QMessageBox::StandardButton, answer);
-    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
-    const TweakProbes probes(machine);
-    const WindowDriver driver;
-    show(driver);
-    clickBox(driver, u"chkSsd1"_s);
-    clickBox(driver, u"chkSsd8"_s);
-    Boxes boxes;
-    boxes.answer(answer);
-    apply(driver);
-    QCOMPARE(boxes.shown().size(), 1);
-    QCOMPARE(boxes.shown().at(0).text, u"You must launch this app with Admin rights!"_s);
-    QCOMPARE(probes.ran(), QStringList());
-    QCOMPARE(machine.names(tweakKey), QStringList());
-    QCOMPARE(machine.shellStarts().size(), answer == QMessageBox::Yes ? 1 : 0);
-    QCOMPARE(driver.window().hasLeft(), answer == QMessageBox::Yes);
-    QCOMPARE(machine.read(settingsKey, u"lastPage"_s),
-             answer == QMessageBox::Yes ? QVariant(featuresPage) : QVariant());
-}
-
 void TestFeaturesApply::walkIsAskedForWhenItsBoxWasTouched()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     show(driver);
     clickBox(driver, u"chkSsd8"_s);
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     apply(driver);
     QCOMPARE(boxes.shown().size(), 1);
     const ShownBox question = boxes.shown().at(0);
@@ -509,8 +442,7 @@ void TestFeaturesApply::questionComesAfterTheTweaks()
 {
     TestMachine machine;
     const TweakProbes probes(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     clickBox(driver, u"chkSsd8"_s);
     clickBox(driver, u"chkWindows12"_s);
     QStringList ranBefore;
@@ -527,8 +459,7 @@ void TestFeaturesApply::questionComesAfterTheTweaks()
         stored = machine.names(tweakKey);
     });
     timer.start(0);
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     apply(driver);
     QVERIFY(looked);
     QCOMPARE(ranBefore, QStringList{u"chkWindows12 on"_s});
@@ -549,11 +480,9 @@ void TestFeaturesApply::refusedWalkLeavesTheStoreAsTheUserSetIt()
     QFETCH(const QMessageBox::StandardButton, answer);
     TestMachine machine;
     const QString file = addFileToWalk(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     clickBox(driver, u"chkSsd8"_s);
-    Boxes boxes;
-    boxes.answer(answer);
+    Boxes boxes({answer});
     apply(driver);
     QCOMPARE(machine.read(tweakKey, u"chkSsd8"_s), QVariant(u"true"_s));
     QVERIFY(!driver.worker().isRunning());
@@ -565,9 +494,7 @@ void TestFeaturesApply::refusedWalkLeavesTheStoreAsTheUserSetIt()
 
 void TestFeaturesApply::acceptedWalkRunsAsAJob_data()
 {
-    QTest::addColumn<int>("clicks");
-    QTest::addColumn<int>("job");
-    QTest::addColumn<QString>("status");
+    addColumns<int, int, QString>("clicks", "job", "status");
     QTest::newRow("checked") << 1 << int(JobTweakApply) << u"Remove indexing attribute of Windows partition C:"_s;
     QTest::newRow("unchecked") << 2 << int(JobTweakReset) << u"Add indexing attribute of Windows partition C:"_s;
 }
@@ -577,12 +504,10 @@ void TestFeaturesApply::acceptedWalkRunsAsAJob()
     QFETCH(const int, clicks);
     TestMachine machine;
     addFileToWalk(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     for (int i = 0; i < clicks; ++i)
         clickBox(driver, u"chkSsd8"_s);
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     apply(driver);
     // Its lines wait for the event loop.
     QTEST(driver.worker().job, "job");
@@ -596,8 +521,7 @@ void TestFeaturesApply::acceptedWalkRunsAsAJob()
 
 void TestFeaturesApply::questionComesAtEachApply()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     show(driver);
     clickBox(driver, u"chkSsd8"_s);
     Boxes boxes;
@@ -612,8 +536,7 @@ void TestFeaturesApply::walkSetsAndClearsTheAttribute()
 {
     TestMachine machine;
     const QString file = addFileToWalk(machine);
-    const WindowDriver driver;
-    show(driver);
+    const FeaturesPage driver;
     Boxes boxes;
     const auto walk = [&](const QString &finished) {
         clickBox(driver, u"chkSsd8"_s);
@@ -633,9 +556,7 @@ void TestFeaturesApply::walkSetsAndClearsTheAttribute()
 
 void TestFeaturesApply::anyLineOfTheWalkIsItsEnd_data()
 {
-    QTest::addColumn<int>("job");
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("status");
+    addColumns<int, QString, QString>("job", "line", "status");
     for (const char *line : {"WorkThread::TweakSSD::RemoveIndexedAttrib", "", "pgr:max:7", "anything"}) {
         QTest::addRow("apply: %s", line) << int(JobTweakApply) << QString::fromLatin1(line)
                                          << u"Remove indexing attribute of C: finished"_s;
@@ -648,8 +569,7 @@ void TestFeaturesApply::anyLineOfTheWalkIsItsEnd()
 {
     QFETCH(const int, job);
     QFETCH(const QString, line);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.bar()->setMaximum(0);
     driver.worker().job = job;
     driver.window().onWorkThreadValueChanged(line);
@@ -661,8 +581,7 @@ void TestFeaturesApply::anyLineOfTheWalkIsItsEnd()
 
 void TestFeaturesApply::endOfTheRemovalAloneEndsAnOptimize()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     const auto flagAfter = [&](int job, int flag) {
         driver.worker().optimizeRunning = flag;
         driver.worker().job = job;

@@ -124,13 +124,11 @@ private Q_SLOTS:
     void lineOfTheSizeMeans();
     void linesOfOtherJobsAreDropped();
     void dismOpensAConsole();
-    void dismWithoutRightsOffersThem();
 };
 
 void TestFeaturesPage::everyBoxOfThePageHasItsTweakAndNoOtherPageHasOne()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     QSet<QString> expected;
     for (const TweakBox &each : tweakBoxes())
         expected.insert(each.name);
@@ -150,8 +148,7 @@ void TestFeaturesPage::everyBoxOfThePageHasItsTweakAndNoOtherPageHasOne()
 
 void TestFeaturesPage::boxesStartUncheckedButForTheGameMode()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     QCOMPARE(checked(driver), QStringList{u"chkGaming3"_s});
     QCOMPARE(priorities(driver)->count(), 8);
     QCOMPARE(priorities(driver)->currentIndex(), 3);
@@ -210,8 +207,7 @@ void TestFeaturesPage::storedEntryThatDoesNotExistSelectsNone()
 
 void TestFeaturesPage::checkAllAndUncheckAllOfTheMenu_data()
 {
-    QTest::addColumn<TestMachine::Windows>("windows");
-    QTest::addColumn<QStringList>("passedOver");
+    addColumns<TestMachine::Windows, QStringList>("windows", "passedOver");
     QTest::newRow("Windows 11") << TestMachine::Windows::Eleven << QStringList();
     QTest::newRow("Windows 10") << TestMachine::Windows::Ten << QStringList{u"chkGaming8"_s, u"chkWindows5"_s};
 }
@@ -243,9 +239,7 @@ void TestFeaturesPage::checkAllAndUncheckAllOfTheMenu()
 
 void TestFeaturesPage::windows10DisablesTwoBoxesAndRenamesOne_data()
 {
-    QTest::addColumn<QString>("winName");
-    QTest::addColumn<QStringList>("off");
-    QTest::addColumn<QString>("search");
+    addColumns<QString, QStringList, QString>("winName", "off", "search");
     const QStringList both{u"chkGaming8"_s, u"chkWindows5"_s};
     const QString renamed =
         u"Disable SearchApp.exe  (process for searching files. If disabled, advanced search may malfunction)"_s;
@@ -260,8 +254,7 @@ void TestFeaturesPage::windows10DisablesTwoBoxesAndRenamesOne_data()
 void TestFeaturesPage::windows10DisablesTwoBoxesAndRenamesOne()
 {
     QFETCH(const QString, winName);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().winName = winName;
     QCOMPARE(disabled(driver), QStringList());
     for (int showing = 0; showing < 2; ++showing) {
@@ -306,8 +299,7 @@ void TestFeaturesPage::storedCheckOfADisabledBoxStaysShown()
 void TestFeaturesPage::hibernationShowsItsGain_data()
 {
     constexpr qint64 gibibyte = 1024LL * 1024 * 1024;
-    QTest::addColumn<qint64>("size");
-    QTest::addColumn<QString>("gain");
+    addColumns<qint64, QString>("size", "gain");
     QTest::newRow("cut, not rounded") << qint64(6400000000) << u"5.9"_s; // 5.96046
     QTest::newRow("one decimal") << 6 * gibibyte + gibibyte / 2 << u"6.5"_s;
     QTest::newRow("no decimals") << 3 * gibibyte << u"3"_s;
@@ -348,8 +340,7 @@ void TestFeaturesPage::gainStaysWhenTheFileHasGone()
 
 void TestFeaturesPage::amdTweakIsForAmdCards_data()
 {
-    QTest::addColumn<QStringList>("captions");
-    QTest::addColumn<bool>("enabled");
+    addColumns<QStringList, bool>("captions", "enabled");
     QTest::newRow("AMD") << QStringList{u"AMD Radeon RX 7600"_s} << true;
     QTest::newRow("in small letters") << QStringList{u"amd radeon"_s} << true;
     QTest::newRow("inside a word") << QStringList{u"Radeon (xAMDx)"_s} << true;
@@ -375,9 +366,7 @@ void TestFeaturesPage::amdTweakIsForAmdCards()
 
 void TestFeaturesPage::builtInMachinesShowTheirOwn_data()
 {
-    QTest::addColumn<QString>("builtIn");
-    QTest::addColumn<QStringList>("off");
-    QTest::addColumn<QString>("gain");
+    addColumns<QString, QStringList, QString>("builtIn", "off", "gain");
     QTest::newRow("Windows 11, another card") << u"windows11"_s << QStringList{u"chkGaming14"_s} << u"5.9"_s;
     QTest::newRow("Windows 10, AMD") << u"windows10"_s << QStringList{u"chkGaming8"_s, u"chkWindows5"_s} << u"12.7"_s;
 }
@@ -399,8 +388,7 @@ void TestFeaturesPage::builtInMachinesShowTheirOwn()
 
 void TestFeaturesPage::sizeIsAskedForUnlessTheSettingIsNought_data()
 {
-    QTest::addColumn<QVariant>("setting");
-    QTest::addColumn<bool>("asked");
+    addColumns<QVariant, bool>("setting", "asked");
     QTest::newRow("not set") << QVariant() << true;
     QTest::newRow("1") << QVariant(1) << true;
     QTest::newRow("0") << QVariant(0) << false;
@@ -444,8 +432,7 @@ void TestFeaturesPage::sizeComesOntoTheButton()
 
 void TestFeaturesPage::lineOfTheSizeMeans_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("status");
+    addColumns<QString, QString>("line", "status");
     QTest::addColumn<QString>("size"); // empty: the button keeps its text
     const auto row = [](const char *title, const QString &line, const QString &status, const QString &size) {
         QTest::newRow(title) << line << status << size;
@@ -470,8 +457,7 @@ void TestFeaturesPage::lineOfTheSizeMeans()
 {
     QFETCH(const QString, line);
     QFETCH(const QString, size);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.get<QLabel>(u"lblStatus"_s)->setText(u"before"_s);
     sendSize(driver, line);
     QTEST(driver.status(), "status");
@@ -481,8 +467,7 @@ void TestFeaturesPage::lineOfTheSizeMeans()
 
 void TestFeaturesPage::linesOfOtherJobsAreDropped()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.get<QLabel>(u"lblStatus"_s)->setText(u"before"_s);
     for (const int job : {int(JobSvcMakeList), int(JobTaskStopOrStart), 6, int(JobMonitor)}) {
         driver.winSxsWorker().job = job;
@@ -507,19 +492,6 @@ void TestFeaturesPage::dismOpensAConsole()
     QCOMPARE(start.file, u"C:\\Windows\\System32\\cmd.exe"_s);
     QCOMPARE(start.parameters, u"/k dism /online /Cleanup-Image /StartComponentCleanup"_s);
     QCOMPARE(driver.status(), QString());
-}
-
-void TestFeaturesPage::dismWithoutRightsOffersThem()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
-    const WindowDriver driver;
-    driver.window().showPage(featuresPage);
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
-    driver.click(u"btnSsd8"_s);
-    QCOMPARE(boxes.shown().size(), 1);
-    QCOMPARE(boxes.shown().at(0).text, u"You must launch this app with Admin rights!"_s);
-    QVERIFY(machine.shellStarts().isEmpty());
 }
 
 KESTRUNE_WINDOW_SUITE(TestFeaturesPage)

@@ -212,8 +212,7 @@ private Q_SLOTS:
 
 void TestFit::everyTextFits_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<int>("page");
+    addColumns<QString, int>("file", "page");
     const QDir folder(QCoreApplication::applicationDirPath() + u"/Translations"_s);
     for (const QString &file : folder.entryList({u"lang_*.qm"_s})) {
         for (int page = 0; page < pageCount; ++page)

@@ -148,8 +148,7 @@ private:
 
 void TestInfoPage::showingThePageHidesTheReportAndStartsTheJob()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     page(driver)->show();
     int starts = 0;
     connect(
@@ -166,8 +165,7 @@ void TestInfoPage::showingThePageHidesTheReportAndStartsTheJob()
 
 void TestInfoPage::reportIsBuiltByTheLastStepAlone()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     page(driver)->hide();
     fillTexts(driver);
     for (int step = 1; step < 7; ++step) {
@@ -198,8 +196,7 @@ void TestInfoPage::statusTellsTheStep_data()
 void TestInfoPage::statusTellsTheStep()
 {
     QFETCH(const QString, status);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.get<QLabel>(u"lblStatus"_s)->setText(u"before"_s);
     const QString rest = QString::fromLatin1(QTest::currentDataTag());
     send(driver, u"pgr:max:20"_s);
@@ -211,8 +208,7 @@ void TestInfoPage::statusTellsTheStep()
 
 void TestInfoPage::maximumLineSetsTheBarAlone()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.get<QLabel>(u"lblStatus"_s)->setText(u"before"_s);
     const int value = driver.bar()->value();
     send(driver, u"pgr:max:77"_s);
@@ -224,8 +220,7 @@ void TestInfoPage::maximumLineSetsTheBarAlone()
 
 void TestInfoPage::otherLinesAreHeldBack()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     page(driver)->hide();
     driver.get<QLabel>(u"lblStatus"_s)->setText(u"before"_s);
     for (const QString &line : {u"7"_s, u"value:7"_s, QString(), u" pgr:value:7"_s})
@@ -239,8 +234,7 @@ void TestInfoPage::otherLinesAreHeldBack()
 
 void TestInfoPage::numberThatDoesNotParseSetsTheBarToNothing()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     send(driver, u"pgr:max:7"_s);
     send(driver, u"pgr:value:3"_s);
     QCOMPARE(driver.bar()->value(), 3);
@@ -261,8 +255,7 @@ void TestInfoPage::everyTextStandsBehindItsLabel_data()
 void TestInfoPage::everyTextStandsBehindItsLabel()
 {
     QFETCH(const QString, line);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     fillTexts(driver);
     finish(driver);
     QVERIFY2(lines(driver).contains(line), qPrintable(lines(driver).join(u'\n')));
@@ -270,8 +263,7 @@ void TestInfoPage::everyTextStandsBehindItsLabel()
 
 void TestInfoPage::noMarkIsLeft()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     fillTexts(driver);
     QVERIFY(report(driver)->toPlainText().contains(u'%'));
     finish(driver);
@@ -281,8 +273,7 @@ void TestInfoPage::noMarkIsLeft()
 
 void TestInfoPage::emptyTextsLeaveEmptyPlaces()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().winBuild.clear();
     finish(driver);
     QVERIFY(!report(driver)->toPlainText().contains(u'%'));
@@ -292,8 +283,7 @@ void TestInfoPage::emptyTextsLeaveEmptyPlaces()
 
 void TestInfoPage::screenIsTheWindowsOwn()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     fillTexts(driver);
     finish(driver);
     QCOMPARE(lineWith(driver, u"Screen:"_s), u"Screen:   DISPLAY1"_s);
@@ -301,8 +291,7 @@ void TestInfoPage::screenIsTheWindowsOwn()
 
 void TestInfoPage::breaksPartTheDisks()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     fillTexts(driver);
     finish(driver);
     const QStringList all = lines(driver);
@@ -314,8 +303,7 @@ void TestInfoPage::breaksPartTheDisks()
 
 void TestInfoPage::secondReportStartsFromTheTemplate()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     fillTexts(driver);
     finish(driver);
     const QStringList first = lines(driver);
@@ -331,8 +319,7 @@ void TestInfoPage::secondReportStartsFromTheTemplate()
 
 void TestInfoPage::changedTemplateTextDoesNotReachLaterReports()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     fillTexts(driver);
     finish(driver);
     report(driver)->setHtml(u"<p>Ausgabe: %winBuild</p>"_s);
@@ -343,9 +330,7 @@ void TestInfoPage::changedTemplateTextDoesNotReachLaterReports()
 
 void TestInfoPage::datesByLanguage_data()
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QStringList>("given");
-    QTest::addColumn<QStringList>("shown");
+    addColumns<QString, QStringList, QStringList>("language", "given", "shown");
     const QStringList usual{u"06/13/2023"_s, u"2023/06/13"_s};
     const QStringList turned{u"13/06/2023"_s, u"13/06/2023"_s};
     QTest::newRow("English as given") << u"en"_s << usual << usual;
@@ -366,8 +351,7 @@ void TestInfoPage::datesByLanguage()
     QFETCH(const QString, language);
     QFETCH(const QStringList, given);
     QFETCH(const QStringList, shown);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.window().currentLang = language;
     driver.worker().mbBiosDate = given.at(0);
     driver.worker().gpuDriverDate = given.at(1);
@@ -380,8 +364,7 @@ void TestInfoPage::datesByLanguage()
 
 void TestInfoPage::secondFrenchShowingShowsTheSameDates()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.window().currentLang = u"fr_FR"_s;
     for (int showing = 0; showing < 2; ++showing) {
         fillTexts(driver); // as the job does before each report
@@ -416,8 +399,7 @@ void TestInfoPage::headingsHaveTheLinkColourOfEachTheme()
 
 void TestInfoPage::headingsFollowAChangeOfThemeBetweenTwoReports_data()
 {
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<int>("chosen");
+    addColumns<QString, int>("first", "chosen");
     QTest::newRow("dark to system") << u"dark"_s << 2;
     QTest::newRow("light to system") << u"light"_s << 2;
     QTest::newRow("system to dark") << u"system"_s << 0;

@@ -166,8 +166,7 @@ void TestKeepList::everyFeatureIsCheckedOnAFirstRun()
 
 void TestKeepList::rowsHaveTheirTextsAndToolTips()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     QCOMPARE(keepModel->rowCount(), 10);
     QCOMPARE(keepModel->columnCount(), 1);
     QCOMPARE(keepModel->item(0)->text(), u"Keep features"_s);
@@ -195,16 +194,14 @@ void TestKeepList::titleRowIsDisabledAndBelongsToNoMember()
 
 void TestKeepList::featuresCanBeCheckedAndNothingElse()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     for (int row = 1; row <= 9; ++row)
         QCOMPARE(keepModel->item(row)->flags(), Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
 }
 
 void TestKeepList::bothBoxesShareOneModelAndShowItsTitle()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     for (const QComboBox *box : {servicesBox(driver), homeBox(driver)}) {
         QCOMPARE(box->model(), keepModel);
         QCOMPARE(box->currentText(), u"Keep features"_s);
@@ -228,8 +225,7 @@ void TestKeepList::uncheckingTakesEffectAtOnce()
 
 void TestKeepList::featureIsUncheckedInBothBoxes()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     setCheck(homeBox(driver), 6, Qt::Unchecked);
     QCOMPARE(servicesBox(driver)->itemData(6, Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
     setCheck(servicesBox(driver), 6, Qt::Checked);
@@ -265,8 +261,7 @@ void TestKeepList::uncheckedFeatureIsGivenUpAtTheNextStart()
 
 void TestKeepList::clickAnywhereInARowTogglesItsFeature_data()
 {
-    QTest::addColumn<bool>("home");
-    QTest::addColumn<int>("left");
+    addColumns<bool, int>("home", "left");
     QTest::newRow("check box, Optimizer") << true << 10;
     QTest::newRow("text, Optimizer") << true << 100;
     QTest::newRow("check box, Services") << false << 10;

@@ -140,9 +140,7 @@ void TestLanguage::firstStartSpeaksTheSystemsLanguage()
 
 void TestLanguage::storedLanguageIsSpoken_data()
 {
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("tasks");
+    addColumns<QString, int, QString>("stored", "index", "tasks");
     QTest::newRow("English") << u"en"_s << int(English) << englishTasks;
     QTest::newRow("French") << u"fr"_s << int(French) << frenchTasks;
     QTest::newRow("Auto") << u"auto"_s << int(Auto) << germanTasks;
@@ -171,9 +169,7 @@ void TestLanguage::withoutAFileForTheSystemsLanguageThereIsEnglish()
 
 void TestLanguage::choiceIsSpokenAndStored_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QString>("tasks");
+    addColumns<int, QString, QString>("index", "stored", "tasks");
     QTest::newRow("English") << int(English) << u"en"_s << englishTasks;
     QTest::newRow("French") << int(French) << u"fr"_s << frenchTasks;
     QTest::newRow("Auto") << int(Auto) << u"auto"_s << germanTasks;
@@ -198,10 +194,7 @@ void TestLanguage::choiceIsSpokenAndStored()
 
 void TestLanguage::languageChangesOnEveryPage_data()
 {
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("english");
-    QTest::addColumn<QString>("french");
+    addColumns<int, QString, QString, QString>("page", "label", "english", "french");
     QTest::newRow("Optimizer") << 0 << u"lblHomeTop"_s << u"Optimizer"_s << u"Optimiseur"_s;
     QTest::newRow("Services") << 1 << u"lblSvcTop"_s << u"Services  (Experienced users)"_s
                               << u"Services  (utilisateurs expérimentés)"_s;

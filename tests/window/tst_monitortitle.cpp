@@ -73,12 +73,14 @@ int stored(const QString &name)
     return openSettings()->value(name, -1).toInt();
 }
 
-/** Keeps the monitor's worker busy with a job that pauses, so that what would start a run meets a running one. */
+/** Lets the monitor's worker run a job that pauses instead of its own, so that what would start a run meets a running
+ * one. */
 bool keepBusy(TestMachine &machine, const WindowDriver &driver)
 {
     const QStringList services{u"Alpha"_s, u"Beta"_s, u"Gamma"_s};
     for (const QString &name : services)
         machine.add({.name = name, .running = true});
+    monitorWorker(driver).requestInterruption();
     if (!monitorWorker(driver).wait(patience))
         return false;
     monitorWorker(driver).servicesToChange = services;
@@ -114,8 +116,7 @@ private Q_SLOTS:
 
 void TestMonitorTitle::monitorIsOffByDefault()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     QVERIFY(!timer(driver).isActive());
     QCOMPARE(int(monitorWorker(driver).monitorEnabled), 0);
     QCOMPARE(int(monitorWorker(driver).monitorThreadAndHandle), 0);
@@ -125,8 +126,7 @@ void TestMonitorTitle::monitorIsOffByDefault()
 
 void TestMonitorTitle::startUpReadsTheIntervalAndStarts_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<int>("milliseconds");
+    addColumns<int, int>("index", "milliseconds");
     for (const Interval &interval : intervals)
         QTest::newRow(interval.name) << interval.index << interval.milliseconds;
 }
@@ -165,8 +165,7 @@ void TestMonitorTitle::startUpReadsThreadsAndHandlesEvenWhenOff()
 
 void TestMonitorTitle::lineStandsBehindTheProgramsName()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     turn(driver, true);
     QVERIFY(monitorWorker(driver).wait(patience));
     emitLine(driver);
@@ -177,15 +176,14 @@ void TestMonitorTitle::lineStandsBehindTheProgramsName()
 
 void TestMonitorTitle::lineIsDroppedWhileTheMonitorIsOff()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     emitLine(driver);
     QCOMPARE(driver.window().windowTitle(), u"Kestrune"_s);
 }
 
 void TestMonitorTitle::titleStaysWhenTurnedOffDuringARun()
 {
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
+    TestMachine machine(TestMachine::Windows::Eleven, endlessPauses());
     const WindowDriver driver;
     turn(driver, true);
     QVERIFY(keepBusy(machine, driver));
@@ -195,8 +193,9 @@ void TestMonitorTitle::titleStaysWhenTurnedOffDuringARun()
     QCOMPARE(driver.window().windowTitle(), u"Kestrune"_s);
     emitLine(driver);
     QCOMPARE(driver.window().windowTitle(), u"Kestrune"_s);
-    // The run is left to end by itself.
+    // The run is left to itself.
     QVERIFY(monitorWorker(driver).isRunning());
+    monitorWorker(driver).requestInterruption();
     QVERIFY(monitorWorker(driver).wait(patience));
     QCoreApplication::processEvents();
     QCOMPARE(driver.window().windowTitle(), u"Kestrune"_s);
@@ -211,8 +210,7 @@ void TestMonitorTitle::turningOnStartsARunAtOnceAndTheTimer()
 {
     QFETCH(const int, index);
     QFETCH(const int, milliseconds);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     openSettings()->setValue(u"MonitorInterval"_s, index);
     turn(driver, true);
     QCOMPARE(stored(u"Monitor"_s), 1);
@@ -224,8 +222,7 @@ void TestMonitorTitle::turningOnStartsARunAtOnceAndTheTimer()
 
 void TestMonitorTitle::turningOnTwiceChangesNothing()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     turn(driver, true);
     QVERIFY(monitorWorker(driver).wait(patience));
     monitorWorker(driver).job = JobSvcMakeList;
@@ -259,8 +256,7 @@ void TestMonitorTitle::intervalIsStoredAndTakesHoldAtOnce()
 {
     QFETCH(const int, index);
     QFETCH(const int, milliseconds);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     timer(driver).setInterval(1234);
     chooseInterval(driver, index);
     QCOMPARE(stored(u"MonitorInterval"_s), index);
@@ -270,8 +266,7 @@ void TestMonitorTitle::intervalIsStoredAndTakesHoldAtOnce()
 
 void TestMonitorTitle::intervalLeavesARunningTimerRunningAndAStoppedOneStopped()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     chooseInterval(driver, 3);
     QVERIFY(!timer(driver).isActive());
     turn(driver, true);
@@ -283,8 +278,7 @@ void TestMonitorTitle::intervalLeavesARunningTimerRunningAndAStoppedOneStopped()
 
 void TestMonitorTitle::threadsAndHandlesAreStoredAndHandedOver()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     call(driver, "onChkOptionsMonitorThreadAndHandleStateChanged", Qt::Checked);
     QCOMPARE(stored(u"MonitorThreadAndHandle"_s), 1);
     QCOMPARE(int(monitorWorker(driver).monitorThreadAndHandle), 1);
@@ -295,7 +289,7 @@ void TestMonitorTitle::threadsAndHandlesAreStoredAndHandedOver()
 
 void TestMonitorTitle::ticksDuringASlowRunAreSwallowed()
 {
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
+    TestMachine machine(TestMachine::Windows::Eleven, endlessPauses());
     const WindowDriver driver;
     QVERIFY(keepBusy(machine, driver));
     turn(driver, true);
@@ -306,6 +300,7 @@ void TestMonitorTitle::ticksDuringASlowRunAreSwallowed()
     QVERIFY(monitorWorker(driver).isRunning());
     QCOMPARE(monitorWorker(driver).job, int(JobSvcDisable));
     // The first tick after its end starts the next.
+    monitorWorker(driver).requestInterruption();
     QTRY_COMPARE_WITH_TIMEOUT(monitorWorker(driver).job, int(JobMonitor), patience);
 }
 

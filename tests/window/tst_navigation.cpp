@@ -160,8 +160,7 @@ private Q_SLOTS:
 
 void TestNavigation::pageHasTheTabOfItsNumber()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     auto *pages = driver.get<QTabWidget>(u"tabWidget"_s);
     QCOMPARE(pages->count(), 9);
     for (int page = 0; page < 9; ++page)
@@ -170,8 +169,7 @@ void TestNavigation::pageHasTheTabOfItsNumber()
 
 void TestNavigation::menuButtonShowsItsPage_data()
 {
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<int>("page");
+    addColumns<QString, int>("button", "page");
     for (const MenuButton &button : menuButtons) {
         if (button.page >= 0)
             QTest::newRow(qPrintable(button.name)) << button.name << button.page;
@@ -182,8 +180,7 @@ void TestNavigation::menuButtonShowsItsPage()
 {
     QFETCH(const QString, button);
     QFETCH(const int, page);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.window().showPage(page == 8 ? 0 : 8);
     QVERIFY(driver.window().currentPage() != page);
     driver.click(button);
@@ -208,9 +205,7 @@ void TestNavigation::imagesAreThereInTheirOwnSizeAndTwiceIt()
 
 void TestNavigation::shownPagesButtonAloneIsBoldAndActive_data()
 {
-    QTest::addColumn<QString>("theme");
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("imageEnd");
+    addColumns<QString, int, QString>("theme", "page", "imageEnd");
     for (const char *theme : {"dark", "light", "system"}) {
         for (int page = 0; page < 9; ++page) {
             QTest::addRow("%s, page %d", theme, page)
@@ -250,8 +245,7 @@ void TestNavigation::showingAPageEmptiesTheStatusAndHidesTheBar_data()
 void TestNavigation::showingAPageEmptiesTheStatusAndHidesTheBar()
 {
     QFETCH(const int, page);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     markState(driver);
     driver.window().showPage(page);
     QCOMPARE(driver.status(), QString());
@@ -260,8 +254,7 @@ void TestNavigation::showingAPageEmptiesTheStatusAndHidesTheBar()
 
 void TestNavigation::homePageStartsNoJobAndKeepsTheAutomatizersText()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     auto *text = driver.get<QTextEdit>(u"txtAutomatizer"_s);
     text->setPlainText(u"as it was"_s);
     driver.window().showPage(8);
@@ -282,8 +275,7 @@ void TestNavigation::numberOfNoPageDoesTheHeadAlone_data()
 void TestNavigation::numberOfNoPageDoesTheHeadAlone()
 {
     QFETCH(const int, page);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     markState(driver);
     const State before = stateOf(driver);
     driver.window().showPage(page);
@@ -303,8 +295,7 @@ void TestNavigation::runningJobKeepsThePage_data()
 void TestNavigation::runningJobKeepsThePage()
 {
     QFETCH(const QString, button);
-    TestMachine machine(TestMachine::Windows::Eleven, endlessPauses());
-    const WindowDriver driver;
+    const WindowOnPc driver(endlessPauses());
     markState(driver);
     if (button == "btnMenuAbout"_L1) {
         driver.window().showPage(0);
@@ -319,8 +310,7 @@ void TestNavigation::runningJobKeepsThePage()
 
 void TestNavigation::automatizerPhaseKeepsThePage_data()
 {
-    QTest::addColumn<int>("analyze");
-    QTest::addColumn<int>("optimize");
+    addColumns<int, int>("analyze", "optimize");
     QTest::newRow("Analyze") << 1 << 0;
     QTest::newRow("Optimize") << 0 << 1;
     QTest::newRow("both") << 1 << 1;
@@ -330,8 +320,7 @@ void TestNavigation::automatizerPhaseKeepsThePage()
 {
     QFETCH(const int, analyze);
     QFETCH(const int, optimize);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     markState(driver);
     driver.worker().analyzeRunning = analyze;
     driver.worker().optimizeRunning = optimize;
@@ -352,8 +341,7 @@ void TestNavigation::automatizerPhaseKeepsThePage()
 void TestNavigation::restoringDoesNotKeepThePage()
 {
     // After a restore with features the mark stays until the program ends; the pages must stay within reach.
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().restoreRunning = 1;
     driver.click(u"btnMenuAbout"_s);
     QCOMPARE(driver.window().currentPage(), 8);
@@ -361,8 +349,7 @@ void TestNavigation::restoringDoesNotKeepThePage()
 
 void TestNavigation::monitorDoesNotKeepThePage()
 {
-    TestMachine machine(TestMachine::Windows::Eleven, endlessPauses());
-    const WindowDriver driver;
+    const WindowOnPc driver(endlessPauses());
     WorkThread &monitor = *driver.workers().at(2);
     QSignalSpy lines(&monitor, &WorkThread::valueChanged);
     monitor.startJob(JobWinSxsSize);
@@ -383,8 +370,7 @@ void TestNavigation::switchingThePageEndsTheWinSxsCount_data()
 void TestNavigation::switchingThePageEndsTheWinSxsCount()
 {
     QFETCH(const int, page);
-    TestMachine machine(TestMachine::Windows::Eleven, endlessPauses());
-    const WindowDriver driver;
+    const WindowOnPc driver(endlessPauses());
     driver.window().showPage(5);
     WorkThread &counter = driver.winSxsWorker();
     counter.endJob();
@@ -426,8 +412,7 @@ void TestNavigation::aCountThatDoesNotAnswerGivesWayToTheNext()
 
 void TestNavigation::guardedSwitchLeavesTheWinSxsCountAlone()
 {
-    TestMachine machine(TestMachine::Windows::Eleven, endlessPauses());
-    const WindowDriver driver;
+    const WindowOnPc driver(endlessPauses());
     QSignalSpy lines(&driver.winSxsWorker(), &WorkThread::valueChanged);
     driver.winSxsWorker().startJob(JobWinSxsSize);
     QTRY_COMPARE(lines.size(), 3);
@@ -438,8 +423,7 @@ void TestNavigation::guardedSwitchLeavesTheWinSxsCountAlone()
 
 void TestNavigation::refreshShowsThePagesZeroToThreeAlone_data()
 {
-    QTest::addColumn<int>("page");
-    QTest::addColumn<bool>("refreshes");
+    addColumns<int, bool>("page", "refreshes");
     for (int page = 0; page < 9; ++page)
         QTest::addRow("page %d", page) << page << (page <= 3);
 }
@@ -448,8 +432,7 @@ void TestNavigation::refreshShowsThePagesZeroToThreeAlone()
 {
     QFETCH(const int, page);
     QFETCH(const bool, refreshes);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.window().showPage(page);
     QTRY_VERIFY(!driver.worker().isRunning() && !driver.winSxsWorker().isRunning());
     QCoreApplication::processEvents();
@@ -461,8 +444,7 @@ void TestNavigation::refreshShowsThePagesZeroToThreeAlone()
 
 void TestNavigation::programsMenuOffersTwoPages_data()
 {
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<int>("page");
+    addColumns<QString, int>("choice", "page");
     QTest::newRow("autorun") << u"Automatically started programs"_s << 3;
     QTest::newRow("packages") << u"Windows packages installed"_s << 4;
 }
@@ -471,10 +453,8 @@ void TestNavigation::programsMenuOffersTwoPages()
 {
     QFETCH(const QString, choice);
     QFETCH(const int, page);
-    TestMachine machine;
-    const WindowDriver driver;
-    Menus menus;
-    menus.choose(choice);
+    const WindowOnPc driver;
+    Menus menus({choice});
     driver.click(u"btnMenuPackage"_s);
     QCOMPARE(menus.shown().size(), 1);
     QCOMPARE(menus.shown().at(0).actions,
@@ -485,20 +465,17 @@ void TestNavigation::programsMenuOffersTwoPages()
 
 void TestNavigation::programsMenuLeftByEscapeShowsNoPage()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     markState(driver);
     const State before = stateOf(driver);
-    Menus menus;
-    menus.choose(QString());
+    Menus menus({QString()});
     driver.click(u"btnMenuPackage"_s);
     QVERIFY(stateOf(driver) == before);
 }
 
 void TestNavigation::programsMenuIsStyledByThePaletteSetting_data()
 {
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QStringList>("colors");
+    addColumns<QString, QStringList>("stored", "colors");
     const QStringList dark{u"#323232"_s, u"#464646"_s, u"#3c3c3c"_s};
     QTest::newRow("dark") << u"dark"_s << dark;
     QTest::newRow("light") << u"light"_s << QStringList{u"#f8f8f8"_s, u"#e0e0e0"_s, u"#e6e6e6"_s};
@@ -512,24 +489,14 @@ void TestNavigation::programsMenuIsStyledByThePaletteSetting()
     TestMachine machine;
     machine.write(settingsKey, u"palette"_s, stored);
     const WindowDriver driver;
-    Menus menus;
-    menus.choose(QString());
+    Menus menus({QString()});
     driver.click(u"btnMenuPackage"_s);
-    QString style;
-    if (!colors.isEmpty()) {
-        style = u"QMenu { background-color: %1; border-radius: 6px; border: 1px solid %2; }"
-                "QMenu::item { padding: 6px; background: transparent; }"
-                "QMenu:item:hover  { background-color: %3; border-radius: 6px; }"
-                "QMenu:item:selected  { background-color: %3; border-radius: 6px; }"_s.arg(colors.at(0), colors.at(1),
-                                                                                           colors.at(2));
-    }
-    QCOMPARE(menus.shown().at(0).styleSheet, style);
+    QCOMPARE(menus.shown().at(0).styleSheet, menuStyle(colors));
 }
 
 void TestNavigation::formIsPrepared()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     QVERIFY(driver.get<QTabWidget>(u"tabWidget"_s)->tabBar()->isHidden());
     QVERIFY(driver.bar()->isHidden());
     const QList<std::pair<QString, QList<int>>> widths{
@@ -549,15 +516,13 @@ void TestNavigation::formIsPrepared()
 
 void TestNavigation::formPreparedAgainConnectsTheContextMenusOnce()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.window().prepareForm();
     driver.window().prepareForm();
     driver.window().showPage(5);
     QTRY_VERIFY(!driver.worker().isRunning());
     for (const char *name : {"tblSvc", "tblTasks", "tblPackages", "tblAutorun", "scrollArea"}) {
-        Menus menus;
-        menus.choose(QString());
+        Menus menus({QString()});
         auto *list = driver.get<QWidget>(QString::fromLatin1(name));
         Q_EMIT list->customContextMenuRequested(QPoint());
         QCOMPARE(menus.shown().size(), 1);
@@ -566,8 +531,7 @@ void TestNavigation::formPreparedAgainConnectsTheContextMenusOnce()
 
 void TestNavigation::formPreparedAgainPutsWidthsBack()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.services()->setColumnWidth(0, 10);
     driver.get<QTableWidget>(u"tblTasks"_s)->setColumnWidth(2, 10);
     driver.bar()->show();

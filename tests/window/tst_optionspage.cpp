@@ -89,10 +89,7 @@ void TestOptionsPage::initTestCase()
 
 void TestOptionsPage::controlShowsItsStoredValue_data()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("box");
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<bool>("checked");
+    addColumns<QString, QString, QVariant, bool>("key", "box", "stored", "checked");
     const auto add = [](const QString &key, const QString &box, bool fallback) {
         const auto row = [&](const char *what) -> QTestData & {
             return QTest::newRow(qPrintable(key + u", "_s + QLatin1StringView(what))) << key << box;
@@ -161,8 +158,7 @@ void TestOptionsPage::showingThePageHidesTheReport()
 
 void TestOptionsPage::boxStoresItsState_data()
 {
-    QTest::addColumn<QString>("box");
-    QTest::addColumn<QString>("key");
+    addColumns<QString, QString>("box", "key");
     QTest::newRow("administrator rights") << u"chkOptionsStartAsAdmin"_s << u"StartAsAdmin"_s;
     QTest::newRow("update check") << u"chkOptionsCheckUpdate"_s << u"CheckUpdate"_s;
     QTest::newRow("WinSxS size") << u"chkOptionsGetWinSxsSize"_s << u"GetWinSxsSize"_s;
@@ -203,9 +199,7 @@ void TestOptionsPage::connectionIsMadeOnceHoweverOftenThePageIsShown()
 
 void TestOptionsPage::themeBoxShowsTheStoredTheme_data()
 {
-    QTest::addColumn<bool>("windows10");
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<int>("index");
+    addColumns<bool, QString, int>("windows10", "stored", "index");
     QTest::newRow("dark, 11") << false << u"dark"_s << int(Dark);
     QTest::newRow("light, 11") << false << u"light"_s << int(Light);
     QTest::newRow("system, 11") << false << u"system"_s << int(System);
@@ -248,10 +242,7 @@ void TestOptionsPage::darkCantBeChosenOnWindows10()
 
 void TestOptionsPage::chosenThemeIsStoredAndPutInForce_data()
 {
-    QTest::addColumn<bool>("windows10");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QColor>("window");
+    addColumns<bool, int, QString, QColor>("windows10", "index", "stored", "window");
     const QColor system = systemPalette_.color(QPalette::Window);
     QTest::newRow("light, 11") << false << int(Light) << u"light"_s << QColor(230, 230, 230);
     QTest::newRow("system, 11") << false << int(System) << u"system"_s << system;

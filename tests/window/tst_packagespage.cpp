@@ -36,6 +36,18 @@ void openWith(const WindowDriver &driver, const QList<PackageRow> &rows)
     send(driver, JobPackageGetList, u"WorkThread::PackageGetList"_s);
 }
 
+/** The window with the page open: with the machine's packages, or with these rows. */
+class PackagesPage : public WindowDriver
+{
+public:
+    PackagesPage()
+    {
+        if (!openPackages())
+            qFatal("the packages aren't listed");
+    }
+    explicit PackagesPage(const QList<PackageRow> &rows) { openWith(*this, rows); }
+};
+
 QList<PackageRow> rowsOf(const QStringList &names)
 {
     QList<PackageRow> rows;
@@ -106,7 +118,6 @@ private Q_SLOTS:
     void secondClickGoesBackToTheInstalledPackages();
     void anyOtherTextOfTheButtonMeansTheSecondView();
     void comingBackByTheMenuGivesTheInstalledView();
-    void viewDoesNotChangeWhileAJobRuns();
 
     // Uninstalling
     void uninstallTakesEveryRowThatStaysChecked();
@@ -115,8 +126,6 @@ private Q_SLOTS:
     void uninstallWithNothingCheckedIsSilent_data();
     void uninstallWithNothingCheckedIsSilent();
     void uninstallOfAnEmptyTableIsSilent();
-    void uninstallWithoutRightsOffersThem();
-    void uninstallWhileAJobRunsIsIgnored();
     void uninstallWhileTheLastOneHasNotEndedIsIgnored();
     void secondUninstallFollowsTheFirst();
     void tableStaysAsItWasAtTheEnd();
@@ -147,8 +156,7 @@ void TestPackagesPage::programsMenuListsTheMachinesPackages()
     addPackages(machine, {u"Microsoft.Todos"_s, u"Clipchamp.Clipchamp"_s, u"Vendor.App"_s});
     record(machine, {u"Microsoft.People"_s});
     const WindowDriver driver;
-    Menus menus;
-    menus.choose(u"Windows packages installed"_s);
+    Menus menus({u"Windows packages installed"_s});
     driver.click(u"btnMenuPackage"_s);
     QVERIFY(driver.waitForList(u"Packages installed:"_s));
     QCOMPARE(driver.window().currentPage(), 4);
@@ -163,8 +171,7 @@ void TestPackagesPage::programsMenuListsTheMachinesPackages()
 
 void TestPackagesPage::rowShowsNameDisplayNameAndComment()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     openWith(driver, {{u"MS OneDrive"_s, u"OneDrive shown"_s, u"C:\\a.exe"_s}});
     QCOMPARE(driver.table(table)->item(0, 0)->text(), u"MS OneDrive"_s);
     QCOMPARE(driver.table(table)->item(0, 1)->text(), u"OneDrive shown"_s);
@@ -173,8 +180,7 @@ void TestPackagesPage::rowShowsNameDisplayNameAndComment()
 
 void TestPackagesPage::rowsStartCheckedAndCannotBeEdited()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     openWith(driver, rowsOf({u"B"_s, u"A"_s}));
     QCOMPARE(driver.checkedIn(table), (QStringList{u"B"_s, u"A"_s}));
     for (int row = 0; row < 2; ++row) {
@@ -191,8 +197,7 @@ void TestPackagesPage::rowsStartCheckedAndCannotBeEdited()
 
 void TestPackagesPage::rowsComeInTheOrderOfTheListAndAreNotSorted()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     const QStringList names{u"C"_s, u"a"_s, u"B"_s, u"C"_s, u"A"_s};
     openWith(driver, rowsOf(names));
     QCOMPARE(driver.column(table, 0), names);
@@ -204,16 +209,14 @@ void TestPackagesPage::statusCountsRowsAndRecords()
     TestMachine machine;
     record(machine, {u"X"_s, u"Y"_s, u"Z"_s});
     machine.write(packageRecordsKey, QString(), u"unnamed"_s);
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"A"_s, u"B"_s}));
+    const PackagesPage driver(rowsOf({u"A"_s, u"B"_s}));
     QCOMPARE(driver.status(), u"Packages installed: 2  |  uninstalled: 3  "_s);
 }
 
 void TestPackagesPage::anyLineOfTheListingAddsItsRows()
 {
     TestMachine machine;
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"A"_s}));
+    const PackagesPage driver(rowsOf({u"A"_s}));
     send(driver, JobPackageGetList, u"package: B: done"_s);
     QCOMPARE(driver.column(table, 0), (QStringList{u"A"_s, u"A"_s}));
     QCOMPARE(driver.status(), u"Packages installed: 2  |  uninstalled: 0  "_s);
@@ -224,8 +227,7 @@ void TestPackagesPage::showingThePageEmptiesItFirst()
 {
     TestMachine machine;
     addPackages(machine, {u"Microsoft.Todos"_s});
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"Old"_s, u"Older"_s}));
+    const PackagesPage driver(rowsOf({u"Old"_s, u"Older"_s}));
     driver.window().showPage(4);
     // The list's line hasn't been read yet.
     QCOMPARE(driver.worker().job, int(JobPackageGetList));
@@ -237,8 +239,7 @@ void TestPackagesPage::showingThePageEmptiesItFirst()
 
 void TestPackagesPage::emptyListGivesZeros()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     QVERIFY(driver.openPackages());
     QCOMPARE(driver.table(table)->rowCount(), 0);
     QCOMPARE(driver.status(), u"Packages installed: 0  |  uninstalled: 0  "_s);
@@ -246,8 +247,7 @@ void TestPackagesPage::emptyListGivesZeros()
 
 void TestPackagesPage::secondViewHasItsTextsAndItsWidths()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     QVERIFY(driver.openPackages());
     QCOMPARE(texts(driver), installedView);
     QCOMPARE(widths(driver), (QList<int>{200, 400}));
@@ -263,8 +263,7 @@ void TestPackagesPage::secondViewListsTheRecordsUnchecked()
     record(machine, {u"MS OneDrive"_s, u"Microsoft.People"_s});
     machine.write(packageRecordsKey, u"Zero"_s, 0);
     machine.write(packageRecordsKey, QString(), u"unnamed"_s);
-    const WindowDriver driver;
-    QVERIFY(driver.openPackages());
+    const PackagesPage driver;
     driver.click(viewButton);
     QVERIFY(!driver.worker().isRunning());
     QCOMPARE(driver.column(table, 0), (QStringList{u"MS OneDrive"_s, u"Microsoft.People"_s, u"Zero"_s}));
@@ -282,8 +281,7 @@ void TestPackagesPage::secondViewOfNothingIsEmpty()
 {
     TestMachine machine;
     addPackages(machine, {u"Microsoft.Todos"_s});
-    const WindowDriver driver;
-    QVERIFY(driver.openPackages());
+    const PackagesPage driver;
     driver.click(viewButton);
     QCOMPARE(driver.table(table)->rowCount(), 0);
     QCOMPARE(driver.status(), u"Packages uninstalled: 0  "_s);
@@ -294,8 +292,7 @@ void TestPackagesPage::secondClickGoesBackToTheInstalledPackages()
     TestMachine machine;
     addPackages(machine, {u"Microsoft.Todos"_s});
     record(machine, {u"Microsoft.People"_s});
-    const WindowDriver driver;
-    QVERIFY(driver.openPackages());
+    const PackagesPage driver;
     driver.click(viewButton);
     driver.click(viewButton);
     QVERIFY(driver.waitForList(u"Packages installed:"_s));
@@ -307,8 +304,7 @@ void TestPackagesPage::secondClickGoesBackToTheInstalledPackages()
 
 void TestPackagesPage::anyOtherTextOfTheButtonMeansTheSecondView()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     QVERIFY(driver.openPackages());
     driver.button(viewButton)->setText(u"neither"_s);
     driver.click(viewButton);
@@ -320,8 +316,7 @@ void TestPackagesPage::comingBackByTheMenuGivesTheInstalledView()
 {
     TestMachine machine;
     addPackages(machine, {u"Microsoft.Todos"_s});
-    const WindowDriver driver;
-    QVERIFY(driver.openPackages());
+    const PackagesPage driver;
     driver.click(viewButton);
     driver.window().showPage(0);
     QVERIFY(driver.openPackages());
@@ -330,25 +325,11 @@ void TestPackagesPage::comingBackByTheMenuGivesTheInstalledView()
     QCOMPARE(driver.checkedIn(table), QStringList{u"Microsoft.Todos"_s});
 }
 
-void TestPackagesPage::viewDoesNotChangeWhileAJobRuns()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"A"_s}));
-    driver.worker().startJob(JobWinSxsSize);
-    driver.click(viewButton);
-    QCOMPARE(texts(driver), installedView);
-    QCOMPARE(driver.column(table, 0), QStringList{u"A"_s});
-    QVERIFY(driver.endJob());
-}
-
 void TestPackagesPage::uninstallTakesEveryRowThatStaysChecked()
 {
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     addPackages(machine, {u"Microsoft.Todos"_s, u"Microsoft.People"_s, u"MSTeams"_s});
-    const WindowDriver driver;
-    QVERIFY(driver.openPackages());
+    const PackagesPage driver;
     WindowDriver::clickCheckBox(driver.table(table), driver.firstCell(table, u"Microsoft.People"_s));
     driver.click(actionButton);
     QVERIFY(waitForEnd(driver));
@@ -360,10 +341,8 @@ void TestPackagesPage::uninstallTakesEveryRowThatStaysChecked()
 
 void TestPackagesPage::uninstallHandsOverNameAndComment()
 {
-    TestMachine machine;
-    addPowerShell(machine);
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"B"_s, u"A"_s, u"C"_s}));
+    PowerShellMachine machine;
+    const PackagesPage driver(rowsOf({u"B"_s, u"A"_s, u"C"_s}));
     driver.firstCell(table, u"A"_s)->setCheckState(Qt::Unchecked);
     driver.worker().packagesToChange = rowsOf({u"before"_s});
     driver.click(actionButton);
@@ -380,10 +359,8 @@ void TestPackagesPage::uninstallHandsOverNameAndComment()
 
 void TestPackagesPage::uninstallAsksNothing()
 {
-    TestMachine machine;
-    addPowerShell(machine);
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"A"_s, u"B"_s, u"C"_s}));
+    PowerShellMachine machine;
+    const PackagesPage driver(rowsOf({u"A"_s, u"B"_s, u"C"_s}));
     const Boxes noBox;
     driver.click(actionButton);
     QVERIFY(waitForEnd(driver));
@@ -401,8 +378,7 @@ void TestPackagesPage::uninstallWithNothingCheckedIsSilent()
 {
     QFETCH(const bool, elevated);
     TestMachine machine(TestMachine::Windows::Eleven, elevated ? MachineOptions() : notElevated());
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"A"_s}));
+    const PackagesPage driver(rowsOf({u"A"_s}));
     driver.firstCell(table, u"A"_s)->setCheckState(Qt::Unchecked);
     const QString status = driver.status();
     driver.worker().packagesToChange = rowsOf({u"before"_s});
@@ -417,8 +393,7 @@ void TestPackagesPage::uninstallWithNothingCheckedIsSilent()
 
 void TestPackagesPage::uninstallOfAnEmptyTableIsSilent()
 {
-    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
-    const WindowDriver driver;
+    const WindowOnPc driver(notElevated());
     openWith(driver, {});
     driver.worker().packagesToChange = rowsOf({u"before"_s});
     const Boxes noBox;
@@ -427,46 +402,10 @@ void TestPackagesPage::uninstallOfAnEmptyTableIsSilent()
     QVERIFY(driver.worker().packagesToChange.isEmpty());
 }
 
-void TestPackagesPage::uninstallWithoutRightsOffersThem()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
-    addPowerShell(machine);
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"A"_s}));
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
-    driver.click(actionButton);
-    QCOMPARE(boxes.shown().at(0).text, u"You must launch this app with Admin rights!"_s);
-    QVERIFY(!driver.worker().isRunning());
-    QVERIFY(driver.worker().packageJobIdle);
-    QCOMPARE(driver.checkedIn(table), QStringList{u"A"_s});
-    boxes.answer(QMessageBox::Yes);
-    driver.click(actionButton);
-    QCOMPARE(machine.read(settingsKey, u"lastPage"_s), QVariant(4));
-    QCOMPARE(machine.commands(), QList<LoggedCommand>());
-}
-
-void TestPackagesPage::uninstallWhileAJobRunsIsIgnored()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"A"_s}));
-    driver.worker().packagesToChange = rowsOf({u"before"_s});
-    driver.worker().startJob(JobWinSxsSize);
-    const Boxes noBox;
-    driver.click(actionButton);
-    QCOMPARE(driver.worker().job, int(JobWinSxsSize));
-    QCOMPARE(driver.worker().packagesToChange.size(), 1);
-    QCOMPARE(driver.worker().packagesToChange.at(0).name, u"before"_s);
-    QVERIFY(driver.endJob());
-}
-
 void TestPackagesPage::uninstallWhileTheLastOneHasNotEndedIsIgnored()
 {
-    TestMachine machine;
-    addPowerShell(machine);
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"A"_s}));
+    PowerShellMachine machine;
+    const PackagesPage driver(rowsOf({u"A"_s}));
     driver.worker().packageJobIdle = false;
     driver.worker().packagesToChange = rowsOf({u"before"_s});
     const Boxes noBox;
@@ -487,10 +426,8 @@ void TestPackagesPage::uninstallWhileTheLastOneHasNotEndedIsIgnored()
 
 void TestPackagesPage::secondUninstallFollowsTheFirst()
 {
-    TestMachine machine;
-    addPowerShell(machine);
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"A"_s}));
+    PowerShellMachine machine;
+    const PackagesPage driver(rowsOf({u"A"_s}));
     for (int run = 1; run <= 5; ++run) {
         driver.click(actionButton);
         QVERIFY(waitForEnd(driver));
@@ -502,10 +439,8 @@ void TestPackagesPage::secondUninstallFollowsTheFirst()
 
 void TestPackagesPage::tableStaysAsItWasAtTheEnd()
 {
-    TestMachine machine;
-    addPowerShell(machine);
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"B"_s, u"A"_s}));
+    PowerShellMachine machine;
+    const PackagesPage driver(rowsOf({u"B"_s, u"A"_s}));
     driver.firstCell(table, u"B"_s)->setCheckState(Qt::Unchecked);
     driver.click(actionButton);
     QVERIFY(waitForEnd(driver));
@@ -516,11 +451,9 @@ void TestPackagesPage::tableStaysAsItWasAtTheEnd()
 
 void TestPackagesPage::failedUninstallIsNotRecorded()
 {
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     machine.machine().setFault(u"powershell -Command Get-AppxPackage B"_s, {.exitCode = 1});
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"A"_s, u"B"_s, u"C"_s}));
+    const PackagesPage driver(rowsOf({u"A"_s, u"B"_s, u"C"_s}));
     QStringList statuses;
     connect(&driver.worker(), &WorkThread::valueChanged, this, [&] { statuses.append(driver.status()); });
     driver.click(actionButton);
@@ -537,8 +470,7 @@ void TestPackagesPage::uninstallOfOneDriveRunsItsUninstaller()
     machine.addFile(u"C:\\Windows\\System32\\OneDriveSetup.exe"_s);
     machine.addFile(u"C:\\Users\\Test\\AppData\\Local\\Microsoft\\OneDrive\\OneDrive.exe"_s);
     machine.machine().setFault(u"onedrivesetup"_s, {.exitCode = 0});
-    const WindowDriver driver;
-    QVERIFY(driver.openPackages());
+    const PackagesPage driver;
     QCOMPARE(driver.column(table, 2), QStringList{u"C:\\Windows\\System32\\OneDriveSetup.exe"_s});
     driver.click(actionButton);
     QVERIFY(waitForEnd(driver));
@@ -548,10 +480,8 @@ void TestPackagesPage::uninstallOfOneDriveRunsItsUninstaller()
 
 void TestPackagesPage::oldXboxAppIsRecordedAsItsLineReads()
 {
-    TestMachine machine;
-    addPowerShell(machine);
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"Microsoft.XboxApp"_s}));
+    PowerShellMachine machine;
+    const PackagesPage driver(rowsOf({u"Microsoft.XboxApp"_s}));
     driver.click(actionButton);
     QVERIFY(waitForEnd(driver));
     QCOMPARE(machine.names(packageRecordsKey),
@@ -560,11 +490,9 @@ void TestPackagesPage::oldXboxAppIsRecordedAsItsLineReads()
 
 void TestPackagesPage::installTakesTheRecordsAway()
 {
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     record(machine, {u"A"_s, u"B"_s, u"C"_s});
-    const WindowDriver driver;
-    QVERIFY(driver.openPackages());
+    const PackagesPage driver;
     driver.click(viewButton);
     WindowDriver::clickCheckBox(driver.table(table), driver.firstCell(table, u"A"_s));
     WindowDriver::clickCheckBox(driver.table(table), driver.firstCell(table, u"C"_s));
@@ -582,10 +510,8 @@ void TestPackagesPage::installTakesTheRecordsAway()
 
 void TestPackagesPage::installOfNothingIsSilent()
 {
-    TestMachine machine;
-    addPowerShell(machine);
-    const WindowDriver driver;
-    QVERIFY(driver.openPackages());
+    PowerShellMachine machine;
+    const PackagesPage driver;
     driver.click(viewButton);
     const Boxes noBox;
     driver.click(actionButton);
@@ -599,8 +525,7 @@ void TestPackagesPage::failedInstallKeepsTheRecord()
     TestMachine machine;
     addPowerShell(machine, 1);
     record(machine, {u"A"_s});
-    const WindowDriver driver;
-    QVERIFY(driver.openPackages());
+    const PackagesPage driver;
     driver.click(viewButton);
     driver.firstCell(table, u"A"_s)->setCheckState(Qt::Checked);
     driver.click(actionButton);
@@ -610,8 +535,7 @@ void TestPackagesPage::failedInstallKeepsTheRecord()
 
 void TestPackagesPage::directionIsReadFromTheButton_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("install");
+    addColumns<QString, bool>("text", "install");
     QTest::newRow("install") << u"Install packages"_s << true;
     QTest::newRow("uninstall") << u"Uninstall packages"_s << false;
     QTest::newRow("neither") << u"install packages"_s << false;
@@ -621,10 +545,8 @@ void TestPackagesPage::directionIsReadFromTheButton()
 {
     QFETCH(const QString, text);
     QFETCH(const bool, install);
-    TestMachine machine;
-    addPowerShell(machine);
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"A"_s}));
+    PowerShellMachine machine;
+    const PackagesPage driver(rowsOf({u"A"_s}));
     driver.worker().packageInstall = !install;
     driver.button(actionButton)->setText(text);
     driver.click(actionButton);
@@ -645,8 +567,7 @@ void TestPackagesPage::everyLineIsTheStatus_data()
 void TestPackagesPage::everyLineIsTheStatus()
 {
     QFETCH(const QString, line);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.bar()->setValue(7);
     send(driver, JobPackageSetState, line);
     QCOMPARE(driver.status(), line + u"  "_s);
@@ -675,12 +596,10 @@ void TestPackagesPage::linesKeepTheRecord()
 
 void TestPackagesPage::checkAllAndUncheckAll()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     openWith(driver, rowsOf({u"A"_s, u"B"_s, u"C"_s}));
     driver.firstCell(table, u"B"_s)->setCheckState(Qt::Unchecked);
-    Menus menus;
-    menus.choose(u"Uncheck all"_s);
+    Menus menus({u"Uncheck all"_s});
     Q_EMIT driver.table(table)->customContextMenuRequested({});
     QCOMPARE(driver.checkedIn(table), QStringList());
     menus.choose(u"Check all"_s);
@@ -693,10 +612,8 @@ void TestPackagesPage::refreshDoesNothing()
 {
     TestMachine machine;
     addPackages(machine, {u"Microsoft.Todos"_s});
-    const WindowDriver driver;
-    openWith(driver, rowsOf({u"A"_s}));
-    Menus menus;
-    menus.choose(u"Refresh"_s);
+    const PackagesPage driver(rowsOf({u"A"_s}));
+    Menus menus({u"Refresh"_s});
     Q_EMIT driver.table(table)->customContextMenuRequested({});
     QVERIFY(!driver.worker().isRunning());
     QCOMPARE(driver.column(table, 0), QStringList{u"A"_s});

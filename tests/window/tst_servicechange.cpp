@@ -110,8 +110,6 @@ private Q_SLOTS:
     // Disabling
     void disableWithNothingCheckedIsSilent_data();
     void disableWithNothingCheckedIsSilent();
-    void disableWithoutRightsOffersThemAndChangesNothing();
-    void disableWhileAJobRunsIsIgnored();
     void disableStopsAndRecordsTheCheckedServices();
     void disableOnWindows10WritesTheRegistryAlone();
     void disableTellsEachStep();
@@ -134,15 +132,12 @@ private Q_SLOTS:
     void assistantTakesServicesOfAFeatureGivenUp();
     void featureIsGivenUpAtTheNextClickOnly();
     void assistantAppendsAgainAtEachClick();
-    void assistantWithoutRightsChecksAndOffersThem();
     void assistantAsksBeforeItDisables();
     void assistantsYesDisables();
     void assistantDoesNothingInTheViewOfDisabledServices();
     void assistantsYesWhileAJobRunsDisablesNothing();
 
     // Restoring
-    void restoreWhileAJobRunsIsIgnored();
-    void restoreWithoutRightsOffersThem();
     void restoreWithoutBackupRestoresTheRecordsWithoutAQuestion();
     void restoreWithoutBackupOrRecordsFinishesAsUsual();
     void restoreWithBackupAsks();
@@ -182,8 +177,7 @@ void TestServiceChange::disableWithNothingCheckedIsSilent()
     options.elevated = elevated;
     TestMachine machine(TestMachine::Windows::Eleven, options);
     machine.add({.name = u"Alpha"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     const QString status = driver.status();
     driver.worker().servicesToChange = {u"before"_s};
     const Boxes noBox;
@@ -195,53 +189,12 @@ void TestServiceChange::disableWithNothingCheckedIsSilent()
     QCOMPARE(machine.commands().size(), 1);
 }
 
-void TestServiceChange::disableWithoutRightsOffersThemAndChangesNothing()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
-    machine.add({.name = u"Alpha"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
-    driver.clickCheckBox(u"Alpha"_s);
-    driver.worker().servicesToChange = {u"before"_s};
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
-    driver.click(u"btnSvcDisable"_s);
-    QCOMPARE(boxes.shown().at(0).text, u"You must launch this app with Admin rights!"_s);
-    QVERIFY(!driver.worker().isRunning());
-    QCOMPARE(driver.worker().servicesToChange, QStringList(u"before"_s));
-    QCOMPARE(driver.checked(), QStringList(u"Alpha"_s));
-
-    boxes.answer(QMessageBox::Yes);
-    driver.click(u"btnSvcDisable"_s);
-    QCOMPARE(machine.read(settingsKey, u"lastPage"_s).toInt(), 1);
-    QCOMPARE(machine.shellStarts().size(), 1);
-    QCOMPARE(machine.commands().size(), 1);
-    QCOMPARE(startMode(machine, u"Alpha"_s), 2);
-}
-
-void TestServiceChange::disableWhileAJobRunsIsIgnored()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
-    machine.add({.name = u"Alpha"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
-    driver.clickCheckBox(u"Alpha"_s);
-    driver.worker().servicesToChange = {u"before"_s};
-    driver.worker().startJob(JobWinSxsSize);
-    const Boxes noBox;
-    driver.click(u"btnSvcDisable"_s);
-    QCOMPARE(driver.worker().job, int(JobWinSxsSize));
-    QCOMPARE(driver.worker().servicesToChange, QStringList(u"before"_s));
-    QVERIFY(scRuns(machine).isEmpty());
-}
-
 void TestServiceChange::disableStopsAndRecordsTheCheckedServices()
 {
     TestMachine machine;
     for (const QString &name : {u"alpha"_s, u"Beta"_s, u"Gamma"_s})
         machine.add({.name = name, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.clickCheckBox(u"Beta"_s);
     driver.clickCheckBox(u"alpha"_s);
     driver.click(u"btnSvcDisable"_s);
@@ -267,8 +220,7 @@ void TestServiceChange::disableOnWindows10WritesTheRegistryAlone()
 {
     TestMachine machine(TestMachine::Windows::Ten);
     machine.add({.name = u"Alpha"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.clickCheckBox(u"Alpha"_s);
     driver.click(u"btnSvcDisable"_s);
     QVERIFY(driver.waitForList());
@@ -286,8 +238,7 @@ void TestServiceChange::disableTellsEachStep()
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 2, .running = true});
     machine.add({.name = u"Beta"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     check(driver, {u"Alpha"_s, u"Beta"_s});
     QStringList steps;
     // Connected behind the window, so that each line has been read when it comes here.
@@ -315,8 +266,7 @@ void TestServiceChange::refusedDisableLeavesNoRecord()
     ToolFault denied;
     denied.exitCode = 5;
     machine.machine().setFault(u"sc config"_s, denied);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.clickCheckBox(u"Alpha"_s);
     driver.click(u"btnSvcDisable"_s);
     QVERIFY(driver.waitForList());
@@ -328,8 +278,7 @@ void TestServiceChange::refusedDisableLeavesNoRecord()
 
 void TestServiceChange::disableReadsItsOwnTextToKnowTheJob_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("job");
+    addColumns<QString, int>("text", "job");
     QTest::newRow("disable") << u"DISABLE checked services"_s << int(JobSvcDisable);
     QTest::newRow("enable") << u"ENABLE checked services"_s << int(JobSvcEnable);
     // No job has the number 6, so that nothing happens but the start.
@@ -342,8 +291,7 @@ void TestServiceChange::disableReadsItsOwnTextToKnowTheJob()
     QFETCH(const int, job);
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 3, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.clickCheckBox(u"Alpha"_s);
     driver.button(u"btnSvcDisable"_s)->setText(text);
     driver.worker().job = 6;
@@ -364,8 +312,7 @@ void TestServiceChange::checkedRowsNamesComeFromTheToolTip()
 {
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 2, .running = true, .displayName = u"Shown: to people"_s});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     QCOMPARE(driver.cell(u"Alpha"_s)->text(), u"Shown: to people"_s);
     driver.clickCheckBox(u"Alpha"_s);
     driver.click(u"btnSvcDisable"_s);
@@ -381,8 +328,7 @@ void TestServiceChange::enableStartsTheCheckedServicesAndForgetsThem()
     machine.add({.name = u"Beta"_s, .start = 4});
     machine.write(recordsKey, u"Alpha"_s, 1);
     machine.write(recordsKey, u"Beta"_s, 1);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.click(u"btnSvcViewDisabled"_s);
     driver.clickCheckBox(u"Beta"_s);
     QCOMPARE(driver.checked(), QStringList(u"Beta"_s));
@@ -404,8 +350,7 @@ void TestServiceChange::enableWithNothingCheckedIsSilent()
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 4});
     machine.write(recordsKey, u"Alpha"_s, 1);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.click(u"btnSvcViewDisabled"_s);
     const Boxes noBox;
     driver.click(u"btnSvcDisable"_s);
@@ -419,11 +364,9 @@ void TestServiceChange::assistantChecksTheNonVitalServicesAndNoOthers()
     for (const QString &name : {u"DiagTrack"_s, u"wsearch"_s, u"Spooler"_s, u"Alpha"_s, u"cbdhsvc_4711"_s})
         machine.add({.name = name, .start = 2, .running = true});
     machine.add({.name = u"SysMain"_s, .start = 2});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.clickCheckBox(u"Alpha"_s);
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver.click(u"btnSvcAssist"_s);
     // Names are compared without regard to case; what the user had checked is taken back; stopped ones aren't there.
     QCOMPARE(driver.checked(), QStringList({u"DiagTrack"_s, u"wsearch"_s}));
@@ -441,8 +384,7 @@ void TestServiceChange::assistantFindsNothing()
     options.elevated = elevated;
     TestMachine machine(TestMachine::Windows::Eleven, options);
     machine.add({.name = u"Alpha"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.clickCheckBox(u"Alpha"_s);
     const Boxes noBox;
     driver.click(u"btnSvcAssist"_s);
@@ -455,11 +397,9 @@ void TestServiceChange::assistantChecksAGreyedRow()
 {
     TestMachine machine;
     machine.add({.name = u"cbdhsvc_5cbba"_s, .type = 224, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     QVERIFY(!driver.cell(u"cbdhsvc_5cbba"_s)->flags().testFlag(Qt::ItemIsEnabled));
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(u"btnSvcAssist"_s);
     QCOMPARE(driver.worker().servicesToChange, QStringList(u"cbdhsvc_5cbba"_s));
     QVERIFY(driver.waitForList());
@@ -471,11 +411,9 @@ void TestServiceChange::assistantPassesOverARowWhoseModeCellTellsFour()
     TestMachine machine;
     machine.add({.name = u"DiagTrack"_s, .start = 4, .running = true});
     machine.add({.name = u"WSearch"_s, .start = 4, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.cell(u"DiagTrack"_s, 1)->setToolTip(u"4"_s);
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver.click(u"btnSvcAssist"_s);
     // A disabled service that runs is checked all the same: its tool tip holds name and description, never a mode.
     QCOMPARE(driver.checked(), QStringList(u"WSearch"_s));
@@ -483,8 +421,7 @@ void TestServiceChange::assistantPassesOverARowWhoseModeCellTellsFour()
 
 void TestServiceChange::assistantTakesServicesOfAFeatureGivenUp_data()
 {
-    QTest::addColumn<QString>("setting");
-    QTest::addColumn<QStringList>("services");
+    addColumns<QString, QStringList>("setting", "services");
     QTest::newRow("printer") << u"Keep_1"_s << QStringList{u"Spooler"_s};
     QTest::newRow("Bluetooth audio") << u"Keep_2"_s << QStringList{u"BTAGService"_s, u"BthAvctpSvc"_s};
     QTest::newRow("files sharing") << u"Keep_3"_s
@@ -508,8 +445,7 @@ void TestServiceChange::assistantTakesServicesOfAFeatureGivenUp()
           u"FDResPub"_s, u"XblAuthManager"_s, u"SSDPSRV"_s, u"RasMan"_s, u"SstpSvc"_s, u"SEMgrSvc"_s})
         machine.add({.name = name, .start = 2, .running = true});
     machine.write(settingsKey, setting, 0);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     Boxes boxes;
     if (!services.isEmpty())
         boxes.answer(QMessageBox::No);
@@ -523,15 +459,13 @@ void TestServiceChange::featureIsGivenUpAtTheNextClickOnly()
 {
     TestMachine machine;
     machine.add({.name = u"Spooler"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.click(u"btnSvcAssist"_s);
     QCOMPARE(driver.checked(), QStringList());
     driver.worker().keepPrinter = 0;
     QVERIFY(!driver.worker().nonVitalServices.contains(u"Spooler"_s));
     QCOMPARE(driver.checked(), QStringList());
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver.click(u"btnSvcAssist"_s);
     QCOMPARE(driver.checked(), QStringList(u"Spooler"_s));
 }
@@ -540,8 +474,7 @@ void TestServiceChange::assistantAppendsAgainAtEachClick()
 {
     TestMachine machine;
     machine.add({.name = u"Spooler"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.worker().keepPrinter = 0;
     const QStringList before = driver.worker().nonVitalServices;
     QCOMPARE(before.size(), 31);
@@ -559,32 +492,15 @@ void TestServiceChange::assistantAppendsAgainAtEachClick()
     QCOMPARE(driver.checked(), QStringList(u"Spooler"_s));
 }
 
-void TestServiceChange::assistantWithoutRightsChecksAndOffersThem()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
-    machine.add({.name = u"DiagTrack"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
-    driver.click(u"btnSvcAssist"_s);
-    QCOMPARE(boxes.shown().size(), 1);
-    QCOMPARE(boxes.shown().at(0).text, u"You must launch this app with Admin rights!"_s);
-    QCOMPARE(driver.checked(), QStringList(u"DiagTrack"_s));
-    QVERIFY(!driver.worker().isRunning());
-}
-
 void TestServiceChange::assistantAsksBeforeItDisables()
 {
     TestMachine machine;
     machine.add({.name = u"DiagTrack"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     const QString before = stateOf(machine);
     const QString status = driver.status();
     for (const auto answer : {QMessageBox::No, QMessageBox::NoButton}) {
-        Boxes boxes;
-        boxes.answer(answer);
+        Boxes boxes({answer});
         driver.click(u"btnSvcAssist"_s);
         QCOMPARE(boxes.shown().size(), 1);
         const ShownBox box = boxes.shown().at(0);
@@ -608,10 +524,8 @@ void TestServiceChange::assistantsYesDisables()
     TestMachine machine;
     for (const QString &name : {u"DiagTrack"_s, u"WSearch"_s, u"Alpha"_s})
         machine.add({.name = name, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    const ServicesPage driver;
+    Boxes boxes({QMessageBox::Yes});
     driver.click(u"btnSvcAssist"_s);
     QCOMPARE(driver.worker().servicesToChange, QStringList({u"DiagTrack"_s, u"WSearch"_s}));
     QVERIFY(driver.waitForList());
@@ -626,8 +540,7 @@ void TestServiceChange::assistantDoesNothingInTheViewOfDisabledServices()
     TestMachine machine;
     machine.add({.name = u"DiagTrack"_s, .start = 4});
     machine.write(recordsKey, u"DiagTrack"_s, 1);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.click(u"btnSvcViewDisabled"_s);
     QCOMPARE(driver.listed(), QStringList(u"DiagTrack"_s));
     driver.worker().keepPrinter = 0;
@@ -642,46 +555,14 @@ void TestServiceChange::assistantDoesNothingInTheViewOfDisabledServices()
 
 void TestServiceChange::assistantsYesWhileAJobRunsDisablesNothing()
 {
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
+    TestMachine machine(TestMachine::Windows::Eleven, endlessPauses());
     machine.add({.name = u"DiagTrack"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.worker().startJob(JobWinSxsSize);
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(u"btnSvcAssist"_s);
     QCOMPARE(driver.worker().job, int(JobWinSxsSize));
     QCOMPARE(driver.worker().servicesToChange, QStringList());
-}
-
-void TestServiceChange::restoreWhileAJobRunsIsIgnored()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
-    machine.write(recordsKey, u"Alpha"_s, 1);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
-    driver.worker().startJob(JobWinSxsSize);
-    const QString status = driver.status();
-    const Boxes noBox;
-    driver.click(u"btnSvcRestore"_s);
-    QCOMPARE(driver.worker().job, int(JobWinSxsSize));
-    QCOMPARE(driver.worker().servicesToChange, QStringList());
-    QCOMPARE(driver.status(), status);
-}
-
-void TestServiceChange::restoreWithoutRightsOffersThem()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
-    machine.write(recordsKey, u"Alpha"_s, 1);
-    const WindowDriver driver;
-    openWithoutListing(driver);
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
-    driver.click(u"btnSvcRestore"_s);
-    QCOMPARE(boxes.shown().at(0).text, u"You must launch this app with Admin rights!"_s);
-    QVERIFY(!driver.worker().isRunning());
-    QCOMPARE(driver.worker().servicesToChange, QStringList());
-    QCOMPARE(machine.names(recordsKey), QStringList(u"Alpha"_s));
 }
 
 void TestServiceChange::restoreWithoutBackupRestoresTheRecordsWithoutAQuestion()
@@ -726,11 +607,9 @@ void TestServiceChange::restoreWithoutBackupOrRecordsFinishesAsUsual()
 void TestServiceChange::restoreWithBackupAsks()
 {
     TestMachine machine;
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     QVERIFY(QFile::exists(backupFile(machine)));
-    Boxes boxes;
-    boxes.answer(QMessageBox::Cancel);
+    Boxes boxes({QMessageBox::Cancel});
     driver.click(u"btnSvcRestore"_s);
     QCOMPARE(boxes.shown().size(), 1);
     const ShownBox box = boxes.shown().at(0);
@@ -760,13 +639,11 @@ void TestServiceChange::restoresCancelChangesNothing()
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 4});
     machine.write(recordsKey, u"Alpha"_s, 1);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     const QString status = driver.status();
     const QString before = stateOf(machine);
     const FileHandler handler;
-    Boxes boxes;
-    boxes.answer(answer);
+    Boxes boxes({answer});
     driver.click(u"btnSvcRestore"_s);
     QCOMPARE(driver.status(), status);
     QVERIFY(!driver.worker().isRunning());
@@ -781,11 +658,9 @@ void TestServiceChange::restoresNoRestoresTheRecordsAlone()
     machine.add({.name = u"Alpha"_s, .start = 4});
     machine.add({.name = u"Gamma"_s, .start = 4});
     machine.write(recordsKey, u"Alpha"_s, 1);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     const FileHandler handler;
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver.click(u"btnSvcRestore"_s);
     QCOMPARE(driver.status(), u"Restore services finished"_s);
     QCOMPARE(driver.worker().job, int(JobSvcEnable));
@@ -801,12 +676,10 @@ void TestServiceChange::restoresYesHandsTheFileToTheSystemAndChangesNothingItsel
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 4});
     machine.write(recordsKey, u"Alpha"_s, 1);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     const QString before = stateOf(machine);
     const FileHandler handler;
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(u"btnSvcRestore"_s);
     QCOMPARE(driver.status(), u"Restore services finished"_s);
     QVERIFY(!driver.worker().isRunning());
@@ -822,13 +695,11 @@ void TestServiceChange::restoresYesImportsTheStartModes()
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 3});
     machine.add({.name = u"Own"_s, .type = 16, .start = 3});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     machine.write(keyOf(u"Alpha"_s), u"Start"_s, 4);
     machine.write(keyOf(u"Own"_s), u"Start"_s, 4);
     machine.write(recordsKey, u"Alpha"_s, 1);
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(u"btnSvcRestore"_s);
     // The backup covers shared processes only, and the record isn't looked at.
     QTRY_COMPARE(startMode(machine, u"Alpha"_s), 3);
@@ -838,10 +709,7 @@ void TestServiceChange::restoresYesImportsTheStartModes()
 
 void TestServiceChange::startModeIsSetBySc_data()
 {
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QString>("argument");
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("after");
+    addColumns<QString, QString, int, int>("action", "argument", "before", "after");
     QTest::newRow("manual") << u"Manual start"_s << u"start=demand"_s << 2 << 3;
     QTest::newRow("automatic") << u"Automatic start"_s << u"start=auto"_s << 3 << 2;
 }
@@ -855,15 +723,13 @@ void TestServiceChange::startModeIsSetBySc()
     TestMachine machine;
     for (const QString &name : {u"Alpha"_s, u"Beta"_s, u"Gamma"_s})
         machine.add({.name = name, .start = before, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     const QRect row = driver.services()->visualItemRect(driver.cell(u"Beta"_s, 1));
     QTest::mouseClick(driver.services()->viewport(), Qt::LeftButton, {}, row.center());
     // A check is no selection.
     driver.cell(u"Gamma"_s)->setCheckState(Qt::Checked);
 
-    Menus menus;
-    menus.choose(action);
+    Menus menus({action});
     Q_EMIT driver.services()->customContextMenuRequested(QPoint());
     QCOMPARE(scRuns(machine), QStringList(u"config|Beta|"_s + argument));
     QCOMPARE(startMode(machine, u"Beta"_s), after);
@@ -877,8 +743,7 @@ void TestServiceChange::startModeWithoutSelectionRunsNothing()
 {
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.call("setServiceManualStart");
     driver.call("setServiceAutomaticStart");
     QVERIFY(!driver.worker().isRunning());
@@ -897,13 +762,10 @@ void TestServiceChange::startModeWithoutRightsOffersThem()
     QFETCH(const QString, action);
     TestMachine machine(TestMachine::Windows::Eleven, notElevated());
     machine.add({.name = u"Alpha"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.services()->setCurrentCell(0, 0);
-    Menus menus;
-    menus.choose(action);
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Menus menus({action});
+    Boxes boxes({QMessageBox::No});
     Q_EMIT driver.services()->customContextMenuRequested(QPoint());
     QCOMPARE(boxes.shown().at(0).text, u"You must launch this app with Admin rights!"_s);
     QCOMPARE(scRuns(machine), QStringList());
@@ -917,8 +779,7 @@ void TestServiceChange::startModeThatIsRefusedIsPassedOver()
     ToolFault denied;
     denied.exitCode = 5;
     machine.machine().setFault(u"sc config"_s, denied);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.services()->setCurrentCell(0, 0);
     const Boxes noBox;
     driver.call("setServiceManualStart");
@@ -931,10 +792,9 @@ void TestServiceChange::startModeThatIsRefusedIsPassedOver()
 
 void TestServiceChange::startModeIsSetWhileAJobRunsButThePageStays()
 {
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
+    TestMachine machine(TestMachine::Windows::Eleven, endlessPauses());
     machine.add({.name = u"Alpha"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.services()->setCurrentCell(0, 0);
     const QString status = driver.status();
     driver.worker().startJob(JobWinSxsSize);
@@ -956,8 +816,7 @@ void TestServiceChange::startModeWithAHangingToolGoesOn()
     ToolFault hanging;
     hanging.hang = true;
     machine.machine().setFault(u"sc config"_s, hanging);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.services()->setCurrentCell(0, 0);
     Command::timeLimit = 200;
     driver.call("setServiceManualStart");
@@ -984,8 +843,7 @@ void TestServiceChange::strangeNamesAreHandedOverAsTheyAre()
     QFETCH(const QString, name);
     TestMachine machine;
     machine.add({.name = name, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     QCOMPARE(driver.listed(), QStringList(name));
     driver.clickCheckBox(name);
     driver.click(u"btnSvcDisable"_s);
@@ -1009,8 +867,7 @@ void TestServiceChange::nameIsCutAtItsFirstColon()
 {
     TestMachine machine;
     machine.add({.name = u"Left:Right:End"_s, .start = 2, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     QCOMPARE(driver.services()->item(0, 0)->toolTip(), u"Left:Right:End:<br><br>no description"_s);
     driver.services()->item(0, 0)->setCheckState(Qt::Checked);
     driver.click(u"btnSvcDisable"_s);

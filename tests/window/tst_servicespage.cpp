@@ -101,7 +101,6 @@ private Q_SLOTS:
     void headersSignalsAreBlockedWhileTheViewFillsAndNotLater();
     void secondClickGoesBackToTheStartedServices();
     void comingBackByTheMenuKeepsTheOtherViewsHint();
-    void viewDoesNotChangeWhileAJobRuns();
 
     // Context menu
     void contextMenuHasThePagesActions_data();
@@ -122,8 +121,7 @@ private Q_SLOTS:
 
 void TestServicesPage::runningServicesAloneHaveRows()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.list({service(u"Alpha"_s), service(u"Beta"_s, false), service(u"Gamma"_s, false, u"4"_s),
                  service(u"Delta"_s, true, u"4"_s)});
     QCOMPARE(driver.listed(), QStringList({u"Alpha"_s, u"Delta"_s}));
@@ -131,8 +129,7 @@ void TestServicesPage::runningServicesAloneHaveRows()
 
 void TestServicesPage::stoppedServiceThatIsNotDisabledCountsAsStopped()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.list({service(u"Alpha"_s, false, u"3"_s)});
     QCOMPARE(driver.services()->rowCount(), 0);
     QCOMPARE(driver.status(), u"Services: 1  |  started: 0  |  stopped: 1  |  disabled: 0  "_s);
@@ -140,8 +137,7 @@ void TestServicesPage::stoppedServiceThatIsNotDisabledCountsAsStopped()
 
 void TestServicesPage::statusTellsTheCounts()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.list({service(u"A"_s), service(u"B"_s), service(u"C"_s, true, u"4"_s), service(u"D"_s, false),
                  service(u"E"_s, false, u"4"_s), service(u"F"_s, false, u"4"_s), service(u"G"_s, false, u"2"_s)});
     // A running service that won't start again counts twice.
@@ -150,8 +146,7 @@ void TestServicesPage::statusTellsTheCounts()
 
 void TestServicesPage::emptyListGivesZeros()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.list({});
     QCOMPARE(driver.services()->rowCount(), 0);
     QCOMPARE(driver.status(), u"Services: 0  |  started: 0  |  stopped: 0  |  disabled: 0  "_s);
@@ -159,8 +154,7 @@ void TestServicesPage::emptyListGivesZeros()
 
 void TestServicesPage::listingReplacesTheRows()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.list({service(u"Alpha"_s), service(u"Beta"_s)});
     driver.list({service(u"Beta"_s), service(u"Gamma"_s)});
     QCOMPARE(driver.listed(), QStringList({u"Beta"_s, u"Gamma"_s}));
@@ -169,8 +163,7 @@ void TestServicesPage::listingReplacesTheRows()
 
 void TestServicesPage::rowShowsNameModeAndDescription()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.list({service(u"Alpha"_s, true, u"2"_s)});
     QCOMPARE(driver.cell(u"Alpha"_s, 0)->text(), u"Alpha service"_s);
     QCOMPARE(driver.cell(u"Alpha"_s, 1)->text(), u"Auto"_s);
@@ -179,8 +172,7 @@ void TestServicesPage::rowShowsNameModeAndDescription()
 
 void TestServicesPage::nameStandsInForAMissingDisplayName()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     ServiceRow row = service(u"Alpha"_s);
     row.displayName.clear();
     driver.list({row});
@@ -189,8 +181,7 @@ void TestServicesPage::nameStandsInForAMissingDisplayName()
 
 void TestServicesPage::startModeHasItsWord_data()
 {
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<QString>("word");
+    addColumns<QString, QString>("start", "word");
     QTest::newRow("2") << u"2"_s << u"Auto"_s;
     QTest::newRow("3") << u"3"_s << u"Manual"_s;
     QTest::newRow("4") << u"4"_s << u"Disabled"_s;
@@ -204,16 +195,14 @@ void TestServicesPage::startModeHasItsWord_data()
 void TestServicesPage::startModeHasItsWord()
 {
     QFETCH(const QString, start);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.list({service(u"Alpha"_s, true, start)});
     QTEST(driver.cell(u"Alpha"_s, 1)->text(), "word");
 }
 
 void TestServicesPage::toolTipOfEveryCellHoldsNameAndDescription()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.list({service(u"Alpha"_s)});
     for (int column = 0; column < 3; ++column)
         QCOMPARE(driver.cell(u"Alpha"_s, column)->toolTip(), u"Alpha:<br><br>What Alpha is for"_s);
@@ -221,8 +210,7 @@ void TestServicesPage::toolTipOfEveryCellHoldsNameAndDescription()
 
 void TestServicesPage::descriptionOfMoreThanHundredCharactersIsWrapped_data()
 {
-    QTest::addColumn<int>("length");
-    QTest::addColumn<bool>("wrapped");
+    addColumns<int, bool>("length", "wrapped");
     QTest::newRow("none") << 0 << false;
     QTest::newRow("99") << 99 << false;
     QTest::newRow("100") << 100 << false;
@@ -234,8 +222,7 @@ void TestServicesPage::descriptionOfMoreThanHundredCharactersIsWrapped()
 {
     QFETCH(const int, length);
     QFETCH(const bool, wrapped);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     ServiceRow row = service(u"Alpha"_s);
     row.description = QString(length, u'd');
     driver.list({row});
@@ -247,8 +234,7 @@ void TestServicesPage::descriptionOfMoreThanHundredCharactersIsWrapped()
 
 void TestServicesPage::noCellCanBeEditedAndNoRowIsChecked()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.list({service(u"Alpha"_s)});
     // A new item can be all this, but for being edited.
     const Qt::ItemFlags flags = QTableWidgetItem().flags() & ~Qt::ItemIsEditable;
@@ -265,8 +251,7 @@ void TestServicesPage::rowsAreSortedByNameUpwards()
     machine.add({.name = u"1"_s, .running = true, .displayName = u"Gamma"_s});
     machine.add({.name = u"2"_s, .running = true, .displayName = u"Alpha"_s});
     machine.add({.name = u"3"_s, .running = true, .displayName = u"Beta"_s});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     QVERIFY(driver.services()->isSortingEnabled());
     QCOMPARE(driver.listed(), QStringList({u"2"_s, u"3"_s, u"1"_s}));
     QCOMPARE(driver.services()->horizontalHeader()->sortIndicatorSection(), 0);
@@ -278,8 +263,7 @@ void TestServicesPage::rowsAreSortedByNameUpwards()
 
 void TestServicesPage::clickOnAHeaderSortsByIt()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.window().showPage(1);
     QVERIFY(driver.waitForList());
     driver.list(
@@ -299,9 +283,7 @@ void TestServicesPage::clickOnAHeaderSortsByIt()
 
 void TestServicesPage::criticalServiceIsGreyed_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<bool>("greyed");
+    addColumns<QString, QString, bool>("name", "type", "greyed");
     QTest::newRow("critical") << u"EventLog"_s << u"32"_s << true;
     QTest::newRow("critical, own process") << u"WinDefend"_s << u"16"_s << true;
     QTest::newRow("in another case") << u"eventlog"_s << u"32"_s << false;
@@ -315,8 +297,7 @@ void TestServicesPage::criticalServiceIsGreyed()
 {
     QFETCH(const QString, name);
     QFETCH(const QString, type);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     ServiceRow row = service(name);
     row.type = type;
     driver.list({row});
@@ -328,8 +309,7 @@ void TestServicesPage::criticalServiceIsGreyed()
 
 void TestServicesPage::userCannotCheckAGreyedRow_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("type");
+    addColumns<QString, int>("name", "type");
     QTest::newRow("critical") << u"Winmgmt"_s << 32;
     QTest::newRow("instance of a per-user service") << u"Alpha_5cbba"_s << 224;
 }
@@ -340,8 +320,7 @@ void TestServicesPage::userCannotCheckAGreyedRow()
     QFETCH(const int, type);
     TestMachine machine;
     machine.add({.name = name, .type = type, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     QCOMPARE(driver.listed(), QStringList(name));
     driver.clickCheckBox(name);
     QCOMPARE(driver.checked(), QStringList());
@@ -352,8 +331,7 @@ void TestServicesPage::userChecksAnOrdinaryRow()
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .running = true});
     machine.add({.name = u"Beta"_s, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.clickCheckBox(u"Beta"_s);
     QCOMPARE(driver.checked(), QStringList(u"Beta"_s));
     driver.clickCheckBox(u"Beta"_s);
@@ -367,8 +345,7 @@ void TestServicesPage::menuButtonListsTheMachinesServices()
     machine.add({.name = u"Beta"_s, .start = 3});
     machine.add({.name = u"Gamma"_s, .start = 4});
     machine.add({.name = u"Driver"_s, .type = 1, .start = 0, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     QCOMPARE(driver.listed(), QStringList(u"Alpha"_s));
     QCOMPARE(driver.cell(u"Alpha"_s)->text(), u"First"_s);
     QCOMPARE(driver.cell(u"Alpha"_s, 1)->text(), u"Auto"_s);
@@ -381,8 +358,7 @@ void TestServicesPage::menuButtonListsTheMachinesServices()
 
 void TestServicesPage::showingThePagePutsBothButtonsRight()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.button(u"btnSvcViewDisabled"_s)->setText(u"View started services"_s);
     driver.button(u"btnSvcDisable"_s)->setText(u"ENABLE checked services"_s);
     driver.window().showPage(1);
@@ -413,8 +389,7 @@ void TestServicesPage::failedListingLeavesThePageEmpty()
 
 void TestServicesPage::viewOfDisabledServicesHasItsTexts()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     QVERIFY(driver.openServices());
     QCOMPARE(hint(driver), criticalHint);
     driver.click(u"btnSvcViewDisabled"_s);
@@ -434,8 +409,7 @@ void TestServicesPage::viewOfDisabledServicesTakesTheProgramsOwnAndGreysTheOther
     machine.write(recordsKey, u"ByUs"_s, 1);
     machine.write(recordsKey, u"ByUsButManualNow"_s, 1);
     machine.write(recordsKey, u"Gone"_s, 1);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.click(u"btnSvcViewDisabled"_s);
     QCOMPARE(driver.listed(), QStringList({u"ByOthers"_s, u"ByUs"_s, u"ByUsButManualNow"_s}));
     for (int column = 0; column < 3; ++column) {
@@ -452,8 +426,7 @@ void TestServicesPage::viewOfDisabledServicesTakesTheProgramsOwnAndGreysTheOther
 
 void TestServicesPage::recordIsReadAsANumber_data()
 {
-    QTest::addColumn<QVariant>("record");
-    QTest::addColumn<bool>("listed");
+    addColumns<QVariant, bool>("record", "listed");
     QTest::newRow("1") << QVariant(1) << true;
     QTest::newRow("text 1") << QVariant(u"1"_s) << true;
     QTest::newRow("0") << QVariant(0) << false;
@@ -468,8 +441,7 @@ void TestServicesPage::recordIsReadAsANumber()
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 3});
     machine.write(recordsKey, u"Alpha"_s, record);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.click(u"btnSvcViewDisabled"_s);
     QCOMPARE(driver.listed(), listed ? QStringList(u"Alpha"_s) : QStringList());
 }
@@ -479,8 +451,7 @@ void TestServicesPage::runningServiceOnRecordStandsInTheViewOfDisabledServices()
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 4, .running = true});
     machine.write(recordsKey, u"Alpha"_s, 1);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     QCOMPARE(driver.listed(), QStringList(u"Alpha"_s));
     driver.click(u"btnSvcViewDisabled"_s);
     QCOMPARE(driver.listed(), QStringList(u"Alpha"_s));
@@ -492,8 +463,7 @@ void TestServicesPage::criticalServiceOnRecordIsGreyedInTheViewOfDisabledService
     TestMachine machine;
     machine.add({.name = u"BITS"_s, .start = 4});
     machine.write(recordsKey, u"BITS"_s, 1);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.click(u"btnSvcViewDisabled"_s);
     QVERIFY(isGreyed(driver.cell(u"BITS"_s)));
 }
@@ -515,8 +485,7 @@ void TestServicesPage::viewOfDisabledServicesComesFromTheLastListing()
 {
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 4});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     machine.add({.name = u"Beta"_s, .start = 4});
     driver.click(u"btnSvcViewDisabled"_s);
     QCOMPARE(driver.listed(), QStringList(u"Alpha"_s));
@@ -529,8 +498,7 @@ void TestServicesPage::viewOfDisabledServicesIsSortedUpwardsWhateverWasSortedBef
     machine.add({.name = u"1"_s, .start = 4, .displayName = u"Gamma"_s, .description = u"a"_s});
     machine.add({.name = u"2"_s, .start = 4, .displayName = u"Alpha"_s, .description = u"c"_s});
     machine.add({.name = u"3"_s, .start = 4, .displayName = u"Beta"_s, .description = u"b"_s});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.services()->sortByColumn(2, Qt::DescendingOrder);
     driver.click(u"btnSvcViewDisabled"_s);
     QCOMPARE(driver.listed(), QStringList({u"2"_s, u"3"_s, u"1"_s}));
@@ -544,8 +512,7 @@ void TestServicesPage::headersSignalsAreBlockedWhileTheViewFillsAndNotLater()
 {
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .start = 4});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.services()->sortByColumn(1, Qt::DescendingOrder);
     QHeaderView *header = driver.services()->horizontalHeader();
     int changes = 0;
@@ -560,8 +527,7 @@ void TestServicesPage::secondClickGoesBackToTheStartedServices()
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .running = true});
     machine.add({.name = u"Beta"_s, .start = 4});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.click(u"btnSvcViewDisabled"_s);
     QCOMPARE(driver.listed(), QStringList(u"Beta"_s));
     driver.click(u"btnSvcViewDisabled"_s);
@@ -577,8 +543,7 @@ void TestServicesPage::comingBackByTheMenuKeepsTheOtherViewsHint()
 {
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     driver.click(u"btnSvcViewDisabled"_s);
     driver.click(u"btnMenuAbout"_s);
     QVERIFY(driver.openServices());
@@ -588,26 +553,9 @@ void TestServicesPage::comingBackByTheMenuKeepsTheOtherViewsHint()
     QCOMPARE(hint(driver), outsideHint);
 }
 
-void TestServicesPage::viewDoesNotChangeWhileAJobRuns()
-{
-    TestMachine machine(TestMachine::Windows::Eleven, realPauses());
-    machine.add({.name = u"Alpha"_s, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
-    driver.worker().startJob(JobWinSxsSize);
-    QVERIFY(driver.worker().isRunning());
-    driver.click(u"btnSvcViewDisabled"_s);
-    QCOMPARE(viewText(driver), u"View disabled services"_s);
-    QCOMPARE(actionText(driver), u"DISABLE checked services"_s);
-    QCOMPARE(hint(driver), criticalHint);
-    QCOMPARE(driver.listed(), QStringList(u"Alpha"_s));
-}
-
 void TestServicesPage::contextMenuHasThePagesActions_data()
 {
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QStringList>("actions");
+    addColumns<int, QString, QStringList>("page", "list", "actions");
     QTest::newRow("Services") << 1 << u"tblSvc"_s << QStringList{u"Refresh"_s, u"Manual start"_s, u"Automatic start"_s};
     QTest::newRow("Tasks") << 2 << u"tblTasks"_s << QStringList{u"Refresh"_s};
     QTest::newRow("Autorun") << 3 << u"tblAutorun"_s << QStringList{u"Refresh"_s, u"Uncheck all"_s, u"Check all"_s};
@@ -619,12 +567,10 @@ void TestServicesPage::contextMenuHasThePagesActions()
 {
     QFETCH(const int, page);
     QFETCH(const QString, list);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.window().showPage(page);
     QTRY_VERIFY(!driver.worker().isRunning());
-    Menus menus;
-    menus.choose(QString());
+    Menus menus({QString()});
     Q_EMIT driver.get<QWidget>(list)->customContextMenuRequested(QPoint());
     QCOMPARE(menus.shown().size(), 1);
     QTEST(menus.shown().at(0).actions, "actions");
@@ -632,8 +578,7 @@ void TestServicesPage::contextMenuHasThePagesActions()
 
 void TestServicesPage::contextMenuIsStyledByThePaletteSetting_data()
 {
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QStringList>("colors");
+    addColumns<QString, QStringList>("stored", "colors");
     QTest::newRow("dark") << u"dark"_s << QStringList{u"#323232"_s, u"#464646"_s, u"#3c3c3c"_s};
     QTest::newRow("light") << u"light"_s << QStringList{u"#f0f0f0"_s, u"#464646"_s, u"#e6e6e6"_s};
     QTest::newRow("system") << u"system"_s << QStringList();
@@ -645,30 +590,18 @@ void TestServicesPage::contextMenuIsStyledByThePaletteSetting()
     QFETCH(const QStringList, colors);
     TestMachine machine;
     machine.write(settingsKey, u"palette"_s, stored);
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
-    Menus menus;
-    menus.choose(QString());
+    const ServicesPage driver;
+    Menus menus({QString()});
     Q_EMIT driver.services()->customContextMenuRequested(QPoint());
-    QString style;
-    if (!colors.isEmpty()) {
-        style = u"QMenu { background-color: %1; border-radius: 6px; border: 1px solid %2; }"
-                "QMenu::item { padding: 6px; background: transparent; }"
-                "QMenu:item:hover  { background-color: %3; border-radius: 6px; }"
-                "QMenu:item:selected  { background-color: %3; border-radius: 6px; }"_s.arg(colors.at(0), colors.at(1),
-                                                                                           colors.at(2));
-    }
-    QCOMPARE(menus.shown().at(0).styleSheet, style);
+    QCOMPARE(menus.shown().at(0).styleSheet, menuStyle(colors));
 }
 
 void TestServicesPage::rightClickOnTheTableOpensTheMenu()
 {
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
-    Menus menus;
-    menus.choose(QString());
+    const ServicesPage driver;
+    Menus menus({QString()});
     const QPoint position(5, 5);
     QContextMenuEvent event(QContextMenuEvent::Mouse, position, driver.services()->viewport()->mapToGlobal(position));
     QCoreApplication::sendEvent(driver.services()->viewport(), &event);
@@ -679,11 +612,9 @@ void TestServicesPage::refreshListsAgain()
 {
     TestMachine machine;
     machine.add({.name = u"Alpha"_s, .running = true});
-    const WindowDriver driver;
-    QVERIFY(driver.openServices());
+    const ServicesPage driver;
     machine.add({.name = u"Beta"_s, .running = true});
-    Menus menus;
-    menus.choose(u"Refresh"_s);
+    Menus menus({u"Refresh"_s});
     Q_EMIT driver.services()->customContextMenuRequested(QPoint());
     QVERIFY(driver.waitForList());
     QCOMPARE(driver.listed(), QStringList({u"Alpha"_s, u"Beta"_s}));
@@ -691,8 +622,7 @@ void TestServicesPage::refreshListsAgain()
 
 void TestServicesPage::checkAllChecksTheListOfThePage_data()
 {
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("name");
+    addColumns<int, QString>("page", "name");
     QTest::newRow("Autorun") << 3 << u"tblAutorun"_s;
     QTest::newRow("Packages") << 4 << u"tblPackages"_s;
 }
@@ -701,8 +631,7 @@ void TestServicesPage::checkAllChecksTheListOfThePage()
 {
     QFETCH(const int, page);
     QFETCH(const QString, name);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.window().showPage(page);
     QTRY_VERIFY(!driver.worker().isRunning());
     QCoreApplication::processEvents();
@@ -727,8 +656,7 @@ void TestServicesPage::checkAllChecksTheListOfThePage()
 
 void TestServicesPage::checkAllAndUncheckAllDoNothingOnOtherPages()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.list({service(u"Alpha"_s), service(u"Beta"_s)});
     driver.cell(u"Beta"_s)->setCheckState(Qt::Checked);
     auto *feature = driver.get<QCheckBox>(u"chkSsd1"_s);
@@ -747,9 +675,7 @@ void TestServicesPage::checkAllAndUncheckAllDoNothingOnOtherPages()
 
 void TestServicesPage::checkAllOnFeaturesDependsOnWindows_data()
 {
-    QTest::addColumn<QString>("winName");
-    QTest::addColumn<bool>("before");
-    QTest::addColumn<bool>("after");
+    addColumns<QString, bool, bool>("winName", "before", "after");
     QTest::newRow("Windows 11") << u"Windows 11 Home"_s << false << true;
     QTest::newRow("Windows 10, unchecked") << u"Windows 10 Home"_s << false << false;
     QTest::newRow("Windows 10, checked") << u"Windows 10 Home"_s << true << true;
@@ -761,8 +687,7 @@ void TestServicesPage::checkAllOnFeaturesDependsOnWindows()
     QFETCH(const QString, winName);
     QFETCH(const bool, before);
     QFETCH(const bool, after);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().winName = winName;
     driver.get<QTabWidget>(u"tabWidget"_s)->setCurrentIndex(5);
     const auto boxes = driver.get<QWidget>(u"scrollArea"_s)->findChildren<QCheckBox *>();
@@ -779,8 +704,7 @@ void TestServicesPage::checkAllOnFeaturesDependsOnWindows()
 
 void TestServicesPage::uncheckAllOnFeaturesTakesEveryCheck()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.worker().winName = u"Windows 10 Home"_s;
     driver.get<QTabWidget>(u"tabWidget"_s)->setCurrentIndex(5);
     const auto boxes = driver.get<QWidget>(u"scrollArea"_s)->findChildren<QCheckBox *>();

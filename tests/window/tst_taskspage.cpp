@@ -58,6 +58,13 @@ void openWith(const WindowDriver &driver, const QList<TaskRow> &rows)
     list(driver, rows);
 }
 
+/** The window with the page open and these rows in it. */
+class TasksPage : public WindowDriver
+{
+public:
+    explicit TasksPage(const QList<TaskRow> &rows) { openWith(*this, rows); }
+};
+
 /** A machine whose schtasks lists these tasks and obeys. */
 class TaskMachine : public TestMachine
 {
@@ -144,8 +151,6 @@ private Q_SLOTS:
     // Disabling
     void disableWithNothingCheckedIsSilent_data();
     void disableWithNothingCheckedIsSilent();
-    void disableWithoutRightsOffersThem();
-    void disableWhileAJobRunsIsIgnored();
     void disableHandsOverTheCheckedRows();
     void disableRunsRecordsAndListsAgain();
     void disableThatFailsLooksAsOneThatWorked();
@@ -163,8 +168,6 @@ private Q_SLOTS:
     void assistantsNoStaysInEveryLanguage();
     void assistantsNoKeepsTheChecks();
     void assistantsYesDisablesAllCheckedRows();
-    void assistantWithoutRightsChecksAndOffersThem();
-    void assistantWhileAJobRunsIsIgnored();
 
     // Restoring
     void restoreAsks();
@@ -173,14 +176,11 @@ private Q_SLOTS:
     void restoreHandsOverTheRecords();
     void restoreEnablesAndKeepsTheRecords();
     void restoreOfNothingStillRuns();
-    void restoreWithoutRightsOffersThem();
-    void restoreWhileAJobRunsIsIgnored();
 };
 
 void TestTasksPage::enabledTasksAloneHaveRows()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     list(driver, {task(u"A"_s), task(u"B"_s, 1), task(u"Folder\\C"_s), task(u"D"_s, 1), task(u"E"_s, 1)});
     QCOMPARE(driver.column(table, 0), (QStringList{u"A"_s, u"Folder\\C"_s}));
     QCOMPARE(driver.status(), u"Tasks: 5  |  enabled: 2  |  disabled: 3  "_s);
@@ -188,8 +188,7 @@ void TestTasksPage::enabledTasksAloneHaveRows()
 
 void TestTasksPage::emptyListGivesZeros()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     list(driver, {});
     QCOMPARE(driver.table(table)->rowCount(), 0);
     QCOMPARE(driver.status(), u"Tasks: 0  |  enabled: 0  |  disabled: 0  "_s);
@@ -197,8 +196,7 @@ void TestTasksPage::emptyListGivesZeros()
 
 void TestTasksPage::rowShowsPathAndDescription()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     list(driver, {{u"Folder\\A"_s, u"Does it."_s, u"Name"_s, {}, 0}});
     QCOMPARE(driver.table(table)->item(0, 0)->text(), u"Folder\\A"_s);
     QCOMPARE(driver.table(table)->item(0, 1)->text(), u"Does it."_s);
@@ -216,8 +214,7 @@ void TestTasksPage::toolTipHoldsPathAndDescription_data()
 void TestTasksPage::toolTipHoldsPathAndDescription()
 {
     QFETCH(const int, length);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     const QString text(length, u'd');
     const QString shown = length > 100 ? u"<span>"_s + text + u"</span>"_s : text;
     list(driver, {{u"Folder\\A"_s, text, u"A"_s, {}, 0}});
@@ -227,8 +224,7 @@ void TestTasksPage::toolTipHoldsPathAndDescription()
 
 void TestTasksPage::noCellCanBeEditedAndNoRowIsChecked()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     list(driver, {task(u"A"_s), task(u"B"_s)});
     for (int row = 0; row < 2; ++row) {
         for (int column = 0; column < 2; ++column)
@@ -244,8 +240,7 @@ void TestTasksPage::noCellCanBeEditedAndNoRowIsChecked()
 
 void TestTasksPage::rowsAreSortedByPathUpwards()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     list(driver, tasksOf({u"Beta"_s, u"Alpha\\Zeta"_s, u"Gamma"_s, u"Alpha\\Eta"_s}));
     QCOMPARE(driver.column(table, 0), (QStringList{u"Alpha\\Eta"_s, u"Alpha\\Zeta"_s, u"Beta"_s, u"Gamma"_s}));
     QVERIFY(driver.table(table)->isSortingEnabled());
@@ -255,9 +250,7 @@ void TestTasksPage::rowsAreSortedByPathUpwards()
 
 void TestTasksPage::rowsStayWholeWithSortingOn_data()
 {
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("sortedBy");
-    QTest::addColumn<Qt::SortOrder>("order");
+    addColumns<int, int, Qt::SortOrder>("count", "sortedBy", "order");
     QTest::newRow("by path upwards") << 2000 << 0 << Qt::AscendingOrder;
     QTest::newRow("by path downwards") << 2000 << 0 << Qt::DescendingOrder;
     QTest::newRow("by description upwards") << 2000 << 1 << Qt::AscendingOrder;
@@ -270,8 +263,7 @@ void TestTasksPage::rowsStayWholeWithSortingOn()
     QFETCH(const int, count);
     QFETCH(const int, sortedBy);
     QFETCH(const Qt::SortOrder, order);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     QTableWidget *rows = driver.table(table);
     rows->horizontalHeader()->setSortIndicator(sortedBy, order);
     // Paths and descriptions in orders of their own.
@@ -341,8 +333,7 @@ void TestTasksPage::usersOwnSortOrderIsKept()
 
 void TestTasksPage::anyLineOfTheListingAddsItsRows()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     list(driver, tasksOf({u"A"_s}));
     send(driver, JobTaskMakeList, u"no matter what"_s);
     QCOMPARE(driver.column(table, 0), (QStringList{u"A"_s, u"A"_s}));
@@ -366,8 +357,7 @@ void TestTasksPage::menuButtonListsTheMachinesTasks()
 void TestTasksPage::showingThePageEmptiesItFirst()
 {
     const TaskMachine machine({{u"\\A"_s}});
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"Old"_s, u"Older"_s}) + QList<TaskRow>{task(u"Oldest"_s, 1)});
+    const TasksPage driver(tasksOf({u"Old"_s, u"Older"_s}) + QList<TaskRow>{task(u"Oldest"_s, 1)});
     QVERIFY(driver.table(table)->isSortingEnabled());
     machine.machine().setFault(u"schtasks /xml"_s, {.hang = true});
     driver.click(u"btnMenuTask"_s);
@@ -417,8 +407,7 @@ void TestTasksPage::withoutRightsNoListsWhatCanBeSeen()
 {
     TaskMachine machine({{u"\\A"_s}}, notElevated());
     const WindowDriver driver;
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     QVERIFY(driver.openTasks());
     QCOMPARE(driver.column(table, 0), QStringList{u"A"_s});
     QVERIFY(machine.shellStarts().isEmpty());
@@ -431,8 +420,7 @@ void TestTasksPage::withoutRightsYesStartsTheProgramAnew()
 {
     TaskMachine machine({{u"\\A"_s}}, notElevated());
     const WindowDriver driver;
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     // What was asked for goes on.
     QVERIFY(driver.openTasks());
     QCOMPARE(machine.read(settingsKey, u"lastPage"_s), QVariant(2));
@@ -483,8 +471,7 @@ void TestTasksPage::contextMenusRefreshListsAgain()
     const WindowDriver driver;
     QVERIFY(driver.openTasks());
     machine.machine().setFault(u"schtasks /xml"_s, {.output = listOfDocuments({{u"\\B"_s}})});
-    Menus menus;
-    menus.choose(u"Refresh"_s);
+    Menus menus({u"Refresh"_s});
     Q_EMIT driver.table(table)->customContextMenuRequested({});
     QVERIFY(driver.waitForList(u"Tasks:"_s));
     QCOMPARE(driver.column(table, 0), QStringList{u"B"_s});
@@ -492,8 +479,7 @@ void TestTasksPage::contextMenusRefreshListsAgain()
 
 void TestTasksPage::maximumLineSetsTheMaximumAndShowsTheBar()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.get<QLabel>(u"lblStatus"_s)->setText(u"before"_s);
     send(driver, JobTaskStopOrStart, u"pgr:max:12"_s);
     QCOMPARE(driver.bar()->maximum(), 12);
@@ -503,8 +489,7 @@ void TestTasksPage::maximumLineSetsTheMaximumAndShowsTheBar()
 
 void TestTasksPage::valueLineChangesOnlyTheBar()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     openWith(driver, tasksOf({u"A"_s}));
     const QString status = driver.status();
     send(driver, JobTaskStopOrStart, u"pgr:max:12"_s);
@@ -527,8 +512,7 @@ void TestTasksPage::numberThatDoesNotParseSetsZero_data()
 void TestTasksPage::numberThatDoesNotParseSetsZero()
 {
     QFETCH(const QString, number);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     send(driver, JobTaskStopOrStart, u"pgr:max:12"_s);
     send(driver, JobTaskStopOrStart, u"pgr:value:3"_s);
     send(driver, JobTaskStopOrStart, u"pgr:value:"_s + number);
@@ -539,8 +523,7 @@ void TestTasksPage::numberThatDoesNotParseSetsZero()
 
 void TestTasksPage::otherLineIsTheStatus()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     for (const QString &line : {u"Task: A"_s, u"finished"_s, u" pgr:max:9"_s, QString()}) {
         send(driver, JobTaskStopOrStart, line);
         QCOMPARE(driver.status(), line);
@@ -550,8 +533,7 @@ void TestTasksPage::otherLineIsTheStatus()
 
 void TestTasksPage::unknownBarLineShowsTheBarAlone()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     driver.get<QLabel>(u"lblStatus"_s)->setText(u"before"_s);
     driver.worker().taskRestoreMode = true;
     send(driver, JobTaskStopOrStart, u"pgr:other"_s);
@@ -562,8 +544,7 @@ void TestTasksPage::unknownBarLineShowsTheBarAlone()
 
 void TestTasksPage::finishedTellsWhatWasDone_data()
 {
-    QTest::addColumn<bool>("restore");
-    QTest::addColumn<QString>("text");
+    addColumns<bool, QString>("restore", "text");
     QTest::newRow("disable") << false << u"Disable scheduled tasks completed successfully  "_s;
     QTest::newRow("restore") << true << u"Restore scheduled tasks completed successfully  "_s;
 }
@@ -572,8 +553,7 @@ void TestTasksPage::finishedTellsWhatWasDone()
 {
     QFETCH(const bool, restore);
     QFETCH(const QString, text);
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     openWith(driver, tasksOf({u"A"_s}));
     driver.worker().taskRestoreMode = restore;
     driver.worker().analyzeRunning = 1; // nothing can be refreshed now
@@ -587,8 +567,7 @@ void TestTasksPage::finishedTellsWhatWasDone()
 void TestTasksPage::finishedListsThePageAgain()
 {
     const TaskMachine machine({{u"\\B"_s}});
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"A"_s}));
+    const TasksPage driver(tasksOf({u"A"_s}));
     driver.worker().taskRestoreMode = true;
     send(driver, JobTaskStopOrStart, u"pgr:TaskSetState=finished"_s);
     QVERIFY(!driver.worker().taskRestoreMode);
@@ -608,8 +587,7 @@ void TestTasksPage::disableWithNothingCheckedIsSilent()
 {
     QFETCH(const bool, elevated);
     const TaskMachine machine({}, elevated ? MachineOptions() : notElevated());
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"A"_s}));
+    const TasksPage driver(tasksOf({u"A"_s}));
     driver.worker().tasksToChange = tasksOf({u"before"_s});
     driver.worker().taskRestoreMode = true;
     const QString status = driver.status();
@@ -622,46 +600,10 @@ void TestTasksPage::disableWithNothingCheckedIsSilent()
     QCOMPARE(machine.commands(), QList<LoggedCommand>());
 }
 
-void TestTasksPage::disableWithoutRightsOffersThem()
-{
-    const TaskMachine machine({}, notElevated());
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"A"_s}));
-    check(driver, {u"A"_s});
-    driver.worker().tasksToChange = tasksOf({u"before"_s, u"before too"_s});
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
-    driver.click(u"btnTaskDisable"_s);
-    QCOMPARE(boxes.shown().at(0).text, u"You must launch this app with Admin rights!"_s);
-    QVERIFY(!driver.worker().isRunning());
-    QCOMPARE(driver.worker().tasksToChange.size(), 2);
-    QCOMPARE(driver.checkedIn(table), QStringList{u"A"_s});
-    QCOMPARE(machine.commands(), QList<LoggedCommand>());
-}
-
-void TestTasksPage::disableWhileAJobRunsIsIgnored()
-{
-    const TaskMachine machine({});
-    machine.machine().setFault(u"schtasks /xml"_s, {.hang = true});
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"A"_s}));
-    check(driver, {u"A"_s});
-    driver.worker().tasksToChange = tasksOf({u"before"_s, u"before too"_s});
-    driver.worker().taskRestoreMode = true;
-    driver.worker().startJob(JobTaskMakeList);
-    const Boxes noBox;
-    driver.click(u"btnTaskDisable"_s);
-    QCOMPARE(driver.worker().job, int(JobTaskMakeList));
-    QCOMPARE(driver.worker().tasksToChange.size(), 2);
-    QVERIFY(!driver.worker().taskRestoreMode); // this comes first of all
-    QVERIFY(driver.endJob());
-}
-
 void TestTasksPage::disableHandsOverTheCheckedRows()
 {
     const TaskMachine machine({});
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"Folder\\Sub\\C"_s, u"B"_s, u"A: x"_s, u"D"_s}));
+    const TasksPage driver(tasksOf({u"Folder\\Sub\\C"_s, u"B"_s, u"A: x"_s, u"D"_s}));
     check(driver, {u"Folder\\Sub\\C"_s, u"B"_s, u"A: x"_s});
     driver.worker().tasksToChange = tasksOf({u"before"_s});
     driver.click(u"btnTaskDisable"_s);
@@ -722,8 +664,7 @@ void TestTasksPage::disableThatFailsLooksAsOneThatWorked()
 
 void TestTasksPage::assistantChecksTheKnownNames_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("checked");
+    addColumns<QString, bool>("path", "checked");
     const auto row = [](const QString &path, bool checked) {
         QTest::addRow("%s", qPrintable(path)) << path << checked;
     };
@@ -754,8 +695,7 @@ void TestTasksPage::assistantChecksTheKnownNames()
     QFETCH(const QString, path);
     QFETCH(const bool, checked);
     const TaskMachine machine({});
-    const WindowDriver driver;
-    openWith(driver, tasksOf({path, u"AAA other"_s, u"zzz other"_s}));
+    const TasksPage driver(tasksOf({path, u"AAA other"_s, u"zzz other"_s}));
     driver.worker().taskRestoreMode = true;
     Boxes boxes;
     if (checked)
@@ -769,10 +709,7 @@ void TestTasksPage::assistantChecksTheKnownNames()
 
 void TestTasksPage::assistantTakesTasksOfAFeatureGivenUp_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<int>("keepPrinter");
-    QTest::addColumn<int>("keepProxyVpn");
-    QTest::addColumn<bool>("checked");
+    addColumns<QString, int, int, bool>("path", "keepPrinter", "keepProxyVpn", "checked");
     for (const QString &name :
          {u"EduPrintProv"_s, u"PrinterCleanupTask"_s, u"PrintJobCleanupTask"_s, u"MobilityManager"_s}) {
         const bool printer = name != "MobilityManager"_L1;
@@ -795,8 +732,7 @@ void TestTasksPage::assistantTakesTasksOfAFeatureGivenUp()
     QFETCH(const int, keepProxyVpn);
     QFETCH(const bool, checked);
     const TaskMachine machine({});
-    const WindowDriver driver;
-    openWith(driver, tasksOf({path, u"Other"_s}));
+    const TasksPage driver(tasksOf({path, u"Other"_s}));
     driver.worker().keepPrinter = keepPrinter;
     driver.worker().keepProxyVpn = keepProxyVpn;
     Boxes boxes;
@@ -809,19 +745,16 @@ void TestTasksPage::assistantTakesTasksOfAFeatureGivenUp()
 void TestTasksPage::assistantLeavesTheUsersChecks()
 {
     const TaskMachine machine({});
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"Mine"_s, u"WinSAT"_s, u"Other"_s}));
+    const TasksPage driver(tasksOf({u"Mine"_s, u"WinSAT"_s, u"Other"_s}));
     check(driver, {u"Mine"_s});
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver.click(u"btnTaskAssist"_s);
     QCOMPARE(driver.checkedIn(table), (QStringList{u"Mine"_s, u"WinSAT"_s}));
 }
 
 void TestTasksPage::assistantWithNothingToDoSaysSo_data()
 {
-    QTest::addColumn<bool>("elevated");
-    QTest::addColumn<QStringList>("paths");
+    addColumns<bool, QStringList>("elevated", "paths");
     QTest::newRow("nothing known") << true << QStringList{u"Mine"_s, u"Other"_s};
     QTest::newRow("nothing known, without rights") << false << QStringList{u"Mine"_s, u"Other"_s};
     QTest::newRow("empty table") << true << QStringList();
@@ -832,8 +765,7 @@ void TestTasksPage::assistantWithNothingToDoSaysSo()
     QFETCH(const bool, elevated);
     QFETCH(const QStringList, paths);
     const TaskMachine machine({}, elevated ? MachineOptions() : notElevated());
-    const WindowDriver driver;
-    openWith(driver, tasksOf(paths));
+    const TasksPage driver(tasksOf(paths));
     check(driver, paths.first(paths.isEmpty() ? 0 : 1));
     const Boxes noBox;
     driver.click(u"btnTaskAssist"_s);
@@ -849,8 +781,7 @@ void TestTasksPage::assistantReadsTheNameFromTheToolTip()
     // What stands behind a colon isn't seen; what the cell shows counts for nothing.
     openWith(driver, tasksOf({u"A: b\\WinSAT"_s, u"WinSAT: c"_s, u"Other"_s}));
     driver.firstCell(table, u"Other"_s)->setToolTip(u"Folder\\Sqm-Tasks"_s);
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver.click(u"btnTaskAssist"_s);
     QCOMPARE(driver.checkedIn(table), (QStringList{u"Other"_s, u"WinSAT: c"_s}));
 }
@@ -858,10 +789,8 @@ void TestTasksPage::assistantReadsTheNameFromTheToolTip()
 void TestTasksPage::assistantAsks()
 {
     const TaskMachine machine({});
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"WinSAT"_s}));
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    const TasksPage driver(tasksOf({u"WinSAT"_s}));
+    Boxes boxes({QMessageBox::No});
     driver.click(u"btnTaskAssist"_s);
     const ShownBox &box = boxes.shown().at(0);
     QCOMPARE(box.text, u"Disable scheduled tasks"_s);
@@ -877,12 +806,10 @@ void TestTasksPage::assistantAsks()
 void TestTasksPage::assistantsNoStaysInEveryLanguage()
 {
     const TaskMachine machine({});
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"WinSAT"_s}));
+    const TasksPage driver(tasksOf({u"WinSAT"_s}));
     OtherLanguage language;
     QCoreApplication::installTranslator(&language);
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver.click(u"btnTaskAssist"_s);
     boxes.answer(QMessageBox::Cancel);
     driver.click(u"btnTaskRestore"_s);
@@ -896,10 +823,8 @@ void TestTasksPage::assistantsNoStaysInEveryLanguage()
 void TestTasksPage::assistantsNoKeepsTheChecks()
 {
     const TaskMachine machine({});
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"WinSAT"_s}));
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    const TasksPage driver(tasksOf({u"WinSAT"_s}));
+    Boxes boxes({QMessageBox::No});
     driver.click(u"btnTaskAssist"_s);
     QVERIFY(!driver.worker().isRunning());
     QCOMPARE(driver.checkedIn(table), QStringList{u"WinSAT"_s});
@@ -909,11 +834,9 @@ void TestTasksPage::assistantsNoKeepsTheChecks()
 void TestTasksPage::assistantsYesDisablesAllCheckedRows()
 {
     const TaskMachine machine({{u"\\Other"_s}});
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"Mine"_s, u"Folder\\WinSAT"_s, u"Other"_s}));
+    const TasksPage driver(tasksOf({u"Mine"_s, u"Folder\\WinSAT"_s, u"Other"_s}));
     check(driver, {u"Mine"_s});
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(u"btnTaskAssist"_s);
     QVERIFY(driver.waitForList(u"Tasks:"_s));
     QCOMPARE(changes(machine), (QStringList{u"/CHANGE|/TN|Folder\\WinSAT|/DISABLE"_s, u"/CHANGE|/TN|Mine|/DISABLE"_s}));
@@ -921,41 +844,11 @@ void TestTasksPage::assistantsYesDisablesAllCheckedRows()
     QCOMPARE(boxes.shown().size(), 1);
 }
 
-void TestTasksPage::assistantWithoutRightsChecksAndOffersThem()
-{
-    const TaskMachine machine({}, notElevated());
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"WinSAT"_s, u"Other"_s}));
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
-    driver.click(u"btnTaskAssist"_s);
-    QCOMPARE(boxes.shown().at(0).text, u"You must launch this app with Admin rights!"_s);
-    QCOMPARE(driver.checkedIn(table), QStringList{u"WinSAT"_s});
-    QVERIFY(!driver.worker().isRunning());
-}
-
-void TestTasksPage::assistantWhileAJobRunsIsIgnored()
-{
-    const TaskMachine machine({});
-    machine.machine().setFault(u"schtasks /xml"_s, {.hang = true});
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"WinSAT"_s}));
-    driver.worker().taskRestoreMode = true;
-    driver.worker().startJob(JobTaskMakeList);
-    const Boxes noBox;
-    driver.click(u"btnTaskAssist"_s);
-    QCOMPARE(driver.checkedIn(table), QStringList());
-    QVERIFY(driver.worker().taskRestoreMode);
-    QVERIFY(driver.endJob());
-}
-
 void TestTasksPage::restoreAsks()
 {
     const TaskMachine machine({});
-    const WindowDriver driver;
-    openWith(driver, {});
-    Boxes boxes;
-    boxes.answer(QMessageBox::Cancel);
+    const TasksPage driver({});
+    Boxes boxes({QMessageBox::Cancel});
     driver.click(u"btnTaskRestore"_s);
     const ShownBox &box = boxes.shown().at(0);
     QCOMPARE(box.text, u"Restoring scheduled tasks"_s);
@@ -981,12 +874,10 @@ void TestTasksPage::restoresCancelChangesNothing()
     QFETCH(const QMessageBox::StandardButton, answer);
     TaskMachine machine({});
     machine.write(recordsKey, u"A"_s, 1);
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"B"_s}));
+    const TasksPage driver(tasksOf({u"B"_s}));
     driver.worker().tasksToChange = tasksOf({u"before"_s, u"before too"_s});
     const QString status = driver.status();
-    Boxes boxes;
-    boxes.answer(answer);
+    Boxes boxes({answer});
     driver.click(u"btnTaskRestore"_s);
     QCOMPARE(driver.status(), status);
     QCOMPARE(driver.worker().tasksToChange.size(), 2);
@@ -1001,11 +892,9 @@ void TestTasksPage::restoreHandsOverTheRecords()
     for (const QString &path :
          {u"Folder\\Sub\\B c"_s, u"A"_s, u"Backup"_s, u"Backup of it"_s, u"BackupTask\\X"_s, u"My Backup"_s, u"."_s})
         records->setValue(path, path == "A"_L1 ? 0 : 1);
-    const WindowDriver driver;
-    openWith(driver, tasksOf({u"D"_s}));
+    const TasksPage driver(tasksOf({u"D"_s}));
     driver.worker().tasksToChange = tasksOf({u"before"_s});
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(u"btnTaskRestore"_s);
     // No line has arrived yet.
     QCOMPARE(driver.status(), u"Restoring scheduled tasks..."_s);
@@ -1033,8 +922,7 @@ void TestTasksPage::restoreEnablesAndKeepsTheRecords()
     records->setValue(u"Backup"_s, 1);
     const WindowDriver driver;
     QVERIFY(driver.openTasks());
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(u"btnTaskRestore"_s);
     QVERIFY(driver.waitForList(u"Tasks:"_s));
     QCOMPARE(changes(machine), (QStringList{u"/CHANGE|/TN|B|/ENABLE"_s, u"/CHANGE|/TN|Folder\\A b|/ENABLE"_s}));
@@ -1047,45 +935,14 @@ void TestTasksPage::restoreEnablesAndKeepsTheRecords()
 void TestTasksPage::restoreOfNothingStillRuns()
 {
     const TaskMachine machine({{u"\\A"_s}});
-    const WindowDriver driver;
-    openWith(driver, {});
+    const TasksPage driver({});
     QStringList lines;
     connect(&driver.worker(), &WorkThread::valueChanged, this, [&lines](const QString &line) { lines.append(line); });
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     driver.click(u"btnTaskRestore"_s);
     QVERIFY(driver.waitForList(u"Tasks:"_s));
     QCOMPARE(lines, (QStringList{u"pgr:max:0"_s, u"pgr:TaskSetState=finished"_s, u"WorkThread::TaskMakeList"_s}));
     QVERIFY(changes(machine).isEmpty());
-}
-
-void TestTasksPage::restoreWithoutRightsOffersThem()
-{
-    TaskMachine machine({}, notElevated());
-    machine.write(recordsKey, u"A"_s, 1);
-    const WindowDriver driver;
-    openWith(driver, {});
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
-    driver.click(u"btnTaskRestore"_s);
-    QCOMPARE(boxes.shown().size(), 1);
-    QCOMPARE(boxes.shown().at(0).text, u"You must launch this app with Admin rights!"_s);
-    QVERIFY(!driver.worker().isRunning());
-    QVERIFY(!driver.worker().taskRestoreMode);
-}
-
-void TestTasksPage::restoreWhileAJobRunsIsIgnored()
-{
-    const TaskMachine machine({});
-    machine.machine().setFault(u"schtasks /xml"_s, {.hang = true});
-    const WindowDriver driver;
-    openWith(driver, {});
-    driver.worker().startJob(JobTaskMakeList);
-    const Boxes noBox;
-    driver.click(u"btnTaskRestore"_s);
-    QVERIFY(!driver.worker().taskRestoreMode);
-    QCOMPARE(driver.worker().job, int(JobTaskMakeList));
-    QVERIFY(driver.endJob());
 }
 
 KESTRUNE_WINDOW_SUITE(TestTasksPage)

@@ -159,9 +159,7 @@ private:
 
 void TestTheme::storedTextChoosesTheTheme_data()
 {
-    QTest::addColumn<Windows>("windows");
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QString>("then");
+    addColumns<Windows, QString, QString>("windows", "stored", "then");
     QTest::newRow("10, first start") << Windows::Ten << QString() << u"light"_s;
     QTest::newRow("10, light") << Windows::Ten << u"light"_s << u"light"_s;
     QTest::newRow("10, system") << Windows::Ten << u"system"_s << u"system"_s;
@@ -217,8 +215,7 @@ void TestTheme::cellsOfThePalettes()
 
 void TestTheme::widgetsWearTheirTheme_data()
 {
-    QTest::addColumn<Windows>("windows");
-    QTest::addColumn<QString>("theme");
+    addColumns<Windows, QString>("windows", "theme");
     QTest::newRow("light, 10") << Windows::Ten << u"light"_s;
     QTest::newRow("system, 10") << Windows::Ten << u"system"_s;
     QTest::newRow("dark, 11") << Windows::Eleven << u"dark"_s;
@@ -278,8 +275,7 @@ void TestTheme::headingsAndTextsFollowThePalette()
 
 void TestTheme::noThemeLeavesAllAsItIs_data()
 {
-    QTest::addColumn<Windows>("windows");
-    QTest::addColumn<QString>("stored");
+    addColumns<Windows, QString>("windows", "stored");
     QTest::newRow("dark on 10") << Windows::Ten << u"dark"_s;
     QTest::newRow("hint on 10") << Windows::Ten << hint;
     QTest::newRow("unknown on 10") << Windows::Ten << u"blue"_s;
@@ -307,8 +303,7 @@ void TestTheme::noThemeLeavesAllAsItIs()
 
 void TestTheme::themeInForceIsPutOnAgainUnchanged()
 {
-    TestMachine machine;
-    const WindowDriver driver;
+    const WindowOnPc driver;
     const QString about = driver.get<QTextBrowser>(u"txtAbout"_s)->toHtml();
     driver.window().applyPalette();
     QCOMPARE(driver.get<QTextBrowser>(u"txtAbout"_s)->toHtml(), about);

@@ -264,8 +264,7 @@ void TestTranslations::englishIsAFileWithoutTexts()
 
 void TestTranslations::qtFindsTheFileOfEveryCountry_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("yes");
+    addColumns<QString, QString>("locale", "yes");
     QTest::newRow("Austria") << u"de_AT"_s << u"Ja"_s;
     QTest::newRow("Mexico") << u"es_MX"_s << u"Sí"_s;
     QTest::newRow("Belgium") << u"fr_BE"_s << u"Oui"_s;

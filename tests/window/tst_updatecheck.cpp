@@ -171,8 +171,7 @@ void TestUpdateCheck::otherVersionAsks()
 {
     QFETCH(QByteArray, body);
     const TestMachine pc;
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     Server server;
     server.body = body;
     const UpdateDriver driver;
@@ -192,9 +191,7 @@ void TestUpdateCheck::otherVersionAsks()
 
 void TestUpdateCheck::failureSaysNothingAndCountsForToday_data()
 {
-    QTest::addColumn<QByteArray>("status");
-    QTest::addColumn<qint64>("announced");
-    QTest::addColumn<bool>("hangsUp");
+    addColumns<QByteArray, qint64, bool>("status", "announced", "hangsUp");
     QTest::newRow("no such file") << QByteArray("404 Not Found") << qint64(-1) << false;
     QTest::newRow("server's fault") << QByteArray("500 Internal Server Error") << qint64(-1) << false;
     QTest::newRow("dropped connection") << QByteArray("200 OK") << qint64(100) << true;
@@ -241,8 +238,7 @@ void TestUpdateCheck::hundredMegabytesAreGivenUp()
 void TestUpdateCheck::slowAnswerIsReadWhenItComes()
 {
     const TestMachine pc;
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     Server server;
     server.body = "0.3.15";
     server.delay = 700;
@@ -259,8 +255,7 @@ void TestUpdateCheck::slowAnswerIsReadWhenItComes()
 
 void TestUpdateCheck::yesOpensThePageOfTheLanguage_data()
 {
-    QTest::addColumn<int>("language");
-    QTest::addColumn<QString>("page");
+    addColumns<int, QString>("language", "page");
     QTest::newRow("never chosen") << -1 << u"http://kestrune.example/download.html"_s;
     // Only the window's first state counts as English.
     QTest::newRow("English chosen") << 0 << u"http://kestrune.example/download_fr.html"_s;
@@ -272,8 +267,7 @@ void TestUpdateCheck::yesOpensThePageOfTheLanguage()
     QFETCH(int, language);
     TestMachine pc;
     pc.write(settingsKey, u"lang"_s, u"en"_s);
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
+    Boxes boxes({QMessageBox::Yes});
     Browser browser;
     Server server;
     server.body = "0.3.15";
@@ -289,8 +283,7 @@ void TestUpdateCheck::yesOpensThePageOfTheLanguage()
 void TestUpdateCheck::noOpensNothing()
 {
     const TestMachine pc;
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     Browser browser;
     Server server;
     server.body = "0.3.15";
@@ -334,8 +327,7 @@ void TestUpdateCheck::checkOfAnEarlierDayCountsNoMore()
 
 void TestUpdateCheck::startChecksWhereItIsAskedFor_data()
 {
-    QTest::addColumn<int>("stored");
-    QTest::addColumn<int>("requests");
+    addColumns<int, int>("stored", "requests");
     QTest::newRow("asked for") << 1 << 1;
     QTest::newRow("not asked for") << 0 << 0;
     QTest::newRow("never stored") << -1 << 0;

@@ -74,8 +74,7 @@ private:
 
 void TestNativeTweaks::everyRowIsWritten_data()
 {
-    QTest::addColumn<int>("group");
-    QTest::addColumn<bool>("apply");
+    addColumns<int, bool>("group", "apply");
     for (int group = 0; group < 4; ++group) {
         for (const bool apply : {true, false})
             QTest::addRow("table %d %s", group, apply ? "applied" : "reset") << group << apply;

@@ -5,6 +5,7 @@
 #include "platform/platform.h"
 #include "support/automatizerview.h"
 #include "support/boxes.h"
+#include "support/files.h"
 #include "support/listpages.h"
 #include "support/packageplaces.h"
 #include "support/suite.h"
@@ -82,12 +83,6 @@ QString searchProgram(const QString &ending)
 QString overlayConfig()
 {
     return qEnvironmentVariable("ProgramFiles(x86)") + u"\\RivaTuner Statistics Server\\Profiles\\config"_s;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /** The paths of the tasks that the stand-in keeps as disabled. */
@@ -254,8 +249,7 @@ void TestRealAutomatizer::analyzeFindsWhatIsNeedless()
 void TestRealAutomatizer::optimizeTakesItAway()
 {
     forgetCommands();
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver_->click(u"btnAutomatize"_s);
     QVERIFY(waitFor(u"Optimization finished"_s));
     takePicture(u"automatizer-optimized"_s);
@@ -282,7 +276,7 @@ void TestRealAutomatizer::optimizeTakesItAway()
     QCOMPARE(platform().openKey(userRunKey)->childKeys(), QStringList());
     QCOMPARE(platform().openKey(machineRunKey)->childKeys(), QStringList());
     QCOMPARE(valueOf(xboxTaskKey, u"State"_s).toInt(), 1);
-    QCOMPARE(contentOf(overlayConfig()), QByteArray("[RTSS]\r\nEnableEncoderServer=0\r\n"));
+    QCOMPARE(readFile(overlayConfig()), QByteArray("[RTSS]\r\nEnableEncoderServer=0\r\n"));
     QVERIFY(!QFile::exists(searchProgram(u".exe"_s)) && QFile::exists(searchProgram(u"_disable.exe"_s)));
     for (const TweakTrace &trace : tweakTraces)
         QCOMPARE(valueOf(trace.key, trace.name), trace.optimized);
@@ -317,9 +311,7 @@ void TestRealAutomatizer::optimizeTakesItAway()
 void TestRealAutomatizer::restoreBringsItBack()
 {
     forgetCommands();
-    Boxes boxes;
-    boxes.answer(QMessageBox::Yes);
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::Yes, QMessageBox::No});
     driver_->click(u"btnAutomatizerRestore"_s);
     QVERIFY(waitFor(u"Restoration finished"_s));
     takePicture(u"automatizer-restored"_s);

@@ -111,8 +111,7 @@ void TestRealLists::needlessTasksGoAndComeBack()
 
     // Some of the assistant's choice go: each takes its deliberate pause.
     forgetCommands();
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver_->click(u"btnTaskAssist"_s);
     QStringList needless = driver_->checkedIn(table);
     QVERIFY(needless.size() > 8);
@@ -236,8 +235,7 @@ void TestRealLists::programsAreSwitchedOffAndOn()
                 layFile(program);
         }
     }
-    Menus menus;
-    menus.choose(u"Automatically started programs"_s);
+    Menus menus({u"Automatically started programs"_s});
     driver_->click(u"btnMenuPackage"_s);
     const QStringList listed = driver_->column(table, 0);
     QVERIFY(listed.size() > 5 && listed.contains(u"OneDrive"_s)

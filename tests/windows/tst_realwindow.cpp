@@ -79,9 +79,7 @@ void TestRealWindow::cleanupTestCase()
 
 void TestRealWindow::showsEveryPage_data()
 {
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<QString>("tab");
+    addColumns<QString, QString, QString>("button", "choice", "tab");
     QTest::addColumn<QString>("summary"); // how the status begins after the listing; empty without one
     // clang-format off
     QTest::newRow("0-optimizer") << u"btnMenuHome"_s << QString() << u"tabAutomatizer"_s << QString();
@@ -139,8 +137,7 @@ void TestRealWindow::disablesAndRestoresAService()
     driver_->click(u"btnSvcViewDisabled"_s);
     QVERIFY(driver_->waitForList());
 
-    Boxes boxes;
-    boxes.answer(QMessageBox::No);
+    Boxes boxes({QMessageBox::No});
     driver_->click(u"btnSvcRestore"_s);
     QVERIFY(driver_->waitForList());
     QCOMPARE(boxes.shown().size(), 1);

@@ -2,6 +2,7 @@
 // The seam on the Windows that the test runs on, beside the registry.
 
 #include "platform/windows/windowsplatform.h"
+#include "support/files.h"
 #include "support/suite.h"
 #include "work/command.h"
 #include "work/workthread.h"
@@ -20,13 +21,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("can't write %s", qUtf8Printable(path));
-}
 
 const wchar_t *wide(const QString &text)
 {
@@ -255,8 +249,7 @@ void TestWindowsPlatform::reportTellsTheSystemsTexts()
 
 void TestWindowsPlatform::exitCodesHave32Bits_data()
 {
-    QTest::addColumn<QString>("argument");
-    QTest::addColumn<int>("code");
+    addColumns<QString, int>("argument", "code");
     QTest::newRow("success") << u"0"_s << 0;
     QTest::newRow("already running") << u"1056"_s << 1056;
     QTest::newRow("no such service") << u"1060"_s << 1060;

@@ -86,10 +86,8 @@ private Q_SLOTS:
 
 void TestAutomatizerAnalyze::allLinesInTheirOrder()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
-    WorkThread worker;
-    worker.winName = u"Windows 11 Home"_s;
+    AutomatizerMachine machine;
+    WorkerOn worker(onEleven);
     QCOMPARE(analyze(worker), (QStringList{
                                   u"pgr:max:5"_s,
                                   u"pgr:value:1"_s,
@@ -179,8 +177,7 @@ void TestAutomatizerAnalyze::nothingIsChanged()
     QTemporaryDir folder;
     makeMachine(folder.filePath(u"fresh"_s), QCoreApplication::applicationDirPath() + u"/machines/windows11"_s,
                 Existing::Keep);
-    WorkThread worker;
-    worker.winName = u"Windows 11 Home"_s;
+    WorkerOn worker(onEleven);
     analyze(worker);
     QVERIFY(worker.analyzeServiceCount > 0 && worker.analyzeTaskCount > 0 && worker.analyzePackageCount > 0);
     QStringList changed;
@@ -216,8 +213,7 @@ void TestAutomatizerAnalyze::aRunUnderWayGivesOnlyTheClosingLine()
 
 void TestAutomatizerAnalyze::listsAndCountsBeginAnew()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
+    AutomatizerMachine machine;
     WorkThread worker;
     const QStringList first = analyze(worker);
     const QStringList names = worker.nonVitalServices;
@@ -230,10 +226,7 @@ void TestAutomatizerAnalyze::listsAndCountsBeginAnew()
 
 void TestAutomatizerAnalyze::aServiceIsSelectedOnlyIfItRunsAndIsNotDisabled_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("start");
-    QTest::addColumn<bool>("running");
-    QTest::addColumn<bool>("selected");
+    addColumns<QString, int, bool, bool>("name", "start", "running", "selected");
     QTest::newRow("automatic, running") << u"PcaSvc"_s << 2 << true << true;
     QTest::newRow("in another case") << u"PCASVC"_s << 2 << true << true;
     QTest::newRow("manual, running") << u"PcaSvc"_s << 3 << true << true;
@@ -310,8 +303,7 @@ void TestAutomatizerAnalyze::anInstanceOfAKeptServiceIsFoundByItsBeginning()
 
 void TestAutomatizerAnalyze::manualStartGoesByTheStartValue_data()
 {
-    QTest::addColumn<int>("start");
-    QTest::addColumn<bool>("found");
+    addColumns<int, bool>("start", "found");
     for (const int start : {0, 3, 4})
         QTest::addRow("%d stays", start) << start << false;
     for (const int start : {-1, 1, 2, 5})
@@ -414,8 +406,7 @@ void TestAutomatizerAnalyze::theOldXboxPackageHasANote()
 {
     TestMachine machine;
     installPackage(machine, u"Microsoft.XboxApp"_s);
-    WorkThread worker;
-    worker.winName = u"Windows 11 Home"_s;
+    WorkerOn worker(onEleven);
     QVERIFY(analyze(worker).contains(
         u"Package: can be uninstalled: Microsoft.XboxApp (Old Xbox App, no longer supported!)"_s));
 }
@@ -443,8 +434,7 @@ void TestAutomatizerAnalyze::withoutProgramsTheirSectionsAreSkippedAndTheirLists
 
 void TestAutomatizerAnalyze::encoders_data()
 {
-    QTest::addColumn<QStringList>("processes");
-    QTest::addColumn<QStringList>("found");
+    addColumns<QStringList, QStringList>("processes", "found");
     const QString short_ = u"EncoderServer.exe"_s;
     const QString long_ = u"EncoderServer64.exe"_s;
     QTest::newRow("none") << QStringList{u"RTSS.exe"_s} << QStringList();

@@ -215,8 +215,7 @@ void TestAutomatizerDifference::machinesAreAsTheyShouldBe()
         restore(worker);
         restored = wholeState(machine);
     }
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
+    AutomatizerMachine machine;
     QCOMPARE(wholeState(machine), fresh);
     WorkThread worker;
     keepOnly(worker, kept);
@@ -234,8 +233,7 @@ void TestAutomatizerDifference::machinesAreAsTheyShouldBe()
 
 void TestAutomatizerDifference::aSecondRunBringsBackWhatIsKept()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
+    AutomatizerMachine machine;
     {
         WorkThread worker;
         keepOnly(worker, {});

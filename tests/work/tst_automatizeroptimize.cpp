@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of Optimize: its phases, their lines, pauses, commands and records.
 
+#include "joblines.h"
+#include "support/files.h"
 #include "support/suite.h"
 #include "tweakruns.h"
 #include "work/automatizer/automatizer.h"
@@ -14,19 +16,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString onEleven = u"Windows 11 Home"_s;
-const QString onTen = u"Windows 10 Home"_s;
 const QStringList features{u"pgr: Features"_s, u"pgr:max:3"_s,
                            u"pgr:value:0"_s,   u"Features: applies SSD optimizations"_s,
                            u"pgr:value:1"_s,   u"Features: applies Gaming optimizations"_s,
                            u"pgr:value:2"_s,   u"Features: applies Windows optimizations"_s,
                            u"pgr:value:3"_s,   u"tweaksDone"_s};
-
-QByteArray contentOf(const QString &file)
-{
-    QFile opened(file);
-    return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
-}
 
 /** A worker as Analyze leaves it that has found nothing; no tweaks. */
 void findNothing(WorkThread &worker)
@@ -87,10 +81,8 @@ private Q_SLOTS:
 
 void TestAutomatizerOptimize::allLinesInTheirOrder()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
-    WorkThread worker;
-    worker.winName = onEleven;
+    AutomatizerMachine machine;
+    WorkerOn worker(onEleven);
     const QStringList expected =
         QStringList{
             u"pgr: Services"_s,
@@ -141,10 +133,8 @@ void TestAutomatizerOptimize::allLinesInTheirOrder()
 
 void TestAutomatizerOptimize::commandsAndPausesInTheirOrder()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
-    WorkThread worker;
-    worker.winName = onEleven;
+    AutomatizerMachine machine;
+    WorkerOn worker(onEleven);
     worker.automatizerTweak = 0;
     linesOf(worker, JobAutomatizerAnalyze);
     ToolRuns runs(machine);
@@ -169,10 +159,8 @@ void TestAutomatizerOptimize::commandsAndPausesInTheirOrder()
 
 void TestAutomatizerOptimize::recordsAndValuesOfAFullRun()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
-    WorkThread worker;
-    worker.winName = onEleven;
+    AutomatizerMachine machine;
+    WorkerOn worker(onEleven);
     worker.automatizerTweak = 0;
     optimize(worker);
     const QVariant timeout = machine.read(controlKey, u"WaitToKillServiceTimeout"_s);
@@ -203,8 +191,7 @@ void TestAutomatizerOptimize::aRunUnderWayDoesNothing()
 
 void TestAutomatizerOptimize::withoutFindingsOnlyTheEndIsTold_data()
 {
-    QTest::addColumn<int>("tweak");
-    QTest::addColumn<QStringList>("lines");
+    addColumns<int, QStringList>("tweak", "lines");
     QTest::newRow("without features") << 0 << QStringList{u"automatizerEnd"_s};
     QTest::newRow("with features") << 1 << features;
 }
@@ -307,8 +294,7 @@ void TestAutomatizerOptimize::aServiceThatWasDisabledIsNotSetToManual()
 
 void TestAutomatizerOptimize::pausesOfTasksGoByTheGeneration_data()
 {
-    QTest::addColumn<QString>("winName");
-    QTest::addColumn<int>("pause");
+    addColumns<QString, int>("winName", "pause");
     QTest::newRow("Windows 11") << onEleven << 200;
     QTest::newRow("Windows 10") << onTen << 1020;
     QTest::newRow("unknown") << u"unknown"_s << 200;
@@ -360,9 +346,7 @@ void TestAutomatizerOptimize::aHangingTaskToolIsAFailure()
 
 void TestAutomatizerOptimize::tasksOfKeptFeaturesComeBackOnceOptimized_data()
 {
-    QTest::addColumn<int>("printer");
-    QTest::addColumn<int>("vpn");
-    QTest::addColumn<QStringList>("paths");
+    addColumns<int, int, QStringList>("printer", "vpn", "paths");
     const QString printing = u"\\Microsoft\\Windows\\Printing\\"_s;
     const QStringList printers{printing + u"EduPrintProv"_s, printing + u"PrinterCleanupTask"_s,
                                printing + u"PrintJobCleanupTask"_s};
@@ -405,8 +389,7 @@ void TestAutomatizerOptimize::tasksOfKeptFeaturesComeBackOnceOptimized()
 
 void TestAutomatizerOptimize::packagesOfKeptFeaturesComeBackOnceOptimized_data()
 {
-    QTest::addColumn<std::atomic<int> WorkThread::*>("keep");
-    QTest::addColumn<QStringList>("names");
+    addColumns<std::atomic<int> WorkThread::*, QStringList>("keep", "names");
     const auto row = [](const char *name, std::atomic<int> WorkThread::*keep, const QStringList &names) {
         QTest::newRow(name) << keep << names;
     };
@@ -424,8 +407,7 @@ void TestAutomatizerOptimize::packagesOfKeptFeaturesComeBackOnceOptimized()
 {
     QFETCH(std::atomic<int> WorkThread::*const, keep);
     QFETCH(const QStringList, names);
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     WorkThread worker;
     findNothing(worker);
     for (std::atomic<int> *each : {&worker.keepXboxGameBar, &worker.keepXboxApp, &worker.keepCodecs})
@@ -455,8 +437,7 @@ void TestAutomatizerOptimize::packagesOfKeptFeaturesComeBackOnceOptimized()
 
 void TestAutomatizerOptimize::aPackageThatIsStillListedIsNotInstalled()
 {
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     machine.write(settingsKey, u"optimized"_s, 1);
     WorkThread worker;
     findNothing(worker);
@@ -470,8 +451,7 @@ void TestAutomatizerOptimize::aPackageThatIsStillListedIsNotInstalled()
 
 void TestAutomatizerOptimize::aSecondRunWithoutAnalyzeRemovesWhatTheFirstInstalled()
 {
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     machine.write(settingsKey, u"optimized"_s, 1);
     WorkThread worker;
     findNothing(worker);
@@ -487,9 +467,7 @@ void TestAutomatizerOptimize::aSecondRunWithoutAnalyzeRemovesWhatTheFirstInstall
 
 void TestAutomatizerOptimize::autorunRecords_data()
 {
-    QTest::addColumn<QString>("row");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("record");
+    addColumns<QString, QString, QString>("row", "name", "record");
     const auto path = [](const char *name) { return userRunKey + u'\\' + QString::fromLatin1(name); };
     QTest::newRow("plain") << path("A") + u"=a.exe -x"_s << u"A"_s << u"a.exe -x="_s + path("A");
     QTest::newRow("cut at its first =") << path("A") + u"=\"a.exe\" --mode=tray --lang=en"_s << u"A"_s
@@ -536,8 +514,7 @@ void TestAutomatizerOptimize::aLongerNameThanATasksIsARunValue()
 
 void TestAutomatizerOptimize::withoutProgramsNeitherPackagesNorAutorunsAreTouched()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
+    AutomatizerMachine machine;
     WorkThread worker;
     findNothing(worker);
     linesOf(worker, JobAutomatizerAnalyze);
@@ -551,8 +528,7 @@ void TestAutomatizerOptimize::withoutProgramsNeitherPackagesNorAutorunsAreTouche
 
 void TestAutomatizerOptimize::encoderFile_data()
 {
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QByteArray>("after");
+    addColumns<QByteArray, QByteArray>("before", "after");
     const auto row = [](const char *name, const QByteArray &before, const QByteArray &after) {
         QTest::newRow(name) << before << after;
     };
@@ -577,7 +553,7 @@ void TestAutomatizerOptimize::encoderFile()
     encoderServerFound = 1;
     QCOMPARE(linesOf(worker, JobAutomatizerOptimize),
              (QStringList{u"Process: disable EncoderServer done"_s, u""_s, u"automatizerEnd"_s}));
-    QCOMPARE(contentOf(file), after);
+    QCOMPARE(readFile(file), after);
 }
 
 void TestAutomatizerOptimize::theEncoderGoesWithBothBoxesOff()
@@ -604,11 +580,7 @@ void TestAutomatizerOptimize::anEncoderFileThatIsGoneSaysNothing()
 
 void TestAutomatizerOptimize::tweaksGoByTheMachine_data()
 {
-    QTest::addColumn<QString>("winName");
-    QTest::addColumn<QString>("battery");
-    QTest::addColumn<int>("gameBar");
-    QTest::addColumn<QStringList>("cards");
-    QTest::addColumn<QString>("tweaks");
+    addColumns<QString, QString, int, QStringList, QString>("winName", "battery", "gameBar", "cards", "tweaks");
     const QString none = u"-1"_s;
     const QStringList amdFirst{u"AMD Radeon RX 7800 XT"_s, u"NVIDIA GeForce"_s};
     const QStringList amdSecond{u"NVIDIA GeForce"_s, u"AMD Radeon"_s};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of Restore: what comes back, and what doesn't.
 
+#include "joblines.h"
 #include "support/suite.h"
 #include "tweakruns.h"
 #include "work/automatizer/automatizer.h"
@@ -57,10 +58,8 @@ private Q_SLOTS:
 
 void TestAutomatizerRestore::allLinesInTheirOrder()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
-    WorkThread worker;
-    worker.winName = u"Windows 11 Home"_s;
+    AutomatizerMachine machine;
+    WorkerOn worker(onEleven);
     optimize(worker);
     machine.platform().takePauses();
     QCOMPARE(restore(worker), (QStringList{
@@ -110,8 +109,7 @@ void TestAutomatizerRestore::allLinesInTheirOrder()
 
 void TestAutomatizerRestore::whatComesBackAndWhatDoesNot()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
+    AutomatizerMachine machine;
     WorkThread worker;
     withoutFeatures(worker);
     worker.keepPrinter = 0;
@@ -151,8 +149,7 @@ void TestAutomatizerRestore::whatComesBackAndWhatDoesNot()
 
 void TestAutomatizerRestore::whatOptimizeBroughtBackStaysUnlessRecorded()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
+    AutomatizerMachine machine;
     machine.write(servicesKey + u"\\Spooler"_s, u"Start"_s, 4);
     machine.machine().setRunning(u"Spooler"_s, false);
     machine.write(settingsKey, u"optimized"_s, 1);
@@ -221,8 +218,7 @@ void TestAutomatizerRestore::tasksComeBackWithoutARecordBeingWritten()
 
 void TestAutomatizerRestore::packagesStayRecorded()
 {
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     machine.write(packageRecordsKey, u"A"_s, 1);
     machine.write(packageRecordsKey, u"B"_s, 1);
     WorkThread worker;
@@ -246,10 +242,7 @@ void TestAutomatizerRestore::aSingleAutorunStaysOffWithoutAWord()
 
 void TestAutomatizerRestore::autorunsComeBack_data()
 {
-    QTest::addColumn<QString>("record");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("written");
-    QTest::addColumn<bool>("told");
+    addColumns<QString, QString, QVariant, bool>("record", "key", "written", "told");
     const QString user = userRunKey + u"\\A"_s;
     const auto row = [](const char *name, const QString &record, const QString &key, const QVariant &written,
                         bool told = true) { QTest::newRow(name) << record << key << written << told; };
@@ -292,8 +285,7 @@ void TestAutomatizerRestore::autorunsComeBack()
 
 void TestAutomatizerRestore::withoutProgramsServicesAndTasksComeBack()
 {
-    TestMachine machine;
-    fillAutomatizerMachine(machine);
+    AutomatizerMachine machine;
     WorkThread worker;
     withoutFeatures(worker);
     optimize(worker);
@@ -318,9 +310,7 @@ void TestAutomatizerRestore::theFlagStaysSetAfterFeatures()
 
 void TestAutomatizerRestore::tweaksGoByTheGeneration_data()
 {
-    QTest::addColumn<QString>("winName");
-    QTest::addColumn<QString>("battery");
-    QTest::addColumn<QString>("tweaks");
+    addColumns<QString, QString, QString>("winName", "battery", "tweaks");
     // clang-format off
     const QString eleven = u"S1 S2 S3 S4 S5 S6 S7 S9 G1 G2 G3 G4 G5 G6 G7 G8 G9 G10 G11 G12 G13 "
                            "W1 W2 W3 W4 W5 W6 W7 W8 W9 W10"_s;
@@ -338,8 +328,7 @@ void TestAutomatizerRestore::tweaksGoByTheGeneration()
     QFETCH(const QString, tweaks);
     const auto leftBy = [&](const std::function<void(WorkThread &)> &run) {
         const TestMachine machine(winName.contains("10"_L1) ? TestMachine::Windows::Ten : TestMachine::Windows::Eleven);
-        WorkThread worker;
-        worker.winName = winName;
+        WorkerOn worker(winName);
         worker.batteryCharge = battery;
         run(worker);
         return stateOf(machine);

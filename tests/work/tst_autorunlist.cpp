@@ -86,8 +86,7 @@ void TestAutorunList::subkeysAreNotListed()
 
 void TestAutorunList::securityHealthIsHiddenInTheMachinesKeyAlone_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("hidden");
+    addColumns<QString, bool>("name", "hidden");
     QTest::newRow("name") << u"SecurityHealth"_s << true;
     QTest::newRow("in another case") << u"SECURITYhealth"_s << true;
     QTest::newRow("within a name") << u"My SecurityHealthSystray 2"_s << true;
@@ -113,8 +112,7 @@ void TestAutorunList::securityHealthIsHiddenInTheMachinesKeyAlone()
 
 void TestAutorunList::dataIsTakenAsItIs_data()
 {
-    QTest::addColumn<QVariant>("data");
-    QTest::addColumn<QString>("text");
+    addColumns<QVariant, QString>("data", "text");
     const auto row = [](const char *title, const QString &text) { QTest::newRow(title) << QVariant(text) << text; };
     row("quotes", u"\"C:\\Program Files\\a.exe\" --start \"x y\""_s);
     row("equals sign", u"a.exe --mode=quiet -x=1"_s);
@@ -165,8 +163,7 @@ void TestAutorunList::nameIsTakenAsItIs()
 
 void TestAutorunList::taskIsListedWhileItsStateIs2_data()
 {
-    QTest::addColumn<QVariant>("state");
-    QTest::addColumn<bool>("listed");
+    addColumns<QVariant, bool>("state", "listed");
     for (const int state : {-1, 0, 1, 2, 3, 4, 22})
         QTest::addRow("%d", state) << QVariant(state) << (state == 2);
     QTest::newRow("none") << QVariant() << false;

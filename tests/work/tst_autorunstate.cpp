@@ -58,8 +58,7 @@ private Q_SLOTS:
 
 void TestAutorunState::tasksAreToldByTheirName_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("isTask");
+    addColumns<QString, bool>("name", "isTask");
     QTest::newRow("Terminal") << u"StartTerminalOnLoginTask"_s << true;
     QTest::newRow("Xbox") << u"Xbox.App.Tasks.FullTrustComponent"_s << true;
     QTest::newRow("in another case") << u"startterminalonlogintask"_s << true;
@@ -190,8 +189,7 @@ void TestAutorunState::noToolIsStarted()
 
 void TestAutorunState::commandInQuotesComesBackWhileItsProgramIsThere_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("comesBack");
+    addColumns<QString, bool>("text", "comesBack");
     const auto row = [](const char *title, const QString &text, bool comesBack) {
         QTest::newRow(title) << text << comesBack;
     };

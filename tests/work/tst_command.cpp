@@ -364,10 +364,9 @@ void TestCommand::waitingForOutputOfAProgramThatHasEndedIsDoneAtOnce()
     machine.machine().setFault(u"sc"_s, {.output = QString()});
     Command command;
     QCOMPARE(exitCodeOf(command, u"sc"_s, {u"query"_s}), 0);
-    QElapsedTimer timer;
-    timer.start();
+    Command::timeLimit = std::numeric_limits<int>::max();
     command.waitForReadyRead();
-    QVERIFY(timer.elapsed() < 15000); // and not the whole limit
+    QCOMPARE(command.readAllStandardOutput(), QByteArray());
 }
 
 void TestCommand::waitingForOutputOfASilentProgramEndsAtTheTimeLimit()
@@ -390,10 +389,8 @@ void TestCommand::waitingForOutputEndsWhenThereIsSome()
     machine.machine().setFault(u"sc"_s, {.hang = true, .output = u"text"_s});
     Command command;
     command.start(u"sc"_s, {u"query"_s});
-    QElapsedTimer timer;
-    timer.start();
+    Command::timeLimit = std::numeric_limits<int>::max();
     command.waitForReadyRead();
-    QVERIFY(timer.elapsed() < 15000); // and not the whole limit
     QCOMPARE(command.readAllStandardOutput(), "text"_ba);
 }
 

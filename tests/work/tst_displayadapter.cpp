@@ -21,8 +21,7 @@ private Q_SLOTS:
 
 void TestDisplayAdapter::firstAdapterCounts_data()
 {
-    QTest::addColumn<QStringList>("captions");
-    QTest::addColumn<QString>("first");
+    addColumns<QStringList, QString>("captions", "first");
     QTest::newRow("one") << QStringList{u"AMD Radeon RX 7600"_s} << u"AMD Radeon RX 7600"_s;
     QTest::newRow("two") << QStringList{u"Intel(R) UHD Graphics"_s, u"AMD Radeon"_s} << u"Intel(R) UHD Graphics"_s;
     QTest::newRow("no name") << QStringList{QString()} << QString();

@@ -66,8 +66,7 @@ void TestErrorLog::thereIsNoFileUnlessTheSettingIs1()
 
 void TestErrorLog::aLineHasDateTimeAndMessage()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     const QString before = QDate::currentDate().toString(Qt::TextDate);
     LogError(u"SvcMakeList: something went wrong"_s);
     const QString after = QDate::currentDate().toString(Qt::TextDate);
@@ -88,16 +87,14 @@ void TestErrorLog::aLineHasDateTimeAndMessage()
 
 void TestErrorLog::theMessageIsWrittenAsUtf8()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     LogError(u"Dienst „Überprüfung“ 服务"_s);
     QVERIFY(logBytes(machine).contains("Dienst „Überprüfung“ 服务"));
 }
 
 void TestErrorLog::linesAreAppendedToWhatIsThere()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     QFile file(logFile(machine));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("Mon Jan 5 2026 - 10:00:00: from before\n");
@@ -110,8 +107,7 @@ void TestErrorLog::linesAreAppendedToWhatIsThere()
 
 void TestErrorLog::switchingItOffStopsTheLines()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     LogError(u"first"_s);
     machine.write(settingsKey, u"LogError"_s, 0);
     LogError(u"second"_s);
@@ -120,8 +116,7 @@ void TestErrorLog::switchingItOffStopsTheLines()
 
 void TestErrorLog::aLogThatCantBeWrittenIsPassedOverInSilence()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.add({.name = u"Spooler"_s, .description = u"@nodll.dll,-1"_s});
     machine.addFile(u"C:\\Windows\\System32\\nodll.dll"_s);
     QVERIFY(QDir().mkpath(logFile(machine)));
@@ -138,8 +133,7 @@ void TestErrorLog::aLogThatCantBeWrittenIsPassedOverInSilence()
 void TestErrorLog::twoThreadsAtOnceGiveWholeLines()
 {
     constexpr int each = 200;
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     const auto writer = [](const QString &name) {
         return QThread::create([name] {
             for (int i = 0; i < each; ++i)

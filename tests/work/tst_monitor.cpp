@@ -94,8 +94,7 @@ private Q_SLOTS:
 
 void TestMonitor::aLoadIsShownCorrected_data()
 {
-    QTest::addColumn<float>("load");
-    QTest::addColumn<QString>("text");
+    addColumns<float, QString>("load", "text");
     // clang-format off
     QTest::newRow("idle")                    << 0.0F      << u"1"_s;
     QTest::newRow("0.4")                     << 0.4F      << u"1"_s;
@@ -126,10 +125,7 @@ void TestMonitor::aLoadIsShownCorrected()
 
 void TestMonitor::theLoadIsTheShareThatWasNotIdle_data()
 {
-    QTest::addColumn<quint64>("idle");
-    QTest::addColumn<quint64>("kernel");
-    QTest::addColumn<quint64>("user");
-    QTest::addColumn<QString>("text");
+    addColumns<quint64, quint64, quint64, QString>("idle", "kernel", "user", "text");
     const auto row = [](const char *title, quint64 idle, quint64 kernel, quint64 user, const QString &text) {
         QTest::newRow(title) << idle << kernel << user << text;
     };
@@ -198,8 +194,7 @@ void TestMonitor::eachRunMeasuresAnew()
 
 void TestMonitor::theCountOfProcessesStopsAt1024_data()
 {
-    QTest::addColumn<int>("processes");
-    QTest::addColumn<int>("shown");
+    addColumns<int, int>("processes", "shown");
     QTest::newRow("none but the idle one") << 0 << 1;
     QTest::newRow("one") << 1 << 2;
     QTest::newRow("as many as there is room for") << 1023 << 1024;
@@ -236,8 +231,7 @@ void TestMonitor::handlesThatAreNoNumbersCountNothing()
 
 void TestMonitor::aFailedQueryGivesNoHandlesAndIsLogged()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     WorkThread worker;
     worker.monitorThreadAndHandle = 1;
     QCOMPARE(lineOf(worker).section(u" | "_s, 2, 3), u"threads 0 | handles 0"_s);

@@ -64,8 +64,7 @@ void TestPackageCatalogue::packagesOfFeatures()
 
 void TestPackageCatalogue::commentIsFoundByTheNameInIt_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("comment");
+    addColumns<QString, QString>("name", "comment");
     const auto row = [](const QString &name, const QString &comment) {
         QTest::addRow("%s", qPrintable(name)) << name << comment;
     };

@@ -105,10 +105,7 @@ private Q_SLOTS:
 
 void TestPackageList::catalogueFollowsTheKeepListAndTheWindows_data()
 {
-    QTest::addColumn<bool>("eleven");
-    QTest::addColumn<int>("keepBar");
-    QTest::addColumn<int>("keepApp");
-    QTest::addColumn<int>("keepCodecs");
+    addColumns<bool, int, int, int>("eleven", "keepBar", "keepApp", "keepCodecs");
     for (const bool eleven : {false, true}) {
         for (const int bar : {0, 2}) {
             for (const int app : {0, 2}) {
@@ -129,8 +126,7 @@ void TestPackageList::catalogueFollowsTheKeepListAndTheWindows()
     QFETCH(const int, keepCodecs);
     TestMachine machine;
     addPackages(machine, gameBar + xboxApp + codecs);
-    WorkThread worker;
-    worker.winName = eleven ? u"Windows 11 Home"_s : u"Windows 10 Home"_s;
+    WorkerOn worker(eleven ? u"Windows 11 Home"_s : u"Windows 10 Home"_s);
     worker.keepXboxGameBar = keepBar;
     worker.keepXboxApp = keepApp;
     worker.keepCodecs = keepCodecs;
@@ -152,8 +148,7 @@ void TestPackageList::catalogueFollowsTheKeepListAndTheWindows()
 void TestPackageList::catalogueIsMadeAnewInEachRun()
 {
     TestMachine machine;
-    WorkThread worker;
-    worker.winName = u"Windows 11 Home"_s;
+    WorkerOn worker(onEleven);
     QCOMPARE(worker.nonVitalPackages, QStringList{QString()});
     worker.keepXboxApp = 0;
     worker.keepCodecs = 0;
@@ -169,8 +164,7 @@ void TestPackageList::catalogueIsMadeAnewInEachRun()
 void TestPackageList::keepStateOtherThan0Keeps()
 {
     TestMachine machine;
-    WorkThread worker;
-    worker.winName = u"Windows 10 Home"_s;
+    WorkerOn worker(onTen);
     worker.keepXboxGameBar = worker.keepXboxApp = worker.keepCodecs = 1;
     worker.PackageGetList();
     QCOMPARE(worker.nonVitalPackages, removablePackageNames());
@@ -212,8 +206,7 @@ void TestPackageList::switchedOffEntryNeverMatches()
 
 void TestPackageList::familyNameIsComparedExactly_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("listed");
+    addColumns<QString, bool>("name", "listed");
     const auto row = [](const QString &name, bool listed) { QTest::addRow("%s", qPrintable(name)) << name << listed; };
     row(u"Microsoft.Getstarted"_s, true);
     row(u"Microsoft.GetStarted"_s, false);
@@ -266,8 +259,7 @@ void TestPackageList::oddNamesArePassedOver()
 
 void TestPackageList::oneVersionOfOnePackageStaysOut_data()
 {
-    QTest::addColumn<QString>("fullName");
-    QTest::addColumn<bool>("listed");
+    addColumns<QString, bool>("fullName", "listed");
     const auto row = [](const QString &name, bool listed) { QTest::addRow("%s", qPrintable(name)) << name << listed; };
     row(u"Microsoft.YourPhone_0.24112.110.0_neutral_~_8wekyb3d8bbwe"_s, false);
     row(u"Microsoft.YourPhone_0.24112.110.0_neutral"_s, false);
@@ -319,8 +311,7 @@ void TestPackageList::rowsComeInTheOrderOfTheRegistry()
 
 void TestPackageList::displayName_data()
 {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("shown");
+    addColumns<QVariant, QString>("value", "shown");
     const QString family = u"Microsoft.Todos"_s;
     QTest::newRow("plain") << QVariant(u"To Do: lists"_s) << u"To Do: lists"_s;
     QTest::newRow("missing") << QVariant() << family;
@@ -364,8 +355,7 @@ void TestPackageList::commentIsLookedUp()
 {
     TestMachine machine;
     addPackages(machine, {u"Microsoft.ScreenSketch"_s, oldApp, u"microsoft.windowscommunicationsapps"_s});
-    WorkThread worker;
-    worker.winName = u"Windows 11 Home"_s;
+    WorkerOn worker(onEleven);
     worker.PackageGetList();
     QCOMPARE(worker.packages.size(), 3);
     QCOMPARE(worker.packages.at(0).comment, u"Screenshot tool"_s);
@@ -375,8 +365,7 @@ void TestPackageList::commentIsLookedUp()
 
 void TestPackageList::missingTreeGivesAnEmptyList()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     WorkThread worker;
     JobLines lines(worker);
     QVERIFY(runJob(worker, 2));
@@ -431,8 +420,7 @@ void TestPackageList::featureIsToldAlsoByAPackageThatIsNotListed()
 {
     TestMachine machine;
     addPackages(machine, {u"Microsoft.GamingApp"_s});
-    WorkThread worker;
-    worker.winName = u"Windows 10 Home"_s;
+    WorkerOn worker(onTen);
     worker.PackageGetList();
     QCOMPARE(namesOf(worker.packages), QStringList());
     QCOMPARE(worker.hasXboxApp, 1);
@@ -440,9 +428,7 @@ void TestPackageList::featureIsToldAlsoByAPackageThatIsNotListed()
 
 void TestPackageList::oneDriveHasARowOnlyWithASetup_data()
 {
-    QTest::addColumn<bool>("program");
-    QTest::addColumn<bool>("systemSetup");
-    QTest::addColumn<bool>("registered");
+    addColumns<bool, bool, bool>("program", "systemSetup", "registered");
     QTest::addColumn<QString>("comment"); // empty: no row
     const QString own = u"C:\\OneDrive\\OneDriveSetup.exe"_s;
     for (const bool registered : {false, true}) {
@@ -609,8 +595,7 @@ void TestPackageList::aRunEmptiesTheListOfBefore()
 
 void TestPackageList::noToolIsStartedAndNothingIsLogged()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.addFile(oneDriveProgram);
     addPackages(machine, {u"Microsoft.Todos"_s});
     WorkThread worker;

@@ -25,8 +25,7 @@ private Q_SLOTS:
 
 void TestPackageRecord::doneLineNamesThePackage_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("name");
+    addColumns<QString, QString>("line", "name");
     const auto row = [](const char *title, const QString &line, const QString &name) {
         QTest::newRow(title) << line << name;
     };

@@ -108,8 +108,7 @@ void TestPackageState::powershellGetsExactlyTheseArguments_data()
 void TestPackageState::powershellGetsExactlyTheseArguments()
 {
     QFETCH(const bool, install);
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     WorkThread worker;
     worker.packagesToChange = {row(u"Microsoft.Todos"_s, u"a remark"_s)};
     worker.packageInstall = install;
@@ -145,8 +144,7 @@ void TestPackageState::nameIsHandedOverAsItIs_data()
 void TestPackageState::nameIsHandedOverAsItIs()
 {
     QFETCH(const QString, name);
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     WorkThread worker;
     JobLines lines(worker);
     worker.PackageSetState({row(name)}, false);
@@ -158,8 +156,7 @@ void TestPackageState::nameIsHandedOverAsItIs()
 
 void TestPackageState::packagesAreHandledInTheirOrder()
 {
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     WorkThread worker;
     JobLines lines(worker);
     worker.PackageSetState({row(u"C"_s), row(u"A"_s), row(u"B"_s), row(u"A"_s)}, false);
@@ -173,8 +170,7 @@ void TestPackageState::packagesAreHandledInTheirOrder()
 
 void TestPackageState::pathOfPowershellIsFoundAnew()
 {
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     WorkThread worker;
     worker.powerShellPath = u"C:\\elsewhere.exe"_s;
     worker.PackageSetState({row(u"A"_s)}, false);
@@ -184,9 +180,7 @@ void TestPackageState::pathOfPowershellIsFoundAnew()
 
 void TestPackageState::missingPowershellCountsAsDone_data()
 {
-    QTest::addColumn<int>("optimize");
-    QTest::addColumn<bool>("install");
-    QTest::addColumn<QStringList>("expected");
+    addColumns<int, bool, QStringList>("optimize", "install", "expected");
     QTest::newRow("page, uninstall") << 0 << false << QStringList{pageLine(false, u"package: A: done"_s), removedAll};
     QTest::newRow("page, install") << 0 << true << QStringList{pageLine(true, u"package: A: done"_s), installedAll};
     QTest::newRow("optimize, uninstall") << 1 << false
@@ -223,8 +217,7 @@ void TestPackageState::oneDrivesUninstallerIsTheRowsComment_data()
 void TestPackageState::oneDrivesUninstallerIsTheRowsComment()
 {
     QFETCH(const QString, program);
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     machine.addFile(program);
     machine.machine().setFault(u"onedrivesetup"_s, {.exitCode = 0});
     machine.write(startupKey, u"OneDrive"_s, u"x"_s);
@@ -239,8 +232,7 @@ void TestPackageState::oneDrivesUninstallerIsTheRowsComment()
 
 void TestPackageState::oneDrivesInstallerIsInTheFolderOf32Bits()
 {
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     machine.addFile(setup32);
     machine.machine().setFault(u"onedrivesetup"_s, {.exitCode = 0});
     machine.write(startupKey, u"OneDrive"_s, u"x"_s);
@@ -297,8 +289,7 @@ void TestPackageState::failingSetupOfOneDriveIsAnError()
 
 void TestPackageState::startUpValueGoesWithTwoPackages_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("goes");
+    addColumns<QString, bool>("name", "goes");
     QTest::newRow("app") << u"Microsoft.OneDrive"_s << true;
     QTest::newRow("old app") << u"microsoft.microsoftskydrive"_s << true;
     QTest::newRow("app in another case") << u"microsoft.onedrive"_s << false;
@@ -328,9 +319,7 @@ void TestPackageState::startUpValueGoesWithTwoPackages()
 
 void TestPackageState::pageIsToldOfEachPackage_data()
 {
-    QTest::addColumn<bool>("install");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QStringList>("expected");
+    addColumns<bool, int, QStringList>("install", "exitCode", "expected");
     QTest::newRow("removed") << false << 0 << QStringList{u"page:    Uninstall   package: A.B: done"_s, removedAll};
     QTest::newRow("not removed") << false << 1
                                  << QStringList{u"page:    Uninstall   package: A.B: error"_s, removedAll};
@@ -359,10 +348,7 @@ void TestPackageState::pageIsToldOfEachPackage()
 
 void TestPackageState::oldXboxAppHasALineOfItsOwn_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<int>("optimize");
-    QTest::addColumn<QString>("text");
+    addColumns<QString, int, int, QString>("name", "exitCode", "optimize", "text");
     const QString app = u"Microsoft.XboxApp"_s;
     QTest::newRow("done") << app << 0 << 0
                           << u"package: Microsoft.XboxApp (Old Xbox App, no longer supported!) : done"_s;
@@ -392,10 +378,7 @@ void TestPackageState::oldXboxAppHasALineOfItsOwn()
 
 void TestPackageState::automatizerIsToldOfEachPackageAndRecordsIt_data()
 {
-    QTest::addColumn<bool>("restore");
-    QTest::addColumn<bool>("install");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QString>("text");
+    addColumns<bool, bool, int, QString>("restore", "install", "exitCode", "text");
     for (const bool restore : {false, true}) {
         const char *phase = restore ? "restore" : "optimize";
         QTest::addRow("%s, removed", phase) << restore << false << 0 << u"uninstall Microsoft.Todos done"_s;
@@ -432,32 +415,24 @@ void TestPackageState::automatizerIsToldOfEachPackageAndRecordsIt()
 
 void TestPackageState::flagsDecideTheLines_data()
 {
-    QTest::addColumn<int>("analyze");
-    QTest::addColumn<int>("optimize");
-    QTest::addColumn<int>("restore");
-    QTest::addColumn<QStringList>("expected");
+    addColumns<Phases, QStringList>("phases", "expected");
     const QStringList automatizer{automatizerLine(u"uninstall A done"_s), u"automatizer: pgr:value:1"_s,
                                   automatizerLine(u"uninstall B done"_s), u"automatizer: pgr:value:2"_s};
     const QStringList page{pageLine(false, u"package: A: done"_s), pageLine(false, u"package: B: done"_s), removedAll};
-    QTest::newRow("page") << 0 << 0 << 0 << page;
-    QTest::newRow("analyze") << 1 << 0 << 0 << page;
-    QTest::newRow("optimize") << 0 << 1 << 0 << automatizer;
-    QTest::newRow("restore") << 0 << 0 << 1 << automatizer + QStringList{removedAll};
-    QTest::newRow("optimize and restore") << 0 << 1 << 1 << automatizer;
+    QTest::newRow("page") << Phases{0, 0, 0} << page;
+    QTest::newRow("analyze") << Phases{1, 0, 0} << page;
+    QTest::newRow("optimize") << Phases{0, 1, 0} << automatizer;
+    QTest::newRow("restore") << Phases{0, 0, 1} << automatizer + QStringList{removedAll};
+    QTest::newRow("optimize and restore") << Phases{0, 1, 1} << automatizer;
 }
 
 void TestPackageState::flagsDecideTheLines()
 {
-    QFETCH(const int, analyze);
-    QFETCH(const int, optimize);
-    QFETCH(const int, restore);
+    QFETCH(const Phases, phases);
     QFETCH(const QStringList, expected);
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     WorkThread worker;
-    worker.analyzeRunning = analyze;
-    worker.optimizeRunning = optimize;
-    worker.restoreRunning = restore;
+    phases.mark(worker);
     JobLines lines(worker);
     worker.PackageSetState({row(u"A"_s), row(u"B"_s)}, false);
     QCOMPARE(lines.all(), expected);
@@ -465,8 +440,7 @@ void TestPackageState::flagsDecideTheLines()
 
 void TestPackageState::automatizersInstallationStaysOnRecord()
 {
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     machine.write(packageRecordsKey, u"Before"_s, 1);
     WorkThread worker;
     worker.restoreRunning = 1;
@@ -476,9 +450,7 @@ void TestPackageState::automatizersInstallationStaysOnRecord()
 
 void TestPackageState::anEmptyListStillEnds_data()
 {
-    QTest::addColumn<int>("optimize");
-    QTest::addColumn<int>("restore");
-    QTest::addColumn<bool>("ends");
+    addColumns<int, int, bool>("optimize", "restore", "ends");
     QTest::newRow("page") << 0 << 0 << true;
     QTest::newRow("restore") << 0 << 1 << true;
     QTest::newRow("optimize") << 1 << 0 << false;
@@ -505,8 +477,7 @@ void TestPackageState::anEmptyListStillEnds()
 
 void TestPackageState::failureDoesNotEndTheRun()
 {
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     machine.machine().setFault(u"powershell -Command Get-AppxPackage B"_s, {.exitCode = 1});
     WorkThread worker;
     worker.optimizeRunning = 1;
@@ -522,8 +493,7 @@ void TestPackageState::failureDoesNotEndTheRun()
 
 void TestPackageState::hangingToolIsGivenUp()
 {
-    TestMachine machine;
-    addPowerShell(machine);
+    PowerShellMachine machine;
     machine.machine().setFault(u"powershell -Command Get-AppxPackage A"_s, {.hang = true});
     Command::timeLimit = 200;
     WorkThread worker;
@@ -548,8 +518,7 @@ void TestPackageState::resultIsTheLastExitCode()
 
 void TestPackageState::nothingIsLogged()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     addPowerShell(machine, 1);
     WorkThread worker;
     worker.PackageSetState({row(u"A"_s), row(u"MS OneDrive"_s, u"C:\\missing.exe"_s)}, false);

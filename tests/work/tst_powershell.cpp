@@ -55,8 +55,7 @@ void TestPowerShell::aMissingOneGivesAnEmptyProgramAndKeepsThePath()
 
 void TestPowerShell::anEmptyProgramFailsToStartAndReads0()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     WorkThread worker;
     Command command;
     command.start(worker.powerShellProgram(), {u"-Command"_s});

@@ -80,8 +80,7 @@ private Q_SLOTS:
 
 void TestServiceCatalogue::eachListHasExactlyItsNames_data()
 {
-    QTest::addColumn<QStringList>("list");
-    QTest::addColumn<QStringList>("names");
+    addColumns<QStringList, QStringList>("list", "names");
     QTest::newRow("critical services") << criticalServices << listOf(critical);
     QTest::newRow("services that aren't vital") << nonVitalServiceNames() << listOf(nonVitalServices);
     QTest::newRow("tasks that aren't vital") << nonVitalTaskNames() << listOf(nonVitalTasks);
@@ -97,8 +96,7 @@ void TestServiceCatalogue::eachListHasExactlyItsNames()
 
 void TestServiceCatalogue::eachListHasItsShape_data()
 {
-    QTest::addColumn<QStringList>("list");
-    QTest::addColumn<int>("size");
+    addColumns<QStringList, int>("list", "size");
     QTest::newRow("critical services") << criticalServices << 50;
     QTest::newRow("services that aren't vital") << nonVitalServiceNames() << 31;
     QTest::newRow("tasks that aren't vital") << nonVitalTaskNames() << 60;
@@ -179,8 +177,7 @@ void TestServiceCatalogue::keptFeaturesAddNothing()
 
 void TestServiceCatalogue::aFeatureThatIsGivenUpAddsItsServices_data()
 {
-    QTest::addColumn<int>("feature");
-    QTest::addColumn<QStringList>("services");
+    addColumns<int, QStringList>("feature", "services");
     QTest::newRow("printer") << 0 << QStringList{u"Spooler"_s};
     QTest::newRow("bluetooth audio") << 1 << QStringList{u"BthAvctpSvc"_s, u"BTAGService"_s};
     QTest::newRow("files sharing") << 2

@@ -128,8 +128,7 @@ void TestServiceList::aRowHasAllItsFields()
 
 void TestServiceList::servicesAreListedByTheirType_data()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("listed");
+    addColumns<int, bool>("type", "listed");
     for (const int type : {16, 32, 96, 224, 272})
         QTest::addRow("%d", type) << type << true;
     for (const int type : {0, 1, 2, 4, 8, 17, 33, 48, 64, 80, 128, 208, 256, 288, 512, -16, 160})
@@ -173,8 +172,7 @@ void TestServiceList::aServiceWithoutTypeIsLeftOut()
 
 void TestServiceList::startIsTakenAsItReads_data()
 {
-    QTest::addColumn<QVariant>("start");
-    QTest::addColumn<QString>("text");
+    addColumns<QVariant, QString>("start", "text");
     for (const int start : {0, 1, 2, 3, 4, 7})
         QTest::addRow("%d", start) << QVariant(start) << QString::number(start);
     QTest::newRow("none") << QVariant() << QString();
@@ -197,8 +195,7 @@ void TestServiceList::startIsTakenAsItReads()
 
 void TestServiceList::displayName_data()
 {
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("text");
+    addColumns<QString, QString>("value", "text");
     QTest::newRow("plain") << u"Print Spooler"_s << u"Print Spooler"_s;
     QTest::newRow("reference") << u"@a.dll,-100"_s << u"Text of a"_s;
     QTest::newRow("reference to a missing DLL") << u"@missing.dll,-100"_s << u"no description"_s;
@@ -225,8 +222,7 @@ void TestServiceList::displayName()
 
 void TestServiceList::description_data()
 {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("text");
+    addColumns<QVariant, QString>("value", "text");
     const QString none = u"no description"_s;
     QTest::newRow("plain") << QVariant(u"Sends jobs."_s) << u"Sends jobs."_s;
     QTest::newRow("none") << QVariant() << none;
@@ -300,8 +296,7 @@ void TestServiceList::subkeysOfAServiceAreNoServices()
 
 void TestServiceList::reportTellsWhatRuns_data()
 {
-    QTest::addColumn<QString>("report");
-    QTest::addColumn<bool>("running");
+    addColumns<QString, bool>("report", "running");
     const auto row = [](const char *title, const QString &report, bool running) {
         QTest::newRow(title) << report << running;
     };
@@ -352,8 +347,7 @@ void TestServiceList::reportTellsWhatRuns()
 {
     QFETCH(const QString, report);
     QFETCH(const bool, running);
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.add({.name = u"Spooler"_s});
     machine.add({.name = u"Other"_s});
     machine.machine().setFault(u"sc query"_s, {.output = report});
@@ -397,8 +391,7 @@ void TestServiceList::whatRunsIsReadFromTheRealTool()
 
 void TestServiceList::missingToolKeepsTheListAndSendsNoLine()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.add({.name = u"Spooler"_s});
     machine.machine().setFault(u"sc"_s, {.missing = true});
     WorkThread worker;
@@ -423,8 +416,7 @@ void TestServiceList::missingToolIsNotLoggedUnlessTheLogIsOn()
 void TestServiceList::failingToolLooksAsOneThatRuns()
 {
     // The exit code is read when the tool has only just begun, so that it is 0 then.
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.add({.name = u"Spooler"_s, .running = true});
     machine.machine().setFault(u"sc"_s, {.exitCode = 5});
     WorkThread worker;
@@ -440,8 +432,7 @@ void TestServiceList::failingToolLooksAsOneThatRuns()
 
 void TestServiceList::hangingToolIsGivenUpAndTheListStillFills()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.add({.name = u"Spooler"_s, .running = true});
     machine.machine().setFault(u"sc"_s, {.hang = true});
     Command::timeLimit = 200;
@@ -534,8 +525,7 @@ void TestServiceList::duringOptimizeTheClosingLineIsSent()
 
 void TestServiceList::nothingIsLoggedOfAListingThatWorked()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.add({.name = u"Spooler"_s, .description = u"@missing.dll,-1"_s});
     WorkThread worker;
     worker.SvcMakeList();

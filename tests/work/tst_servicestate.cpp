@@ -14,8 +14,6 @@ namespace {
 
 const QString recordsKey = settingsKey + u"\\SVC"_s;
 const QString finished = u"page: pgr:SvcStopOrStart=finished"_s;
-const QString onEleven = u"Windows 11 Home"_s;
-const QString onTen = u"Windows 10 Home"_s;
 
 /** The runs of sc, each as its arguments in one text. */
 QStringList scRuns(const TestMachine &machine)
@@ -50,7 +48,7 @@ private Q_SLOTS:
 
     void servicesAreHandledInAlphabeticalOrderWithoutCase();
     void countersGoUpWithEachService();
-    void anEmptyListSendsItsTwoLines_data();
+    void anEmptyListSendsItsTwoLines_data() { addPhasesOfAnEmptyList(finished); }
     void anEmptyListSendsItsTwoLines();
     void namesAreHandledAsTheyAre_data();
     void namesAreHandledAsTheyAre();
@@ -86,13 +84,8 @@ private Q_SLOTS:
 
 void TestServiceState::eachCaseHasItsStepsAndLines_data()
 {
-    QTest::addColumn<bool>("ten");
-    QTest::addColumn<int>("doNotStartOrStop");
-    QTest::addColumn<bool>("enable");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QStringList>("runs");
-    QTest::addColumn<QList<int>>("pauses");
-    QTest::addColumn<bool>("startedOrStopped");
+    addColumns<bool, int, bool, QString, QStringList, QList<int>, bool>("ten", "doNotStartOrStop", "enable", "name",
+                                                                        "runs", "pauses", "startedOrStopped");
 
     const auto row = [](bool ten, int setting, bool enable, const QString &name, const QStringList &runs,
                         const QList<int> &pauses, bool startedOrStopped) {
@@ -135,8 +128,7 @@ void TestServiceState::eachCaseHasItsStepsAndLines()
     machine.write(settingsKey, u"DoNotStartOrStopSvc"_s, doNotStartOrStop);
     if (enable)
         machine.write(recordsKey, name, 1);
-    WorkThread worker;
-    worker.winName = ten ? onTen : onEleven;
+    WorkerOn worker(ten ? onTen : onEleven);
     worker.servicesToChange = {name};
     JobLines lines(worker);
     QVERIFY(runJob(worker, enable ? 10 : 9));
@@ -154,8 +146,7 @@ void TestServiceState::eachCaseHasItsStepsAndLines()
 
 void TestServiceState::generationIsToldByTheDigits_data()
 {
-    QTest::addColumn<QString>("winName");
-    QTest::addColumn<bool>("ten");
+    addColumns<QString, bool>("winName", "ten");
     QTest::newRow("Windows 10") << u"Windows 10 Pro"_s << true;
     QTest::newRow("Windows 11") << u"Windows 11 Pro"_s << false;
     QTest::newRow("both digits elsewhere") << u"Windows Server 2010"_s << true;
@@ -171,8 +162,7 @@ void TestServiceState::generationIsToldByTheDigits()
     QFETCH(const bool, ten);
     TestMachine machine;
     machine.add({.name = u"Spooler"_s});
-    WorkThread worker;
-    worker.winName = winName;
+    WorkerOn worker(winName);
     worker.SvcStopOrStart({u"Spooler"_s}, false);
     QCOMPARE(scRuns(machine).isEmpty(), ten);
     QCOMPARE(machine.platform().takePauses(), ten ? QList<int>{1020} : QList<int>({300, 300}));
@@ -182,8 +172,7 @@ void TestServiceState::theLinkTrackingServiceIsMeantInItsExactCase()
 {
     TestMachine machine;
     machine.add({.name = u"TrkWks"_s});
-    WorkThread worker;
-    worker.winName = onTen;
+    WorkerOn worker(onTen);
     worker.SvcStopOrStart({u"trkwks"_s}, false);
     QCOMPARE(scRuns(machine), QStringList());
     QCOMPARE(machine.read(servicesKey + u"\\TrkWks"_s, u"Start"_s), QVariant(4));
@@ -192,8 +181,7 @@ void TestServiceState::theLinkTrackingServiceIsMeantInItsExactCase()
 void TestServiceState::aServiceThatIsMissingOnWindows10IsWrittenAllTheSame()
 {
     const TestMachine machine;
-    WorkThread worker;
-    worker.winName = onTen;
+    WorkerOn worker(onTen);
     worker.SvcStopOrStart({u"Missing"_s}, false);
     QCOMPARE(machine.read(servicesKey + u"\\Missing"_s, u"Start"_s), QVariant(4));
     QCOMPARE(machine.names(recordsKey), QStringList{u"Missing"_s});
@@ -206,8 +194,7 @@ void TestServiceState::servicesAreHandledInAlphabeticalOrderWithoutCase()
     for (const QString &name : names)
         machine.add({.name = name});
     machine.write(settingsKey, u"DoNotStartOrStopSvc"_s, 1);
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     worker.servicesToChange = names;
     JobLines lines(worker);
     QVERIFY(runJob(worker, 9));
@@ -232,8 +219,7 @@ void TestServiceState::countersGoUpWithEachService()
         names.append(QString(u'a' + QString(i, u'b')));
         expected += {u"page: pgr:value:"_s + QString::number(i), u"page: "_s + names.last()};
     }
-    WorkThread worker;
-    worker.winName = onTen;
+    WorkerOn worker(onTen);
     worker.servicesToChange = names;
     JobLines lines(worker);
     QVERIFY(runJob(worker, 10));
@@ -241,32 +227,14 @@ void TestServiceState::countersGoUpWithEachService()
     QCOMPARE(machine.platform().takePauses(), QList<int>(12, 1020));
 }
 
-void TestServiceState::anEmptyListSendsItsTwoLines_data()
-{
-    QTest::addColumn<int>("analyze");
-    QTest::addColumn<int>("optimize");
-    QTest::addColumn<int>("restore");
-    QTest::addColumn<QStringList>("expected");
-    const QStringList both{u"page: pgr:max:0"_s, finished};
-    QTest::newRow("page") << 0 << 0 << 0 << both;
-    QTest::newRow("analyze") << 1 << 0 << 0 << both;
-    QTest::newRow("optimize") << 0 << 1 << 0 << QStringList{finished};
-    QTest::newRow("restore") << 0 << 0 << 1 << QStringList{finished};
-}
-
 void TestServiceState::anEmptyListSendsItsTwoLines()
 {
-    QFETCH(const int, analyze);
-    QFETCH(const int, optimize);
-    QFETCH(const int, restore);
+    QFETCH(const Phases, phases);
     QFETCH(const QStringList, expected);
     const TestMachine machine;
     for (const bool enable : {false, true}) {
-        WorkThread worker;
-        worker.winName = onEleven;
-        worker.analyzeRunning = analyze;
-        worker.optimizeRunning = optimize;
-        worker.restoreRunning = restore;
+        WorkerOn worker(onEleven);
+        phases.mark(worker);
         JobLines lines(worker);
         worker.SvcStopOrStart({}, enable);
         QCOMPARE(lines.all(), expected);
@@ -290,8 +258,7 @@ void TestServiceState::namesAreHandledAsTheyAre()
     QFETCH(const QString, name);
     TestMachine machine;
     machine.add({.name = name, .start = 2, .running = true});
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     worker.servicesToChange = {name};
     JobLines lines(worker);
     QVERIFY(runJob(worker, 9));
@@ -306,8 +273,7 @@ void TestServiceState::doNotStartOrStopLeavesTheServiceRunning()
     TestMachine machine;
     machine.add({.name = u"Spooler"_s, .start = 2, .running = true});
     machine.write(settingsKey, u"DoNotStartOrStopSvc"_s, 1);
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     worker.SvcStopOrStart({u"Spooler"_s}, false);
     QCOMPARE(machine.machine().isRunning(u"Spooler"_s), true);
     QCOMPARE(machine.read(servicesKey + u"\\Spooler"_s, u"Start"_s), QVariant(4));
@@ -316,42 +282,33 @@ void TestServiceState::doNotStartOrStopLeavesTheServiceRunning()
 void TestServiceState::theResultIs0()
 {
     const TestMachine machine;
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     QCOMPARE(worker.SvcStopOrStart({}, false), 0);
     QCOMPARE(worker.SvcStopOrStart({u"Missing"_s}, true), 0);
 }
 
 void TestServiceState::flagsDecideTheSignal_data()
 {
-    QTest::addColumn<int>("analyze");
-    QTest::addColumn<int>("optimize");
-    QTest::addColumn<int>("restore");
-    QTest::addColumn<QStringList>("expected");
+    addColumns<Phases, QStringList>("phases", "expected");
     const QStringList automatizer{u"automatizer: Service: disable and stop Spooler done"_s,
                                   u"automatizer: pgr:value:1"_s, finished};
-    QTest::newRow("page") << 0 << 0 << 0
+    QTest::newRow("page") << Phases{}
                           << QStringList{u"page: pgr:max:1"_s, u"page: pgr:value:1"_s, u"page: Spooler"_s, finished};
-    QTest::newRow("analyze") << 1 << 0 << 0 << QStringList{u"page: pgr:max:1"_s, finished};
-    QTest::newRow("optimize") << 0 << 1 << 0 << automatizer;
-    QTest::newRow("restore") << 0 << 0 << 1 << automatizer;
-    QTest::newRow("optimize and restore") << 0 << 1 << 1 << automatizer;
-    QTest::newRow("analyze and optimize") << 1 << 1 << 0 << automatizer;
+    QTest::newRow("analyze") << Phases{1, 0, 0} << QStringList{u"page: pgr:max:1"_s, finished};
+    QTest::newRow("optimize") << Phases{0, 1, 0} << automatizer;
+    QTest::newRow("restore") << Phases{0, 0, 1} << automatizer;
+    QTest::newRow("optimize and restore") << Phases{0, 1, 1} << automatizer;
+    QTest::newRow("analyze and optimize") << Phases{1, 1, 0} << automatizer;
 }
 
 void TestServiceState::flagsDecideTheSignal()
 {
-    QFETCH(const int, analyze);
-    QFETCH(const int, optimize);
-    QFETCH(const int, restore);
+    QFETCH(const Phases, phases);
     QFETCH(const QStringList, expected);
     TestMachine machine;
     machine.add({.name = u"Spooler"_s, .running = true});
-    WorkThread worker;
-    worker.winName = onEleven;
-    worker.analyzeRunning = analyze;
-    worker.optimizeRunning = optimize;
-    worker.restoreRunning = restore;
+    WorkerOn worker(onEleven);
+    phases.mark(worker);
     worker.servicesToChange = {u"Spooler"_s};
     JobLines lines(worker);
     QVERIFY(runJob(worker, 9));
@@ -361,8 +318,7 @@ void TestServiceState::flagsDecideTheSignal()
 
 void TestServiceState::outcomeIsToldToTheAutomatizer_data()
 {
-    QTest::addColumn<bool>("ten");
-    QTest::addColumn<bool>("enable");
+    addColumns<bool, bool>("ten", "enable");
     QTest::addColumn<int>("code"); // of the last command
     QTest::addColumn<QString>("message");
     const auto row = [](const char *title, bool ten, bool enable, int code, const QString &message) {
@@ -397,8 +353,7 @@ void TestServiceState::outcomeIsToldToTheAutomatizer()
         machine.logErrors();
         machine.machine().setFault(u"sc"_s, {.exitCode = 0});
         machine.machine().setFault(!ten && enable ? u"sc start"_s : u"sc config"_s, {.exitCode = code});
-        WorkThread worker;
-        worker.winName = ten ? onTen : onEleven;
+        WorkerOn worker(ten ? onTen : onEleven);
         (restore ? worker.restoreRunning : worker.optimizeRunning) = 1;
         JobLines lines(worker);
         worker.SvcStopOrStart({u"TrkWks"_s}, enable);
@@ -412,8 +367,7 @@ void TestServiceState::automatizerLinesOfSeveralServices()
     TestMachine machine;
     machine.add({.name = u"A"_s});
     machine.add({.name = u"B"_s});
-    WorkThread worker;
-    worker.winName = onTen;
+    WorkerOn worker(onTen);
     worker.optimizeRunning = 1;
     worker.servicesToChange = {u"B"_s, u"A"_s};
     JobLines lines(worker);
@@ -425,8 +379,7 @@ void TestServiceState::automatizerLinesOfSeveralServices()
 
 void TestServiceState::exitCodesOfTheToolAreLogged_data()
 {
-    QTest::addColumn<int>("code");
-    QTest::addColumn<bool>("enable");
+    addColumns<int, bool>("code", "enable");
     for (const int code : {1, 5, 1051, 1056, 1058, 1060, 1072, -1}) {
         QTest::addRow("disable, %d", code) << code << false;
         QTest::addRow("enable, %d", code) << code << true;
@@ -437,11 +390,9 @@ void TestServiceState::exitCodesOfTheToolAreLogged()
 {
     QFETCH(const int, code);
     QFETCH(const bool, enable);
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.machine().setFault(u"sc"_s, {.exitCode = code});
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     JobLines lines(worker);
     worker.SvcStopOrStart({u"Spooler"_s}, enable);
     QCOMPARE(machine.errorLog(), QStringList{logLine(u"Spooler"_s, code)});
@@ -452,10 +403,7 @@ void TestServiceState::exitCodesOfTheToolAreLogged()
 
 void TestServiceState::realExitCodesOfTheTool_data()
 {
-    QTest::addColumn<bool>("elevated");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("enable");
-    QTest::addColumn<int>("code");
+    addColumns<bool, QString, bool, int>("elevated", "name", "enable", "code");
     QTest::newRow("access denied, disable") << false << u"Spooler"_s << false << 5;
     QTest::newRow("access denied, enable") << false << u"Spooler"_s << true << 5;
     QTest::newRow("no such service, disable") << true << u"Missing"_s << false << 1060;
@@ -472,8 +420,7 @@ void TestServiceState::realExitCodesOfTheTool()
     TestMachine machine(TestMachine::Windows::Eleven, {.elevated = elevated});
     machine.logErrors();
     machine.add({.name = u"Spooler"_s, .running = true});
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     worker.SvcStopOrStart({name}, enable);
     QCOMPARE(machine.commands().size(), 2);
     QCOMPARE(machine.commands().last().exitCode, code);
@@ -483,8 +430,7 @@ void TestServiceState::realExitCodesOfTheTool()
 
 void TestServiceState::anErrorOfAnEarlierStepIsOverwritten_data()
 {
-    QTest::addColumn<bool>("enable");
-    QTest::addColumn<QString>("first");
+    addColumns<bool, QString>("enable", "first");
     QTest::newRow("stopping a stopped service") << false << u"sc stop"_s;
     QTest::newRow("configuring fails and starting works") << true << u"sc config"_s;
 }
@@ -493,12 +439,10 @@ void TestServiceState::anErrorOfAnEarlierStepIsOverwritten()
 {
     QFETCH(const bool, enable);
     QFETCH(const QString, first);
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.machine().setFault(u"sc"_s, {.exitCode = 0});
     machine.machine().setFault(first, {.exitCode = 1062});
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     worker.optimizeRunning = 1;
     JobLines lines(worker);
     worker.SvcStopOrStart({u"Spooler"_s}, enable);
@@ -511,12 +455,10 @@ void TestServiceState::anErrorOfAnEarlierStepIsOverwritten()
 
 void TestServiceState::aFailureDoesNotEndTheRun()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.add({.name = u"A"_s, .start = 2});
     machine.add({.name = u"C"_s, .start = 2});
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     JobLines lines(worker);
     worker.SvcStopOrStart({u"A"_s, u"B"_s, u"C"_s}, false);
     QCOMPARE(machine.names(recordsKey), (QStringList{u"A"_s, u"C"_s}));
@@ -529,12 +471,10 @@ void TestServiceState::aFailureDoesNotEndTheRun()
 
 void TestServiceState::alreadyRunningIsAnErrorOnThePage()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.add({.name = u"Spooler"_s, .start = 4, .running = true});
     machine.write(recordsKey, u"Spooler"_s, 1);
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     JobLines lines(worker);
     worker.SvcStopOrStart({u"Spooler"_s}, true);
     QCOMPARE(machine.errorLog(), QStringList{logLine(u"Spooler"_s, 1056)});
@@ -547,8 +487,7 @@ void TestServiceState::aFailedDisableIsNotRecordedAndAFailedEnableTakesTheRecord
 {
     TestMachine machine;
     machine.machine().setFault(u"sc"_s, {.exitCode = 5});
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     worker.SvcStopOrStart({u"Spooler"_s}, false);
     QCOMPARE(machine.names(recordsKey), QStringList());
     machine.write(recordsKey, u"Spooler"_s, 1);
@@ -561,8 +500,7 @@ void TestServiceState::onlyTheNamedRecordIsTakenAway()
     TestMachine machine;
     machine.write(recordsKey, u"Spooler"_s, 1);
     machine.write(recordsKey, u"Spooler2"_s, 1);
-    WorkThread worker;
-    worker.winName = onTen;
+    WorkerOn worker(onTen);
     worker.SvcStopOrStart({u"spooler"_s, u"NeverRecorded"_s}, true);
     QCOMPARE(machine.names(recordsKey), QStringList{u"Spooler2"_s});
 }
@@ -582,8 +520,7 @@ void TestServiceState::refusedWriteOnWindows10CountsAsDone()
     machine.add({.name = u"Spooler"_s, .start = 3});
     if (enable)
         machine.write(recordsKey, u"Spooler"_s, 1);
-    WorkThread worker;
-    worker.winName = onTen;
+    WorkerOn worker(onTen);
     worker.optimizeRunning = 1;
     JobLines lines(worker);
     worker.SvcStopOrStart({u"Spooler"_s}, enable);
@@ -596,9 +533,7 @@ void TestServiceState::refusedWriteOnWindows10CountsAsDone()
 
 void TestServiceState::missingToolCountsAsDone_data()
 {
-    QTest::addColumn<bool>("ten");
-    QTest::addColumn<bool>("enable");
-    QTest::addColumn<QString>("message");
+    addColumns<bool, bool, QString>("ten", "enable", "message");
     QTest::newRow("11, disable") << false << false << u"automatizer: Service: disable and stop TrkWks done"_s;
     QTest::newRow("11, enable") << false << true << u"automatizer: Service: enable and start TrkWks done"_s;
     QTest::newRow("10, disable") << true << false << u"automatizer: Service: disable TrkWks done"_s;
@@ -610,12 +545,10 @@ void TestServiceState::missingToolCountsAsDone()
     QFETCH(const bool, ten);
     QFETCH(const bool, enable);
     QFETCH(const QString, message);
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.add({.name = u"TrkWks"_s, .start = 3});
     machine.machine().setFault(u"sc"_s, {.missing = true});
-    WorkThread worker;
-    worker.winName = ten ? onTen : onEleven;
+    WorkerOn worker(ten ? onTen : onEleven);
     worker.optimizeRunning = 1;
     JobLines lines(worker);
     worker.SvcStopOrStart({u"TrkWks"_s}, enable);
@@ -628,14 +561,12 @@ void TestServiceState::missingToolCountsAsDone()
 
 void TestServiceState::hangingStopIsGivenUpAndTheStartModeIsStillSet()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.add({.name = u"Spooler"_s, .start = 2, .running = true});
     machine.machine().setFault(u"sc stop"_s, {.hang = true});
     // Time enough for the second command on a computer that is busy.
     Command::timeLimit = 2000;
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     worker.servicesToChange = {u"Spooler"_s};
     JobLines lines(worker);
     QVERIFY(runJob(worker, 9));
@@ -650,8 +581,7 @@ void TestServiceState::hangingStopIsGivenUpAndTheStartModeIsStillSet()
 
 void TestServiceState::hangingLastStepCountsAsDone_data()
 {
-    QTest::addColumn<bool>("enable");
-    QTest::addColumn<QString>("last");
+    addColumns<bool, QString>("enable", "last");
     QTest::newRow("disable") << false << u"sc config"_s;
     QTest::newRow("enable") << true << u"sc start"_s;
 }
@@ -661,13 +591,11 @@ void TestServiceState::hangingLastStepCountsAsDone()
     // Its exit code is read before it is closed.
     QFETCH(const bool, enable);
     QFETCH(const QString, last);
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.machine().setFault(u"sc"_s, {.exitCode = 1062});
     machine.machine().setFault(last, {.hang = true});
     Command::timeLimit = 200;
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     worker.restoreRunning = 1;
     JobLines lines(worker);
     worker.SvcStopOrStart({u"Spooler"_s}, enable);
@@ -681,8 +609,7 @@ void TestServiceState::nothingIsLoggedUnlessTheLogIsOn()
 {
     const TestMachine machine;
     machine.machine().setFault(u"sc"_s, {.exitCode = 5});
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     worker.SvcStopOrStart({u"Spooler"_s}, false);
     QVERIFY(!QFile::exists(machine.platform().programFolder() + u"/log.txt"_s));
 }

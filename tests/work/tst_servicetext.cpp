@@ -87,8 +87,7 @@ private Q_SLOTS:
 
 void TestServiceText::textIsExpanded_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("result");
+    addColumns<QString, QString>("text", "result");
     const auto row = [](const char *title, const QString &text, const QString &result) {
         QTest::newRow(title) << text << result;
     };
@@ -219,8 +218,7 @@ void TestServiceText::aVariableThatIsNotSetLeavesNothing()
 
 void TestServiceText::stringOfADll_data()
 {
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<QString>("result");
+    addColumns<QString, QString>("id", "result");
     QTest::newRow("there") << u"100"_s << u"Text of a"_s;
     QTest::newRow("not there") << u"6"_s << none;
     QTest::newRow("empty") << u"101"_s << none;
@@ -239,9 +237,7 @@ void TestServiceText::stringOfADll()
 
 void TestServiceText::aDllThatCantBeLoadedIsLogged_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<int>("error");
+    addColumns<QString, QString, int>("path", "id", "error");
     QTest::newRow("missing") << u"C:\\Windows\\System32\\missing.dll"_s << u"100"_s << 126;
     QTest::newRow("no DLL") << u"C:\\Windows\\System32\\nodll.dll"_s << u"100"_s << 193;
     QTest::newRow("id that is no number") << u"C:\\Windows\\System32\\nodll.dll"_s << u"abc;d"_s << 193;

@@ -41,8 +41,7 @@ void TestSettings::theRootLiesWhereItAlwaysLay()
 
 void TestSettings::aValueIsOneInEverySpelling_data()
 {
-    QTest::addColumn<QString>("written");
-    QTest::addColumn<QString>("read");
+    addColumns<QString, QString>("written", "read");
     QTest::newRow("written by the options, read at the start") << u"StartAsAdmin"_s << u"startAsAdmin"_s;
     QTest::newRow("the other way round") << u"startAsAdmin"_s << u"StartAsAdmin"_s;
 }

@@ -111,8 +111,7 @@ void TestStartModeBackup::aMachineWithoutServicesGivesTheHeaderAlone()
 
 void TestStartModeBackup::onlySharedProcessServicesAreWritten_data()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("written");
+    addColumns<int, bool>("type", "written");
     for (const int type : {0, 1, 2, 4, 8, 16, 33, 48, 80, 96, 208, 224, 256, 272, 288, -32, 320})
         QTest::addRow("%d", type) << type << false;
     QTest::addRow("%d", 32) << 32 << true;
@@ -177,8 +176,7 @@ void TestStartModeBackup::aServiceWithoutTypeIsLeftOut()
 
 void TestStartModeBackup::startValueIsWrittenAsItReads_data()
 {
-    QTest::addColumn<QVariant>("start");
-    QTest::addColumn<QByteArray>("text");
+    addColumns<QVariant, QByteArray>("start", "text");
     for (int start = 0; start <= 4; ++start)
         QTest::addRow("%d", start) << QVariant(start) << QByteArray::number(start);
     QTest::newRow("none") << QVariant() << QByteArray();
@@ -276,8 +274,7 @@ void TestStartModeBackup::aFileThatWasDeletedIsWrittenAnewWithTheStateOfThen()
 void TestStartModeBackup::anUnwritableProgramFolderGivesNoFileAndNoMessage()
 {
     // The administrator may write everywhere: a plain file where the folder must be is what nobody can write into.
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.add({.name = u"Test"_s});
     QFile inTheWay(machine.platform().programFolder() + u"/backup_svc"_s);
     QVERIFY(inTheWay.open(QIODevice::WriteOnly));
@@ -290,8 +287,7 @@ void TestStartModeBackup::anUnwritableProgramFolderGivesNoFileAndNoMessage()
 
 void TestStartModeBackup::theListingGoesOnWithoutBackup()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.add({.name = u"Test"_s, .running = true});
     QFile inTheWay(machine.platform().programFolder() + u"/backup_svc"_s);
     QVERIFY(inTheWay.open(QIODevice::WriteOnly));

@@ -162,8 +162,7 @@ void TestSystemInfo::anEndedJobStopsBetweenItsSteps()
 
 void TestSystemInfo::builtInMachines_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QList<QStringList>>("parts");
+    addColumns<QString, QList<QStringList>>("name", "parts");
     QTest::newRow("windows11") << u"windows11"_s
                                << QList<QStringList>{
                                       {u"Windows 11 Home"_s, u"26100"_s, u"24H2"_s, u"Core"_s, u"Yes"_s},
@@ -254,8 +253,7 @@ void TestSystemInfo::theNameOfWindowsIsNotWrittenAnew()
 
 void TestSystemInfo::windowsIsOnAnSsdWhereNothingSeeks_data()
 {
-    QTest::addColumn<QJsonObject>("volumes");
-    QTest::addColumn<QString>("text");
+    addColumns<QJsonObject, QString>("volumes", "text");
     const auto penalty = [](bool seeks) { return QJsonObject{{u"seekPenalty"_s, seeks}}; };
     QTest::newRow("no penalty") << QJsonObject{{u"C:"_s, penalty(false)}} << u"Yes"_s;
     QTest::newRow("penalty") << QJsonObject{{u"C:"_s, penalty(true)}} << u"No"_s;
@@ -277,9 +275,7 @@ void TestSystemInfo::windowsIsOnAnSsdWhereNothingSeeks()
 
 void TestSystemInfo::motherboardNamesAreCut_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("manufacturer");
-    QTest::addColumn<QString>("model");
+    addColumns<QString, QString, QString>("name", "manufacturer", "model");
     const QString digits = u"0123456789"_s;
     QTest::newRow("short") << u"Vendor Co., Ltd."_s << u"Vendor "_s << u"Vendor Co., Ltd."_s;
     QTest::newRow("other case") << u"Vendor CO., LTD. Inc"_s << u"Vendor  Inc"_s << u"Vendor CO., LTD. Inc"_s;
@@ -349,8 +345,7 @@ void TestSystemInfo::theNameOfTheCardIsCut()
 
 void TestSystemInfo::driverDatesOfEveryLength_data()
 {
-    QTest::addColumn<QString>("cimDate");
-    QTest::addColumn<QString>("shown");
+    addColumns<QString, QString>("cimDate", "shown");
     const QString whole = u"20230613000000.000000-000 and more"_s;
     for (qsizetype length = 0; length < whole.size(); ++length) {
         const QString cimDate = whole.first(length);
@@ -369,8 +364,7 @@ void TestSystemInfo::driverDatesOfEveryLength()
 
 void TestSystemInfo::oddDriverDates_data()
 {
-    QTest::addColumn<QString>("cimDate");
-    QTest::addColumn<QString>("shown");
+    addColumns<QString, QString>("cimDate", "shown");
     QTest::newRow("blanks are taken out") << u"2023 06 13 000000.000000"_s << u"2023/06/13"_s;
     QTest::newRow("nothing but blanks") << QString(25, u' ') << u"    /  /  "_s;
     QTest::newRow("slashes of its own") << u"2023/06/13 00:00:00.0000"_s << u"2023//0"_s;
@@ -384,9 +378,7 @@ void TestSystemInfo::oddDriverDates()
 
 void TestSystemInfo::radeonSoftwareHasItsOwnVersion_data()
 {
-    QTest::addColumn<QString>("installDir");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("shown");
+    addColumns<QString, QString, QString>("installDir", "file", "shown");
     const QString installer = u"C:\\AMD\\CIM\\Bin64\\AMDSoftwareInstaller.exe"_s;
     QTest::newRow("installed") << u"C:\\AMD\\CIM"_s << installer << u"24.3.1 (RADEON)"_s;
     QTest::newRow("with a backslash at its end") << u"C:\\AMD\\CIM\\"_s << installer << u"24.3.1 (RADEON)"_s;
@@ -426,8 +418,7 @@ void TestSystemInfo::screenSizeIsTheSystems()
 
 void TestSystemInfo::hdrIsToldByTheColorSpace_data()
 {
-    QTest::addColumn<QJsonObject>("screen");
-    QTest::addColumn<QString>("shown");
+    addColumns<QJsonObject, QString>("screen", "shown");
     const auto space = [](int number) { return QJsonObject{{u"colorSpace"_s, number}}; };
     QTest::newRow("HDR10") << space(12) << u"enabled"_s;
     QTest::newRow("sRGB") << space(0) << u"disabled"_s;
@@ -450,8 +441,7 @@ void TestSystemInfo::hdrIsToldByTheColorSpace()
 void TestSystemInfo::disks_data()
 {
     using Disks = QList<QJsonObject>;
-    QTest::addColumn<Disks>("instances");
-    QTest::addColumn<QString>("shown");
+    addColumns<Disks, QString>("instances", "shown");
     const auto text = [](const QString &name, const QString &size, const QString &interface) {
         return u"Name:   "_s + name + u"<br>Capacity:   "_s + size + u"<br>Interface type: "_s + interface;
     };
@@ -503,8 +493,7 @@ void TestSystemInfo::disks()
 
 void TestSystemInfo::totalMemory_data()
 {
-    QTest::addColumn<QJsonValue>("bytes");
-    QTest::addColumn<QString>("shown");
+    addColumns<QJsonValue, QString>("bytes", "shown");
     QTest::newRow("16 GiB") << QJsonValue(u"17098522624"_s) << u"16 Go"_s;
     QTest::newRow("12 GiB") << QJsonValue(u"12884901888"_s) << u"12 Go"_s;
     QTest::newRow("8500000000") << QJsonValue(u"8500000000"_s) << u"7 Go"_s;
@@ -525,8 +514,7 @@ void TestSystemInfo::totalMemory()
 
 void TestSystemInfo::freeMemory_data()
 {
-    QTest::addColumn<QJsonValue>("kibibytes");
-    QTest::addColumn<QString>("shown");
+    addColumns<QJsonValue, QString>("kibibytes", "shown");
     QTest::newRow("7.6 GiB") << QJsonValue(u"7986324"_s) << u"7.61 Go"_s;
     QTest::newRow("18.6 GiB") << QJsonValue(u"19473808"_s) << u"18.5 Go"_s;
     QTest::newRow("123 GiB loses its fraction, not the point") << QJsonValue(u"129473808"_s) << u"123. Go"_s;
@@ -568,8 +556,7 @@ void TestSystemInfo::twoModulesShowTheSpeedOfTheFirst()
 
 void TestSystemInfo::formFactors_data()
 {
-    QTest::addColumn<QJsonValue>("number");
-    QTest::addColumn<QString>("shown");
+    addColumns<QJsonValue, QString>("number", "shown");
     QTest::newRow("8") << QJsonValue(8) << u"DIMM"_s;
     QTest::newRow("12") << QJsonValue(12) << u"SODIMM"_s;
     QTest::newRow("18, which holds an 8") << QJsonValue(18) << u"DIMM"_s;
@@ -605,8 +592,7 @@ void TestSystemInfo::pageFile()
 
 void TestSystemInfo::processorNames_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("shown");
+    addColumns<QString, QString>("name", "shown");
     QTest::newRow("Intel") << u"Intel(R) Core(TM) i5-9400F CPU @ 2.90GHz"_s << u"Intel Core i5-9400F CPU @ 2.90GHz"_s;
     QTest::newRow("Intel in another case") << u"INTEL(R) core(tm) i3"_s << u"Intel Core i3"_s;
     QTest::newRow("AMD") << u"AMD Ryzen 5 3600 6-Core Processor              "_s << u"AMD Ryzen 5 3600 6-Core "_s;
@@ -632,8 +618,7 @@ void TestSystemInfo::processorNames()
 
 void TestSystemInfo::caches_data()
 {
-    QTest::addColumn<QJsonValue>("kibibytes");
-    QTest::addColumn<QString>("shown");
+    addColumns<QJsonValue, QString>("kibibytes", "shown");
     QTest::newRow("512 KiB") << QJsonValue(512) << u"0 Mo"_s;
     QTest::newRow("1023 KiB") << QJsonValue(1023) << u"0 Mo"_s;
     QTest::newRow("1 MiB") << QJsonValue(1024) << u"1 Mo"_s;
@@ -662,9 +647,7 @@ void TestSystemInfo::caches()
 
 void TestSystemInfo::coresAndThreads_data()
 {
-    QTest::addColumn<QJsonValue>("cores");
-    QTest::addColumn<QJsonValue>("threads");
-    QTest::addColumn<QString>("shown");
+    addColumns<QJsonValue, QJsonValue, QString>("cores", "threads", "shown");
     QTest::newRow("hyper-threading") << QJsonValue(4) << QJsonValue(8) << u"4 8 enabled"_s;
     QTest::newRow("none") << QJsonValue(6) << QJsonValue(6) << u"6 6 disabled"_s;
     QTest::newRow("blanks don't count") << QJsonValue(u" 6 "_s) << QJsonValue(6) << u"6 6 disabled"_s;
@@ -682,8 +665,7 @@ void TestSystemInfo::coresAndThreads()
 
 void TestSystemInfo::virtualization_data()
 {
-    QTest::addColumn<QJsonValue>("flag");
-    QTest::addColumn<QString>("shown");
+    addColumns<QJsonValue, QString>("flag", "shown");
     QTest::newRow("true") << QJsonValue(true) << u"enabled"_s;
     QTest::newRow("false") << QJsonValue(false) << u"disabled"_s;
     QTest::newRow("null") << QJsonValue() << u"disabled"_s;
@@ -766,8 +748,7 @@ void TestSystemInfo::whatHasDisappearedKeepsItsOldText()
 
 void TestSystemInfo::failedQueriesLeaveTextsEmptyAndAreLogged()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     WorkThread worker;
     JobLines lines(worker);
     QVERIFY(runJob(worker, JobGetSystemInfo));

@@ -224,9 +224,7 @@ void TestTaskList::aTaskOfTheNameTasksIsListed()
 
 void TestTaskList::pathLosesItsFirstCharacter_data()
 {
-    QTest::addColumn<QString>("uri");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("name");
+    addColumns<QString, QString, QString>("uri", "path", "name");
     QTest::newRow("no folder") << u"\\A task"_s << u"A task"_s << u"A task"_s;
     QTest::newRow("folders") << u"\\A\\B\\C d"_s << u"A\\B\\C d"_s << u"C d"_s;
     QTest::newRow("no leading backslash") << u"Vendor\\Task"_s << u"endor\\Task"_s << u"Task"_s;
@@ -251,9 +249,7 @@ void TestTaskList::pathLosesItsFirstCharacter()
 
 void TestTaskList::enabledCountsByItsTagAlone_data()
 {
-    QTest::addColumn<QString>("settings");
-    QTest::addColumn<QString>("triggers");
-    QTest::addColumn<int>("disabled");
+    addColumns<QString, QString, int>("settings", "triggers", "disabled");
     QTest::newRow("no tag") << QString() << QString() << 0;
     QTest::newRow("false") << u"<Enabled>false</Enabled>"_s << QString() << 1;
     QTest::newRow("true") << u"<Enabled>true</Enabled>"_s << QString() << 1;
@@ -294,8 +290,7 @@ void TestTaskList::theTagOfOneTaskIsNotThatOfTheNext()
 
 void TestTaskList::description_data()
 {
-    QTest::addColumn<QString>("element");
-    QTest::addColumn<QString>("text");
+    addColumns<QString, QString>("element", "text");
     const auto row = [](const char *title, const QString &inside, const QString &text) {
         QTest::newRow(title) << u"<Description>"_s + inside + u"</Description>"_s << text;
     };

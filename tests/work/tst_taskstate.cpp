@@ -15,8 +15,6 @@ namespace {
 
 const QString recordsKey = settingsKey + u"\\Task"_s;
 const QString finished = u"page: pgr:TaskSetState=finished"_s;
-const QString onEleven = u"Windows 11 Home"_s;
-const QString onTen = u"Windows 10 Home"_s;
 
 /** A row as the window makes it. */
 TaskRow row(const QString &path, int disabled)
@@ -56,7 +54,7 @@ private Q_SLOTS:
     void onlyOneDisables_data();
     void onlyOneDisables();
     void tasksAreHandledInTheirOrderAndCountedFrom0();
-    void anEmptyListSendsItsLines_data();
+    void anEmptyListSendsItsLines_data() { addPhasesOfAnEmptyList(finished); }
     void anEmptyListSendsItsLines();
     void pathIsHandedOverAsItIs_data();
     void pathIsHandedOverAsItIs();
@@ -78,8 +76,7 @@ private Q_SLOTS:
 
 void TestTaskState::eachCaseHasItsCommandPauseRecordAndLines_data()
 {
-    QTest::addColumn<bool>("ten");
-    QTest::addColumn<bool>("disable");
+    addColumns<bool, bool>("ten", "disable");
     QTest::addColumn<int>("running"); // 0 none of the three, 1 analyze, 2 optimize, 3 restore
     QTest::addColumn<bool>("restoreMode");
     const char *const phases[] = {"page", "analyze", "optimize", "restore"};
@@ -106,8 +103,7 @@ void TestTaskState::eachCaseHasItsCommandPauseRecordAndLines()
     TestMachine machine(ten ? TestMachine::Windows::Ten : TestMachine::Windows::Eleven);
     machine.logErrors();
     obey(machine);
-    WorkThread worker;
-    worker.winName = ten ? onTen : onEleven;
+    WorkerOn worker(ten ? onTen : onEleven);
     worker.analyzeRunning = running == 1 ? 1 : 0;
     worker.optimizeRunning = running == 2 ? 1 : 0;
     worker.restoreRunning = running == 3 ? 1 : 0;
@@ -136,8 +132,7 @@ void TestTaskState::eachCaseHasItsCommandPauseRecordAndLines()
 
 void TestTaskState::generationIsToldByTheDigits_data()
 {
-    QTest::addColumn<QString>("winName");
-    QTest::addColumn<int>("pause");
+    addColumns<QString, int>("winName", "pause");
     QTest::newRow("Windows 10") << u"Windows 10 Pro"_s << 1020;
     QTest::newRow("Windows 11") << u"Windows 11 Pro"_s << 300;
     QTest::newRow("unknown") << u"unknown"_s << 300;
@@ -151,8 +146,7 @@ void TestTaskState::generationIsToldByTheDigits()
     QFETCH(const int, pause);
     const TestMachine machine;
     obey(machine);
-    WorkThread worker;
-    worker.winName = winName;
+    WorkerOn worker(winName);
     worker.TaskStopOrStart({row(u"A"_s, 1), row(u"B"_s, 0)});
     QCOMPARE(machine.platform().takePauses(), (QList<int>{pause, pause}));
 }
@@ -179,8 +173,7 @@ void TestTaskState::tasksAreHandledInTheirOrderAndCountedFrom0()
 {
     const TestMachine machine;
     obey(machine);
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     QStringList expected{u"page: pgr:max:12"_s};
     QList<LoggedCommand> commands;
     for (int i = 0; i < 12; ++i) {
@@ -198,31 +191,13 @@ void TestTaskState::tasksAreHandledInTheirOrderAndCountedFrom0()
     QCOMPARE(recordedNames(u"Task"_s).size(), 12);
 }
 
-void TestTaskState::anEmptyListSendsItsLines_data()
-{
-    QTest::addColumn<int>("analyze");
-    QTest::addColumn<int>("optimize");
-    QTest::addColumn<int>("restore");
-    QTest::addColumn<QStringList>("expected");
-    const QStringList both{u"page: pgr:max:0"_s, finished};
-    QTest::newRow("page") << 0 << 0 << 0 << both;
-    QTest::newRow("analyze") << 1 << 0 << 0 << both;
-    QTest::newRow("optimize") << 0 << 1 << 0 << QStringList{finished};
-    QTest::newRow("restore") << 0 << 0 << 1 << QStringList{finished};
-}
-
 void TestTaskState::anEmptyListSendsItsLines()
 {
-    QFETCH(const int, analyze);
-    QFETCH(const int, optimize);
-    QFETCH(const int, restore);
+    QFETCH(const Phases, phases);
     QFETCH(const QStringList, expected);
     const TestMachine machine;
-    WorkThread worker;
-    worker.winName = onTen;
-    worker.analyzeRunning = analyze;
-    worker.optimizeRunning = optimize;
-    worker.restoreRunning = restore;
+    WorkerOn worker(onTen);
+    phases.mark(worker);
     JobLines lines(worker);
     QVERIFY(runJob(worker, 4));
     QCOMPARE(lines.all(), expected);
@@ -251,8 +226,7 @@ void TestTaskState::pathIsHandedOverAsItIs()
     QFETCH(const QString, path);
     const TestMachine machine;
     obey(machine);
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     worker.restoreRunning = 1;
     const TaskRow task = row(path, 1);
     worker.tasksToChange = {task};
@@ -303,29 +277,22 @@ void TestTaskState::restoreLeavesTheRecordsAlone()
 
 void TestTaskState::flagsDecideTheLines_data()
 {
-    QTest::addColumn<int>("analyze");
-    QTest::addColumn<int>("optimize");
-    QTest::addColumn<int>("restore");
-    QTest::addColumn<QStringList>("expected");
+    addColumns<Phases, QStringList>("phases", "expected");
     const QStringList restore{doneText(u"A"_s), u"automatizer: pgr:value:0"_s, finished};
-    QTest::newRow("optimize and restore") << 0 << 1 << 1 << restore;
-    QTest::newRow("analyze and restore") << 1 << 0 << 1 << restore;
-    QTest::newRow("analyze and optimize") << 1 << 1 << 0 << QStringList{finished};
-    QTest::newRow("all") << 1 << 1 << 1 << restore;
+    QTest::newRow("optimize and restore") << Phases{0, 1, 1} << restore;
+    QTest::newRow("analyze and restore") << Phases{1, 0, 1} << restore;
+    QTest::newRow("analyze and optimize") << Phases{1, 1, 0} << QStringList{finished};
+    QTest::newRow("all") << Phases{1, 1, 1} << restore;
 }
 
 void TestTaskState::flagsDecideTheLines()
 {
-    QFETCH(const int, analyze);
-    QFETCH(const int, optimize);
-    QFETCH(const int, restore);
+    QFETCH(const Phases, phases);
     QFETCH(const QStringList, expected);
     const TestMachine machine;
     obey(machine);
     WorkThread worker;
-    worker.analyzeRunning = analyze;
-    worker.optimizeRunning = optimize;
-    worker.restoreRunning = restore;
+    phases.mark(worker);
     JobLines lines(worker);
     worker.TaskStopOrStart({row(u"Folder\\A"_s, 0)});
     QCOMPARE(lines.all(), expected);
@@ -341,12 +308,10 @@ void TestTaskState::failingToolGivesNoRecordAndTheRunGoesOn_data()
 void TestTaskState::failingToolGivesNoRecordAndTheRunGoesOn()
 {
     QFETCH(const int, code);
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     obey(machine);
     machine.machine().setFault(u"schtasks /CHANGE /TN B"_s, {.exitCode = code});
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     worker.tasksToChange = {row(u"A"_s, 1), row(u"B"_s, 1), row(u"C"_s, 1)};
     JobLines lines(worker);
     QVERIFY(runJob(worker, 4));
@@ -384,11 +349,9 @@ void TestTaskState::missingToolIsLoggedAndSkipsTheTask_data()
 void TestTaskState::missingToolIsLoggedAndSkipsTheTask()
 {
     QFETCH(const bool, restore);
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.machine().setFault(u"schtasks"_s, {.missing = true});
-    WorkThread worker;
-    worker.winName = onTen;
+    WorkerOn worker(onTen);
     worker.restoreRunning = restore ? 1 : 0;
     worker.tasksToChange = {row(u"A"_s, 1), row(u"B"_s, 0)};
     JobLines lines(worker);
@@ -403,12 +366,10 @@ void TestTaskState::missingToolIsLoggedAndSkipsTheTask()
 
 void TestTaskState::hangingToolIsGivenUp()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.machine().setFault(u"schtasks"_s, {.hang = true});
     Command::timeLimit = 200;
-    WorkThread worker;
-    worker.winName = onEleven;
+    WorkerOn worker(onEleven);
     worker.tasksToChange = {row(u"A"_s, 1), row(u"B"_s, 1)};
     JobLines lines(worker);
     QVERIFY(runJob(worker, 4));

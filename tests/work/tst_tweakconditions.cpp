@@ -288,8 +288,7 @@ void TestTweakConditions::recordGoesByTheTable()
 
 void TestTweakConditions::graphicsCardIsAskedForGaming13Alone_data()
 {
-    QTest::addColumn<bool>("battery");
-    QTest::addColumn<bool>("asked");
+    addColumns<bool, bool>("battery", "asked");
     QTest::newRow("no battery") << false << true;
     QTest::newRow("battery") << true << false;
 }

@@ -205,8 +205,7 @@ void TestTweakGaming::interfaceNamesAreToldByTheirCase()
 
 void TestTweakGaming::quantumByItsPlace_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QVariant>("value");
+    addColumns<int, QVariant>("index", "value");
     const QList<int> values{22, 21, 20, 38, 37, 36, 24, 40};
     for (int index = 0; index < values.size(); ++index)
         QTest::addRow("%d", index) << index << QVariant(values.at(index));

@@ -2,6 +2,7 @@
 // Tests of the boxes of the Features page as a table, and of what is stored of them, above all after a run of the
 // Automatizer.
 
+#include "joblines.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/tweaks/tweakcatalogue.h"
@@ -14,7 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString tweakKey = settingsKey + u"\\Tweak"_s;
-const QString windows11 = u"Windows 11 Home"_s;
 const QString windows10 = u"Windows 10 Pro"_s;
 
 QStringList allNames()
@@ -136,8 +136,7 @@ void TestTweakRecord::boxesAreStoredAsText()
 
 void TestTweakRecord::storedTextsAreReadAsTruthOrNot_data()
 {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<bool>("checked");
+    addColumns<QVariant, bool>("value", "checked");
     QTest::newRow("true") << QVariant(u"true"_s) << true;
     QTest::newRow("false") << QVariant(u"false"_s) << false;
     QTest::newRow("number one") << QVariant(1) << true;
@@ -164,11 +163,7 @@ void TestTweakRecord::storingSomeBoxesLeavesTheOthers()
 
 void TestTweakRecord::recordGoesByTheRun_data()
 {
-    QTest::addColumn<QString>("winName");
-    QTest::addColumn<QString>("battery");
-    QTest::addColumn<int>("gameBar");
-    QTest::addColumn<int>("restoring");
-    QTest::addColumn<QStringList>("beyondTheRest");
+    addColumns<QString, QString, int, int, QStringList>("winName", "battery", "gameBar", "restoring", "beyondTheRest");
 
     const QStringList ofWindows11{u"chkGaming8"_s, u"chkWindows10"_s, u"chkWindows5"_s};
     const QStringList ofMains{u"chkGaming2"_s, u"chkGaming7"_s, u"chkSsd7"_s};
@@ -177,14 +172,14 @@ void TestTweakRecord::recordGoesByTheRun_data()
                         const QStringList &beyond) {
         QTest::newRow(title) << winName << battery << keep << restoring << beyond;
     };
-    row("Windows 11", windows11, u"-1"_s, 2, 0, ofWindows11 + ofMains);
+    row("Windows 11", onEleven, u"-1"_s, 2, 0, ofWindows11 + ofMains);
     row("Windows 10", windows10, u"-1"_s, 2, 0, ofMains);
     row("another Windows", u"unknown"_s, u"-1"_s, 2, 0, ofMains);
-    row("a battery", windows11, u"80"_s, 2, 0, ofWindows11);
-    row("an empty battery text", windows11, QString(), 2, 0, ofWindows11);
-    row("game bar given up", windows11, u"-1"_s, 0, 0, ofWindows11 + ofMains + gameBar);
-    row("game bar in part", windows11, u"-1"_s, 1, 0, ofWindows11 + ofMains);
-    row("restore with a kept game bar", windows11, u"-1"_s, 2, 1, ofWindows11 + ofMains + gameBar);
+    row("a battery", onEleven, u"80"_s, 2, 0, ofWindows11);
+    row("an empty battery text", onEleven, QString(), 2, 0, ofWindows11);
+    row("game bar given up", onEleven, u"-1"_s, 0, 0, ofWindows11 + ofMains + gameBar);
+    row("game bar in part", onEleven, u"-1"_s, 1, 0, ofWindows11 + ofMains);
+    row("restore with a kept game bar", onEleven, u"-1"_s, 2, 1, ofWindows11 + ofMains + gameBar);
     row("restore on Windows 10 with a battery", windows10, u"80"_s, 0, 1, gameBar);
 }
 
@@ -196,8 +191,7 @@ void TestTweakRecord::recordGoesByTheRun()
     QFETCH(const int, restoring);
     QFETCH(const QStringList, beyondTheRest);
     TestMachine machine;
-    WorkThread worker;
-    worker.winName = winName;
+    WorkerOn worker(winName);
     worker.batteryCharge = battery;
     worker.keepXboxGameBar = gameBar;
     worker.restoreRunning = restoring;
@@ -209,8 +203,7 @@ void TestTweakRecord::recordGoesByTheRun()
 void TestTweakRecord::recordAfterOptimizeSaysTrue()
 {
     TestMachine machine;
-    WorkThread worker;
-    worker.winName = windows11;
+    WorkerOn worker(onEleven);
     recordTweaksOfAutomatizer(worker, 6);
     QMap<QString, QVariant> values = stored(machine);
     QCOMPARE(values.take(u"cbWin32PrioritySeparation"_s), QVariant(6));
@@ -222,8 +215,7 @@ void TestTweakRecord::recordAfterOptimizeSaysTrue()
 void TestTweakRecord::recordAfterRestoreSaysFalse()
 {
     TestMachine machine;
-    WorkThread worker;
-    worker.winName = windows11;
+    WorkerOn worker(onEleven);
     worker.restoreRunning = 1;
     recordTweaksOfAutomatizer(worker, 0);
     QMap<QString, QVariant> values = stored(machine);
@@ -237,8 +229,7 @@ void TestTweakRecord::recordKeepsWhatItDoesNotStandFor()
     TestMachine machine;
     for (const QString &name : {u"chkGaming12"_s, u"chkGaming8"_s, u"chkGaming1"_s})
         machine.write(tweakKey, name, u"true"_s);
-    WorkThread worker;
-    worker.winName = windows10;
+    WorkerOn worker(windows10);
     worker.restoreRunning = 1;
     recordTweaksOfAutomatizer(worker, 3);
     QCOMPARE(machine.read(tweakKey, u"chkGaming12"_s), QVariant(u"true"_s));
@@ -250,8 +241,7 @@ void TestTweakRecord::optimizeAfterARestoreStillSaysFalse()
 {
     // A restore with features never clears its flag, so that the record of a later Optimize is one of a restore.
     TestMachine machine;
-    WorkThread worker;
-    worker.winName = windows11;
+    WorkerOn worker(onEleven);
     worker.restoreRunning = 1;
     worker.optimizeRunning = 1;
     recordTweaksOfAutomatizer(worker, 3);

@@ -152,9 +152,7 @@ void TestTweakSsd::powercfgThatFailsGoesUnnoticed()
 
 void TestTweakSsd::ioPageLockLimitByMemory_data()
 {
-    QTest::addColumn<QString>("bytes");
-    QTest::addColumn<QString>("memTotal");
-    QTest::addColumn<QVariant>("limit");
+    addColumns<QString, QString, QVariant>("bytes", "memTotal", "limit");
     const QVariant untouched = u"older"_s;
     const auto row = [](const char *name, const QString &bytes, const QString &memTotal, const QVariant &limit) {
         QTest::newRow(name) << bytes << memTotal << limit;

@@ -251,7 +251,7 @@ void TestTweakWalk::endsWhenAsked()
     worker.startJob(JobTweakApply);
     QVERIFY(!worker.wait(50));
     worker.requestInterruption();
-    QVERIFY(worker.wait(5000));
+    QVERIFY(worker.wait(60000));
     QCOMPARE(lines.all(), QStringList());
 }
 

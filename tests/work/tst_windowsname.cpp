@@ -36,9 +36,7 @@ void removeValue(const TestMachine &machine, const QString &name)
 
 void TestWindowsName::nameIsSetRightByTheBuild_data()
 {
-    QTest::addColumn<QString>("product");
-    QTest::addColumn<QString>("build");
-    QTest::addColumn<QString>("name");
+    addColumns<QString, QString, QString>("product", "build", "name");
     const auto row = [](const char *title, const QString &product, const QString &build, const QString &name) {
         QTest::newRow(title) << product << build << name;
     };

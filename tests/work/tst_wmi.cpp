@@ -76,8 +76,7 @@ void TestWmi::propertiesComeInTheOrderAsked()
 
 void TestWmi::aClassWithoutInstancesGivesTheEmptyText()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.machine().setWmiInstances(u"Win32_DiskDrive"_s, {});
     QCOMPARE(WmiQuery(u"Win32_DiskDrive"_s, {u"Caption"_s}), QString());
     QCOMPARE(machine.errorLog(), QStringList());
@@ -85,8 +84,7 @@ void TestWmi::aClassWithoutInstancesGivesTheEmptyText()
 
 void TestWmi::aValueReadsAsItsText_data()
 {
-    QTest::addColumn<QJsonValue>("value");
-    QTest::addColumn<QString>("text");
+    addColumns<QJsonValue, QString>("value", "text");
     QTest::newRow("text") << QJsonValue(u"Adapter"_s) << u"Adapter"_s;
     QTest::newRow("empty text") << QJsonValue(QString(u""_s)) << u""_s;
     QTest::newRow("text with an equals sign") << QJsonValue(u"a=b"_s) << u"a=b"_s;
@@ -137,16 +135,14 @@ void TestWmi::theNameStandsAsItWasAsked()
 
 void TestWmi::anUnknownClassIsAFailedQuery()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     QCOMPARE(WmiQuery(u"Win32_Nothing"_s, {u"Caption"_s}), QString());
     QCOMPARE(machine.errorLog(), QStringList{u"WmiQuery: Query failed! Error code-2147217392"_s});
 }
 
 void TestWmi::nothingIsLoggedOfAQueryThatWorked()
 {
-    TestMachine machine;
-    machine.logErrors();
+    LoggingMachine machine;
     machine.machine().setWmiInstances(u"Win32_Test"_s, {{{u"P"_s, 1}}});
     WmiQuery(u"Win32_Test"_s, {u"P"_s, u"Absent"_s});
     QCOMPARE(machine.errorLog(), QStringList());
@@ -162,9 +158,7 @@ void TestWmi::classNameAndPropertiesArePassedOnAsTheyStand()
 
 void TestWmi::eachFailedStepIsLoggedInItsOwnWords_data()
 {
-    QTest::addColumn<WmiStep>("step");
-    QTest::addColumn<qint32>("code");
-    QTest::addColumn<QString>("line");
+    addColumns<WmiStep, qint32, QString>("step", "code", "line");
     const QString prefix = u"WmiQuery: Win32_DiskDrive->Caption"_s;
     QTest::newRow("COM") << WmiStep::InitializeCom << -2147417850
                          << prefix + u" Failed to initialize COM library.Error code -2147417850"_s;

@@ -76,8 +76,7 @@ void TestWmiField::aTextWithoutTheNameGivesNothing()
 
 void TestWmiField::memoryIsCountedInWholeUnits_data()
 {
-    QTest::addColumn<QString>("bytes");
-    QTest::addColumn<QString>("text");
+    addColumns<QString, QString>("bytes", "text");
     constexpr qint64 gibibyte = 1024LL * 1024 * 1024;
     for (const int size : {4, 8, 12, 16, 32, 64})
         QTest::addRow("%d GiB", size) << QString::number(size * gibibyte) << QString::number(size) + u" Go"_s;

@@ -25,7 +25,7 @@ const QStringList winSxsHead{u"page: Status: Getting WinSxS folder size..."_s};
 const QStringList winSxsTail{u"page: Status: Getting WinSxS folder size finished!"_s, u"page: "_s};
 
 /** Pauses that nobody waits out. */
-const SimulatedOptions pausesWithoutEnd{.pace = 1e6};
+const MachineOptions pausesWithoutEnd{.pace = 1e6};
 
 /** A file of a size that it doesn't take on the disk. */
 void addSparseFile(TestMachine &machine, const QString &windowsPath, qint64 size)
@@ -186,8 +186,7 @@ void TestWorkThread::job9DisablesAndJob10EnablesTheServicesToChange()
 {
     TestMachine machine;
     machine.add({.name = u"Spooler"_s, .start = 3, .running = true});
-    WorkThread worker;
-    worker.winName = u"Windows 11 Home"_s;
+    WorkerOn worker(onEleven);
     worker.servicesToChange = {u"Spooler"_s};
 
     QVERIFY(runJob(worker, 9));
@@ -221,8 +220,7 @@ void TestWorkThread::servicesToChangeMayBeRebuiltWhileTheJobRuns()
     TestMachine machine(TestMachine::Windows::Ten, {.pace = 0.1});
     machine.add({.name = u"One"_s});
     machine.add({.name = u"Two"_s});
-    WorkThread worker;
-    worker.winName = u"Windows 10 Home"_s;
+    WorkerOn worker(onTen);
     worker.servicesToChange = {u"One"_s, u"Two"_s};
     JobLines lines(worker);
     worker.startJob(9);
@@ -245,8 +243,7 @@ void TestWorkThread::job5SendsItsLinesInOrderAndPauses3Seconds()
 
 void TestWorkThread::job5WritesGibibytesWithSixDigits_data()
 {
-    QTest::addColumn<qint64>("bytes");
-    QTest::addColumn<QString>("text");
+    addColumns<qint64, QString>("bytes", "text");
     QTest::newRow("nothing") << 0LL << u"0"_s;
     QTest::newRow("one byte") << 1LL << u"9.31323e-10"_s;
     QTest::newRow("three mebibytes") << 3 * gibibyte / 1024 << u"0.00292969"_s;
@@ -397,8 +394,7 @@ void TestWorkThread::aHangingCommandIsEndedAndSendsNoLineAfter()
     machine.add({.name = u"Spooler"_s, .running = true});
     machine.machine().setFault(u"sc stop"_s, {.hang = true});
     Command::timeLimit = std::numeric_limits<int>::max();
-    WorkThread worker;
-    worker.winName = u"Windows 11 Home"_s;
+    WorkerOn worker(onEleven);
     worker.servicesToChange = {u"Spooler"_s};
     JobLines lines(worker);
     worker.startJob(9);
@@ -426,8 +422,7 @@ void TestWorkThread::aPauseIsEndedAndSendsNoLineAfter()
 
 void TestWorkThread::askingAloneEndsEachKindOfWait_data()
 {
-    QTest::addColumn<int>("number");
-    QTest::addColumn<QString>("hanging");
+    addColumns<int, QString>("number", "hanging");
     QTest::newRow("a command whose output is awaited") << 0 << u"sc query"_s;
     QTest::newRow("a command whose end is awaited") << 9 << u"sc stop"_s;
     QTest::newRow("a pause") << 5 << QString();

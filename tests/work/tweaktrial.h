@@ -165,9 +165,7 @@ private:
 /** Data rows: each id up to @p lastId and one beyond, each form, on both generations of Windows. */
 inline void eachTweak(quint32 lastId)
 {
-    QTest::addColumn<TestMachine::Windows>("windows");
-    QTest::addColumn<quint32>("id");
-    QTest::addColumn<Forms>("forms");
+    addColumns<TestMachine::Windows, quint32, Forms>("windows", "id", "forms");
     for (const auto windows : {TestMachine::Windows::Eleven, TestMachine::Windows::Ten}) {
         for (quint32 id = 0; id <= lastId + 1; ++id) {
             for (const auto &[name, forms] : {std::pair("apply", applyAlone), std::pair("reset", resetAlone),
