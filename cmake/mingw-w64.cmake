@@ -26,9 +26,13 @@ set(QT_HOST_PATH_CMAKE_DIR /usr/lib/x86_64-linux-gnu/cmake CACHE PATH "Where the
 # The same sources give the same bytes: no paths of this computer and no times go into the result.
 string(CONCAT same_bytes "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=./build "
     "-Werror=date-time")
-set(CMAKE_C_FLAGS_INIT "${same_bytes}")
-set(CMAKE_CXX_FLAGS_INIT "${same_bytes}")
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -Wl,--no-insert-timestamp")
+# Functions with buffers notice when they are written over.
+set(CMAKE_C_FLAGS_INIT "${same_bytes} -fstack-protector-strong")
+set(CMAKE_CXX_FLAGS_INIT "${same_bytes} -fstack-protector-strong")
+# Windows may put the program anywhere in memory, and runs nothing that isn't code.
+string(CONCAT linking "-static -fstack-protector-strong -Wl,--no-insert-timestamp "
+    "-Wl,--dynamicbase,--high-entropy-va,--nxcompat")
+set(CMAKE_EXE_LINKER_FLAGS_INIT "${linking}")
 # The linker leaves the symbols out: strip would do it too, but writes the time of day into the file.
 set(CMAKE_EXE_LINKER_FLAGS_RELEASE_INIT "-s")
 

@@ -20,10 +20,18 @@ build_make() {
 inside_build_programs() {
     export CCACHE_DIR=$inside_making/ccache CCACHE_MAXSIZE=2G
     export CCACHE_DEPEND=1 CCACHE_SLOPPINESS=pch_defines,time_macros # as in ./dev
+    # What the toolchain says of the compiler is taken in once, by a fresh start.
+    if ! cmp -s "$inside_source/cmake/mingw-w64.cmake" "$inside_build/.toolchain"; then
+        configure "$inside_source" "$inside_build" --fresh
+        cp "$inside_source/cmake/mingw-w64.cmake" "$inside_build/.toolchain"
+    fi
     [[ -e $inside_build/build.ninja ]] || configure "$inside_source" "$inside_build"
     cmake --build "$inside_build" --parallel "$jobs" --target "${programs[@]}" wine_tests
-    # The first run of a test program must not find the tools of another version beside it.
-    check_imports
+    local program
+    for program in "${programs[@]}"; do
+        check_imports "$program"
+        check_header "$program"
+    done
 }
 
 # configure SOURCES FOLDER [OPTION…]
@@ -32,15 +40,33 @@ configure() {
         { tail -n 30 "$inside_making/configure.log" >&2; fail "could not be configured"; }
 }
 
-# A program may need the DLLs of Windows, which Wine has too, and no others.
+# check_imports PROGRAM: it may need the DLLs of Windows, which Wine has too, and no others.
 check_imports() {
-    local program dll
-    for program in "${programs[@]}"; do
-        while read -r dll; do
-            [[ ${dll,,} == api-ms-win-* || -e /usr/lib/x86_64-linux-gnu/wine/x86_64-windows/${dll,,} ]] ||
-                fail "$program.exe needs $dll, which is no part of Windows"
-        done < <(x86_64-w64-mingw32-objdump -p "$inside_build/bin/$program.exe" | sed -n 's/^\s*DLL Name: //p')
+    local dll
+    while read -r dll; do
+        [[ ${dll,,} == api-ms-win-* || -e /usr/lib/x86_64-linux-gnu/wine/x86_64-windows/${dll,,} ]] ||
+            fail "$1.exe needs $dll, which is no part of Windows"
+    done < <(x86_64-w64-mingw32-objdump -p "$inside_build/bin/$1.exe" | sed -n 's/^\s*DLL Name: //p')
+}
+
+# check_header PROGRAM: Windows puts it anywhere in memory, runs no data, and takes its DLLs from the system's folder, since
+# others may have put some beside the program; and its own functions look after their stack.
+check_header() {
+    local file=$inside_build/bin/$1.exe header base address section offset word
+    header=$(x86_64-w64-mingw32-objdump -p "$file")
+    for word in DYNAMIC_BASE HIGH_ENTROPY_VA NX_COMPAT; do
+        grep -qw "$word" <<<"$header" || fail "$1.exe lacks $word"
     done
+    ! grep -q '^Entry 5 0* 0* ' <<<"$header" || fail "$1.exe can't be put elsewhere in memory: it has no relocations"
+    base=$(sed -n 's/^ImageBase\s*//p' <<<"$header")
+    address=$(sed -n 's/^Entry a \([0-9a-f]*\) .*/\1/p' <<<"$header")
+    section=$(printf '%016x' $((0x$base + 0x$address)))
+    offset=$(x86_64-w64-mingw32-objdump -h "$file" | awk -v at="$section" '$4 == at { print $6 }')
+    [[ -n $offset ]] || fail "$1.exe has no load configuration"
+    # DependentLoadFlags: LOAD_LIBRARY_SEARCH_SYSTEM32
+    word=$(od -An -tx2 -j $((0x$offset + 78)) -N 2 "$file")
+    [[ $word == ' 0800' ]] || fail "$1.exe may load DLLs from its own folder: DependentLoadFlags are$word"
+    grep -qaF 'stack smashing detected' "$file" || fail "$1.exe is built without a stack protector"
 }
 
 # --- bytes -----------------------------------------------------------------------------------------------------------
