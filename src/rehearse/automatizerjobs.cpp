@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "automatizerjobs.h"
+#include "jobs.h"
 
 #include "jobrunner.h"
 #include "platform/platform.h"

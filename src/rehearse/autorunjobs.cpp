@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "autorunjobs.h"
+#include "jobs.h"
 
 #include "platform/platform.h"
 #include "work/autorun/autorun.h"

@@ -5,14 +5,35 @@
 
 #include "capture/readingplatform.h"
 #include "progress.h"
-#include "runningpc.h"
 #include "subcommands.h"
+
+#ifdef Q_OS_WIN
+#include "platform/windows/windowsplatform.h"
+#include "platform/windows/windowsreader.h"
+#endif
 
 #include <QDir>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/** The PC that this program runs on. */
+struct RunningPc
+{
+    std::unique_ptr<Platform> platform;
+    std::unique_ptr<SystemReader> reader;
+};
+
+/** Nothing where there is no Windows. */
+std::optional<RunningPc> runningPc()
+{
+#ifdef Q_OS_WIN
+    return RunningPc{std::make_unique<WindowsPlatform>(), std::make_unique<WindowsReader>()};
+#else
+    return std::nullopt;
+#endif
+}
 
 void printReport(const QString &folder, const CaptureReport &report)
 {

@@ -5,7 +5,6 @@
 #include "machine/compare/machinediff.h"
 #include "machine/machine.h"
 #include "progress.h"
-#include "reportfile.h"
 #include "subcommands.h"
 
 using namespace Qt::StringLiterals;

@@ -2,7 +2,6 @@
 
 #include "jobs.h"
 
-#include "autorunjobs.h"
 #include "machine/seam/machineplatform.h"
 #include "machine/taskdocument.h"
 #include "platform/windowsfacts.h"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The jobs that kestrune-rehearse can run, one row a job.
+// The jobs that kestrune-rehearse can run, one row a job, and those of them that the window runs otherwise than by a
+// single job of the worker.
 
 #pragma once
 
@@ -7,6 +8,8 @@
 
 #include <span>
 #include <utility>
+
+class LinePrinter;
 
 /** Texts that a job leaves in the worker, each with its name. */
 using JobResults = QList<std::pair<QString, QString>>;
@@ -41,3 +44,53 @@ constexpr int jobAutorun = -1;
 constexpr int jobTweak = -2;
 
 std::span<const JobRow> jobRows();
+
+// The Automatizer's three buttons without the window: their guards, their jobs, and what the window does after the
+// closing lines.
+
+/** What a user would have chosen in the window. */
+struct AutomatizerChoice
+{
+    bool programs = true; ///< packages and what starts at logon
+    bool features = true; ///< tweaks
+    bool walk = false;    ///< the answer to the question for the walk over all files
+};
+
+bool isAutomatizerJob(int job);
+
+/**
+ * Analyzes, optimizes what an Analyze before has found, or restores. A Failure where the window would refuse, and where
+ * a job didn't come to its end.
+ */
+void runAutomatizer(WorkThread &worker, int job, const AutomatizerChoice &choice, LinePrinter &printer);
+
+// Tweaks.
+
+/** One tweak, in one of its two forms. */
+struct TweakRequest
+{
+    void (WorkThread::*run)(quint8 apply, quint32 id);
+    QString group;
+    quint32 id;
+    bool apply;
+
+    /** The job that the window runs it by, if it is one. */
+    std::optional<int> job() const;
+};
+
+/** Reads "ssd 8 on". Throws UsageError. */
+TweakRequest parseTweak(const QStringList &operands);
+/** The operands of every tweak and what it does, a line each. */
+QString tweaksInWords();
+
+// Switching programs that start at logon, as the window's page does.
+
+/** Switches off listed entries by their names, without regard to case. Does nothing without administrator rights. */
+void disableAutoruns(WorkThread &worker, const QStringList &names);
+/** Switches recorded entries on again and takes them out of the record. Does nothing without administrator rights. */
+void enableAutoruns(WorkThread &worker, const QStringList &names);
+
+/** Names that are still listed, or aren't recorded. */
+QStringList autorunsNotDisabled(const QStringList &names);
+/** Names that aren't listed. */
+QStringList autorunsNotEnabled(const QStringList &names);

@@ -1,20 +1,174 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// kestrune-rehearse list
+// kestrune-rehearse list: what a machine has. It reads the machine itself: the logic's own lists leave files and keys
+// behind.
 
 #include "console/table.h"
 #include "machine/machine.h"
 #include "machine/registrydisplay.h"
-#include "machinelists.h"
+#include "machine/resourcetext.h"
+#include "machine/taskdocument.h"
+#include "platform/windowsfacts.h"
 #include "subcommands.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QtEndian>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+using KeyId = RegistryStore::KeyId;
+
+QStringList subkeys(const RegistryStore &store, std::optional<KeyId> key)
+{
+    QStringList names = key ? QStringList(store.subkeys(*key)) : QStringList();
+    names.sort(Qt::CaseInsensitive);
+    return names;
+}
+
+QString text(const RegistryStore &store, std::optional<KeyId> key, const QString &name)
+{
+    const std::optional<RegistryValue> value = key ? store.value(*key, name) : std::nullopt;
+    return value ? textOf(value->data) : QString();
+}
+
+std::optional<quint32> number(const RegistryStore &store, std::optional<KeyId> key, const QString &name)
+{
+    const std::optional<RegistryValue> value = key ? store.value(*key, name) : std::nullopt;
+    if (!value || value->type != RegistryType::DWord || value->data.size() != sizeof(quint32))
+        return std::nullopt;
+    return qFromLittleEndian<quint32>(value->data.constData());
+}
+
+void printRows(const QList<QStringList> &rows, const QJsonArray &array, bool json)
+{
+    if (json)
+        print(QJsonDocument(array).toJson());
+    else
+        print(table(rows));
+}
+
+QString startWord(std::optional<quint32> start)
+{
+    static const QStringList words{u"boot"_s, u"system"_s, u"auto"_s, u"manual"_s, u"disabled"_s};
+    return start ? words.value(*start, QString::number(*start)) : u"-"_s;
+}
+
+void listServices(Machine &machine, const QString &, bool json)
+{
+    constexpr quint32 win32Bits = 0x30;
+
+    const RegistryStore &store = machine.registry();
+    QJsonArray array;
+    QList<QStringList> rows;
+    const auto services = store.find(WindowsKey::services);
+    for (const QString &name : subkeys(store, services)) {
+        const auto key = store.find(*services, name);
+        const std::optional<quint32> type = number(store, key, u"Type"_s);
+        if (!type || (*type & win32Bits) == 0)
+            continue;
+        const QString state = machine.isRunning(name).value_or(false) ? u"running"_s : u"stopped"_s;
+        const QString start = startWord(number(store, key, u"Start"_s));
+        QString displayName = resolveResourceText(machine, text(store, key, u"DisplayName"_s));
+        if (displayName.isEmpty())
+            displayName = name;
+        rows.append({name, state, start, displayName});
+        array.append(QJsonObject{{u"name"_s, name},
+                                 {u"state"_s, state},
+                                 {u"start"_s, start},
+                                 {u"type"_s, static_cast<qint64>(*type)},
+                                 {u"displayName"_s, displayName}});
+    }
+    printRows(rows, array, json);
+}
+
+QString description(const Machine &machine, const QString &text)
+{
+    const bool reference = text.startsWith("$(@"_L1) && text.endsWith(u')');
+    return reference ? resolveResourceText(machine, text.sliced(2).chopped(1)) : text;
+}
+
+void listTasks(Machine &machine, const QString &, bool json)
+{
+    QList<QStringList> rows;
+    QJsonArray array;
+    for (const ScheduledTask &task : machine.tasks()) {
+        const TaskFacts facts = taskFacts(task.document);
+        const QString state = facts.enabled ? u"enabled"_s : u"disabled"_s;
+        const QString shown = description(machine, facts.description);
+        rows.append({task.path, state, shown});
+        array.append(QJsonObject{{u"path"_s, task.path}, {u"state"_s, state}, {u"description"_s, shown}});
+    }
+    printRows(rows, array, json);
+}
+
+void listPackages(Machine &machine, const QString &, bool json)
+{
+    const RegistryStore &store = machine.registry();
+    const auto packages = store.find(WindowsKey::userPackages);
+    QList<QStringList> rows;
+    QJsonArray array;
+    for (const QString &fullName : subkeys(store, packages)) {
+        const QString name = packageNameOf(fullName);
+        const QString displayName = text(store, store.find(*packages, fullName), u"DisplayName"_s);
+        rows.append({name, fullName, displayName});
+        array.append(QJsonObject{{u"name"_s, name}, {u"fullName"_s, fullName}, {u"displayName"_s, displayName}});
+    }
+    printRows(rows, array, json);
+}
+
+/** One that starts at logon, or that is switched off. */
+struct Entry
+{
+    QString path;
+    QString command;
+    bool enabled = true;
+};
+
+void appendPackagedTasks(const RegistryStore &store, QList<Entry> &entries)
+{
+    constexpr quint32 on = 2;
+
+    const auto packages = store.find(WindowsKey::packagedTasks);
+    for (const QString &package : subkeys(store, packages)) {
+        const auto packageKey = store.find(*packages, package);
+        for (const QString &task : subkeys(store, packageKey)) {
+            if (const auto state = number(store, store.find(*packageKey, task), u"State"_s))
+                entries.append({WindowsKey::packagedTasks + u'\\' + package + u'\\' + task, QString(), *state == on});
+        }
+    }
+}
+
+QList<Entry> autorunEntries(const RegistryStore &store)
+{
+    QList<Entry> entries;
+    for (const QString &path : WindowsKey::runKeys) {
+        const auto key = store.find(path);
+        for (const QString &name : key ? store.valueNames(*key) : QStringList()) {
+            if (!name.isEmpty())
+                entries.append({path + u'\\' + name, text(store, key, name)});
+        }
+    }
+    appendPackagedTasks(store, entries);
+    return entries;
+}
+
+void listAutorun(Machine &machine, const QString &, bool json)
+{
+    QList<QStringList> rows;
+    QJsonArray array;
+    for (const Entry &entry : autorunEntries(machine.registry())) {
+        const QString name = entry.path.section(u'\\', -1);
+        const QString state = entry.enabled ? u"enabled"_s : u"disabled"_s;
+        rows.append({name, state, entry.path, entry.command});
+        array.append(QJsonObject{
+            {u"name"_s, name}, {u"state"_s, state}, {u"path"_s, entry.path}, {u"command"_s, entry.command}});
+    }
+    printRows(rows, array, json);
+}
 
 void listProcesses(Machine &machine, const QString &, bool json)
 {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse preview
 
-#include "childprocess.h"
 #include "console/programinterruption.h"
 #include "machine/machine.h"
 #include "machine/machinecopy.h"
@@ -9,7 +8,6 @@
 #include "preview/previewreport.h"
 #include "preview/undo.h"
 #include "progress.h"
-#include "reportfile.h"
 #include "subcommands.h"
 
 #include <QCoreApplication>

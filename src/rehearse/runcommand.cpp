@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse run
 
-#include "automatizerjobs.h"
 #include "jobrunner.h"
 #include "jobs.h"
 #include "keepoption.h"
 #include "machine/seam/machineplatform.h"
 #include "progress.h"
 #include "subcommands.h"
-#include "tweakjobs.h"
 #include "work/windowsname.h"
 
 using namespace Qt::StringLiterals;

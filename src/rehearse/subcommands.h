@@ -8,6 +8,7 @@
 #include <memory>
 
 class Machine;
+class QProcess;
 
 enum ExitCode : int { ExitDone = 0, ExitJobFailed = 1, ExitBadArguments = 2, ExitMachineUnreadable = 3 };
 
@@ -50,3 +51,19 @@ QString absoluteFolder(const QString &folder);
 /** Writes to standard output. */
 void print(const QString &text);
 void print(const QByteArray &utf8);
+
+/**
+ * Waits for a program that was started, however long it takes. Where this program is broken off, or the other one was,
+ * it is ended with all that it runs, and Interrupted is thrown. False where it didn't start, or didn't end by itself.
+ */
+bool waitForEnd(QProcess &process);
+
+/** Tells, before long work, that a report can't be written. Leaves nothing there. Throws Failure. */
+void checkReportFile(const QString &path);
+/** The same for a report of several files, which no device or pipe can take. */
+void checkReportFiles(const QString &path);
+/**
+ * Writes a report as a whole, or leaves what was there. A device or a pipe is written to, and never replaced. Throws
+ * Failure.
+ */
+void writeReportFile(const QString &path, const QByteArray &report);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tweakjobs.h"
+#include "jobs.h"
 
 #include "preview/featurewords.h"
 #include "subcommands.h"

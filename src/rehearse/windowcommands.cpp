@@ -1,23 +1,62 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// kestrune-rehearse tour
+// kestrune-rehearse gui and tour: the program with the window, which opens on a machine.
 
-#include "childprocess.h"
 #include "machine/machine.h"
 #include "machine/machinecopy.h"
 #include "platform/windowsfacts.h"
 #include "progress.h"
 #include "subcommands.h"
-#include "windowprogram.h"
 #include "work/settings.h"
 #include "work/windowsname.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/** The path of the program with the window; a Failure where it is missing beside this program. */
+QString windowProgram()
+{
+    // On Windows a program of its own, for kestrune itself works on the real PC there.
+    const QString name = QStringLiteral(KESTRUNE_WINDOW_PROGRAM);
+    const QString program = QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()});
+    if (program.isEmpty())
+        throw Failure{ExitJobFailed, u"the program %1 is missing beside this one"_s.arg(name)};
+    return program;
+}
+
+/** The environment that lets it open on a machine, given by its folder. */
+QProcessEnvironment windowEnvironment(const QString &machine, bool elevated)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"KESTRUNE_MACHINE"_s, machine);
+    environment.insert(u"KESTRUNE_ELEVATED"_s, elevated ? u"1"_s : u"0"_s);
+    // A program without a console would tell its errors nobody.
+    environment.insert(u"QT_FORCE_STDERR_LOGGING"_s, u"1"_s);
+    return environment;
+}
+
+int runGui(const Arguments &arguments)
+{
+    const QString folder = openMachine(arguments.operand(0))->folder();
+    const QString program = windowProgram();
+    QProcess window;
+    window.setProcessEnvironment(windowEnvironment(folder, !arguments.has("not-elevated"_L1)));
+    window.setProcessChannelMode(QProcess::ForwardedChannels);
+    window.start(program, QStringList());
+    if (!waitForEnd(window))
+        throw Failure{ExitJobFailed, u"%1: %2"_s.arg(program, window.errorString())};
+    return window.exitCode();
+}
+
+constexpr OptionRow guiOptions[] = {
+    {"not-elevated"_L1, {}, "run it as a user without administrator rights"_L1},
+};
 
 constexpr QLatin1StringView pages[] = {
     "optimizer"_L1, "services"_L1, "tasks"_L1,   "autorun"_L1, "packages"_L1,
@@ -88,13 +127,17 @@ int runTour(const Arguments &arguments)
     return ExitDone;
 }
 
-constexpr OptionRow options[] = {
+constexpr OptionRow tourOptions[] = {
     {"out"_L1, "FOLDER"_L1, "where the pictures go"_L1},
 };
 
 } // namespace
 
+const Subcommand guiSubcommand{
+    "gui"_L1, "DIR"_L1, "open the window on a machine"_L1, guiOptions, 1, 1, runGui,
+};
+
 const Subcommand tourSubcommand{
-    "tour"_L1, "DIR --out FOLDER"_L1, "save a picture of each page of the window in both themes"_L1, options, 1, 1,
+    "tour"_L1, "DIR --out FOLDER"_L1, "save a picture of each page of the window in both themes"_L1, tourOptions, 1, 1,
     runTour,
 };

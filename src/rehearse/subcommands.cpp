@@ -1,16 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-
-#include "reportfile.h"
+// What the subcommands share.
 
 #include "subcommands.h"
 
+#include "console/programinterruption.h"
+#include "machine/machine.h"
+
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 #include <QSaveFile>
+
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/** Lets it end what it runs itself; a console's Ctrl-C has reached it anyway. */
+void end(QProcess &process)
+{
+    constexpr int patience = 5000;
+
+    process.terminate();
+    if (!process.waitForFinished(patience)) {
+        process.kill();
+        process.waitForFinished(-1);
+    }
+}
 
 [[noreturn]] void fail(const QString &path, const QString &reason)
 {
@@ -37,6 +54,41 @@ void write(QFileDevice &file, const QByteArray &report)
 }
 
 } // namespace
+
+std::unique_ptr<Machine> openMachine(const QString &folder)
+{
+    try {
+        return Machine::open(absoluteFolder(folder));
+    } catch (const MachineError &error) {
+        throw Failure{ExitMachineUnreadable, error.message};
+    }
+}
+
+QString absoluteFolder(const QString &folder)
+{
+    return QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
+}
+
+void print(const QString &text)
+{
+    print(text.toUtf8());
+}
+
+void print(const QByteArray &utf8)
+{
+    std::fwrite(utf8.constData(), 1, static_cast<std::size_t>(utf8.size()), stdout);
+}
+
+bool waitForEnd(QProcess &process)
+{
+    process.waitForStarted(-1);
+    while (process.state() != QProcess::NotRunning && !process.waitForFinished(interruptionSlice)) {
+        if (isInterrupted())
+            end(process);
+    }
+    stopIfInterrupted();
+    return process.error() != QProcess::FailedToStart && process.exitStatus() == QProcess::NormalExit;
+}
 
 void checkReportFile(const QString &path)
 {
