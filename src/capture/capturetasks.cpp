@@ -3,7 +3,7 @@
 #include "capturetasks.h"
 
 #include "console/console.h"
-#include "machine/source/taskexport.h"
+#include "machine/source/toolreport.h"
 #include "platform/platform.h"
 #include "work/command.h"
 

@@ -24,6 +24,9 @@ struct ScheduledTask
     friend bool operator==(const ScheduledTask &, const ScheduledTask &) = default;
 };
 
+/** Who owns the files of Windows; a file of that owner is as it was installed. */
+inline constexpr QLatin1StringView installationOwner("NT SERVICE\\TrustedInstaller");
+
 /** Who owns a file and whom rights were granted, as far as it was changed. */
 struct FileSecurity
 {
@@ -190,3 +193,10 @@ private:
     std::unique_ptr<Database> database_;
     RegistryStore registry_;
 };
+
+/**
+ * Copies a machine as it is at this moment into a folder that isn't there yet; other processes may go on working on it.
+ * Its log of commands stays behind, and the tools are placed by whoever works on the copy. Changes nothing in the
+ * source. Throws MachineError and Interrupted, with a part of the copy left.
+ */
+void copyMachine(const Machine &source, const QString &folder);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "machinecopy.h"
+#include "machine.h"
 
 #include "console/programinterruption.h"
 #include "database.h"

@@ -4,7 +4,6 @@
 #include "machinekey.h"
 
 #include "machineerror.h"
-#include "settingsvalue.h"
 
 #include <algorithm>
 

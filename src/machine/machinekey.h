@@ -37,3 +37,7 @@ private:
     QString prefix_;                                   ///< all of them, each with a slash at its end
     mutable std::optional<RegistryStore::KeyId> base_; ///< once opened, as a handle would stay
 };
+
+/** How QSettings' native format reads registry values as variants, and puts variants into them. */
+QVariant variantOf(const RegistryValue &value);
+RegistryValue registryValueOf(const QString &name, const QVariant &value);

@@ -5,6 +5,8 @@
 
 #include "registrystore.h"
 
+class Machine;
+
 /** "dword", "text", "multi" and so on; "type 12" for one without a name. */
 QString typeName(RegistryType type);
 /** The data alone: a text in quotes, a number, or bytes. Long bytes are cut, with their number and a checksum. */
@@ -15,3 +17,10 @@ QString valueText(const RegistryValue &value);
 QString rawValueText(const RegistryValue &value);
 /** The value's name, "(default)" for the unnamed one. */
 QString valueName(const RegistryValue &value);
+
+/**
+ * The string behind a registry text that stands for one in a DLL, such as "@%SystemRoot%\system32\x.dll,-100", by the
+ * machine's DLLs and environment, as the service manager shows it. A text that is no reference, and a reference that
+ * leads nowhere, come back as they are.
+ */
+QString resolveResourceText(const Machine &machine, const QString &text);

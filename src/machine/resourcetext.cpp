@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Registry texts that stand for a string in a DLL.
 
-#include "resourcetext.h"
+#include "registrydisplay.h"
+
+#include "machine.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How QSettings' native format puts variants into registry values, and reads them back.
 
-#include "settingsvalue.h"
+#include "machinekey.h"
 
 #include <QDataStream>
 #include <QIODevice>

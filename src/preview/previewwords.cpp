@@ -4,7 +4,8 @@
 
 #include "featurewords.h"
 #include "machine/compare/machinediff.h"
-#include "machine/resourcetext.h"
+#include "machine/machine.h"
+#include "machine/registrydisplay.h"
 #include "machine/taskdocument.h"
 #include "platform/windowsfacts.h"
 #include "work/settings.h"

@@ -2,7 +2,7 @@
 
 #include "registryundo.h"
 
-#include "machine/compare/registrydiff.h"
+#include "machine/compare/machinediff.h"
 
 QList<RegistryEdit> registryUndo(const RegistryStore &before, const RegistryStore &after)
 {

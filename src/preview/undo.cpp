@@ -4,7 +4,6 @@
 
 #include "machine/compare/machinediff.h"
 #include "machine/database.h"
-#include "machine/fileowner.h"
 #include "machine/machine.h"
 #include "platform/windowsfacts.h"
 #include "registryundo.h"

@@ -5,7 +5,6 @@
 #include "console/table.h"
 #include "machine/machine.h"
 #include "machine/registrydisplay.h"
-#include "machine/resourcetext.h"
 #include "machine/taskdocument.h"
 #include "platform/windowsfacts.h"
 #include "subcommands.h"

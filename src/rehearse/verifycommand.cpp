@@ -2,7 +2,7 @@
 // kestrune-rehearse verify
 
 #include "jobrunner.h"
-#include "machine/machinecopy.h"
+#include "machine/machine.h"
 #include "machine/seam/machineplatform.h"
 #include "subcommands.h"
 #include "verify/verifyreport.h"

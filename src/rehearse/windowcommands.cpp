@@ -2,7 +2,6 @@
 // kestrune-rehearse gui and tour: the program with the window, which opens on a machine.
 
 #include "machine/machine.h"
-#include "machine/machinecopy.h"
 #include "platform/windowsfacts.h"
 #include "progress.h"
 #include "subcommands.h"

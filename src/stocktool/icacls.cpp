@@ -2,7 +2,7 @@
 // icacls: grants a user rights to a file, takes all that was granted back, and gives a file to an owner.
 
 #include "console/consolecodepage.h"
-#include "machine/fileowner.h"
+#include "machine/machine.h"
 #include "tools.h"
 
 #include <QFileInfo>

@@ -5,7 +5,7 @@
 #include "machine/database.h"
 #include "machine/filehole.h"
 #include "machine/machinekey.h"
-#include "machine/resourcetext.h"
+#include "machine/registrydisplay.h"
 
 #include <QFile>
 #include <QFileInfo>

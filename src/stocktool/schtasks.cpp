@@ -2,7 +2,7 @@
 // schtasks: the task scheduler's own tool.
 
 #include "console/consolecodepage.h"
-#include "machine/source/taskexport.h"
+#include "machine/source/toolreport.h"
 #include "machine/taskdocument.h"
 #include "tools.h"
 

@@ -6,7 +6,37 @@
 #include "capture/capture.h"
 #include "capture/readingplatform.h"
 #include "machine/seam/machineplatform.h"
-#include "machine/seam/machinereader.h"
+
+/** A rehearsal machine, read as a PC is. */
+class MachineReader final : public SystemReader
+{
+public:
+    explicit MachineReader(Machine &machine)
+        : machine_(machine)
+    {
+    }
+
+    KeyContent key(const QString &path) const override
+    {
+        const RegistryStore &store = machine_.registry();
+        const auto key = store.find(path);
+        if (!key)
+            return {};
+        return {true, false, store.values(*key), store.subkeys(*key)};
+    }
+
+    std::optional<QList<ServiceReport>> serviceReports() const override
+    {
+        QList<ServiceReport> services;
+        const QMap<QString, bool> states = machine_.runStates();
+        for (auto it = states.begin(); it != states.end(); ++it)
+            services.append({it.key(), it.value()});
+        return services;
+    }
+
+private:
+    Machine &machine_;
+};
 
 inline CaptureReport captureMachine(const QString &source, const QString &folder, Names names = Names::Keep,
                                     const MachineOptions &options = {}, Existing existing = Existing::Keep,

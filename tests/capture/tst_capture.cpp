@@ -6,7 +6,7 @@
 #include "capturing.h"
 #include "machine/compare/machinediff.h"
 #include "machine/database.h"
-#include "machine/machinecopy.h"
+#include "machine/machine.h"
 #include "recordingplatform.h"
 #include "support/processes.h"
 #include "support/suite.h"

@@ -4,7 +4,7 @@
 #include "support/smallmachine.h"
 #include "support/suite.h"
 
-#include "machine/resourcetext.h"
+#include "machine/registrydisplay.h"
 #include "machine/taskdocument.h"
 
 #include <QJsonArray>

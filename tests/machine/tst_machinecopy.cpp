@@ -5,7 +5,7 @@
 #include "support/suite.h"
 
 #include "machine/compare/machinediff.h"
-#include "machine/machinecopy.h"
+#include "machine/machine.h"
 
 #include <QDir>
 #include <QTest>

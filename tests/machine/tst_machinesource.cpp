@@ -6,7 +6,7 @@
 
 #include "machine/compare/machinediff.h"
 #include "machine/source/regfile.h"
-#include "machine/source/screport.h"
+#include "machine/source/toolreport.h"
 
 #include <QDir>
 #include <QJsonArray>

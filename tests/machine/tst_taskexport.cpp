@@ -5,7 +5,7 @@
 #include "support/suite.h"
 
 #include "console/consolecodepage.h"
-#include "machine/source/taskexport.h"
+#include "machine/source/toolreport.h"
 
 #include <QStringEncoder>
 #include <QTest>

@@ -6,7 +6,7 @@
 #include "support/undoing.h"
 
 #include "machine/compare/machinediff.h"
-#include "machine/machinecopy.h"
+#include "machine/machine.h"
 #include "preview/undo.h"
 
 #include <QDir>

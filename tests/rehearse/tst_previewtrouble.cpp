@@ -6,7 +6,7 @@
 
 #include "machine/compare/machinediff.h"
 #include "machine/database.h"
-#include "machine/machinecopy.h"
+#include "machine/machine.h"
 
 #include <QDir>
 #include <QTest>

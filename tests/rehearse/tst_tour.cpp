@@ -2,7 +2,7 @@
 // kestrune-rehearse tour: pictures of all pages, with the machine left as it was.
 
 #include "machine/compare/machinediff.h"
-#include "machine/machinecopy.h"
+#include "machine/machine.h"
 #include "machine/source/machinesource.h"
 #include "support/suite.h"
 

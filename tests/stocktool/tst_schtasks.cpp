@@ -4,7 +4,7 @@
 #include "support/suite.h"
 #include "support/toolrun.h"
 
-#include "machine/source/taskexport.h"
+#include "machine/source/toolreport.h"
 #include "machine/taskdocument.h"
 
 #include <QJsonArray>

@@ -7,7 +7,7 @@
 #include "support/suite.h"
 
 #include "machine/compare/machinediff.h"
-#include "machine/machinecopy.h"
+#include "machine/machine.h"
 #include "machine/taskdocument.h"
 #include "verify/verifyreport.h"
 #include "work/settings.h"
@@ -495,4 +495,3 @@ void TestVerify::longListsAreCutInTheText()
 
 KESTRUNE_SUITE(TestVerify)
 #include "tst_verify.moc"
-#include "work/settings.h"

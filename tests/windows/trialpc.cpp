@@ -2,7 +2,7 @@
 
 #include "trialpc.h"
 
-#include "machine/source/taskexport.h"
+#include "machine/source/toolreport.h"
 #include "platform/windows/windowsplatform.h"
 #include "windows/standin/standinkeys.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "filediff.h"
+#include "machinediff.h"
 
 #include "console/programinterruption.h"
 #include "machine/machine.h"

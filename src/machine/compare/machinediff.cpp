@@ -3,11 +3,9 @@
 #include "machinediff.h"
 
 #include "console/programinterruption.h"
-#include "filediff.h"
 #include "machine/database.h"
 #include "machine/machine.h"
 #include "machine/taskdocument.h"
-#include "registrydiff.h"
 
 #include <QCryptographicHash>
 

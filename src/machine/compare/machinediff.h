@@ -5,8 +5,11 @@
 
 #include "console/progresscallback.h"
 #include "diffrow.h"
+#include "machine/registrystore.h"
 
 #include <QList>
+
+#include <functional>
 
 class Machine;
 
@@ -23,3 +26,25 @@ QString kindName(DiffKind kind);
 QList<DiffRow> compareMachines(Machine &before, Machine &after, const ProgressCallback &progress = {});
 /** The same but for the registry, which is most of the work. */
 QList<DiffRow> compareBesidesRegistry(Machine &before, Machine &after);
+
+/** A key that one machine lacks, or a value that differs. */
+struct RegistryDifference
+{
+    QString key;
+    bool ofKey = false; ///< the key itself, which is told before its values
+    bool empty = false; ///< of a key: it holds nothing
+    bool keyWasThere = false;
+    std::optional<RegistryValue> before{}; ///< of a value; nothing where it is absent
+    std::optional<RegistryValue> after{};
+};
+
+/** Visits all differences, keys sorted by their path. HKEY_CLASSES_ROOT is told as the key it is a view of. */
+void eachRegistryDifference(const RegistryStore &before, const RegistryStore &after,
+                            const std::function<void(const RegistryDifference &)> &visit);
+
+// The parts of a comparison that have files of their own.
+
+/** Rows of files, folders and attributes of the drives, and the files of the program folder. */
+void compareFiles(const Machine &before, const Machine &after, QList<DiffRow> &rows);
+/** Rows of the registries; a key has one only where it is empty. */
+void compareRegistries(const RegistryStore &before, const RegistryStore &after, QList<DiffRow> &rows);

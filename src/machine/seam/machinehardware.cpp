@@ -3,7 +3,7 @@
 
 #include "machineplatform.h"
 
-#include "guarded.h"
+#include "machine/machineerror.h"
 
 #include <QJsonArray>
 

@@ -3,12 +3,11 @@
 
 #include "machineplatform.h"
 
-#include "environment.h"
 #include "folderwalk.h"
-#include "guarded.h"
+#include "machine/machineerror.h"
 #include "machine/machinekey.h"
 #include "platform/windowsfacts.h"
-#include "scriptopener.h"
+#include "rehearsalprocess.h"
 
 #include <QCoreApplication>
 #include <QDir>

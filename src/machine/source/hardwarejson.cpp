@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The hardware of a machine.json.
 
-#include "hardwarejson.h"
+#include "jsonreader.h"
+#include "machinejson.h"
 
 #include <array>
 

@@ -2,7 +2,6 @@
 
 #include "machinejson.h"
 
-#include "hardwarejson.h"
 #include "jsonreader.h"
 #include "platform/windowsfacts.h"
 

@@ -5,6 +5,8 @@
 
 #include "machine/machine.h"
 
+class JsonReader;
+
 /** A file or folder that a machine has on its drive. */
 struct FileDescription
 {
@@ -34,3 +36,5 @@ struct MachineDescription
 
 /** Reads a machine.json. Throws MachineError with "file:line: reason" or "file: key: reason". */
 MachineDescription parseMachineJson(const QByteArray &bytes, const QString &fileName);
+/** Checks its hardware part by part, and gives it as Machine::setHardware() takes it. Throws MachineError. */
+QJsonObject readHardwareJson(const JsonReader &read, const QJsonValue &value, const QString &key);

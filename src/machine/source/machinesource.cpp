@@ -5,7 +5,7 @@
 #include "console/programinterruption.h"
 #include "filechanges.h"
 #include "machine/database.h"
-#include "taskexport.h"
+#include "toolreport.h"
 
 #include <QDir>
 #include <QFile>

@@ -7,7 +7,7 @@
 #include "machine/machine.h"
 #include "machinejson.h"
 #include "regfile.h"
-#include "screport.h"
+#include "toolreport.h"
 
 #include <functional>
 

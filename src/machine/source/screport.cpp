@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// What "sc query state= all" prints.
 
-#include "screport.h"
+#include "toolreport.h"
 
 #include "machine/machineerror.h"
 

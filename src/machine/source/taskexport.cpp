@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "taskexport.h"
+#include "toolreport.h"
 
 #include "console/consolecodepage.h"
 #include "machine/taskdocument.h"

@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reads and writes scheduled tasks in the form that "schtasks /xml" prints.
+// What the system's own tools print on a PC: "sc query state= all" and "schtasks /xml".
 
 #pragma once
 
 #include "machine/machine.h"
+#include "platform/systemreader.h"
 
-/** Whether a file is such a list, by its name or its beginning. */
+/** Whether a text looks like what "sc query state= all" prints, in any language. */
+bool isServiceReport(const QString &text);
+/** Reads it. Throws MachineError with "file:line: reason". */
+QList<ServiceReport> parseServiceReport(const QString &text, const QString &fileName);
+
+/** Whether a file is a list of scheduled tasks as "schtasks /xml" prints it, by its name or its beginning. */
 bool isTaskExport(const QString &fileName, const QByteArray &bytes);
 /**
  * Reads documents one after another, or within <Tasks>, each behind a comment that names its path, and a declaration. A
