@@ -16,3 +16,9 @@ bool errorsGoToTerminal();
 bool starterIsGone();
 /** What a tool printed, in the code page of this console; where there is none, in that of a rehearsal machine. */
 QString consoleText(const QByteArray &bytes);
+
+// Code page 850, which the consoles of most PCs in Western Europe have, and those of rehearsal machines.
+
+/** The text as tools print it; a character that the code page lacks becomes "?". */
+QByteArray toConsoleBytes(QStringView text);
+QString fromConsoleBytes(const QByteArray &bytes);

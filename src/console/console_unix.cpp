@@ -2,8 +2,6 @@
 
 #include "console.h"
 
-#include "consolecodepage.h"
-
 #include <unistd.h>
 
 namespace {

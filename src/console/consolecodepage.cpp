@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "consolecodepage.h"
+#include "console.h"
 
 #include <QHash>
 

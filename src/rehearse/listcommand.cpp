@@ -2,7 +2,6 @@
 // kestrune-rehearse list: what a machine has. It reads the machine itself: the logic's own lists leave files and keys
 // behind.
 
-#include "console/table.h"
 #include "machine/machine.h"
 #include "machine/registrydisplay.h"
 #include "machine/taskdocument.h"
@@ -40,6 +39,28 @@ std::optional<quint32> number(const RegistryStore &store, std::optional<KeyId> k
     if (!value || value->type != RegistryType::DWord || value->data.size() != sizeof(quint32))
         return std::nullopt;
     return qFromLittleEndian<quint32>(value->data.constData());
+}
+
+/** Rows in columns as wide as they need to be; the last one is left ragged. */
+QString table(const QList<QStringList> &rows)
+{
+    QList<qsizetype> widths;
+    for (const QStringList &row : rows) {
+        widths.resize(std::max(widths.size(), row.size()));
+        for (qsizetype i = 0; i < row.size(); ++i)
+            widths[i] = std::max(widths[i], row.at(i).size());
+    }
+    QString text;
+    for (const QStringList &row : rows) {
+        QString line;
+        for (qsizetype i = 0; i + 1 < row.size(); ++i)
+            line += row.at(i).leftJustified(widths.at(i)) + u"  "_s;
+        line += row.last();
+        while (line.endsWith(u' '))
+            line.chop(1);
+        text += line + u'\n';
+    }
+    return text;
 }
 
 void printRows(const QList<QStringList> &rows, const QJsonArray &array, bool json)

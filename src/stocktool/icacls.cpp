@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // icacls: grants a user rights to a file, takes all that was granted back, and gives a file to an owner.
 
-#include "console/consolecodepage.h"
+#include "console/console.h"
 #include "machine/machine.h"
 #include "tools.h"
 

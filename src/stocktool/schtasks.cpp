@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // schtasks: the task scheduler's own tool.
 
-#include "console/consolecodepage.h"
+#include "console/console.h"
 #include "machine/source/toolreport.h"
 #include "machine/taskdocument.h"
 #include "tools.h"

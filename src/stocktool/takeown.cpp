@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // takeown: makes the user the owner of a file.
 
-#include "console/consolecodepage.h"
+#include "console/console.h"
 #include "tools.h"
 
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // taskkill: ends processes by the name of their program.
 
-#include "console/consolecodepage.h"
+#include "console/console.h"
 #include "tools.h"
 
 using namespace Qt::StringLiterals;

@@ -4,7 +4,7 @@
 #include "support/smallmachine.h"
 #include "support/suite.h"
 
-#include "console/consolecodepage.h"
+#include "console/console.h"
 #include "machine/source/toolreport.h"
 
 #include <QStringEncoder>

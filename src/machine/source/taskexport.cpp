@@ -2,7 +2,7 @@
 
 #include "toolreport.h"
 
-#include "console/consolecodepage.h"
+#include "console/console.h"
 #include "machine/taskdocument.h"
 
 #include <QFileInfo>
