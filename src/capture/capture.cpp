@@ -2,9 +2,7 @@
 
 #include "capture.h"
 
-#include "capturefiles.h"
-#include "capturehardware.h"
-#include "captureregistry.h"
+#include "capturesteps.h"
 #include "machine/taskdocument.h"
 #include "neutralnames.h"
 #include "platform/windowsfacts.h"

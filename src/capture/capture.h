@@ -3,11 +3,17 @@
 
 #pragma once
 
-#include "capturetasks.h"
 #include "machine/source/machinesource.h"
 #include "platform/systemreader.h"
 
 class ReadingPlatform;
+
+/** A part of a PC that could not be read, and why. */
+struct NotRead
+{
+    QString what;
+    QString reason;
+};
 
 struct CaptureReport
 {

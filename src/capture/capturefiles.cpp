@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "capturefiles.h"
-
-#include "captureregistry.h"
+#include "capturesteps.h"
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
 

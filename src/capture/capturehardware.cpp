@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "capturehardware.h"
+#include "capturesteps.h"
 
 #include "platform/platform.h"
 

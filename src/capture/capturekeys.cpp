@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "capturekeys.h"
+#include "capturesteps.h"
 
 #include "machine/registrystore.h"
 #include "platform/windowsfacts.h"

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "captureregistry.h"
-
-#include "capturekeys.h"
+#include "capturesteps.h"
 #include "platform/windowsfacts.h"
 #include "work/settings.h"
 

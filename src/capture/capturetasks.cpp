@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "capturetasks.h"
+#include "capturesteps.h"
 
 #include "console/console.h"
 #include "machine/source/toolreport.h"

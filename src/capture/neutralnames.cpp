@@ -2,7 +2,7 @@
 
 #include "neutralnames.h"
 
-#include "capturekeys.h"
+#include "capturesteps.h"
 #include "platform/windowsfacts.h"
 #include "work/settings.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse capture: a PC, which a rehearsal machine stands for here, becomes a machine that behaves alike.
 
-#include "capture/capturekeys.h"
+#include "capture/capturesteps.h"
 #include "capture/neutralnames.h"
 #include "capturing.h"
 #include "machine/compare/machinediff.h"
