@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "featurewords.h"
+#include "previewwords.h"
 
 #include "machine/compare/diffrow.h"
 #include "machine/registrystore.h"

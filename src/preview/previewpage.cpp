@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "previewpage.h"
+#include "previewreport.h"
 
 #include "machine/compare/webpage.h"
 #include "previewpagestyle.h"

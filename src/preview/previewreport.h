@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Previews as text and JSON.
+// Previews as text, JSON and web page.
 
 #pragma once
 
@@ -28,3 +28,10 @@ QString previewText(const QList<PreviewItem> &items);
  *             "comesBack"  the verdict on this one
  */
 QByteArray previewJson(const QList<PreviewItem> &items);
+
+/**
+ * One page that needs nothing besides itself, and by its own policy can't ask for anything: counts on top, filters by
+ * verdict and by group, a search field, each item in one line that opens to its values. Prints with everything open.
+ * @param machine what is told of the PC below the title
+ */
+QString previewHtml(const QList<PreviewItem> &items, const QString &machine);

@@ -2,7 +2,6 @@
 
 #include "previewwords.h"
 
-#include "featurewords.h"
 #include "machine/compare/machinediff.h"
 #include "machine/machine.h"
 #include "machine/registrydisplay.h"

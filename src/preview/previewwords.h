@@ -28,3 +28,14 @@ inline const QString runStateDetail = QStringLiteral("state");
 PreviewWords previewWords(Machine &before, Machine &optimized, const DiffRow &row);
 /** What a side of the row shows: start modes and empty keys have words, everything else stays. */
 QString sideInWords(const PreviewWords &words, const QString &side);
+
+struct FeatureWords
+{
+    QString option; ///< its text on the Features page, shortened to its first sentence
+    QString about;  ///< what that is good for, or costs
+};
+
+/** The option's box on the Features page ("chkSsd1"); empty where the row is of none. */
+QString featureOf(const DiffRow &row);
+/** Empty for a name that no box has. */
+FeatureWords featureWords(const QString &box);

@@ -6,7 +6,6 @@
 #include "machine/database.h"
 #include "machine/machine.h"
 #include "platform/windowsfacts.h"
-#include "registryundo.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -221,6 +220,26 @@ void writeFile(const QString &path, const QByteArray &content)
 }
 
 } // namespace
+
+QList<RegistryEdit> registryUndo(const RegistryStore &before, const RegistryStore &after)
+{
+    QList<RegistryEdit> edits;
+    QString removed; // a new key; what it holds goes with it
+    eachRegistryDifference(before, after, [&](const RegistryDifference &difference) {
+        if (!removed.isEmpty() && (difference.key == removed || difference.key.startsWith(removed + u'\\')))
+            return;
+        using Kind = RegistryEdit::Kind;
+        if (difference.ofKey && !difference.keyWasThere)
+            removed = difference.key;
+        if (difference.ofKey)
+            edits.append({difference.keyWasThere ? Kind::MakeKey : Kind::RemoveKey, difference.key, {}});
+        else if (difference.before)
+            edits.append({Kind::SetValue, difference.key, *difference.before});
+        else
+            edits.append({Kind::RemoveValue, difference.key, *difference.after});
+    });
+    return edits;
+}
 
 Undo undoOf(Machine &before, Machine &after, const QString &filesFolder)
 {

@@ -7,6 +7,12 @@
 
 class Machine;
 
+/**
+ * The edits that make the registry of @p after that of @p before, to the last value and type: old values are set, new
+ * ones removed, new keys removed with all below them.
+ */
+QList<RegistryEdit> registryUndo(const RegistryStore &before, const RegistryStore &after);
+
 /** What has to be put where, because a command can't say it. */
 struct UndoFile
 {

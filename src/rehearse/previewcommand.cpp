@@ -3,7 +3,6 @@
 
 #include "console/programinterruption.h"
 #include "machine/machine.h"
-#include "preview/previewpage.h"
 #include "preview/previewreport.h"
 #include "preview/undo.h"
 #include "progress.h"

@@ -2,7 +2,7 @@
 
 #include "jobs.h"
 
-#include "preview/featurewords.h"
+#include "preview/previewwords.h"
 #include "subcommands.h"
 
 #include <algorithm>

@@ -5,7 +5,7 @@
 #include "machine/machine.h"
 #include "machine/seam/machineplatform.h"
 #include "subcommands.h"
-#include "verify/verifyreport.h"
+#include "verify/verify.h"
 #include "work/tweaks/tweakcatalogue.h"
 #include "work/tweaks/tweakrecord.h"
 #include "work/windowsname.h"

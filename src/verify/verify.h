@@ -65,3 +65,9 @@ QList<VerifiedItem> verifyOptions(Machine &before, Machine &now, Machine &again)
 
 /** Why two machines can't be states of one PC that may be compared; empty where nothing speaks against it. */
 QString differentPcs(Machine &before, Machine &now);
+
+/** Counts, and then group by group what isn't in force, with its values, before what is. Ends in a line break. */
+QString verifyText(const QList<VerifiedItem> &items);
+QByteArray verifyJson(const QList<VerifiedItem> &items);
+/** Whether everything that is recorded is in force, or gone. */
+bool allInForce(const QList<VerifiedItem> &items);

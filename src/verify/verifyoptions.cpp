@@ -3,7 +3,7 @@
 #include "console/programinterruption.h"
 #include "machine/compare/machinediff.h"
 #include "machine/machine.h"
-#include "preview/featurewords.h"
+#include "preview/previewwords.h"
 #include "toollog.h"
 #include "verify.h"
 #include "work/settings.h"

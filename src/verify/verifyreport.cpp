@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "verifyreport.h"
+#include "verify.h"
 
 #include "preview/previewtexts.h"
 

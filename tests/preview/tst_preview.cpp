@@ -5,7 +5,6 @@
 #include "support/smallmachine.h"
 #include "support/suite.h"
 
-#include "preview/previewpage.h"
 #include "preview/previewreport.h"
 #include "preview/previewtexts.h"
 

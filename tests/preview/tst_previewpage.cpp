@@ -5,7 +5,7 @@
 #include "support/suite.h"
 #include "support/webdriver.h"
 
-#include "preview/previewpage.h"
+#include "preview/previewreport.h"
 
 #include <QDir>
 #include <QJsonArray>

@@ -9,7 +9,7 @@
 #include "machine/compare/machinediff.h"
 #include "machine/machine.h"
 #include "machine/taskdocument.h"
-#include "verify/verifyreport.h"
+#include "verify/verify.h"
 #include "work/settings.h"
 
 #include <QJsonArray>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What previews call the options of the Features page against what the page itself calls them.
 
-#include "preview/featurewords.h"
+#include "preview/previewwords.h"
 #include "support/suite.h"
 #include "ui_kestrune.h"
 #include "work/tweaks/tweakcatalogue.h"
