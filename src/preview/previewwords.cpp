@@ -57,13 +57,10 @@ void putValue(PreviewWords &words, const DiffRow &row)
 
 PreviewWords serviceWords(Machine &machine, const QString &service)
 {
-    const auto text = [&](const QString &value) {
-        return registryTextAt(machine, machine.registry(), servicePrefix + service, value);
-    };
     return {.group = PreviewGroup::Services,
             .item = foldName(service),
-            .title = orElse(text(u"DisplayName"_s), service),
-            .about = text(u"Description"_s),
+            .title = serviceTitle(machine, service),
+            .about = registryTextAt(machine, machine.registry(), servicePrefix + service, u"Description"_s),
             .name = service};
 }
 
@@ -233,16 +230,26 @@ PreviewWords optionWords(const FeatureWords &feature, const DiffRow &row)
 
 } // namespace
 
-QString sideInWords(const PreviewWords &words, const QString &side)
+QString serviceTitle(Machine &machine, const QString &service)
+{
+    return orElse(registryTextAt(machine, machine.registry(), servicePrefix + service, u"DisplayName"_s), service);
+}
+
+QString startModeInWords(const QString &value)
 {
     static const QMap<QString, QString> modes{{u"dword 0"_s, u"boot"_s},
                                               {u"dword 1"_s, u"system"_s},
                                               {u"dword 2"_s, u"automatic"_s},
                                               {u"dword 3"_s, u"manual"_s},
                                               {u"dword 4"_s, u"disabled"_s}};
+    return modes.value(value, value);
+}
+
+QString sideInWords(const PreviewWords &words, const QString &side)
+{
     static const QMap<QString, QString> answers{{u"dword 0"_s, u"no"_s}, {u"dword 1"_s, u"yes"_s}};
     if (words.group == PreviewGroup::Services && words.detail == startModeDetail)
-        return modes.value(side, side);
+        return startModeInWords(side);
     if (words.group == PreviewGroup::Services && words.detail == delayedStartDetail)
         return answers.value(side, side);
     return words.detail == keyDetail && !side.isEmpty() ? u"an empty key"_s : side;

@@ -29,6 +29,11 @@ PreviewWords previewWords(Machine &before, Machine &optimized, const DiffRow &ro
 /** What a side of the row shows: start modes and empty keys have words, everything else stays. */
 QString sideInWords(const PreviewWords &words, const QString &side);
 
+/** What a service is called; its name where the machine has no other, or none that can be read. */
+QString serviceTitle(Machine &machine, const QString &service);
+/** "automatic" for the text of a value Start, "dword 2"; any other text stays as it is. */
+QString startModeInWords(const QString &value);
+
 struct FeatureWords
 {
     QString option; ///< its text on the Features page, shortened to its first sentence

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "machine/compare/diffrow.h"
 #include "machine/machine.h"
 #include "machine/registrydisplay.h"
 #include "machine/taskdocument.h"
@@ -117,23 +116,15 @@ private:
         return run == switches.end() ? std::nullopt : std::optional(*run);
     }
 
-    QString serviceTitle(const QString &name) const
+    static QString startMode(Machine &machine, const QString &service)
     {
-        return previewWords(before_, now_, {DiffKind::Service, name, QString(), QString(), QString()}).title;
-    }
-
-    QString startMode(Machine &machine, const QString &service) const
-    {
-        const QString key = WindowsKey::services + u'\\' + service;
-        const PreviewWords words =
-            previewWords(before_, now_, {DiffKind::Registry, key, u"Start"_s, QString(), QString()});
-        return sideInWords(words, textAt(machine, key, u"Start"_s));
+        return startModeInWords(textAt(machine, WindowsKey::services + u'\\' + service, u"Start"_s));
     }
 
     void verifyServices()
     {
         each(recorded("SVC"_L1), last_.services, [this](const QString &name) {
-            VerifiedItem item{PreviewGroup::Services, name, serviceTitle(name)};
+            VerifiedItem item{PreviewGroup::Services, name, serviceTitle(before_, name)};
             const QString mode = startMode(now_, name);
             if (mode.isEmpty()) {
                 item.verdict = Verdict::Gone;

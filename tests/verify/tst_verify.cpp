@@ -135,6 +135,7 @@ private Q_SLOTS:
     void serviceSetBack_data();
     void serviceSetBack();
     void serviceThatStillRunsIsTold();
+    void serviceThatATweakSwitchesTooIsInForce();
     void taskEnabledAgainByHand();
     void taskEnabledAgainByTool();
     void taskSwitchedOnByThePageIsInForceWhereItIsOn();
@@ -245,6 +246,15 @@ void TestVerify::serviceThatStillRunsIsTold()
     later.now->setRunning(u"DiagTrack"_s, true);
     QCOMPARE(later.item(u"DiagTrack"_s).verdict, Verdict::InForce);
     QCOMPARE(later.item(u"DiagTrack"_s).why, u"runs until Windows starts the next time"_s);
+}
+
+void TestVerify::serviceThatATweakSwitchesTooIsInForce()
+{
+    const QString service = u"CloudBackupRestoreSvc_5cbba"_s;
+    Later later(*pc_);
+    setNumber(*later.now, recordKey(u"SVC"_s), service, 1);
+    setNumber(*later.now, servicesKey + service, u"Start"_s, 4);
+    QCOMPARE(later.item(service).verdict, Verdict::InForce);
 }
 
 void TestVerify::taskEnabledAgainByHand()
