@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/** What a tool printed; nothing where it failed, which is told then. */
+/** What a tool printed; nothing where it failed, which is reported then. */
 std::optional<QByteArray> outputOf(const QString &program, const QStringList &arguments, const QString &what,
                                    QList<NotRead> &notRead)
 {

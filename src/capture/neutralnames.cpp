@@ -39,7 +39,7 @@ QRegularExpression anyCase(const QString &pattern)
                                            | QRegularExpression::UseUnicodePropertiesOption);
 }
 
-/** Stands alone: no letter or digit before it or behind it. */
+/** Stands alone: no letter or digit before or after it. */
 QString wholeWord(const QString &name)
 {
     return u"(?<![\\p{L}\\p{N}])"_s + QRegularExpression::escape(name) + u"(?![\\p{L}\\p{N}])"_s;

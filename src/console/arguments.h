@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Command lines in the manner of GNU tools.
+// Command lines as GNU tools take them.
 
 #pragma once
 
@@ -21,7 +21,7 @@ struct UsageError
     QString message;
 };
 
-/** The operands and options behind a subcommand's name. */
+/** The operands and options after a subcommand's name. */
 class Arguments
 {
 public:

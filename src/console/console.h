@@ -12,7 +12,7 @@ void useBinaryOutput();
 void useUtf8Output();
 /** Whether someone may be reading standard error as it is written. */
 bool errorsGoToTerminal();
-/** Whether the program that started this one has gone; false where that can't be told. */
+/** Whether the program that started this one has gone; false where that is unknown. */
 bool starterIsGone();
 /** What a tool printed, in the code page of this console; where there is none, in that of a rehearsal machine. */
 QString consoleText(const QByteArray &bytes);

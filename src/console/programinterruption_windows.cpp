@@ -14,7 +14,7 @@ std::atomic<bool> received = false;
 BOOL WINAPI noteEvent(DWORD event)
 {
     received = true;
-    // Behind all others the system ends the process as soon as this returns, or after a few seconds.
+    // After all others the system ends the process as soon as this returns, or after a few seconds.
     if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT)
         Sleep(INFINITE);
     return TRUE;

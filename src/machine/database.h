@@ -56,7 +56,7 @@ public:
         Q_DISABLE_COPY_MOVE(Query)
 
         Query &bind(const QVariant &parameter); ///< the next parameter: integer, text, bytes or null
-        bool next();                            ///< steps to the next row; false behind the last
+        bool next();                            ///< steps to the next row; false after the last
         void run();                             ///< runs a statement that gives no rows
         bool isNull(int column) const;
         qint64 integer(int column) const;

@@ -6,7 +6,7 @@
 #include <QFile>
 
 /**
- * The offset of the first byte at or behind @p offset that isn't in a hole, in bytes; the file's size where only a hole
+ * The offset of the first byte at or after @p offset that isn't in a hole, in bytes; the file's size where only a hole
  * is left. Where the system doesn't tell of holes, @p offset itself.
  */
 qint64 nextData(QFile &file, qint64 offset);

@@ -117,7 +117,7 @@ public:
 
     /**
      * What the machine has of hardware beside WMI and the registry, by the parts that machine.json names there:
-     * volumes, screen, freeMemory, threads, processorTimes. A part that is missing can't be told.
+     * volumes, screen, freeMemory, threads, processorTimes. A part that is missing is unknown.
      */
     QJsonObject hardware() const;
     /** Sets the parts that @p parts names; the rest stays. */

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A key of a rehearsal machine's registry, with the manners of QSettings' native format.
+// A key of a rehearsal machine's registry, which answers as QSettings' native format does.
 
 #include "machinekey.h"
 

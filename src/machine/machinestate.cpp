@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/** A fault's key: one blank between its words, and no ".exe" behind the first. */
+/** A fault's key: one blank between its words, and no ".exe" after the first. */
 QString faultKey(const QString &command)
 {
     QString key = foldName(command.simplified());

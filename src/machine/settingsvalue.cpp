@@ -87,7 +87,7 @@ QString textOfVariant(const QVariant &value)
     }
 }
 
-/** A text with a zero in it can't be told from a shorter one, so it is kept as bytes, without a closing zero. */
+/** A text with a zero in it would read as a shorter one, so it is kept as bytes, without a closing zero. */
 RegistryValue registryValueOfText(const QString &name, const QString &text)
 {
     const QByteArray data = registryText(text);

@@ -44,13 +44,13 @@ QMap<Place, ThreeSides> threeSides(const QList<DiffRow> &optimized, const QList<
     return result;
 }
 
-Return returnOf(const ThreeSides &sides)
+Restorability restorabilityOf(const ThreeSides &sides)
 {
     if (!sides.isOptimized)
-        return Return::Unasked;
+        return Restorability::Unasked;
     if (sides.isRestored)
-        return Return::Exactly;
-    return sides.restored == sides.row.after ? Return::NotAtAll : Return::Otherwise;
+        return Restorability::Exactly;
+    return sides.restored == sides.row.after ? Restorability::NotAtAll : Restorability::Otherwise;
 }
 
 bool isBefore(const PreviewItem &left, const PreviewItem &right)
@@ -62,19 +62,19 @@ bool isBefore(const PreviewItem &left, const PreviewItem &right)
 
 } // namespace
 
-Return PreviewItem::comesBack() const
+Restorability PreviewItem::comesBack() const
 {
-    const auto any = [this](Return value) {
+    const auto any = [this](Restorability value) {
         return std::any_of(details.begin(), details.end(),
                            [value](const PreviewDetail &detail) { return detail.comesBack == value; });
     };
-    if (any(Return::NotAtAll))
-        return Return::NotAtAll;
+    if (any(Restorability::NotAtAll))
+        return Restorability::NotAtAll;
     // What the restoration changes besides what it was asked to bring back isn't what was there either.
-    const bool isOptimized = any(Return::Exactly) || any(Return::Otherwise);
-    if (any(Return::Unasked))
-        return isOptimized ? Return::Otherwise : Return::Unasked;
-    return any(Return::Otherwise) ? Return::Otherwise : Return::Exactly;
+    const bool isOptimized = any(Restorability::Exactly) || any(Restorability::Otherwise);
+    if (any(Restorability::Unasked))
+        return isOptimized ? Restorability::Otherwise : Restorability::Unasked;
+    return any(Restorability::Otherwise) ? Restorability::Otherwise : Restorability::Exactly;
 }
 
 QList<PreviewItem> previewItems(Machine &before, Machine &optimized, Machine &restored,
@@ -91,7 +91,8 @@ QList<PreviewItem> previewItems(Machine &before, Machine &optimized, Machine &re
         item.about = words.about;
         item.name = words.name;
         item.details.append({words.detail, words.place, sideInWords(words, three.row.before),
-                             sideInWords(words, three.row.after), sideInWords(words, three.restored), returnOf(three)});
+                             sideInWords(words, three.row.after), sideInWords(words, three.restored),
+                             restorabilityOf(three)});
     }
     QList<PreviewItem> list = items.values();
     std::stable_sort(list.begin(), list.end(), isBefore);

@@ -10,15 +10,15 @@
 class Machine;
 
 /** What a restoration leaves of a change. */
-enum class Return {
+enum class Restorability {
     Exactly,   ///< what was there before is there again
     Otherwise, ///< neither what was there nor what the optimization made of it: a default
     NotAtAll,  ///< the change stays
     Unasked,   ///< the optimization left it alone, and the restoration changes it
 };
 
-/** Parts of a PC in the order in which they are told. */
-enum class PreviewGroup { Services, Tasks, Packages, Autorun, Features, Files, Registry, Records };
+/** Parts of a PC in the order in which they are listed. */
+enum class PreviewGroup { Services, Tasks, Packages, Autorun, Tweaks, Files, Registry, Records };
 
 /** One value, file or state that changes. A text is empty where there is nothing. */
 struct PreviewDetail
@@ -28,7 +28,7 @@ struct PreviewDetail
     QString before;
     QString optimized;
     QString restored;
-    Return comesBack = Return::Exactly;
+    Restorability comesBack = Restorability::Exactly;
 };
 
 /** One thing as a person knows it, with all that changes of it. */
@@ -41,7 +41,7 @@ struct PreviewItem
     QList<PreviewDetail> details;
 
     /** The least favourable of its details. */
-    Return comesBack() const;
+    Restorability comesBack() const;
 };
 
 /**

@@ -31,7 +31,7 @@ QString button(QLatin1StringView filter, QLatin1StringView value, const QString 
 QString countsHtml(const QList<PreviewItem> &items)
 {
     QString html = u"<ul class=\"counts\">\n"_s;
-    for (const ReturnTexts &row : allReturns()) {
+    for (const RestorabilityTexts &row : allRestorabilities()) {
         const QString content = u"<b data-count=\"%1\">%2</b> %3 <small>%4</small>"_s.arg(row.word)
                                     .arg(countOf(items, row.value))
                                     .arg(row.many, row.meaning);
@@ -85,7 +85,7 @@ QString cell(QLatin1StringView label, const QString &side)
 QString detailHtml(const PreviewDetail &detail, bool counted)
 {
     const QString place = detail.place.isEmpty() ? QString() : u" <code>%1</code>"_s.arg(detail.place.toHtmlEscaped());
-    const ReturnTexts &verdict = textsOf(detail.comesBack);
+    const RestorabilityTexts &verdict = textsOf(detail.comesBack);
     return u"<tr><td>"_s + detail.what.toHtmlEscaped() + place + u"</td>"_s + cell("Before"_L1, detail.before)
            + cell("After Optimize"_L1, detail.optimized) + cell("After Restore"_L1, detail.restored)
            + u"<td class=\"badge %1\">%2</td></tr>\n"_s.arg(verdict.word, counted ? verdict.one : ""_L1);
@@ -93,7 +93,7 @@ QString detailHtml(const PreviewDetail &detail, bool counted)
 
 QString itemHtml(const PreviewItem &item)
 {
-    const ReturnTexts &verdict = textsOf(item.comesBack());
+    const RestorabilityTexts &verdict = textsOf(item.comesBack());
     const bool counted = countsAsChange(item);
     const PreviewSides sides = sidesOf(item);
     QString html = u"<details class=\"%1\" data-verdict=\"%2\"><summary class=\"row\">"_s.arg(

@@ -73,7 +73,7 @@ QJsonObject itemJson(const PreviewItem &item)
 QString previewText(const QList<PreviewItem> &items)
 {
     QString text;
-    for (const ReturnTexts &row : allReturns())
+    for (const RestorabilityTexts &row : allRestorabilities())
         text += QString::number(countOf(items, row.value)).rightJustified(5) + u' ' + row.many + u'\n';
     text += u"\nEach line: before -> after Optimize -> after Restore\n"_s;
     std::optional<PreviewGroup> group;
@@ -89,7 +89,7 @@ QString previewText(const QList<PreviewItem> &items)
 QByteArray previewJson(const QList<PreviewItem> &items)
 {
     QJsonObject counts;
-    for (const ReturnTexts &row : allReturns())
+    for (const RestorabilityTexts &row : allRestorabilities())
         counts.insert(row.word, countOf(items, row.value));
     QJsonArray array;
     for (const PreviewItem &item : items)

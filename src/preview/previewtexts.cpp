@@ -11,14 +11,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // clang-format off
-constexpr ReturnTexts returnRows[] = {
-    {Return::Exactly,   "exactly"_L1,    "comes back exactly"_L1,     "come back exactly"_L1,
+constexpr RestorabilityTexts restorabilityRows[] = {
+    {Restorability::Exactly,   "exactly"_L1,    "comes back exactly"_L1,     "come back exactly"_L1,
      "After Restore they are as they were, to the last value."_L1},
-    {Return::Otherwise, "otherwise"_L1,  "comes back as a default"_L1, "come back as a default"_L1,
+    {Restorability::Otherwise, "otherwise"_L1,  "comes back as a default"_L1, "come back as a default"_L1,
      "Restore takes these changes back, but what it leaves isn't what you had."_L1},
-    {Return::NotAtAll,  "not-at-all"_L1, "doesn't come back"_L1,      "don't come back"_L1,
+    {Restorability::NotAtAll,  "not-at-all"_L1, "doesn't come back"_L1,      "don't come back"_L1,
      "Restore leaves these changes, or a part of them, as Optimize made them."_L1},
-    {Return::Unasked,   "unasked"_L1,    "changed by Restore alone"_L1, "are changed by Restore alone"_L1,
+    {Restorability::Unasked,   "unasked"_L1,    "changed by Restore alone"_L1, "are changed by Restore alone"_L1,
      "Optimize leaves these alone, and Restore sets a default all the same."_L1},
 };
 
@@ -33,7 +33,7 @@ constexpr GroupTexts groupRows[] = {
      "settings, their own documents) isn't part of this preview and may be lost."_L1},
     {PreviewGroup::Autorun,  "autorun"_L1,  "Programs started at logon"_L1,
      "What starts when you sign in. Optimize takes it off the list; the program itself stays."_L1},
-    {PreviewGroup::Features, "options"_L1,  "System options"_L1,
+    {PreviewGroup::Tweaks,   "options"_L1,  "System options"_L1,
      "Settings of Windows, by their names on the Features page, with all values that belong to them."_L1},
     {PreviewGroup::Files,    "files"_L1,    "Files"_L1,
      "Files and folders that come, go or change."_L1},
@@ -47,36 +47,36 @@ constexpr GroupTexts groupRows[] = {
 struct WhyRow
 {
     PreviewGroup group;
-    Return value;
+    Restorability value;
     QLatin1StringView why;
 };
 constexpr WhyRow whyRows[] = {
-    {PreviewGroup::Services, Return::Otherwise,
+    {PreviewGroup::Services, Restorability::Otherwise,
      "Restore starts every service that Optimize has disabled, and lets it start with Windows, at once and by itself: "
      "a service that started only on demand, or with a delay, keeps its new way."_L1},
-    {PreviewGroup::Services, Return::NotAtAll,
+    {PreviewGroup::Services, Restorability::NotAtAll,
      "Optimize makes no note of a service that it sets to start on demand (manual), so Restore doesn't know of it."_L1},
-    {PreviewGroup::Tasks,    Return::NotAtAll,
+    {PreviewGroup::Tasks,    Restorability::NotAtAll,
      "Restore enables only those tasks that Optimize has noted."_L1},
-    {PreviewGroup::Packages, Return::Exactly,
+    {PreviewGroup::Packages, Restorability::Exactly,
      "Restore registers the application again from its files, as Windows itself does for a new user."_L1},
-    {PreviewGroup::Packages, Return::Otherwise,
+    {PreviewGroup::Packages, Restorability::Otherwise,
      "The application comes back from its files as newly installed, which isn't all that was there."_L1},
-    {PreviewGroup::Packages, Return::NotAtAll,
+    {PreviewGroup::Packages, Restorability::NotAtAll,
      "Restore registers an application again from its files, and these were not to be found."_L1},
-    {PreviewGroup::Autorun,  Return::Otherwise,
+    {PreviewGroup::Autorun,  Restorability::Otherwise,
      "The note of the command ends at its first \"=\", so the program starts without what stood behind that."_L1},
-    {PreviewGroup::Autorun,  Return::NotAtAll,
+    {PreviewGroup::Autorun,  Restorability::NotAtAll,
      "Restore brings back only a command whose program stands in quotation marks and is on the disk."_L1},
-    {PreviewGroup::Features, Return::Otherwise,
+    {PreviewGroup::Tweaks,   Restorability::Otherwise,
      "Restore doesn't know what you had: it writes a fixed default of Windows, or takes the value away."_L1},
-    {PreviewGroup::Features, Return::NotAtAll,
+    {PreviewGroup::Tweaks,   Restorability::NotAtAll,
      "Restore doesn't reset this option, or not all of its values."_L1},
-    {PreviewGroup::Features, Return::Unasked,
+    {PreviewGroup::Tweaks,   Restorability::Unasked,
      "The option was already as Optimize wants it, or isn't one of its own; Restore resets it all the same."_L1},
-    {PreviewGroup::Files,    Return::NotAtAll,
+    {PreviewGroup::Files,    Restorability::NotAtAll,
      "Restore doesn't touch this file."_L1},
-    {PreviewGroup::Registry, Return::NotAtAll,
+    {PreviewGroup::Registry, Restorability::NotAtAll,
      "Restore doesn't touch this value."_L1},
 };
 // clang-format on
@@ -133,7 +133,7 @@ QString autorunSide(const PreviewItem &item, Side side)
     return off ? u"doesn't start"_s : u"starts"_s;
 }
 
-qsizetype countOf(const PreviewItem &item, Return value)
+qsizetype countOf(const PreviewItem &item, Restorability value)
 {
     return std::count_if(item.details.begin(), item.details.end(),
                          [value](const PreviewDetail &detail) { return detail.comesBack == value; });
@@ -144,26 +144,27 @@ QString counted(qsizetype count, const QString &text)
     return count == 0 ? QString() : QString::number(count) + u' ' + text;
 }
 
-/** What can't be told in a few words is counted. */
+/** What a few words can't say is counted. */
 PreviewSides countedSides(const PreviewItem &item)
 {
-    const qsizetype unasked = countOf(item, Return::Unasked);
+    const qsizetype unasked = countOf(item, Restorability::Unasked);
     const qsizetype all = item.details.size();
     return {u"%1 values"_s.arg(all), unasked == all ? u"none changed"_s : u"%1 changed"_s.arg(all - unasked),
-            joined({counted(countOf(item, Return::Exactly), u"as before"_s),
-                    counted(countOf(item, Return::Otherwise) + unasked, u"otherwise"_s),
-                    counted(countOf(item, Return::NotAtAll), u"stay changed"_s)})};
+            joined({counted(countOf(item, Restorability::Exactly), u"as before"_s),
+                    counted(countOf(item, Restorability::Otherwise) + unasked, u"otherwise"_s),
+                    counted(countOf(item, Restorability::NotAtAll), u"stay changed"_s)})};
 }
 
-/** What the values of an option mean is its own affair, and for who looks them up; in short it is applied or not. */
-PreviewSides optionSides(const PreviewItem &item)
+/** The values of a tweak are for those who look them up; in short it is applied or not. */
+PreviewSides tweakSides(const PreviewItem &item)
 {
-    const bool untouched = countOf(item, Return::Unasked) == item.details.size();
+    const bool untouched = countOf(item, Restorability::Unasked) == item.details.size();
     PreviewSides sides{u"your setting"_s, untouched ? u"your setting"_s : u"applied"_s, u"a default"_s};
-    if (item.comesBack() == Return::Exactly)
+    if (item.comesBack() == Restorability::Exactly)
         sides.restored = sides.before;
-    else if (item.comesBack() == Return::NotAtAll)
-        sides.restored = countOf(item, Return::NotAtAll) == item.details.size() ? u"applied"_s : u"applied in part"_s;
+    else if (item.comesBack() == Restorability::NotAtAll)
+        sides.restored =
+            countOf(item, Restorability::NotAtAll) == item.details.size() ? u"applied"_s : u"applied in part"_s;
     return sides;
 }
 
@@ -171,22 +172,22 @@ PreviewSides sidesBy(QString (*text)(const PreviewItem &, Side), const PreviewIt
 {
     PreviewSides sides{text(item, &PreviewDetail::before), text(item, &PreviewDetail::optimized),
                        text(item, &PreviewDetail::restored)};
-    if (sides.restored == sides.before && item.comesBack() != Return::Exactly)
+    if (sides.restored == sides.before && item.comesBack() != Restorability::Exactly)
         sides.restored += u", but not as before"_s;
     return sides;
 }
 
 } // namespace
 
-std::span<const ReturnTexts> allReturns()
+std::span<const RestorabilityTexts> allRestorabilities()
 {
-    return returnRows;
+    return restorabilityRows;
 }
 
-const ReturnTexts &textsOf(Return value)
+const RestorabilityTexts &textsOf(Restorability value)
 {
-    return *std::find_if(std::begin(returnRows), std::end(returnRows),
-                         [value](const ReturnTexts &row) { return row.value == value; });
+    return *std::find_if(std::begin(restorabilityRows), std::end(restorabilityRows),
+                         [value](const RestorabilityTexts &row) { return row.value == value; });
 }
 
 std::span<const GroupTexts> allGroups()
@@ -200,7 +201,7 @@ const GroupTexts &textsOf(PreviewGroup group)
                          [group](const GroupTexts &row) { return row.group == group; });
 }
 
-QString whyOf(PreviewGroup group, Return value)
+QString whyOf(PreviewGroup group, Restorability value)
 {
     for (const WhyRow &row : whyRows) {
         if (row.group == group && row.value == value)
@@ -214,7 +215,7 @@ bool countsAsChange(const PreviewItem &item)
     return item.group != PreviewGroup::Records;
 }
 
-int countOf(const QList<PreviewItem> &items, Return value)
+int countOf(const QList<PreviewItem> &items, Restorability value)
 {
     return static_cast<int>(std::count_if(items.begin(), items.end(), [value](const PreviewItem &item) {
         return countsAsChange(item) && item.comesBack() == value;
@@ -229,8 +230,8 @@ PreviewSides sidesOf(const PreviewItem &item)
         return sidesBy(packageSide, item);
     if (item.group == PreviewGroup::Autorun && item.details.size() == 1)
         return sidesBy(autorunSide, item);
-    if (item.group == PreviewGroup::Features)
-        return optionSides(item);
+    if (item.group == PreviewGroup::Tweaks)
+        return tweakSides(item);
     if (item.details.size() > 1)
         return countedSides(item);
     const PreviewDetail &detail = item.details.first();

@@ -9,9 +9,9 @@
 #include <span>
 
 /** A verdict's words. */
-struct ReturnTexts
+struct RestorabilityTexts
 {
-    Return value;
+    Restorability value;
     QLatin1StringView word;    ///< in JSON, and as the class of an element
     QLatin1StringView one;     ///< "comes back exactly"
     QLatin1StringView many;    ///< "come back exactly"
@@ -19,8 +19,8 @@ struct ReturnTexts
 };
 
 /** All verdicts, in the order in which they are counted. */
-std::span<const ReturnTexts> allReturns();
-const ReturnTexts &textsOf(Return value);
+std::span<const RestorabilityTexts> allRestorabilities();
+const RestorabilityTexts &textsOf(Restorability value);
 
 struct GroupTexts
 {
@@ -30,16 +30,16 @@ struct GroupTexts
     QLatin1StringView about; ///< what these are and what Optimize does with them
 };
 
-/** All groups, in the order in which they are told. */
+/** All groups, in the order in which they are listed. */
 std::span<const GroupTexts> allGroups();
 const GroupTexts &textsOf(PreviewGroup group);
 
 /** Why an item of the group comes back so; empty where the verdict says it all. */
-QString whyOf(PreviewGroup group, Return value);
+QString whyOf(PreviewGroup group, Restorability value);
 
 /** Kestrune's own records are no change of the PC and count for nothing. */
 bool countsAsChange(const PreviewItem &item);
-int countOf(const QList<PreviewItem> &items, Return value);
+int countOf(const QList<PreviewItem> &items, Restorability value);
 
 /** What there was, what Optimize makes of it, and what Restore leaves. */
 struct PreviewSides

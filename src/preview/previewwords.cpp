@@ -36,8 +36,8 @@ QString registryTextAt(const Machine &machine, const RegistryStore &store, const
     return value ? readable(resolveResourceText(machine, textOf(value->data))) : QString();
 }
 
-/** The text behind a prefix up to the next backslash; empty where the path doesn't begin so. */
-QString partBehind(const QString &path, const QString &prefix)
+/** The text after a prefix up to the next backslash; empty where the path doesn't begin so. */
+QString partAfter(const QString &path, const QString &prefix)
 {
     return path.startsWith(prefix, Qt::CaseInsensitive) ? path.mid(prefix.size()).section(u'\\', 0, 0) : QString();
 }
@@ -156,7 +156,7 @@ PreviewWords registryWords(Machine &before, Machine &optimized, const DiffRow &r
         return runValueWords(row);
     if (path.contains(packagedTasksPart, Qt::CaseInsensitive))
         return packagedTaskWords(row);
-    if (const QString service = partBehind(path, servicePrefix); path.size() == servicePrefix.size() + service.size())
+    if (const QString service = partAfter(path, servicePrefix); path.size() == servicePrefix.size() + service.size())
         return serviceValueWords(before, service, row);
     if (path.endsWith("\\Uninstall\\OneDriveSetup.exe"_L1, Qt::CaseInsensitive))
         return oneDriveWords(orElse(row.name, keyDetail), path);
@@ -211,10 +211,9 @@ PreviewWords fileWords(const DiffRow &row)
             .detail = detail};
 }
 
-PreviewWords optionWords(const FeatureWords &feature, const DiffRow &row)
+PreviewWords tweakValueWords(const TweakWords &tweak, const DiffRow &row)
 {
-    PreviewWords words{
-        .group = PreviewGroup::Features, .item = feature.option, .title = feature.option, .about = feature.about};
+    PreviewWords words{.group = PreviewGroup::Tweaks, .item = tweak.title, .title = tweak.title, .about = tweak.about};
     putValue(words, row);
     if (row.kind == DiffKind::Registry)
         return words;
@@ -257,8 +256,8 @@ QString sideInWords(const PreviewWords &words, const QString &side)
 
 PreviewWords previewWords(Machine &before, Machine &optimized, const DiffRow &row)
 {
-    if (const FeatureWords feature = featureWords(featureOf(row)); !feature.option.isEmpty())
-        return optionWords(feature, row);
+    if (const TweakWords tweak = tweakWords(tweakBoxOf(row)); !tweak.title.isEmpty())
+        return tweakValueWords(tweak, row);
     switch (row.kind) {
     case DiffKind::Service:
         return serviceStateWords(before, row);

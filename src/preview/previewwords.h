@@ -34,13 +34,13 @@ QString serviceTitle(Machine &machine, const QString &service);
 /** "automatic" for the text of a value Start, "dword 2"; any other text stays as it is. */
 QString startModeInWords(const QString &value);
 
-struct FeatureWords
+struct TweakWords
 {
-    QString option; ///< its text on the Features page, shortened to its first sentence
-    QString about;  ///< what that is good for, or costs
+    QString title; ///< its text on the Features page, shortened to its first sentence
+    QString about; ///< what that is good for, or costs
 };
 
-/** The option's box on the Features page ("chkSsd1"); empty where the row is of none. */
-QString featureOf(const DiffRow &row);
+/** The tweak's box on the Features page ("chkSsd1"); empty where the row is of none. */
+QString tweakBoxOf(const DiffRow &row);
 /** Empty for a name that no box has. */
-FeatureWords featureWords(const QString &box);
+TweakWords tweakWords(const QString &box);

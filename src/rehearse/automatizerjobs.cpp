@@ -29,7 +29,7 @@ void analyze(WorkThread &worker, LinePrinter &printer)
 void closeTweaks(WorkThread &worker, bool walk, LinePrinter &printer)
 {
     recordTweaksOfAutomatizer(worker, worker.win32PrioritySeparationIndex);
-    // Optimize isn't over before the walk, which tells its end by that.
+    // Optimize isn't over before the walk, which reports its end by that.
     if (walk)
         runUpTo(worker.optimizeRunning == 1 ? StatusLine::attributesSetByOptimize : StatusLine::attributesSet, worker,
                 JobTweakApply, printer);
@@ -43,9 +43,9 @@ void optimize(WorkThread &worker, const AutomatizerChoice &choice, LinePrinter &
                       + worker.analyzeAutorunCount + worker.analyzeProcessCount;
     if (found == 0)
         throw Failure{ExitJobFailed, u"no optimizations found"_s};
-    runUpTo(choice.features ? StatusLine::tweaksDone : StatusLine::optimizedWithoutTweaks, worker,
-            JobAutomatizerOptimize, printer);
-    if (choice.features)
+    runUpTo(choice.tweaks ? StatusLine::tweaksDone : StatusLine::optimizedWithoutTweaks, worker, JobAutomatizerOptimize,
+            printer);
+    if (choice.tweaks)
         closeTweaks(worker, choice.walk, printer);
 }
 
@@ -56,9 +56,9 @@ void restore(WorkThread &worker, const AutomatizerChoice &choice, LinePrinter &p
     fillRestoreLists(worker);
     worker.taskRestoreMode = true;
     worker.restoreRunning = 1;
-    runUpTo(choice.features ? StatusLine::tweaksDone : StatusLine::restoredWithoutTweaks, worker, JobAutomatizerRestore,
+    runUpTo(choice.tweaks ? StatusLine::tweaksDone : StatusLine::restoredWithoutTweaks, worker, JobAutomatizerRestore,
             printer);
-    if (choice.features)
+    if (choice.tweaks)
         closeTweaks(worker, choice.walk, printer);
     else
         closeRestore();
@@ -76,7 +76,7 @@ void runAutomatizer(WorkThread &worker, int job, const AutomatizerChoice &choice
     if (!platform().isElevated())
         throw Failure{ExitJobFailed, u"the Automatizer needs administrator rights"_s};
     worker.automatizerProgram = choice.programs ? 1 : 0;
-    worker.automatizerTweak = choice.features ? 1 : 0;
+    worker.automatizerTweak = choice.tweaks ? 1 : 0;
     if (job == JobAutomatizerAnalyze)
         analyze(worker, printer);
     else if (job == JobAutomatizerOptimize)

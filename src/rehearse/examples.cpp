@@ -9,7 +9,7 @@ namespace {
 struct ExampleRow
 {
     QLatin1StringView subcommand;
-    QLatin1StringView line; ///< behind the program's name
+    QLatin1StringView line; ///< after the program's name
     QLatin1StringView meaning;
 };
 

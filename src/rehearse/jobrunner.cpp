@@ -53,7 +53,7 @@ std::optional<QString> runToEnd(WorkThread &worker, int job, LinePrinter &printe
         last = line;
         printer.take("automatizerValueChanged"_L1, line);
     });
-    // Queued behind the lines that are under way.
+    // Queued after the lines that are under way.
     QObject::connect(&worker, &QThread::finished, &loop, &QEventLoop::quit, Qt::QueuedConnection);
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, &worker, [&worker] {

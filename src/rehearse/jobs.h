@@ -31,7 +31,7 @@ struct JobRow
     QStringList (*unreached)(const QStringList &operands) = nullptr;
     /** Takes each line of valueChanged, as the window does for its records. */
     void (*record)(const QString &line) = nullptr;
-    /** What is printed behind the lines. */
+    /** What is printed after the lines. */
     JobResults (*results)(const WorkThread &worker) = nullptr;
 };
 
@@ -52,8 +52,8 @@ std::span<const JobRow> jobRows();
 struct AutomatizerChoice
 {
     bool programs = true; ///< packages and what starts at logon
-    bool features = true; ///< tweaks
-    bool walk = false;    ///< the answer to the question for the walk over all files
+    bool tweaks = true;
+    bool walk = false; ///< the answer to the question for the walk over all files
 };
 
 bool isAutomatizerJob(int job);

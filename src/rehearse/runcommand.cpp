@@ -40,7 +40,7 @@ double parsePace(const Arguments &arguments)
     return pace;
 }
 
-/** Whether a job's last line is the one that the row tells. */
+/** Whether a job's last line is the one that the row names. */
 bool isClosed(const JobRow &row, const std::optional<QString> &lastLine)
 {
     return lastLine && (row.closingLine == anyLine || *lastLine == row.closingLine);
@@ -54,7 +54,7 @@ void printAutorun(WorkThread &worker, LinePrinter &printer)
         printer.take("autorun"_L1, entry);
 }
 
-/** A tweak tells nothing of itself; what is left to do for the user is said. */
+/** A tweak reports nothing by itself; what is left for the user to do is printed. */
 void runTweak(WorkThread &worker, const TweakRequest &tweak, LinePrinter &printer)
 {
     if (const std::optional<int> job = tweak.job())
@@ -81,7 +81,7 @@ void runOrdinaryJob(WorkThread &worker, const JobRow &row, LinePrinter &printer)
 AutomatizerChoice automatizerChoice(const Arguments &arguments)
 {
     return {.programs = !arguments.has("no-programs"_L1),
-            .features = !arguments.has("no-features"_L1),
+            .tweaks = !arguments.has("no-features"_L1),
             .walk = arguments.has("yes"_L1) && !arguments.has("no-walk"_L1)};
 }
 

@@ -58,7 +58,7 @@ void print(const QByteArray &utf8);
  */
 bool waitForEnd(QProcess &process);
 
-/** Tells, before long work, that a report can't be written. Leaves nothing there. Throws Failure. */
+/** Fails before long work where a report can't be written. Leaves nothing there. Throws Failure. */
 void checkReportFile(const QString &path);
 /** The same for a report of several files, which no device or pipe can take. */
 void checkReportFiles(const QString &path);

@@ -62,8 +62,7 @@ QString tweaksInWords()
             if (id == group.noId)
                 continue;
             const QString operands = QString(group.name) + u' ' + QString::number(id);
-            text +=
-                u"  "_s + operands.leftJustified(28) + featureWords(group.boxes + QString::number(id)).option + u'\n';
+            text += u"  "_s + operands.leftJustified(28) + tweakWords(group.boxes + QString::number(id)).title + u'\n';
         }
     }
     return text;

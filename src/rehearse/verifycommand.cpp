@@ -17,8 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/** Puts all recorded options of a machine in force once more. */
-void applyOptionsAgain(const QString &machine, Progress &progress)
+/** Puts all recorded tweaks of a machine in force once more. */
+void applyTweaksAgain(const QString &machine, Progress &progress)
 {
     setPlatform(std::make_unique<MachinePlatform>(machine, MachineOptions()));
     // Also where it is broken off: what is open can't be removed everywhere.
@@ -49,9 +49,9 @@ int runVerify(const Arguments &arguments)
     const QString again = work.filePath(u"again"_s);
     progress.show(u"copying the machine"_s, 0, 0);
     copyMachine(*now, again);
-    applyOptionsAgain(again, progress);
+    applyTweaksAgain(again, progress);
     const QList<VerifiedItem> items =
-        verifySwitches(*before, *now) + verifyOptions(*before, *now, *Machine::open(again));
+        verifySwitches(*before, *now) + verifyTweaks(*before, *now, *Machine::open(again));
     progress.clear();
     if (arguments.has("json"_L1))
         print(verifyJson(items));

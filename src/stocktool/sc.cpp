@@ -111,11 +111,11 @@ ScState scStateOf(const ServiceDatabase &services, const Service &service)
     return services.isRunning(service) ? ScState::Running : ScState::Stopped;
 }
 
-/** The record of a service, behind an empty line. */
+/** The record of a service, after an empty line. */
 QByteArray scRecord(const ServiceDatabase &services, const Service &service, ScRecordHead head, ScState state)
 {
     QString text = u"\r\nSERVICE_NAME: "_s + service.name;
-    // The blank behind a lone name is real.
+    // The blank after a lone name is real.
     text += head == ScRecordHead::NameAlone ? u" \r\n"_s
                                             : u"\r\nDISPLAY_NAME: "_s + services.displayName(service) + u"\r\n"_s;
     text += typeField(service.type) + stateFields(state);
@@ -175,7 +175,7 @@ QByteArray scUsage()
 
 // What it does.
 
-/** "name= value" or "name=value" among the arguments behind the service's name. */
+/** "name= value" or "name=value" among the arguments after the service's name. */
 struct Option
 {
     QString name;

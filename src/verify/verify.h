@@ -3,7 +3,7 @@
 //
 // What can be told goes by three things: the machine before the change, the machine now, and the log of the tools that
 // ran on the machine now, which a captured PC doesn't have. The program records a service, a task and a package only
-// where the tool said that it was done; autorun entries and system options it records without asking.
+// where the tool said that it was done; autorun entries and tweaks it records without asking.
 
 #pragma once
 
@@ -12,18 +12,18 @@
 enum class Verdict {
     InForce, ///< the present state is the recorded one
     /**
-     * The tool's last run for this thing, in the log, was to switch it off and failed. Such a thing is told even where
-     * it isn't recorded, as long as it is there and on.
+     * The tool's last run for this thing, in the log, was to switch it off and failed. Such a thing is reported even
+     * where it isn't recorded, as long as it is there and on.
      */
     Refused,
     /**
-     * The present state isn't the recorded one, but the one of before, and no log tells that it was ever otherwise. It
-     * was refused without a word, never carried out (some system options are recorded with the others though Optimize
+     * The present state isn't the recorded one, but the one of before, and no log shows that it was ever otherwise. It
+     * was refused without a word, never carried out (some tweaks are recorded with the others though Optimize
      * leaves them alone), or set back to just that.
      */
     AsBefore,
     /**
-     * The present state isn't the recorded one, and it was in force once: the log tells that it was done, or the state
+     * The present state isn't the recorded one, and it was in force once: the log shows that it was done, or the state
      * is that of before neither. So are all autorun entries that are back, since an administrator, and nobody else is
      * recorded, is never refused their removal.
      */
@@ -57,11 +57,11 @@ struct VerifiedItem
  */
 QList<VerifiedItem> verifySwitches(Machine &before, Machine &now);
 /**
- * The records of system options.
- * @param again a copy of @p now on which all recorded options were put in force once more: what that has changed isn't
+ * The records of tweaks.
+ * @param again a copy of @p now on which all recorded tweaks were put in force once more: what that has changed isn't
  *              in force now, and everything else is
  */
-QList<VerifiedItem> verifyOptions(Machine &before, Machine &now, Machine &again);
+QList<VerifiedItem> verifyTweaks(Machine &before, Machine &now, Machine &again);
 
 /** Why two machines can't be states of one PC that may be compared; empty where nothing speaks against it. */
 QString differentPcs(Machine &before, Machine &now);

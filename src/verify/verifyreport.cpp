@@ -57,8 +57,8 @@ QString itemText(const VerifiedItem &item)
     constexpr qsizetype mostDetails = 12;
 
     QString text = u"  "_s + QString(rowOf(item.verdict).text).leftJustified(verdictWidth) + item.title;
-    // The name of an option is of use to programs only.
-    if (item.name != item.title && item.group != PreviewGroup::Features)
+    // The name of a tweak is of use to programs only.
+    if (item.name != item.title && item.group != PreviewGroup::Tweaks)
         text += u" ("_s + item.name + u')';
     if (!item.why.isEmpty())
         text += u" -- "_s + item.why;

@@ -77,18 +77,18 @@ void TestPreview::nothingChanges()
 
 void TestPreview::whatComesBack_data()
 {
-    addColumns<int, int, int, Return>("before", "optimized", "restored", "expected");
+    addColumns<int, int, int, Restorability>("before", "optimized", "restored", "expected");
 
     constexpr int absent = -1;
-    QTest::newRow("as it was") << 1 << 2 << 1 << Return::Exactly;
-    QTest::newRow("gone again") << absent << 2 << absent << Return::Exactly;
-    QTest::newRow("a default") << 1 << 2 << 3 << Return::Otherwise;
-    QTest::newRow("a default where nothing was") << absent << 2 << 3 << Return::Otherwise;
-    QTest::newRow("deleted where something was") << 1 << 2 << absent << Return::Otherwise;
-    QTest::newRow("stays changed") << 1 << 2 << 2 << Return::NotAtAll;
-    QTest::newRow("stays away") << 1 << absent << absent << Return::NotAtAll;
-    QTest::newRow("only restored") << 1 << 1 << 3 << Return::Unasked;
-    QTest::newRow("only restored where nothing was") << absent << absent << 3 << Return::Unasked;
+    QTest::newRow("as it was") << 1 << 2 << 1 << Restorability::Exactly;
+    QTest::newRow("gone again") << absent << 2 << absent << Restorability::Exactly;
+    QTest::newRow("a default") << 1 << 2 << 3 << Restorability::Otherwise;
+    QTest::newRow("a default where nothing was") << absent << 2 << 3 << Restorability::Otherwise;
+    QTest::newRow("deleted where something was") << 1 << 2 << absent << Restorability::Otherwise;
+    QTest::newRow("stays changed") << 1 << 2 << 2 << Restorability::NotAtAll;
+    QTest::newRow("stays away") << 1 << absent << absent << Restorability::NotAtAll;
+    QTest::newRow("only restored") << 1 << 1 << 3 << Restorability::Unasked;
+    QTest::newRow("only restored where nothing was") << absent << absent << 3 << Restorability::Unasked;
 }
 
 void TestPreview::whatComesBack()
@@ -96,7 +96,7 @@ void TestPreview::whatComesBack()
     QFETCH(int, before);
     QFETCH(int, optimized);
     QFETCH(int, restored);
-    QFETCH(Return, expected);
+    QFETCH(Restorability, expected);
     Three three;
     const auto set = [](Machine &machine, int value) {
         machine.registry().make(otherKey);
@@ -119,17 +119,17 @@ void TestPreview::whatComesBack()
 
 void TestPreview::worstOfTheDetailsIsTheItems()
 {
-    const auto of = [](const QList<Return> &values) {
+    const auto of = [](const QList<Restorability> &values) {
         PreviewItem item;
-        for (const Return value : values)
+        for (const Restorability value : values)
             item.details.append(PreviewDetail{{}, {}, {}, {}, {}, value});
         return item.comesBack();
     };
-    QCOMPARE(of({Return::Exactly}), Return::Exactly);
-    QCOMPARE(of({Return::Exactly, Return::Otherwise}), Return::Otherwise);
-    QCOMPARE(of({Return::Unasked}), Return::Unasked);
-    QCOMPARE(of({Return::Exactly, Return::Unasked}), Return::Otherwise);
-    QCOMPARE(of({Return::Unasked, Return::NotAtAll, Return::Exactly}), Return::NotAtAll);
+    QCOMPARE(of({Restorability::Exactly}), Restorability::Exactly);
+    QCOMPARE(of({Restorability::Exactly, Restorability::Otherwise}), Restorability::Otherwise);
+    QCOMPARE(of({Restorability::Unasked}), Restorability::Unasked);
+    QCOMPARE(of({Restorability::Exactly, Restorability::Unasked}), Restorability::Otherwise);
+    QCOMPARE(of({Restorability::Unasked, Restorability::NotAtAll, Restorability::Exactly}), Restorability::NotAtAll);
 }
 
 void TestPreview::serviceIsOneItemWithItsDisplayName()
@@ -171,7 +171,7 @@ void TestPreview::serviceAsAWholeInAFewWords()
     QCOMPARE(sides.before, u"automatic (delayed), running"_s);
     QCOMPARE(sides.optimized, u"disabled, stopped"_s);
     QCOMPARE(sides.restored, u"automatic, running"_s);
-    QCOMPARE(item.comesBack(), Return::Otherwise);
+    QCOMPARE(item.comesBack(), Restorability::Otherwise);
     QVERIFY(whyOf(item.group, item.comesBack()).contains(u"with a delay"_s));
 }
 
@@ -214,7 +214,7 @@ void TestPreview::packageAsAWholeIsInstalledOrNot()
     QCOMPARE(items.first().name, u"Vendor.Chat"_s);
     QCOMPARE(sidesOf(items.first()).before, u"installed"_s);
     QCOMPARE(sidesOf(items.first()).restored, u"not installed"_s);
-    QCOMPARE(items.first().comesBack(), Return::NotAtAll);
+    QCOMPARE(items.first().comesBack(), Restorability::NotAtAll);
     QCOMPARE(items.last().title, u"Vendor.Maps"_s);
     QCOMPARE(sidesOf(items.last()).restored, u"installed"_s);
 }
@@ -277,7 +277,7 @@ void TestPreview::programAtLogonIsCalledByItsValue()
     const PreviewItem item = onlyItem(three.items());
     QCOMPARE(item.group, PreviewGroup::Autorun);
     QCOMPARE(item.title, u"Chat"_s);
-    QCOMPARE(item.comesBack(), Return::Exactly);
+    QCOMPARE(item.comesBack(), Restorability::Exactly);
 }
 
 void TestPreview::ownRecordsStandApartAndDoNotCount()

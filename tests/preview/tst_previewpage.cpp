@@ -369,7 +369,7 @@ void TestPreviewPage::thousandsOfItemsAreSearched()
     for (int i = 0; i < count; ++i) {
         PreviewItem item{PreviewGroup::Services, u"Service %1"_s.arg(i), u"Does something"_s, u"svc%1"_s.arg(i), {}};
         for (const QString &what : {u"start mode"_s, u"state"_s, u"delayed start"_s})
-            item.details.append({what, servicesKey + item.name, u"a"_s, u"b"_s, u"a"_s, Return::Exactly});
+            item.details.append({what, servicesKey + item.name, u"a"_s, u"b"_s, u"a"_s, Restorability::Exactly});
         items.append(item);
     }
     const QString file = folder_.filePath(u"many.html"_s);

@@ -31,14 +31,14 @@ QList<DiffRow> compareBesidesRegistry(Machine &before, Machine &after);
 struct RegistryDifference
 {
     QString key;
-    bool ofKey = false; ///< the key itself, which is told before its values
+    bool ofKey = false; ///< the key itself, which is visited before its values
     bool empty = false; ///< of a key: it holds nothing
     bool keyWasThere = false;
     std::optional<RegistryValue> before{}; ///< of a value; nothing where it is absent
     std::optional<RegistryValue> after{};
 };
 
-/** Visits all differences, keys sorted by their path. HKEY_CLASSES_ROOT is told as the key it is a view of. */
+/** Visits all differences, keys sorted by their path. HKEY_CLASSES_ROOT is reported as the key it is a view of. */
 void eachRegistryDifference(const RegistryStore &before, const RegistryStore &after,
                             const std::function<void(const RegistryDifference &)> &visit);
 

@@ -17,7 +17,7 @@ public:
 
     /** Makes a folder and those above it. Throws MachineError. */
     void makeFolder(const QString &folder);
-    /** Writes a file of that size, with a hole behind its content. Throws MachineError. */
+    /** Writes a file of that size, with a hole after its content. Throws MachineError. */
     void write(const QString &file, const QByteArray &content, qint64 size);
     void commit();
 

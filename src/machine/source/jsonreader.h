@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reads JSON written by hand: every mistake is told with the place where it is.
+// Reads JSON written by hand: every mistake is reported with its place.
 
 #pragma once
 
@@ -18,7 +18,7 @@ public:
     {
     }
 
-    /** The document's object. A syntax error is told as "file:line: reason". */
+    /** The document's object. A syntax error is reported as "file:line: reason". */
     QJsonObject document(const QByteArray &bytes) const;
 
     QJsonObject object(const QJsonValue &value, const QString &key) const;

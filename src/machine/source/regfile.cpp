@@ -46,7 +46,7 @@ QString bytesText(const QString &start, const QByteArray &data)
     return lines + line;
 }
 
-/** The name and the sign behind it, with which each line of a value begins. */
+/** The name and the sign after it, with which each line of a value begins. */
 QString lineStart(const RegistryValue &value)
 {
     return (value.name.isEmpty() ? u"@"_s : quoted(value.name)) + u'=';

@@ -225,8 +225,8 @@ void ScriptReader::readKey()
     const qsizetype end = line.lastIndexOf(u']'); // a key's name may have one, too
     if (end < 0)
         fail(u"the key's closing bracket is missing"_s);
-    const QString behind = line.mid(end + 1).trimmed();
-    if (!behind.isEmpty() && !behind.startsWith(u';'))
+    const QString rest = line.mid(end + 1).trimmed();
+    if (!rest.isEmpty() && !rest.startsWith(u';'))
         fail(u"there is more behind the key than a comment"_s);
     removing_ = line.startsWith(u'-');
     key_ = line.sliced(removing_ ? 1 : 0, end - (removing_ ? 1 : 0));

@@ -33,7 +33,7 @@ constexpr int stateStopped = 1;
 constexpr int stateStopPending = 3;
 constexpr int neverStarted = 1077;
 
-/** Goes through the lines; a record begins with an unindented "LABEL: name" behind an empty line. */
+/** Goes through the lines; a record begins with an unindented "LABEL: name" after an empty line. */
 class ReportParser
 {
 public:

@@ -14,11 +14,11 @@ QList<ServiceReport> parseServiceReport(const QString &text, const QString &file
 /** Whether a file is a list of scheduled tasks as "schtasks /xml" prints it, by its name or its beginning. */
 bool isTaskExport(const QString &fileName, const QByteArray &bytes);
 /**
- * Reads documents one after another, or within <Tasks>, each behind a comment that names its path, and a declaration. A
+ * Reads documents one after another, or within <Tasks>, each after a comment that names its path, and a declaration. A
  * document without such a comment is named by its own URI. The bytes may be UTF-16 with its mark, UTF-8, or text of a
  * console. Throws MachineError with "file:line: reason".
  */
 QList<ScheduledTask> parseTaskExport(const QByteArray &bytes, const QString &fileName);
 
-/** The task's document behind its comment and declaration, lines ended by LF. */
+/** The task's document after its comment and declaration, lines ended by LF. */
 QString taskExportText(const ScheduledTask &task);

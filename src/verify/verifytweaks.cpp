@@ -39,7 +39,7 @@ bool isEmptyKey(const DiffRow &row)
     return row.kind == DiffKind::Registry && row.name.isEmpty();
 }
 
-/** Whether a run is the one that writes what the row tells. */
+/** Whether a run is the one that writes what the row names. */
 bool writes(const ToolRun &run, const DiffRow &row)
 {
     if (row.kind == DiffKind::BootOption)
@@ -58,11 +58,11 @@ std::optional<ToolRun> refusal(const QList<ToolRun> &runs, const DiffRow &row)
     return last == runs.crend() || last->exitCode == 0 ? std::nullopt : std::optional(*last);
 }
 
-/** What the rows of one option, which aren't in force, make of it. */
-class OptionJudgement
+/** What the rows of one tweak, which aren't in force, make of it. */
+class TweakJudgement
 {
 public:
-    OptionJudgement(const QMap<Place, DiffRow> &sinceBefore, const QList<ToolRun> &runs)
+    TweakJudgement(const QMap<Place, DiffRow> &sinceBefore, const QList<ToolRun> &runs)
         : sinceBefore_(sinceBefore)
         , runs_(runs)
     {
@@ -99,23 +99,23 @@ QMap<Place, DiffRow> byPlace(const QList<DiffRow> &rows)
 
 } // namespace
 
-QList<VerifiedItem> verifyOptions(Machine &before, Machine &now, Machine &again)
+QList<VerifiedItem> verifyTweaks(Machine &before, Machine &now, Machine &again)
 {
     const QMap<Place, DiffRow> sinceBefore = byPlace(compareMachines(before, now));
     QMap<QString, QList<DiffRow>> rowsOf; // by box
     for (const DiffRow &row : compareMachines(now, again)) {
         if (!isEmptyKey(row))
-            rowsOf[featureOf(row)].append(row);
+            rowsOf[tweakBoxOf(row)].append(row);
     }
     const QList<ToolRun> runs = readToolLog(now);
-    const OptionJudgement judgement(sinceBefore, runs);
+    const TweakJudgement judgement(sinceBefore, runs);
 
     QList<VerifiedItem> items;
     for (const TweakBox &box : tweakBoxes()) {
         stopIfInterrupted();
         if (!isRecorded(now, box.name))
             continue;
-        VerifiedItem item{PreviewGroup::Features, box.name, featureWords(box.name).option};
+        VerifiedItem item{PreviewGroup::Tweaks, box.name, tweakWords(box.name).title};
         for (const DiffRow &row : rowsOf.value(box.name))
             judgement.judge(item, row);
         items.append(item);

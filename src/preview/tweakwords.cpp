@@ -13,15 +13,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Option
+struct TweakRow
 {
     QLatin1StringView box;
-    QLatin1StringView words;
+    QLatin1StringView title;
     QLatin1StringView about;
 };
 
 // clang-format off
-constexpr Option options[] = {
+constexpr TweakRow tweakRows[] = {
     {"chkSsd1"_L1, "Disable Windows write-cache buffer flushing"_L1,
      "The drive keeps data in its own memory a little longer instead of writing it at once"_L1},
     {"chkSsd2"_L1, "Disable automatic boot disk optimization"_L1,
@@ -92,7 +92,7 @@ constexpr Option options[] = {
      "Settings and lists of applications are no longer kept in the cloud"_L1},
 };
 
-/** What options change besides the values of their tables. */
+/** What tweaks change besides the values of their tables. */
 struct Place
 {
     QLatin1StringView box;
@@ -159,7 +159,7 @@ std::array<Table, 4> tables()
 
 } // namespace
 
-QString featureOf(const DiffRow &row)
+QString tweakBoxOf(const DiffRow &row)
 {
     if (row.kind == DiffKind::Registry) {
         for (const Table &table : tables()) {
@@ -176,10 +176,10 @@ QString featureOf(const DiffRow &row)
     return {};
 }
 
-FeatureWords featureWords(const QString &box)
+TweakWords tweakWords(const QString &box)
 {
     const auto text = [](QLatin1StringView utf8) { return QString::fromUtf8(utf8.data(), utf8.size()); };
-    const auto option =
-        std::find_if(std::begin(options), std::end(options), [&box](const Option &row) { return row.box == box; });
-    return option == std::end(options) ? FeatureWords() : FeatureWords{text(option->words), text(option->about)};
+    const auto tweak = std::find_if(std::begin(tweakRows), std::end(tweakRows),
+                                    [&box](const TweakRow &row) { return row.box == box; });
+    return tweak == std::end(tweakRows) ? TweakWords() : TweakWords{text(tweak->title), text(tweak->about)};
 }

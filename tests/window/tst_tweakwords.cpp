@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What previews call the options of the Features page against what the page itself calls them.
+// What previews call the tweaks of the Features page against what the page itself calls them.
 
 #include "preview/previewwords.h"
 #include "support/suite.h"
@@ -23,7 +23,7 @@ const QMap<QString, QString> exceptions{
 
 } // namespace
 
-class TestFeatureWords : public QObject
+class TestTweakWords : public QObject
 {
     Q_OBJECT
 
@@ -33,14 +33,14 @@ private Q_SLOTS:
     void otherNamesHaveNoWords();
 };
 
-void TestFeatureWords::formBeginsWithTheWords_data()
+void TestTweakWords::formBeginsWithTheWords_data()
 {
     QTest::addColumn<QString>("box");
     for (const TweakBox &box : tweakBoxes())
         QTest::addRow("%s", box.name.data()) << QString(box.name);
 }
 
-void TestFeatureWords::formBeginsWithTheWords()
+void TestTweakWords::formBeginsWithTheWords()
 {
     QFETCH(QString, box);
     QMainWindow window;
@@ -48,22 +48,22 @@ void TestFeatureWords::formBeginsWithTheWords()
     ui.setupUi(&window);
     const auto *checkBox = window.findChild<QCheckBox *>(box);
     QVERIFY(checkBox != nullptr);
-    const FeatureWords words = featureWords(box);
-    QVERIFY(!words.option.isEmpty());
+    const TweakWords words = tweakWords(box);
+    QVERIFY(!words.title.isEmpty());
     QVERIFY(!words.about.isEmpty());
 
-    const QString begin = exceptions.value(box, words.option);
+    const QString begin = exceptions.value(box, words.title);
     QVERIFY2(checkBox->text().startsWith(begin), qPrintable(checkBox->text()));
     // No word is cut in two, and nothing of a first sentence is left out.
     const QString rest = checkBox->text().sliced(begin.size()).trimmed();
     QVERIFY2(rest.isEmpty() || rest.startsWith(u'(') || exceptions.contains(box), qPrintable(rest));
 }
 
-void TestFeatureWords::otherNamesHaveNoWords()
+void TestTweakWords::otherNamesHaveNoWords()
 {
     for (const QString &name : {u"chkSsd"_s, u"chkSsd10"_s, u"chkWindows11"_s, QString()})
-        QVERIFY2(featureWords(name).option.isEmpty(), qPrintable(name));
+        QVERIFY2(tweakWords(name).title.isEmpty(), qPrintable(name));
 }
 
-KESTRUNE_WINDOW_SUITE(TestFeatureWords)
-#include "tst_featurewords.moc"
+KESTRUNE_WINDOW_SUITE(TestTweakWords)
+#include "tst_tweakwords.moc"
