@@ -21,7 +21,7 @@ trial_digest() {
     ) 2>/dev/null | digest
 }
 
-# The stand-ins of stock tools beside a program, where Windows looks first; the others are started by their full path.
+# The stock tools whose places stand-ins take in the throw-away prefix
 readonly stand_ins=(sc schtasks powercfg bcdedit takeown icacls taskkill)
 
 # What clicks through the window, in this order; the Automatizer, which takes the other pages' changes back, last
@@ -35,6 +35,7 @@ inside_trial() {
         desk_begin "$version"
         run_test_suite "$version"
         lay_trial_folder
+        lay_stand_ins
         lay_pc "$version"
         run_window "$version"
         run_program "$version"
@@ -57,20 +58,31 @@ run_test_suite() {
         's/^\(.*tests passed\).*out of \(.*\)/\1 of \2/p' "$desk_log/tests.txt"), in $(took $((SECONDS - begin)))"
 }
 
-# A folder of its own with the program as it is packed, and stand-ins that are never packed
+# A folder of its own with the program as it is packed
 lay_trial_folder() {
-    local folder=$inside_making/trial tool program
-    local system=$WINEPREFIX/drive_c/windows
+    local folder=$inside_making/trial program
     rm -rf "$folder"
     mkdir -p "$folder"
     for program in kestrune tests_program tests_trial; do
         cp -l "$inside_build/bin/$program.exe" "$folder/" 2>/dev/null || cp "$inside_build/bin/$program.exe" "$folder/"
     done
     cp -r "$inside_build"/bin/{img,machines,Translations} "$folder/"
-    for tool in "${stand_ins[@]}"; do cp "$inside_build/bin/standin.exe" "$folder/$tool.exe"; done
+}
+
+# In place of the system's own tools, and where Wine has none
+lay_stand_ins() {
+    local system=$WINEPREFIX/drive_c/windows tool
     mkdir -p "$system"/system32/WindowsPowerShell/v1.0 "$system/syswow64"
-    cp --remove-destination "$inside_build/bin/standin.exe" "$system/system32/WindowsPowerShell/v1.0/powershell.exe"
-    cp --remove-destination "$inside_build/bin/standin.exe" "$system/syswow64/OneDriveSetup.exe"
+    for tool in "${stand_ins[@]/#/system32/}" system32/WindowsPowerShell/v1.0/powershell syswow64/OneDriveSetup; do
+        cp --remove-destination "$inside_build/bin/standin.exe" "$system/$tool.exe"
+    done
+    prefer_files_to_wines "${stand_ins[@]}"
+}
+
+# prefer_files_to_wines PROGRAM…: else Wine would take its own programs of these names
+prefer_files_to_wines() {
+    local names=("${@/%/.exe}")
+    WINEDLLOVERRIDES+=";$(IFS=,; echo "${names[*]}")=native"
 }
 
 # lay_pc VERSION: the registry of a built-in machine, as if it belonged to the user here
@@ -143,12 +155,10 @@ run_host_proof() {
             marked+=("$(sed -e 's|.*/drive_c/|C:/|' <<<"$place")")
         done
     done
-    # Wine would take its own in their place.
-    local overrides="$WINEDLLOVERRIDES;${marked_programs[*]/%/.exe}"
-    overrides=${overrides// /,}=native
+    prefer_files_to_wines "${marked_programs[@]}"
     KESTRUNE_MARKED_PROGRAMS=$(IFS=';'; echo "${marked[*]}")
     export KESTRUNE_MARKED_PROGRAMS
-    WINEDLLOVERRIDES=$overrides QTEST_FUNCTION_TIMEOUT=800000 quietly hostuntouched 900 \
+    QTEST_FUNCTION_TIMEOUT=800000 quietly hostuntouched 900 \
         wine "$inside_build/bin/tests_rehearse.exe" tst_hostuntouched -o "Z:$desk_log/hostuntouched.qtest,txt"
     without_warnings hostuntouched
     say "trial: nothing of the host is started, in $(took $((SECONDS - begin)))"

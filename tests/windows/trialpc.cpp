@@ -93,7 +93,7 @@ void layFile(const QString &path)
 void layStandIn(const QString &path)
 {
     QDir().mkpath(QFileInfo(path).path());
-    if (!QFile::exists(path) && !QFile::copy(QCoreApplication::applicationDirPath() + u"/sc.exe"_s, path))
+    if (!QFile::exists(path) && !QFile::copy(platform().programFile(u"sc"_s), path))
         qFatal("%s can't be made", qUtf8Printable(path));
 }
 

@@ -72,6 +72,12 @@ private Q_SLOTS:
     void monitorTellsTheSystemsFigures();
     void reportTellsTheSystemsTexts();
 
+    void bareNamesAreTheSystemsOwn_data();
+    void bareNamesAreTheSystemsOwn();
+    void onlyFullPathsArePrograms_data();
+    void onlyFullPathsArePrograms();
+    void plantedToolsAreNotStarted();
+
     void exitCodesHave32Bits_data();
     void exitCodesHave32Bits();
     void programInQuotesStarts();
@@ -245,6 +251,74 @@ void TestWindowsPlatform::reportTellsTheSystemsTexts()
     QVERIFY(worker.cpuThread.toInt() >= worker.cpuCore.toInt());
     const QSize screen(GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));
     QCOMPARE(worker.gpuDesktopSize, u"%1 x %2"_s.arg(screen.width()).arg(screen.height()));
+}
+
+void TestWindowsPlatform::bareNamesAreTheSystemsOwn_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const QString &tool : {u"sc"_s, u"schtasks"_s, u"taskkill"_s, u"reg"_s, u"cmd"_s, u"CMD.EXE"_s}) {
+        const QString name = tool.endsWith(u".EXE") ? tool : tool + u".exe"_s;
+        QTest::newRow(qPrintable(tool)) << u"C:\\windows\\system32\\"_s + name;
+    }
+    QTest::newRow("powershell") << u"C:\\windows\\system32\\WindowsPowerShell\\v1.0\\powershell.exe"_s;
+}
+
+void TestWindowsPlatform::bareNamesAreTheSystemsOwn()
+{
+    QFETCH(const QString, file);
+    QCOMPARE(platform().programFile(QString::fromLatin1(QTest::currentDataTag())).toLower(), file.toLower());
+}
+
+void TestWindowsPlatform::onlyFullPathsArePrograms_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<bool>("found");
+    const QString own = QDir::toNativeSeparators(exitWith());
+    QTest::newRow("a full path") << own << true;
+    QTest::newRow("with slashes") << exitWith() << true;
+    QTest::newRow("in quotes") << u'"' + own + u'"' << true;
+    QTest::newRow("without its suffix") << own.chopped(4) << true;
+    // Which lies beside the program, where Windows looks first
+    QTest::newRow("a name that isn't the system's") << u"exitwith"_s << false;
+    QTest::newRow("the same with its suffix") << u"exitwith.exe"_s << false;
+    QTest::newRow("in the current folder") << u".\\exitwith.exe"_s << false;
+    QTest::newRow("of the drive's current folder") << own.first(2) + u"exitwith.exe"_s << false;
+    QTest::newRow("of the current drive") << own.sliced(2) << false;
+    QTest::newRow("above the system's folder") << u"..\\explorer.exe"_s << false;
+    QTest::newRow("a folder") << u"C:\\Windows"_s << false;
+    QTest::newRow("what isn't there") << u"C:\\Windows\\nosuchprogram.exe"_s << false;
+    QTest::newRow("nothing") << QString() << false;
+}
+
+void TestWindowsPlatform::onlyFullPathsArePrograms()
+{
+    QFETCH(const QString, program);
+    QFETCH(const bool, found);
+    const QString current = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(QCoreApplication::applicationDirPath()));
+    const QString file = platform().programFile(program);
+    QVERIFY(QDir::setCurrent(current));
+    QCOMPARE(!file.isEmpty(), found);
+}
+
+/** Beside the program and in the current folder, which Windows would look into before its own. */
+void TestWindowsPlatform::plantedToolsAreNotStarted()
+{
+    constexpr int planted = 4711;
+    const QString current = QDir::currentPath();
+    const QTemporaryDir folder;
+    const QStringList places{folder.path(), QCoreApplication::applicationDirPath()};
+    QVERIFY(QDir::setCurrent(folder.path()));
+    for (const QString &place : places) {
+        QVERIFY(QFile::copy(exitWith(), place + u"/schtasks.exe"_s));
+        Command command;
+        command.start(u"schtasks"_s, {QString::number(planted)});
+        QVERIFY(!command.failedToStart());
+        command.waitForFinished();
+        QVERIFY(command.exitCode() != planted);
+        QVERIFY(QFile::remove(place + u"/schtasks.exe"_s));
+    }
+    QVERIFY(QDir::setCurrent(current));
 }
 
 void TestWindowsPlatform::exitCodesHave32Bits_data()

@@ -6,6 +6,7 @@
 #include "folderwalk.h"
 #include "machine/machineerror.h"
 #include "machine/machinekey.h"
+#include "platform/programname.h"
 #include "platform/windowsfacts.h"
 #include "rehearsalprocess.h"
 
@@ -33,12 +34,6 @@ constexpr QLatin1StringView executableSuffix(".exe");
 constexpr QLatin1StringView executableSuffix("");
 #endif
 
-QString withoutQuotes(const QString &program)
-{
-    const bool quoted = program.size() >= 2 && program.startsWith(u'"') && program.endsWith(u'"');
-    return quoted ? program.sliced(1).chopped(1) : program;
-}
-
 /** "sc" of "C:\Windows\System32\SC.EXE". */
 QString toolOf(const QString &program)
 {
@@ -51,12 +46,6 @@ QString toolOf(const QString &program)
             return tool;
     }
     return {};
-}
-
-bool isBareName(const QString &program)
-{
-    return std::none_of(program.cbegin(), program.cend(),
-                        [](QChar unit) { return unit == u'/' || unit == u'\\' || unit == u':'; });
 }
 
 /** A property as the text of what its VARIANT holds, read as a text or else as 32 bits. */

@@ -3,6 +3,8 @@
 #include "windowsplatform.h"
 
 #include "nativekey.h"
+#include "platform/programname.h"
+#include "systemfolders.h"
 #include "systemobjects.h"
 #include "wmiquery.h"
 
@@ -38,6 +40,21 @@ QString programName(DWORD processId)
     wchar_t name[MAX_PATH];
     const DWORD length = K32GetModuleBaseNameW(process.get(), program, name, MAX_PATH);
     return QString::fromWCharArray(name, static_cast<qsizetype>(length));
+}
+
+/** A stock tool's own file: by its name Windows would look in the program's and in the current folder first. */
+QString systemProgram(const QString &name)
+{
+    const bool isPowerShell = name.compare("powershell"_L1, Qt::CaseInsensitive) == 0;
+    return (isPowerShell ? powerShellFolder() : systemFolder()) + u'\\' + name;
+}
+
+/** With its drive or computer. What is relative to the current folder, or to that of a drive, depends on the starter.
+ */
+bool isFullPath(const QString &path)
+{
+    const auto isSeparator = [&path](qsizetype at) { return path.at(at) == u'\\' || path.at(at) == u'/'; };
+    return path.size() > 2 && ((path.at(1) == u':' && isSeparator(2)) || (isSeparator(0) && isSeparator(1)));
 }
 
 } // namespace
@@ -89,8 +106,15 @@ void WindowsPlatform::setFileAttributes(const QString &file, quint32 word) const
 
 QString WindowsPlatform::programFile(const QString &program) const
 {
-    const bool quoted = program.size() > 1 && program.startsWith(u'"') && program.endsWith(u'"');
-    return quoted ? program.sliced(1).chopped(1) : program;
+    const QString named = withoutQuotes(program);
+    const QString path = isBareName(named) ? systemProgram(named) : named;
+    if (!isFullPath(path))
+        return {};
+    for (const QString &file : {path, path + u".exe"_s}) {
+        if (QFileInfo(file).isFile())
+            return file;
+    }
+    return {};
 }
 
 int WindowsPlatform::exitCode(qint64, int reported) const
