@@ -3,7 +3,8 @@
 #include "previewreport.h"
 
 #include "machine/compare/webpage.h"
-#include "previewpagestyle.h"
+#include "previewpage.css.h"
+#include "previewpage.js.h"
 #include "previewtexts.h"
 
 #include <algorithm>
@@ -133,7 +134,7 @@ QString sectionHtml(const GroupTexts &group, const QList<PreviewItem> &items)
 
 QString previewHtml(const QList<PreviewItem> &items, const QString &machine)
 {
-    QString page = pageStart(u"What Optimize would change"_s, previewPageStyle, previewPageScript);
+    QString page = pageStart(u"What Optimize would change"_s, previewpageCss, previewpageJs);
     page += u"<header>\n<h1>What Optimize would change, and what comes back</h1>\n<p class=\"pc\">%1</p>\n"_s.arg(
         machine.toHtmlEscaped());
     page += introduction + u"</header>\n<main>\n"_s + countsHtml(items) + findHtml(items);
@@ -141,5 +142,5 @@ QString previewHtml(const QList<PreviewItem> &items, const QString &machine)
         page += sectionHtml(group, items);
     if (items.isEmpty())
         page += u"<h2>Nothing would change.</h2>\n"_s;
-    return page + u"</main>\n"_s + pageEnd(previewPageScript);
+    return page + u"</main>\n"_s + pageEnd(previewpageJs);
 }
