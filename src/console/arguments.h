@@ -13,6 +13,7 @@ struct OptionRow
     QLatin1StringView name;  ///< without its two dashes
     QLatin1StringView value; ///< what its value is called; empty for an option without one
     QLatin1StringView help;
+    QLatin1StringView manual{}; ///< in the markup of the manual page, where that says more
 };
 
 /** A mistake in the command line, in the words that follow the program's name. */

@@ -82,7 +82,8 @@ QString moreHelp()
 
 // clang-format off
 constexpr OptionRow options[] = {
-    {"with-names"_L1, {}, "keep the names of the PC, its users and networks, as a way back needs them"_L1},
+    {"with-names"_L1, {}, "keep the names of the PC, its users and networks, as a way back needs them"_L1,
+     "Keeps the names of the PC, its users and its networks.\nA way back\n.RB ( \"preview \\-\\-undo\" )\nneeds them."_L1},
     {"force"_L1,      {}, "replace the machine that is there"_L1},
 };
 // clang-format on

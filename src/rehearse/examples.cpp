@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// What the help shows of each command to copy and try.
 
-#include "examples.h"
+#include "subcommands.h"
 
 using namespace Qt::StringLiterals;
 

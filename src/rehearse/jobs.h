@@ -33,6 +33,7 @@ struct JobRow
     void (*record)(const QString &line) = nullptr;
     /** What is printed after the lines. */
     JobResults (*results)(const WorkThread &worker) = nullptr;
+    QLatin1StringView manual{}; ///< in the markup of the manual page, where that says more than the help
 };
 
 /** Closes a job whose last line is never the same. */

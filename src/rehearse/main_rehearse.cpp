@@ -3,7 +3,6 @@
 
 #include "console/console.h"
 #include "console/programinterruption.h"
-#include "examples.h"
 #include "machine/machineerror.h"
 #include "subcommands.h"
 
@@ -16,11 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto program = "kestrune-rehearse"_L1;
-
-constexpr const Subcommand *subcommands[] = {
-    &newSubcommand,  &captureSubcommand, &listSubcommand, &runSubcommand,    &previewSubcommand, &verifySubcommand,
-    &diffSubcommand, &guiSubcommand,     &tourSubcommand, &exportSubcommand, &importSubcommand,
-};
 
 QString optionsOf(const Subcommand &subcommand)
 {
@@ -55,7 +49,7 @@ void printHelp()
           "Rehearse changes to Windows on a copy: a rehearsal machine, which is a folder. Nothing that a command does\n"
           "leaves that folder, and no program of this computer is started for it.\n\n"
           "Commands:\n"_s.arg(program));
-    for (const Subcommand *subcommand : subcommands)
+    for (const Subcommand *subcommand : allSubcommands())
         print(u"  "_s + QString(subcommand->name).leftJustified(9) + subcommand->summary + u'\n');
     print(u"\nOptions:\n"
           "  --help     display this help and exit\n"
@@ -76,7 +70,7 @@ const Subcommand &findSubcommand(const QStringList &words)
 {
     if (words.isEmpty())
         throw UsageError{u"missing command"_s};
-    for (const Subcommand *subcommand : subcommands) {
+    for (const Subcommand *subcommand : allSubcommands()) {
         if (words.first() == subcommand->name)
             return *subcommand;
     }

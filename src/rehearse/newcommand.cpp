@@ -48,8 +48,12 @@ QString builtInMachines()
 
 // clang-format off
 constexpr OptionRow options[] = {
-    {"from"_L1,  "SOURCE"_L1, "fill it from a built-in machine, or from a folder of .reg files, tasks.xml and machine.json"_L1},
-    {"force"_L1, {},          "replace the machine that is there"_L1},
+    {"from"_L1,  "SOURCE"_L1, "fill it from a built-in machine, or from a folder of .reg files, tasks.xml and machine.json"_L1,
+     "Fills it from a built-in machine,\n.B windows10\nor\n.BR windows11 ,\n"
+     "or from a folder of sources: all its\n.I .reg\nfiles in the order of their names, then its\n"
+     ".I tasks.xml\nand its\n.IR machine.json ."_L1},
+    {"force"_L1, {},          "replace the machine that is there"_L1,
+     "Replaces the machine that is there.\nNothing but a machine is ever replaced."_L1},
 };
 // clang-format on
 

@@ -147,12 +147,22 @@ int runPreview(const Arguments &arguments)
 
 // clang-format off
 constexpr OptionRow options[] = {
-    {"keep"_L1,        "FEATURE=STATE,..."_L1, "say which features are kept, as 'run' does"_L1},
+    {"keep"_L1,        "FEATURE=STATE,..."_L1, "say which features are kept, as 'run' does"_L1,
+     "Keeps features or gives them up, as\n.B run\ndoes."_L1},
     {"no-programs"_L1, {},                     "let the Automatizer leave packages and programs at logon alone"_L1},
     {"no-features"_L1, {},                     "let the Automatizer leave the tweaks alone"_L1},
-    {"html"_L1,        "FILE"_L1,              "write a web page"_L1},
+    {"html"_L1,        "FILE"_L1,              "write a web page"_L1,
+     "Writes a web page: one file, without anything from outside, that can be searched and printed."_L1},
     {"json"_L1,        "FILE"_L1,              "write JSON"_L1},
-    {"undo"_L1,        "FILE"_L1,              "write the way back: a .reg file, and the commands beside it"_L1},
+    {"undo"_L1,        "FILE"_L1,              "write the way back: a .reg file, and the commands beside it"_L1,
+     "Writes an exact way back.\n"
+     ".I FILE\n"
+     "is a registry script that sets every value which Optimize would change to what it is now, and removes those that "
+     "aren't there\nnow.\n"
+     "Beside it come a list of commands for what isn't in the registry, and the files that Optimize would change.\n"
+     "It can be applied in Safe Mode with nothing but the system's own tools.\n"
+     "A captured PC must bear its own names for that, and should have been captured by an administrator: what could not "
+     "be read is\ntaken for not there."_L1},
 };
 // clang-format on
 

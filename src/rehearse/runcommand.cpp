@@ -142,13 +142,18 @@ QString moreHelp()
 
 // clang-format off
 constexpr OptionRow options[] = {
-    {"not-elevated"_L1, {},                   "run it as a user without administrator rights"_L1},
-    {"pace"_L1,         "FACTOR"_L1,          "sleep this many times each pause of the job (default 0)"_L1},
-    {"keep"_L1,         "FEATURE=STATE,..."_L1, "keep or give up features, for this run alone"_L1},
+    {"not-elevated"_L1, {},                   "run it as a user without administrator rights"_L1,
+     "Runs the job as a user without administrator rights."_L1},
+    {"pace"_L1,         "FACTOR"_L1,          "sleep this many times each pause of the job (default 0)"_L1,
+     "Sleeps this many times each deliberate pause of the job.\nThe default is 0: no pauses."_L1},
+    {"keep"_L1,         "FEATURE=STATE,..."_L1, "keep or give up features, for this run alone"_L1,
+     "Keeps a feature (2) or gives it up (0), for this run alone; see\n.BR \"FEATURES TO KEEP\" ."_L1},
     {"no-programs"_L1,  {},                   "let the Automatizer leave packages and programs at logon alone"_L1},
     {"no-features"_L1,  {},                   "let the Automatizer leave the tweaks alone"_L1},
-    {"yes"_L1,          {},                   "answer Yes to the window's question for a walk over all files"_L1},
-    {"no-walk"_L1,      {},                   "answer No to it (default)"_L1},
+    {"yes"_L1,          {},                   "answer Yes to the window's question for a walk over all files"_L1,
+     "Answers Yes to the question that the window asks before it walks over all files."_L1},
+    {"no-walk"_L1,      {},                   "answer No to it (default)"_L1,
+     "Answers No to it, which is the default."_L1},
     {"json"_L1,         {},                   "print each line as a JSON object"_L1},
 };
 // clang-format on

@@ -17,6 +17,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr const Subcommand *subcommands[] = {
+    &newSubcommand,  &captureSubcommand, &listSubcommand, &runSubcommand,    &previewSubcommand, &verifySubcommand,
+    &diffSubcommand, &guiSubcommand,     &tourSubcommand, &exportSubcommand, &importSubcommand,
+};
+
 /** Lets it end what it runs itself; a console's Ctrl-C has reached it anyway. */
 void end(QProcess &process)
 {
@@ -54,6 +59,11 @@ void write(QFileDevice &file, const QByteArray &report)
 }
 
 } // namespace
+
+std::span<const Subcommand *const> allSubcommands()
+{
+    return subcommands;
+}
 
 std::unique_ptr<Machine> openMachine(const QString &folder)
 {

@@ -31,6 +31,11 @@ struct Subcommand
     QString (*moreHelp)() = nullptr;
 };
 
+/** All of them, in the order in which the help lists them. */
+std::span<const Subcommand *const> allSubcommands();
+/** What the help shows of one to copy and try: command lines and what they do; empty where it has none. */
+QString examplesOf(QLatin1StringView subcommand);
+
 extern const Subcommand newSubcommand;
 extern const Subcommand listSubcommand;
 extern const Subcommand runSubcommand;

@@ -54,7 +54,10 @@ int runGui(const Arguments &arguments)
 }
 
 constexpr OptionRow guiOptions[] = {
-    {"not-elevated"_L1, {}, "run it as a user without administrator rights"_L1},
+    {"not-elevated"_L1,
+     {},
+     "run it as a user without administrator rights"_L1,
+     "Opens it as a user without administrator rights sees it."_L1},
 };
 
 constexpr QLatin1StringView pages[] = {
@@ -127,7 +130,7 @@ int runTour(const Arguments &arguments)
 }
 
 constexpr OptionRow tourOptions[] = {
-    {"out"_L1, "FOLDER"_L1, "where the pictures go"_L1},
+    {"out"_L1, "FOLDER"_L1, "where the pictures go"_L1, "Says where the pictures go."_L1},
 };
 
 } // namespace

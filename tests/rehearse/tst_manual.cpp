@@ -94,6 +94,7 @@ private Q_SLOTS:
     void jobsAreThoseOfTheHelp();
     void featuresToKeepAreThoseOfTheHelp();
     void theVersionIsTheProgramsOwn();
+    void whatItSharesWithTheHelpIsThatOfTheTables();
     void examplesOfTheHelpCanBeTried();
     void examplesOfTheManualCanBeTried();
     void eachCommandHasAnExample();
@@ -145,6 +146,14 @@ void TestManual::theVersionIsTheProgramsOwn()
     const QString version =
         QString::fromUtf8(runProgram(builtProgram(u"kestrune-rehearse"_s), {u"--version"_s}).output).section(u' ', -1);
     QCOMPARE(caught(manual(), u"^\\.TH .* \"Kestrune ([0-9.]+)\""_s), QStringList{version.trimmed()});
+}
+
+void TestManual::whatItSharesWithTheHelpIsThatOfTheTables()
+{
+    const QString page = QStringLiteral(KESTRUNE_MANUAL);
+    // `./dev manual` writes it.
+    QCOMPARE(QString::fromUtf8(runProgram(builtProgram(u"manualwriter"_s), {page}).output),
+             QString::fromUtf8(readFile(page)));
 }
 
 void TestManual::examplesOfTheHelpCanBeTried()
