@@ -52,7 +52,7 @@ QMap<QString, QString> captureBootOptions(QList<NotRead> &notRead);
 
 /** The parts of machine.json's "hardware". Takes half a second. */
 QJsonObject captureHardware();
-/** The answers to all that the program asks of the management instrumentation. */
+/** The answers to all that the program asks of WMI. */
 QMap<QString, QList<QJsonObject>> captureWmi(QList<NotRead> &notRead);
 /** The variables that the program reads. */
 QMap<QString, QString> captureEnvironment();

@@ -130,7 +130,7 @@ QString comparable(const QString &key)
 
 bool isOfRow(const TweakValue &value, const DiffRow &row)
 {
-    // An empty key comes to be where a value is removed from a key that isn't there.
+    // An empty key is made where a value is removed from a key that isn't there.
     if (row.name.isEmpty())
         return comparable(value.key) == comparable(row.path);
     return foldName(value.name) == foldName(row.name) && comparable(value.key) == comparable(row.path);

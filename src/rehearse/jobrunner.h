@@ -37,5 +37,5 @@ private:
  */
 std::optional<QString> runToEnd(WorkThread &worker, int job, LinePrinter &printer,
                                 void (*record)(const QString &line) = nullptr);
-/** Runs, on a thread of its own, what of a worker is no job and takes its time; it can be broken off likewise. */
+/** Runs work that is no job, on a thread of its own; it can be broken off likewise. */
 void runToEnd(const std::function<void()> &work);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The jobs that kestrune-rehearse can run, one row a job, and those of them that the window runs otherwise than by a
-// single job of the worker.
+// The jobs that kestrune-rehearse can run, one row a job, and what those do that aren't one
+// job of the worker.
 
 #pragma once
 
@@ -27,7 +27,7 @@ struct JobRow
     QLatin1StringView closingLine;
     /** Writes the job's input into the worker; of jobAutorun, does the work. */
     void (*prepare)(WorkThread &worker, const QStringList &operands) = nullptr;
-    /** What of the operands didn't come to what was asked for, when the job is over. */
+    /** The operands for which the job, now over, didn't do what was asked. */
     QStringList (*unreached)(const QStringList &operands) = nullptr;
     /** Takes each line of valueChanged, as the window does for its records. */
     void (*record)(const QString &line) = nullptr;
@@ -60,8 +60,8 @@ struct AutomatizerChoice
 bool isAutomatizerJob(int job);
 
 /**
- * Analyzes, optimizes what an Analyze before has found, or restores. A Failure where the window would refuse, and where
- * a job didn't come to its end.
+ * Analyzes, optimizes what an earlier Analyze has found, or restores. A Failure where the window would refuse, and
+ * where a job didn't come to its end.
  */
 void runAutomatizer(WorkThread &worker, int job, const AutomatizerChoice &choice, LinePrinter &printer);
 

@@ -105,7 +105,7 @@ int run(const QStringList &words)
         Arguments(words.mid(1), subcommand.options, subcommand.fewestOperands, subcommand.mostOperands));
 }
 
-/** Whatever fails once the program is broken off may fail of that, and isn't told. */
+/** What fails after the program was broken off may fail because of that, and isn't reported. */
 void complain(const QString &message)
 {
     stopIfInterrupted();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Progress of long steps, for whoever sits at a terminal.
+// Progress of long steps, for somebody at a terminal.
 
 #pragma once
 

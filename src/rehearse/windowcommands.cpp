@@ -35,7 +35,7 @@ QProcessEnvironment windowEnvironment(const QString &machine, bool elevated)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"KESTRUNE_MACHINE"_s, machine);
     environment.insert(u"KESTRUNE_ELEVATED"_s, elevated ? u"1"_s : u"0"_s);
-    // A program without a console would tell its errors nobody.
+    // Without a console nobody would see its errors.
     environment.insert(u"QT_FORCE_STDERR_LOGGING"_s, u"1"_s);
     return environment;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whether what the program has recorded as done on a machine holds there now.
 //
-// What can be told goes by three things: the machine before the change, the machine now, and the log of the tools that
+// The verdicts go by three things: the machine before the change, the machine now, and the log of the tools that
 // ran on the machine now, which a captured PC doesn't have. The program records a service, a task and a package only
 // where the tool said that it was done; autorun entries and tweaks it records without asking.
 
@@ -63,7 +63,7 @@ QList<VerifiedItem> verifySwitches(Machine &before, Machine &now);
  */
 QList<VerifiedItem> verifyTweaks(Machine &before, Machine &now, Machine &again);
 
-/** Why two machines can't be states of one PC that may be compared; empty where nothing speaks against it. */
+/** Why two machines can't be states of the same PC; empty where they may be. */
 QString differentPcs(Machine &before, Machine &now);
 
 /** Counts, and then group by group what isn't in force, with its values, before what is. Ends in a line break. */

@@ -33,7 +33,7 @@ bool isRecorded(Machine &machine, const QString &box)
     return value && textOf(value->data) == "true"_L1;
 }
 
-/** Where a value is removed from a key that isn't there, the key comes to be, and that changes nothing. */
+/** Removing a value from a key that isn't there makes the key, which changes nothing. */
 bool isEmptyKey(const DiffRow &row)
 {
     return row.kind == DiffKind::Registry && row.name.isEmpty();
@@ -58,7 +58,7 @@ std::optional<ToolRun> refusal(const QList<ToolRun> &runs, const DiffRow &row)
     return last == runs.crend() || last->exitCode == 0 ? std::nullopt : std::optional(*last);
 }
 
-/** What the rows of one tweak, which aren't in force, make of it. */
+/** The verdict on a tweak, by those of its rows that aren't in force. */
 class TweakJudgement
 {
 public:

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/** Kinds of things that can differ between two machines, in the order in which they are told. */
+/** Kinds of things that can differ between two machines, in the order in which they are listed. */
 enum class DiffKind { Service, Task, Registry, File, Attribute, Security, BootOption };
 
 /** One thing that differs. Its text is empty on a side that doesn't have it, and never empty elsewhere. */
