@@ -1,12 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "console.h"
+#include "programinterruption.h"
 
+#include <atomic>
+
+#include <signal.h>
 #include <unistd.h>
 
 namespace {
 
 const pid_t starter = getppid();
+
+std::atomic<int> received = 0; // the number of the signal
+static_assert(std::atomic<int>::is_always_lock_free);
+
+extern "C" void noteSignal(int number)
+{
+    received = number;
+}
 
 } // namespace
 
@@ -27,4 +39,29 @@ bool starterIsGone()
 QString consoleText(const QByteArray &bytes)
 {
     return fromConsoleBytes(bytes);
+}
+
+void watchForInterruption()
+{
+    struct sigaction action = {};
+    action.sa_handler = noteSignal;
+    sigemptyset(&action.sa_mask);
+    // Without SA_RESTART: writing to a pipe that nobody reads ends by the signal.
+    for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) {
+        struct sigaction former = {};
+        sigaction(number, nullptr, &former);
+        if (former.sa_handler != SIG_IGN)
+            sigaction(number, &action, nullptr);
+    }
+}
+
+bool isInterrupted()
+{
+    return received != 0;
+}
+
+void stopIfInterrupted()
+{
+    if (const int number = received; number != 0)
+        throw Interrupted{128 + number};
 }

@@ -1,17 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "console.h"
+#include "programinterruption.h"
 
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 
 namespace {
 
 UINT formerCodePage = 0; // 0: there is no console
+
+std::atomic<bool> received = false;
+
+/** Runs on a thread of its own. */
+BOOL WINAPI noteEvent(DWORD event)
+{
+    received = true;
+    // After all others the system ends the process as soon as this returns, or after a few seconds.
+    if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT)
+        Sleep(INFINITE);
+    return TRUE;
+}
 
 } // namespace
 
@@ -51,4 +65,20 @@ QString consoleText(const QByteArray &bytes)
     MultiByteToWideChar(codePage, 0, bytes.constData(), size, reinterpret_cast<wchar_t *>(text.data()),
                         static_cast<int>(text.size()));
     return text;
+}
+
+void watchForInterruption()
+{
+    SetConsoleCtrlHandler(noteEvent, TRUE);
+}
+
+bool isInterrupted()
+{
+    return received;
+}
+
+void stopIfInterrupted()
+{
+    if (received)
+        throw Interrupted{130};
 }

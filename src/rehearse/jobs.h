@@ -95,3 +95,21 @@ void enableAutoruns(WorkThread &worker, const QStringList &names);
 QStringList autorunsNotDisabled(const QStringList &names);
 /** Names that aren't listed. */
 QStringList autorunsNotEnabled(const QStringList &names);
+
+// Which features a job keeps: what the machine's Keep list has stored, and the option --keep on top of it.
+
+/** A feature's check state for this run. */
+struct KeepChoice
+{
+    std::atomic<int> WorkThread::*feature;
+    int state;
+};
+
+/** Reads "printer=0,nfc=2". Throws UsageError. */
+QList<KeepChoice> parseKeep(const QString &text);
+
+/** Sets the worker's members as the window does at its start, and then as was chosen. Stores nothing. */
+void applyKeep(WorkThread &worker, const QList<KeepChoice> &choices);
+
+/** The features' names, for the help. */
+QString keepNames();

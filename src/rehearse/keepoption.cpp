@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "keepoption.h"
+#include "jobs.h"
 
 #include "console/arguments.h"
 #include "platform/platform.h"

@@ -3,7 +3,6 @@
 
 #include "jobrunner.h"
 #include "jobs.h"
-#include "keepoption.h"
 #include "machine/seam/machineplatform.h"
 #include "progress.h"
 #include "subcommands.h"

@@ -5,7 +5,6 @@
 
 #include "console/console.h"
 #include "rehearse/jobs.h"
-#include "rehearse/keepoption.h"
 #include "rehearse/subcommands.h"
 
 #include <QFile>
