@@ -63,7 +63,7 @@ lay_trial_folder() {
     local folder=$inside_making/trial program
     rm -rf "$folder"
     mkdir -p "$folder"
-    for program in kestrune tests_program tests_trial; do
+    for program in kestrune tests_program tests_trial marker; do
         cp -l "$inside_build/bin/$program.exe" "$folder/" 2>/dev/null || cp "$inside_build/bin/$program.exe" "$folder/"
     done
     cp -r "$inside_build"/bin/{img,machines,Translations} "$folder/"
@@ -131,12 +131,13 @@ expect_changes_of_pages() {
     expect "the record of the restored program" "$(value "$records\\Autorun" OneDrive)" ''
 }
 
-# run_program VERSION: kestrune.exe itself, opened on the Services page
+# run_program VERSION: kestrune.exe itself, opened on the Services page; and once more among planted programs
 run_program() {
     set_value 'HKCU\Software\Kestrune\Ondrevale' lastPage REG_DWORD 1
     export KESTRUNE_TRIAL_PROGRAM=Z:$inside_making/trial/kestrune.exe
     export KESTRUNE_TRIAL_PICTURE=Z:$inside_build/screenshots/$1/kestrune.png
     (cd "$inside_making/trial" && run_qtest program tests_program.exe tst_program)
+    run_window_test tst_realground
 }
 
 # Programs of Windows that a rehearsal might start in place of its own

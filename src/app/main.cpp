@@ -3,6 +3,7 @@
 
 #include "window/kestrune.h"
 
+#include "platform/processground.h"
 #ifdef KESTRUNE_REAL_MACHINE
 #include "platform/windows/windowsplatform.h"
 #else
@@ -67,6 +68,7 @@ int main(int argc, char **argv)
 {
     constexpr int noMachine = 3;
 
+    prepareProcess();
     QApplication application(argc, argv);
     QCoreApplication::setApplicationVersion(u"0.3.14"_s);
     if (!choosePlatform())

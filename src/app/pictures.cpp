@@ -3,6 +3,7 @@
 #include "pictures.h"
 
 #include "console/programinterruption.h"
+#include "platform/processground.h"
 #include "window/kestrune.h"
 
 #include <QApplication>
@@ -74,7 +75,7 @@ int savePictures(Kestrune &window, const QStringList &pairs)
             qCritical("kestrune: %s: there is no such button", qUtf8Printable(pairs.at(i)));
             return badArguments;
         }
-        if (!window.grab().save(pairs.at(i + 1))) {
+        if (!window.grab().save(absolutePath(pairs.at(i + 1)))) {
             qCritical("kestrune: %s: can't be written", qUtf8Printable(pairs.at(i + 1)));
             return cannotWrite;
         }

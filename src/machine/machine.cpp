@@ -5,6 +5,7 @@
 
 #include "database.h"
 #include "machineschema.h"
+#include "platform/processground.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -42,7 +43,7 @@ QString databaseFile(const QString &folder)
 
 QString cleanFolder(const QString &folder)
 {
-    return QDir::cleanPath(QDir(folder).absolutePath());
+    return QDir::cleanPath(absolutePath(folder));
 }
 
 void makeFolders(const QString &folder)

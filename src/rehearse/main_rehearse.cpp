@@ -4,6 +4,7 @@
 #include "console/console.h"
 #include "console/programinterruption.h"
 #include "machine/machineerror.h"
+#include "platform/processground.h"
 #include "subcommands.h"
 
 #include <QCoreApplication>
@@ -137,6 +138,7 @@ int runAndComplain(const QStringList &words)
 
 int main(int argc, char *argv[])
 {
+    prepareProcess();
     watchForInterruption();
     const QCoreApplication application(argc, argv);
     useUtf8Output();

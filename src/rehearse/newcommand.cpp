@@ -2,6 +2,7 @@
 // kestrune-rehearse new
 
 #include "machine/source/machinesource.h"
+#include "platform/processground.h"
 #include "progress.h"
 #include "subcommands.h"
 
@@ -22,7 +23,7 @@ QString sourcesFor(const QString &from)
 {
     if (const QString builtIn = builtInFolder() + u'/' + from; !from.contains(u'/') && QFileInfo(builtIn).isDir())
         return builtIn;
-    if (!QFileInfo(from).isDir())
+    if (!QFileInfo(absolutePath(from)).isDir())
         throw Failure{ExitBadArguments, u"'%1' is neither a built-in machine nor a folder"_s.arg(from)};
     return from;
 }

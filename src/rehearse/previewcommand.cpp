@@ -71,7 +71,8 @@ struct Copies
 /** Opening would make the folder anew, and a preview without the PC's files would look right and be wrong. */
 void checkFiles(const QString &folder)
 {
-    if (QFileInfo::exists(folder + u"/machine.sqlite"_s) && !QFileInfo(folder + u"/drive_c"_s).isDir())
+    const QString place = absoluteFolder(folder);
+    if (QFileInfo::exists(place + u"/machine.sqlite"_s) && !QFileInfo(place + u"/drive_c"_s).isDir())
         throw Failure{ExitMachineUnreadable, u"%1: its files are missing: there is no folder drive_c"_s.arg(folder)};
 }
 

@@ -5,6 +5,7 @@
 
 #include "console/programinterruption.h"
 #include "machine/machine.h"
+#include "platform/processground.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -42,20 +43,20 @@ void end(QProcess &process)
 /** A saved file takes the place of what was there, and a device mustn't be replaced. */
 bool isDevice(const QString &path)
 {
-    const QFileInfo info(path);
+    const QFileInfo info(absolutePath(path));
     return info.exists() && !info.isFile() && !info.isDir();
 }
 
-void open(QFileDevice &file)
+void open(QFileDevice &file, const QString &path)
 {
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        fail(file.fileName(), file.errorString());
+        fail(path, file.errorString());
 }
 
-void write(QFileDevice &file, const QByteArray &report)
+void write(QFileDevice &file, const QString &path, const QByteArray &report)
 {
     if (file.write(report) != report.size())
-        fail(file.fileName(), file.errorString());
+        fail(path, file.errorString());
 }
 
 } // namespace
@@ -76,7 +77,7 @@ std::unique_ptr<Machine> openMachine(const QString &folder)
 
 QString absoluteFolder(const QString &folder)
 {
-    return QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
+    return QDir::cleanPath(absolutePath(folder));
 }
 
 void print(const QString &text)
@@ -107,8 +108,8 @@ void checkReportFile(const QString &path)
     // What waits for a reader would wait here already.
     if (isDevice(path))
         return;
-    QSaveFile file(path);
-    open(file);
+    QSaveFile file(absolutePath(path));
+    open(file, path);
     file.cancelWriting();
 }
 
@@ -122,14 +123,14 @@ void checkReportFiles(const QString &path)
 void writeReportFile(const QString &path, const QByteArray &report)
 {
     if (isDevice(path)) {
-        QFile device(path);
-        open(device);
-        write(device, report);
+        QFile device(absolutePath(path));
+        open(device, path);
+        write(device, path, report);
         return;
     }
-    QSaveFile file(path);
-    open(file);
-    write(file, report);
+    QSaveFile file(absolutePath(path));
+    open(file, path);
+    write(file, path, report);
     if (!file.commit())
         fail(path, file.errorString());
 }

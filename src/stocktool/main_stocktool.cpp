@@ -2,8 +2,10 @@
 // One program behind all stock tools of a rehearsal machine: it answers as the tool by whose name it is started.
 
 #include "console/console.h"
+#include "machine/environment.h"
 #include "machine/machine.h"
 #include "machinetoolhost.h"
+#include "platform/processground.h"
 #include "tools.h"
 
 #include <QCoreApplication>
@@ -51,9 +53,8 @@ ToolResult runFault(const ToolFault &fault)
 /** The machine in whose tools folder the program lies, else the one that the environment names. */
 QString machineFolder(const QString &program)
 {
-    const QFileInfo file(program);
     if (program.contains(u'/') || program.contains(u'\\')) {
-        const QString folder = QFileInfo(file.absolutePath()).path();
+        const QString folder = QFileInfo(QFileInfo(absolutePath(program)).path()).path();
         if (QFileInfo::exists(folder + u"/machine.sqlite"_s))
             return folder;
     }
@@ -63,6 +64,8 @@ QString machineFolder(const QString &program)
 int runOnMachine(const QString &program, const QStringList &arguments)
 {
     const std::unique_ptr<Machine> machine = Machine::open(machineFolder(program));
+    // In place of those that an elevated process has set for itself
+    enterEnvironment(machine->environment());
     const qint64 self = QCoreApplication::applicationPid();
     // A number that an earlier process had must not answer for this one.
     machine->dropExitCode(self);
@@ -84,6 +87,7 @@ int runOnMachine(const QString &program, const QStringList &arguments)
 
 int main(int argc, char *argv[])
 {
+    prepareProcess();
     const QCoreApplication application(argc, argv);
     useBinaryOutput();
     QStringList arguments = QCoreApplication::arguments();

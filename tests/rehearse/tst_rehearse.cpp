@@ -85,6 +85,7 @@ private Q_SLOTS:
     void keepsAreChecked();
     void importAndExport();
     void failedImportIsReportedAndChangesNothing();
+    void relativeOperandsMeanTheFolderOfTheStart();
     void diffAsJsonAndPage();
     void guiStartsTheWindowOnTheMachine();
     void guiWithoutTheProgram();
@@ -506,6 +507,43 @@ void TestRehearse::failedImportIsReportedAndChangesNothing()
     QVERIFY2(ended.errors.contains("bad.reg:4: "), ended.errors.constData());
     QCOMPARE(ended.errors.count('\n'), 1);
     QCOMPARE(work.difference(), QByteArray());
+}
+
+/** Whatever the current folder is later on. Messages name files as they were named. */
+void TestRehearse::relativeOperandsMeanTheFolderOfTheStart()
+{
+    const QTemporaryDir folder;
+    const QString current = QDir::currentPath();
+    const auto exists = [&folder](const QString &name) { return QFileInfo::exists(folder.filePath(name)); };
+    QVERIFY(QDir(folder.path()).mkpath(u"sources"_s) && QDir(folder.path()).mkpath(u"sub"_s));
+    writeFile(folder.filePath(u"sources/machine.json"_s), R"({"formatVersion": 1, "processes": ["one.exe"]})");
+    writeFile(folder.filePath(u"sub/more.json"_s), R"({"formatVersion": 1, "processes": ["two.exe"]})");
+    writeFile(folder.filePath(u"sub/broken.json"_s), "{");
+
+    QVERIFY(QDir::setCurrent(folder.path()));
+    const Ended made = rehearse({u"new"_s, u"sub/pc"_s, u"--from"_s, u"sources"_s});
+    const Ended listed = rehearse({u"list"_s, u"sub/pc"_s, u"processes"_s});
+    const Ended other = rehearse({u"new"_s, u"other"_s});
+    const Ended imported = rehearse({u"import"_s, u"other"_s, u"sub/more.json"_s});
+    const Ended broken = rehearse({u"import"_s, u"other"_s, u"sub/broken.json"_s});
+    const Ended missing = rehearse({u"import"_s, u"other"_s, u"missing.reg"_s});
+    const Ended noSources = rehearse({u"new"_s, u"third"_s, u"--from"_s, u"missing"_s});
+    const Ended compared = rehearse({u"diff"_s, u"sub/pc"_s, u"other"_s, u"--html"_s, u"sub/page.html"_s});
+    const Ended unwritten = rehearse({u"diff"_s, u"sub/pc"_s, u"other"_s, u"--html"_s, u"missing/page.html"_s});
+    const Ended previewed =
+        rehearse({u"preview"_s, u"other"_s, u"--json"_s, u"preview.json"_s, u"--undo"_s, u"sub/undo.reg"_s});
+    QVERIFY(QDir::setCurrent(current));
+
+    for (const Ended &ended : {made, listed, other, imported, compared, previewed})
+        QVERIFY2(ended.exitCode == done, ended.errors.constData());
+    QCOMPARE(listed.output, QByteArray("one.exe\n"));
+    QCOMPARE(Machine::open(folder.filePath(u"other"_s))->processes(), QStringList{u"two.exe"_s});
+    QVERIFY(exists(u"sub/page.html"_s) && exists(u"preview.json"_s) && exists(u"sub/undo.reg"_s));
+    QVERIFY2(broken.errors.startsWith("kestrune-rehearse: sub/broken.json:"), broken.errors.constData());
+    QVERIFY2(missing.errors.startsWith("kestrune-rehearse: missing.reg: "), missing.errors.constData());
+    QVERIFY2(noSources.errors.startsWith("kestrune-rehearse: 'missing' is neither"), noSources.errors.constData());
+    const QByteArray place = QDir::toNativeSeparators(u"missing/page.html"_s).toUtf8();
+    QVERIFY2(unwritten.errors.startsWith("kestrune-rehearse: " + place + ": "), unwritten.errors.constData());
 }
 
 void TestRehearse::diffAsJsonAndPage()

@@ -4,6 +4,7 @@
 #include "machineplatform.h"
 
 #include "folderwalk.h"
+#include "machine/environment.h"
 #include "machine/machineerror.h"
 #include "machine/machinekey.h"
 #include "platform/programname.h"

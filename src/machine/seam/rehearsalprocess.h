@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a rehearsal changes in the process that runs it: its environment variables, and what opens files and pages for
-// its window.
+// What opens files and pages for the window of a rehearsal.
 
 #pragma once
 
-#include <QMap>
 #include <QObject>
 #include <QUrl>
 
 class Machine;
-
-/**
- * Sets the variables in every spelling that is asked for, since names have a case on some systems, and takes away what
- * an earlier call has set. To be called before the first thread.
- */
-void enterEnvironment(const QMap<QString, QString> &variables);
 
 /**
  * The handler of file and web addresses for QDesktopServices, as long as it lives: registry scripts open, as with the

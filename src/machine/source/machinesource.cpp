@@ -5,6 +5,7 @@
 #include "console/programinterruption.h"
 #include "filechanges.h"
 #include "machine/database.h"
+#include "platform/processground.h"
 #include "toolreport.h"
 
 #include <QDir>
@@ -18,8 +19,8 @@ namespace {
 
 QByteArray readFile(const QString &path)
 {
-    QFile file(path);
-    if (QFileInfo(path).isDir())
+    QFile file(absolutePath(path));
+    if (QFileInfo(file).isDir())
         throw MachineError{u"%1: is a folder"_s.arg(path)};
     if (!file.open(QIODevice::ReadOnly))
         throw MachineError{u"%1: %2"_s.arg(path, file.errorString())};
@@ -188,15 +189,16 @@ void Import::addDll(const QString &path, const QMap<uint, QString> &strings)
 
 QStringList sourceFiles(const QString &sources)
 {
-    const QDir folder(sources);
+    const QDir folder(absolutePath(sources));
+    const QDir named(sources); // as it was given, for messages
     if (!folder.exists())
         throw MachineError{u"%1: there is no such folder"_s.arg(sources)};
     QStringList files;
     for (const QString &name : folder.entryList({u"*.reg"_s}, QDir::Files, QDir::Name))
-        files.append(folder.filePath(name));
+        files.append(named.filePath(name));
     for (const QString &name : {u"tasks.xml"_s, u"machine.json"_s}) {
         if (folder.exists(name))
-            files.append(folder.filePath(name));
+            files.append(named.filePath(name));
     }
     if (files.isEmpty())
         throw MachineError{u"%1: holds neither .reg files nor a tasks.xml nor a machine.json"_s.arg(sources)};
@@ -242,7 +244,7 @@ void moveIntoPlace(const QString &made, const QString &folder, const QString &st
 
 void makeMachine(const QString &folder, Existing existing, const std::function<void(Machine &)> &fill)
 {
-    const QString place = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
+    const QString place = QDir::cleanPath(absolutePath(folder));
     checkPlace(place, existing);
     const QString parent = QFileInfo(place).path();
     if (!QFileInfo(parent).isDir())

@@ -4,6 +4,7 @@
 
 #include "nativekey.h"
 #include "platform/programname.h"
+#include "processtoken.h"
 #include "systemfolders.h"
 #include "systemobjects.h"
 #include "wmiquery.h"
@@ -124,13 +125,7 @@ int WindowsPlatform::exitCode(qint64, int reported) const
 
 bool WindowsPlatform::isElevated() const
 {
-    HANDLE opened = nullptr;
-    if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &opened))
-        return false;
-    const Handle token(opened);
-    TOKEN_ELEVATION elevation{};
-    DWORD size = sizeof(elevation);
-    return GetTokenInformation(token.get(), TokenElevation, &elevation, size, &size) && elevation.TokenIsElevated != 0;
+    return isElevatedProcess();
 }
 
 void WindowsPlatform::shellExecute(const ShellStart &start) const

@@ -9,6 +9,8 @@
 #include "stocktool/tools.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QProcessEnvironment>
 
 #include <cstdio>
 
@@ -30,6 +32,9 @@ int main(int argc, char *argv[])
     const int number = commands->value(standInCount, 0).toInt() + 1;
     commands->setValue(QString::number(number), QStringList(name) + arguments);
     commands->setValue(standInCount, number);
+    const auto surroundings = host.openKey(standInSurroundings);
+    surroundings->setValue(name, QProcessEnvironment::systemEnvironment().toStringList());
+    surroundings->setValue(standInFolder, QDir::toNativeSeparators(QDir::currentPath()));
     std::fwrite(result.errors.constData(), 1, static_cast<std::size_t>(result.errors.size()), stderr);
     std::fwrite(result.output.constData(), 1, static_cast<std::size_t>(result.output.size()), stdout);
     return result.exitCode;

@@ -10,6 +10,9 @@ inline const QString standInStates = QStringLiteral("HKEY_CURRENT_USER\\Software
 /** How many commands were run; and one value for each, by its number from 1: the tool and its arguments. */
 inline const QString standInCommands = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Commands");
 inline const QString standInCount = QStringLiteral("Count");
+/** What the tools last saw around them: a value with all variables for each tool, and one with the current folder. */
+inline const QString standInSurroundings = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Surroundings");
+inline const QString standInFolder = QStringLiteral("CurrentFolder");
 /** One value for each scheduled task, in order: its path, a line feed and its document. */
 inline const QString standInTasks = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Tasks");
 /** One value for each option of the boot configuration. */

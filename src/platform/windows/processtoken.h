@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Who this process is, by its token.
+
+#pragma once
+
+#include <QString>
+
+/** False where the token can't be read. */
+bool isElevatedProcess();
+
+/** An account as names of it are shown: "DOMAIN\user" without the backslash between them. */
+struct Account
+{
+    QString domain;
+    QString name;
+};
+
+/** The user of this process; empty where the system doesn't know. */
+Account userOfProcess();
