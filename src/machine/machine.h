@@ -133,6 +133,10 @@ public:
     void setSecurity(const QString &windowsPath, const FileSecurity &security);
     QMap<QString, FileSecurity> changedSecurity() const;
 
+    /** Whether a program lacks a valid signature of Microsoft's, which all have of which nothing else is said. */
+    bool isUnsigned(const QString &windowsPath) const;
+    void setUnsigned(const QString &windowsPath, bool isUnsigned);
+
     /** Options of the boot configuration by their lower-case name ("useplatformclock"); those with a value. */
     QMap<QString, QString> bootOptions() const;
     /** Nothing: takes the option out of the configuration. */
@@ -185,6 +189,7 @@ private:
     Machine(const QString &folder, std::unique_ptr<Database> database);
     Location locate(const QString &path) const;
     QString placeOf(const QString &windowsPath) const;
+    QStringList unsignedPrograms() const;
     QString pathKey(const QString &path) const;
     QStringView belowDriveC(const QString &hostPath) const;
     quint32 attributeWord(const QString &path, bool isFolder) const;

@@ -5,6 +5,9 @@
 
 #include "database.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
 FileSecurity Machine::security(const QString &windowsPath) const
 {
     auto query = database_->query("SELECT owner, rights FROM filesecurity WHERE fold = ?");
@@ -37,6 +40,35 @@ QMap<QString, FileSecurity> Machine::changedSecurity() const
     while (query.next())
         files.insert(query.text(0), {query.text(1), query.text(2)});
     return files;
+}
+
+/** By the keys of their paths. */
+QStringList Machine::unsignedPrograms() const
+{
+    auto query = database_->query("SELECT value FROM meta WHERE name = 'unsigned'");
+    if (!query.next())
+        return {};
+    QStringList keys;
+    for (const QJsonValue key : QJsonDocument::fromJson(query.text(0).toUtf8()).array())
+        keys.append(key.toString());
+    return keys;
+}
+
+bool Machine::isUnsigned(const QString &windowsPath) const
+{
+    return unsignedPrograms().contains(pathKey(windowsPath));
+}
+
+void Machine::setUnsigned(const QString &windowsPath, bool isUnsigned)
+{
+    Database::Transaction transaction(*database_);
+    QStringList programs = unsignedPrograms();
+    programs.removeAll(pathKey(windowsPath));
+    if (isUnsigned)
+        programs.append(pathKey(windowsPath));
+    const QByteArray text = QJsonDocument(QJsonArray::fromStringList(programs)).toJson(QJsonDocument::Compact);
+    database_->query("INSERT OR REPLACE INTO meta VALUES ('unsigned', ?)").bind(QString::fromUtf8(text)).run();
+    transaction.commit();
 }
 
 QMap<QString, QString> Machine::bootOptions() const

@@ -24,6 +24,10 @@ public:
     quint32 fileAttributes(const QString &file) const override { return inner_->fileAttributes(file); }
     void setFileAttributes(const QString &file, quint32 word) const override { inner_->setFileAttributes(file, word); }
     QString programFile(const QString &program) const override { return inner_->programFile(program); }
+    std::optional<AdmittedProgram> admitProgram(const QString &program) const override
+    {
+        return inner_->admitProgram(program);
+    }
     int exitCode(qint64 processId, int reported) const override { return inner_->exitCode(processId, reported); }
     bool isElevated() const override { return inner_->isElevated(); }
     void shellExecute(const ShellStart &start) const override { inner_->shellExecute(start); }

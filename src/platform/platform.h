@@ -70,6 +70,13 @@ struct RootDrive
     quint64 freeBytes = 0; ///< 0 also where it can't be told
 };
 
+/** A program that this process may start. */
+struct AdmittedProgram
+{
+    QString file;                 ///< what to start: where it lies, whatever links led there
+    std::shared_ptr<void> hold{}; ///< nobody changes the file as long as this is there: keep it until the program ends
+};
+
 class Platform
 {
 public:
@@ -114,6 +121,13 @@ public:
     /** The file to start for a program name, a path, or a path in double quotes; empty where there is no such program.
      */
     virtual QString programFile(const QString &program) const = 0;
+    /**
+     * Whether this process may start a program, named as for programFile(), which finds it. An elevated process starts
+     * what lies in the system's own folders, where only an administrator puts something, and otherwise what is signed
+     * by Microsoft: what a user's registry and folders name any program of his can have put there. Nothing where it may
+     * not be started.
+     */
+    virtual std::optional<AdmittedProgram> admitProgram(const QString &program) const = 0;
     /**
      * The 32-bit exit code of a process of this program that has ended by itself.
      * @param reported what QProcess says of it, which some systems cut to 8 bits

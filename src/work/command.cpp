@@ -28,6 +28,7 @@ void Command::start(const QString &program, const QStringList &arguments)
     failedToStart_ = false;
     ended_ = false;
     timedOut_ = false;
+    refused_ = false;
     exitCode_.reset();
 
     const QString file = platform().programFile(program);
@@ -36,7 +37,12 @@ void Command::start(const QString &program, const QStringList &arguments)
         startError_ = u"Process failed to start: The system cannot find the file specified."_s;
         return;
     }
-    process_.start(file, arguments, QIODevice::ReadWrite);
+    const std::optional<AdmittedProgram> admitted = platform().admitProgram(program);
+    refused_ = !admitted;
+    if (refused_)
+        return;
+    hold_ = admitted->hold;
+    process_.start(admitted->file, arguments, QIODevice::ReadWrite);
     // Elsewhere than on Windows a failed start shows only now.
     failedToStart_ = !process_.waitForStarted();
     startError_ = process_.errorString();
@@ -47,9 +53,9 @@ QString Command::errorString() const
 {
     if (failedToStart_)
         return startError_;
-    // A slice of a wait that passes is no error of the command.
+    // A slice of a wait that passes is no error of the command; one that was refused is like one that refused its work.
     const bool sliceAlone = process_.error() == QProcess::Timedout && !timedOut_;
-    return sliceAlone ? QIODevice::tr("Unknown error") : process_.errorString();
+    return sliceAlone || refused_ ? QIODevice::tr("Unknown error") : process_.errorString();
 }
 
 template<typename Wait>
@@ -79,6 +85,8 @@ QByteArray Command::readAllStandardOutput()
 
 int Command::exitCode() const
 {
+    if (refused_)
+        return accessDenied;
     if (ended_)
         return endedByForce;
     if (failedToStart_ || processId_ == 0 || process_.state() != QProcess::NotRunning)
@@ -96,6 +104,7 @@ void Command::close()
         ended_ = true;
     }
     process_.close();
+    hold_.reset();
 }
 
 int runTool(const QString &program, const QStringList &arguments)

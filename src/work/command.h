@@ -7,6 +7,8 @@
 #include <QStringList>
 
 #include <atomic>
+#include <memory>
+#include <optional>
 
 /**
  * A stock tool that is started and waited for. It gives the answers that QProcess gives on Windows, on every system:
@@ -22,6 +24,9 @@ public:
     static inline std::atomic<int> timeLimit = 30000;
     /** What a program reads as that had to be ended. */
     static constexpr int endedByForce = 0xf291;
+
+    /** What a program reads as that may not be started, which is the system's own number for a refusal. */
+    static constexpr int accessDenied = 5;
 
     Command() = default;
     ~Command();
@@ -55,6 +60,8 @@ private:
     QString startError_; ///< why it failed to start
     bool ended_ = false;
     bool timedOut_ = false;
+    bool refused_ = false;
+    std::shared_ptr<void> hold_; ///< of the program's file
     mutable std::optional<int> exitCode_;
 };
 

@@ -194,6 +194,7 @@ void TestMachineSource::malformedJsonIsToldWithItsPlace_data()
     QTest::newRow("size under text") << json(R"("files": [{ "path": "C:\\x", "size": 1, "text": "ab" }])") << u": files[0].size: must be at least 2"_s;
     QTest::newRow("file key")        << json(R"("files": [{ "path": "C:\\x", "colour": 1 }])") << u": files[0].colour: unknown key"_s;
     QTest::newRow("attribute")       << json(R"("files": [{ "path": "C:\\x", "attributes": ["hidden", "blue"] }])") << u": files[0].attributes[1]: unknown attribute \"blue\""_s;
+    QTest::newRow("signed")          << json(R"("files": [{ "path": "C:\\x", "signed": "no" }])") << u": files[0].signed: must be true or false"_s;
     QTest::newRow("folder")          << json(R"("files": [{ "path": "C:\\x\\", "size": 1 }])") << u": files[0]: a folder has neither text nor size"_s;
     QTest::newRow("string number")   << json(R"("dlls": { "C:\\a.dll": { "x": "y" } })") << u": dlls.C:\\a.dll.x: not the number of a string"_s;
     QTest::newRow("string")          << json(R"("dlls": { "C:\\a.dll": { "1": 2 } })") << u": dlls.C:\\a.dll.1: must be a text"_s;
@@ -301,6 +302,8 @@ void TestMachineSource::importSetsWhatItNamesAndLeavesTheRest()
     const QString file = machine.beside(u"more.json"_s);
     writeFile(file, json(R"("environment": { "WINDIR": "D:\\W", "New": "1" }, "running": ["Appinfo"],
                             "files": [{ "path": "C:\\users\\PUBLIC\\Notes.txt", "text": "changed" },
+                                      { "path": "C:\\Boxes\\setup.exe", "signed": false },
+                                      { "path": "C:\\Boxes\\other.exe", "signed": true },
                                       { "path": "C:\\Boxes\\Empty\\", "attributes": ["hidden"] }],
                             "faults": { "sc": { "exitCode": 5 } })"));
     importFile(*machine, file);
@@ -319,6 +322,12 @@ void TestMachineSource::importSetsWhatItNamesAndLeavesTheRest()
     const std::optional<ToolFault> fault = machine->fault(u"sc"_s);
     QVERIFY(fault);
     QCOMPARE(fault->exitCode, std::optional(5));
+    QVERIFY(machine->isUnsigned(u"c:\\boxes\\SETUP.exe"_s));
+    QVERIFY(!machine->isUnsigned(u"C:\\Boxes\\other.exe"_s));
+    QVERIFY(!machine->isUnsigned(u"C:\\Windows\\System32\\OneDriveSetup.exe"_s));
+    const QString copy = machine.beside(u"copy"_s);
+    copyMachine(*machine, copy);
+    QVERIFY(Machine::open(copy)->isUnsigned(u"C:\\Boxes\\setup.exe"_s));
     // An empty fault is an end to the fault.
     writeFile(file, json(R"("faults": { "sc": {} })"));
     importFile(*machine, file);

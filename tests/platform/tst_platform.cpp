@@ -62,6 +62,7 @@ private Q_SLOTS:
     void programFiles_data();
     void programFiles();
     void aProgramThatIsMissingByAFault();
+    void unsignedProgramsAreNotForElevatedProcesses();
     void programsNeverComeFromTheHost();
     void exitCodesHave32Bits();
     void foldersOfTheProgram();
@@ -358,6 +359,32 @@ void TestPlatform::aProgramThatIsMissingByAFault()
     fault.exitCode = 5; // fails, but is there
     contract_->machine().setFault(u"sc"_s, fault);
     QVERIFY(!platform().programFile(u"sc"_s).isEmpty());
+}
+
+void TestPlatform::unsignedProgramsAreNotForElevatedProcesses()
+{
+    const QString setup = u"C:\\Users\\Test\\OneDriveSetup.exe"_s;
+    writeFile(drive() + u"/Users/Test/OneDriveSetup.exe"_s, "");
+    contract_->machine().setUnsigned(setup, true);
+    for (const bool elevated : {true, false}) {
+        MachineOptions options;
+        options.stockTool = QCoreApplication::applicationFilePath();
+        options.elevated = elevated;
+        contract_->restart(options);
+        for (const QString &spelling :
+             {setup, u'"' + setup + u'"', setup.toUpper(), u"C:/Users/Test/OneDriveSetup.exe"_s}) {
+            QVERIFY(!platform().programFile(spelling).isEmpty());
+            QCOMPARE(platform().admitProgram(spelling).has_value(), !elevated);
+        }
+        const std::optional<AdmittedProgram> sc = platform().admitProgram(u"sc"_s);
+        QVERIFY(sc);
+        QCOMPARE(sc->file, platform().programFile(u"sc"_s));
+    }
+    contract_->machine().setUnsigned(setup, false);
+    MachineOptions options;
+    options.stockTool = QCoreApplication::applicationFilePath();
+    contract_->restart(options);
+    QCOMPARE(platform().admitProgram(setup)->file, platform().programFile(setup));
 }
 
 void TestPlatform::programsNeverComeFromTheHost()

@@ -176,8 +176,10 @@ void TestRealLists::packagesGoAndComeBack()
     QCOMPARE(driver_->checkedIn(table), listed);
     takePicture(u"packages"_s);
 
-    // Three go.
+    // Three are to go. Outside the system's folders a setup must be signed by Microsoft, and a stand-in isn't.
     const QStringList chosen{u"MS OneDrive"_s, u"Microsoft.BingNews"_s, u"Microsoft.BingWeather"_s};
+    const bool admitted = isWindows11Pc();
+    const QStringList gone = admitted ? chosen : chosen.mid(1);
     keepOnlyChecked(*driver_, table, chosen);
     forgetCommands();
     const Boxes noBox;
@@ -188,25 +190,26 @@ void TestRealLists::packagesGoAndComeBack()
     for (const QString &name : driver_->checkedIn(table).mid(0, driver_->checkedIn(table).size() - 1))
         commands.append({u"-Command"_s, u"Get-AppxPackage"_s, name, u"| Remove-AppxPackage"_s});
     QCOMPARE(commandsOf(u"powershell"_s), commands);
-    QCOMPARE(commandsOf(u"onedrivesetup"_s), QList<QStringList>(1, {u"/uninstall"_s}));
-    QCOMPARE(sorted(recordedNames(u"Packages"_s)), chosen);
-    QVERIFY(valuesOf(uninstallKey).isEmpty() && !valuesOf(userRunKey).contains(u"OneDrive"_s));
-    QVERIFY(!QFile::exists(oneDriveHome() + u"OneDrive.exe"_s));
+    QCOMPARE(commandsOf(u"onedrivesetup"_s), QList<QStringList>(admitted ? 1 : 0, {u"/uninstall"_s}));
+    QCOMPARE(sorted(recordedNames(u"Packages"_s)), gone);
+    QCOMPARE(valuesOf(uninstallKey).isEmpty(), admitted);
+    QCOMPARE(valuesOf(userRunKey).contains(u"OneDrive"_s), !admitted);
+    QCOMPARE(QFile::exists(oneDriveHome() + u"OneDrive.exe"_s), !admitted);
     for (const auto &[path, value] : valuesOf(repositoryKey).asKeyValueRange())
         QVERIFY2(!path.startsWith("Microsoft.BingNews_"_L1) && !path.startsWith("Microsoft.BingWeather_"_L1),
                  qPrintable(path));
     QVERIFY(driver_->openPackages());
     QStringList left = listed;
-    for (const QString &name : chosen)
+    for (const QString &name : gone)
         left.removeAll(name);
     QCOMPARE(driver_->column(table, 0), left);
 
     // They are seen among what is gone, and brought back.
     forgetCommands();
     driver_->click(u"btnPackagesViewDisabled"_s);
-    QCOMPARE(driver_->column(table, 0), chosen);
+    QCOMPARE(driver_->column(table, 0), gone);
     takePicture(u"packages-uninstalled"_s);
-    for (const QString &name : chosen)
+    for (const QString &name : gone)
         WindowDriver::clickCheckBox(driver_->table(table), driver_->firstCell(table, name));
     driver_->click(u"btnPackagesUninst"_s);
     QVERIFY(waitForPackageJob(*driver_));
@@ -216,7 +219,7 @@ void TestRealLists::packagesGoAndComeBack()
     for (const QString &name : {chosen.at(1), chosen.at(2)})
         commands.append({u"-Command"_s, u"Get-AppxPackage"_s, u"-allusers"_s, name, registration});
     QCOMPARE(commandsOf(u"powershell"_s), commands);
-    QCOMPARE(commandsOf(u"onedrivesetup"_s), QList<QStringList>(1, {u"/silent"_s}));
+    QCOMPARE(commandsOf(u"onedrivesetup"_s), QList<QStringList>(admitted ? 1 : 0, {u"/silent"_s}));
     QCOMPARE(recordedNames(u"Packages"_s), QStringList());
     QCOMPARE(state(), before);
     driver_->click(u"btnPackagesViewDisabled"_s);

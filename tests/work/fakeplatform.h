@@ -38,6 +38,10 @@ public:
     quint32 fileAttributes(const QString &) const override { return invalidAttributes; }
     void setFileAttributes(const QString &, quint32) const override {}
     QString programFile(const QString &) const override { return {}; }
+    std::optional<AdmittedProgram> admitProgram(const QString &program) const override
+    {
+        return AdmittedProgram{program, {}};
+    }
     int exitCode(qint64, int reported) const override { return reported; }
     bool isElevated() const override { return true; }
     void shellExecute(const ShellStart &) const override {}

@@ -75,6 +75,8 @@ private Q_SLOTS:
     void installationOfOneDriveWithoutSetupCountsAsDone();
     void failingSetupOfOneDriveIsAnError_data();
     void failingSetupOfOneDriveIsAnError();
+    void unsignedUninstallerIsRefused_data();
+    void unsignedUninstallerIsRefused();
     void startUpValueGoesWithTwoPackages_data();
     void startUpValueGoesWithTwoPackages();
 
@@ -285,6 +287,43 @@ void TestPackageState::failingSetupOfOneDriveIsAnError()
     JobLines lines(worker);
     QCOMPARE(worker.PackageSetState({row(u"MS OneDrive"_s, systemsSetup)}, install), -2147219823);
     QCOMPARE(lines.all().first(), pageLine(install, u"package: MS OneDrive: error"_s));
+}
+
+void TestPackageState::unsignedUninstallerIsRefused_data()
+{
+    QTest::addColumn<bool>("optimize");
+    QTest::addColumn<bool>("elevated");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("page") << false << true << pageLine(false, u"package: MS OneDrive: error"_s);
+    QTest::newRow("optimize") << true << true << automatizerLine(u"ERROR uninstall MS OneDrive: Unknown error"_s);
+    // With the user's own rights it is the user's affair.
+    QTest::newRow("not elevated") << false << false << pageLine(false, u"package: MS OneDrive: done"_s);
+}
+
+/** Any program of the user can put it there, and name it in the registry. */
+void TestPackageState::unsignedUninstallerIsRefused()
+{
+    QFETCH(const bool, optimize);
+    QFETCH(const bool, elevated);
+    QFETCH(const QString, line);
+    const QString program = u"C:\\Users\\Test User\\One Drive\\OneDriveSetup.exe"_s;
+    MachineOptions options;
+    options.elevated = elevated;
+    TestMachine machine(TestMachine::Windows::Eleven, options);
+    machine.addFile(program);
+    machine.machine().setFault(u"onedrivesetup"_s, {.exitCode = 0});
+    machine.machine().setUnsigned(u"c:/users/test user/One Drive/onedrivesetup.exe"_s, true);
+    WorkThread worker;
+    worker.optimizeRunning = optimize ? 1 : 0;
+    JobLines lines(worker);
+    QCOMPARE(worker.PackageSetState({row(u"MS OneDrive"_s, program)}, false), elevated ? 5 : 0);
+    QCOMPARE(lines.all().first(), line);
+    QCOMPARE(machine.commands().size(), elevated ? 0 : 1);
+    QCOMPARE(machine.platform().takePauses(), QList<int>{300});
+    QCOMPARE(machine.names(packageRecordsKey), QStringList());
+
+    machine.machine().setUnsigned(program, false);
+    QCOMPARE(worker.PackageSetState({row(u"MS OneDrive"_s, program)}, false), 0);
 }
 
 void TestPackageState::startUpValueGoesWithTwoPackages_data()

@@ -159,6 +159,14 @@ QString MachinePlatform::resolvedProgram(const QString &program) const
     return QFileInfo(file).isFile() ? file : QString();
 }
 
+std::optional<AdmittedProgram> MachinePlatform::admitProgram(const QString &program) const
+{
+    const QString path = withoutQuotes(program);
+    if (options_.elevated && !isBareName(path) && guarded(true, [&] { return machine_->isUnsigned(path); }))
+        return {};
+    return AdmittedProgram{programFile(program), {}};
+}
+
 int MachinePlatform::exitCode(qint64 processId, int reported) const
 {
     return guarded(reported, [&] { return machine_->takeExitCode(processId).value_or(reported); });

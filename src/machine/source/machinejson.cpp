@@ -208,7 +208,8 @@ QString MachineJsonParser::windowsPath(const QString &path, const QString &key) 
 
 FileDescription MachineJsonParser::file(const QJsonValue &value, const QString &key) const
 {
-    static constexpr std::array known{"path"_L1, "size"_L1, "text"_L1, "attributes"_L1, "owner"_L1, "rights"_L1};
+    static constexpr std::array known{"path"_L1,  "size"_L1,   "text"_L1,  "attributes"_L1,
+                                      "owner"_L1, "rights"_L1, "signed"_L1};
 
     const QJsonObject entry = read_.object(value, key);
     read_.checkKeys(entry, key, known);
@@ -234,6 +235,8 @@ FileDescription MachineJsonParser::file(const QJsonValue &value, const QString &
         };
         file.security = FileSecurity{text(u"owner"_s), text(u"rights"_s)};
     }
+    if (entry.contains("signed"_L1))
+        file.isSigned = read_.boolean(entry.value("signed"_L1), keyBelow(key, u"signed"_s));
     return file;
 }
 

@@ -16,6 +16,7 @@ struct FileDescription
     std::optional<QByteArray> content;
     std::optional<quint32> attributes; ///< the whole attribute word
     std::optional<FileSecurity> security{};
+    std::optional<bool> isSigned{}; ///< see Machine::isUnsigned
 };
 
 /** What a machine.json says; a part that it doesn't name is empty. */

@@ -160,6 +160,8 @@ void Import::apply(const QList<FileDescription> &files)
             machine_.setAttributes(file.path, *file.attributes);
         if (file.security)
             machine_.setSecurity(file.path, *file.security);
+        if (file.isSigned)
+            machine_.setUnsigned(file.path, !*file.isSigned);
     }
 }
 

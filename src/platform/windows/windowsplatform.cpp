@@ -2,9 +2,11 @@
 
 #include "windowsplatform.h"
 
+#include "heldfile.h"
 #include "nativekey.h"
 #include "platform/programname.h"
 #include "processtoken.h"
+#include "signature.h"
 #include "systemfolders.h"
 #include "systemobjects.h"
 #include "wmiquery.h"
@@ -56,6 +58,20 @@ bool isFullPath(const QString &path)
 {
     const auto isSeparator = [&path](qsizetype at) { return path.at(at) == u'\\' || path.at(at) == u'/'; };
     return path.size() > 2 && ((path.at(1) == u':' && isSeparator(2)) || (isSeparator(0) && isSeparator(1)));
+}
+
+/** Whether a file lies in a folder that only the system's installers write to, as the stock tools do. */
+bool isOfTheSystem(const QString &place)
+{
+    const qsizetype end = place.lastIndexOf(u'\\');
+    // Behind a colon there would be a stream of a folder, which others may well write.
+    if (end < 0 || place.indexOf(u':', end) >= 0)
+        return false;
+    for (const QString &folder : {systemFolder(), systemFolder32(), powerShellFolder()}) {
+        if (place.first(end).compare(placeOfFile(folder), Qt::CaseInsensitive) == 0)
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -116,6 +132,19 @@ QString WindowsPlatform::programFile(const QString &program) const
             return file;
     }
     return {};
+}
+
+std::optional<AdmittedProgram> WindowsPlatform::admitProgram(const QString &program) const
+{
+    const QString file = programFile(program);
+    if (!isElevated())
+        return AdmittedProgram{file, {}};
+    if (const QString place = placeOfFile(file); isOfTheSystem(place))
+        return AdmittedProgram{place, {}};
+    const auto held = std::make_shared<HeldFile>(file);
+    if (held->place().isEmpty() || !isSignedByMicrosoft(*held))
+        return {};
+    return AdmittedProgram{held->place(), held};
 }
 
 int WindowsPlatform::exitCode(qint64, int reported) const
