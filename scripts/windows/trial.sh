@@ -63,7 +63,7 @@ lay_trial_folder() {
     local folder=$inside_making/trial program
     rm -rf "$folder"
     mkdir -p "$folder"
-    for program in kestrune tests_program tests_trial marker; do
+    for program in kestrune tests_program tests_trial marker started; do
         cp -l "$inside_build/bin/$program.exe" "$folder/" 2>/dev/null || cp "$inside_build/bin/$program.exe" "$folder/"
     done
     cp -r "$inside_build"/bin/{img,machines,Translations} "$folder/"
@@ -138,6 +138,18 @@ run_program() {
     export KESTRUNE_TRIAL_PICTURE=Z:$inside_build/screenshots/$1/kestrune.png
     (cd "$inside_making/trial" && run_qtest program tests_program.exe tst_program)
     run_window_test tst_realground
+    # A registry editor that asks nobody
+    cp --remove-destination "$inside_build/bin/started.exe" "$WINEPREFIX/drive_c/windows/regedit.exe"
+    prefer_files_to_wines regedit
+    restart_desktop
+    run_window_test tst_reallinks
+}
+
+# The desktop that Wine starts with a new prefix is there before the service that hands out what programs ask it by.
+restart_desktop() {
+    wineserver -k || true
+    wineserver -w
+    quietly rpcss 60 wine net start rpcss
 }
 
 # Programs of Windows that a rehearsal might start in place of its own

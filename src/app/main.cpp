@@ -5,6 +5,7 @@
 
 #include "platform/processground.h"
 #ifdef KESTRUNE_REAL_MACHINE
+#include "linkopener.h"
 #include "platform/windows/windowsplatform.h"
 #else
 #include "machine/seam/machineplatform.h"
@@ -76,6 +77,8 @@ int main(int argc, char **argv)
 #ifndef KESTRUNE_REAL_MACHINE
     if (isForPictures())
         return takePictures(QCoreApplication::arguments().sliced(2));
+#else
+    const auto links = platform().isElevated() ? std::make_unique<LinkOpener>() : nullptr;
 #endif
 
     Kestrune window;

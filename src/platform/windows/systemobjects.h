@@ -25,23 +25,3 @@ inline Handle validHandle(HANDLE handle)
 {
     return Handle(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
 }
-
-template<typename Interface>
-class ComPointer
-{
-public:
-    ComPointer() = default;
-    ~ComPointer()
-    {
-        if (object_)
-            object_->Release();
-    }
-    Q_DISABLE_COPY_MOVE(ComPointer)
-
-    Interface **receive() { return &object_; }
-    Interface *get() const { return object_; }
-    Interface *operator->() const { return object_; }
-
-private:
-    Interface *object_ = nullptr;
-};

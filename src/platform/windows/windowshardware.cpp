@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The real Windows behind the seam: its hardware, and how busy it is.
 
-#include "systemobjects.h"
+#include "comobjects.h"
 #include "windowsplatform.h"
 
 #include <QStorageInfo>

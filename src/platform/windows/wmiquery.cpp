@@ -2,7 +2,7 @@
 
 #include "wmiquery.h"
 
-#include "systemobjects.h"
+#include "comobjects.h"
 
 #include <wbemidl.h>
 
@@ -30,24 +30,6 @@ public:
 
 private:
     HRESULT result_;
-};
-
-class ComText
-{
-public:
-    explicit ComText(const QString &text)
-        : text_(SysAllocStringLen(reinterpret_cast<const OLECHAR *>(text.utf16()), static_cast<UINT>(text.size())))
-    {
-        if (!text_)
-            qFatal("out of memory");
-    }
-    ~ComText() { SysFreeString(text_); }
-    Q_DISABLE_COPY_MOVE(ComText)
-
-    BSTR get() const { return text_; }
-
-private:
-    BSTR text_;
 };
 
 /** The text of a property, or the first 32 bits of anything else as a signed number. */

@@ -22,6 +22,9 @@ inline const QString standInSecurity = QStringLiteral("HKEY_CURRENT_USER\\Softwa
 /** The value "Names": the names of the processes. */
 inline const QString standInProcesses = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Processes");
 
+/** Rights and arguments of programs of the tests that somebody started, each by its name. */
+inline const QString startedPrograms = QStringLiteral("HKEY_CURRENT_USER\\Software\\KestruneTest\\Started");
+
 /** The name of a task's value, with zeros in front, which keep the order where names are sorted. */
 inline QString standInTaskName(qsizetype place)
 {
