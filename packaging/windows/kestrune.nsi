@@ -1,6 +1,7 @@
 ; SPDX-License-Identifier: GPL-3.0-or-later
 ; The installer: for one user without administrator rights, or for all users of the PC.
-; makensis -DVERSION=… -DFILES=folder -DICON=file -DOUTPUT=file kestrune.nsi
+; makensis -DVERSION=… -DFILES=folder -DREMOVAL=file -DICON=file -DOUTPUT=file kestrune.nsi
+; The file of REMOVAL has a Delete for each packed file, and an RMDir for each folder: nothing else that lies there goes.
 ; Silent: setup.exe /S /CurrentUser or /AllUsers, with /NOREHEARSE to leave the rehearsal PCs out; uninstall.exe /S, with
 ; /PURGE to take settings and backups too.
 
@@ -40,7 +41,9 @@ VIAddVersionKey "LegalCopyright" "GNU General Public License, version 3 or later
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
 !define MUI_ABORTWARNING
-!define MUI_FINISHPAGE_RUN "$INSTDIR\kestrune.exe"
+; By the desktop: the program must not get the administrator rights of its installer.
+!define MUI_FINISHPAGE_RUN "$WINDIR\explorer.exe"
+!define MUI_FINISHPAGE_RUN_PARAMETERS "$\"$INSTDIR\kestrune.exe$\""
 !insertmacro MULTIUSER_PAGE_INSTALLMODE
 !insertmacro MUI_PAGE_COMPONENTS
 !insertmacro MUI_PAGE_DIRECTORY
@@ -106,23 +109,7 @@ FunctionEnd
 
 Section "un.Kestrune"
     SectionIn RO
-    Delete "$INSTDIR\kestrune.exe"
-    Delete "$INSTDIR\LICENSE.txt"
-    Delete "$INSTDIR\README.txt"
-    RMDir /r "$INSTDIR\img"
-    RMDir /r "$INSTDIR\Translations"
-    ; By their names, for a rehearsal PC that somebody made among them stays.
-    Delete "$INSTDIR\rehearse\kestrune-rehearse.exe"
-    Delete "$INSTDIR\rehearse\kestrune-rehearsal.exe"
-    Delete "$INSTDIR\rehearse\kestrune-stocktool.exe"
-    Delete "$INSTDIR\rehearse\LICENSE.txt"
-    Delete "$INSTDIR\rehearse\README.txt"
-    RMDir /r "$INSTDIR\rehearse\img"
-    RMDir /r "$INSTDIR\rehearse\Translations"
-    RMDir /r "$INSTDIR\rehearse\machines\windows10"
-    RMDir /r "$INSTDIR\rehearse\machines\windows11"
-    RMDir "$INSTDIR\rehearse\machines"
-    RMDir "$INSTDIR\rehearse"
+    !include "${REMOVAL}"
     Delete "$SMPROGRAMS\Kestrune.lnk"
     DeleteRegKey SHCTX "${UNINSTALL_KEY}"
     Delete "$INSTDIR\uninstall.exe"
@@ -130,8 +117,10 @@ SectionEnd
 
 ; What was changed on this PC, and the way back, stays unless someone asks for its removal.
 Section /o "un.Settings and backups" SECTION_PURGE
-    RMDir /r "$INSTDIR\backup_svc"
-    RMDir /r "$INSTDIR\backup_tasks"
+    Delete "$INSTDIR\backup_svc\StartMode.reg"
+    RMDir "$INSTDIR\backup_svc"
+    Delete "$INSTDIR\backup_tasks\tasks.xml"
+    RMDir "$INSTDIR\backup_tasks"
     Delete "$INSTDIR\log.txt"
     DeleteRegKey HKCU "Software\Kestrune\Ondrevale"
     DeleteRegKey /ifempty HKCU "Software\Kestrune"

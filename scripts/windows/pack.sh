@@ -29,7 +29,8 @@ inside_pack() {
     mkdir -p "$inside_packages_folder"
     install_component kestrune "$files/kestrune"
     zip_folder "$files/kestrune" "kestrune-$version-windows-x64.zip"
-    makensis -V2 -WX -NOCD -DVERSION="$version" -DFILES="$files/kestrune" \
+    removal_of "$files/kestrune" >"$files/removal.nsh"
+    makensis -V2 -WX -NOCD -DVERSION="$version" -DFILES="$files/kestrune" -DREMOVAL="$files/removal.nsh" \
         -DICON="$inside_source/resources/icon/kestrune.ico" \
         -DOUTPUT="$inside_packages_folder/kestrune-$version-setup.exe" "$inside_source/packaging/windows/kestrune.nsi"
     rm -rf "$files"
@@ -47,6 +48,16 @@ zip_folder() {
     (
         cd "$(dirname "$1")"
         find "$(basename "$1")" -type f | LC_ALL=C sort | TZ=UTC zip -9 -X -q -@ "$inside_packages_folder/$2"
+    )
+}
+
+# removal_of FOLDER: what takes its files away on a PC, and the folders that are empty then
+removal_of() {
+    (
+        cd "$1"
+        ! find . -name '*[$"`]*' | grep . >&2 || fail "a packed file has a name that the installer would misread"
+        find . -type f -printf '%P\n' | LC_ALL=C sort | sed -e 's|/|\\|g' -e 's|.*|Delete "$INSTDIR\\&"|'
+        find . -mindepth 1 -type d -printf '%P\n' | LC_ALL=C sort -r | sed -e 's|/|\\|g' -e 's|.*|RMDir "$INSTDIR\\&"|'
     )
 }
 
@@ -68,7 +79,7 @@ write_manifests() {
 install_key() {
     {
         cd "$source_folder"
-        cat build/windows/packages/*setup.exe build/windows/bin/tests_program.exe scripts/windows/{desk,pack}.sh
+        cat build/windows/packages/*setup.exe build/windows/bin/{tests_program,started}.exe scripts/windows/{desk,pack}.sh
         cat tests/data/small/*
     } 2>/dev/null | digest
 }
@@ -82,6 +93,7 @@ install_make() {
 inside_install() {
     mkdir -p "$inside_build/screenshots"
     desk_begin win11 install
+    try_last_page
     try_installer CurrentUser HKCU
     try_installer AllUsers HKLM
     purge_installation
@@ -89,23 +101,41 @@ inside_install() {
     desk_end
 }
 
-# try_installer MODE HIVE: what people did with the program must outlive the uninstaller.
+# The program that the last page starts must not get the rights of the installer: it is handed to the desktop's own program,
+# in whose place stands one that writes down what it was given.
+try_last_page() {
+    cp --remove-destination "$inside_build/bin/started.exe" "$WINEPREFIX/drive_c/windows/explorer.exe"
+    KESTRUNE_TRIAL_SETUP=Z:$(echo "$inside_packages_folder"/kestrune-*-setup.exe)
+    export KESTRUNE_TRIAL_SETUP
+    run_qtest lastpage "$inside_build/bin/tests_program.exe" tst_setup
+}
+
+# try_installer MODE HIVE: what people did with the program, and put beside it, must outlive the uninstaller.
 try_installer() {
-    local folder=$inside_making/installed
+    local folder=$inside_making/installed place
     install_program "$1" "$2"
     try_rehearsals "$1"
     mkdir -p "$folder"/backup_{svc,tasks}
     echo kept | tee "$folder/backup_svc/StartMode.reg" >"$folder/backup_tasks/tasks.xml"
     set_value 'HKCU\Software\Kestrune\Ondrevale' lang REG_SZ en
+    find "$folder/" -type d ! -path '*/rehearse/mine/*' >"$desk_log/folders.txt"
+    while read -r place; do echo kept >"$place/mine.txt"; done <"$desk_log/folders.txt"
     uninstall_program "$2"
+    while read -r place; do
+        [[ -e $place/mine.txt ]] || fail "the uninstaller took a file of people's own from $place"
+        rm "$place/mine.txt"
+    done <"$desk_log/folders.txt"
     [[ -e $folder/backup_svc/StartMode.reg && -e $folder/backup_tasks/tasks.xml ]] ||
         fail "the uninstaller took people's backups"
     expect "the setting behind the uninstaller" "$(value 'HKCU\Software\Kestrune\Ondrevale' lang)" en
     [[ -e $inside_making/rehearsals/$1/machine.sqlite && -e $folder/rehearse/mine/machine.sqlite ]] ||
         fail "the uninstaller took people's rehearsal PCs"
     rm -rf "$folder/rehearse/mine"
-    rmdir "$folder/rehearse"
+    find "$folder/" -mindepth 1 -type d -empty -delete
+    expect "what is left of the program" "$(listing_of_files "$folder")" "$(printf '%s\n' backup_{svc/StartMode.reg,tasks/tasks.xml})"
 }
+
+listing_of_files() { find "$1/" -type f -printf '%P\n' | sort; }
 
 # try_rehearsals MODE: from the installed place, which is left as it is. The PC that was made elsewhere must outlive the
 # uninstaller, and so must one that somebody made in the program's own folder.
@@ -159,22 +189,25 @@ uninstall_program() {
         [[ -e $inside_making/installed/uninstall.exe ]] || break
         sleep 0.2
     done
-    [[ ! -e $inside_making/installed/kestrune.exe && ! -e $inside_making/installed/img ]] ||
-        fail "the uninstaller left the program"
     # Only what somebody made there
-    expect "what the uninstaller left of the rehearsals" \
-        "$(find "$inside_making/installed/rehearse/" -mindepth 1 -maxdepth 1 ! -name mine 2>/dev/null)" ''
+    expect "what the uninstaller left of the program" \
+        "$(find "$inside_making/installed/" -type f ! -name mine.txt ! -path '*/backup_*' ! -path '*/rehearse/mine/*')" ''
     expect "the uninstall entry" "$(value "$1\\$uninstall_key" InstallLocation)" ''
     [[ -z $(find "$WINEPREFIX/drive_c" -name Kestrune.lnk) ]] || fail "the uninstaller left the start menu's entry"
 }
 
-# Asked for it, the uninstaller takes everything.
+# Asked for it, the uninstaller takes all that the program wrote, too.
 purge_installation() {
+    local folder=$inside_making/installed
+    install_program CurrentUser HKCU
+    echo kept >"$folder/backup_svc/mine.txt"
+    uninstall_program HKCU /PURGE
+    expect "what the purge left" "$(listing_of_files "$folder")" backup_svc/mine.txt
+    expect "the setting behind the purge" "$(value 'HKCU\Software\Kestrune\Ondrevale' lang)" ''
+    rm -r "$folder/backup_svc"
     install_program CurrentUser HKCU
     uninstall_program HKCU /PURGE
-    [[ ! -e $inside_making/installed/backup_svc ]] || fail "the uninstaller left what it was asked to take"
-    expect "the setting behind the purge" "$(value 'HKCU\Software\Kestrune\Ondrevale' lang)" ''
-    [[ ! -e $inside_making/installed/ ]] || fail "the uninstaller left its folder"
+    [[ ! -e $folder/ ]] || fail "the uninstaller left its folder"
     rm -f "$inside_making/installed"
 }
 

@@ -2,6 +2,7 @@
 // A program as its user has it: started, seen, closed. The environment names it (KESTRUNE_TRIAL_PROGRAM) and where the
 // picture of the screen goes (KESTRUNE_TRIAL_PICTURE).
 
+#include "processwindow.h"
 #include "support/suite.h"
 
 #include <QApplication>
@@ -32,30 +33,6 @@ const wchar_t *wide(const QString &text)
 QString trialProgram()
 {
     return qEnvironmentVariable("KESTRUNE_TRIAL_PROGRAM");
-}
-
-struct WindowSearch
-{
-    DWORD process = 0;
-    HWND found = nullptr;
-};
-
-BOOL CALLBACK lookAtWindow(HWND window, LPARAM parameter)
-{
-    auto *search = reinterpret_cast<WindowSearch *>(parameter);
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (process != search->process || !IsWindowVisible(window) || GetWindowTextLengthW(window) == 0)
-        return TRUE;
-    search->found = window;
-    return FALSE;
-}
-
-HWND windowOf(const QProcess &process)
-{
-    WindowSearch search{static_cast<DWORD>(process.processId())};
-    EnumWindows(lookAtWindow, reinterpret_cast<LPARAM>(&search));
-    return search.found;
 }
 
 /** Starts a program; gives the milliseconds until its window is there, or -1. */
