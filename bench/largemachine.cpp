@@ -5,7 +5,7 @@
 #include "benchmachine.h"
 #include "machine/database.h"
 #include "machine/source/machinesource.h"
-#include "work/tasks/taskcatalogue.h"
+#include "work/tasks/tasks.h"
 
 #include <QCoreApplication>
 

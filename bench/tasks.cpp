@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reading an export of scheduled tasks, and filling their table.
 
+#include "work/tasks/tasks.h"
 #include "benchmachine.h"
 #include "window/kestrune.h"
-#include "work/tasks/tasklist.h"
 
 #include <QElapsedTimer>
 #include <QHeaderView>

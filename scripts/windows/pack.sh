@@ -127,7 +127,7 @@ try_installer() {
     done <"$desk_log/folders.txt"
     [[ -e $folder/backup_svc/StartMode.reg && -e $folder/backup_tasks/tasks.xml ]] ||
         fail "the uninstaller took people's backups"
-    expect "the setting behind the uninstaller" "$(value 'HKCU\Software\Kestrune\Ondrevale' lang)" en
+    expect "the setting after the uninstaller" "$(value 'HKCU\Software\Kestrune\Ondrevale' lang)" en
     [[ -e $inside_making/rehearsals/$1/machine.sqlite && -e $folder/rehearse/mine/machine.sqlite ]] ||
         fail "the uninstaller took people's rehearsal PCs"
     rm -rf "$folder/rehearse/mine"
@@ -150,7 +150,7 @@ try_rehearsals() {
     rehearse_installed "tour-$1" tour "Z:$machines/small" --out "Z:$machines/pictures"
     grep -q '</html>' "$machines/preview.html" || fail "the installed kestrune-rehearse wrote no preview"
     expect "the number of pictures of the tour" "$(find "$machines/pictures" -size +4k | wc -l)" 18
-    expect "the installed folder behind a rehearsal" "$(listing "$folder")" "$before"
+    expect "the installed folder after a rehearsal" "$(listing "$folder")" "$before"
     rehearse_installed "new-inside-$1" new "Z:$(readlink -f "$folder")/mine"
 }
 
@@ -203,7 +203,7 @@ purge_installation() {
     echo kept >"$folder/backup_svc/mine.txt"
     uninstall_program HKCU /PURGE
     expect "what the purge left" "$(listing_of_files "$folder")" backup_svc/mine.txt
-    expect "the setting behind the purge" "$(value 'HKCU\Software\Kestrune\Ondrevale' lang)" ''
+    expect "the setting after the purge" "$(value 'HKCU\Software\Kestrune\Ondrevale' lang)" ''
     rm -r "$folder/backup_svc"
     install_program CurrentUser HKCU
     uninstall_program HKCU /PURGE

@@ -7,7 +7,7 @@
 #include "neutralnames.h"
 #include "platform/windowsfacts.h"
 #include "readingplatform.h"
-#include "work/services/dllstrings.h"
+#include "work/services/services.h"
 
 using namespace Qt::StringLiterals;
 

@@ -67,7 +67,7 @@ struct ProcessorTimes
 struct RootDrive
 {
     QString path;          ///< "C:/"
-    quint64 freeBytes = 0; ///< 0 also where it can't be told
+    quint64 freeBytes = 0; ///< 0 also where it is unknown
 };
 
 /** A program that this process may start. */
@@ -88,9 +88,9 @@ public:
     virtual std::unique_ptr<RegistryKey> openKey(const QString &path) const = 0;
 
     /**
-     * The file on this computer behind a Windows path, with "\" or "/" between its parts. On Windows the same text; on
-     * a rehearsal machine a path below its drive, found without regard to case. A path without a drive, and a bare
-     * drive
+     * The file on this computer that a Windows path stands for, with "\" or "/" between its parts. On Windows the same
+     * text; on a rehearsal machine a path below its drive, found without regard to case. A path without a drive, and a
+     * bare drive
      * ("C:"), mean the drive's root. A file that isn't there gives the path where it would be.
      */
     virtual QString hostPath(const QString &windowsPath) const = 0;
@@ -134,14 +134,14 @@ public:
      */
     virtual int exitCode(qint64 processId, int reported) const = 0;
 
-    /** Whether this process has an elevated token; false where that can't be told. */
+    /** Whether this process has an elevated token; false where that is unknown. */
     virtual bool isElevated() const = 0;
     /** Starts a program through the shell and doesn't wait. A refusal or failure is silent. */
     virtual void shellExecute(const ShellStart &start) const = 0;
 
     /**
      * The names of the programs of the running processes, one for each process, in the system's order and spelling. A
-     * process that this one may not look into is left out, and so are all behind the first 1024.
+     * process that this one may not look into is left out, and so are all after the first 1024.
      */
     virtual QStringList processNames() const = 0;
 
@@ -153,7 +153,7 @@ public:
 
     /**
      * Whether the volume that a Windows path lies on loses time by seeking, as a disk that turns does. Nothing where
-     * that can't be told.
+     * that is unknown.
      */
     virtual std::optional<bool> seekPenalty(const QString &windowsPath) const = 0;
     /** Number of the color space of the first output of the first display adapter; nothing where a step there fails. */
@@ -163,11 +163,11 @@ public:
 
     /** The present reading; zeros where it fails. Readings never go back. */
     virtual ProcessorTimes processorTimes() const = 0;
-    /** Identifiers of the running processes, at most 1024; 0 is the idle process. Empty where they can't be told. */
+    /** Identifiers of the running processes, at most 1024; 0 is the idle process. Empty where they are unknown. */
     virtual QList<quint32> processIds() const = 0;
-    /** Threads of all processes; 0 where they can't be told. */
+    /** Threads of all processes; 0 where they are unknown. */
     virtual int threadCount() const = 0;
-    /** Physical memory that is free, in bytes; 0 where it can't be told. */
+    /** Physical memory that is free, in bytes; 0 where it is unknown. */
     virtual quint64 freeMemory() const = 0;
     /** The present figures. */
     virtual RootDrive rootDrive() const = 0;

@@ -37,6 +37,6 @@ public:
 
     /** A key by its full path, hive name first, with types and bytes as they are; in the registry's order. */
     virtual KeyContent key(const QString &path) const = 0;
-    /** The states of all services that are no drivers; nothing where they can't be told. */
+    /** The states of all services that are no drivers; nothing where they are unknown. */
     virtual std::optional<QList<ServiceReport>> serviceReports() const = 0;
 };

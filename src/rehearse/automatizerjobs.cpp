@@ -5,7 +5,7 @@
 #include "jobrunner.h"
 #include "platform/platform.h"
 #include "subcommands.h"
-#include "work/automatizer/restorelists.h"
+#include "work/automatizer/automatizer.h"
 #include "work/statusline.h"
 #include "work/tweaks/tweakrecord.h"
 

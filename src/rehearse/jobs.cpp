@@ -5,7 +5,7 @@
 #include "machine/seam/machineplatform.h"
 #include "machine/taskdocument.h"
 #include "platform/windowsfacts.h"
-#include "work/packages/packagestate.h"
+#include "work/packages/packages.h"
 #include "work/settings.h"
 #include "work/statusline.h"
 #include "work/sysinfo/systeminfo.h"

@@ -2,7 +2,7 @@
 
 #include "toollog.h"
 
-#include "work/packages/packagecatalogue.h"
+#include "work/packages/packages.h"
 
 #include <QFile>
 #include <QJsonArray>

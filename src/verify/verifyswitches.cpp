@@ -8,7 +8,7 @@
 #include "toollog.h"
 #include "verify.h"
 #include "work/autorun/autorun.h"
-#include "work/packages/packagecatalogue.h"
+#include "work/packages/packages.h"
 #include "work/settings.h"
 
 #include <QFileInfo>

@@ -5,7 +5,7 @@
 
 #include "messagebox.h"
 #include "rowtext.h"
-#include "work/automatizer/restorelists.h"
+#include "work/automatizer/automatizer.h"
 #include "work/statusline.h"
 #include "work/tweaks/tweakrecord.h"
 #include "work/windowsname.h"

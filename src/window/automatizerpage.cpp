@@ -5,7 +5,7 @@
 
 #include "elevation.h"
 #include "messagebox.h"
-#include "work/automatizer/restorelists.h"
+#include "work/automatizer/automatizer.h"
 
 void Kestrune::takeAutomatizerBoxes()
 {

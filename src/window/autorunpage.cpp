@@ -28,7 +28,7 @@ void addRow(QTableWidget *table, const QString &name, const QString &path, const
     table->setItem(index, 1, second);
 }
 
-/** The text behind the last "=" counts for nothing: rows and records have two parts. */
+/** Rows and records have two parts; what follows a second "=" is dropped. */
 struct Parts
 {
     explicit Parts(const QString &text)

@@ -23,7 +23,7 @@ QString homeDrive()
     return qEnvironmentVariable("homedrive");
 }
 
-/** Cuts a decimal number behind its first decimal; one without decimals stays. */
+/** Cuts a decimal number after its first decimal; one without decimals stays. */
 QString withOneDecimal(const QString &number)
 {
     const qsizetype point = number.indexOf(u'.');

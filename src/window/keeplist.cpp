@@ -56,7 +56,7 @@ constexpr KeepRow rows[] = {
 // clang-format on
 static_assert(std::size(rows) == 1 + keepFeatures.size());
 
-/** The worker's member behind a row; none behind the title. */
+/** The worker's member that a row stands for; the title has none. */
 std::atomic<int> *keepMember(WorkThread *worker, int row)
 {
     return row == 0 ? nullptr : &(worker->*keepFeatures[static_cast<std::size_t>(row - 1)].keep);

@@ -5,5 +5,5 @@
 
 class QStandardItemModel;
 
-/** The check list behind both combo boxes; made before main() and never deleted. */
+/** The check list of both combo boxes; made before main() and never deleted. */
 extern QStandardItemModel *const keepModel;

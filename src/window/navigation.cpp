@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The menu on the left and the pages behind it.
+// The menu on the left and the pages that it opens.
 
 #include "kestrune.h"
 

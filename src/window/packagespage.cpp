@@ -6,7 +6,7 @@
 
 #include "elevation.h"
 #include "rowtext.h"
-#include "work/packages/packagestate.h"
+#include "work/packages/packages.h"
 #include "work/settings.h"
 
 using namespace Qt::StringLiterals;

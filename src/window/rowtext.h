@@ -12,7 +12,7 @@ class QTableWidgetItem;
 /** The text, as rich text where it is long, so that a tool tip wraps it. */
 QString wrappedText(const QString &text);
 
-/** Name and description behind a colon. The one place in a row that keeps the name where the cell shows another. */
+/** The name, a colon and the description. The one place in a row that keeps the name where the cell shows another. */
 QString rowToolTip(const QString &name, const QString &description);
 
 /** The name that rowToolTip() put before its first colon. */

@@ -8,8 +8,7 @@
 #include "rowtext.h"
 #include "work/command.h"
 #include "work/keepfeatures.h"
-#include "work/services/servicecatalogue.h"
-#include "work/services/startmode.h"
+#include "work/services/services.h"
 #include "work/settings.h"
 #include "work/statusline.h"
 

@@ -8,7 +8,7 @@
 #include "rowtext.h"
 #include "work/settings.h"
 #include "work/statusline.h"
-#include "work/tasks/taskcatalogue.h"
+#include "work/tasks/tasks.h"
 
 using namespace Qt::StringLiterals;
 

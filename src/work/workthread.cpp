@@ -4,17 +4,8 @@
 
 #include "interruption.h"
 #include "platform/platform.h"
-#include "services/servicecatalogue.h"
-#include "tasks/taskcatalogue.h"
 
 using namespace Qt::StringLiterals;
-
-WorkThread::WorkThread(QObject *parent)
-    : QThread(parent)
-    , nonVitalServices(nonVitalServiceNames())
-    , nonVitalTasks(nonVitalTaskNames())
-{
-}
 
 void WorkThread::startJob(int number)
 {

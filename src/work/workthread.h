@@ -146,7 +146,7 @@ public:
     void TweakWindows(quint8 apply, quint32 id);
     /** Fills the texts of the system report, in seven steps. What isn't found keeps its earlier text. */
     void GetSystemInfo();
-    /** The text behind a registry string, which may be a reference into a DLL's string table. */
+    /** The text that a registry string stands for, which may be a reference into a DLL's string table. */
     QString ExpandResourceString(const QString &text);
     /** A string of a DLL, or "no description". */
     QString GetResourceInDll(const QString &dllPath, const QString &id);

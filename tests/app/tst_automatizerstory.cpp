@@ -25,7 +25,7 @@ class Statuses
 public:
     explicit Statuses(const WindowDriver &driver)
     {
-        // Connected behind the window, which has set its status by then.
+        // Connected after the window, which has set its status by then.
         QObject::connect(&driver.worker(), &WorkThread::automatizerValueChanged, &driver.window(), [this, &driver] {
             if (shown_.isEmpty() || shown_.constLast() != driver.status())
                 shown_.append(driver.status());

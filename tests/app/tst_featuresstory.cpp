@@ -208,7 +208,7 @@ private:
         QVERIFY(on ? QFile::rename(file, disabled) : QFile::rename(disabled, file));
     }
 
-    /** The service with its number, and with the value behind Type where there is one; empty where there is none. */
+    /** The service with its number, and with the value after Type where there is one; empty where there is none. */
     QString cloudService() const
     {
         QString last;

@@ -229,7 +229,7 @@ void TestBuiltInMachines::whatTweaksLookFor()
     QVERIFY(machine->task(u"\\Microsoft\\Windows\\CloudRestore\\Restore"_s));
     const auto service = machine->registry().find(control + u"Services\\"_s + cloudService);
     QVERIFY(service);
-    // On one of them nothing sorts behind Type, on the other something does.
+    // On one of them nothing sorts after Type, on the other something does.
     QCOMPARE(machine->registry().valueNames(*service).constLast(),
              name == u"windows11" ? u"Type"_s : u"UserServiceFlags"_s);
     QCOMPARE(machine->registry().find(control + u"Services\\Hpet"_s).has_value(), name == u"windows10");

@@ -28,7 +28,7 @@ void TestTaskDocument::switchComesAndGoes_data()
     addColumns<QString, QString>("on", "off");
 
     // clang-format off
-    QTest::newRow("behind the battery rules")
+    QTest::newRow("after the battery rules")
         << u"<Task>\n  <Settings>\n    <DisallowStartIfOnBatteries>false</DisallowStartIfOnBatteries>\n"
            "    <StopIfGoingOnBatteries>true</StopIfGoingOnBatteries>\n    <Hidden>true</Hidden>\n  </Settings>\n</Task>"_s
         << u"<Task>\n  <Settings>\n    <DisallowStartIfOnBatteries>false</DisallowStartIfOnBatteries>\n"

@@ -113,7 +113,7 @@ void TestRegistryKey::otherStartsReadDefaultsAndLoseWrites_data()
     QTest::newRow("lower case, short") << u"hkcu\\Software\\KestruneContract"_s;
     QTest::newRow("mixed case") << u"HKEY_Current_User\\Software\\KestruneContract"_s;
     QTest::newRow("no hive") << u"Software\\KestruneContract"_s;
-    QTest::newRow("slash behind the hive") << u"HKEY_CURRENT_USER/Software/KestruneContract"_s;
+    QTest::newRow("slash after the hive") << u"HKEY_CURRENT_USER/Software/KestruneContract"_s;
     QTest::newRow("longer name") << u"HKEY_CURRENT_USERS\\Software\\KestruneContract"_s;
     QTest::newRow("nothing") << QString();
 }
@@ -251,7 +251,7 @@ void TestRegistryKey::theFirstSpellingOfANameStays()
 
 void TestRegistryKey::listsAreSortedByCodeUnit()
 {
-    // U+FF21 comes behind the halves of U+1F600 by code unit, and before it by character.
+    // U+FF21 comes after the halves of U+1F600 by code unit, and before it by character.
     const QStringList sorted{u"10"_s,     u"9"_s, u"Alpha"_s,      u"Zulu"_s, u"_x"_s,
                              u"alpha2"_s, u"É"_s, u"\U0001F600"_s, u"Ａ"_s};
     for (auto name = sorted.crbegin(); name != sorted.crend(); ++name) {

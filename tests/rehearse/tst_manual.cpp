@@ -45,11 +45,11 @@ QString manual()
 /** What the manual says of a command. */
 QString sectionOf(const QString &command)
 {
-    const QString behind = manual().section(QRegularExpression(u"\\n\\.SS %1 "_s.arg(command)), 1);
-    return behind.section(QRegularExpression(u"\\n\\.S[SH] "_s), 0, 0);
+    const QString after = manual().section(QRegularExpression(u"\\n\\.SS %1 "_s.arg(command)), 1);
+    return after.section(QRegularExpression(u"\\n\\.S[SH] "_s), 0, 0);
 }
 
-/** The command lines that a text shows behind blanks. */
+/** The command lines that a text shows after blanks. */
 QStringList commandLines(const QString &text)
 {
     return caught(text, u"^ +(kestrune-rehearse .*)$"_s);

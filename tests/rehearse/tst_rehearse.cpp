@@ -405,7 +405,7 @@ void TestRehearse::runSysinfo()
     const Ended ended = rehearse({u"run"_s, work.b, u"sysinfo"_s});
     QCOMPARE(ended.exitCode, done);
     const QList<QByteArray> lines = ended.output.split('\n');
-    QCOMPARE(lines.size(), 8 + 33 + 1); // each line, each text, and nothing behind the last line break
+    QCOMPARE(lines.size(), 8 + 33 + 1); // each line, each text, and nothing after the last line break
     QCOMPARE(lines.at(0), "valueChanged\tpgr:max:7");
     QCOMPARE(lines.at(7), "valueChanged\tpgr:value:7");
     QVERIFY(lines.at(8).startsWith("winName\tWindows "));

@@ -6,7 +6,7 @@
 #include "support/automatizermachine.h"
 #include "support/rehearsing.h"
 #include "support/suite.h"
-#include "work/automatizer/restorelists.h"
+#include "work/automatizer/automatizer.h"
 #include "work/settings.h"
 
 #include <QDir>
@@ -56,7 +56,7 @@ private Q_SLOTS:
     void storedKeepStatesAreTheDefault();
     void theWalkIsRunOnlyWhenAskedFor_data();
     void theWalkIsRunOnlyWhenAskedFor();
-    void aWalkBehindRestoreTellsThePage();
+    void aWalkAfterRestoreTellsThePage();
     void differencesOfTheBuiltInMachines_data();
     void differencesOfTheBuiltInMachines();
     void theWindowsClosingStepsAreDone();
@@ -228,7 +228,7 @@ void TestRehearseAutomatizer::theWalkIsRunOnlyWhenAskedFor()
              walked);
 }
 
-void TestRehearseAutomatizer::aWalkBehindRestoreTellsThePage()
+void TestRehearseAutomatizer::aWalkAfterRestoreTellsThePage()
 {
     WalkedMachine walk;
     QCOMPARE(runOn(walk.machine, {u"optimize"_s}).exitCode, done);
@@ -279,7 +279,7 @@ void TestRehearseAutomatizer::differencesOfTheBuiltInMachines()
     for (const char *job : {"optimize", "restore"}) {
         const QString name = QString::fromLatin1(job);
         QCOMPARE(rehearse(QStringList{u"run"_s, machine, name, u"--no-features"_s} + keep).exitCode, done);
-        compareLines(differences(fresh, machine), recorded(builtIn + u"-behind-"_s + name));
+        compareLines(differences(fresh, machine), recorded(builtIn + u"-after-"_s + name));
         if (QTest::currentTestFailed())
             return;
     }
@@ -358,7 +358,7 @@ void TestRehearseAutomatizer::aKilledOptimizeLeavesNothingUnaccounted_data()
 {
     QTest::addColumn<QString>("when");
     QTest::newRow("before the tool has acted") << u"before"_s;
-    QTest::newRow("behind it, before anyone knows") << u"after"_s;
+    QTest::newRow("after it, before anyone knows") << u"after"_s;
 }
 
 void TestRehearseAutomatizer::aKilledOptimizeLeavesNothingUnaccounted()

@@ -57,7 +57,7 @@ private Q_SLOTS:
     void listNamesWin32ServicesInOrder();
     void listByState_data();
     void listByState();
-    void queryOfOneServiceHasABlankBehindItsName();
+    void queryOfOneServiceHasABlankAfterItsName();
     void queryNeedsNoElevation();
     void typesAreTold_data();
     void typesAreTold();
@@ -210,7 +210,7 @@ void TestStockTool::listByState()
     QCOMPARE(namesIn(runTool(machine, u"sc"_s, arguments).output), names);
 }
 
-void TestStockTool::queryOfOneServiceHasABlankBehindItsName()
+void TestStockTool::queryOfOneServiceHasABlankAfterItsName()
 {
     SmallMachine machine;
     const Ended ended = runTool(machine, u"sc"_s, {u"query"_s, u"diagtrack"_s});

@@ -33,7 +33,7 @@ inline QString taskElement(const ExportedTask &task)
                             "    </Exec>\r\n  </Actions>\r\n</Task>");
 }
 
-/** One document for each task, each behind a comment, as the tool prints them. */
+/** One document for each task, each after a comment, as the tool prints them. */
 inline QString listOfDocuments(const QList<ExportedTask> &tasks)
 {
     QString text;

@@ -61,7 +61,7 @@ public:
 
     /** All runs of stock tools so far. */
     QList<LoggedCommand> commands() const;
-    /** The lines of log.txt behind their date and time; empty where there is none. */
+    /** The lines of log.txt after their date and time; empty where there is none. */
     QStringList errorLog() const;
     /** Switches the error log on. */
     void logErrors();

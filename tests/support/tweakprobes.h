@@ -32,7 +32,7 @@ public:
 
     /** Lays every probe anew and forgets what ran so far. */
     void lay();
-    /** The boxes whose tweaks ran since, each with "on" or "off" behind it, in the order of their names. */
+    /** The boxes whose tweaks ran since, each with "on" or "off" after it, in the order of their names. */
     QStringList ran() const;
 
 private:

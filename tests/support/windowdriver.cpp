@@ -23,7 +23,7 @@ WindowDriver::WindowDriver()
     // A window that closes would leave the test's application in a state in which no box opens any more.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     window_->show();
-    // Connected behind the window, which has filled its table by then.
+    // Connected after the window, which has filled its table by then.
     QObject::connect(&worker(), &WorkThread::valueChanged, window_.get(), [this](const QString &line) {
         if (line.startsWith("WorkThread::"_L1) && line.endsWith("List"_L1))
             ++listings_;

@@ -59,8 +59,8 @@ private Q_SLOTS:
     void valueLineShowsTheBarAndSetsItsValue();
     void numberThatDoesNotParseSetsZero_data();
     void numberThatDoesNotParseSetsZero();
-    void headOfAPhaseStandsBehindOptimize_data();
-    void headOfAPhaseStandsBehindOptimize();
+    void headOfAPhaseStandsAfterOptimize_data();
+    void headOfAPhaseStandsAfterOptimize();
     void labelSaysOptimizeDuringRestoreToo();
     void translationChangesTheLabelAndNotTheComparison();
 
@@ -231,19 +231,19 @@ void TestAutomatizerDisplay::numberThatDoesNotParseSetsZero()
     QCOMPARE(view.status, u"untouched"_s);
 }
 
-void TestAutomatizerDisplay::headOfAPhaseStandsBehindOptimize_data()
+void TestAutomatizerDisplay::headOfAPhaseStandsAfterOptimize_data()
 {
     addColumns<QString, QString>("line", "status");
     QTest::newRow("services") << u"pgr: Services"_s << u"Optimize :  Services"_s;
     QTest::newRow("applications") << u"pgr: Windows applications"_s << u"Optimize :  Windows applications"_s;
-    QTest::newRow("nothing behind it") << u"pgr:"_s << u"Optimize : "_s;
+    QTest::newRow("nothing after it") << u"pgr:"_s << u"Optimize : "_s;
     QTest::newRow("maximum in another case") << u"pgr:Max:5"_s << u"Optimize : Max:5"_s;
     QTest::newRow("maximum without its colon") << u"pgr:max"_s << u"Optimize : max"_s;
     QTest::newRow("value with a blank") << u"pgr: value:5"_s << u"Optimize :  value:5"_s;
     QTest::newRow("closing line") << u"pgr:tweaksDone"_s << u"Optimize : tweaksDone"_s;
 }
 
-void TestAutomatizerDisplay::headOfAPhaseStandsBehindOptimize()
+void TestAutomatizerDisplay::headOfAPhaseStandsAfterOptimize()
 {
     QFETCH(const QString, line);
     const WindowOnPc driver;
@@ -596,7 +596,7 @@ void TestAutomatizerDisplay::acceptedWalkStartsWithABusyBar()
 
 void TestAutomatizerDisplay::acceptedWalkStartsThoughTheJobIsInItsLastInstructions()
 {
-    // Stands for the job behind its closing line: it isn't over yet when the line is read.
+    // Stands for the job after its closing line: it isn't over yet when the line is read.
     MachineOptions slow;
     slow.pace = 0.01;
     TestMachine machine(TestMachine::Windows::Eleven, slow);

@@ -144,7 +144,7 @@ void TestAutorunPage::programsMenuListsTheMachinesAutoruns()
 void TestAutorunPage::rowShowsNameAndCommand_data()
 {
     addColumns<QString, QString, QString, QString>("name", "data", "shownName", "shownCommand");
-    QTest::addColumn<QString>("path"); // behind the key
+    QTest::addColumn<QString>("path"); // after the key
     const auto row = [](const char *title, const QString &name, const QString &data, const QString &shownName,
                         const QString &shownCommand, const QString &path) {
         QTest::newRow(title) << name << data << shownName << shownCommand << path;
@@ -599,7 +599,7 @@ void TestAutorunPage::commandThatCannotComeBackIsDropped_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("no quotes") << program;
     QTest::newRow("program is gone") << u"\"C:\\gone.exe\" -x"_s;
-    QTest::newRow("quotes behind the program") << program + u" \"x\""_s;
+    QTest::newRow("quotes after the program") << program + u" \"x\""_s;
     QTest::newRow("nothing in the quotes") << u"\"\" "_s + program;
     QTest::newRow("empty") << QString();
 }

@@ -47,8 +47,8 @@ private Q_SLOTS:
     void valueLineShowsTheBarAndLeavesItsDigitInTheStatus();
     void numberThatDoesNotParseSetsZero_data();
     void numberThatDoesNotParseSetsZero();
-    void nameStandsBehindItsLabel_data() { jobs(); }
-    void nameStandsBehindItsLabel();
+    void nameStandsAfterItsLabel_data() { jobs(); }
+    void nameStandsAfterItsLabel();
     void unknownBarLineShowsTheBarAndLeavesTheStatus_data() { jobs(); }
     void unknownBarLineShowsTheBarAndLeavesTheStatus();
     void finishedStaysUpWhereNothingCanBeRefreshed_data() { jobs(); }
@@ -56,7 +56,7 @@ private Q_SLOTS:
     void finishedRefreshesTheServicesPage_data() { jobs(); }
     void finishedRefreshesTheServicesPage();
     void finishedWithoutItsPrefixIsAName();
-    void maximumBehindAMaximumIsReadOnce();
+    void maximumAfterAMaximumIsReadOnce();
 
     void anyLineOfAListingFillsTheTable_data();
     void anyLineOfAListingFillsTheTable();
@@ -124,7 +124,7 @@ void TestDispatch::numberThatDoesNotParseSetsZero()
     }
 }
 
-void TestDispatch::nameStandsBehindItsLabel()
+void TestDispatch::nameStandsAfterItsLabel()
 {
     QFETCH(const int, job);
     const WindowOnPc driver;
@@ -177,7 +177,7 @@ void TestDispatch::finishedWithoutItsPrefixIsAName()
     QCOMPARE(driver.status(), u"Stop service:  SvcStopOrStart=finished"_s);
 }
 
-void TestDispatch::maximumBehindAMaximumIsReadOnce()
+void TestDispatch::maximumAfterAMaximumIsReadOnce()
 {
     // Each form is looked for in what the one before it has left of the line.
     const WindowOnPc driver;

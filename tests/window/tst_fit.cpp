@@ -46,7 +46,7 @@ public:
     bool isEmpty() const override { return false; }
 
 private:
-    /** Behind an ideograph a line may end, and behind a dash it may not but for the blank without width. */
+    /** After an ideograph a line may end, and after a dash it may not but for the blank without width. */
     const QString dash = u"\u2014\u200b"_s;
 };
 

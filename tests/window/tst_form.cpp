@@ -829,7 +829,7 @@ void FormTest::runTimeTextGivesWayToTheFormText()
     QCOMPARE(widget->property("text").toString(), str(row->text));
 }
 
-/** Names of the widgets of a window whose texts aren't the form's texts behind a prefix. */
+/** Names of the widgets of a window whose texts aren't the form's texts after a prefix. */
 QStringList FormTest::textDifferences(const QWidget &window, const QString &prefix)
 {
     QStringList differences;

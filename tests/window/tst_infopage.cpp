@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/** Every text of the report, by the member that holds it and the label it stands behind. */
+/** Every text of the report, by the member that holds it and the label it stands after. */
 struct Text
 {
     QString WorkThread::*member;
@@ -126,8 +126,8 @@ private Q_SLOTS:
     void maximumLineSetsTheBarAlone();
     void otherLinesAreHeldBack();
     void numberThatDoesNotParseSetsTheBarToNothing();
-    void everyTextStandsBehindItsLabel_data();
-    void everyTextStandsBehindItsLabel();
+    void everyTextStandsAfterItsLabel_data();
+    void everyTextStandsAfterItsLabel();
     void noMarkIsLeft();
     void emptyTextsLeaveEmptyPlaces();
     void screenIsTheWindowsOwn();
@@ -244,7 +244,7 @@ void TestInfoPage::numberThatDoesNotParseSetsTheBarToNothing()
     QCOMPARE(driver.bar()->maximum(), 0);
 }
 
-void TestInfoPage::everyTextStandsBehindItsLabel_data()
+void TestInfoPage::everyTextStandsAfterItsLabel_data()
 {
     QTest::addColumn<QString>("line");
     int number = 0;
@@ -252,7 +252,7 @@ void TestInfoPage::everyTextStandsBehindItsLabel_data()
         QTest::addRow("%d %s", ++number, text.text) << QString::fromLatin1(text.line);
 }
 
-void TestInfoPage::everyTextStandsBehindItsLabel()
+void TestInfoPage::everyTextStandsAfterItsLabel()
 {
     QFETCH(const QString, line);
     const WindowOnPc driver;

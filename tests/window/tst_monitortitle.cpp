@@ -100,7 +100,7 @@ private Q_SLOTS:
     void startUpReadsTheIntervalAndStarts();
     void startUpTakesNothingButOneForOn();
     void startUpReadsThreadsAndHandlesEvenWhenOff();
-    void lineStandsBehindTheProgramsName();
+    void lineStandsAfterTheProgramsName();
     void lineIsDroppedWhileTheMonitorIsOff();
     void titleStaysWhenTurnedOffDuringARun();
     void turningOnStartsARunAtOnceAndTheTimer_data();
@@ -163,7 +163,7 @@ void TestMonitorTitle::startUpReadsThreadsAndHandlesEvenWhenOff()
     QVERIFY(!timer(driver).isActive());
 }
 
-void TestMonitorTitle::lineStandsBehindTheProgramsName()
+void TestMonitorTitle::lineStandsAfterTheProgramsName()
 {
     const WindowOnPc driver;
     turn(driver, true);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The menu on the left, the pages behind it, and what keeps a busy program on its page.
+// The menu on the left, the pages that it opens, and what keeps a busy program on its page.
 
 #include "support/menus.h"
 #include "support/suite.h"

@@ -241,7 +241,7 @@ void TestServiceChange::disableTellsEachStep()
     const ServicesPage driver;
     check(driver, {u"Alpha"_s, u"Beta"_s});
     QStringList steps;
-    // Connected behind the window, so that each line has been read when it comes here.
+    // Connected after the window, so that each line has been read when it comes here.
     connect(&driver.worker(), &WorkThread::valueChanged, this, [&](const QString &line) {
         if (driver.worker().job == JobSvcDisable)
             steps.append(line + u" -> "_s + driver.status() + (driver.bar()->isHidden() ? u", no bar"_s : u", bar"_s));
@@ -572,7 +572,7 @@ void TestServiceChange::restoreWithoutBackupRestoresTheRecordsWithoutAQuestion()
     machine.add({.name = u"Beta"_s, .start = 4});
     machine.add({.name = u"Gamma"_s, .start = 4});
     machine.write(recordsKey, u"Beta"_s, 1);
-    // What stands behind the name doesn't matter here.
+    // What stands after the name doesn't matter here.
     machine.write(recordsKey, u"Alpha"_s, 0);
     const WindowDriver driver;
     openWithoutListing(driver);

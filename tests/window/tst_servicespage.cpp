@@ -5,7 +5,7 @@
 #include "support/menus.h"
 #include "support/suite.h"
 #include "support/windowdriver.h"
-#include "work/services/servicecatalogue.h"
+#include "work/services/services.h"
 
 #include <QApplication>
 #include <QHeaderView>

@@ -407,7 +407,7 @@ void TestStartup::runningJobsEndWithTheWindow()
     connect(&thread, &WorkThread::valueChanged, this, [&lines] { ++lines; });
     thread.servicesToChange = {u"Alpha"_s};
     thread.startJob(job);
-    // The WinSxS job pauses behind its third line.
+    // The WinSxS job pauses after its third line.
     const int linesToWaitFor = job == JobWinSxsSize ? 3 : job == JobSvcDisable ? 1 : 0;
     QTRY_COMPARE(lines, linesToWaitFor);
     QVERIFY(thread.isRunning());

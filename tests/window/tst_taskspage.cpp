@@ -649,7 +649,7 @@ void TestTasksPage::disableThatFailsLooksAsOneThatWorked()
     check(driver, {u"A"_s});
     QStringList statuses;
     connect(&driver.worker(), &WorkThread::valueChanged, this, [&](const QString &line) {
-        // Behind the window, whose text of the end is gone again with the refresh.
+        // After the window, whose text of the end is gone again with the refresh.
         if (line.startsWith("Task:"_L1))
             statuses.append(driver.status());
     });
@@ -778,7 +778,7 @@ void TestTasksPage::assistantReadsTheNameFromTheToolTip()
 {
     const TaskMachine machine({});
     const WindowDriver driver;
-    // What stands behind a colon isn't seen; what the cell shows counts for nothing.
+    // What stands after a colon isn't seen; what the cell shows counts for nothing.
     openWith(driver, tasksOf({u"A: b\\WinSAT"_s, u"WinSAT: c"_s, u"Other"_s}));
     driver.firstCell(table, u"Other"_s)->setToolTip(u"Folder\\Sqm-Tasks"_s);
     Boxes boxes({QMessageBox::No});

@@ -17,7 +17,7 @@ struct KeyCloser
 };
 using Key = std::unique_ptr<std::remove_pointer_t<HKEY>, KeyCloser>;
 
-/** Splits a path behind its hive. */
+/** Splits a path after its hive. */
 std::pair<HKEY, QString> hiveOf(const QString &path)
 {
     const QString hive = path.section(u'\\', 0, 0);

@@ -94,7 +94,7 @@ void TestProgram::isAProgramWithoutAConsole()
     const auto number = [&head](qsizetype at) {
         return static_cast<unsigned char>(head.at(at)) | static_cast<unsigned char>(head.at(at + 1)) << 8;
     };
-    // Behind the signature and the file's header the optional header's word at 68 is the subsystem.
+    // After the signature and the file's header the optional header's word at 68 is the subsystem.
     QCOMPARE(number(number(0x3c) + 24 + 68), 2);
 }
 

@@ -115,7 +115,7 @@ QStringList each(const QString &line, const QStringList &names)
     return lines;
 }
 
-/** A phase of the log, behind which an empty line stands. */
+/** A phase of the log, after which an empty line stands. */
 QStringList phase(const QStringList &lines)
 {
     return lines + QStringList{QString()};

@@ -29,7 +29,7 @@ QList<QStringList> wmic(const QString &className, const QStringList &properties)
     process.waitForFinished(patience);
     const QStringList lines = QString::fromLocal8Bit(process.readAllStandardOutput()).split(u"\r\n"_s);
     QList<QStringList> instances;
-    // Behind the heads of the columns, which may be longer than the columns
+    // After the heads of the columns, which may be longer than the columns
     for (const QString &line : lines.mid(1)) {
         if (line.isEmpty())
             continue;
@@ -62,7 +62,7 @@ QStringList reportOf(const WindowDriver &driver)
 }
 
 /** The first number of the report's line that begins so. */
-double numberBehind(const QStringList &report, const QString &label)
+double numberAfter(const QStringList &report, const QString &label)
 {
     for (const QString &line : report) {
         if (line.startsWith(label))
@@ -177,7 +177,7 @@ void TestRealSystemInfo::tellsMemoryAndProcessor()
           u"Cores / Threads:   %1  / %2"_s.arg(processors.constFirst().at(0), processors.constFirst().at(1))})
         QVERIFY2(report_.contains(line), qPrintable(line));
     const double free = onlyValue(u"Win32_OperatingSystem"_s, u"FreePhysicalMemory"_s).toDouble() / (1024 * 1024);
-    compareNear(numberBehind(report_, u"Free:   "_s), free, 1);
+    compareNear(numberAfter(report_, u"Free:   "_s), free, 1);
 }
 
 void TestRealSystemInfo::monitorTellsTheLoad()

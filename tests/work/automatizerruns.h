@@ -5,9 +5,9 @@
 
 #include "joblines.h"
 #include "support/automatizermachine.h"
-#include "work/automatizer/restorelists.h"
+#include "work/automatizer/automatizer.h"
 
-/** Runs a job. Its lines; one on the page's signal stands behind "page: ". */
+/** Runs a job. Its lines; one on the page's signal stands after "page: ". */
 inline QStringList linesOf(WorkThread &worker, int job)
 {
     JobLines lines(worker);
@@ -21,7 +21,7 @@ inline QStringList linesOf(WorkThread &worker, int job)
     return told;
 }
 
-/** An Optimize behind an Analyze, with the window's part behind it. */
+/** An Optimize after an Analyze, with the window's part after it. */
 inline QStringList optimize(WorkThread &worker)
 {
     linesOf(worker, JobAutomatizerAnalyze);

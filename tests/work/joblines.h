@@ -44,7 +44,7 @@ inline void addPhasesOfAnEmptyList(const QString &closing)
     QTest::newRow("restore") << Phases{.restore = 1} << QStringList{closing};
 }
 
-/** Writes down a worker's lines, each behind "page: " or "automatizer: " for the signal that carried it. */
+/** Writes down a worker's lines, each after "page: " or "automatizer: " for the signal that carried it. */
 class JobLines
 {
 public:

@@ -138,7 +138,7 @@ void optimizeByHand(TestMachine &machine, const Targets &targets)
     machine.write(settingsKey, u"optimized"_s, 1);
 }
 
-/** What Restore has to do behind that. */
+/** What Restore has to do after that. */
 void restoreByHand(TestMachine &machine, const Targets &targets)
 {
     for (const QString &name : targets.services) {

@@ -137,7 +137,7 @@ void TestAutomatizerRestore::whatComesBackAndWhatDoesNot()
     QVERIFY(!isOn("\\Microsoft\\Windows\\Printing\\PrintJobCleanupTask"));
     QVERIFY(machine.machine().registry().find(repositoryKey + u"\\Microsoft.BingNews_1.0.0.0_x64__8wekyb3d8bbwe"_s));
     QCOMPARE(machine.read(terminalTaskKey, u"State"_s), QVariant(2));
-    // Without quotes, or without its file, a command doesn't come back; behind its first "=" it is lost.
+    // Without quotes, or without its file, a command doesn't come back; after its first "=" it is lost.
     QCOMPARE(machine.names(userRunKey), QStringList{u"Quoted"_s});
     QCOMPARE(machine.read(machineRunKey, u"WithEquals"_s), QVariant(u"\"C:\\Tools\\a.exe\" --mode"_s));
     QFile config(machine.platform().hostPath(encoderConfig));

@@ -196,7 +196,7 @@ void TestAutorunState::commandInQuotesComesBackWhileItsProgramIsThere_data()
     row("quotes", u"\"C:\\Program Files\\App\\app.exe\""_s, true);
     row("quotes and arguments", command, true);
     row("in another case", u"\"c:\\program files\\APP\\App.exe\" -x"_s, true);
-    row("more quotes behind", command + u" \"C:\\missing\""_s, true);
+    row("more quotes after", command + u" \"C:\\missing\""_s, true);
     row("text before the quotes", u"start \"C:\\Program Files\\App\\app.exe\" x"_s, true);
     row("quote without an end", u"\"C:\\Program Files\\App\\app.exe"_s, true);
     row("quote without an end, and arguments", u"\"C:\\Program Files\\App\\app.exe -x"_s, false);

@@ -26,7 +26,7 @@ int exitCodeOf(Command &command, const QString &program, const QStringList &argu
     return command.exitCode();
 }
 
-/** How many programs run out of the machine's folder; -1 where that can't be told. */
+/** How many programs run out of the machine's folder; -1 where that is unknown. */
 int runningTools(const TestMachine &machine)
 {
     if (!QDir(u"/proc/self"_s).exists())

@@ -5,7 +5,7 @@
 #include "joblines.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
-#include "work/sysinfo/systemload.h"
+#include "work/sysinfo/systeminfo.h"
 
 #include <QJsonArray>
 #include <QSignalSpy>

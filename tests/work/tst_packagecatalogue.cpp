@@ -3,7 +3,7 @@
 
 #include "support/suite.h"
 #include "work/keepfeatures.h"
-#include "work/packages/packagecatalogue.h"
+#include "work/packages/packages.h"
 
 #include <QTest>
 

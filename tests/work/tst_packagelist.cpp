@@ -4,7 +4,7 @@
 #include "joblines.h"
 #include "support/packageplaces.h"
 #include "support/suite.h"
-#include "work/packages/packagecatalogue.h"
+#include "work/packages/packages.h"
 
 #include <QTest>
 
@@ -320,7 +320,7 @@ void TestPackageList::displayName_data()
     QTest::newRow("resource in a package") << QVariant(u"@{Microsoft.Todos_1?ms-resource://x}"_s) << family;
     QTest::newRow("bare beginning of a resource") << QVariant(u"@{"_s) << family;
     QTest::newRow("resource in capitals") << QVariant(u"MS-RESOURCE:x"_s) << u"MS-RESOURCE:x"_s;
-    QTest::newRow("resource behind a blank") << QVariant(u" ms-resource:x"_s) << u" ms-resource:x"_s;
+    QTest::newRow("resource after a blank") << QVariant(u" ms-resource:x"_s) << u" ms-resource:x"_s;
     QTest::newRow("resource further on") << QVariant(u"x ms-resource:x @{"_s) << u"x ms-resource:x @{"_s;
     QTest::newRow("another reference") << QVariant(u"@a.dll,-1"_s) << u"@a.dll,-1"_s;
     QTest::newRow("empty") << QVariant(u""_s) << QString();
@@ -384,7 +384,7 @@ void TestPackageList::onlyTheLastPackageTellsOfFeatures_data()
     row("game bar", {u"Microsoft.XboxGamingOverlay"_s}, {1, 0, 0});
     row("app", {u"Microsoft.GamingApp"_s}, {0, 1, 0});
     row("codecs", {u"Microsoft.AV1VideoExtension"_s}, {0, 0, 1});
-    row("another one behind it", {u"Microsoft.GamingApp"_s, u"Microsoft.Todos"_s}, {0, 0, 0});
+    row("another one after it", {u"Microsoft.GamingApp"_s, u"Microsoft.Todos"_s}, {0, 0, 0});
     row("all three", {u"Microsoft.AV1VideoExtension"_s, u"Microsoft.GamingApp"_s, u"Microsoft.XboxGamingOverlay"_s},
         {1, 0, 0});
     row("in another case", {u"microsoft.xboxgamingoverlay"_s}, {1, 0, 0});

@@ -3,7 +3,7 @@
 
 #include "support/packageplaces.h"
 #include "support/suite.h"
-#include "work/packages/packagestate.h"
+#include "work/packages/packages.h"
 
 #include <QTest>
 
@@ -57,7 +57,7 @@ void TestPackageRecord::otherLinesLeaveTheRecord_data()
     QTest::newRow("error") << u"   Uninstall   package: Microsoft.Todos: error"_s;
     QTest::newRow("the end") << u"   Uninstall   packages finished  "_s;
     QTest::newRow("no package") << u"   Uninstall   Microsoft.Todos: done"_s;
-    QTest::newRow("blanks behind it") << u"   Uninstall   package: Microsoft.Todos: done  "_s;
+    QTest::newRow("blanks after it") << u"   Uninstall   package: Microsoft.Todos: done  "_s;
     QTest::newRow("another case") << u"   Uninstall   Package: Microsoft.Todos: done"_s;
     QTest::newRow("done in another case") << u"   Uninstall   package: Microsoft.Todos: Done"_s;
     QTest::newRow("no blank") << u"   Uninstall   package:Microsoft.Todos: done"_s;

@@ -3,8 +3,8 @@
 
 #include "support/suite.h"
 #include "work/keepfeatures.h"
-#include "work/services/servicecatalogue.h"
-#include "work/tasks/taskcatalogue.h"
+#include "work/services/services.h"
+#include "work/tasks/tasks.h"
 
 #include <QSet>
 #include <QTest>

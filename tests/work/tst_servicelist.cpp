@@ -202,7 +202,7 @@ void TestServiceList::displayName_data()
     QTest::newRow("reference with a number that is none") << u"@a.dll,-x"_s << u"no description"_s;
     QTest::newRow("error gives the name") << u"error: not found"_s << u"Test"_s;
     QTest::newRow("error alone gives the name") << u"error"_s << u"Test"_s;
-    QTest::newRow("error behind a reference gives the name") << u"@a.dll,-105"_s << u"Test"_s;
+    QTest::newRow("error after a reference gives the name") << u"@a.dll,-105"_s << u"Test"_s;
     QTest::newRow("Error in another case is a text") << u"Error Reporting"_s << u"Error Reporting"_s;
     QTest::newRow("error further on is a text") << u"Windows error reporting"_s << u"Windows error reporting"_s;
 }
@@ -231,7 +231,7 @@ void TestServiceList::description_data()
     QTest::newRow("reference to a missing DLL") << QVariant(u"@missing.dll,-100"_s) << none;
     QTest::newRow("reference to an empty string") << QVariant(u"@a.dll,-101"_s) << none;
     QTest::newRow("error") << QVariant(u"error 2"_s) << none;
-    QTest::newRow("error behind a reference") << QVariant(u"@a.dll,-105"_s) << none;
+    QTest::newRow("error after a reference") << QVariant(u"@a.dll,-105"_s) << none;
     QTest::newRow("Error in another case") << QVariant(u"Error 2"_s) << u"Error 2"_s;
 }
 
@@ -314,7 +314,7 @@ void TestServiceList::reportTellsWhatRuns_data()
     row("4 alone", record(u"Spooler"_s, u"4"_s), true);
     row("4 as the first of two digits", record(u"Spooler"_s, u"42"_s), true);
     row("4 as the second of two digits", record(u"Spooler"_s, u"14"_s), false);
-    row("4 behind another blank", record(u"Spooler"_s, u" 4  RUNNING"_s), false);
+    row("4 after another blank", record(u"Spooler"_s, u" 4  RUNNING"_s), false);
 
     row("nothing", u""_s, false);
     row("no records", u"There are no services.\r\n"_s, false);
@@ -327,15 +327,15 @@ void TestServiceList::reportTellsWhatRuns_data()
     row("another label before the state", head + u"        TYP : 4\r\n"_s + state + u"1  STOPPED \r\n"_s, false);
 
     row("cut off in the name", u"\r\nSERVICE_NAME: Spo"_s, false);
-    row("cut off behind the name", head, false);
+    row("cut off after the name", head, false);
     row("cut off in the label", head + u"        STA"_s, false);
-    row("cut off behind the label", head + u"        STATE "_s, false);
+    row("cut off after the label", head + u"        STATE "_s, false);
     row("cut off before the digit", head + state, false);
-    row("cut off behind the digit", head + state + u"4"_s, true);
+    row("cut off after the digit", head + state + u"4"_s, true);
 
     row("another service's name", record(u"Spooler2"_s, u"4  RUNNING "_s), false);
     row("the name in another case", record(u"SPOOLER"_s, u"4  RUNNING "_s), false);
-    row("a blank behind the name", record(u"Spooler "_s, u"4  RUNNING "_s), false);
+    row("a blank after the name", record(u"Spooler "_s, u"4  RUNNING "_s), false);
     row("lines ended by LF alone", record(u"Spooler"_s, u"4  RUNNING "_s).remove(u'\r'), false);
     row("record that doesn't begin a line", u"x SERVICE_NAME: Spooler\r\n STATE : 4"_s, true);
     row("the first state of a record counts", head + state + u"1 STOPPED\r\n"_s + state + u"4 RUNNING\r\n"_s, false);

@@ -121,7 +121,7 @@ void TestServiceText::textIsExpanded_data()
     row("%WinDir%", u"@%WinDir%\\System32\\a.dll,-100"_s, a);
     row("%ProgramFiles%", u"@%ProgramFiles%\\Vendor\\v.dll,-7"_s, u"Text of the vendor"_s);
     row("%programfiles%", u"@%programfiles%\\Vendor\\v.dll,-7"_s, u"Text of the vendor"_s);
-    row("variable behind dollar, bracket and at sign", u"$(@%SystemRoot%\\System32\\a.dll,-100)"_s, a);
+    row("variable after dollar, bracket and at sign", u"$(@%SystemRoot%\\System32\\a.dll,-100)"_s, a);
     row("variable without at sign", u"%SystemRoot%\\System32\\a.dll,-100"_s, a);
     row("another variable", u"@%ProgramData%\\a.dll,-100"_s, none);
     row("variable that isn't at the start", u"@C:%SystemRoot%\\System32\\a.dll,-100"_s, none);
@@ -145,7 +145,7 @@ void TestServiceText::textIsExpanded_data()
     row("number that the DLL lacks", u"@a.dll,-999"_s, none);
     row("no number", u"@a.dll,-"_s, none);
     row("number that is none", u"@a.dll,-abc"_s, none);
-    row("number with words behind it", u"@a.dll,-100;words"_s, none);
+    row("number with words after it", u"@a.dll,-100;words"_s, none);
     row("two dashes", u"@a.dll,--100"_s, none);
     row("number that is too large", u"@a.dll,-99999999999999999999"_s, none);
     row("empty string", u"@a.dll,-101"_s, none);

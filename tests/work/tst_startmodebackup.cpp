@@ -6,7 +6,7 @@
 #include "machine/source/regfile.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
-#include "work/services/startmode.h"
+#include "work/services/services.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -459,8 +459,8 @@ void TestSystemInfo::disks_data()
         << Disks{disk(u"A"_s, u"USB"_s, u"large"_s)} << text(u"A"_s, u"0 Go"_s, u"USB"_s);
     QTest::newRow("size beyond 64 bits") << Disks{disk(u"A"_s, u"USB"_s, u"99999999999999999999"_s)}
                                          << text(u"A"_s, u"0 Go"_s, u"USB"_s);
-    QTest::newRow("size behind a colon") << Disks{disk(u"A"_s, u"USB"_s, u"total: =2147483648"_s)}
-                                         << text(u"A"_s, u"2 Go"_s, u"USB"_s);
+    QTest::newRow("size after a colon") << Disks{disk(u"A"_s, u"USB"_s, u"total: =2147483648"_s)}
+                                        << text(u"A"_s, u"2 Go"_s, u"USB"_s);
     QTest::newRow("name of 28 characters") << Disks{disk(u"0123456789012345678901234567"_s, u"IDE"_s, terabyte)}
                                            << text(u"0123456789012345678901234567"_s, u"931 Go"_s, u"IDE"_s);
     QTest::newRow("name of 29 characters") << Disks{disk(u"01234567890123456789012345678"_s, u"IDE"_s, terabyte)}
@@ -469,8 +469,8 @@ void TestSystemInfo::disks_data()
         << Disks{disk(u"Generic USB Device"_s, u"USB"_s, terabyte)} << text(u"Generic USB "_s, u"931 Go"_s, u"USB"_s);
     QTest::newRow("and makes room") << Disks{disk(u"DEVICE0123456789012345678901234567"_s, u"IDE"_s, terabyte)}
                                     << text(u"0123456789012345678901234567"_s, u"931 Go"_s, u"IDE"_s);
-    QTest::newRow("name behind a colon") << Disks{disk(u"0: \"Disk"_s, u"USB"_s, terabyte)}
-                                         << text(u"Disk"_s, u"931 Go"_s, u"USB"_s);
+    QTest::newRow("name after a colon") << Disks{disk(u"0: \"Disk"_s, u"USB"_s, terabyte)}
+                                        << text(u"Disk"_s, u"931 Go"_s, u"USB"_s);
     QTest::newRow("equals sign in the name")
         << Disks{disk(u"A=B"_s, u"USB"_s, terabyte)} << text(u"A=B"_s, u"931 Go"_s, u"USB"_s);
     QTest::newRow("line break in the name")
@@ -582,7 +582,7 @@ void TestSystemInfo::pageFile()
                 {{{u"AllocatedBaseSize"_s, 4864}, {u"Caption"_s, u"d:\\PageFile.sys"_s}}});
     QCOMPARE(worker.memVSize, u"4864 Mo "_s);
     QCOMPARE(worker.memVSizeDrive, u"d:\\"_s);
-    // With a second page file the rest of the answer stands behind the first drive.
+    // With a second page file the rest of the answer stands after the first drive.
     collectWith(worker, u"Win32_PageFileUsage"_s,
                 {{{u"AllocatedBaseSize"_s, 1}, {u"Caption"_s, u"C:\\pagefile.sys"_s}},
                  {{u"AllocatedBaseSize"_s, 2}, {u"Caption"_s, u"D:\\pagefile.sys"_s}}});

@@ -199,8 +199,8 @@ void TestTaskList::theLastPieceNeverGivesARow_data()
     QTest::newRow("nothing") << QString();
     QTest::newRow("a line end") << u"\r\n"_s;
     QTest::newRow("closing tag") << u"</Tasks>"_s;
-    QTest::newRow("closing tag behind line ends") << u"\r\n\r\n</Tasks>\r\n"_s;
-    QTest::newRow("closing tag behind three line ends") << u"\r\n\r\n\r\n</Tasks>"_s;
+    QTest::newRow("closing tag after line ends") << u"\r\n\r\n</Tasks>\r\n"_s;
+    QTest::newRow("closing tag after three line ends") << u"\r\n\r\n\r\n</Tasks>"_s;
     QTest::newRow("blanks") << u"      "_s;
     QTest::newRow("comment") << u"\r\n<!-- the end -->\r\n"_s;
     QTest::newRow("message") << u"\r\nERROR: Access is denied.\r\n"_s;

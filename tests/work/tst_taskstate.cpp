@@ -322,7 +322,7 @@ void TestTaskState::failingToolGivesNoRecordAndTheRunGoesOn()
              (QStringList{u"page: pgr:max:3"_s, u"page: pgr:value:0"_s, u"page: Task: A"_s, u"page: pgr:value:1"_s,
                           u"page: Task: B"_s, u"page: pgr:value:2"_s, u"page: Task: C"_s, finished}));
     QCOMPARE(machine.platform().takePauses(), QList<int>(3, 300));
-    // An exit code that comes after the start is nobody's concern.
+    // An exit code that comes after the start is ignored.
     QCOMPARE(machine.errorLog(), QStringList());
 }
 

@@ -140,7 +140,7 @@ void TestTweakRecord::storedTextsAreReadAsTruthOrNot_data()
     QTest::newRow("true") << QVariant(u"true"_s) << true;
     QTest::newRow("false") << QVariant(u"false"_s) << false;
     QTest::newRow("number one") << QVariant(1) << true;
-    QTest::newRow("number nought") << QVariant(0) << false;
+    QTest::newRow("number 0") << QVariant(0) << false;
     QTest::newRow("empty") << QVariant(QString()) << false;
 }
 

@@ -123,7 +123,7 @@ private Q_SLOTS:
 
     void noCloudServiceNoChange_data();
     void noCloudServiceNoChange();
-    void cloudServiceWithAValueBehindType();
+    void cloudServiceWithAValueAfterType();
     void cloudTasksThatAreMissingGoUnnoticed();
 };
 
@@ -265,7 +265,7 @@ void TestTweakWindows::noCloudServiceNoChange_data()
     // Found without regard to case, and then not taken.
     QTest::newRow("in another case") << QStringList{u"cloudbackuprestoresvc_1"_s, u"AarSvc"_s};
     // One that begins with D, whatever its case, ends the search.
-    QTest::newRow("behind the end of the search") << QStringList{u"BDESVC"_s, u"DPS"_s, u"cloudBackupRestoreSvc_1"_s};
+    QTest::newRow("after the end of the search") << QStringList{u"BDESVC"_s, u"DPS"_s, u"cloudBackupRestoreSvc_1"_s};
 }
 
 void TestTweakWindows::noCloudServiceNoChange()
@@ -280,7 +280,7 @@ void TestTweakWindows::noCloudServiceNoChange()
     COMPARE_OUTCOMES(trial.outcome(), Outcome{});
 }
 
-void TestTweakWindows::cloudServiceWithAValueBehindType()
+void TestTweakWindows::cloudServiceWithAValueAfterType()
 {
     TweakTrial trial(TestMachine::Windows::Ten);
     prepare(trial.machine);

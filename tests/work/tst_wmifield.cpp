@@ -32,18 +32,18 @@ void TestWmiField::aFieldIsCutOut_data()
     const auto row = [](const char *title, const QString &answer, const QString &line, const QString &text) {
         QTest::newRow(title) << answer << line << text;
     };
-    row("with a property behind it", u"\r\nSpeed=3200\r\nTag=a"_s, u"3200"_s, u"3200\r\nTag=a"_s);
+    row("with a property after it", u"\r\nSpeed=3200\r\nTag=a"_s, u"3200"_s, u"3200\r\nTag=a"_s);
     row("with one before it", u"\r\nTag=a\r\nSpeed=3200\r\nName=b"_s, u"3200"_s, u"3200\r\nName=b"_s);
     row("the last one loses a character", u"\r\nSpeed=3200"_s, u"320"_s, u"3200"_s);
     row("the last one of one character", u"\r\nSpeed=3"_s, u""_s, u"3"_s);
     row("the last one, empty", u"\r\nSpeed="_s, u""_s, u""_s);
-    row("empty, with one behind it", u"\r\nSpeed=\r\nTag=a"_s, u""_s, u"\r\nTag=a"_s);
+    row("empty, with one after it", u"\r\nSpeed=\r\nTag=a"_s, u""_s, u"\r\nTag=a"_s);
     row("the first of two instances", u"\r\nSpeed=3200\r\nSpeed=2400"_s, u"3200"_s, u"3200\r\nSpeed=2400"_s);
     row("an equals sign in the value", u"\r\nSpeed=a=b=c\r\nTag=a"_s, u"a=b=c"_s, u"a=b=c\r\nTag=a"_s);
     row("a line break in the value", u"\r\nSpeed=a\r\nb\r\nTag=a"_s, u"a"_s, u"a\r\nb\r\nTag=a"_s);
     row("a lone line feed doesn't end it", u"\r\nSpeed=a\nb\r\nTag=a"_s, u"a\nb"_s, u"a\nb\r\nTag=a"_s);
     row("a longer name with it inside comes first", u"\r\nMaxSpeed=9\r\nSpeed=1\r\n"_s, u"9"_s, u"9\r\nSpeed=1\r\n"_s);
-    row("cut off behind the name", u"\r\nSpeed"_s, u""_s, u""_s);
+    row("cut off after the name", u"\r\nSpeed"_s, u""_s, u""_s);
     row("cut off within the line end", u"\r\nSpeed=3200\r"_s, u"3200"_s, u"3200\r"_s);
     // The name is looked for in any case, and found in one: what is cut is as long as the name.
     row("name in another case", u"\r\nSPEED=3200\r\nTag=a"_s, u"ED=3200"_s, u"ED=3200\r\nTag=a"_s);

@@ -32,7 +32,7 @@ struct ModuleCloser
 };
 using Module = std::unique_ptr<std::remove_pointer_t<HMODULE>, ModuleCloser>;
 
-/** The file name of a process's program; empty where it can't be told. */
+/** The file name of a process's program; empty where it is unknown. */
 QString programName(DWORD processId)
 {
     const Handle process(OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, processId));

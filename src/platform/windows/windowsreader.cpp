@@ -98,7 +98,7 @@ QList<RegistryValue> valuesOf(HKEY key, const Sizes &sizes)
     }
 }
 
-/** All services that are no drivers; the buffer holds the records, and their names behind them. */
+/** All services that are no drivers; the buffer holds the records, and their names after them. */
 std::optional<std::span<const ENUM_SERVICE_STATUS_PROCESSW>> listServices(SC_HANDLE manager, std::vector<BYTE> &buffer)
 {
     constexpr int tries = 5; // services may come meanwhile

@@ -3,13 +3,11 @@
 
 #include "automatizer.h"
 #include "platform/windowsfacts.h"
-#include "restorelists.h"
 #include "work/autorun/autorun.h"
 #include "work/keepfeatures.h"
-#include "work/services/servicecatalogue.h"
-#include "work/services/startmode.h"
+#include "work/services/services.h"
 #include "work/statusline.h"
-#include "work/tasks/taskcatalogue.h"
+#include "work/tasks/tasks.h"
 
 #include <algorithm>
 

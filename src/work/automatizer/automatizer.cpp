@@ -2,7 +2,9 @@
 
 #include "automatizer.h"
 
+#include "work/services/services.h"
 #include "work/statusline.h"
+#include "work/tasks/tasks.h"
 
 void Automatizer::reportFinding(int &count, const QString &line)
 {
@@ -23,6 +25,14 @@ void Automatizer::reportMaximum(qsizetype steps)
 void Automatizer::reportStep(qsizetype step)
 {
     report(StatusLine::step(step));
+}
+
+// Not beside the rest of the class: the families, whose catalogues it takes in, know the class.
+WorkThread::WorkThread(QObject *parent)
+    : QThread(parent)
+    , nonVitalServices(nonVitalServiceNames())
+    , nonVitalTasks(nonVitalTaskNames())
+{
 }
 
 void WorkThread::AutomatizerAnalyze()

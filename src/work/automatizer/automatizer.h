@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The Automatizer: Analyze, Optimize and Restore.
+// The Automatizer: Analyze, Optimize and Restore, and what the window does before and after them.
 
 #pragma once
 
@@ -54,3 +54,14 @@ private:
 
     WorkThread &worker_;
 };
+
+/** Whether an Optimize has run since the last Restore that left the features out. */
+bool wasOptimized();
+void setOptimized(bool optimized);
+
+/** Fills servicesToChange and tasksToChange from the records of what was disabled. For the thread that starts the job.
+ */
+void fillRestoreLists(WorkThread &worker);
+
+/** After "AutomatizerRestore:finished": forgets the programs taken out of the start-up and the tweaks in force. */
+void closeRestore();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// What a Restore takes in before its job starts, and what is done after its closing line.
 
-#include "restorelists.h"
+#include "automatizer.h"
 
 #include "work/settings.h"
 #include "work/workthread.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// What the program knows about packaged applications.
 
-#include "packagecatalogue.h"
+#include "packages.h"
 
 #include "work/workthread.h"
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The list of packaged applications that can be removed.
 
-#include "packagecatalogue.h"
-#include "packagestate.h"
+#include "packages.h"
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
 #include "work/interruption.h"

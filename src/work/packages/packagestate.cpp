@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Removing packaged applications, and bringing them back.
 
-#include "packagestate.h"
+#include "packages.h"
 
-#include "packagecatalogue.h"
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
 #include "work/command.h"

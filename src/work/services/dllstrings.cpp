@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Strings of the registry that stand for a string in a DLL.
 
-#include "dllstrings.h"
+#include "services.h"
 
 #include "platform/platform.h"
 #include "work/errorlog.h"

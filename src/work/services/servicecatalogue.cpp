@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// What the program knows about services: which matter, and which don't.
 
-#include "servicecatalogue.h"
+#include "services.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The list of services: the registry tells what there is, sc tells what runs.
 
-#include "dllstrings.h"
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
-#include "startmode.h"
+#include "services.h"
 #include "work/command.h"
 #include "work/interruption.h"
 #include "work/statusline.h"
@@ -33,7 +32,7 @@ bool cutThrough(QStringView &text, QStringView mark)
     return true;
 }
 
-/** Whether a record of sc's report says that the service runs: the digit 4 behind the label of its state. */
+/** Whether a record of sc's report says that the service runs: the digit 4 after the label of its state. */
 bool saysRunning(QStringView record)
 {
     return cutThrough(record, u"STATE ") && cutThrough(record, u": ") && record.startsWith(u'4');

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// How services are set to start: the one-time backup, and those that needn't start by themselves.
 
-#include "startmode.h"
+#include "services.h"
 
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
-#include "servicecatalogue.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The texts of the system report.
+// The texts of the system report, and how busy the processors are.
 
 #pragma once
 
+#include "platform/platform.h"
 #include "work/workthread.h"
 
 #include <optional>
@@ -31,3 +32,12 @@ std::optional<qint64> memoryUnits(const QString &bytes);
 
 /** "16 Go"; "unknown" in the user's language without a number. */
 QString memoryText(std::optional<qint64> units);
+
+/** Percent of the time between two readings that wasn't idle; no number where no time has passed. */
+float processorLoad(const ProcessorTimes &before, const ProcessorTimes &after);
+
+/**
+ * A load as the monitor shows it, in whole percent. Most readings show one above the measure, a load just under 100 so
+ * reads 100 or 101, one above 1.001 never reads less than 2, and an idle machine reads 1.
+ */
+QString loadText(float load);

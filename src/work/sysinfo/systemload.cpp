@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One line on how busy the machine is.
 
-#include "systemload.h"
+#include "systeminfo.h"
 
 #include "work/interruption.h"
 #include "work/wmi.h"

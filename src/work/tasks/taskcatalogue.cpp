@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// What the program knows about scheduled tasks.
 
-#include "taskcatalogue.h"
+#include "tasks.h"
 
 #include "work/keepfeatures.h"
 

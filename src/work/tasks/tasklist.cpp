@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The list of scheduled tasks, cut out of the export that schtasks prints.
 
-#include "tasklist.h"
+#include "tasks.h"
 
 #include "platform/platform.h"
 #include "work/command.h"
 #include "work/errorlog.h"
 #include "work/interruption.h"
-#include "work/services/dllstrings.h"
+#include "work/services/services.h"
 #include "work/statusline.h"
 #include "work/workthread.h"
 

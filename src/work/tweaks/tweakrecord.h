@@ -22,7 +22,7 @@ TweakState storedTweaks();
 void storeTweaks(const TweakState &state);
 
 /**
- * Stores what a run of the Automatizer leaves behind: the boxes that it stands for as checked after Optimize, as
+ * Stores the outcome of a run of the Automatizer: the boxes that it stands for as checked after Optimize, as
  * unchecked after Restore. Goes by the worker's name of Windows, battery, Keep list and restoreRunning.
  * @param priorityIndex of the combo box beside chkGaming11
  */

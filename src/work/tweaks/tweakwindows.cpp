@@ -82,7 +82,7 @@ void disable(const SearchProgram &program)
 {
     if (!QFile::exists(hostFile("WinDir", program.file)))
         return;
-    // One that an update left behind.
+    // A copy that was disabled earlier; an update has put a new program beside it.
     if (const QString former = hostFile("WinDir", program.disabledFile); QFile::exists(former))
         QFile::remove(former);
     const QString file = qEnvironmentVariable("windir") + program.file;

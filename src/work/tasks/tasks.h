@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the program knows about scheduled tasks.
+// What the program knows about scheduled tasks, and the list of those that are there.
 
 #pragma once
 
+#include "work/rows.h"
+
+#include <QList>
 #include <QStringList>
 
 class WorkThread;
@@ -18,3 +21,6 @@ QStringList nonVitalTaskPrefixes();
  * is given up and has it, and that most people don't need it.
  */
 int reasonsAgainstTask(const WorkThread &worker, const QString &name);
+
+/** The tasks in the text that schtasks prints, in its order. Throws JobInterrupted on a worker that is asked to end. */
+QList<TaskRow> tasksOf(const QString &exported);
