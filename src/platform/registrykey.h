@@ -43,6 +43,12 @@ public:
     /** The direct subkeys, also those without values, sorted by UTF-16 code unit. */
     virtual QStringList childGroups() const = 0;
 
+    /**
+     * Returns when what was written is on the disk, so that a power cut can't take it back; failures are silent. A key
+     * whose writes are safe from the end of this process needn't do more.
+     */
+    virtual void flush() {}
+
     /** Goes down to a subkey; names are relative to it until endGroup(). */
     virtual void beginGroup(const QString &name) = 0;
     virtual void endGroup() = 0;

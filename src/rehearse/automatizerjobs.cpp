@@ -51,7 +51,7 @@ void optimize(WorkThread &worker, const AutomatizerChoice &choice, LinePrinter &
 
 void restore(WorkThread &worker, const AutomatizerChoice &choice, LinePrinter &printer)
 {
-    if (!wasOptimized())
+    if (!canRestore())
         throw Failure{ExitJobFailed, u"cannot restore what has not yet been optimized"_s};
     fillRestoreLists(worker);
     worker.taskRestoreMode = true;

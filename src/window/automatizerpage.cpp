@@ -56,7 +56,7 @@ void Kestrune::on_btnAutomatizerRestore_clicked()
     takeAutomatizerBoxes();
     if (!mayChange(this))
         return;
-    if (!wasOptimized()) {
+    if (!canRestore()) {
         tell(tr("Cannot restore if you have not yet optimized!"));
         return;
     }

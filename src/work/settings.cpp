@@ -21,6 +21,13 @@ std::unique_ptr<RegistryKey> openRecords(const QString &group)
     return platform().openKey(recordKey(group));
 }
 
+void record(const QString &group, const QString &name, const QVariant &value)
+{
+    const auto records = openRecords(group);
+    records->setValue(name, value);
+    records->flush();
+}
+
 QStringList recordedNames(const QString &group)
 {
     QStringList names = openRecords(group)->childKeys();

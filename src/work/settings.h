@@ -14,5 +14,7 @@ QString recordKey(const QString &group);
 
 std::unique_ptr<RegistryKey> openSettings();
 std::unique_ptr<RegistryKey> openRecords(const QString &group);
+/** Writes a record, which is on the disk when this returns. */
+void record(const QString &group, const QString &name, const QVariant &value);
 /** The names in a group of records, in order; the key's unnamed value is none. */
 QStringList recordedNames(const QString &group);

@@ -5,6 +5,9 @@
 
 #include "packageplaces.h"
 #include "taskexport.h"
+#include "work/settings.h"
+
+#include "machine/taskdocument.h"
 
 inline const QString controlKey = QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control");
 inline const QString taskRecordsKey = settingsKey + QStringLiteral("\\Task");
@@ -91,6 +94,42 @@ inline void fillAutomatizerMachine(TestMachine &machine)
     fillPackages(machine);
     fillAutoruns(machine);
     fillEncoder(machine);
+}
+
+/**
+ * What of that an Optimize has taken away, and what holds no record of it: nothing brings that back.
+ * @param machine the same one, or another view of its folder
+ */
+inline QStringList unaccounted(Machine &machine)
+{
+    QStringList missing;
+    const auto services = platform().openKey(servicesKey);
+    for (const QString &service : {QStringLiteral("FontCache"), QStringLiteral("PcaSvc")}) {
+        const bool changed = services->value(service + QStringLiteral("/Start")).toInt() != 2
+                             || machine.isRunning(service) != std::optional(true);
+        if (changed && !recordedNames(QStringLiteral("SVC")).contains(service))
+            missing.append(service);
+    }
+    for (const QString &path : {QStringLiteral("Microsoft\\Windows\\Autochk\\Proxy"),
+                                QStringLiteral("OneDrive Standalone Update Task-S-1-5-21")}) {
+        if (!taskFacts(machine.task(u'\\' + path)->document).enabled
+            && !recordedNames(QStringLiteral("Task")).contains(path))
+            missing.append(path);
+    }
+    const QString package = QStringLiteral("Microsoft.BingNews");
+    if (!machine.registry().find(repositoryKey + u'\\' + package + QStringLiteral("_1.0.0.0_x64__8wekyb3d8bbwe"))
+        && !recordedNames(QStringLiteral("Packages")).contains(package))
+        missing.append(package);
+    const QStringList autoruns = recordedNames(QStringLiteral("Autorun"));
+    const auto run = platform().openKey(userRunKey);
+    for (const QString &name : {QStringLiteral("Gone"), QStringLiteral("Quoted"), QStringLiteral("Unquoted")}) {
+        if (!run->contains(name) && !autoruns.contains(name))
+            missing.append(name);
+    }
+    const bool terminalStarts = platform().openKey(terminalTaskKey)->value(QStringLiteral("State")).toInt() == 2;
+    if (!terminalStarts && !autoruns.contains(QStringLiteral("StartTerminalOnLoginTask")))
+        missing.append(QStringLiteral("Terminal"));
+    return missing;
 }
 
 class AutomatizerMachine : public TestMachine

@@ -23,6 +23,7 @@ public:
     QStringList allKeys() const override { return settings_.allKeys(); }
     QStringList childKeys() const override { return settings_.childKeys(); }
     QStringList childGroups() const override { return settings_.childGroups(); }
+    void flush() override { settings_.sync(); }
     void beginGroup(const QString &name) override { settings_.beginGroup(name); }
     void endGroup() override { settings_.endGroup(); }
 

@@ -59,6 +59,13 @@ private:
 bool wasOptimized();
 void setOptimized(bool optimized);
 
+/** Notes that an Optimize is under way, so that Restore takes back what one that never came to its end has changed. */
+void markOptimizeBegun();
+void clearOptimizeBegun();
+
+/** Whether Restore has something to go by: an Optimize that has run, or one that was broken off. */
+bool canRestore();
+
 /** Fills servicesToChange and tasksToChange from the records of what was disabled. For the thread that starts the job.
  */
 void fillRestoreLists(WorkThread &worker);

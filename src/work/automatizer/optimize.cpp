@@ -53,6 +53,7 @@ void Automatizer::optimize()
     if (worker_.optimizeRunning != 0)
         return;
     worker_.optimizeRunning = 1;
+    markOptimizeBegun();
     if (worker_.analyzeServiceCount > 0)
         optimizeServices();
     if (worker_.analyzeTaskCount > 0)
@@ -72,6 +73,7 @@ void Automatizer::optimize()
     }
     // Whatever failed: from now on Optimize also brings back what is kept.
     setOptimized(true);
+    clearOptimizeBegun();
 }
 
 void Automatizer::optimizeServices()
@@ -118,7 +120,7 @@ void Automatizer::optimizeTasks()
     for (const TaskRow &task : std::as_const(worker_.automatizerTasks)) {
         const bool done = changeTask(schtasksPath(task.path), u"/DISABLE"_s) == 0;
         if (done)
-            openRecords(u"Task"_s)->setValue(task.path, 1);
+            record(u"Task"_s, task.path, 1);
         report(WorkThread::tr("Task: disable and stop %1").replace(u"%1"_s, task.path) + u' '
                + (done ? WorkThread::tr("done") : WorkThread::tr("error")));
         reportStep(counter);

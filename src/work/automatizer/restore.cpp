@@ -47,8 +47,10 @@ void Automatizer::restore()
     if (worker_.automatizerTweak != 0) {
         // restoreRunning stays set, and what follows counts as a Restore until the program ends.
         restoreTweaks();
+        clearOptimizeBegun();
         return;
     }
+    clearOptimizeBegun();
     report(StatusLine::restoredWithoutTweaks);
     worker_.restoreRunning = 0;
 }

@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString optimizedSetting = u"optimized"_s;
+const QString begunSetting = u"optimizeBegun"_s;
 
 void forgetRecords(const QString &group)
 {
@@ -29,6 +30,23 @@ bool wasOptimized()
 void setOptimized(bool optimized)
 {
     openSettings()->setValue(optimizedSetting, optimized ? 1 : 0);
+}
+
+void markOptimizeBegun()
+{
+    const auto settings = openSettings();
+    settings->setValue(begunSetting, 1);
+    settings->flush();
+}
+
+void clearOptimizeBegun()
+{
+    openSettings()->remove(begunSetting);
+}
+
+bool canRestore()
+{
+    return wasOptimized() || openSettings()->value(begunSetting, 0).toInt() == 1;
 }
 
 void fillRestoreLists(WorkThread &worker)

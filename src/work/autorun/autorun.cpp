@@ -4,6 +4,7 @@
 
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
+#include "work/errorlog.h"
 #include "work/settings.h"
 #include "work/workthread.h"
 
@@ -100,14 +101,20 @@ void disableAutorun(const AutorunEntry &entry)
 
 void disableRunValue(const AutorunEntry &entry)
 {
+    // The record is all that brings the value back: it goes first, and without it the value stays.
+    const QString text = entry.command + u'=' + entry.path;
+    record(u"Autorun"_s, entry.name, text);
+    if (openRecords(u"Autorun"_s)->value(entry.name).toString() != text) {
+        LogError(u"disableRunValue: "_s + entry.path + u" can't be recorded and stays"_s);
+        return;
+    }
     platform().openKey(keyOf(entry))->remove(valueNameOf(entry));
-    openRecords(u"Autorun"_s)->setValue(entry.name, entry.command + u'=' + entry.path);
 }
 
 void disablePackagedTask(const AutorunEntry &entry)
 {
     platform().openKey(entry.path)->setValue(u"State"_s, taskOff);
-    openRecords(u"Autorun"_s)->setValue(entry.name, entry.path + u'=');
+    record(u"Autorun"_s, entry.name, entry.path + u'=');
 }
 
 void enableAutorun(const AutorunEntry &entry)
@@ -120,8 +127,12 @@ void enableAutorun(const AutorunEntry &entry)
 
 void enableRunValue(const QString &key, const QString &name, const QString &command)
 {
-    if (canBeRestored(command))
-        platform().openKey(key)->setValue(name, command);
+    if (!canBeRestored(command))
+        return;
+    const auto run = platform().openKey(key);
+    // Recorded, and never removed. A record ends before an "=", and what is there must not be cut to it.
+    if (run->value(name).toString().section(u'=', 0, 0) != command)
+        run->setValue(name, command);
 }
 
 void enablePackagedTask(const QString &key)

@@ -106,11 +106,10 @@ void recordPackageLine(const QString &line, bool install)
     const QString name = line.split(mark).at(1).split(u": "_s + done).first();
     if (name.isEmpty())
         return; // names the whole group
-    const auto records = openRecords(u"Packages"_s);
     if (install)
-        records->remove(name);
+        openRecords(u"Packages"_s)->remove(name);
     else
-        records->setValue(name, 1);
+        record(u"Packages"_s, name, 1);
 }
 
 QString WorkThread::powerShellProgram()
@@ -133,12 +132,14 @@ int WorkThread::PackageSetState(const QList<PackageRow> &list, bool install)
         forgetOneDriveStartup(row.name);
         command.waitForFinished();
         exitCode = command.exitCode();
+        const bool forAutomatizer = optimizeRunning == 1 || restoreRunning == 1;
+        // Before the pause: nothing would remember the package if the run ended there. One that was installed is
+        // recorded too: under the Automatizer the group only grows.
+        if (forAutomatizer && exitCode == 0)
+            record(u"Packages"_s, row.name, 1);
         pauseFor(settleDelay);
 
-        if (optimizeRunning == 1 || restoreRunning == 1) {
-            // A package that was installed is recorded too: under the Automatizer the group only grows.
-            if (exitCode == 0)
-                openRecords(u"Packages"_s)->setValue(row.name, 1);
+        if (forAutomatizer) {
             reportToAutomatizer(automatizerText(command, row.name, install));
             reportToAutomatizer(StatusLine::step(counter));
         } else {

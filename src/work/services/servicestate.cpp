@@ -44,18 +44,25 @@ public:
 
     void disable()
     {
-        if (!policy_.noStartStop)
+        if (!policy_.noStartStop) {
             run({u"stop"_s, name_});
+            settle();
+        }
         setStartMode(StartDisabled, u"start=disabled"_s);
+        // Before the pause: nothing would remember the service if the run ended there.
         if (exitCode() == 0)
-            openRecords(u"SVC"_s)->setValue(name_, 1);
+            record(u"SVC"_s, name_, 1);
+        settle();
     }
 
     void enable()
     {
         setStartMode(StartAutomatic, u"start=auto"_s);
-        if (!policy_.noStartStop)
+        settle();
+        if (!policy_.noStartStop) {
             run({u"start"_s, name_});
+            settle();
+        }
         openRecords(u"SVC"_s)->remove(name_);
     }
 
@@ -67,8 +74,9 @@ private:
     {
         sc_.start(u"sc"_s, arguments);
         sc_.waitForFinished();
-        pauseFor(policy_.settleDelay);
     }
+
+    void settle() { pauseFor(policy_.settleDelay); }
 
     void setStartMode(StartMode start, const QString &argument)
     {
@@ -78,7 +86,6 @@ private:
             return;
         }
         platform().openKey(WindowsKey::services + u'\\' + name_)->setValue(u"Start"_s, start);
-        pauseFor(policy_.settleDelay);
     }
 
     QString name_;

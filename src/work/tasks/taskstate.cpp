@@ -24,9 +24,10 @@ void WorkThread::TaskStopOrStart(const QList<TaskRow> &list)
                          {u"/CHANGE"_s, u"/TN"_s, task.path, task.disabled == 1 ? u"/DISABLE"_s : u"/ENABLE"_s}))
             continue;
         schtasks.waitForFinished();
-        pauseFor(settleDelay);
+        // Before the pause: nothing would remember the task if the run ended there.
         if (!taskRestoreMode && schtasks.exitCode() == 0)
-            openRecords(u"Task"_s)->setValue(task.path, task.disabled);
+            record(u"Task"_s, task.path, task.disabled);
+        pauseFor(settleDelay);
 
         // The count begins at 0, so that the bar is full only when the closing line comes.
         const QString progress = StatusLine::step(i);
