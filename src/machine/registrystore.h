@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/registryvalue.h"
+#include "platform/registrykey.h"
 
 #include <QByteArray>
 #include <QList>

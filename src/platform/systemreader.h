@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "registryvalue.h"
+#include "registrykey.h"
 
 #include <QList>
 #include <QStringList>

@@ -7,7 +7,7 @@
 #include "subcommands.h"
 #include "work/automatizer/automatizer.h"
 #include "work/statusline.h"
-#include "work/tweaks/tweakrecord.h"
+#include "work/tweaks/tweakcatalogue.h"
 
 using namespace Qt::StringLiterals;
 

@@ -7,7 +7,6 @@
 #include "subcommands.h"
 #include "verify/verify.h"
 #include "work/tweaks/tweakcatalogue.h"
-#include "work/tweaks/tweakrecord.h"
 #include "work/windowsname.h"
 
 #include <QScopeGuard>

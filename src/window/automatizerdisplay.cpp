@@ -7,7 +7,7 @@
 #include "rowtext.h"
 #include "work/automatizer/automatizer.h"
 #include "work/statusline.h"
-#include "work/tweaks/tweakrecord.h"
+#include "work/tweaks/tweakcatalogue.h"
 #include "work/windowsname.h"
 
 using namespace Qt::StringLiterals;

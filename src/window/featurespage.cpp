@@ -8,7 +8,6 @@
 #include "platform/platform.h"
 #include "work/settings.h"
 #include "work/tweaks/tweakcatalogue.h"
-#include "work/tweaks/tweakrecord.h"
 #include "work/windowsname.h"
 #include "work/wmi.h"
 

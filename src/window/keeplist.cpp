@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-
-#include "keeplist.h"
+// The Keep list: the features that the Automatizer and the assistants must leave alone.
 
 #include "kestrune.h"
 #include "work/keepfeatures.h"

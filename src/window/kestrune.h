@@ -14,8 +14,12 @@
 
 class QNetworkAccessManager;
 class QNetworkReply;
+class QStandardItemModel;
 class QTimer;
 struct TweakBox;
+
+/** The check list of both Keep boxes: what the Automatizer leaves alone. Made before main() and never deleted. */
+extern QStandardItemModel *const keepModel;
 
 class Kestrune : public QMainWindow
 {

@@ -2,9 +2,9 @@
 
 #include "command.h"
 
-#include "errorlog.h"
 #include "interruption.h"
 #include "platform/platform.h"
+#include "settings.h"
 
 #include <QDeadlineTimer>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's own settings and records.
+// The program's own settings and records, and its error log.
 
 #pragma once
 
@@ -18,3 +18,9 @@ std::unique_ptr<RegistryKey> openRecords(const QString &group);
 void record(const QString &group, const QString &name, const QVariant &value);
 /** The names in a group of records, in order; the key's unnamed value is none. */
 QStringList recordedNames(const QString &group);
+
+/**
+ * Appends a line with date and time to log.txt in the program folder, if the setting LogError is 1; nobody but the user
+ * sets it, by hand in the registry. Any thread. A log that can't be written is passed over in silence.
+ */
+void LogError(const QString &message);

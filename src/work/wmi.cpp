@@ -2,8 +2,8 @@
 
 #include "wmi.h"
 
-#include "errorlog.h"
 #include "platform/platform.h"
+#include "settings.h"
 
 using namespace Qt::StringLiterals;
 

@@ -5,7 +5,7 @@
 #include "support/suite.h"
 #include "support/windowdriver.h"
 
-#include "window/keeplist.h"
+#include "window/kestrune.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

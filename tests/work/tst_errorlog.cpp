@@ -4,7 +4,7 @@
 #include "joblines.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
-#include "work/errorlog.h"
+#include "work/settings.h"
 
 #include <QDate>
 #include <QDir>

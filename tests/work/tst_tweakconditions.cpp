@@ -7,7 +7,6 @@
 #include "tweakruns.h"
 #include "work/automatizer/automatizer.h"
 #include "work/tweaks/tweakcatalogue.h"
-#include "work/tweaks/tweakrecord.h"
 
 #include <QTest>
 

@@ -6,7 +6,6 @@
 #include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/tweaks/tweakcatalogue.h"
-#include "work/tweaks/tweakrecord.h"
 
 #include <QTest>
 

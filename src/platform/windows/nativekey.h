@@ -16,7 +16,11 @@ public:
     {
     }
 
-    QVariant value(const QString &name, const QVariant &fallback) const override;
+    QVariant value(const QString &name, const QVariant &fallback) const override
+    {
+        // QSettings warns of an empty name.
+        return name.isEmpty() ? QVariant() : settings_.value(name, fallback);
+    }
     void setValue(const QString &name, const QVariant &value) override { settings_.setValue(name, value); }
     void remove(const QString &name) override { settings_.remove(name); }
     bool contains(const QString &name) const override { return settings_.contains(name); }

@@ -4,7 +4,7 @@
 #include "services.h"
 
 #include "platform/platform.h"
-#include "work/errorlog.h"
+#include "work/settings.h"
 #include "work/workthread.h"
 
 #include <QFileInfo>

@@ -4,7 +4,6 @@
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
 #include "work/command.h"
-#include "work/errorlog.h"
 #include "work/interruption.h"
 #include "work/settings.h"
 #include "work/statusline.h"

@@ -5,9 +5,9 @@
 
 #include "platform/platform.h"
 #include "work/command.h"
-#include "work/errorlog.h"
 #include "work/interruption.h"
 #include "work/services/services.h"
+#include "work/settings.h"
 #include "work/statusline.h"
 #include "work/workthread.h"
 

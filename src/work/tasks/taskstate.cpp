@@ -2,7 +2,6 @@
 // Disabling and enabling scheduled tasks.
 
 #include "work/command.h"
-#include "work/errorlog.h"
 #include "work/interruption.h"
 #include "work/settings.h"
 #include "work/statusline.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-
-#include "tweakrecord.h"
+// The stored state of the Features page.
 
 #include "tweakcatalogue.h"
+
 #include "work/settings.h"
 
 using namespace Qt::StringLiterals;
