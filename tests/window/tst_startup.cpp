@@ -38,11 +38,15 @@ WorkThread &workerOf(const Kestrune &window)
 constexpr int stillRunning = 42;
 int runEventLoop()
 {
-    constexpr int enough = 100;
-    QTimer limit;
-    limit.setSingleShot(true);
-    QObject::connect(&limit, &QTimer::timeout, qApp, [] { QCoreApplication::exit(stillRunning); });
-    limit.start(enough);
+    // Whatever waits for the event loop has had its turn by then.
+    constexpr int enoughTurns = 20;
+    int turns = 0;
+    QTimer everyTurn;
+    QObject::connect(&everyTurn, &QTimer::timeout, qApp, [&turns] {
+        if (++turns == enoughTurns)
+            QCoreApplication::exit(stillRunning);
+    });
+    everyTurn.start(0);
     return QApplication::exec();
 }
 
