@@ -9,7 +9,6 @@
 
 #ifdef Q_OS_WIN
 #include "platform/windows/windowsplatform.h"
-#include "platform/windows/windowsreader.h"
 #endif
 
 #include <QDir>

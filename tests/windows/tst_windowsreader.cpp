@@ -2,7 +2,7 @@
 // The real registry read as it is, and a capture that leaves it as it is.
 
 #include "nativecontract.h"
-#include "platform/windows/windowsreader.h"
+#include "platform/windows/windowsplatform.h"
 #include "support/suite.h"
 
 #include <QCoreApplication>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Files that stay as they are while they are looked at and used.
+// Files that stay as they are while they are looked at and used, and who vouches for them.
 
 #pragma once
 
@@ -31,3 +31,9 @@ private:
     Handle handle_;
     QString place_;
 };
+
+/**
+ * Whether the file carries a valid signature of Microsoft's own, down to a root that is Microsoft's: a certificate with
+ * that name alone anyone can make, and any program of the user can have his PC trust its maker.
+ */
+bool isSignedByMicrosoft(const HeldFile &file);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-
-#include "signature.h"
+// Who vouches for a program.
 
 #include "heldfile.h"
 

@@ -6,7 +6,6 @@
 #include "nativekey.h"
 #include "platform/programname.h"
 #include "processtoken.h"
-#include "signature.h"
 #include "systemfolders.h"
 #include "systemobjects.h"
 #include "wmiquery.h"

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "platform/systemreader.h"
 
 class WindowsPlatform final : public Platform
 {
@@ -32,4 +33,12 @@ public:
     quint64 freeMemory() const override;
     RootDrive rootDrive() const override;
     void pause(int milliseconds) const override;
+};
+
+/** The real registry and the service manager, opened for reading alone. */
+class WindowsReader final : public SystemReader
+{
+public:
+    KeyContent key(const QString &path) const override;
+    std::optional<QList<ServiceReport>> serviceReports() const override;
 };

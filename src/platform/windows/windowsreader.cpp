@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The real registry and the service manager, opened for reading alone.
 
-#include "windowsreader.h"
+#include "windowsplatform.h"
 
 #include "systemobjects.h"
 
