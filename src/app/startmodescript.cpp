@@ -2,13 +2,16 @@
 
 #include "startmodescript.h"
 
+#include "platform/windowsfacts.h"
+
 #include <algorithm>
+#include <string>
 #include <string_view>
 
 namespace {
 
 constexpr std::string_view header = "Windows Registry Editor Version 5.00";
-constexpr std::string_view sectionBegin = "[HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\";
+const std::string sectionBegin = '[' + WindowsKey::services.toStdString() + '\\';
 constexpr std::string_view startMode = "\"Start\"=dword:";
 
 /** A name of one key, in letters that are themselves in every code page that the editor may read the file by. */
