@@ -4,7 +4,7 @@
 #include "app/startmodescript.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
-#include "work/services/startmode.h"
+#include "work/services/services.h"
 
 #include <QFile>
 #include <QTest>
