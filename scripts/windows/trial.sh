@@ -147,9 +147,19 @@ run_program() {
 
 # The desktop that Wine starts with a new prefix is there before the service that hands out what programs ask it by.
 restart_desktop() {
+    local service='HKLM\System\CurrentControlSet\Services\RpcSs' attempt
+    # The machine's registry has the service as Windows does, and Wine would look for a program that it hasn't.
+    set_value "$service" ImagePath REG_SZ 'C:\windows\system32\rpcss.exe'
+    wine reg delete "$service" /v DependOnService /f >"$desk_log/rpcss.txt" 2>&1 </dev/null || true
     wineserver -k || true
     wineserver -w
-    quietly rpcss 60 wine net start rpcss
+    quietly reboot 120 wineboot
+    # On a busy computer it needs more than the ten seconds that Wine gives a service to answer, and comes all the same.
+    for attempt in 1 2 3 4 5 6; do
+        timeout 60 wine net start rpcss >>"$desk_log/rpcss.txt" 2>&1 </dev/null || true
+        wine net start 2>/dev/null </dev/null | grep -q 'combase.dll,-5010' && return
+    done
+    fail "Wine's service rpcss doesn't start; what it says is in build/windows/logs"
 }
 
 # Programs of Windows that a rehearsal might start in place of its own
