@@ -6,6 +6,7 @@
 #include "platform/platform.h"
 #include "subcommands.h"
 #include "work/automatizer/automatizer.h"
+#include "work/automatizer/records.h"
 #include "work/statusline.h"
 #include "work/tweaks/tweakcatalogue.h"
 
@@ -53,6 +54,8 @@ void restore(WorkThread &worker, const AutomatizerChoice &choice, LinePrinter &p
 {
     if (!canRestore())
         throw Failure{ExitJobFailed, u"cannot restore what has not yet been optimized"_s};
+    for (const QString &record : distrustedRecords())
+        printer.takeResult(u"passed over"_s, record);
     fillRestoreLists(worker);
     worker.taskRestoreMode = true;
     worker.restoreRunning = 1;

@@ -3,6 +3,7 @@
 #include "jobs.h"
 
 #include "platform/platform.h"
+#include "work/automatizer/records.h"
 #include "work/autorun/autorun.h"
 #include "work/settings.h"
 
@@ -57,7 +58,7 @@ void enableAutoruns(WorkThread &, const QStringList &names)
 {
     if (!platform().isElevated())
         return;
-    for (const QString &recorded : recordedNames(group)) {
+    for (const QString &recorded : trustedAutoruns()) {
         if (!names.contains(recorded, Qt::CaseInsensitive))
             continue;
         enableAutorun(recordedEntry(recorded));

@@ -6,6 +6,7 @@
 
 #include "elevation.h"
 #include "rowtext.h"
+#include "work/automatizer/records.h"
 #include "work/autorun/autorun.h"
 #include "work/settings.h"
 
@@ -76,6 +77,8 @@ void Kestrune::switchCheckedAutoruns()
     if (!mayChange(this))
         return;
     const bool disable = ui.btnAutorun->text() == tr("Disable checked programs");
+    const QStringList programs = disable ? QStringList() : trustedAutoruns();
+    const QStringList records = recordedNames(u"Autorun"_s);
     bool done = false;
     for (const QTableWidgetItem *item : firstCells(ui.tblAutorun)) {
         if (item->checkState() != Qt::Checked)
@@ -83,7 +86,7 @@ void Kestrune::switchCheckedAutoruns()
         const AutorunEntry entry{item->text(), item->toolTip(), ui.tblAutorun->item(item->row(), 1)->text()};
         if (disable) {
             disableAutorun(entry);
-        } else {
+        } else if (programs.contains(entry.name) || !records.contains(entry.name)) {
             enableAutorun(entry);
             // Also where it could not be brought back.
             openRecords(u"Autorun"_s)->remove(entry.name);

@@ -6,6 +6,7 @@
 
 #include "elevation.h"
 #include "rowtext.h"
+#include "work/automatizer/records.h"
 #include "work/packages/packages.h"
 #include "work/settings.h"
 
@@ -88,7 +89,7 @@ void Kestrune::on_btnPackagesViewDisabled_clicked()
     ui.btnPackagesUninst->setText(tr("Install packages"));
     ui.tblPackages->setColumnWidth(1, 0);
     ui.tblPackages->setColumnWidth(2, 0);
-    for (const QString &name : recordedNames(u"Packages"_s))
+    for (const QString &name : trustedPackages())
         addPackageRow(name, QString(), QString());
     ui.lblStatus->setText(countText(tr("Packages uninstalled:"), ui.tblPackages->rowCount()) + u"  "_s);
 }

@@ -6,6 +6,7 @@
 #include "elevation.h"
 #include "messagebox.h"
 #include "rowtext.h"
+#include "work/automatizer/records.h"
 #include "work/command.h"
 #include "work/keepfeatures.h"
 #include "work/services/services.h"
@@ -184,7 +185,7 @@ void Kestrune::on_btnSvcAssist_clicked()
 
 void Kestrune::restoreRecordedServices()
 {
-    workThread->servicesToChange = recordedNames(u"SVC"_s);
+    workThread->servicesToChange = trustedServices();
     workThread->startJob(JobSvcEnable);
 }
 

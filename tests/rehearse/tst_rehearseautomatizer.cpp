@@ -50,6 +50,7 @@ private Q_SLOTS:
     void linesOfTheBuiltInMachines_data();
     void linesOfTheBuiltInMachines();
     void refusals();
+    void recordsPassedOverAreNamed();
     void nothingFoundIsAFailure();
     void choicesLeaveOutWhatTheySay();
     void storedKeepStatesAreTheDefault();
@@ -111,6 +112,16 @@ void TestRehearseAutomatizer::refusals()
     QVERIFY(tooEarly.output.isEmpty());
     QVERIFY(tooEarly.errors.contains("not yet been optimized"));
     QCOMPARE(machine.names(settingsKey), QStringList());
+}
+
+void TestRehearseAutomatizer::recordsPassedOverAreNamed()
+{
+    TestMachine machine;
+    machine.write(settingsKey, u"optimized"_s, 1);
+    machine.write(autorunRecordsKey, u"Debugger"_s, u"\"C:\\a.exe\"=HKEY_LOCAL_MACHINE\\SOFTWARE\\Other\\Debugger"_s);
+    const Ended ended = runOn(machine, {u"restore"_s, u"--no-features"_s});
+    QCOMPARE(ended.exitCode, done);
+    QVERIFY2(ended.output.startsWith("passed over\tAutorun\\Debugger\n"), ended.output.constData());
 }
 
 void TestRehearseAutomatizer::nothingFoundIsAFailure()

@@ -111,6 +111,8 @@ private Q_SLOTS:
     void recordOfAShortenedCommandBringsTheShortOneBack();
     void damagedRecordIsDropped_data();
     void damagedRecordIsDropped();
+    void recordOfAnotherPlaceStays_data();
+    void recordOfAnotherPlaceStays();
     void anyOtherTextOfTheButtonEnables();
 
     // Context menu
@@ -636,8 +638,6 @@ void TestAutorunPage::damagedRecordIsDropped_data()
     QTest::addColumn<QString>("value");
     QTest::newRow("empty") << QString();
     QTest::newRow("no equals sign") << u"a.exe"_s;
-    QTest::newRow("equals signs alone") << u"=="_s;
-    QTest::newRow("a path that is none") << command + u"=nowhere"_s;
 }
 
 void TestAutorunPage::damagedRecordIsDropped()
@@ -654,11 +654,33 @@ void TestAutorunPage::damagedRecordIsDropped()
     QCOMPARE(machine.names(userRunKey), QStringList());
 }
 
+void TestAutorunPage::recordOfAnotherPlaceStays_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::newRow("equals signs alone") << u"=="_s;
+    QTest::newRow("a path that is none") << command + u"=nowhere"_s;
+    QTest::newRow("a key elsewhere") << command + u"=HKEY_LOCAL_MACHINE\\SOFTWARE\\Other\\A"_s;
+    QTest::newRow("a task elsewhere") << u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Other="_s;
+}
+
+void TestAutorunPage::recordOfAnotherPlaceStays()
+{
+    QFETCH(const QString, value);
+    TestMachine machine;
+    machine.addFile(program);
+    machine.write(autorunRecordsKey, u"A"_s, value);
+    const AutorunPage driver;
+    driver.click(viewButton);
+    driver.click(actionButton);
+    QCOMPARE(machine.read(autorunRecordsKey, u"A"_s), QVariant(value));
+    QVERIFY(!machine.machine().registry().find(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Other"_s));
+}
+
 void TestAutorunPage::anyOtherTextOfTheButtonEnables()
 {
     TestMachine machine;
     machine.write(userRunKey, u"A"_s, u"a.exe"_s);
-    machine.write(autorunRecordsKey, u"A"_s, u"old=k\\A"_s);
+    machine.write(autorunRecordsKey, u"A"_s, u"old="_s + userRunKey + u"\\A"_s);
     const AutorunPage driver;
     driver.button(actionButton)->setText(u"neither"_s);
     driver.click(actionButton);

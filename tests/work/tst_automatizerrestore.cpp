@@ -47,6 +47,7 @@ private Q_SLOTS:
     void aSingleAutorunStaysOffWithoutAWord();
     void autorunsComeBack_data();
     void autorunsComeBack();
+    void theFirstPlaceOfAProgramsNameCounts();
     void withoutProgramsServicesAndTasksComeBack();
 
     void theFlagStaysSetAfterFeatures();
@@ -255,8 +256,6 @@ void TestAutomatizerRestore::autorunsComeBack_data()
     row("one quote", u"\"C:\\a.exe="_s + user, userRunKey, u"\"C:\\a.exe"_s);
     row("no command", u'=' + user, userRunKey, {});
     row("no equals sign", u"\"C:\\a.exe\""_s, userRunKey, {}, false);
-    row("the first place of the name counts", u"\"C:\\a.exe\"=HKEY_CURRENT_USER\\Top\\A\\Run\\A"_s,
-        u"HKEY_CURRENT_USER\\Top"_s, u"\"C:\\a.exe\""_s);
 }
 
 void TestAutomatizerRestore::autorunsComeBack()
@@ -281,6 +280,20 @@ void TestAutomatizerRestore::autorunsComeBack()
     // The second part is empty: whatever its name, it is a task.
     QCOMPARE(machine.read(terminalTaskKey, u"State"_s), QVariant(2));
     QCOMPARE(machine.names(autorunRecordsKey), (QStringList{u"A"_s, u"B"_s}));
+}
+
+void TestAutomatizerRestore::theFirstPlaceOfAProgramsNameCounts()
+{
+    TestMachine machine;
+    machine.addFile(u"C:\\a.exe"_s);
+    machine.write(autorunRecordsKey, u"Run"_s, u"\"C:\\a.exe\"="_s + userRunKey + u"\\Run"_s);
+    machine.write(autorunRecordsKey, u"B"_s, terminalTaskKey + u'=');
+    WorkThread worker;
+    withoutFeatures(worker);
+    restore(worker);
+    // The key's own name is the first.
+    QCOMPARE(machine.read(userRunKey.chopped(4), u"Run"_s), QVariant(u"\"C:\\a.exe\""_s));
+    QCOMPARE(machine.names(userRunKey), QStringList());
 }
 
 void TestAutomatizerRestore::withoutProgramsServicesAndTasksComeBack()

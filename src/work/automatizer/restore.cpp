@@ -4,6 +4,7 @@
 #include "automatizer.h"
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
+#include "records.h"
 #include "work/autorun/autorun.h"
 #include "work/settings.h"
 #include "work/statusline.h"
@@ -77,7 +78,7 @@ void Automatizer::restoreTasks()
 
 void Automatizer::restoreAutoruns()
 {
-    const QStringList names = recordedNames(u"Autorun"_s);
+    const QStringList names = trustedAutoruns();
     // A single one stays off, without a word.
     if (names.size() < 2)
         return;
@@ -101,7 +102,7 @@ void Automatizer::restorePackages()
 {
     QList<PackageRow> &packages = worker_.packagesToChange;
     packages.clear();
-    for (const QString &name : recordedNames(u"Packages"_s))
+    for (const QString &name : trustedPackages())
         packages.append({name, {}, u""_s});
     if (packages.isEmpty())
         return;

@@ -3,6 +3,7 @@
 
 #include "automatizer.h"
 
+#include "records.h"
 #include "work/settings.h"
 #include "work/workthread.h"
 
@@ -13,10 +14,10 @@ namespace {
 const QString optimizedSetting = u"optimized"_s;
 const QString begunSetting = u"optimizeBegun"_s;
 
-void forgetRecords(const QString &group)
+void forgetRecords(const QString &group, const QStringList &names)
 {
     const auto records = openRecords(group);
-    for (const QString &name : recordedNames(group))
+    for (const QString &name : names)
         records->remove(name);
 }
 
@@ -51,7 +52,7 @@ bool canRestore()
 
 void fillRestoreLists(WorkThread &worker)
 {
-    worker.servicesToChange = recordedNames(u"SVC"_s);
+    worker.servicesToChange = trustedServices();
     worker.tasksToChange.clear();
     for (const QString &path : recordedNames(u"Task"_s)) {
         // These belong to the tasks' own backup.
@@ -62,7 +63,7 @@ void fillRestoreLists(WorkThread &worker)
 
 void closeRestore()
 {
-    forgetRecords(u"Autorun"_s);
-    forgetRecords(u"Tweak"_s);
+    forgetRecords(u"Autorun"_s, trustedAutoruns());
+    forgetRecords(u"Tweak"_s, recordedNames(u"Tweak"_s));
     setOptimized(false);
 }

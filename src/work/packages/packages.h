@@ -9,6 +9,9 @@
 /** OneDrive's installer is no package; this row stands for it. */
 inline const QString oneDriveName = QStringLiteral("MS OneDrive");
 
+/** The name under which the page records the old Xbox app: with its remark, in the user's language. */
+QString oldXboxAppRecord();
+
 /** Packages that can be removed. Compared with case; a leading "!" switches an entry off. */
 QStringList removablePackageNames();
 

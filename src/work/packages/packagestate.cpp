@@ -76,14 +76,18 @@ QString pageText(const QString &header, const QString &name, int exitCode)
 {
     if (name == "Microsoft.XboxApp"_L1 && exitCode == 0) {
         // The word is the same in every language here, so that the page takes no record of it in some.
-        return header + u"   package: "_s + name + u" ("_s + WorkThread::tr("Old Xbox App, no longer supported!")
-               + u") : "_s + WorkThread::tr("done");
+        return header + u"   package: "_s + oldXboxAppRecord() + u": "_s + WorkThread::tr("done");
     }
     return header + u"   "_s + WorkThread::tr("package: ") + name + u": "_s
            + (exitCode == 0 ? WorkThread::tr("done") : WorkThread::tr("error"));
 }
 
 } // namespace
+
+QString oldXboxAppRecord()
+{
+    return u"Microsoft.XboxApp ("_s + WorkThread::tr("Old Xbox App, no longer supported!") + u") "_s;
+}
 
 bool isPackageInstalled(const QString &name)
 {

@@ -15,13 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/** Own and shared processes, per-user services and their instances, and own processes that may show windows. */
-bool isListedType(const QString &type)
-{
-    static const QStringList types{u"16"_s, u"32"_s, u"96"_s, u"224"_s, u"272"_s};
-    return types.contains(type);
-}
-
 /** Cuts everything up to and including the first @p mark; false where there is none. */
 bool cutThrough(QStringView &text, QStringView mark)
 {
@@ -54,6 +47,12 @@ QSet<QString> runningServices(const QString &report)
 
 } // namespace
 
+bool isListedServiceType(const QString &type)
+{
+    static const QStringList types{u"16"_s, u"32"_s, u"96"_s, u"224"_s, u"272"_s};
+    return types.contains(type);
+}
+
 void WorkThread::SvcMakeList()
 {
     WriteStartModeBackup();
@@ -70,7 +69,7 @@ void WorkThread::SvcMakeList()
     for (const QString &name : key->childGroups()) {
         endIfInterrupted();
         key->beginGroup(name);
-        if (const QString type = key->value(u"Type"_s).toString(); isListedType(type)) {
+        if (const QString type = key->value(u"Type"_s).toString(); isListedServiceType(type)) {
             ServiceRow row;
             row.name = name;
             row.type = type;

@@ -18,6 +18,12 @@ QStringList manualStartServiceNames();
 /** Services that the start-mode backup leaves out. Compared with case. */
 QStringList startModeBackupExclusions();
 
+/**
+ * Whether a type, the number in the service's key as a text, is one of those that are listed: own and shared processes,
+ * per-user services and their instances, and own processes that may show windows. Drivers are of others.
+ */
+bool isListedServiceType(const QString &type);
+
 /** Host path of the backup, a registry script. */
 QString startModeBackupFile();
 
