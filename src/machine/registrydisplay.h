@@ -19,7 +19,7 @@ QString rawValueText(const RegistryValue &value);
 QString valueName(const RegistryValue &value);
 
 /**
- * The string behind a registry text that stands for one in a DLL, such as "@%SystemRoot%\system32\x.dll,-100", by the
+ * The string that a registry text names in a DLL, such as "@%SystemRoot%\system32\x.dll,-100", by the
  * machine's DLLs and environment, as the service manager shows it. A text that is no reference, and a reference that
  * leads nowhere, come back as they are.
  */

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// kestrune-rehearse list: what a machine has. It reads the machine itself: the logic's own lists leave files and keys
-// behind.
+// kestrune-rehearse list: what a machine has. It reads the machine itself: the logic's own lists make files and keys.
 
 #include "machine/machine.h"
 #include "machine/registrydisplay.h"
