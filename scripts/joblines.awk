@@ -17,5 +17,5 @@ $2 ~ /^pgr:max:/ { max = substr($2, 9); next }
 $2 ~ /^pgr:value:/ { if (live && max > 0) { printf "\r\033[K  %d of %d", substr($2, 11), max; fflush() }; next }
 $1 != "automatizerValueChanged" || $2 == "tweaksDone" { next }
 $2 == "" { end_section(); next }
-{ sub(/\r$/, "", $2); if (++lines <= most) { clear_progress(); printf "    %s\n", substr($2, 1, 110); fflush() } }
+{ sub(/\\r\\n.*$/, "", $2); if (++lines <= most) { clear_progress(); printf "    %s\n", substr($2, 1, 110); fflush() } }
 END { end_section(); clear_progress() }

@@ -2,6 +2,8 @@
 
 #include "registrydisplay.h"
 
+#include "console/printable.h"
+
 #include <QCryptographicHash>
 #include <QtEndian>
 
@@ -36,9 +38,7 @@ constexpr std::array typeRows{
 
 QString quoted(const QString &text)
 {
-    QString result = text;
-    result.replace(u'\r', "\\r"_L1).replace(u'\n', "\\n"_L1).replace(QChar(u'\0'), "\\0"_L1);
-    return u'"' + result + u'"';
+    return u'"' + printable(text) + u'"';
 }
 
 QString bytesText(const QByteArray &data)

@@ -2,6 +2,7 @@
 
 #include "previewreport.h"
 
+#include "console/printable.h"
 #include "previewtexts.h"
 
 #include <QJsonArray>
@@ -23,14 +24,15 @@ QString itemText(const PreviewItem &item)
     QString text = u"  "_s + item.title;
     if (!item.name.isEmpty() && item.name != item.title)
         text += u" ["_s + item.name + u']';
-    text += u"\n      "_s + sidesText(sides.before, sides.optimized, sides.restored);
+    text = printable(text) + u"\n      "_s + printable(sidesText(sides.before, sides.optimized, sides.restored));
     if (countsAsChange(item))
         text += u": "_s + QString(textsOf(item.comesBack()).one);
     text += u'\n';
     for (const PreviewDetail &detail : item.details) {
         const QString place = detail.place.isEmpty() ? QString() : u" ("_s + detail.place + u')';
-        text += u"        "_s + detail.what + place + u": "_s
-                + sidesText(detail.before, detail.optimized, detail.restored) + u'\n';
+        text += printable(u"        "_s + detail.what + place + u": "_s
+                          + sidesText(detail.before, detail.optimized, detail.restored))
+                + u'\n';
     }
     return text;
 }
@@ -94,5 +96,5 @@ QByteArray previewJson(const QList<PreviewItem> &items)
     QJsonArray array;
     for (const PreviewItem &item : items)
         array.append(itemJson(item));
-    return QJsonDocument(QJsonObject{{u"counts"_s, counts}, {u"items"_s, array}}).toJson();
+    return printableJson(QJsonDocument(QJsonObject{{u"counts"_s, counts}, {u"items"_s, array}}));
 }

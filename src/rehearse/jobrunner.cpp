@@ -2,6 +2,7 @@
 
 #include "jobrunner.h"
 
+#include "console/printable.h"
 #include "console/programinterruption.h"
 #include "subcommands.h"
 #include "work/interruption.h"
@@ -22,10 +23,7 @@ void LinePrinter::take(QLatin1StringView signal, const QString &line)
 
 void LinePrinter::takeResult(const QString &name, const QString &text)
 {
-    QString shown = text;
-    if (!json_)
-        shown.replace(u'\r', u"\\r"_s).replace(u'\n', u"\\n"_s);
-    printPair(u"name"_s, name, u"text"_s, shown);
+    printPair(u"name"_s, name, u"text"_s, text);
 }
 
 void LinePrinter::printPair(const QString &firstKey, const QString &first, const QString &secondKey,
@@ -33,9 +31,10 @@ void LinePrinter::printPair(const QString &firstKey, const QString &first, const
 {
     progress_.clear();
     if (json_)
-        print(QJsonDocument(QJsonObject{{firstKey, first}, {secondKey, second}}).toJson(QJsonDocument::Compact) + '\n');
+        print(printableJson(QJsonDocument(QJsonObject{{firstKey, first}, {secondKey, second}}), QJsonDocument::Compact)
+              + '\n');
     else
-        print(first + u'\t' + second + u'\n');
+        print(printable(first) + u'\t' + printable(second) + u'\n');
     std::fflush(stdout);
 }
 

@@ -9,7 +9,7 @@
 #include <functional>
 #include <optional>
 
-/** Prints the lines as they come: "signal<TAB>line", or an object of JSON each. */
+/** Prints the lines as they come: "signal<TAB>line" with control characters written out, or an object of JSON each. */
 class LinePrinter
 {
 public:
@@ -20,7 +20,7 @@ public:
     }
 
     void take(QLatin1StringView signal, const QString &line);
-    /** A text that a job left. Its line breaks are shown, so that it stays on its line. */
+    /** A text that a job left. */
     void takeResult(const QString &name, const QString &text);
 
 private:

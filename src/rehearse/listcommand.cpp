@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse list: what a machine has. It reads the machine itself: the logic's own lists make files and keys.
 
+#include "console/printable.h"
 #include "machine/machine.h"
 #include "machine/registrydisplay.h"
 #include "machine/taskdocument.h"
@@ -41,16 +42,18 @@ std::optional<quint32> number(const RegistryStore &store, std::optional<KeyId> k
 }
 
 /** Rows in columns as wide as they need to be; the last one is left ragged. */
-QString table(const QList<QStringList> &rows)
+QString table(QList<QStringList> rows)
 {
     QList<qsizetype> widths;
-    for (const QStringList &row : rows) {
+    for (QStringList &row : rows)
+        std::transform(row.cbegin(), row.cend(), row.begin(), printable);
+    for (const QStringList &row : std::as_const(rows)) {
         widths.resize(std::max(widths.size(), row.size()));
         for (qsizetype i = 0; i < row.size(); ++i)
             widths[i] = std::max(widths[i], row.at(i).size());
     }
     QString text;
-    for (const QStringList &row : rows) {
+    for (const QStringList &row : std::as_const(rows)) {
         QString line;
         for (qsizetype i = 0; i + 1 < row.size(); ++i)
             line += row.at(i).leftJustified(widths.at(i)) + u"  "_s;
@@ -65,7 +68,7 @@ QString table(const QList<QStringList> &rows)
 void printRows(const QList<QStringList> &rows, const QJsonArray &array, bool json)
 {
     if (json)
-        print(QJsonDocument(array).toJson());
+        print(printableJson(QJsonDocument(array)));
     else
         print(table(rows));
 }
@@ -193,10 +196,10 @@ void listProcesses(Machine &machine, const QString &, bool json)
 {
     const QStringList processes = machine.processes();
     if (json)
-        print(QJsonDocument(QJsonArray::fromStringList(processes)).toJson());
+        print(printableJson(QJsonDocument(QJsonArray::fromStringList(processes))));
     else
         for (const QString &process : processes)
-            print(process + u'\n');
+            print(printable(process) + u'\n');
 }
 
 void listRegistry(Machine &machine, const QString &path, bool json)
@@ -216,11 +219,11 @@ void listRegistry(Machine &machine, const QString &path, bool json)
     if (json) {
         const QJsonObject object{
             {u"key"_s, path}, {u"subkeys"_s, QJsonArray::fromStringList(subkeys)}, {u"values"_s, values}};
-        print(QJsonDocument(object).toJson());
+        print(printableJson(QJsonDocument(object)));
         return;
     }
     for (const QString &subkey : subkeys)
-        print(u'[' + subkey + u"]\n"_s);
+        print(u'[' + printable(subkey) + u"]\n"_s);
     print(table(rows));
 }
 

@@ -2,6 +2,7 @@
 // kestrune-rehearse: makes rehearsal machines, runs the logic on them, shows what it changes.
 
 #include "console/console.h"
+#include "console/printable.h"
 #include "console/programinterruption.h"
 #include "machine/machineerror.h"
 #include "platform/processground.h"
@@ -9,6 +10,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -111,7 +113,9 @@ void complain(const QString &message)
 {
     stopIfInterrupted();
     std::fflush(stdout);
-    std::fprintf(stderr, "%s: %s\n", program.data(), message.toUtf8().constData());
+    QStringList lines = message.split(u'\n');
+    std::transform(lines.cbegin(), lines.cend(), lines.begin(), printable);
+    std::fprintf(stderr, "%s: %s\n", program.data(), lines.join(u'\n').toUtf8().constData());
 }
 
 int runAndComplain(const QStringList &words)

@@ -3,6 +3,7 @@
 #include "progress.h"
 
 #include "console/console.h"
+#include "console/printable.h"
 #include "console/programinterruption.h"
 
 #include <QDeadlineTimer>
@@ -35,7 +36,7 @@ void Progress::show(const QString &step, int done, int total)
         return;
     lastShown_ = now;
     const QString percent = total > 0 ? u"%1% "_s.arg(100 * done / total, 3) : QString();
-    const QString line = percent + (step.size() > width ? u"…"_s + step.last(width - 1) : step);
+    const QString line = percent + printable(step.size() > width ? u"…"_s + step.last(width - 1) : step);
     clear();
     std::fputs(line.toUtf8().constData(), stderr);
     std::fflush(stderr);

@@ -2,6 +2,7 @@
 
 #include "verify.h"
 
+#include "console/printable.h"
 #include "preview/previewtexts.h"
 
 #include <QJsonArray>
@@ -48,8 +49,9 @@ qsizetype countOf(const QList<VerifiedItem> &items, Verdict verdict)
 
 QString detailText(const VerifiedDetail &detail)
 {
-    return u"      %1: now %2, should be %3, was %4 before\n"_s.arg(
-        detail.what, shownSide(detail.now), shownSide(detail.recorded), shownSide(detail.before));
+    return printable(u"      %1: now %2, should be %3, was %4 before"_s.arg(
+               detail.what, shownSide(detail.now), shownSide(detail.recorded), shownSide(detail.before)))
+           + u'\n';
 }
 
 QString itemText(const VerifiedItem &item)
@@ -62,7 +64,7 @@ QString itemText(const VerifiedItem &item)
         text += u" ("_s + item.name + u')';
     if (!item.why.isEmpty())
         text += u" -- "_s + item.why;
-    text += u'\n';
+    text = printable(text) + u'\n';
     for (const VerifiedDetail &detail : item.details.first(std::min(item.details.size(), mostDetails)))
         text += detailText(detail);
     if (item.details.size() > mostDetails)
@@ -122,7 +124,7 @@ QByteArray verifyJson(const QList<VerifiedItem> &items)
                                  {u"why"_s, item.why},
                                  {u"details"_s, details}});
     }
-    return QJsonDocument(QJsonObject{{u"counts"_s, counts}, {u"items"_s, array}}).toJson();
+    return printableJson(QJsonDocument(QJsonObject{{u"counts"_s, counts}, {u"items"_s, array}}));
 }
 
 bool allInForce(const QList<VerifiedItem> &items)

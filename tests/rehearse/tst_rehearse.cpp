@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse, run as the process it is.
 
+#include "support/registryvalues.h"
 #include "support/rehearsing.h"
 #include "support/smallmachine.h"
 #include "support/suite.h"
@@ -12,9 +13,48 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/** Breaks its line, clears a terminal by two spellings of the same command, and turns what comes after it around. */
+const QString tricky = u"a\r\nforged\x1b[2J\u009b2J\u202e\u2028\u0007\u007fz"_s;
+/** The end of it as it is to be shown, in a text and in JSON. */
+const QByteArray shownTricky = R"(forged\x1b[2J\x9b2J\u202e\u2028\x07\x7fz)";
+
+/** Has the tricky name wherever a machine has names. */
+void plantTrickyNames(Machine &machine)
+{
+    const QString services = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s;
+    setNumber(machine, services + tricky, u"Type"_s, 0x10);
+    setNumber(machine, services + tricky, u"Start"_s, 2);
+    setText(machine, services + tricky, u"DisplayName"_s, tricky);
+    machine.setRunning(tricky, true);
+    machine.setTask({u"\\"_s + tricky, u"<Task><RegistrationInfo><Description>"_s + tricky
+                                           + u"</Description></RegistrationInfo></Task>"_s});
+    setText(machine, u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run"_s, tricky, tricky);
+    setText(machine,
+            u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\CurrentVersion\\"
+            "AppModel\\Repository\\Packages\\"_s
+                + tricky,
+            u"DisplayName"_s, tricky);
+    setText(machine, u"HKEY_CURRENT_USER\\Software\\Tricky\\"_s + tricky, tricky, tricky);
+    setText(machine, u"HKEY_CURRENT_USER\\Software\\Tricky"_s, tricky, tricky);
+    machine.setProcesses({tricky});
+    machine.setBootOption(tricky, tricky);
+}
+
+/** Whether it is lines of text that no terminal obeys. The blank between signal and line is a tab. */
+bool isPlain(const QByteArray &output)
+{
+    const QString text = QString::fromUtf8(output).remove(u'\n').remove(u'\t');
+    return std::none_of(text.begin(), text.end(), [](QChar unit) {
+        return unit.category() == QChar::Other_Control || unit.category() == QChar::Separator_Line
+               || unit.direction() == QChar::DirRLO;
+    });
+}
 
 /** A folder to work in, with the untouched machine "a" and the machine "b" to change. */
 class Workplace
@@ -69,6 +109,8 @@ private Q_SLOTS:
     void listServicesAsJson();
     void listProcesses();
     void listRegistry();
+    void controlCharactersAreShownEscaped_data();
+    void controlCharactersAreShownEscaped();
     void readingChangesNothing();
     void runServices();
     void runDisablesOnWindows11();
@@ -310,6 +352,36 @@ void TestRehearse::listRegistry()
             rehearse({u"list"_s, work.a, u"registry"_s, u"HKCU\\Software\\Types"_s, u"--json"_s}).output)
             .object();
     QCOMPARE(json.value("values"_L1).toArray().size(), 7);
+}
+
+void TestRehearse::controlCharactersAreShownEscaped_data()
+{
+    QTest::addColumn<QString>("arguments");
+    for (const char *command :
+         {"list|%1|services", "list|%1|tasks", "list|%1|packages", "list|%1|autorun", "list|%1|processes",
+          "list|%1|registry|HKEY_CURRENT_USER\\Software\\Tricky", "run|%1|autorun", "diff|%1|%2", "diff|%2|%1"})
+        QTest::newRow(command) << QString(QLatin1StringView(command));
+}
+
+void TestRehearse::controlCharactersAreShownEscaped()
+{
+    QFETCH(QString, arguments);
+    const Workplace work;
+    plantTrickyNames(*Machine::open(work.b));
+    QStringList words = arguments.split(u'|');
+    words.replaceInStrings(u"%1"_s, work.b).replaceInStrings(u"%2"_s, work.a);
+
+    const Ended text = rehearse(words);
+    QVERIFY2(text.exitCode == done, text.errors.constData());
+    QVERIFY2(isPlain(text.output), text.output.constData());
+    QVERIFY2(text.output.contains("a\\r\\n" + shownTricky), text.output.constData());
+
+    const Ended json = rehearse(words + QStringList{u"--json"_s});
+    QVERIFY2(json.exitCode == done, json.errors.constData());
+    QVERIFY2(isPlain(json.output), json.output.constData());
+    for (const QByteArray &line : json.output.split('\n')) // "run" prints an object a line
+        QVERIFY2(words.first() != u"run"_s || line.isEmpty() || QJsonDocument::fromJson(line).isObject(), line);
+    QVERIFY(words.first() == u"run"_s || !QJsonDocument::fromJson(json.output).isNull());
 }
 
 void TestRehearse::readingChangesNothing()

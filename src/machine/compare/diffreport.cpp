@@ -2,6 +2,7 @@
 
 #include "diffreport.h"
 
+#include "console/printable.h"
 #include "machinediff.h"
 #include "webpage.h"
 
@@ -77,13 +78,13 @@ QString diffText(const QList<DiffRow> &rows)
 
     QMap<DiffKind, qsizetype> widths;
     for (const DiffRow &row : rows) {
-        if (const qsizetype width = fullPath(row).size(); width <= widestColumn)
+        if (const qsizetype width = printable(fullPath(row)).size(); width <= widestColumn)
             widths[row.kind] = std::max(widths[row.kind], width);
     }
     QString text;
     for (const DiffRow &row : rows) {
-        text += kindName(row.kind).leftJustified(kindColumn) + fullPath(row).leftJustified(widths[row.kind]) + u"  "_s
-                + shown(row.before) + u" -> "_s + shown(row.after) + u'\n';
+        text += kindName(row.kind).leftJustified(kindColumn) + printable(fullPath(row)).leftJustified(widths[row.kind])
+                + u"  "_s + printable(shown(row.before)) + u" -> "_s + printable(shown(row.after)) + u'\n';
     }
     return text;
 }
@@ -101,7 +102,7 @@ QByteArray diffJson(const QList<DiffRow> &rows)
             {u"after"_s, side(row.after)},
         });
     }
-    return QJsonDocument(array).toJson();
+    return printableJson(QJsonDocument(array));
 }
 
 QString diffHtml(const QList<DiffRow> &rows, const QString &before, const QString &after)

@@ -7,7 +7,7 @@
 
 #include <QList>
 
-/** A line for each row, in columns; empty where nothing differs. */
+/** A line for each row, in columns, with control characters written out; empty where nothing differs. */
 QString diffText(const QList<DiffRow> &rows);
 /** An array of objects with kind, path, name, before and after; null where there is nothing. */
 QByteArray diffJson(const QList<DiffRow> &rows);
