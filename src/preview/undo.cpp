@@ -2,13 +2,16 @@
 
 #include "undo.h"
 
+#include "console/printable.h"
 #include "machine/compare/machinediff.h"
 #include "machine/database.h"
 #include "machine/machine.h"
+#include "machine/registrydisplay.h"
 #include "platform/windowsfacts.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QStringEncoder>
 
@@ -20,9 +23,35 @@ namespace {
 
 const QString packagesPart = WindowsKey::packagesPart + u'\\';
 
+// Where the programs of the commands are, whatever lies in the folder in which they are given. The prompt's own
+// commands are given to one that runs nothing of the user's first.
+const QString system32 = u"%SystemRoot%\\System32\\"_s;
+const QString prompt = u"cmd.exe /d /c "_s;
+
 QString quoted(const QString &text)
 {
     return u'"' + text + u'"';
+}
+
+/** Whether a command has it as one text in quotation marks, and as nothing else than it is. */
+bool canBeQuoted(const QString &text)
+{
+    return printable(text) == text && !text.contains(u'"') && !text.contains(u'%') && !text.endsWith(u'\\');
+}
+
+/** Whether a command has it as one word without quotation marks that is no switch. */
+bool isWord(const QString &text)
+{
+    static const QRegularExpression word(QRegularExpression::anchoredPattern(u"[A-Za-z0-9{][A-Za-z0-9._{}-]*"_s));
+    return word.match(text).hasMatch();
+}
+
+/** Whether Windows can have a file of that path: what is a pattern, a stream or a step up means other files. */
+bool isFilePath(const QString &path)
+{
+    static const QRegularExpression form(uR"(^[A-Za-z]:(\\[^\\/:*?"<>|]+)+$)"_s);
+    const QStringList names = path.split(u'\\');
+    return form.match(path).hasMatch() && !names.contains(u"."_s) && !names.contains(u".."_s);
 }
 
 bool isOfPackage(const QString &key)
@@ -46,14 +75,15 @@ public:
     {
         bringFilesBack();
         bringPackagesBack(registry);
-        each(DiffKind::Attribute, [this](const DiffRow &row) { setAttributes(row.path); });
-        each(DiffKind::Security, [this](const DiffRow &row) { setSecurity(row.path); });
+        eachOfFiles(DiffKind::Attribute, [this](const DiffRow &row) { setAttributes(row); });
+        eachOfFiles(DiffKind::Security, [this](const DiffRow &row) { setSecurity(row); });
         each(DiffKind::BootOption, [this](const DiffRow &row) { setBootOption(row); });
         each(DiffKind::Task, [this](const DiffRow &row) { switchTask(row); });
         each(DiffKind::Service, [this](const DiffRow &row) { switchService(row); });
     }
 
     QStringList commands() const { return commands_; }
+    QStringList leftOut() const { return leftOut_; }
     QList<UndoFile> files() const { return files_; }
 
 private:
@@ -66,24 +96,59 @@ private:
         }
     }
 
+    /**
+     * Adds a command whose program is of System32, with texts in quotation marks at its places %1 and %2.
+     * @param what is brought back by it, and left out where the command can't say it
+     */
+    void give(const QString &what, QString command, const QStringList &texts)
+    {
+        if (!std::all_of(texts.begin(), texts.end(), canBeQuoted)) {
+            leaveOut(what);
+            return;
+        }
+        for (const QString &text : texts)
+            command = command.arg(quoted(text));
+        commands_.append(system32 + command);
+    }
+
+    void leaveOut(const QString &what)
+    {
+        if (!leftOut_.contains(printable(what)))
+            leftOut_.append(printable(what));
+    }
+
+    static QString named(const DiffRow &row) { return kindName(row.kind) + u' ' + row.path; }
+
+    /** The rows of files and their rights and attributes that are about a file which Windows can have. */
+    template<typename Visit>
+    void eachOfFiles(DiffKind kind, Visit visit)
+    {
+        each(kind, [&](const DiffRow &row) {
+            if (isFilePath(row.path))
+                visit(row);
+            else
+                leaveOut(named(row));
+        });
+    }
+
     void bringFilesBack()
     {
         QList<DiffRow> gone;
         QList<DiffRow> come;
-        each(DiffKind::File, [&](const DiffRow &row) {
+        eachOfFiles(DiffKind::File, [&](const DiffRow &row) {
             if (row.path.endsWith("\\hiberfil.sys"_L1, Qt::CaseInsensitive))
-                commands_.append(row.before.isEmpty() ? u"powercfg -h off"_s : u"powercfg -h on"_s);
+                give(named(row), row.before.isEmpty() ? u"powercfg.exe -h off"_s : u"powercfg.exe -h on"_s, {});
             else if (row.after.isEmpty())
                 gone.append(row);
             else if (row.before.isEmpty())
                 come.append(row);
             else
-                putContentBack(row.path);
+                putContentBack(row);
         });
         for (const DiffRow &row : std::as_const(gone))
             renameBack(row, come);
         for (const DiffRow &row : std::as_const(come))
-            commands_.append((row.after == "folder"_L1 ? u"rd "_s : u"del /f "_s) + quoted(row.path));
+            give(named(row), prompt + (row.after == "folder"_L1 ? u"rd %1"_s : u"del /f %1"_s), {row.path});
     }
 
     /** A file of the same folder and size that has come since is what it was renamed to. */
@@ -94,12 +159,12 @@ private:
             return folder(row.path) == folder(gone.path) && row.after == gone.before;
         });
         if (renamed != come.end()) {
-            commands_.append(u"ren "_s + quoted(renamed->path) + u' ' + quoted(gone.path.section(u'\\', -1)));
+            give(named(gone), prompt + u"ren %1 %2"_s, {renamed->path, gone.path.section(u'\\', -1)});
             come.erase(renamed);
         } else if (gone.before == "folder"_L1) {
-            commands_.append(u"md "_s + quoted(gone.path));
+            give(named(gone), prompt + u"md %1"_s, {gone.path});
         } else if (!isOfOneDrive(gone.path)) {
-            putContentBack(gone.path);
+            putContentBack(gone);
         }
     }
 
@@ -109,14 +174,19 @@ private:
         return path.contains("\\Microsoft\\OneDrive\\"_L1, Qt::CaseInsensitive);
     }
 
-    void putContentBack(const QString &path)
+    void putContentBack(const DiffRow &row)
     {
-        QFile file(before_.hostPath(path));
+        const QString name = QString::number(files_.size() + 1) + u'-' + row.path.section(u'\\', -1);
+        const QString place = filesFolder_ + u'\\' + name;
+        if (!canBeQuoted(place) || !canBeQuoted(row.path)) {
+            leaveOut(named(row));
+            return;
+        }
+        QFile file(before_.hostPath(row.path));
         if (!file.open(QIODevice::ReadOnly))
-            throw MachineError{u"%1: %2"_s.arg(path, file.errorString())};
-        const QString name = QString::number(files_.size() + 1) + u'-' + path.section(u'\\', -1);
+            throw MachineError{u"%1: %2"_s.arg(row.path, file.errorString())};
         files_.append({name, file.readAll()});
-        commands_.append(u"copy /y "_s + quoted(filesFolder_ + u'\\' + name) + u' ' + quoted(path));
+        give(named(row), prompt + u"copy /y %1 %2"_s, {place, row.path});
     }
 
     void bringPackagesBack(const QList<RegistryEdit> &registry)
@@ -130,65 +200,84 @@ private:
         }
         families.removeDuplicates();
         for (const QString &family : std::as_const(families)) {
-            commands_.append(u"powershell -Command Get-AppxPackage -allusers "_s + family
-                             + u" \" | Foreach {Add-AppxPackage -DisableDevelopmentMode -Register "
-                               "\\\"$($_.InstallLocation)\\AppXManifest.xml\\\"}\""_s);
+            // PowerShell would take any other sign for one of its own.
+            if (isWord(family))
+                commands_.append(
+                    system32 + u"WindowsPowerShell\\v1.0\\powershell.exe -Command Get-AppxPackage -allusers "_s + family
+                    + u" \" | Foreach {Add-AppxPackage -DisableDevelopmentMode -Register "
+                      "\\\"$($_.InstallLocation)\\AppXManifest.xml\\\"}\""_s);
+            else
+                leaveOut(u"package "_s + family);
         }
         const bool oneDrive = std::any_of(rows_.begin(), rows_.end(), [](const DiffRow &row) {
             return row.kind == DiffKind::File && row.after.isEmpty() && isOfOneDrive(row.path);
         });
         if (oneDrive)
-            commands_.append(u"\"%WINDIR%\\SysWOW64\\OneDriveSetup.exe\" /silent"_s);
+            commands_.append(u"%SystemRoot%\\SysWOW64\\OneDriveSetup.exe /silent"_s);
     }
 
-    void setAttributes(const QString &path)
+    void setAttributes(const DiffRow &row)
     {
         static const std::pair<quint32, QLatin1StringView> letters[] = {{AttributeReadOnly, "r"_L1},
                                                                         {AttributeHidden, "h"_L1},
                                                                         {AttributeSystem, "s"_L1},
                                                                         {AttributeArchive, "a"_L1},
                                                                         {AttributeNotIndexed, "i"_L1}};
-        const quint32 word = before_.attributes(path);
-        QString command = u"attrib"_s;
+        const quint32 word = before_.attributes(row.path);
+        QString command = u"attrib.exe"_s;
         for (const auto &[bit, letter] : letters)
             command += ((word & bit) != 0 ? u" +"_s : u" -"_s) + letter;
-        commands_.append(command + u' ' + quoted(path));
+        give(named(row), command + u" %1"_s, {row.path});
     }
 
-    void setSecurity(const QString &path)
+    void setSecurity(const DiffRow &row)
     {
-        const FileSecurity security = before_.security(path);
+        const FileSecurity security = before_.security(row.path);
         if (security.rights.isEmpty())
-            commands_.append(u"icacls "_s + quoted(path) + u" /reset"_s);
+            give(named(row), u"icacls.exe %1 /reset"_s, {row.path});
         else
-            commands_.append(u"icacls "_s + quoted(path) + u" /grant:r "_s + quoted(security.rights));
-        commands_.append(u"icacls "_s + quoted(path) + u" /setowner "_s
-                         + quoted(security.owner.isEmpty() ? QString(installationOwner) : security.owner));
+            give(named(row), u"icacls.exe %1 /grant:r %2"_s, {row.path, security.rights});
+        give(named(row), u"icacls.exe %1 /setowner %2"_s,
+             {row.path, security.owner.isEmpty() ? QString(installationOwner) : security.owner});
     }
 
     void setBootOption(const DiffRow &row)
     {
-        commands_.append(row.before.isEmpty() ? u"bcdedit /deletevalue "_s + row.path
-                                              : u"bcdedit /set "_s + row.path + u' ' + row.before);
+        if (!isWord(row.path) || (!row.before.isEmpty() && !isWord(row.before)))
+            leaveOut(named(row));
+        else if (row.before.isEmpty())
+            give(named(row), u"bcdedit.exe /deletevalue "_s + row.path, {});
+        else
+            give(named(row), u"bcdedit.exe /set "_s + row.path + u' ' + row.before, {});
     }
 
     void switchTask(const DiffRow &row)
     {
         const bool enabled = row.before.startsWith("enabled"_L1);
-        commands_.append(u"schtasks /CHANGE /TN "_s + quoted(row.path) + (enabled ? u" /ENABLE"_s : u" /DISABLE"_s));
+        give(named(row), u"schtasks.exe /CHANGE /TN %1"_s + (enabled ? u" /ENABLE"_s : u" /DISABLE"_s), {row.path});
     }
 
     void switchService(const DiffRow &row)
     {
-        commands_.append((row.before == "running"_L1 ? u"sc start "_s : u"sc stop "_s) + quoted(row.path));
+        give(named(row), row.before == "running"_L1 ? u"sc.exe start %1"_s : u"sc.exe stop %1"_s, {row.path});
     }
 
     Machine &before_;
     QList<DiffRow> rows_;
     QString filesFolder_;
     QStringList commands_;
+    QStringList leftOut_;
     QList<UndoFile> files_;
 };
+
+/** "registry KEY", or "registry KEY: NAME" of a value, printable */
+QString namedEdit(const RegistryEdit &edit)
+{
+    using Kind = RegistryEdit::Kind;
+    const bool ofKey = edit.kind == Kind::MakeKey || edit.kind == Kind::RemoveKey;
+    return printable(kindName(DiffKind::Registry) + u' ' + edit.key
+                     + (ofKey ? QString() : u": "_s + valueName(edit.value)));
+}
 
 /** The registry editor takes a script of version 5 only in UTF-16 for sure. */
 QByteArray scriptBytes(const QList<RegistryEdit> &edits)
@@ -247,15 +336,22 @@ Undo undoOf(Machine &before, Machine &after, const QString &filesFolder)
     const Database::Snapshot stillAfter(after.database());
     const QList<RegistryEdit> edits = registryUndo(before.registry(), after.registry());
     Undo undo;
-    std::copy_if(edits.begin(), edits.end(), std::back_inserter(undo.registry),
-                 [](const RegistryEdit &edit) { return !isOfPackage(edit.key); });
+    for (const RegistryEdit &edit : edits) {
+        if (isOfPackage(edit.key))
+            continue;
+        if (fitsScript(edit))
+            undo.registry.append(edit);
+        else
+            undo.leftOut.append(namedEdit(edit));
+    }
     const UndoCommands commands(before, after, edits, filesFolder);
+    undo.leftOut += commands.leftOut();
     undo.commands = commands.commands();
     undo.files = commands.files();
     return undo;
 }
 
-QStringList writeUndo(Machine &before, Machine &after, const QString &file)
+WrittenUndo writeUndo(Machine &before, Machine &after, const QString &file)
 {
     const QFileInfo place(file);
     const QString stem = place.path() + u'/' + place.completeBaseName();
@@ -269,5 +365,5 @@ QStringList writeUndo(Machine &before, Machine &after, const QString &file)
         written.append(stem + u"-files/"_s + content.name);
         writeFile(written.last(), content.content);
     }
-    return written;
+    return {written, undo.leftOut};
 }

@@ -25,6 +25,14 @@ struct Undo
     QList<RegistryEdit> registry;
     QStringList commands; ///< for the command prompt, in the order in which they are given
     QList<UndoFile> files;
+    /** What can't be brought back so, since its name would say something else in a script or a command; printable. */
+    QStringList leftOut;
+};
+
+struct WrittenUndo
+{
+    QStringList files;
+    QStringList leftOut; ///< as in Undo
 };
 
 /**
@@ -35,6 +43,6 @@ struct Undo
 Undo undoOf(Machine &before, Machine &after, const QString &filesFolder);
 /**
  * Writes the registry script as @p file, as the registry editor likes it, and beside it a text of the commands and a
- * folder of the files, both named after it. Throws MachineError. @return what was written
+ * folder of the files, both named after it. Throws MachineError.
  */
-QStringList writeUndo(Machine &before, Machine &after, const QString &file);
+WrittenUndo writeUndo(Machine &before, Machine &after, const QString &file);

@@ -114,6 +114,14 @@ QString describedPc(const Machine &machine, const QStringList &options)
     return options.isEmpty() ? machine.name() : u"%1 (Optimize run with %2)"_s.arg(machine.name(), options.join(u' '));
 }
 
+void printWritten(const WrittenUndo &undo)
+{
+    for (const QString &file : undo.files)
+        print(file + u'\n');
+    for (const QString &what : undo.leftOut)
+        print(u"left out: %1\n"_s.arg(what));
+}
+
 int runPreview(const Arguments &arguments)
 {
     const QStringList choice = automatizerOptions(arguments);
@@ -133,9 +141,7 @@ int runPreview(const Arguments &arguments)
     progress.clear();
 
     if (arguments.has("undo"_L1)) {
-        for (const QString &file :
-             writeUndo(*copies.before, *copies.optimized, absoluteFolder(arguments.value("undo"_L1))))
-            print(file + u'\n');
+        printWritten(writeUndo(*copies.before, *copies.optimized, absoluteFolder(arguments.value("undo"_L1))));
     }
     if (arguments.has("html"_L1))
         writeReportFile(arguments.value("html"_L1), previewHtml(items, describedPc(*copies.before, choice)).toUtf8());
@@ -162,6 +168,8 @@ constexpr OptionRow options[] = {
      "aren't there\nnow.\n"
      "Beside it come a list of commands for what isn't in the registry, and the files that Optimize would change.\n"
      "It can be applied in Safe Mode with nothing but the system's own tools.\n"
+     "What has a name that would say something else in a script or a command, by a control character, a quotation mark or "
+     "a percent\nsign, is left out, and the output names it.\n"
      "A captured PC must bear its own names for that, and should have been captured by an administrator: what could not "
      "be read is\ntaken for not there."_L1},
 };

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void undoGivesTheMachineBefore_data();
     void undoGivesTheMachineBefore();
     void scriptIsInTheFormOfTheRegistryEditor();
+    void commandsAreTheSystemsOwn();
     void nothingToOptimize();
     void badMachineIsTold();
 
@@ -139,6 +140,23 @@ void TestUndo::scriptIsInTheFormOfTheRegistryEditor()
     const QString text = QStringDecoder(QStringConverter::Utf16)(bytes);
     QVERIFY(text.startsWith(u"Windows Registry Editor Version 5.00\r\n"_s));
     QVERIFY(!text.contains(u"\\AppModel\\Repository\\Packages\\"_s));
+}
+
+/** Whatever lies in the folder that they are given in, and whatever the search path is. */
+void TestUndo::commandsAreTheSystemsOwn()
+{
+    int commands = 0;
+    for (const QString &line : QString::fromUtf8(readFile(folder_.filePath(u"preview-commands.txt"_s)))
+                                   .split(u"\r\n"_s, Qt::SkipEmptyParts)) {
+        if (line == u"rem"_s || line.startsWith(u"rem "_s))
+            continue;
+        // OneDrive's setup program is one of 32 bits.
+        QVERIFY2(line.startsWith(u"%SystemRoot%\\System32\\"_s)
+                     || line == u"%SystemRoot%\\SysWOW64\\OneDriveSetup.exe /silent"_s,
+                 qPrintable(line));
+        ++commands;
+    }
+    QVERIFY(commands > 0);
 }
 
 void TestUndo::nothingToOptimize()

@@ -49,7 +49,14 @@ inline quint32 changedAttributes(quint32 word, const QStringList &switches)
     return word;
 }
 
-/** What the command prompt does itself; everything else is a tool of the machine. */
+/** The command of a prompt that is started for it alone: its words after "/c". */
+inline QStringList promptsOwn(const QStringList &words)
+{
+    const bool ofPrompt = words.first().endsWith(QLatin1StringView("\\cmd.exe"));
+    return ofPrompt ? words.mid(words.indexOf(QLatin1StringView("/c")) + 1) : words;
+}
+
+/** What the command prompt does itself, and attrib; everything else is a tool of the machine. */
 inline bool runBuiltIn(Machine &machine, const QStringList &words, const QString &folder)
 {
     const QString verb = words.first();
@@ -67,7 +74,7 @@ inline bool runBuiltIn(Machine &machine, const QStringList &words, const QString
         QFile::remove(target);
         return QFile::copy(folder + u'/' + QString(words.at(2)).replace(u'\\', u'/'), target);
     }
-    if (verb == QLatin1StringView("attrib")) {
+    if (verb.endsWith(QLatin1StringView("\\attrib.exe"))) {
         const quint32 word = machine.attributes(words.last());
         machine.setAttributes(words.last(), changedAttributes(word, words.mid(1, words.size() - 2)));
         return true;
@@ -97,10 +104,10 @@ inline QString undo(Machine &machine, const QString &script)
          QString::fromUtf8(commands.readAll()).split(QStringLiteral("\r\n"), Qt::SkipEmptyParts)) {
         if (line == QLatin1StringView("rem") || line.startsWith(QLatin1StringView("rem ")))
             continue;
-        const QStringList words = wordsOf(line);
+        const QStringList words = promptsOwn(wordsOf(line));
         // A service may run already, started by one that needs it.
         if (!runBuiltIn(machine, words, place.path()) && runToolOf(machine, words) != 0
-            && words.first() != QLatin1StringView("sc"))
+            && !words.first().endsWith(QLatin1StringView("\\sc.exe")))
             return line;
     }
     return {};

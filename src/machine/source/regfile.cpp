@@ -109,6 +109,12 @@ void applyRegistryScript(Database &database, RegistryStore &store, const QList<R
     transaction.commit();
 }
 
+bool fitsScript(const RegistryEdit &edit)
+{
+    const QString names = edit.key + edit.value.name;
+    return std::none_of(names.begin(), names.end(), [](QChar unit) { return unit.category() == QChar::Other_Control; });
+}
+
 QString writeRegistryEdits(const QList<RegistryEdit> &edits)
 {
     using Kind = RegistryEdit::Kind;

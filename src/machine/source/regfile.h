@@ -32,5 +32,10 @@ void applyRegistryScript(Database &database, RegistryStore &store, const QList<R
  * gives a script without keys.
  */
 QString writeRegistryScript(const RegistryStore &store, const QString &keyPath);
-/** Edits as a script of version 5.00: text with LF line ends, in the given order. */
+/**
+ * Whether a script can say the edit. It has no way to write a control character of a name: a line break in one would
+ * begin a line, and so a key, of its own.
+ */
+bool fitsScript(const RegistryEdit &edit);
+/** Edits as a script of version 5.00: text with LF line ends, in the given order. Each must fit into one. */
 QString writeRegistryEdits(const QList<RegistryEdit> &edits);
