@@ -28,6 +28,12 @@ int startModeOf(const QString &service)
     return services->value(service + u"/Start"_s, -1).toInt();
 }
 
+/** A start mode alone makes no service: the job writes one for any name on Windows 10. */
+bool isService(const QString &name)
+{
+    return platform().openKey(WindowsKey::services)->contains(name + u"/Type"_s);
+}
+
 bool isRecorded(const QString &service)
 {
     return openSettings()->contains(u"SVC/"_s + service);
@@ -37,7 +43,7 @@ QStringList servicesNotDisabled(const QStringList &names)
 {
     QStringList left;
     for (const QString &name : names) {
-        if (startModeOf(name) != StartDisabled || !isRecorded(name))
+        if (!isService(name) || startModeOf(name) != StartDisabled || !isRecorded(name))
             left.append(name);
     }
     return left;
@@ -47,7 +53,7 @@ QStringList servicesNotEnabled(const QStringList &names)
 {
     QStringList left;
     for (const QString &name : names) {
-        if (startModeOf(name) != StartAutomatic || isRecorded(name))
+        if (!isService(name) || startModeOf(name) != StartAutomatic || isRecorded(name))
             left.append(name);
     }
     return left;

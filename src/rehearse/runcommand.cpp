@@ -23,6 +23,8 @@ const JobRow &findJob(const Arguments &arguments)
             throw UsageError{u"missing operand after '%1'"_s.arg(arguments.operands().last())};
         if (row.mostOperands >= 0 && operands > row.mostOperands)
             throw UsageError{u"extra operand '%1'"_s.arg(arguments.operand(2 + row.mostOperands))};
+        if (arguments.operands().indexOf(QString(), 2) >= 0)
+            throw UsageError{u"empty operand for '%1'"_s.arg(name)};
         return row;
     }
     throw UsageError{u"unknown job '%1'"_s.arg(name)};

@@ -71,8 +71,8 @@ public:
     QStringList nonVitalServices; ///< what the assistant and Analyze look for; grows by the features that are given up
 
     QList<TaskRow> tasks;
-    QList<TaskRow> tasksToChange; ///< input of job 4
-    bool taskRestoreMode = false; ///< job 4 restores: it leaves the record alone
+    QList<TaskRow> tasksToChange;              ///< input of job 4
+    std::atomic<bool> taskRestoreMode = false; ///< job 4 restores: it leaves the record alone
     QStringList nonVitalTasks;
 
     QList<PackageRow> packages;

@@ -123,6 +123,10 @@ private Q_SLOTS:
     void runMonitor();
     void runReportsServicesThatFailed_data();
     void runReportsServicesThatFailed();
+    void runReportsAServiceThatDoesNotExistOnWindows10_data();
+    void runReportsAServiceThatDoesNotExistOnWindows10();
+    void runRefusesAnEmptyName_data();
+    void runRefusesAnEmptyName();
     void runReportsALineThatDidNotCome();
     void keepsAreChecked();
     void importAndExport();
@@ -536,6 +540,49 @@ void TestRehearse::runReportsServicesThatFailed()
     QCOMPARE(ended.exitCode, jobFailed);
     QCOMPARE(ended.errors, "kestrune-rehearse: " + message + '\n');
     QVERIFY(ended.output.endsWith("valueChanged\tpgr:SvcStopOrStart=finished\n"));
+}
+
+void TestRehearse::runReportsAServiceThatDoesNotExistOnWindows10_data()
+{
+    addColumns<QString, int>("job", "start");
+    QTest::newRow("disable") << u"svc-disable"_s << 4;
+    QTest::newRow("enable") << u"svc-enable"_s << 2;
+}
+
+void TestRehearse::runReportsAServiceThatDoesNotExistOnWindows10()
+{
+    QFETCH(const QString, job);
+    QFETCH(const int, start);
+    const QTemporaryDir folder;
+    const QString machine = folder.filePath(u"ten"_s);
+    QCOMPARE(rehearse({u"new"_s, machine, u"--from"_s, u"windows10"_s}).exitCode, done);
+    const Ended ended = rehearse({u"run"_s, machine, job, u"Nope"_s});
+    QCOMPARE(ended.exitCode, jobFailed);
+    QCOMPARE(ended.errors, QByteArray("kestrune-rehearse: " + job.toUtf8() + " failed for Nope\n"));
+    // The job itself asks nobody: it writes the start mode.
+    const QByteArray key = rehearse({u"list"_s, machine, u"registry"_s,
+                                     u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\Nope"_s})
+                               .output;
+    QVERIFY2(key.contains(QByteArray::number(start)), key.constData());
+}
+
+void TestRehearse::runRefusesAnEmptyName_data()
+{
+    QTest::addColumn<QStringList>("job");
+    for (const char *job : {"svc-disable", "svc-enable", "task-disable", "package-uninstall", "autorun-disable"})
+        QTest::newRow(job) << QStringList{QLatin1StringView(job), u"DiagTrack"_s, QString()};
+}
+
+void TestRehearse::runRefusesAnEmptyName()
+{
+    QFETCH(const QStringList, job);
+    const Workplace work;
+    const Ended ended = rehearse(QStringList{u"run"_s, work.b} + job);
+    QCOMPARE(ended.exitCode, badArguments);
+    QCOMPARE(ended.output, QByteArray());
+    QCOMPARE(ended.errors, QByteArray("kestrune-rehearse: empty operand for '" + job.first().toUtf8()
+                                      + "'\nTry 'kestrune-rehearse --help' for more information.\n"));
+    QCOMPARE(work.difference(), QByteArray());
 }
 
 void TestRehearse::runReportsALineThatDidNotCome()

@@ -173,7 +173,7 @@ State stateOf(const TestMachine &machine, const WindowDriver &driver)
         {u"tasks to change"_s, namesOf(worker.tasksToChange, &TaskRow::path)},
         {u"packages to change"_s, namesOf(worker.packagesToChange, &PackageRow::name)},
         {u"package job idle"_s, QString::number(worker.packageJobIdle)},
-        {u"restores tasks"_s, QString::number(worker.taskRestoreMode)},
+        {u"restores tasks"_s, QString::number(worker.taskRestoreMode ? 1 : 0)},
         {u"restores"_s, QString::number(worker.restoreRunning)},
         {u"tweaks"_s, QString::number(worker.automatizerTweak)},
         {u"programs"_s, QString::number(worker.automatizerProgram)},

@@ -2,6 +2,7 @@
 // Tests of the list of scheduled tasks.
 
 #include "joblines.h"
+#include "platform/forwardingplatform.h"
 #include "support/suite.h"
 #include "support/taskexport.h"
 #include "support/testmachine.h"
@@ -10,8 +11,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QStringConverter>
 #include <QTest>
+
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
@@ -139,6 +143,7 @@ private Q_SLOTS:
     void failingToolSendsNoLine();
     void hangingToolIsGivenUpAndWhatItPrintedIsRead();
     void exportThatCannotBeWrittenSendsNoLine();
+    void anExceptionEndsTheListWithALineInTheLog();
 
     void aRunEmptiesTheListOfBefore();
     void duringAnalyzeNoClosingLineIsSent();
@@ -634,6 +639,36 @@ void TestTaskList::exportThatCannotBeWrittenSendsNoLine()
     QCOMPARE(pathsOf(worker.tasks), QStringList());
     QCOMPARE(machine.errorLog(), QStringList{u"TaskMakeList: schtasks process error: Is a directory"_s});
     QVERIFY(!QFileInfo::exists(backupFolder(machine)));
+}
+
+void TestTaskList::anExceptionEndsTheListWithALineInTheLog()
+{
+    /** An accident that comes while the text of a DLL is looked up. */
+    class Accident final : public ForwardingPlatform
+    {
+    public:
+        using ForwardingPlatform::ForwardingPlatform;
+        QString hostPath(const QString &windowsPath) const override
+        {
+            if (windowsPath.endsWith("a.dll"_L1))
+                throw std::runtime_error("an accident");
+            return ForwardingPlatform::hostPath(windowsPath);
+        }
+    };
+    TaskMachine machine;
+    machine.logErrors();
+    print(machine, listOfDocuments({{u"\\A"_s, u"$(@a.dll,-100)"_s}}));
+    const QString log = machine.platform().programFolder() + u"/log.txt"_s;
+    const QString folder = machine.folder();
+    setPlatform(nullptr); // one at a time
+    setPlatform(std::make_unique<Accident>(std::make_unique<MachinePlatform>(folder, MachineOptions())));
+    WorkThread worker;
+    JobLines lines(worker);
+    QVERIFY(runJob(worker, 1));
+    QCOMPARE(lines.all(), QStringList());
+    const QString logged = QString::fromUtf8(content(log)).trimmed();
+    QVERIFY2(QRegularExpression(u": TaskMakeList: schtasks process error: \\d+$"_s).match(logged).hasMatch(),
+             qPrintable(logged));
 }
 
 void TestTaskList::aRunEmptiesTheListOfBefore()

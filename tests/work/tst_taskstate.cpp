@@ -127,7 +127,7 @@ void TestTaskState::eachCaseHasItsCommandPauseRecordAndLines()
     QCOMPARE(lines.all(), expected + QStringList{finished});
     QCOMPARE(machine.errorLog(), QStringList());
     // Who asked for it clears the mode.
-    QCOMPARE(worker.taskRestoreMode, restoreMode);
+    QCOMPARE(worker.taskRestoreMode.load(), restoreMode);
 }
 
 void TestTaskState::generationIsToldByTheDigits_data()

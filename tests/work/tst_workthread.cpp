@@ -115,7 +115,7 @@ void TestWorkThread::aNewWorkerHasItsInitialValues()
     QCOMPARE(worker.nonVitalServices.size(), 31);
     QVERIFY(worker.tasks.isEmpty());
     QVERIFY(worker.tasksToChange.isEmpty());
-    QCOMPARE(worker.taskRestoreMode, false);
+    QCOMPARE(worker.taskRestoreMode.load(), false);
     QCOMPARE(worker.nonVitalTasks.size(), 60);
     QVERIFY(worker.packages.isEmpty());
     QVERIFY(worker.packagesToChange.isEmpty());

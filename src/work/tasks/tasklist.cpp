@@ -4,6 +4,7 @@
 #include "tasks.h"
 
 #include "platform/platform.h"
+#include "platform/systemerror.h"
 #include "work/command.h"
 #include "work/interruption.h"
 #include "work/services/services.h"
@@ -49,7 +50,7 @@ void backUp(const QString &fileName)
 } // namespace
 
 void WorkThread::TaskMakeList()
-{
+try {
     tasks.clear();
     const QString fileName = platform().hostPath(qEnvironmentVariable("temp") + u"/tasks.xml"_s);
 
@@ -77,6 +78,11 @@ void WorkThread::TaskMakeList()
     tasks = tasksOf(exported.replace("\r\n"_L1, "\n"_L1));
     if (analyzeRunning == 0)
         report(StatusLine::tasksListed);
+} catch (const JobInterrupted &) {
+    throw;
+} catch (...) {
+    const quint32 code = lastSystemError();
+    LogError(u"TaskMakeList: schtasks process error: "_s + QString::number(code));
 }
 
 QList<TaskRow> tasksOf(const QString &exported)
