@@ -40,7 +40,7 @@ struct FileSecurity
 struct ToolFault
 {
     bool missing = false;            ///< there is no such program
-    bool hang = false;               ///< runs until it is ended
+    bool hang = false;               ///< runs until it is ended, or the fault is taken back
     std::optional<int> exitCode{};   ///< ends with this code, having changed nothing
     std::optional<QString> output{}; ///< prints this instead of its own text
     int repeat = 1;                  ///< how often it prints it

@@ -14,6 +14,7 @@
 #include <QThread>
 
 #include <cstdio>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -26,19 +27,22 @@ void print(const QByteArray &bytes, std::FILE *stream = stdout)
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
 }
 
-/** Waits to be ended; also ends when its starter has gone, so that a run that was broken off leaves nothing behind. */
-void hang()
+/**
+ * Waits to be ended, or for the fault to be taken back; also ends when its starter has gone, so that a run that was
+ * broken off leaves nothing behind.
+ */
+void hang(const std::function<bool()> &isOver)
 {
     constexpr int longest = 10 * 60 * 1000;
     constexpr int slice = 50;
 
     std::fflush(stdout);
     const QDeadlineTimer deadline(longest);
-    while (!deadline.hasExpired() && !starterIsGone())
+    while (!deadline.hasExpired() && !starterIsGone() && !isOver())
         QThread::msleep(slice);
 }
 
-ToolResult runFault(const ToolFault &fault)
+ToolResult runFault(const ToolFault &fault, const std::function<bool()> &isOver)
 {
     if (fault.missing)
         return {exitNoSuchProgram};
@@ -46,7 +50,7 @@ ToolResult runFault(const ToolFault &fault)
     for (int i = 0; i < fault.repeat && !output.isEmpty(); ++i)
         print(output);
     if (fault.hang)
-        hang();
+        hang(isOver);
     return {fault.exitCode.value_or(0)};
 }
 
@@ -73,7 +77,8 @@ int runOnMachine(const QString &program, const QStringList &arguments)
     const QString name = toolName(program);
     const std::optional<ToolFault> fault = machine->fault(name, arguments);
     MachineToolHost host(*machine, qEnvironmentVariable("KESTRUNE_ELEVATED") != "0"_L1);
-    const ToolResult result = fault ? runFault(*fault) : runTool(name, host, arguments);
+    const auto faultIsOver = [&] { return !machine->fault(name, arguments).value_or(ToolFault()).hang; };
+    const ToolResult result = fault ? runFault(*fault, faultIsOver) : runTool(name, host, arguments);
 
     // All is written down before anyone can know the end of the output.
     machine->logCommand(name, arguments, result.exitCode);

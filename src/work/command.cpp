@@ -8,6 +8,9 @@
 
 #include <QDeadlineTimer>
 
+#include <mutex>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -20,6 +23,12 @@ constexpr int slice = 10;
 Command::~Command()
 {
     close();
+}
+
+void Command::discardOutput()
+{
+    process_->setStandardOutputFile(QProcess::nullDevice());
+    process_->setStandardErrorFile(QProcess::nullDevice());
 }
 
 void Command::start(const QString &program, const QStringList &arguments)
@@ -42,11 +51,11 @@ void Command::start(const QString &program, const QStringList &arguments)
     if (refused_)
         return;
     hold_ = admitted->hold;
-    process_.start(admitted->file, arguments, QIODevice::ReadWrite);
+    process_->start(admitted->file, arguments, QIODevice::ReadWrite);
     // Elsewhere than on Windows a failed start shows only now.
-    failedToStart_ = !process_.waitForStarted();
-    startError_ = process_.errorString();
-    processId_ = process_.processId();
+    failedToStart_ = !process_->waitForStarted();
+    startError_ = process_->errorString();
+    processId_ = process_->processId();
 }
 
 QString Command::errorString() const
@@ -54,33 +63,33 @@ QString Command::errorString() const
     if (failedToStart_)
         return startError_;
     // A slice of a wait that passes is no error of the command; one that was refused is like one that refused its work.
-    const bool sliceAlone = process_.error() == QProcess::Timedout && !timedOut_;
-    return sliceAlone || refused_ ? QIODevice::tr("Unknown error") : process_.errorString();
+    const bool sliceAlone = process_->error() == QProcess::Timedout && !timedOut_;
+    return sliceAlone || refused_ ? QIODevice::tr("Unknown error") : process_->errorString();
 }
 
 template<typename Wait>
 void Command::waitInSlices(Wait wait)
 {
     const QDeadlineTimer deadline(timeLimit);
-    while (process_.state() != QProcess::NotRunning && !wait() && !deadline.hasExpired())
+    while (process_->state() != QProcess::NotRunning && !wait() && !deadline.hasExpired())
         endIfInterrupted();
 }
 
 void Command::waitForFinished()
 {
-    waitInSlices([this] { return process_.waitForFinished(slice); });
-    timedOut_ = process_.state() != QProcess::NotRunning;
+    waitInSlices([this] { return process_->waitForFinished(slice); });
+    timedOut_ = process_->state() != QProcess::NotRunning;
 }
 
 void Command::waitForReadyRead()
 {
-    waitInSlices([this] { return process_.bytesAvailable() > 0 || process_.waitForReadyRead(slice); });
+    waitInSlices([this] { return process_->bytesAvailable() > 0 || process_->waitForReadyRead(slice); });
 }
 
 QByteArray Command::readAllStandardOutput()
 {
     // A command that never started has no open channel to read from.
-    return process_.isOpen() ? process_.readAllStandardOutput() : QByteArray();
+    return process_->isOpen() ? process_->readAllStandardOutput() : QByteArray();
 }
 
 int Command::exitCode() const
@@ -89,22 +98,47 @@ int Command::exitCode() const
         return accessDenied;
     if (ended_)
         return endedByForce;
-    if (failedToStart_ || processId_ == 0 || process_.state() != QProcess::NotRunning)
+    if (failedToStart_ || processId_ == 0 || process_->state() != QProcess::NotRunning)
         return 0;
     if (!exitCode_)
-        exitCode_ = platform().exitCode(processId_, process_.exitCode());
+        exitCode_ = platform().exitCode(processId_, process_->exitCode());
     return *exitCode_;
 }
 
 void Command::close()
 {
-    if (process_.state() != QProcess::NotRunning) {
-        process_.kill();
-        process_.waitForFinished(-1);
+    if (process_->state() != QProcess::NotRunning) {
+        process_->kill();
+        if (!process_->waitForFinished(killLimit))
+            abandon();
         ended_ = true;
     }
-    process_.close();
+    process_->close();
     hold_.reset();
+}
+
+bool Command::leaveRunning()
+{
+    if (process_->state() == QProcess::NotRunning)
+        return false;
+    abandon();
+    processId_ = 0;
+    return true;
+}
+
+void Command::abandon()
+{
+    struct Left
+    {
+        std::unique_ptr<QProcess> process;
+        std::shared_ptr<void> hold;
+    };
+    // Never destroyed: a QProcess that goes ends its program first.
+    static auto &left = *new std::vector<Left>;
+    static std::mutex oneAtATime;
+    const std::lock_guard lock(oneAtATime);
+    left.push_back({std::move(process_), std::move(hold_)});
+    process_ = std::make_unique<QProcess>();
 }
 
 int runTool(const QString &program, const QStringList &arguments)

@@ -22,6 +22,8 @@ class Command
 public:
     /** How long a command is waited for, in milliseconds. Always 30 s; tests of hanging tools lower it. */
     static inline std::atomic<int> timeLimit = 30000;
+    /** How long one that is ended by force is waited for, in milliseconds: the system may hold it. Likewise. */
+    static inline std::atomic<int> killLimit = 5000;
     /** What a program reads as that had to be ended. */
     static constexpr int endedByForce = 0xf291;
 
@@ -33,7 +35,9 @@ public:
     Q_DISABLE_COPY_MOVE(Command)
 
     /** Lets the next command's output go to a file, given by its host path, which is emptied first. */
-    void setStandardOutputFile(const QString &file) { process_.setStandardOutputFile(file, QIODevice::Truncate); }
+    void setStandardOutputFile(const QString &file) { process_->setStandardOutputFile(file, QIODevice::Truncate); }
+    /** Lets nobody hear the next command. One that is left running would stop at a pipe that nobody empties. */
+    void discardOutput();
     void start(const QString &program, const QStringList &arguments);
     bool failedToStart() const { return failedToStart_; }
     QString errorString() const;
@@ -46,15 +50,23 @@ public:
 
     /** 0 also for a command that runs, or that never started. */
     int exitCode() const;
-    /** Ends the command if it still runs. */
+    /** Ends the command if it still runs; one that can't be ended is left to itself. */
     void close();
+    /**
+     * Leaves a command that still runs to itself, for as long as it takes: also when this program has ended. It reads 0
+     * from then on. False where it doesn't run.
+     */
+    bool leaveRunning();
 
 private:
+    /** Lets go of the process without ending it. */
+    void abandon();
+
     /** Calls a wait of QProcess again and again in short slices until it holds, the limit passes or the job ends. */
     template<typename Wait>
     void waitInSlices(Wait wait);
 
-    QProcess process_;
+    std::unique_ptr<QProcess> process_ = std::make_unique<QProcess>();
     qint64 processId_ = 0;
     bool failedToStart_ = false;
     QString startError_; ///< why it failed to start

@@ -9,8 +9,16 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QTest>
+#include <QThread>
 
 #include <limits>
+#include <thread>
+
+#ifndef Q_OS_WIN
+#include <csignal>
+#include <sys/syscall.h>
+#include <unistd.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -26,28 +34,78 @@ int exitCodeOf(Command &command, const QString &program, const QStringList &argu
     return command.exitCode();
 }
 
+/** The programs that run out of a folder, by their ids. */
+QList<qint64> programsOf(const QString &folder)
+{
+    QList<qint64> programs;
+    for (const QString &process : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
+        QFile file(u"/proc/"_s + process + u"/cmdline"_s);
+        if (file.open(QIODevice::ReadOnly) && file.readAll().startsWith(folder.toLocal8Bit()))
+            programs.append(process.toLongLong());
+    }
+    return programs;
+}
+
 /** How many programs run out of the machine's folder; -1 where that is unknown. */
 int runningTools(const TestMachine &machine)
 {
     if (!QDir(u"/proc/self"_s).exists())
         return -1;
-    int count = 0;
-    for (const QString &process : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
-        QFile file(u"/proc/"_s + process + u"/cmdline"_s);
-        if (file.open(QIODevice::ReadOnly) && file.readAll().startsWith(machine.machine().toolsFolder().toLocal8Bit()))
-            ++count;
-    }
-    return count;
+    return static_cast<int>(programsOf(machine.machine().toolsFolder()).size());
 }
 
+std::atomic<bool> nothingCanBeKilled = false;
+
+void forceToEnd([[maybe_unused]] qint64 process)
+{
+#ifndef Q_OS_WIN
+    kill(static_cast<pid_t>(process), SIGKILL);
+#endif
+}
+
+/** Ends the machine's tools after a time, if it is still there then: whoever waits for ever is freed. */
+class Rescue
+{
+public:
+    explicit Rescue(const TestMachine &machine)
+        : thread_([folder = machine.machine().toolsFolder()](const std::stop_token &stop) {
+            for (const QDeadlineTimer deadline(20000); !deadline.hasExpired() && !stop.stop_requested();)
+                QThread::msleep(10);
+            nothingCanBeKilled = false;
+            if (!stop.stop_requested()) {
+                for (const qint64 tool : programsOf(folder))
+                    forceToEnd(tool);
+            }
+        })
+    {
+    }
+
+private:
+    std::jthread thread_;
+};
+
 } // namespace
+
+#ifndef Q_OS_WIN
+/** Stands before the system's own, for the whole program: what QProcess calls. */
+extern "C" Q_DECL_EXPORT int kill(pid_t process, int signal) noexcept
+{
+    if (signal == SIGKILL && nothingCanBeKilled)
+        return 0;
+    return static_cast<int>(syscall(SYS_kill, process, signal));
+}
+#endif
 
 class TestCommand : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { Command::timeLimit = 30000; }
+    void cleanup()
+    {
+        Command::timeLimit = 30000;
+        Command::killLimit = 5000;
+    }
 
     void theTimeLimitIs30Seconds();
     void aProgramThatIsMissingIsKnownRightAfterTheStart_data();
@@ -66,6 +124,9 @@ private Q_SLOTS:
     void aHangingProgramReads0BeforeItIsClosedAndAFailureAfter();
     void closingEndsTheProgram();
     void destroyingEndsTheProgram();
+    void closingGivesUpOnAProgramThatCannotBeKilled();
+    void aProgramThatIsLeftRunningReads0AndRunsOn();
+    void aProgramThatHasEndedIsNotLeftRunning();
     void closingAProgramThatHasEndedKeepsItsExitCode();
     void theNextCommandRunsThoughTheFirstOneHangs();
     void theLastCommandsExitCodeCounts();
@@ -273,6 +334,60 @@ void TestCommand::destroyingEndsTheProgram()
         QTRY_COMPARE(runningTools(machine), 1);
     }
     QCOMPARE(runningTools(machine), 0);
+}
+
+void TestCommand::closingGivesUpOnAProgramThatCannotBeKilled()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.hang = true});
+    QCOMPARE(Command::killLimit.load(), 5000);
+    Command::killLimit = 100;
+    Command command;
+    command.start(u"sc"_s, {u"query"_s});
+    {
+        nothingCanBeKilled = true;
+        const Rescue rescue(machine);
+        command.close();
+        QCOMPARE(runningTools(machine), 1);
+    }
+    QCOMPARE(command.exitCode(), Command::endedByForce);
+    // And the next command is none of its business.
+    machine.machine().setFault(u"sc stop"_s, {.exitCode = 1062});
+    QCOMPARE(exitCodeOf(command, u"sc"_s, {u"stop"_s}), 1062);
+    machine.machine().clearFault(u"sc"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(runningTools(machine), 0, 60000);
+}
+
+void TestCommand::aProgramThatIsLeftRunningReads0AndRunsOn()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.hang = true, .exitCode = 5});
+    Command::timeLimit = 200;
+    {
+        Command command;
+        command.discardOutput();
+        command.start(u"sc"_s, {u"query"_s});
+        command.waitForFinished();
+        QVERIFY(command.leaveRunning());
+        QCOMPARE(command.exitCode(), 0);
+        command.close();
+        QCOMPARE(command.exitCode(), 0);
+    }
+    QCOMPARE(runningTools(machine), 1);
+    machine.machine().clearFault(u"sc"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(machine.commands(), (QList<LoggedCommand>{{u"sc"_s, {u"query"_s}, 5}}), 60000);
+}
+
+void TestCommand::aProgramThatHasEndedIsNotLeftRunning()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.exitCode = 7});
+    Command command;
+    QVERIFY(!command.leaveRunning());
+    command.start(u"sc"_s, {});
+    command.waitForFinished();
+    QVERIFY(!command.leaveRunning());
+    QCOMPARE(command.exitCode(), 7);
 }
 
 void TestCommand::closingAProgramThatHasEndedKeepsItsExitCode()

@@ -19,6 +19,8 @@ const QString installedAll = u"page:    Install   packages finished  "_s;
 const QString systemsSetup = u"C:\\Windows\\System32\\OneDriveSetup.exe"_s;
 const QString setup32 = u"C:\\Windows\\SysWOW64\\OneDriveSetup.exe"_s;
 
+constexpr int patience = 60000; // milliseconds
+
 PackageRow row(const QString &name, const QString &comment = {})
 {
     return {name, {}, comment};
@@ -96,6 +98,8 @@ private Q_SLOTS:
     // Failures
     void failureDoesNotEndTheRun();
     void hangingToolIsGivenUp();
+    void toolThatTakesLongerIsLeftRunning_data();
+    void toolThatTakesLongerIsLeftRunning();
     void resultIsTheLastExitCode();
     void nothingIsLogged();
 };
@@ -543,6 +547,33 @@ void TestPackageState::hangingToolIsGivenUp()
     QCOMPARE(lines.all(),
              (QStringList{pageLine(false, u"package: A: done"_s), pageLine(false, u"package: B: done"_s), removedAll}));
     QCOMPARE(machine.platform().takePauses(), QList<int>(2, 300));
+    machine.machine().clearFault(u"powershell -Command Get-AppxPackage A"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(machine.commands().size(), 2, patience);
+}
+
+void TestPackageState::toolThatTakesLongerIsLeftRunning_data()
+{
+    QTest::addColumn<bool>("optimize");
+    QTest::newRow("page") << false;
+    QTest::newRow("Optimize") << true;
+}
+
+void TestPackageState::toolThatTakesLongerIsLeftRunning()
+{
+    QFETCH(const bool, optimize);
+    PowerShellMachine machine;
+    machine.logErrors();
+    machine.machine().setFault(u"powershell -Command Get-AppxPackage A"_s, {.hang = true});
+    Command::timeLimit = 200;
+    WorkThread worker;
+    worker.optimizeRunning = optimize ? 1 : 0;
+    worker.packagesToChange = {row(u"A"_s), row(u"B"_s)};
+    QVERIFY(runJob(worker, 3));
+    // The next row had its turn. Then the first one's tool comes to its own end, which it notes.
+    QCOMPARE(machine.commands(), QList<LoggedCommand>{removal(u"B"_s)});
+    QCOMPARE(machine.errorLog(), QStringList{u"PackageSetState: A, still running"_s});
+    machine.machine().clearFault(u"powershell -Command Get-AppxPackage A"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(machine.commands(), (QList<LoggedCommand>{removal(u"B"_s), removal(u"A"_s)}), patience);
 }
 
 void TestPackageState::resultIsTheLastExitCode()

@@ -129,12 +129,16 @@ int WorkThread::PackageSetState(const QList<PackageRow> &list, bool install)
     int counter = 1;
     for (const PackageRow &row : list) {
         Command command;
+        command.discardOutput();
         if (row.name == oneDriveName)
             startOneDriveSetup(command, row, install);
         else
             startPowerShell(command, powerShellProgram(), row.name, install);
         forgetOneDriveStartup(row.name);
         command.waitForFinished();
+        // Half a removal is worse than a slow one.
+        if (command.leaveRunning())
+            LogError(u"PackageSetState: "_s + row.name + u", still running"_s);
         exitCode = command.exitCode();
         const bool forAutomatizer = optimizeRunning == 1 || restoreRunning == 1;
         // Before the pause: nothing would remember the package if the run ended there. One that was installed is
