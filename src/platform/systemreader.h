@@ -39,4 +39,6 @@ public:
     virtual KeyContent key(const QString &path) const = 0;
     /** The states of all services that are no drivers; nothing where they are unknown. */
     virtual std::optional<QList<ServiceReport>> serviceReports() const = 0;
+    /** What the system calls who is logged on, beside the account: a full name, an address. Those that it knows. */
+    virtual QStringList namesOfUser() const = 0;
 };

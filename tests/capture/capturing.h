@@ -11,8 +11,9 @@
 class MachineReader final : public SystemReader
 {
 public:
-    explicit MachineReader(Machine &machine)
+    explicit MachineReader(Machine &machine, const QStringList &namesOfUser = {})
         : machine_(machine)
+        , namesOfUser_(namesOfUser)
     {
     }
 
@@ -34,13 +35,16 @@ public:
         return services;
     }
 
+    QStringList namesOfUser() const override { return namesOfUser_; }
+
 private:
     Machine &machine_;
+    QStringList namesOfUser_;
 };
 
 inline CaptureReport captureMachine(const QString &source, const QString &folder, Names names = Names::Keep,
                                     const MachineOptions &options = {}, Existing existing = Existing::Keep,
-                                    const ProgressCallback &progress = {})
+                                    const ProgressCallback &progress = {}, const QStringList &namesOfUser = {})
 {
     // In force until the end, whatever is thrown.
     struct InForce
@@ -52,5 +56,5 @@ inline CaptureReport captureMachine(const QString &source, const QString &folder
     const ReadingPlatform &pc = *reading;
     setPlatform(std::move(reading));
     const auto machine = Machine::open(source);
-    return capturePc(folder, existing, pc, MachineReader(*machine), names, progress);
+    return capturePc(folder, existing, pc, MachineReader(*machine, namesOfUser), names, progress);
 }

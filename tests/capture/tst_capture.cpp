@@ -440,6 +440,7 @@ void TestCapture::keyThatMayNotBeReadIsTold()
             return path.endsWith("CentralProcessor\\0"_L1) ? KeyContent{true, true} : KeyContent{};
         }
         std::optional<QList<ServiceReport>> serviceReports() const override { return std::nullopt; }
+        QStringList namesOfUser() const override { return {}; }
     };
 
     const TestMachine pc;

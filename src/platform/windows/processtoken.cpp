@@ -4,6 +4,9 @@
 
 #include "systemobjects.h"
 
+#define SECURITY_WIN32
+#include <security.h>
+
 #include <vector>
 
 namespace {
@@ -47,4 +50,17 @@ Account userOfProcess()
         return {};
     return {QString::fromWCharArray(domain, static_cast<qsizetype>(domainLength)),
             QString::fromWCharArray(name, static_cast<qsizetype>(nameLength))};
+}
+
+QStringList shownNamesOfUser()
+{
+    QStringList names;
+    for (const EXTENDED_NAME_FORMAT format : {NameDisplay, NameUserPrincipal}) {
+        ULONG length = 0; // then with the closing zero
+        GetUserNameExW(format, nullptr, &length);
+        std::vector<wchar_t> name(length + 1);
+        if (length > 0 && GetUserNameExW(format, name.data(), &length))
+            names.append(QString::fromWCharArray(name.data()));
+    }
+    return names;
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 /** False where the token can't be read. */
 bool isElevatedProcess();
@@ -17,3 +17,6 @@ struct Account
 
 /** The user of this process; empty where the system doesn't know. */
 Account userOfProcess();
+
+/** The full name of the user of this process, and the address of his account in a directory; those that there are. */
+QStringList shownNamesOfUser();

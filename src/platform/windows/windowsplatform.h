@@ -41,4 +41,5 @@ class WindowsReader final : public SystemReader
 public:
     KeyContent key(const QString &path) const override;
     std::optional<QList<ServiceReport>> serviceReports() const override;
+    QStringList namesOfUser() const override;
 };

@@ -3,6 +3,7 @@
 
 #include "windowsplatform.h"
 
+#include "processtoken.h"
 #include "systemobjects.h"
 
 #include <span>
@@ -148,4 +149,9 @@ std::optional<QList<ServiceReport>> WindowsReader::serviceReports() const
                          running || status.dwWin32ExitCode != ERROR_SERVICE_NEVER_STARTED});
     }
     return services;
+}
+
+QStringList WindowsReader::namesOfUser() const
+{
+    return shownNamesOfUser();
 }
