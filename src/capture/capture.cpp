@@ -3,6 +3,7 @@
 #include "capture.h"
 
 #include "capturesteps.h"
+#include "leftnames.h"
 #include "machine/taskdocument.h"
 #include "neutralnames.h"
 #include "platform/windowsfacts.h"
@@ -44,6 +45,7 @@ public:
         const QStringList named = pc_.askedFiles() + filesOfProgram(system_, registry_.commands);
         contents_.description.files = captureFiles(named) + captureFolders([this] { tellAgain(u"component store"_s); });
         contents_.registry = registry_.edits;
+        report_.replaced = registry_.replaced;
         return contents_;
     }
 
@@ -132,10 +134,19 @@ MachineContents readPc(const ReadingPlatform &pc, const SystemReader &system, Na
     MachineContents contents = PcReader(pc, system, names, report, progress).read();
     if (names == Names::Replace) {
         QMap<QString, QString> variables = contents.description.environment;
-        // These two name the user and the PC, and aren't read by the program.
-        for (const char *name : {"USERPROFILE", "COMPUTERNAME"})
+        // These name the user and the PC, and aren't read by the program.
+        for (const char *name : {"USERPROFILE", "COMPUTERNAME", "USERDNSDOMAIN"})
             variables.insert(QString::fromLatin1(name), qEnvironmentVariable(name));
-        NeutralNames(variables).replaceIn(contents);
+        NeutralNames neutral(variables);
+        const PersonalNames more = personalNames(system);
+        for (const QString &name : more.hosts)
+            neutral.addHost(name);
+        for (const QString &name : more.persons)
+            neutral.addPerson(name);
+        for (const QString &folder : more.others)
+            neutral.addOther(folder);
+        neutral.replaceIn(contents);
+        report.replaced += neutral.replaced();
     }
     return contents;
 }
@@ -148,6 +159,10 @@ CaptureReport capturePc(const QString &folder, Existing existing, const ReadingP
         const MachineContents contents = readPc(pc, system, names, report, progress);
         report.counts = countsOf(contents);
         importContents(machine, contents, progress);
+        report.left = findNames(machine, report.replaced, [&progress] {
+            if (progress)
+                progress(u"names that are left"_s, 1, 1);
+        });
     });
     return report;
 }

@@ -20,6 +20,8 @@ struct CaptureReport
     QStringList counts;     ///< "283 services"
     QList<NotRead> notRead; ///< what could not be read
     bool elevated = false;
+    QStringList replaced; ///< what the machine must not hold, as far as names were replaced
+    QStringList left;     ///< where some of it stands all the same, in words
 };
 
 /** Whether the names of the PC and its users are replaced by neutral ones. */

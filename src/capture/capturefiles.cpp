@@ -63,12 +63,6 @@ QString radeonInstaller(const SystemReader &system)
     return folder.isEmpty() ? QString() : folder + u"\\Bin64\\AMDSoftwareInstaller.exe"_s;
 }
 
-bool isWholePath(const QString &path)
-{
-    static const QRegularExpression whole(u"^[A-Za-z]:\\\\[^:*?\"<>|]+$"_s);
-    return whole.match(path).hasMatch() && !path.contains("\\.."_L1) && !path.endsWith(u'\\');
-}
-
 std::optional<FileDescription> describe(const QString &path)
 {
     const QString host = platform().hostPath(path);
@@ -96,6 +90,12 @@ std::optional<QByteArray> contentOf(const QString &path)
 }
 
 } // namespace
+
+bool isWholePath(const QString &path)
+{
+    static const QRegularExpression whole(u"^[A-Za-z]:\\\\[^:*?\"<>|]+$"_s);
+    return whole.match(path).hasMatch() && !path.contains("\\.."_L1) && !path.endsWith(u'\\');
+}
 
 QStringList filesOfProgram(const SystemReader &system, const QStringList &commands)
 {

@@ -7,6 +7,7 @@
 #include "work/settings.h"
 #include "work/tweaks/tweakvalues.h"
 
+#include <QHash>
 #include <QMap>
 
 using namespace Qt::StringLiterals;
@@ -71,4 +72,23 @@ QList<CaptureKey> captureKeys()
     for (const QString &path : WindowsKey::runKeys)
         keys.append({path, Reach::Own});
     return keys;
+}
+
+CapturedPlace capturedPlace(const QString &path)
+{
+    static const QHash<QString, CapturedPlace> places = [] {
+        QHash<QString, CapturedPlace> made;
+        for (const QString &key : {WindowsKey::networkInterfaces, WindowsKey::displayAdapters})
+            made.insert(foldName(key), {key});
+        for (const CaptureKey &key : captureKeys())
+            made.insert(foldName(key.path), {key.path, key.values});
+        return made;
+    }();
+
+    for (qsizetype end = path.size(); end > 0; end = path.lastIndexOf(u'\\', end - 1)) {
+        const auto place = places.constFind(foldName(path.first(end)));
+        if (place != places.constEnd())
+            return *place;
+    }
+    return {};
 }

@@ -27,23 +27,50 @@ struct CaptureKey
 /** All keys but those of network interfaces and display adapters, which go by rules of their own. */
 QList<CaptureKey> captureKeys();
 
+/** The part of a captured key's path, and the values of that key, that bear the program's own names for them. */
+struct CapturedPlace
+{
+    QString key;
+    QStringList values{};
+};
+CapturedPlace capturedPlace(const QString &path);
+
 struct CapturedRegistry
 {
     QList<RegistryEdit> edits;
     QStringList serviceTexts; ///< names and descriptions of services, which may be references into DLLs
     QStringList commands;     ///< of programs that start at logon, or did
     QStringList refused;      ///< keys that may not be read
+    QStringList replaced;     ///< addresses and networks' names that were
 };
 
-/** @param withNames leaves addresses and networks' names as they are */
+/** @param withNames leaves addresses, networks' names, and what programs are given as they are */
 CapturedRegistry captureRegistry(const SystemReader &system, bool withNames);
+
+/** Names by which a PC and those who use it are known, beside what the variables tell. */
+struct PersonalNames
+{
+    QStringList hosts;
+    QStringList persons; ///< full names and addresses
+    QStringList others;  ///< folders of other users
+};
+PersonalNames personalNames(const SystemReader &system);
 
 /** A text of the registry; empty where there is none. */
 QString registryTextOf(const SystemReader &system, const QString &key, const QString &name);
 
+/**
+ * The command of a program that starts at logon without what the program is given, which may be anything. What the jobs
+ * go by stays: a file in double quotes, and whether there is a "=", at which a record ends.
+ */
+QString withoutArguments(const QString &command);
+
 // What only the system's own tools tell.
 
-/** Scheduled tasks as schtasks prints them, without who made them and what they are given: it isn't needed. */
+/**
+ * Scheduled tasks as schtasks prints them, with those parts alone that the program and the stock tools read: who made a
+ * task and what it is given may be anything.
+ */
 QList<ScheduledTask> captureTasks(QList<NotRead> &notRead);
 /** The options of the boot configuration that the program changes. */
 QMap<QString, QString> captureBootOptions(QList<NotRead> &notRead);
@@ -59,6 +86,8 @@ QMap<QString, QString> captureEnvironment();
 
 // The files that the program looks at.
 
+/** Whether a text is the path of a file, from its drive on; with what the program can look at and nothing else. */
+bool isWholePath(const QString &path);
 /** The paths that the program names itself, and those that the registry's texts name. */
 QStringList filesOfProgram(const SystemReader &system, const QStringList &commands);
 /**

@@ -3,9 +3,11 @@
 #include "neutralnames.h"
 
 #include "capturesteps.h"
-#include "platform/windowsfacts.h"
+#include "namepattern.h"
 #include "work/settings.h"
 
+#include <QJsonValue>
+#include <QUrl>
 #include <QtEndian>
 
 #include <algorithm>
@@ -16,6 +18,7 @@ namespace {
 
 const QString neutralUser = u"User"_s;
 const QString neutralHost = u"PC"_s;
+const QString neutralOther = u"Other"_s;
 
 /** Names that are words of Windows itself: they are replaced only where they can't mean anything else. */
 bool isOrdinaryWord(const QString &name)
@@ -23,14 +26,28 @@ bool isOrdinaryWord(const QString &name)
     constexpr qsizetype shortestName = 3;
     // clang-format off
     static const QStringList words{
-        u"admin"_s, u"administrator"_s, u"appdata"_s, u"common"_s, u"computer"_s, u"data"_s, u"default"_s,
-        u"desktop"_s, u"device"_s, u"drivers"_s, u"family"_s, u"files"_s, u"guest"_s, u"home"_s, u"laptop"_s,
+        u"admin"_s, u"administrator"_s, u"appdata"_s, u"azuread"_s, u"common"_s, u"computer"_s, u"data"_s, u"default"_s,
+        u"desktop"_s, u"device"_s, u"drivers"_s, u"family"_s, u"files"_s, u"guest"_s, u"home"_s, u"lan"_s, u"laptop"_s,
         u"local"_s, u"machine"_s, u"microsoft"_s, u"network"_s, u"office"_s, u"owner"_s, u"program"_s, u"public"_s,
         u"roaming"_s, u"root"_s, u"service"_s, u"services"_s, u"software"_s, u"system"_s, u"system32"_s, u"task"_s,
         u"tasks"_s, u"temp"_s, u"test"_s, u"update"_s, u"user"_s, u"users"_s, u"win"_s, u"windows"_s, u"work"_s,
+        u"workgroup"_s,
     };
     // clang-format on
     return name.size() < shortestName || words.contains(name, Qt::CaseInsensitive);
+}
+
+/** Parts of full names, and of addresses, that are words of descriptions more often than names. */
+bool isWordOfTexts(const QString &part)
+{
+    // clang-format off
+    static const QStringList words{
+        u"account"_s, u"and"_s, u"art"_s, u"best"_s, u"bill"_s, u"case"_s, u"contact"_s, u"den"_s, u"der"_s, u"del"_s,
+        u"info"_s, u"link"_s, u"long"_s, u"mail"_s, u"mark"_s, u"may"_s, u"out"_s, u"page"_s, u"power"_s, u"street"_s,
+        u"support"_s, u"the"_s, u"van"_s, u"von"_s, u"will"_s,
+    };
+    // clang-format on
+    return words.contains(part, Qt::CaseInsensitive);
 }
 
 QRegularExpression anyCase(const QString &pattern)
@@ -58,6 +75,26 @@ QString folderOfUser(const QString &profile, const QString &path)
     return beside ? other.at(level) : QString();
 }
 
+/** As a name stands in XML and in an address of the web, too. */
+QStringList spellingsOf(const QString &name)
+{
+    QStringList spellings{name, name.toHtmlEscaped(), name.toHtmlEscaped().replace(u"'"_s, u"&apos;"_s),
+                          QString::fromLatin1(QUrl::toPercentEncoding(name))};
+    spellings.removeDuplicates();
+    return spellings;
+}
+
+/** Overwrites what is found by as many signs that mean nothing, since lengths may stand beside it. */
+void overwrite(QByteArray &data, const QRegularExpression &names, const QByteArray &sign)
+{
+    const QString text = QString::fromLatin1(data);
+    for (auto matches = names.globalMatch(text); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        for (qsizetype i = 0; i < match.capturedLength(); ++i)
+            data[match.capturedStart() + i] = sign.at(i % sign.size());
+    }
+}
+
 QString variable(const QMap<QString, QString> &environment, QLatin1StringView name)
 {
     for (auto it = environment.begin(); it != environment.end(); ++it) {
@@ -71,7 +108,7 @@ QString variable(const QMap<QString, QString> &environment, QLatin1StringView na
 
 NeutralNames::NeutralNames(const QMap<QString, QString> &environment)
 {
-    for (const QLatin1StringView name : {"COMPUTERNAME"_L1, "USERDOMAIN"_L1})
+    for (const QLatin1StringView name : {"COMPUTERNAME"_L1, "USERDOMAIN"_L1, "USERDNSDOMAIN"_L1})
         addHost(variable(environment, name));
     const QString profile = variable(environment, "USERPROFILE"_L1);
     addUser(variable(environment, "USERNAME"_L1));
@@ -80,10 +117,10 @@ NeutralNames::NeutralNames(const QMap<QString, QString> &environment)
     addUser(folderOfUser(profile, variable(environment, "TEMP"_L1)));
     addUser(folderOfUser(profile, variable(environment, "LOCALAPPDATA"_L1)));
     // Whoever else has a folder there
-    rules_.append(
-        {anyCase(u"([a-z]:[\\\\/]+Users[\\\\/]+)(?!(?:Public|Default|Default User|All Users|User)(?:[\\\\/\"]|$))"
-                 "[^\\\\/\"<>|:*?\\r\\n]+"_s),
-         u"\\1Other"_s});
+    rules_.append({anyCase(u"((?:[a-z]:|%systemdrive%|%homedrive%)[\\\\/]+Users[\\\\/]+)"
+                           "(?!(?:Public|Default|Default User|All Users|User|Other)(?:[\\\\/\"',;)]|$))"
+                           "[^\\\\/\"<>|:;,=+*?\\r\\n]+"_s),
+                   u"\\1"_s + neutralOther});
 }
 
 void NeutralNames::addHost(const QString &name)
@@ -91,8 +128,7 @@ void NeutralNames::addHost(const QString &name)
     if (name.isEmpty() || hosts_.contains(name, Qt::CaseInsensitive))
         return;
     hosts_.append(name);
-    if (!isOrdinaryWord(name))
-        rules_.append({anyCase(wholeWord(name)), neutralHost});
+    addWord(name, neutralHost);
 }
 
 void NeutralNames::addUser(const QString &name)
@@ -100,19 +136,68 @@ void NeutralNames::addUser(const QString &name)
     if (name.isEmpty())
         return;
     const QString written = QRegularExpression::escape(name);
-    rules_.append({anyCase(u"([\\\\/]Users[\\\\/]+)"_s + written + u"(?=[\\\\/\"]|$)"_s), u"\\1"_s + neutralUser});
+    const bool sought = isOrdinaryWord(name) && name.compare(neutralUser, Qt::CaseInsensitive) != 0;
+    rules_.prepend({anyCase(u"([\\\\/]Users[\\\\/]+)"_s + written + u"(?=[\\\\/\"',;)]|$)"_s), u"\\1"_s + neutralUser});
     for (const QString &host : std::as_const(hosts_)) {
-        rules_.append({anyCase(u"(?<![\\p{L}\\p{N}])(?:"_s + QRegularExpression::escape(host) + u'|' + neutralHost
-                               + u")\\\\"_s + written + u"(?![\\p{L}\\p{N}])"_s),
-                       neutralHost + u'\\' + neutralUser});
+        rules_.prepend({anyCase(u"(?<![\\p{L}\\p{N}])(?:"_s + QRegularExpression::escape(host) + u'|' + neutralHost
+                                + u")\\\\"_s + written + u"(?![\\p{L}\\p{N}])"_s),
+                        neutralHost + u'\\' + neutralUser});
+        if (sought)
+            places_.append(host + u'\\' + name);
     }
-    if (!isOrdinaryWord(name))
-        rules_.append({anyCase(wholeWord(name)), neutralUser});
+    if (sought)
+        places_.append(u"\\Users\\"_s + name);
+    addWord(name, neutralUser);
+}
+
+void NeutralNames::addPerson(const QString &name)
+{
+    static const QRegularExpression between(u"[\\s,]+"_s);
+
+    addWord(name, neutralUser);
+    const QStringList parts = name.contains(u'@') ? QStringList(name.section(u'@', 0, 0)) : name.split(between);
+    for (const QString &part : parts) {
+        if (!isWordOfTexts(part))
+            addWord(part, neutralUser);
+    }
+}
+
+void NeutralNames::addOther(const QString &folder)
+{
+    addWord(folder, neutralOther);
+}
+
+void NeutralNames::addWord(const QString &name, const QString &neutral)
+{
+    if (isOrdinaryWord(name))
+        return;
+    for (const QString &spelling : spellingsOf(name)) {
+        const auto isKnown = [&](const Word &word) { return word.name.compare(spelling, Qt::CaseInsensitive) == 0; };
+        if (std::any_of(words_.begin(), words_.end(), isKnown))
+            continue;
+        // A name may be part of a longer one.
+        const auto place = std::find_if(words_.begin(), words_.end(),
+                                        [&](const Word &word) { return word.name.size() < spelling.size(); });
+        words_.insert(place, {spelling, {anyCase(wholeWord(spelling)), neutral}});
+    }
+}
+
+QStringList NeutralNames::replaced() const
+{
+    QStringList names;
+    for (const Word &word : words_)
+        names.append(word.name);
+    names += places_ + authorities_.keys();
+    names.removeDuplicates();
+    return names;
 }
 
 QString NeutralNames::text(const QString &text)
 {
-    QString result = text;
+    // An expression finds nothing in a text with halves of pairs.
+    QString result = text.isValidUtf16() ? text : QString::fromUtf8(text.toUtf8());
+    for (const Word &word : std::as_const(words_))
+        result.replace(word.rule.expression, word.rule.replacement);
     for (const Rule &rule : std::as_const(rules_))
         result.replace(rule.expression, rule.replacement);
     return withNeutralAccounts(result);
@@ -165,38 +250,74 @@ QByteArray NeutralNames::withNeutralAccounts(const QByteArray &data)
     return result;
 }
 
+/** Names, and the numbers of accounts in texts, among bytes of whatever meaning. */
+QByteArray NeutralNames::withoutNames(QByteArray data) const
+{
+    static const QRegularExpression account(u"(?<=S-1-5-21-)\\d+-\\d+-\\d+"_s,
+                                            QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression wideAccount(
+        u"(?<=S\\x00-\\x001\\x00-\\x005\\x00-\\x002\\x001\\x00-\\x00)(?:\\d\\x00)+(?:-\\x00(?:\\d\\x00)+){2}"_s,
+        QRegularExpression::CaseInsensitiveOption);
+
+    overwrite(data, inBytes_, "x");
+    overwrite(data, inUtf16_, QByteArray("x\0", 2));
+    overwrite(data, account, "0");
+    overwrite(data, wideAccount, QByteArray("0\0", 2));
+    return data;
+}
+
+QByteArray NeutralNames::bytes(const QByteArray &data)
+{
+    return withoutNames(withNeutralAccounts(data));
+}
+
 RegistryValue NeutralNames::value(RegistryValue value)
 {
-    const auto texts = [this](QStringList list) {
-        for (QString &each : list)
-            each = text(each);
-        return list;
-    };
+    // What stays keeps its bytes, also where they are no whole text. After the end of a text nobody looks for more.
     switch (value.type) {
     case RegistryType::String:
-    case RegistryType::ExpandString:
-        // What stays keeps its bytes, also where they are no whole text.
-        if (const QString before = textOf(value.data), after = text(before); after != before)
+    case RegistryType::ExpandString: {
+        const QString before = textOf(value.data);
+        if (const QString after = text(before); after != before || value.data.size() > (before.size() + 1) * 2)
             value.data = registryText(after);
         break;
-    case RegistryType::MultiString:
-        if (const QStringList before = textsOf(value.data), after = texts(before); after != before)
+    }
+    case RegistryType::MultiString: {
+        const QStringList before = textsOf(value.data);
+        QStringList after = before;
+        for (QString &each : after)
+            each = text(each);
+        if (after != before || value.data.size() > registryTexts(before).size())
             value.data = registryTexts(after);
         break;
+    }
+    case RegistryType::DWord:
+    case RegistryType::QWord:
+        if (value.data.size() > static_cast<qsizetype>(sizeof(quint64)))
+            value.data = bytes(value.data);
+        break;
     default:
-        value.data = withNeutralAccounts(value.data);
+        value.data = bytes(value.data);
     }
     return value;
 }
 
+QString NeutralNames::key(const QString &path)
+{
+    const QString own = capturedPlace(path).key;
+    return own + text(path.sliced(own.size()));
+}
+
 void NeutralNames::replaceIn(RegistryEdit &edit)
 {
-    if (edit.kind != RegistryEdit::Kind::SetValue)
-        return;
-    edit.value = value(edit.value);
-    // Elsewhere the names of values are the program's own.
-    if (WindowsKey::runKeys.contains(edit.key) || edit.key.startsWith(programKey + u'\\'))
-        edit.value.name = text(edit.value.name);
+    const CapturedPlace place = capturedPlace(edit.key);
+    if (edit.kind == RegistryEdit::Kind::SetValue) {
+        edit.value = value(edit.value);
+        const bool isOwn = place.values.contains(edit.value.name, Qt::CaseInsensitive) || edit.key == programKey;
+        if (!isOwn)
+            edit.value.name = text(edit.value.name);
+    }
+    edit.key = key(edit.key);
 }
 
 void NeutralNames::replaceIn(FileDescription &file)
@@ -205,13 +326,15 @@ void NeutralNames::replaceIn(FileDescription &file)
     if (!file.content)
         return;
     // Byte by byte, whatever the code page
-    const QByteArray content = text(QString::fromLatin1(*file.content)).toLatin1();
+    const QByteArray content = bytes(text(QString::fromLatin1(*file.content)).toLatin1());
     file.size = file.size.value_or(0) + content.size() - file.content->size();
     file.content = content;
 }
 
 void NeutralNames::replaceIn(MachineDescription &description)
 {
+    if (description.name)
+        description.name = text(*description.name);
     for (auto it = description.environment.begin(); it != description.environment.end(); ++it) {
         if (it.key().compare("USERNAME"_L1, Qt::CaseInsensitive) == 0)
             *it = neutralUser;
@@ -220,24 +343,40 @@ void NeutralNames::replaceIn(MachineDescription &description)
         else
             *it = text(*it);
     }
+    if (description.processes) {
+        for (QString &process : *description.processes)
+            process = text(process);
+    }
+    for (QList<QJsonObject> &instances : description.wmi) {
+        for (QJsonObject &instance : instances) {
+            for (QJsonValueRef property : instance)
+                if (property.isString())
+                    property = text(property.toString());
+        }
+    }
     for (FileDescription &file : description.files)
         replaceIn(file);
     QMap<QString, QMap<uint, QString>> dlls;
-    for (auto it = description.dlls.begin(); it != description.dlls.end(); ++it)
-        dlls.insert(text(it.key()), it.value());
+    for (auto it = description.dlls.begin(); it != description.dlls.end(); ++it) {
+        QMap<uint, QString> strings = it.value();
+        for (QString &string : strings)
+            string = text(string);
+        dlls.insert(text(it.key()), strings);
+    }
     description.dlls = dlls;
 }
 
 void NeutralNames::replaceIn(MachineContents &contents)
 {
-    static const QRegularExpression otherAccount(u"(<UserId>)(?!S-1-)[^<]*(</UserId>)"_s);
-
+    inBytes_ = namesInBytes(replaced(), TextForm::Bytes);
+    inUtf16_ = namesInBytes(replaced(), TextForm::Utf16);
     for (RegistryEdit &edit : contents.registry)
         replaceIn(edit);
+    for (ServiceReport &service : contents.services)
+        service.name = text(service.name);
     for (ScheduledTask &task : contents.tasks) {
         task.path = text(task.path);
-        task.document =
-            text(task.document).replace(otherAccount, u"\\1"_s + neutralHost + u'\\' + neutralUser + u"\\2"_s);
+        task.document = text(task.document);
     }
     replaceIn(contents.description);
     contents.description.namesReplaced = true;

@@ -3,6 +3,7 @@
 
 #include "capture/capture.h"
 
+#include "capture/leftnames.h"
 #include "capture/readingplatform.h"
 #include "progress.h"
 #include "subcommands.h"
@@ -40,6 +41,8 @@ void printReport(const QString &folder, const CaptureReport &report)
     print(u"captured into %1: %2\n"_s.arg(place, report.counts.join(", "_L1)));
     for (const NotRead &part : report.notRead)
         print(u"not read: %1 (%2)\n"_s.arg(part.what, part.reason));
+    if (!report.replaced.isEmpty())
+        print(leftNamesText(report.left));
     if (!report.elevated) {
         print(u"run without administrator rights: with them it would also have the boot options, and those\n"
               "scheduled tasks, services and registry keys that this user may not see; a way back that is made\n"
@@ -72,8 +75,12 @@ int runCapture(const Arguments &arguments)
 QString moreHelp()
 {
     return u"The PC is read and not changed. What is taken is what the program looks at: its registry keys, services,\n"
-           "scheduled tasks without their arguments, packages, programs at logon, names of processes, hardware, and\n"
-           "the sizes of some files. The PC is called PC and its user User, in paths and texts alike.\n"
+           "of scheduled tasks the description, the state, the kinds of triggers and the rights, packages, programs "
+           "at\n"
+           "logon without their arguments, names of processes, hardware, and the sizes of some files. The PC is "
+           "called\n"
+           "PC, its user User and others Other, wherever they are named. In the end the machine is searched for those\n"
+           "names, and where one is left, as part of another word for example, is told.\n"
            "A way back ('preview --undo') needs the real names and all that there is: capture the PC for one with\n"
            "--with-names and as an administrator.\n"
            "Administrator rights aren't needed; without them a few things can't be read, which is told in the end.\n"_s;
@@ -81,8 +88,8 @@ QString moreHelp()
 
 // clang-format off
 constexpr OptionRow options[] = {
-    {"with-names"_L1, {}, "keep the names of the PC, its users and networks, as a way back needs them"_L1,
-     "Keeps the names of the PC, its users and its networks.\nA way back\n.RB ( \"preview \\-\\-undo\" )\nneeds them."_L1},
+    {"with-names"_L1, {}, "keep the names of the PC, its users and networks, and whole commands, as a way back needs them"_L1,
+     "Keeps the names of the PC, its users and its networks, and whole commands.\nA way back\n.RB ( \"preview \\-\\-undo\" )\nneeds them."_L1},
     {"force"_L1,      {}, "replace the machine that is there"_L1},
 };
 // clang-format on
