@@ -16,8 +16,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/** Bytes of an answer that may come: a version is some ten, and a long text would only fill the screen. */
-constexpr qint64 longestAnswer = 4096;
+// Bytes of an answer: a version is some ten, and a long text would only fill the screen.
+constexpr qint64 longestShown = 4096;
+constexpr qint64 longestAnswer = 64 * 1024; ///< what is longer is no answer
+
+/** The start of a text that is too long to be shown. */
+QString startOf(const QString &text)
+{
+    constexpr qsizetype most = 200; // characters, of which none is cut in two
+
+    const QList<uint> characters = text.toUcs4();
+    return QString::fromUcs4(reinterpret_cast<const char32_t *>(characters.constData()), most) + u'…';
+}
 
 QUrl pageOfHost(const QString &path)
 {
@@ -48,13 +58,16 @@ void Kestrune::onCheckUpdateResult(QNetworkReply *reply)
 {
     if (reply->error() != QNetworkReply::NoError)
         return;
-    const QString online = QString::fromUtf8(reply->readAll());
+    const QByteArray body = reply->readAll();
+    if (body.size() > longestAnswer)
+        return;
+    const QString online = QString::fromUtf8(body);
     // What is online counts, be it newer or older, and to the last line break.
     if (online == appVersion)
         return;
     const auto answer = ask({.text = tr("A newer version of Kestrune is available!\r\nWould you like to visit the "
                                         "website for download?\r\n\r\nCurrent version: %1\r\nOnline version: %2")
-                                         .arg(appVersion, online)});
+                                         .arg(appVersion, body.size() > longestShown ? startOf(online) : online)});
     if (answer != QMessageBox::Yes)
         return;
     // Only who has never chosen a language gets the English page.

@@ -129,6 +129,9 @@ private Q_SLOTS:
     void otherVersionAsks();
     void failureSaysNothingAndCountsForToday_data();
     void failureSaysNothingAndCountsForToday();
+    void longAnswerIsCut_data();
+    void longAnswerIsCut();
+    void tooLongAnswerSaysNothing();
     void hundredMegabytesAreGivenUp();
     void slowAnswerIsReadWhenItComes();
     void yesOpensThePageOfTheLanguage_data();
@@ -216,6 +219,46 @@ void TestUpdateCheck::failureSaysNothingAndCountsForToday()
     QVERIFY(driver.replies().first()->error() != QNetworkReply::NoError);
     QCOMPARE(boxes.shown().size(), 0);
     QCOMPARE(pc.read(settingsKey, u"LastCheckUpdate"_s).toString(), today());
+}
+
+void TestUpdateCheck::longAnswerIsCut_data()
+{
+    addColumns<QByteArray, QString>("body", "shown");
+    QTest::newRow("a byte too many") << QByteArray(4097, '7') << QString(200, u'7') + u'…';
+    QTest::newRow("as long as may be") << QByteArray(64 * 1024, '7') << QString(200, u'7') + u'…';
+    QTest::newRow("characters of several bytes") << QString(4000, u'ä').toUtf8() << QString(200, u'ä') + u'…';
+    // A character of two code units isn't cut in two.
+    QTest::newRow("a pair at the end") << QByteArray(199, '7') + QString(u"😀"_s).repeated(2000).toUtf8()
+                                       << QString(199, u'7') + u"😀…"_s;
+    QTest::newRow("markup") << QByteArray("<b>") + QByteArray(5000, '7') << u"<b>"_s + QString(197, u'7') + u'…';
+}
+
+void TestUpdateCheck::longAnswerIsCut()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(QString, shown);
+    const TestMachine pc;
+    Boxes boxes({QMessageBox::No});
+    Server server;
+    server.body = body;
+    const UpdateDriver driver;
+    driver.window().showPage(7);
+    driver.check();
+    QTRY_COMPARE_WITH_TIMEOUT(boxes.shown().size(), 1, patience);
+    QCOMPARE(boxes.shown().first().text.section(u"Online version: "_s, 1), shown);
+}
+
+void TestUpdateCheck::tooLongAnswerSaysNothing()
+{
+    const TestMachine pc;
+    const Boxes boxes;
+    Server server;
+    server.body = QByteArray(64 * 1024 + 1, '7');
+    const UpdateDriver driver;
+    driver.window().showPage(7);
+    driver.check();
+    QVERIFY(driver.waitForEnd());
+    QCOMPARE(boxes.shown().size(), 0);
 }
 
 void TestUpdateCheck::hundredMegabytesAreGivenUp()
