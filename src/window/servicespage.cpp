@@ -46,6 +46,8 @@ bool isCriticalService(const ServiceRow &row)
 void Kestrune::showServicesPage()
 {
     ui.tblSvc->setSortingEnabled(false);
+    // Where the listing fails, no rows of the other view stay below these buttons.
+    ui.tblSvc->setRowCount(0);
     ui.btnSvcViewDisabled->setText(tr("View disabled services"));
     ui.btnSvcDisable->setText(tr("DISABLE checked services"));
     svcDisabledCount = 0;

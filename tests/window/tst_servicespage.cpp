@@ -87,6 +87,7 @@ private Q_SLOTS:
     void menuButtonListsTheMachinesServices();
     void showingThePagePutsBothButtonsRight();
     void failedListingLeavesThePageEmpty();
+    void failedListingLeavesNoRowsOfAnEarlierView();
 
     // The view of disabled services
     void viewOfDisabledServicesHasItsTexts();
@@ -383,6 +384,29 @@ void TestServicesPage::failedListingLeavesThePageEmpty()
     QTRY_VERIFY(!driver.worker().isRunning());
     QCoreApplication::processEvents();
     QCOMPARE(driver.window().currentPage(), 1);
+    QCOMPARE(driver.services()->rowCount(), 0);
+    QCOMPARE(driver.status(), QString());
+}
+
+/** The rows of the other view would stand under buttons that disable what they show as disabled. */
+void TestServicesPage::failedListingLeavesNoRowsOfAnEarlierView()
+{
+    TestMachine machine;
+    machine.add({.name = u"Alpha"_s, .running = true});
+    machine.add({.name = u"Beta"_s, .start = StartDisabled});
+    const WindowDriver driver;
+    QVERIFY(driver.openServices());
+    driver.click(u"btnSvcViewDisabled"_s);
+    QCOMPARE(driver.services()->rowCount(), 1);
+    ToolFault missing;
+    missing.missing = true;
+    machine.machine().setFault(u"sc"_s, missing);
+    driver.click(u"btnMenuHome"_s);
+    driver.click(u"btnMenuService"_s);
+    QTRY_VERIFY(!driver.worker().isRunning());
+    QCoreApplication::processEvents();
+    QCOMPARE(driver.window().currentPage(), 1);
+    QCOMPARE(viewText(driver), u"View disabled services"_s);
     QCOMPARE(driver.services()->rowCount(), 0);
     QCOMPARE(driver.status(), QString());
 }
