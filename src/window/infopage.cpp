@@ -6,7 +6,9 @@
 #include "work/statusline.h"
 #include "work/sysinfo/systeminfo.h"
 
+#include <QGuiApplication>
 #include <QMap>
+#include <QPalette>
 
 using namespace Qt::StringLiterals;
 
@@ -43,6 +45,13 @@ QString withTexts(QString html, ReportPart part, const WorkThread &worker)
     for (const ReportText *mark : std::as_const(marks))
         html.replace(u'%' + QString(mark->name), worker.*(mark->text));
     return html;
+}
+
+/** In the form's black, from which each report takes the theme's colour: until then the theme may change twice. */
+QString uncoloured(QString html)
+{
+    const QString link = QGuiApplication::palette().color(QPalette::Link).name();
+    return html.replace(u"color:"_s + link, u"color:#000000"_s);
 }
 
 /** The three pieces of a date in another order; a text that is no such date stays as it is. */
@@ -90,9 +99,8 @@ void Kestrune::showSystemReport()
 {
     // The first report keeps the template, which later ones start from; a change of language doesn't reach it any more.
     if (infoTemplate.isEmpty())
-        infoTemplate = ui.txtInfo->toHtml();
-    else
-        ui.txtInfo->setHtml(infoTemplate);
+        infoTemplate = uncoloured(ui.txtInfo->toHtml());
+    ui.txtInfo->setHtml(infoTemplate);
     colorText(ui.txtInfo);
 
     // The job fills the dates anew before each report, so that they are never turned twice.

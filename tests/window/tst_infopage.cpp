@@ -141,6 +141,8 @@ private Q_SLOTS:
     void headingsHaveTheLinkColourOfEachTheme();
     void headingsFollowAChangeOfThemeBetweenTwoReports_data();
     void headingsFollowAChangeOfThemeBetweenTwoReports();
+    void headingsFollowTwoChangesOfThemeBetweenTwoReports_data();
+    void headingsFollowTwoChangesOfThemeBetweenTwoReports();
 
 private:
     QPalette systemPalette_; ///< before any theme
@@ -424,6 +426,34 @@ void TestInfoPage::headingsFollowAChangeOfThemeBetweenTwoReports()
     const QString html = report(driver)->toHtml();
     QCOMPARE(html.count(u"color:"_s + linkColor()), 6);
     QCOMPARE(html.count(u"color:"_s + before), 0);
+}
+
+void TestInfoPage::headingsFollowTwoChangesOfThemeBetweenTwoReports_data()
+{
+    addColumns<QString, QList<int>>("first", "chosen");
+    QTest::newRow("dark, light, system") << u"dark"_s << QList<int>{1, 2};
+    QTest::newRow("light, system, dark") << u"light"_s << QList<int>{2, 0};
+    QTest::newRow("system, dark, light") << u"system"_s << QList<int>{0, 1};
+    QTest::newRow("there and back") << u"dark"_s << QList<int>{1, 0};
+    QTest::newRow("three changes") << u"dark"_s << QList<int>{1, 2, 1};
+}
+
+void TestInfoPage::headingsFollowTwoChangesOfThemeBetweenTwoReports()
+{
+    QFETCH(const QString, first);
+    QFETCH(const QList<int>, chosen);
+    TestMachine machine;
+    openSettings()->setValue(u"palette"_s, first);
+    const WindowDriver driver;
+    fillTexts(driver);
+    finish(driver);
+    driver.window().showPage(7);
+    for (const int theme : chosen)
+        driver.get<QComboBox>(u"cbOptionsTheme"_s)->setCurrentIndex(theme);
+    finish(driver);
+    const QString html = report(driver)->toHtml();
+    QCOMPARE(html.count(u"color:"_s + linkColor()), 6);
+    QCOMPARE(html.count(u"color:"_s), 6 + html.count(u"background-color:"_s));
 }
 
 KESTRUNE_WINDOW_SUITE(TestInfoPage)
