@@ -143,6 +143,7 @@ private Q_SLOTS:
     void headingsFollowAChangeOfThemeBetweenTwoReports();
     void headingsFollowTwoChangesOfThemeBetweenTwoReports_data();
     void headingsFollowTwoChangesOfThemeBetweenTwoReports();
+    void changeOfLanguageAfterAReportLeavesDisksAndScreenLoading();
 
 private:
     QPalette systemPalette_; ///< before any theme
@@ -454,6 +455,26 @@ void TestInfoPage::headingsFollowTwoChangesOfThemeBetweenTwoReports()
     const QString html = report(driver)->toHtml();
     QCOMPARE(html.count(u"color:"_s + linkColor()), 6);
     QCOMPARE(html.count(u"color:"_s), 6 + html.count(u"background-color:"_s));
+}
+
+/** The labels are those of the first report, so that the words for what is loading are, too, and aren't found. */
+void TestInfoPage::changeOfLanguageAfterAReportLeavesDisksAndScreenLoading()
+{
+    TestMachine machine;
+    machine.write(settingsKey, u"lang"_s, u"en"_s);
+    const WindowDriver driver;
+    fillTexts(driver);
+    finish(driver);
+    QCOMPARE(lineWith(driver, u"Screen:"_s), u"Screen:   DISPLAY1"_s);
+    QVERIFY(QMetaObject::invokeMethod(&driver.window(), "onCbOptionsLangSelectionChanged", Q_ARG(int, 1)));
+    QCOMPARE(driver.window().currentLang, u"fr_FR"_s);
+    fillTexts(driver);
+    finish(driver);
+    QCOMPARE(lineWith(driver, u"Screen:"_s), u"Screen:   loading screen info..."_s);
+    QVERIFY(lines(driver).contains(u"loading disk info..."_s));
+    QVERIFY(!lines(driver).contains(u"Name:   A"_s));
+    // The rest is filled in.
+    QCOMPARE(lineWith(driver, u"Build:"_s), u"Build:   26100"_s);
 }
 
 KESTRUNE_WINDOW_SUITE(TestInfoPage)
