@@ -3,7 +3,6 @@
 #include "capture.h"
 
 #include "capturesteps.h"
-#include "leftnames.h"
 #include "machine/taskdocument.h"
 #include "neutralnames.h"
 #include "platform/windowsfacts.h"

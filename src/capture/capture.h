@@ -37,3 +37,12 @@ MachineContents readPc(const ReadingPlatform &pc, const SystemReader &system, Na
 /** Makes a machine of the PC, as a whole or not at all. Throws MachineError. */
 CaptureReport capturePc(const QString &folder, Existing existing, const ReadingPlatform &pc, const SystemReader &system,
                         Names names, const ProgressCallback &progress = {});
+
+/**
+ * Where a machine still holds one of these names, each as "NAME: place": in all tables and in the names and the content
+ * of all files, as UTF-8 or UTF-16LE, whatever its case. A short name is sought as a word of its own.
+ * @param goOn called now and then; it may throw to give up
+ */
+QStringList findNames(Machine &machine, const QStringList &names, const std::function<void()> &goOn);
+/** The same for a terminal, where there may be many of them, or that there are none. */
+QString leftNamesText(const QStringList &left);

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Looks through a finished machine for names that were replaced.
 
-#include "leftnames.h"
+#include "capture.h"
 
 #include "console/printable.h"
 #include "machine/database.h"
 #include "machine/machine.h"
-#include "namepattern.h"
+#include "neutralnames.h"
 
 #include <QDirIterator>
 

@@ -6,6 +6,7 @@
 #include "machine/source/machinesource.h"
 
 #include <QRegularExpression>
+#include <QStringList>
 
 /**
  * The same name always becomes the same, so that paths still find their files, and keys their services. What the
@@ -63,3 +64,13 @@ private:
     QRegularExpression inBytes_;
     QRegularExpression inUtf16_;
 };
+
+/** How the texts of Windows stand in bytes: UTF-8 along with the code pages that agree with Latin-1, and UTF-16LE. */
+enum class TextForm { Bytes, Utf16 };
+
+/**
+ * Finds any of these names in bytes, which are to be read as Latin-1, at whatever place and in whatever case. A name
+ * that is part of many words must stand alone. A backslash stands for any separators of a path. Nothing is found where
+ * there are no names.
+ */
+QRegularExpression namesInBytes(const QStringList &names, TextForm form);

@@ -2,6 +2,12 @@
 
 #include "platform.h"
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#else
+#include <cerrno>
+#endif
+
 namespace {
 
 std::unique_ptr<Platform> current;
@@ -18,4 +24,13 @@ Platform &platform()
 void setPlatform(std::unique_ptr<Platform> newPlatform)
 {
     current = std::move(newPlatform);
+}
+
+quint32 lastSystemError()
+{
+#ifdef Q_OS_WIN
+    return GetLastError();
+#else
+    return static_cast<quint32>(errno);
+#endif
 }

@@ -182,3 +182,6 @@ public:
 /** The platform in force. main() sets it before anything else; without one the program ends. */
 Platform &platform();
 void setPlatform(std::unique_ptr<Platform> newPlatform);
+
+/** The number of the calling thread's last error in a call into the system, as the system counts them. */
+quint32 lastSystemError();

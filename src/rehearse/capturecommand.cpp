@@ -3,7 +3,6 @@
 
 #include "capture/capture.h"
 
-#include "capture/leftnames.h"
 #include "capture/readingplatform.h"
 #include "progress.h"
 #include "subcommands.h"

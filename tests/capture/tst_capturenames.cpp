@@ -2,7 +2,7 @@
 // A PC that is captured without names: whoever uses it stands nowhere in the machine, and what the jobs need is there.
 
 #include "capture/capturesteps.h"
-#include "capture/leftnames.h"
+#include "capture/capture.h"
 #include "capture/neutralnames.h"
 #include "capturing.h"
 #include "machine/database.h"

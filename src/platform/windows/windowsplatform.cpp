@@ -8,7 +8,6 @@
 #include "processtoken.h"
 #include "systemfolders.h"
 #include "systemobjects.h"
-#include "wmiquery.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -195,11 +194,6 @@ DllString WindowsPlatform::dllString(const QString &windowsPath, uint id) const
     if (const int length = LoadStringW(module.get(), id, buffer, static_cast<int>(std::size(buffer))); length > 0)
         result.text = QString::fromWCharArray(buffer, length);
     return result;
-}
-
-WmiAnswer WindowsPlatform::queryWmi(const QString &className, const QStringList &properties) const
-{
-    return readWmi(className, properties);
 }
 
 void WindowsPlatform::pause(int milliseconds) const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// WMI over COM.
 
-#include "wmiquery.h"
+#include "windowsplatform.h"
 
 #include "comobjects.h"
 
@@ -48,7 +49,8 @@ QString propertyText(IWbemClassObject *object, const QString &name)
 
 } // namespace
 
-WmiAnswer readWmi(const QString &className, const QStringList &properties)
+/** Sets COM up for the calling thread and undoes it, so that any thread may call it. */
+WmiAnswer WindowsPlatform::queryWmi(const QString &className, const QStringList &properties) const
 {
     WmiAnswer answer;
     const auto failed = [&answer](WmiStep step, HRESULT result) {

@@ -4,7 +4,6 @@
 #include "tasks.h"
 
 #include "platform/platform.h"
-#include "platform/systemerror.h"
 #include "work/command.h"
 #include "work/interruption.h"
 #include "work/services/services.h"
