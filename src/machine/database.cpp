@@ -3,10 +3,12 @@
 
 #include "database.h"
 
+#include "console/programinterruption.h"
 #include "machineerror.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QThread>
 #include <QUrl>
 
 #include <sqlite3.h>
@@ -20,6 +22,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int busyTimeout = 10000; // milliseconds
+
+// A query is looked at each time when it has done so many steps of SQLite's machine, of which each row takes some ten.
+constexpr int stepsOfALook = 10000;
+constexpr int looksOfALongQuery = 100; // some hundredths of a second
+constexpr int mostLooks = 25000;       // some seconds; the longest of an honest machine takes a hundredth of that
 
 /** Whether the file can only be read. What others have still to write into it must be in it, though. */
 bool isReadOnly(const QString &file)
@@ -63,6 +70,7 @@ Database::Database(const QString &file)
         if (result != SQLITE_OK)
             fail("can't be opened");
         sqlite3_extended_result_codes(handle_, 1);
+        trustNothing();
         sqlite3_busy_timeout(handle_, busyTimeout);
         // A rehearsal survives a crash of any program; after a power cut it is made anew.
         execute("PRAGMA synchronous = OFF");
@@ -81,10 +89,41 @@ Database::~Database()
     sqlite3_close_v2(handle_);
 }
 
+void Database::trustNothing()
+{
+    static constexpr std::pair<int, int> settings[] = {{SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+                                                       {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+                                                       {SQLITE_DBCONFIG_ENABLE_VIEW, 0},
+                                                       {SQLITE_DBCONFIG_DEFENSIVE, 1}};
+    for (const auto &[setting, value] : settings) {
+        if (sqlite3_db_config(handle_, setting, value, nullptr) != SQLITE_OK)
+            fail("can't be opened");
+    }
+    sqlite3_progress_handler(handle_, stepsOfALook, heed, this);
+}
+
+/** Whether SQLite is to break the query off. Short ones never are: what they are part of decides. */
+int Database::heed(void *database)
+{
+    auto *self = static_cast<Database *>(database);
+    ++self->looks_;
+    const bool asked = isInterrupted() || QThread::currentThread()->isInterruptionRequested();
+    return self->takesTooLong() || (asked && self->looks_ >= looksOfALongQuery) ? 1 : 0;
+}
+
+bool Database::takesTooLong() const
+{
+    return looks_ >= mostLooks;
+}
+
 void Database::fail(const char *what) const
 {
     const QString reason = handle_ ? QString::fromUtf8(sqlite3_errmsg(handle_)) : u"out of memory"_s;
     const int code = handle_ ? sqlite3_errcode(handle_) & 0xff : SQLITE_NOMEM; // the rest tells details
+    if (code == SQLITE_INTERRUPT) {
+        const QString end = takesTooLong() ? u"is damaged: a query doesn't end"_s : u"was broken off"_s;
+        throw MachineError{u"%1: %2"_s.arg(QDir::toNativeSeparators(file_), end), takesTooLong()};
+    }
     const bool damaged = code == SQLITE_CORRUPT || code == SQLITE_NOTADB;
     throw MachineError{u"%1: %2: %3"_s.arg(QDir::toNativeSeparators(file_),
                                            damaged ? u"is damaged"_s : QString::fromUtf8(what), reason),
@@ -94,6 +133,7 @@ void Database::fail(const char *what) const
 void Database::execute(const char *statements)
 {
     const Hold hold(lock_);
+    looks_ = 0;
     if (sqlite3_exec(handle_, statements, nullptr, nullptr, nullptr) != SQLITE_OK)
         fail("can't be used");
 }
@@ -115,6 +155,7 @@ Database::Query::Query(Database &database, const char *sql)
     : hold_(database.lock_)
     , database_(database)
 {
+    database_.looks_ = 0;
     Statement &shared = database_.statements_[sql];
     if (shared.inUse) { // by a query around this one, whose rows must not be disturbed
         statement_ = database_.prepare(sql);

@@ -39,7 +39,11 @@ class Database
     };
 
 public:
-    /** Opens the file, or makes an empty one. Changes nothing in a file that is there, which may be one to read only.
+    /**
+     * Opens the file, or makes an empty one. Changes nothing in a file that is there, which may be one to read only,
+     * and of which nothing is run, whoever made it: no trigger, no view, no function of its schema. A long query ends
+     * when the program or its thread is asked to end, and one that doesn't end by itself ends all the same, by a
+     * MachineError.
      */
     explicit Database(const QString &file);
     ~Database();
@@ -107,6 +111,9 @@ public:
     };
 
 private:
+    void trustNothing();
+    static int heed(void *database);
+    bool takesTooLong() const;
     [[noreturn]] void fail(const char *what) const;
     sqlite3_stmt *prepare(const char *sql);
 
@@ -115,4 +122,5 @@ private:
     std::unordered_map<const char *, Statement> statements_;
     std::recursive_mutex lock_;
     int depth_ = 0;
+    int looks_ = 0; ///< of heed() at the query that was begun last
 };

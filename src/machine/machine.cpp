@@ -3,6 +3,7 @@
 
 #include "machine.h"
 
+#include "console/printable.h"
 #include "database.h"
 #include "machineschema.h"
 #include "platform/processground.h"
@@ -13,7 +14,6 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QRegularExpression>
 
 #include <filesystem>
 
@@ -100,15 +100,114 @@ void checkOwnFiles(const QString &folder)
     }
 }
 
-/** A machine that lacks a table would be found out only by who needs it, after long work. */
-void checkTables(Database &database, const QString &path)
+[[noreturn]] void failAsDamaged(const QString &path, const QString &reason)
 {
-    static const QRegularExpression tables(u"CREATE TABLE (\\w+)"_s);
-    for (auto match = tables.globalMatch(QString::fromUtf8(machineSchema)); match.hasNext();) {
-        const QString table = match.next().captured(1);
-        if (!database.query("SELECT 1 FROM sqlite_schema WHERE name = ?").bind(table).next())
-            fail(path, u"is damaged: it has no table '%1'"_s.arg(table));
+    throw MachineError{u"%1: is damaged: %2"_s.arg(QDir::toNativeSeparators(path), printable(reason)), true};
+}
+
+/** What a schema is made of. */
+struct SchemaPart
+{
+    QString type; ///< "table", "index", "view" or "trigger"
+    QString sql;  ///< the statement that made it; empty for what comes with a table
+
+    friend bool operator==(const SchemaPart &, const SchemaPart &) = default;
+};
+
+QMap<QString, SchemaPart> schemaOf(Database &database)
+{
+    QMap<QString, SchemaPart> parts;
+    auto query = database.query("SELECT name, type, sql FROM sqlite_schema");
+    while (query.next())
+        parts.insert(query.text(0), {query.text(1), query.text(2)});
+    return parts;
+}
+
+QStringList columnsOf(Database &database, const QString &table)
+{
+    QStringList names;
+    auto query = database.query("SELECT name FROM pragma_table_info(?)");
+    query.bind(table);
+    while (query.next())
+        names.append(query.text(0));
+    return names;
+}
+
+/**
+ * The schema is the one that this program makes. Another could lack what is found out only by who needs it, after long
+ * work, or have SQLite do at each step whatever somebody has thought up.
+ */
+void checkSchema(Database &database, const QString &path)
+{
+    Database model(u":memory:"_s);
+    model.execute(machineSchema);
+    const QMap<QString, SchemaPart> wanted = schemaOf(model);
+    const QMap<QString, SchemaPart> found = schemaOf(database);
+    for (auto each = wanted.cbegin(); each != wanted.cend(); ++each) {
+        if (!found.contains(each.key()))
+            failAsDamaged(path, u"it has no %1 '%2'"_s.arg(each->type, each.key()));
+        if (found.value(each.key()) == *each)
+            continue;
+        const QStringList columns = columnsOf(database, each.key());
+        for (const QString &column : columnsOf(model, each.key())) {
+            if (!columns.contains(column))
+                failAsDamaged(path, u"its table '%1' has no column '%2'"_s.arg(each.key(), column));
+        }
+        failAsDamaged(path, u"its table '%1' is another"_s.arg(each.key()));
     }
+    for (auto each = found.cbegin(); each != found.cend(); ++each) {
+        if (!wanted.contains(each.key()))
+            failAsDamaged(path, u"a machine has no %1 '%2'"_s.arg(each->type, each.key()));
+    }
+}
+
+/** What SQLite finds wrong with the file's pages. */
+void checkPages(Database &database, const QString &path)
+{
+    auto query = database.query("PRAGMA quick_check(1)");
+    if (!query.next() || query.text(0) != "ok"_L1)
+        failAsDamaged(path, u"malformed: "_s + query.text(0));
+}
+
+/** Each key lies in a hive, at a depth that a walk over all of them can take. */
+void checkKeys(Database &database, const QString &path)
+{
+    constexpr int most = RegistryStore::mostLevels;
+
+    if (database.query("SELECT 1 FROM key WHERE id <= 0").next())
+        failAsDamaged(path, u"its registry has a key above the hives"_s);
+    auto reached =
+        database.query("WITH RECURSIVE below (id, level) AS (SELECT id, 1 FROM key WHERE parent = 0 UNION ALL "
+                       "SELECT key.id, level + 1 FROM key JOIN below ON key.parent = below.id "
+                       "WHERE level <= ?) SELECT count(*), max(level) FROM below");
+    reached.bind(most).next();
+    if (reached.integer(1) > most)
+        failAsDamaged(path, u"its registry has more than %1 levels of keys"_s.arg(most));
+    auto all = database.query("SELECT count(*) FROM key");
+    all.next();
+    if (all.integer(0) != reached.integer(0))
+        failAsDamaged(path, u"its registry has keys in no hive"_s);
+}
+
+/** Nothing would fill the disk, or take for ever. */
+void checkSizes(Database &database, const QString &path)
+{
+    auto fault = database.query("SELECT fold FROM fault WHERE repeat > ?1 OR "
+                                "length(CAST(output AS BLOB)) * repeat > ?1");
+    if (fault.bind(ToolFault::mostPrinted).next())
+        failAsDamaged(path, u"the fault '%1' prints more than 256 MB"_s.arg(fault.text(0)));
+    auto file = database.query("SELECT 1 FROM meta WHERE name = 'hiberfile' AND value > ?");
+    if (file.bind(Machine::largestFile).next())
+        failAsDamaged(path, u"its hiberfil.sys had more than 1 TB"_s);
+}
+
+/** Looks through a database that may be anybody's. */
+void checkDatabase(Database &database, const QString &path)
+{
+    checkSchema(database, path);
+    checkPages(database, path);
+    checkKeys(database, path);
+    checkSizes(database, path);
 }
 
 /** A JSON text without the brackets that a document needs around it. */
@@ -175,7 +274,7 @@ std::unique_ptr<Machine> Machine::create(const QString &folder)
     return std::unique_ptr<Machine>(new Machine(path, std::move(database)));
 }
 
-std::unique_ptr<Machine> Machine::open(const QString &folder)
+std::unique_ptr<Machine> Machine::open(const QString &folder, Origin origin)
 {
     const QString path = cleanFolder(folder);
     const QString file = databaseFile(path);
@@ -183,7 +282,8 @@ std::unique_ptr<Machine> Machine::open(const QString &folder)
     checkOwnFiles(path);
     auto database = std::make_unique<Database>(file);
     checkVersion(*database, file);
-    checkTables(*database, file);
+    if (origin == Origin::Anybody)
+        checkDatabase(*database, file);
     makeFolders(path); // empty ones get lost in some archives
     return std::unique_ptr<Machine>(new Machine(path, std::move(database)));
 }

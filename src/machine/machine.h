@@ -44,6 +44,14 @@ struct ToolFault
     std::optional<int> exitCode{};   ///< ends with this code, having changed nothing
     std::optional<QString> output{}; ///< prints this instead of its own text
     int repeat = 1;                  ///< how often it prints it
+
+    static constexpr qint64 mostPrinted = qint64{256} * 1024 * 1024; ///< in bytes, with each repetition
+};
+
+/** Who has made a machine, as far as is known. */
+enum class Origin {
+    Anybody, ///< it is looked through as a whole
+    Checked  ///< it was, by the process that has started this one to work on it
 };
 
 /**
@@ -62,11 +70,16 @@ class Machine
 {
 public:
     static constexpr int formatVersion = 1;
+    static constexpr qint64 largestFile = qint64{1} << 40; ///< in bytes
 
     /** Makes an empty machine. Throws MachineError where the folder holds something or can't be written. */
     static std::unique_ptr<Machine> create(const QString &folder);
-    /** Opens a machine. Throws MachineError where there is none, or it is damaged or of a newer version. */
-    static std::unique_ptr<Machine> open(const QString &folder);
+    /**
+     * Opens a machine. Throws MachineError where there is none, or it is damaged or of a newer version: its database
+     * sound, of just the tables that this program makes, its keys in their hives and no deeper than those of Windows,
+     * and nothing in it larger than this program takes.
+     */
+    static std::unique_ptr<Machine> open(const QString &folder, Origin origin = Origin::Anybody);
     ~Machine();
 
     QString folder() const { return folder_; }

@@ -99,9 +99,13 @@ Machine::Location Machine::locate(const QString &path) const
 
 QString Machine::hostPath(const QString &windowsPath) const
 {
-    const QString path = placeOf(windowsPath);
     // Below a file there is nothing, whoever asks.
-    return leadsOut(path) ? folder_ + u"/machine.sqlite/outside"_s : path;
+    const QString outside = folder_ + u"/machine.sqlite/outside"_s;
+    // The system ends a name at a zero, which a look at the file doesn't.
+    if (windowsPath.contains(QChar(0)))
+        return outside;
+    const QString path = placeOf(windowsPath);
+    return leadsOut(path) ? outside : path;
 }
 
 bool Machine::leadsOut(const QString &hostPath) const

@@ -4,6 +4,7 @@
 #include "registrystore.h"
 
 #include "database.h"
+#include "machineerror.h"
 
 #include <algorithm>
 
@@ -126,9 +127,12 @@ KeyId RegistryStore::make(KeyId parent, const QString &relativePath)
     // What is there is found without taking the right to write from other processes.
     if (const std::optional<KeyId> found = find(parent, relativePath))
         return *found;
+    const QStringList below = levels(relativePath);
+    if (levelOf(parent) + below.size() > mostLevels)
+        throw MachineError{u"a key is at most %1 levels deep"_s.arg(mostLevels)};
     Database::Transaction transaction(database_);
     KeyId key = parent;
-    for (const QString &level : levels(relativePath)) {
+    for (const QString &level : below) {
         if (const std::optional<KeyId> found = child(key, level)) {
             key = *found;
             continue;
@@ -174,6 +178,15 @@ QString RegistryStore::path(KeyId key) const
         at = query.integer(0);
     }
     return names.join(u'\\');
+}
+
+/** 1 of a hive */
+qsizetype RegistryStore::levelOf(KeyId key) const
+{
+    auto query = database_.query("WITH RECURSIVE above (id) AS (VALUES (?) UNION ALL "
+                                 "SELECT key.parent FROM key JOIN above ON key.id = above.id WHERE key.parent <> 0 "
+                                 "LIMIT ?) SELECT count(*) FROM above WHERE id <> 0");
+    return query.bind(key).bind(mostLevels + 1).next() ? query.integer(0) : 0;
 }
 
 QMap<QString, RegistrySubkey> RegistryStore::subkeysByName(KeyId key) const

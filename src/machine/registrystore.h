@@ -31,6 +31,7 @@ class RegistryStore
 {
 public:
     using KeyId = qint64;
+    static constexpr int mostLevels = 512; ///< of keys, a hive being the first; Windows has no more either
 
     explicit RegistryStore(Database &database);
 
@@ -40,7 +41,10 @@ public:
 
     std::optional<KeyId> find(const QString &path) const;
     std::optional<KeyId> find(KeyId parent, const QString &relativePath) const;
-    /** Makes the key and every key on the way; the key itself where it is there already. Null outside the hives. */
+    /**
+     * Makes the key and every key on the way; the key itself where it is there already. Null outside the hives. Throws
+     * MachineError where that were too many levels.
+     */
     std::optional<KeyId> make(const QString &path);
     /** Below a key that is gone nothing is made; the id that comes back then finds and takes nothing. */
     KeyId make(KeyId parent, const QString &relativePath);
@@ -69,6 +73,7 @@ public:
 private:
     std::optional<KeyId> child(KeyId parent, const QString &name) const;
     bool isSystemKey(KeyId key) const;
+    qsizetype levelOf(KeyId key) const;
     QString realName(KeyId parent, const QString &name) const;
 
     Database &database_;

@@ -21,6 +21,95 @@ Number numberOf(const QByteArray &data)
     return qFromLittleEndian<Number>(padded.constData());
 }
 
+/** Reads what QDataStream has written of a variant, as far as it is of those types that settings are made of. */
+class VariantReader
+{
+public:
+    explicit VariantReader(const QByteArray &bytes)
+        : stream_(bytes)
+    {
+        stream_.setVersion(QDataStream::Qt_4_0);
+    }
+
+    /** Invalid where the bytes are something else: they may be anybody's, and could have any type built. */
+    QVariant read()
+    {
+        const QVariant result = variant(0);
+        return stream_.status() == QDataStream::Ok ? result : QVariant();
+    }
+
+private:
+    /** The format's numbers of the types; never changed, since files have them. */
+    enum Type : quint32 {
+        Invalid = 0,
+        Boolean = 1,
+        Int32 = 2,
+        UInt32 = 3,
+        Int64 = 4,
+        UInt64 = 5,
+        Real = 6,
+        List = 9,
+        Text = 10,
+        Texts = 11,
+        Bytes = 12
+    };
+    static constexpr int mostDepth = 64;
+
+    template<typename Value>
+    Value take()
+    {
+        Value value{};
+        stream_ >> value;
+        return value;
+    }
+
+    QVariant variant(int depth)
+    {
+        switch (take<quint32>()) {
+        case Invalid:
+            take<QString>(); // an empty one is always written
+            return {};
+        case Boolean:
+            return take<bool>();
+        case Int32:
+            return take<qint32>();
+        case UInt32:
+            return take<quint32>();
+        case Int64:
+            return take<qint64>();
+        case UInt64:
+            return take<quint64>();
+        case Real:
+            return take<double>();
+        case List:
+            return list<QVariantList>([this, depth] { return variant(depth + 1); }, depth);
+        case Text:
+            return take<QString>();
+        case Texts:
+            return list<QStringList>([this] { return take<QString>(); }, depth);
+        case Bytes:
+            return take<QByteArray>();
+        default:
+            stream_.setStatus(QDataStream::ReadCorruptData);
+            return {};
+        }
+    }
+
+    /** Entry by entry, since the number of them may be anything. */
+    template<typename Entries, typename TakeEntry>
+    Entries list(TakeEntry takeEntry, int depth)
+    {
+        Entries entries;
+        if (depth >= mostDepth)
+            stream_.setStatus(QDataStream::ReadCorruptData);
+        for (quint32 left = take<quint32>(); left > 0 && stream_.status() == QDataStream::Ok; --left)
+            entries.append(takeEntry());
+        return entries;
+    }
+
+    QDataStream stream_;
+};
+
 /** A text that begins with "@" stands for something else than itself. */
 QVariant variantOfText(const QString &text)
 {
@@ -34,13 +123,8 @@ QVariant variantOfText(const QString &text)
         return text.sliced(11).chopped(1).toLatin1();
     if (text.startsWith(u"@String(") && text.endsWith(u')'))
         return text.sliced(8).chopped(1);
-    if (text.startsWith(u"@Variant(") && text.endsWith(u')')) {
-        QDataStream stream(text.sliced(9).chopped(1).toLatin1());
-        stream.setVersion(QDataStream::Qt_4_0);
-        QVariant result;
-        stream >> result;
-        return result;
-    }
+    if (text.startsWith(u"@Variant(") && text.endsWith(u')'))
+        return VariantReader(text.sliced(9).chopped(1).toLatin1()).read();
     return text;
 }
 

@@ -67,7 +67,7 @@ QString machineFolder(const QString &program)
 
 int runOnMachine(const QString &program, const QStringList &arguments)
 {
-    const std::unique_ptr<Machine> machine = Machine::open(machineFolder(program));
+    const std::unique_ptr<Machine> machine = Machine::open(machineFolder(program), Origin::Checked);
     // In place of those that an elevated process has set for itself
     enterEnvironment(machine->environment());
     const qint64 self = QCoreApplication::applicationPid();

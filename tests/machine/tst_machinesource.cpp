@@ -189,9 +189,9 @@ void TestMachineSource::malformedJsonIsToldWithItsPlace_data()
     QTest::newRow("no path")         << json(R"("files": [{ "size": 1 }])") << u": files[0].path: must be a text"_s;
     QTest::newRow("path")            << json(R"("files": [{ "path": "Windows\\x" }])") << u": files[0].path: not a path with a drive, such as C:\\Windows\\explorer.exe"_s;
     QTest::newRow("path that leaves") << json(R"("files": [{ "path": "C:\\..\\x" }])") << u": files[0].path: the part \"..\" can't be in a path"_s;
-    QTest::newRow("negative size")   << json(R"("files": [{ "path": "C:\\x", "size": -1 }])") << u": files[0].size: must be at least 0"_s;
+    QTest::newRow("negative size")   << json(R"("files": [{ "path": "C:\\x", "size": -1 }])") << u": files[0].size: must be between 0 and 1099511627776"_s;
     QTest::newRow("broken size")     << json(R"("files": [{ "path": "C:\\x", "size": 1.5 }])") << u": files[0].size: must be a whole number"_s;
-    QTest::newRow("size under text") << json(R"("files": [{ "path": "C:\\x", "size": 1, "text": "ab" }])") << u": files[0].size: must be at least 2"_s;
+    QTest::newRow("size under text") << json(R"("files": [{ "path": "C:\\x", "size": 1, "text": "ab" }])") << u": files[0].size: must be between 2 and 1099511627776"_s;
     QTest::newRow("file key")        << json(R"("files": [{ "path": "C:\\x", "colour": 1 }])") << u": files[0].colour: unknown key"_s;
     QTest::newRow("attribute")       << json(R"("files": [{ "path": "C:\\x", "attributes": ["hidden", "blue"] }])") << u": files[0].attributes[1]: unknown attribute \"blue\""_s;
     QTest::newRow("signed")          << json(R"("files": [{ "path": "C:\\x", "signed": "no" }])") << u": files[0].signed: must be true or false"_s;

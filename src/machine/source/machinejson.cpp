@@ -197,6 +197,8 @@ QString MachineJsonParser::windowsPath(const QString &path, const QString &key) 
         path.size() > 3 && path.at(0).isLetter() && path.at(1) == u':' && (path.at(2) == u'\\' || path.at(2) == u'/');
     if (!hasDrive)
         read_.fail(key, u"not a path with a drive, such as C:\\Windows\\explorer.exe"_s);
+    if (path.contains(QChar(0)))
+        read_.fail(key, u"has a zero in it"_s);
     QString clean = path;
     clean.replace(u'/', u'\\');
     for (const QString &part : clean.mid(3).split(u'\\')) {
@@ -223,7 +225,7 @@ FileDescription MachineJsonParser::file(const QJsonValue &value, const QString &
         file.content = read_.text(entry.value("text"_L1), keyBelow(key, u"text"_s)).toUtf8();
     if (entry.contains("size"_L1)) {
         const qint64 least = file.content ? file.content->size() : 0;
-        file.size = read_.integer(entry.value("size"_L1), keyBelow(key, u"size"_s), least);
+        file.size = read_.integer(entry.value("size"_L1), keyBelow(key, u"size"_s), least, Machine::largestFile);
     }
     if (file.folder && (file.content || file.size))
         read_.fail(key, u"a folder has neither text nor size"_s);
@@ -279,6 +281,8 @@ std::optional<ToolFault> MachineJsonParser::fault(const QJsonValue &value, const
         else
             fault.repeat = static_cast<int>(read_.integer(it.value(), below, 1, most));
     }
+    if (fault.output.value_or(QString()).toUtf8().size() * fault.repeat > ToolFault::mostPrinted)
+        read_.fail(key, u"prints more than 256 MB"_s);
     return fault;
 }
 

@@ -234,6 +234,8 @@ void ScriptReader::readKey()
         fail(u"the key is in none of the registry's hives"_s);
     if (removing_ && key_.split(u'\\', Qt::SkipEmptyParts).size() < 2)
         fail(u"a whole hive can't be removed"_s);
+    if (key_.split(u'\\', Qt::SkipEmptyParts).size() > RegistryStore::mostLevels)
+        fail(u"a key is at most %1 levels deep"_s.arg(RegistryStore::mostLevels));
     edits_ << RegistryEdit{removing_ ? RegistryEdit::Kind::RemoveKey : RegistryEdit::Kind::MakeKey, key_, {}};
 }
 
