@@ -64,6 +64,14 @@ QStringList realLevels(const QString &path)
 
 } // namespace
 
+QString foldName(const QString &name)
+{
+    QString result = name;
+    for (QChar &unit : result)
+        unit = unit.toUpper();
+    return result;
+}
+
 RegistryStore::RegistryStore(Database &database)
     : database_(database)
 {

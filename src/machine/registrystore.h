@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "platform/registrydata.h"
 #include "platform/registrykey.h"
 
 #include <QByteArray>
@@ -81,11 +82,3 @@ private:
 
 /** A name as look-ups compare it: each code unit in upper case, as Windows does for keys, values and files. */
 QString foldName(const QString &name);
-
-/** Helpers between texts and the data of values. */
-QByteArray registryText(const QString &text);
-QByteArray registryTexts(const QStringList &texts);
-QString textOf(const QByteArray &data);
-QStringList textsOf(const QByteArray &data);
-QByteArray registryDWord(quint32 number);
-QByteArray registryQWord(quint64 number);

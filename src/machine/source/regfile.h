@@ -33,8 +33,7 @@ void applyRegistryScript(Database &database, RegistryStore &store, const QList<R
  */
 QString writeRegistryScript(const RegistryStore &store, const QString &keyPath);
 /**
- * Whether a script can say the edit. It has no way to write a control character of a name: a line break in one would
- * begin a line, and so a key, of its own.
+ * Whether a script can say the edit, see fitsRegistryScript().
  */
 bool fitsScript(const RegistryEdit &edit);
 /** Edits as a script of version 5.00: text with LF line ends, in the given order. Each must fit into one. */

@@ -1,17 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The registry of a rehearsal machine: names as they are compared, and the data of values.
 
-#include "registrystore.h"
+#include "registrydata.h"
 
 #include <QtEndian>
-
-QString foldName(const QString &name)
-{
-    QString result = name;
-    for (QChar &unit : result)
-        unit = unit.toUpper();
-    return result;
-}
 
 QByteArray registryText(const QString &text)
 {
