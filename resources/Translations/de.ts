@@ -397,6 +397,10 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 <translation>Wiederherstellen ist erst nach einer Optimierung möglich!</translation>
 </message>
 <message>
+<source>Another instance of the program is changing this PC. Try again when it has finished.</source>
+<translation>Eine andere Instanz des Programms ändert gerade diesen PC. Versuchen Sie es erneut, wenn sie fertig ist.</translation>
+</message>
+<message>
 <source>Capacity:</source>
 <translation>Kapazität:</translation>
 </message>

@@ -397,6 +397,10 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 <translation>¡No se puede restaurar si aún no ha optimizado!</translation>
 </message>
 <message>
+<source>Another instance of the program is changing this PC. Try again when it has finished.</source>
+<translation>Otra instancia del programa está modificando este PC. Inténtelo de nuevo cuando haya terminado.</translation>
+</message>
+<message>
 <source>Capacity:</source>
 <translation>Capacidad:</translation>
 </message>

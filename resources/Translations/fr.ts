@@ -397,6 +397,10 @@ Toutes les fonctions, applications, tous les services et toutes les tâches sero
 <translation>Restauration impossible : vous n’avez pas encore optimisé !</translation>
 </message>
 <message>
+<source>Another instance of the program is changing this PC. Try again when it has finished.</source>
+<translation>Une autre instance du programme modifie ce PC. Réessayez lorsqu’elle aura terminé.</translation>
+</message>
+<message>
 <source>Capacity:</source>
 <translation>Capacité :</translation>
 </message>

@@ -397,6 +397,10 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 <translation>Impossibile ripristinare se non si è ancora ottimizzato!</translation>
 </message>
 <message>
+<source>Another instance of the program is changing this PC. Try again when it has finished.</source>
+<translation>Un’altra istanza del programma sta modificando questo PC. Riprovare quando ha finito.</translation>
+</message>
+<message>
 <source>Capacity:</source>
 <translation>Capacità:</translation>
 </message>

@@ -397,6 +397,10 @@ All features, applications, services and tasks will be restored.</source>
 <translation>まだ最適化していないため、復元できません!</translation>
 </message>
 <message>
+<source>Another instance of the program is changing this PC. Try again when it has finished.</source>
+<translation>プログラムの別のインスタンスがこの PC を変更しています。終了してからもう一度お試しください。</translation>
+</message>
+<message>
 <source>Capacity:</source>
 <translation>容量:</translation>
 </message>

@@ -397,6 +397,10 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 <translation>U kunt pas herstellen als u hebt geoptimaliseerd!</translation>
 </message>
 <message>
+<source>Another instance of the program is changing this PC. Try again when it has finished.</source>
+<translation>Een ander exemplaar van het programma wijzigt deze pc. Probeer het opnieuw wanneer het klaar is.</translation>
+</message>
+<message>
 <source>Capacity:</source>
 <translation>Capaciteit:</translation>
 </message>

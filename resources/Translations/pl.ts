@@ -397,6 +397,10 @@ Wszystkie funkcje, aplikacje, usługi i zadania zostaną przywrócone.</translat
 <translation>Nie można przywrócić, jeśli nie przeprowadzono optymalizacji!</translation>
 </message>
 <message>
+<source>Another instance of the program is changing this PC. Try again when it has finished.</source>
+<translation>Inna instancja programu właśnie zmienia ten komputer. Spróbuj ponownie, gdy skończy.</translation>
+</message>
+<message>
 <source>Capacity:</source>
 <translation>Pojemność:</translation>
 </message>

@@ -397,6 +397,10 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 <translation>Não é possível restaurar se você ainda não otimizou!</translation>
 </message>
 <message>
+<source>Another instance of the program is changing this PC. Try again when it has finished.</source>
+<translation>Outra instância do programa está alterando este PC. Tente novamente quando ela terminar.</translation>
+</message>
+<message>
 <source>Capacity:</source>
 <translation>Capacidade:</translation>
 </message>

@@ -397,6 +397,10 @@ All features, applications, services and tasks will be restored.</source>
 <translation>尚未进行优化，无法还原!</translation>
 </message>
 <message>
+<source>Another instance of the program is changing this PC. Try again when it has finished.</source>
+<translation>该程序的另一个实例正在更改此电脑。请在其完成后重试。</translation>
+</message>
+<message>
 <source>Capacity:</source>
 <translation>容量:</translation>
 </message>

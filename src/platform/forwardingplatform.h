@@ -30,6 +30,7 @@ public:
     }
     int exitCode(qint64 processId, int reported) const override { return inner_->exitCode(processId, reported); }
     bool isElevated() const override { return inner_->isElevated(); }
+    std::shared_ptr<void> lockOthersOut() const override { return inner_->lockOthersOut(); }
     void shellExecute(const ShellStart &start) const override { inner_->shellExecute(start); }
     QStringList processNames() const override { return inner_->processNames(); }
     DllString dllString(const QString &windowsPath, uint id) const override

@@ -136,6 +136,12 @@ public:
 
     /** Whether this process has an elevated token; false where that is unknown. */
     virtual bool isElevated() const = 0;
+    /**
+     * Keeps other instances of this program from changing the same PC for as long as there is what it gives; null where
+     * one of them keeps this one out. An instance that has ended, in whatever way, keeps nobody out, and nobody is kept
+     * out where the system doesn't say. Any thread.
+     */
+    virtual std::shared_ptr<void> lockOthersOut() const = 0;
     /** Starts a program through the shell and doesn't wait. A refusal or failure is silent. */
     virtual void shellExecute(const ShellStart &start) const = 0;
 

@@ -86,9 +86,18 @@ AutomatizerChoice automatizerChoice(const Arguments &arguments)
             .walk = arguments.has("yes"_L1) && !arguments.has("no-walk"_L1)};
 }
 
+/** Of the buttons Optimize, Restore and Apply. */
+bool isForOneAtATime(int job)
+{
+    return job == JobAutomatizerOptimize || job == JobAutomatizerRestore || job == jobTweak;
+}
+
 /** Runs what the row says on a worker that has its input. */
 void runRow(WorkThread &worker, const JobRow &row, const Arguments &arguments)
 {
+    const std::shared_ptr<void> lock = isForOneAtATime(row.job) ? platform().lockOthersOut() : nullptr;
+    if (isForOneAtATime(row.job) && !lock)
+        throw Failure{ExitJobFailed, u"another instance is changing this machine"_s};
     Progress progress;
     progress.show(u"running %1 ..."_s.arg(row.name), 0, 0);
     LinePrinter printer(arguments.has("json"_L1), progress);

@@ -41,11 +41,13 @@ void Kestrune::onAutomatizerValueChanged(const QString &line)
         fillBar();
         ui.txtAutomatizer->append(QString());
         logAndShow(tr("Optimization finished"));
+        letOthersIn();
     } else if (line == StatusLine::restoredWithoutTweaks) {
         closeRestore();
         fillBar();
         ui.txtAutomatizer->append(QString());
         logAndShow(tr("Restoration finished: Restart your PC!"));
+        letOthersIn();
     } else if (line == StatusLine::attributesSetByOptimize) {
         closeAttributeWalk();
     } else {
@@ -121,6 +123,7 @@ void Kestrune::closeWithoutAttributeWalk()
     logAndShow(tr("Features: applied successfully. Restart your PC!"));
     ui.txtAutomatizer->append(QString());
     logAndShow(workThread->restoreRunning == 1 ? tr("Restoration finished") : tr("Optimization finished"));
+    letOthersIn();
 }
 
 void Kestrune::closeAttributeWalk()
@@ -139,6 +142,7 @@ void Kestrune::closeAttributeWalk()
     // Takes the place of what was just set, and lacks the log's colon.
     if (workThread->restoreRunning == 0)
         ui.lblStatus->setText(tr("Features applied successfully. Restart your PC!"));
+    letOthersIn();
 }
 
 void Kestrune::fillBar()

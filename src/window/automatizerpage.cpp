@@ -43,6 +43,8 @@ void Kestrune::on_btnAutomatize_clicked()
         return;
     if (!mayChange(this))
         return;
+    if (!lockOthersOut())
+        return;
     workThread->win32PrioritySeparationIndex = ui.cbWin32PrioritySeparation->currentIndex();
     ui.txtAutomatizer->clear();
     workThread->analyzeRunning = 0;
@@ -62,7 +64,7 @@ void Kestrune::on_btnAutomatizerRestore_clicked()
     }
     const auto answer = ask({.text = tr("Are you sure you want to restore the original values?\r\nAll features, "
                                         "applications, services and tasks will be restored.")});
-    if (answer != QMessageBox::Yes)
+    if (answer != QMessageBox::Yes || !lockOthersOut())
         return;
     ui.txtAutomatizer->clear();
     fillRestoreLists(*workThread);

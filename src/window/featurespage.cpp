@@ -108,7 +108,7 @@ void Kestrune::on_btnTweakApply_clicked()
 {
     if (workThread->isRunning())
         return;
-    if (!mayChange(this))
+    if (!mayChange(this) || !lockOthersOut())
         return;
     workThread->win32PrioritySeparationIndex = ui.cbWin32PrioritySeparation->currentIndex();
     applyTouchedTweaks();
@@ -121,6 +121,8 @@ void Kestrune::on_btnTweakApply_clicked()
     // Also where the walk was refused or is still under way: the page is the only memory there is.
     saveTweakState();
     workThread->needReboot = 0;
+    if (!workThread->isRunning())
+        letOthersIn();
 }
 
 void Kestrune::applyTouchedTweaks()
@@ -159,6 +161,7 @@ void Kestrune::onAttributeWalkEnd()
     ui.lblStatus->setText(text.arg(homeDrive()));
     if (removed && workThread->optimizeRunning == 1)
         workThread->optimizeRunning = 0;
+    letOthersIn();
 }
 
 void Kestrune::on_btnSsd8_clicked()

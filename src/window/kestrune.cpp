@@ -3,6 +3,8 @@
 
 #include "kestrune.h"
 
+#include "messagebox.h"
+#include "platform/platform.h"
 #include "work/settings.h"
 #include "work/windowsname.h"
 
@@ -78,6 +80,21 @@ void Kestrune::waitForLastInstructions()
 {
     constexpr int patience = 2000; // a busy computer takes its time
     workThread->wait(patience);
+}
+
+bool Kestrune::lockOthersOut()
+{
+    if (!othersLock)
+        othersLock = platform().lockOthersOut();
+    if (!othersLock)
+        tell(tr("Another instance of the program is changing this PC. Try again when it has finished."));
+    return othersLock != nullptr;
+}
+
+void Kestrune::letOthersIn()
+{
+    waitForLastInstructions();
+    othersLock.reset();
 }
 
 void Kestrune::leave()

@@ -155,6 +155,11 @@ private:
     /** Gives the text's coloured words the theme's colour. */
     void colorText(QTextBrowser *browser);
 
+    /** Keeps other instances from changing the PC; says so and gives false where one is at work. */
+    bool lockOthersOut();
+    /** Lets them in again, when the job that was started last is over. */
+    void letOthersIn();
+
     // Optimizer page
     void takeAutomatizerBoxes();
     bool hasFindings() const;
@@ -251,5 +256,6 @@ private:
     int taskDisabledCount = 0;
     /** Boxes of tweaks that were ever changed since the page was first shown; none is taken out again. */
     QSet<const QCheckBox *> touchedBoxes;
+    std::shared_ptr<void> othersLock; ///< there during Optimize, Restore and Apply
     bool left_ = false;
 };

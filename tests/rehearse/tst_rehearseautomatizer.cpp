@@ -51,6 +51,9 @@ private Q_SLOTS:
     void linesOfTheBuiltInMachines();
     void refusals();
     void recordsPassedOverAreNamed();
+    void oneInstanceAtATimeChangesAMachine_data();
+    void oneInstanceAtATimeChangesAMachine();
+    void anInstanceThatWasKilledKeepsNobodyOut();
     void nothingFoundIsAFailure();
     void choicesLeaveOutWhatTheySay();
     void storedKeepStatesAreTheDefault();
@@ -122,6 +125,49 @@ void TestRehearseAutomatizer::recordsPassedOverAreNamed()
     const Ended ended = runOn(machine, {u"restore"_s, u"--no-features"_s});
     QCOMPARE(ended.exitCode, done);
     QVERIFY2(ended.output.startsWith("passed over\tAutorun\\Debugger\n"), ended.output.constData());
+}
+
+void TestRehearseAutomatizer::oneInstanceAtATimeChangesAMachine_data()
+{
+    QTest::addColumn<QStringList>("job");
+    QTest::newRow("optimize") << QStringList{u"optimize"_s};
+    QTest::newRow("restore") << QStringList{u"restore"_s, u"--no-features"_s};
+    QTest::newRow("tweak") << QStringList{u"tweak"_s, u"ssd"_s, u"1"_s, u"on"_s};
+}
+
+void TestRehearseAutomatizer::oneInstanceAtATimeChangesAMachine()
+{
+    QFETCH(const QStringList, job);
+    AutomatizerMachine machine;
+    machine.write(settingsKey, u"optimized"_s, 1);
+    std::shared_ptr<void> lock = machine.platform().lockOthersOut();
+    QVERIFY(lock);
+    QVERIFY(!machine.platform().lockOthersOut());
+    const Ended second = runOn(machine, job);
+    QCOMPARE(second.exitCode, jobFailed);
+    QCOMPARE(second.output, QByteArray());
+    QVERIFY2(second.errors.endsWith("kestrune-rehearse: another instance is changing this machine\n"),
+             second.errors.constData());
+    QCOMPARE(machine.commands(), QList<LoggedCommand>());
+    // A list is for anyone.
+    QCOMPARE(runOn(machine, {u"services"_s}).exitCode, done);
+    lock.reset();
+    QCOMPARE(runOn(machine, job).exitCode, done);
+    QVERIFY(machine.platform().lockOthersOut());
+}
+
+void TestRehearseAutomatizer::anInstanceThatWasKilledKeepsNobodyOut()
+{
+    constexpr int patience = 250000; // milliseconds
+    const AutomatizerMachine machine;
+    QProcess process;
+    process.start(builtProgram(u"kestrune-rehearse"_s),
+                  {u"run"_s, machine.folder(), u"optimize"_s, u"--pace"_s, u"1000"_s});
+    QVERIFY(process.waitForReadyRead(patience));
+    QVERIFY(!machine.platform().lockOthersOut());
+    process.kill();
+    QVERIFY(process.waitForFinished(patience));
+    QVERIFY(machine.platform().lockOthersOut());
 }
 
 void TestRehearseAutomatizer::nothingFoundIsAFailure()

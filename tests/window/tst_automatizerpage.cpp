@@ -20,6 +20,7 @@ const QString restore = u"btnAutomatizerRestore"_s;
 const QString serviceRecordsKey = settingsKey + u"\\SVC"_s;
 const QString taskRecordsKey = settingsKey + u"\\Task"_s;
 const QString elevationText = u"You must launch this app with Admin rights!"_s;
+const QString atWorkText = u"Another instance of the program is changing this PC. Try again when it has finished."_s;
 const QString refusalText = u"Cannot restore if you have not yet optimized!"_s;
 const QString questionText = u"Are you sure you want to restore the original values?\r\nAll features, applications, "
                              "services and tasks will be restored."_s;
@@ -103,6 +104,12 @@ private Q_SLOTS:
     void oneFindingOfAnyKindIsEnough();
     void optimizeTakesTheEntryOfTheComboBox();
     void optimizeStaysPossibleAfterItsFirstRun();
+
+    // Other instances
+    void anotherInstanceKeepsThisOneOut_data();
+    void anotherInstanceKeepsThisOneOut();
+    void othersAreKeptOutUntilTheEnd_data();
+    void othersAreKeptOutUntilTheEnd();
 
     // Restore
     void restoreIsRefusedUnlessOptimized_data();
@@ -387,6 +394,58 @@ void TestAutomatizerPage::questionsButtonsAreTranslated()
     driver.click(restore);
     QCOMPARE(boxes.shown().constLast().text, u'«' + questionText + u'»');
     QCOMPARE(boxes.shown().constLast().buttonTexts, (QStringList{u"«Yes»"_s, u"«No»"_s}));
+}
+
+void TestAutomatizerPage::anotherInstanceKeepsThisOneOut_data()
+{
+    addColumns<QString, QList<QMessageBox::StandardButton>>("button", "answers");
+    QTest::newRow("Optimize") << optimize << QList{QMessageBox::Ok};
+    QTest::newRow("Restore") << restore << QList{QMessageBox::Yes, QMessageBox::Ok};
+}
+
+void TestAutomatizerPage::anotherInstanceKeepsThisOneOut()
+{
+    QFETCH(const QString, button);
+    QFETCH(const QList<QMessageBox::StandardButton>, answers);
+    TestMachine machine;
+    machine.write(settingsKey, u"optimized"_s, 1);
+    const WindowDriver driver;
+    begin(driver);
+    driver.worker().analyzeServiceCount = 1;
+    const std::shared_ptr<void> other = machine.platform().lockOthersOut();
+    const Boxes boxes(answers);
+    driver.click(button);
+    QCOMPARE(boxes.shown().constLast().text, atWorkText);
+    QVERIFY(nothingHasBegun(driver));
+    QCOMPARE(logOf(driver)->toPlainText(), u"before"_s);
+    QCOMPARE(machine.commands(), QList<LoggedCommand>());
+}
+
+void TestAutomatizerPage::othersAreKeptOutUntilTheEnd_data()
+{
+    addColumns<QString, bool, QList<QMessageBox::StandardButton>>("button", "tweaks", "answers");
+    QTest::newRow("Optimize") << optimize << false << QList<QMessageBox::StandardButton>();
+    QTest::newRow("Optimize, no walk") << optimize << true << QList{QMessageBox::No};
+    QTest::newRow("Optimize, walk") << optimize << true << QList{QMessageBox::Yes};
+    QTest::newRow("Restore") << restore << false << QList{QMessageBox::Yes};
+    QTest::newRow("Restore, walk") << restore << true << QList{QMessageBox::Yes, QMessageBox::Yes};
+}
+
+void TestAutomatizerPage::othersAreKeptOutUntilTheEnd()
+{
+    QFETCH(const QString, button);
+    QFETCH(const bool, tweaks);
+    QFETCH(const QList<QMessageBox::StandardButton>, answers);
+    TestMachine machine;
+    machine.write(settingsKey, u"optimized"_s, 1);
+    const WindowDriver driver;
+    check(driver, tweaks, false);
+    driver.worker().analyzeServiceCount = 1;
+    const Boxes boxes(answers);
+    driver.click(button);
+    QVERIFY(!machine.platform().lockOthersOut());
+    QTRY_VERIFY_WITH_TIMEOUT(machine.platform().lockOthersOut(), patience);
+    QVERIFY(!driver.worker().isRunning());
 }
 
 void TestAutomatizerPage::restoreStartsWithWhatIsRecorded()

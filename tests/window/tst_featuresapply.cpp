@@ -122,6 +122,10 @@ private Q_SLOTS:
     void onlyOneMeansAReboot();
     void applyWhileTheWalkRunsIsIgnored();
 
+    void anotherInstanceKeepsThisOneOut();
+    void othersAreKeptOutUntilTheWalkIsOver_data();
+    void othersAreKeptOutUntilTheWalkIsOver();
+
     // The walk
     void walkIsAskedForWhenItsBoxWasTouched();
     void questionComesAfterTheTweaks();
@@ -160,6 +164,46 @@ void TestFeaturesApply::touchedBoxRunsItsTweakAndNoOther()
     apply(driver);
     QCOMPARE(probes.ran(), ran({name}, clicks == 1 ? u"on"_s : u"off"_s));
     QVERIFY(driver.status().startsWith(done));
+}
+
+void TestFeaturesApply::anotherInstanceKeepsThisOneOut()
+{
+    TestMachine machine;
+    TweakProbes probes(machine);
+    const FeaturesPage driver;
+    clickBox(driver, u"chkSsd1"_s);
+    probes.lay();
+    std::shared_ptr<void> other = machine.platform().lockOthersOut();
+    Boxes boxes({QMessageBox::Ok});
+    apply(driver);
+    QCOMPARE(boxes.shown().constLast().text,
+             u"Another instance of the program is changing this PC. Try again when it has finished."_s);
+    QCOMPARE(probes.ran(), QStringList());
+    QVERIFY(!driver.status().startsWith(done));
+    other.reset();
+    apply(driver);
+    QCOMPARE(probes.ran(), ran({u"chkSsd1"_s}, u"on"_s));
+    QVERIFY(machine.platform().lockOthersOut());
+}
+
+void TestFeaturesApply::othersAreKeptOutUntilTheWalkIsOver_data()
+{
+    QTest::addColumn<QMessageBox::StandardButton>("answer");
+    QTest::newRow("No") << QMessageBox::No;
+    QTest::newRow("Yes") << QMessageBox::Yes;
+}
+
+void TestFeaturesApply::othersAreKeptOutUntilTheWalkIsOver()
+{
+    QFETCH(const QMessageBox::StandardButton, answer);
+    TestMachine machine;
+    const FeaturesPage driver;
+    clickBox(driver, u"chkSsd8"_s);
+    const Boxes boxes({answer});
+    apply(driver);
+    QCOMPARE(machine.platform().lockOthersOut() == nullptr, answer == QMessageBox::Yes);
+    QTRY_VERIFY_WITH_TIMEOUT(machine.platform().lockOthersOut(), patience);
+    QVERIFY(!driver.worker().isRunning());
 }
 
 void TestFeaturesApply::nothingTouchedRunsNothingAndIsStored()

@@ -44,6 +44,7 @@ public:
     }
     int exitCode(qint64, int reported) const override { return reported; }
     bool isElevated() const override { return true; }
+    std::shared_ptr<void> lockOthersOut() const override { return std::make_shared<char>(); }
     void shellExecute(const ShellStart &) const override {}
     QStringList processNames() const override { return {}; }
     DllString dllString(const QString &, uint) const override { return {}; }

@@ -3,6 +3,7 @@
 
 #include "machineplatform.h"
 
+#include "folderlock.h"
 #include "folderwalk.h"
 #include "machine/environment.h"
 #include "machine/machineerror.h"
@@ -175,6 +176,11 @@ int MachinePlatform::exitCode(qint64 processId, int reported) const
 bool MachinePlatform::isElevated() const
 {
     return options_.elevated;
+}
+
+std::shared_ptr<void> MachinePlatform::lockOthersOut() const
+{
+    return lockFolder(machine_->folder());
 }
 
 void MachinePlatform::shellExecute(const ShellStart &start) const

@@ -50,6 +50,7 @@ public:
     std::optional<AdmittedProgram> admitProgram(const QString &program) const override;
     int exitCode(qint64 processId, int reported) const override;
     bool isElevated() const override;
+    std::shared_ptr<void> lockOthersOut() const override;
     void shellExecute(const ShellStart &start) const override;
     QStringList processNames() const override;
     DllString dllString(const QString &windowsPath, uint id) const override;

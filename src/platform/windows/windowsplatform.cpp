@@ -2,6 +2,7 @@
 
 #include "windowsplatform.h"
 
+#include "changelock.h"
 #include "heldfile.h"
 #include "nativekey.h"
 #include "platform/programname.h"
@@ -153,6 +154,11 @@ int WindowsPlatform::exitCode(qint64, int reported) const
 bool WindowsPlatform::isElevated() const
 {
     return isElevatedProcess();
+}
+
+std::shared_ptr<void> WindowsPlatform::lockOthersOut() const
+{
+    return lockChanges();
 }
 
 void WindowsPlatform::shellExecute(const ShellStart &start) const
