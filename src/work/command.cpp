@@ -92,6 +92,12 @@ QByteArray Command::readAllStandardOutput()
     return process_->isOpen() ? process_->readAllStandardOutput() : QByteArray();
 }
 
+bool Command::hasEndedByItself() const
+{
+    return processId_ != 0 && !ended_ && process_->state() == QProcess::NotRunning
+           && process_->exitStatus() == QProcess::NormalExit;
+}
+
 int Command::exitCode() const
 {
     if (refused_)

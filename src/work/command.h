@@ -48,6 +48,8 @@ public:
     void waitForReadyRead();
     QByteArray readAllStandardOutput();
 
+    /** Whether it ran to an end of its own, with whatever exit code. */
+    bool hasEndedByItself() const;
     /** 0 also for a command that runs, or that never started. */
     int exitCode() const;
     /** Ends the command if it still runs; one that can't be ended is left to itself. */

@@ -70,6 +70,7 @@ private Q_SLOTS:
 
     void encoderFile_data();
     void encoderFile();
+    void encoderFileIsReplacedAsAWhole();
     void theEncoderGoesWithBothBoxesOff();
     void anEncoderFileThatIsGoneSaysNothing();
 
@@ -554,6 +555,29 @@ void TestAutomatizerOptimize::encoderFile()
     QCOMPARE(linesOf(worker, JobAutomatizerOptimize),
              (QStringList{u"Process: disable EncoderServer done"_s, u""_s, u"automatizerEnd"_s}));
     QCOMPARE(readFile(file), after);
+}
+
+void TestAutomatizerOptimize::encoderFileIsReplacedAsAWhole()
+{
+#ifdef Q_OS_WIN
+    QSKIP("there a file that someone reads can't be replaced");
+#endif
+    const QFile::Permissions rights = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
+    TestMachine machine;
+    const QString file = machine.addFile(encoderConfig, "EnableEncoderServer=1\r\n");
+    QVERIFY(QFile::setPermissions(file, rights));
+    // Who has it open goes on with the old one, as a whole.
+    QFile reader(file);
+    QVERIFY(reader.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+    WorkThread worker;
+    findNothing(worker);
+    encoderServerFound = 1;
+    linesOf(worker, JobAutomatizerOptimize);
+    QCOMPARE(reader.readAll(), "EnableEncoderServer=1\r\n"_ba);
+    QCOMPARE(readFile(file), "EnableEncoderServer=0\r\n"_ba);
+    QCOMPARE(QFile::permissions(file) & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther),
+             QFile::Permissions(QFile::ReadGroup));
+    QCOMPARE(QFileInfo(file).dir().entryList(QDir::Files), QStringList{u"config"_s});
 }
 
 void TestAutomatizerOptimize::theEncoderGoesWithBothBoxesOff()

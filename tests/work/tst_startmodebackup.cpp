@@ -4,6 +4,7 @@
 #include "fakeplatform.h"
 #include "joblines.h"
 #include "machine/source/regfile.h"
+#include "support/files.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/services/services.h"
@@ -69,7 +70,12 @@ private Q_SLOTS:
     void namesAreWrittenAsTheyAre_data();
     void namesAreWrittenAsTheyAre();
     void aFileThatIsThereStaysAsItIs();
-    void anEmptyFileThatIsThereStaysToo();
+    void aFileThatWasCutOffIsRenamed_data();
+    void aFileThatWasCutOffIsRenamed();
+    void renamedFilesStay();
+    void aCompleteFileOfAnotherFormStays_data();
+    void aCompleteFileOfAnotherFormStays();
+    void aFileThatIsBeingReadIsNeverHalfThere();
     void aSecondListingLeavesBytesAndTimeUntouched();
     void aFileThatWasDeletedIsWrittenAnewWithTheStateOfThen();
     void anUnwritableProgramFolderGivesNoFileAndNoMessage();
@@ -219,24 +225,87 @@ void TestStartModeBackup::aFileThatIsThereStaysAsItIs()
 {
     TestMachine machine;
     machine.add({.name = u"Test"_s});
-    QVERIFY(QDir().mkpath(machine.platform().programFolder() + u"/backup_svc"_s));
-    QFile file(startModeBackupFile());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("from an earlier program");
-    file.close();
+    const QByteArray earlier = header + entry("Earlier", "2");
+    writeFile(startModeBackupFile(), earlier);
     QCOMPARE(WriteStartModeBackup(), -1);
-    QCOMPARE(backup(), "from an earlier program"_ba);
+    QCOMPARE(backup(), earlier);
 }
 
-void TestStartModeBackup::anEmptyFileThatIsThereStaysToo()
+void TestStartModeBackup::aFileThatWasCutOffIsRenamed_data()
+{
+    QTest::addColumn<QByteArray>("rest");
+    const QByteArray whole = header + entry("Test", "2");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("no head") << entry("Test", "2");
+    QTest::newRow("in the head") << header.first(10);
+    QTest::newRow("in a line") << whole.chopped(5);
+    QTest::newRow("before the last line end") << whole.chopped(3);
+    QTest::newRow("something else") << "from an earlier program"_ba;
+}
+
+void TestStartModeBackup::aFileThatWasCutOffIsRenamed()
+{
+    QFETCH(const QByteArray, rest);
+    TestMachine machine;
+    machine.add({.name = u"Test"_s, .type = 32, .start = 3});
+    writeFile(startModeBackupFile(), rest);
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(backup(), header + entry("Test", "3"));
+    const QString folder = QFileInfo(startModeBackupFile()).path();
+    QCOMPARE(readFile(folder + u"/StartMode-cut.reg"_s), rest);
+    QCOMPARE(QDir(folder).entryList(QDir::Files), (QStringList{u"StartMode-cut.reg"_s, u"StartMode.reg"_s}));
+    QCOMPARE(WriteStartModeBackup(), -1);
+}
+
+void TestStartModeBackup::renamedFilesStay()
 {
     const TestMachine machine;
-    QVERIFY(QDir().mkpath(machine.platform().programFolder() + u"/backup_svc"_s));
-    QFile file(startModeBackupFile());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
+    const QString folder = QFileInfo(startModeBackupFile()).path();
+    writeFile(folder + u"/StartMode-cut.reg"_s, "first");
+    writeFile(folder + u"/StartMode-cut2.reg"_s, "second");
+    writeFile(startModeBackupFile(), "third");
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(readFile(folder + u"/StartMode-cut.reg"_s), "first"_ba);
+    QCOMPARE(readFile(folder + u"/StartMode-cut2.reg"_s), "second"_ba);
+    QCOMPARE(readFile(folder + u"/StartMode-cut3.reg"_s), "third"_ba);
+}
+
+void TestStartModeBackup::aCompleteFileOfAnotherFormStays_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    const QString script = u"Windows Registry Editor Version 5.00\r\n\r\n[HKEY_LOCAL_MACHINE\\SOFTWARE\\A]\r\n"_s;
+    QTest::newRow("line ends of the registry editor") << script.toUtf8();
+    QTest::newRow("16 bits") << QByteArray("\xff\xfe") + registryText(script).chopped(2);
+    QTest::newRow("the older form") << "REGEDIT4\r\n\r\n"_ba;
+}
+
+void TestStartModeBackup::aCompleteFileOfAnotherFormStays()
+{
+    QFETCH(const QByteArray, bytes);
+    const TestMachine machine;
+    writeFile(startModeBackupFile(), bytes);
     QCOMPARE(WriteStartModeBackup(), -1);
-    QCOMPARE(file.size(), 0);
+    QCOMPARE(backup(), bytes);
+    QCOMPARE(QDir(QFileInfo(startModeBackupFile()).path()).entryList(QDir::Files), QStringList{u"StartMode.reg"_s});
+}
+
+void TestStartModeBackup::aFileThatIsBeingReadIsNeverHalfThere()
+{
+    /** A registry that looks, at each opening, for a backup under its name. */
+    class LookingPlatform : public FakePlatform
+    {
+    public:
+        std::unique_ptr<RegistryKey> openKey(const QString &path) const override
+        {
+            wasThere = wasThere || QFile::exists(startModeBackupFile());
+            return FakePlatform::openKey(path);
+        }
+        mutable bool wasThere = false;
+    };
+    const PlatformInForce<LookingPlatform> looking;
+    QCOMPARE(WriteStartModeBackup(), 0);
+    QCOMPARE(backup(), header);
+    QVERIFY(!looking->wasThere);
 }
 
 void TestStartModeBackup::aSecondListingLeavesBytesAndTimeUntouched()

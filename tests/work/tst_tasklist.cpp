@@ -3,6 +3,7 @@
 
 #include "joblines.h"
 #include "platform/forwardingplatform.h"
+#include "support/files.h"
 #include "support/suite.h"
 #include "support/taskexport.h"
 #include "support/testmachine.h"
@@ -134,6 +135,10 @@ private Q_SLOTS:
 
     void exportIsLeftBehindAndOverwritten();
     void firstExportIsKeptAsABackup();
+    void backupThatWasCutOffIsRenamed_data();
+    void backupThatWasCutOffIsRenamed();
+    void exportOfAnUnknownFormTakesNoBackupsPlace();
+    void exportThatIsStillBeingPrintedIsNoBackup();
     void withoutRightsThereIsNoBackup();
     void backupThatCannotBeWrittenDoesNotMatter();
 
@@ -531,6 +536,52 @@ void TestTaskList::firstExportIsKeptAsABackup()
     QVERIFY(QFile::remove(backupFolder(machine) + u"/tasks.xml"_s));
     worker.TaskMakeList();
     QCOMPARE(content(backupFolder(machine) + u"/tasks.xml"_s), listOfDocuments({{u"\\B"_s}}).toUtf8());
+}
+
+void TestTaskList::backupThatWasCutOffIsRenamed_data()
+{
+    QTest::addColumn<QByteArray>("rest");
+    const QByteArray whole = insideTasks({{u"\\A"_s}, {u"\\B"_s}}).toUtf8();
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("in a line") << whole.first(whole.indexOf("<URI>") + 3);
+    QTest::newRow("between two lines") << whole.first(whole.lastIndexOf("  <Triggers>"));
+    QTest::newRow("no head") << whole.sliced(whole.indexOf("<Tasks>"));
+}
+
+void TestTaskList::backupThatWasCutOffIsRenamed()
+{
+    QFETCH(const QByteArray, rest);
+    const TaskMachine machine;
+    writeFile(backupFolder(machine) + u"/tasks.xml"_s, rest);
+    const QString whole = listOfDocuments({{u"\\A"_s}});
+    print(machine, whole);
+    WorkThread worker;
+    worker.TaskMakeList();
+    QCOMPARE(content(backupFolder(machine) + u"/tasks.xml"_s), whole.toUtf8());
+    QCOMPARE(content(backupFolder(machine) + u"/tasks-cut.xml"_s), rest);
+    QCOMPARE(QDir(backupFolder(machine)).entryList(QDir::Files).size(), 2);
+}
+
+void TestTaskList::exportOfAnUnknownFormTakesNoBackupsPlace()
+{
+    const TaskMachine machine;
+    writeFile(backupFolder(machine) + u"/tasks.xml"_s, "<Task>in another form");
+    print(machine, u"<Task>in another form, and later"_s);
+    WorkThread worker;
+    worker.TaskMakeList();
+    QCOMPARE(content(backupFolder(machine) + u"/tasks.xml"_s), "<Task>in another form"_ba);
+    QCOMPARE(QDir(backupFolder(machine)).entryList(QDir::Files), QStringList{u"tasks.xml"_s});
+}
+
+void TestTaskList::exportThatIsStillBeingPrintedIsNoBackup()
+{
+    const TaskMachine machine;
+    machine.machine().setFault(u"schtasks"_s, {.hang = true, .output = listOfDocuments({{u"\\A"_s}})});
+    Command::timeLimit = 1000;
+    WorkThread worker;
+    worker.TaskMakeList();
+    QCOMPARE(pathsOf(worker.tasks), QStringList{u"A"_s});
+    QVERIFY(!QFileInfo::exists(backupFolder(machine)));
 }
 
 void TestTaskList::withoutRightsThereIsNoBackup()

@@ -4,7 +4,9 @@
 
 #include "automatizer.h"
 #include "platform/platform.h"
+#include "work/backups.h"
 #include "work/command.h"
+#include "work/settings.h"
 
 #include <QFile>
 
@@ -62,9 +64,9 @@ void Automatizer::optimizeEncoder()
     runTool(u"taskkill"_s, {u"/im"_s, u"RTSS.exe"_s, u"/f"_s, u"/t"_s});
 
     const QByteArray config = withEncoderOff(file.readAll());
-    file.seek(0);
-    file.write(config);
     file.close();
+    if (!writeWhole(file.fileName(), config))
+        LogError(u"optimizeEncoder: "_s + file.fileName() + u" can't be written"_s);
     report(WorkThread::tr("Process: disable EncoderServer done"));
     reportBreak();
 }

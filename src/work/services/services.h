@@ -30,7 +30,8 @@ QString startModeBackupFile();
 /**
  * Writes the start modes of all shared-process services to the backup, unless it is there already: it is a snapshot of
  * the system as it was before the program's first run, and that is its whole worth.
- * @return 0 written; -1 there already, or can't be opened; 1 and 2 an exception of the runtime, or of a file
+ * One that was cut off when it was written is no such snapshot: it is renamed, and a new one is written.
+ * @return 0 written; -1 there already, or can't be written; 1 and 2 an exception of the runtime, or of a file
  */
 int WriteStartModeBackup();
 

@@ -4,9 +4,10 @@
 #include "services.h"
 
 #include "platform/platform.h"
+#include "platform/registryscript.h"
 #include "platform/windowsfacts.h"
+#include "work/backups.h"
 
-#include <QDir>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -19,7 +20,7 @@ const QString lineEnd = u"\r\r\n"_s;
 
 QString startModes()
 {
-    QString script = u"Windows Registry Editor Version 5.00"_s + lineEnd + lineEnd;
+    QString script = registryScriptHead + lineEnd + lineEnd;
     const QStringList exclusions = startModeBackupExclusions();
     const auto services = platform().openKey(WindowsKey::services);
     for (const QString &name : services->childGroups()) {
@@ -53,12 +54,11 @@ QString startModeBackupFile()
 
 int WriteStartModeBackup()
 try {
-    QDir().mkpath(platform().programFolder() + u"/backup_svc"_s);
-    QFile file(startModeBackupFile());
-    if (file.exists() || !file.open(QIODevice::WriteOnly | QIODevice::Append))
+    const QString file = startModeBackupFile();
+    const BackupState state = backupState(file, isCompleteScript);
+    if (state == BackupState::Complete || (state == BackupState::CutOff && !setAside(file)))
         return -1;
-    file.write(startModes().toUtf8());
-    return 0;
+    return writeWhole(file, startModes().toUtf8()) ? 0 : -1;
 } catch (QFileDevice::FileError) {
     return 2;
 } catch (const std::exception &) {

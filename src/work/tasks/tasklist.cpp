@@ -4,6 +4,7 @@
 #include "tasks.h"
 
 #include "platform/platform.h"
+#include "work/backups.h"
 #include "work/command.h"
 #include "work/interruption.h"
 #include "work/services/services.h"
@@ -11,9 +12,7 @@
 #include "work/statusline.h"
 #include "work/workthread.h"
 
-#include <QDir>
 #include <QFile>
-#include <QStringDecoder>
 
 using namespace Qt::StringLiterals;
 
@@ -38,12 +37,24 @@ void appendToExport(const QString &fileName, const QByteArray &output)
         file.write(output + "\r\n");
 }
 
-/** Keeps the first export, for the user; nothing reads it. */
-void backUp(const QString &fileName)
+/** One document for all tasks or one for each, closed by their last tag: no line end need follow it. */
+bool isCompleteExport(const QString &text)
 {
-    const QString folder = platform().programFolder() + u"/backup_tasks"_s;
-    QDir().mkpath(folder);
-    QFile::copy(fileName, folder + u"/tasks.xml"_s); // leaves a backup that is there as it is
+    const QString end = text.trimmed();
+    return text.contains("<?xml"_L1) && (end.endsWith("</Tasks>"_L1) || end.endsWith("</Task>"_L1));
+}
+
+/** Keeps the first export, for the user; nothing reads it. */
+void backUp(const QByteArray &bytes)
+{
+    const QString file = platform().programFolder() + u"/backup_tasks/tasks.xml"_s;
+    const BackupState state = backupState(file, isCompleteExport);
+    if (state == BackupState::Complete)
+        return;
+    // What looks cut off to this program, though the tool has ended by itself, takes no place of another one.
+    if (state == BackupState::CutOff && !(isCompleteExport(textOfFile(bytes)) && setAside(file)))
+        return;
+    writeWhole(file, bytes);
 }
 
 } // namespace
@@ -63,17 +74,14 @@ try {
         LogError(u"TaskMakeList: schtasks process error: "_s + QString::number(code));
         return;
     }
-    if (!QFile::exists(fileName))
-        return;
-    if (platform().isElevated())
-        backUp(fileName);
-
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return;
     const QByteArray bytes = file.readAll();
-    QStringDecoder decoder(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8));
-    QString exported = decoder(bytes);
+    if (platform().isElevated() && schtasks.hasEndedByItself())
+        backUp(bytes);
+
+    QString exported = textOfFile(bytes);
     tasks = tasksOf(exported.replace("\r\n"_L1, "\n"_L1));
     if (analyzeRunning == 0)
         report(StatusLine::tasksListed);
