@@ -60,7 +60,7 @@ enum class Origin {
  *     machine.sqlite   registry, run states, processes, tasks, attributes, owners, boot options, WMI, hardware,
  *                      DLL strings, environment, faults
  *     drive_c/         the files the program can see
- *     program/         the program folder: log.txt, backup_svc, backup_tasks
+ *     program/         the program folder: log.txt, backup_svc, backup_tasks, backup_autorun
  *     tools/           sc, schtasks, ... all of them kestrune-stocktool
  *     commands.log     one JSON line for each tool run: program, arguments, exitCode
  *

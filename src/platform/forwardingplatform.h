@@ -14,6 +14,10 @@ public:
     }
 
     std::unique_ptr<RegistryKey> openKey(const QString &path) const override { return inner_->openKey(path); }
+    QList<RegistryValue> registryValues(const QString &keyPath) const override
+    {
+        return inner_->registryValues(keyPath);
+    }
     QString hostPath(const QString &windowsPath) const override { return inner_->hostPath(windowsPath); }
     QString programFolder() const override { return inner_->programFolder(); }
     QString resourceFolder() const override { return inner_->resourceFolder(); }

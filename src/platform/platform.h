@@ -87,6 +87,10 @@ public:
     /** Opens a key by its full path, hive name first. Never null. Any thread; the object belongs to one thread. */
     virtual std::unique_ptr<RegistryKey> openKey(const QString &path) const = 0;
 
+    /** The values of a key as the registry holds them, in its own order. None where there is no such key: it isn't
+     * made. */
+    virtual QList<RegistryValue> registryValues(const QString &keyPath) const = 0;
+
     /**
      * The file on this computer that a Windows path stands for, with "\" or "/" between its parts. On Windows the same
      * text; on a rehearsal machine a path below its drive, found without regard to case. A path without a drive, and a

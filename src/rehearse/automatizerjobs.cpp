@@ -61,10 +61,13 @@ void restore(WorkThread &worker, const AutomatizerChoice &choice, LinePrinter &p
     worker.restoreRunning = 1;
     runUpTo(choice.tweaks ? StatusLine::tweaksDone : StatusLine::restoredWithoutTweaks, worker, JobAutomatizerRestore,
             printer);
+    const QStringList notBroughtBack = programsNotBroughtBack(); // while they are recorded
     if (choice.tweaks)
         closeTweaks(worker, choice.walk, printer);
     else
         closeRestore();
+    for (const QString &name : notBroughtBack)
+        printer.takeResult(u"not brought back"_s, name);
 }
 
 } // namespace

@@ -162,7 +162,7 @@ constexpr JobRow rows[] = {
      "Looks for what could be optimized, and changes nothing."_L1},
     {"optimize"_L1,          {},           "analyze and optimize"_L1,           JobAutomatizerOptimize, 0,  0, {}},
     {"restore"_L1,           {},           "take an optimization back"_L1,      JobAutomatizerRestore,  0,  0, {}, {}, {}, {}, {},
-     "Takes back what an optimization has recorded."_L1},
+     "Takes back what an optimization has recorded.\nPrograms that it can't bring back are named at the end."_L1},
     {"winsxs"_L1,            {},           "measure the component store"_L1,    JobWinSxsSize,      0,  0, {}},
     {"sysinfo"_L1,           {},           "collect what the system report tells"_L1, JobGetSystemInfo, 0, 0,
      "pgr:value:7"_L1, {}, {}, {}, systemReport},

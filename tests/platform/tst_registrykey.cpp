@@ -7,6 +7,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -53,6 +55,8 @@ private Q_SLOTS:
     void endGroupUndoesOneBeginGroup();
     void anEmptyGroupIsNoLevel();
 
+    void valuesAsTheyAreHaveTheirTypesAndNames();
+    void valuesAsTheyAreMakeNoKey();
     void readsEveryType_data();
     void readsEveryType();
     void aMissingValueGivesTheDefault();
@@ -138,6 +142,24 @@ void TestRegistryKey::madeAtTheFirstUseAndNotBefore()
     QVERIFY(!contract_->hasKey(scratch + u"\\deep"_s));
     QVERIFY(!key->contains(u"a"_s));
     QVERIFY(contract_->hasKey(scratch + u"\\deep\\er"_s));
+}
+
+void TestRegistryKey::valuesAsTheyAreHaveTheirTypesAndNames()
+{
+    const QList<RegistryValue> values{{u"A/b"_s, RegistryType::ExpandString, registryText(u"%x%"_s)},
+                                      {u"C\\d"_s, RegistryType::String, utf16(u"no end"_s)},
+                                      {u"e"_s, RegistryType::None, QByteArray()}};
+    for (const RegistryValue &value : values)
+        contract_->writeRaw(scratch, value);
+    QList<RegistryValue> read = platform().registryValues(scratch);
+    std::sort(read.begin(), read.end(), [](const auto &left, const auto &right) { return left.name < right.name; });
+    QCOMPARE(read, values);
+}
+
+void TestRegistryKey::valuesAsTheyAreMakeNoKey()
+{
+    QCOMPARE(platform().registryValues(scratch + u"\\deep"_s), QList<RegistryValue>());
+    QVERIFY(!contract_->hasKey(scratch));
 }
 
 void TestRegistryKey::aWriteMakesEveryKeyOnTheWay()

@@ -31,6 +31,7 @@ class FakePlatform : public Platform
 {
 public:
     std::unique_ptr<RegistryKey> openKey(const QString &) const override { return std::make_unique<FakeKey>(); }
+    QList<RegistryValue> registryValues(const QString &) const override { return {}; }
     QString hostPath(const QString &windowsPath) const override { return windowsPath; }
     QString programFolder() const override { return folder_.path(); }
     QString resourceFolder() const override { return folder_.path(); }

@@ -2,9 +2,12 @@
 // Tests of switching a program started at logon off and on.
 
 #include "joblines.h"
+#include "machine/source/regfile.h"
+#include "support/files.h"
 #include "support/packageplaces.h"
 #include "support/suite.h"
 #include "work/autorun/autorun.h"
+#include "work/autorun/runbackup.h"
 
 #include <QTest>
 
@@ -39,6 +42,14 @@ private Q_SLOTS:
     void runValueIsRemovedAndRecorded();
     void recordHoldsTheCommandAsItWasHandedOver_data();
     void recordHoldsTheCommandAsItWasHandedOver();
+    void removedValueIsKeptExactly_data();
+    void removedValueIsKeptExactly();
+    void removedValuesAreAddedInTheirOrder();
+    void aValueIsAddedOnce();
+    void aValueThatCannotBeKeptStays_data();
+    void aValueThatCannotBeKeptStays();
+    void aBackupThatWasCutOffIsRenamed();
+    void valueThatCannotComeBackIsLogged();
     void otherValuesOfTheKeyStay();
     void valueThatIsGoneIsRecordedAllTheSame();
     void refusedRemovalIsRecordedAllTheSame();
@@ -111,6 +122,105 @@ void TestAutorunState::recordHoldsTheCommandAsItWasHandedOver()
     machine.write(userRunKey, u"A"_s, text);
     disableAutorun(runValue(u"A"_s, text));
     QCOMPARE(machine.read(autorunRecordsKey, u"A"_s), QVariant(text + u'=' + userRunKey + u"\\A"_s));
+}
+
+void TestAutorunState::removedValueIsKeptExactly_data()
+{
+    addColumns<RegistryType, QByteArray>("type", "data");
+    QTest::newRow("text") << RegistryType::String << registryText(command);
+    QTest::newRow("text with an equals sign") << RegistryType::String << registryText(u"a.exe --x=1 \"b\""_s);
+    QTest::newRow("text with a variable") << RegistryType::ExpandString << registryText(u"%windir%\\a.exe"_s);
+    QTest::newRow("text without its end") << RegistryType::String << registryText(u"a.exe"_s).chopped(2);
+    QTest::newRow("two lines") << RegistryType::String << registryText(u"a.exe\r\n[HKEY_LOCAL_MACHINE\\X]"_s);
+    QTest::newRow("other letters") << RegistryType::String << registryText(u"C:\\服务.exe"_s);
+    QTest::newRow("bytes") << RegistryType::Binary << QByteArray(300, '\x5a');
+    QTest::newRow("number") << RegistryType::DWord << registryDWord(7);
+    QTest::newRow("nothing") << RegistryType::None << QByteArray();
+}
+
+void TestAutorunState::removedValueIsKeptExactly()
+{
+    QFETCH(const RegistryType, type);
+    QFETCH(const QByteArray, data);
+    const TestMachine machine;
+    const RegistryValue value{u"My \"app\" 服"_s, type, data};
+    machine.machine().registry().setValue(*machine.machine().registry().make(machineRunKey32), value);
+    disableAutorun(runValue(value.name, u"shown"_s, machineRunKey32));
+    QCOMPARE(machine.names(machineRunKey32), QStringList());
+    const QList<RegistryEdit> edits = parseRegistryScript(readFile(runBackupFile()), u"Run.reg"_s);
+    QCOMPARE(edits.size(), 2);
+    QCOMPARE(edits.last().key, machineRunKey32);
+    QCOMPARE(edits.last().value, value);
+}
+
+void TestAutorunState::removedValuesAreAddedInTheirOrder()
+{
+    TestMachine machine;
+    machine.write(userRunKey, u"B"_s, u"b.exe"_s);
+    machine.write(machineRunKey, u"A"_s, u"a.exe"_s);
+    disableAutorun(runValue(u"B"_s, u"b.exe"_s));
+    disableAutorun(runValue(u"A"_s, u"a.exe"_s, machineRunKey));
+    // As the registry editor writes it
+    const QString script = u"Windows Registry Editor Version 5.00\r\n\r\n["_s + userRunKey
+                           + u"]\r\n\"B\"=\"b.exe\"\r\n\r\n["_s + machineRunKey + u"]\r\n\"A\"=\"a.exe\"\r\n"_s;
+    QCOMPARE(readFile(runBackupFile()), QByteArray("\xff\xfe") + registryText(script).chopped(2));
+    QCOMPARE(runBackupFile(), machine.platform().programFolder() + u"/backup_autorun/Run.reg"_s);
+}
+
+void TestAutorunState::aValueIsAddedOnce()
+{
+    TestMachine machine;
+    const auto removeOnce = [&](const QString &text) {
+        machine.write(userRunKey, u"A"_s, text);
+        disableAutorun(runValue(u"A"_s, text));
+        return readFile(runBackupFile());
+    };
+    const QByteArray first = removeOnce(u"a.exe --x=1"_s);
+    QCOMPARE(removeOnce(u"a.exe --x=1"_s), first);
+    // Another command is the only copy of its own.
+    const QByteArray second = removeOnce(u"a.exe --x=2"_s);
+    QVERIFY(second.startsWith(first) && second.size() > first.size());
+}
+
+void TestAutorunState::aValueThatCannotBeKeptStays_data()
+{
+    addColumns<QString, bool>("name", "blocked");
+    QTest::newRow("no folder for it") << u"A"_s << true;
+    QTest::newRow("a line break in its name") << u"A\n\"B\"=\"b.exe\""_s << false;
+}
+
+void TestAutorunState::aValueThatCannotBeKeptStays()
+{
+    QFETCH(const QString, name);
+    QFETCH(const bool, blocked);
+    LoggingMachine machine;
+    if (blocked)
+        writeFile(QFileInfo(runBackupFile()).path(), "in the way");
+    const RegistryValue value{name, RegistryType::String, registryText(u"a.exe"_s)};
+    machine.machine().registry().setValue(*machine.machine().registry().make(userRunKey), value);
+    disableAutorun(runValue(value.name, u"a.exe"_s));
+    QCOMPARE(machine.names(userRunKey), QStringList{value.name});
+    QCOMPARE(machine.names(autorunRecordsKey), QStringList());
+    QVERIFY(machine.errorLog().join(u' ').contains(u"can't be backed up and stays"_s));
+}
+
+void TestAutorunState::aBackupThatWasCutOffIsRenamed()
+{
+    TestMachine machine;
+    writeFile(runBackupFile(), "Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURR");
+    machine.write(userRunKey, u"A"_s, u"a.exe"_s);
+    disableAutorun(runValue(u"A"_s, u"a.exe"_s));
+    QCOMPARE(machine.names(userRunKey), QStringList());
+    QCOMPARE(QDir(QFileInfo(runBackupFile()).path()).entryList(QDir::Files),
+             (QStringList{u"Run-cut.reg"_s, u"Run.reg"_s}));
+    QCOMPARE(parseRegistryScript(readFile(runBackupFile()), u"Run.reg"_s).size(), 2);
+}
+
+void TestAutorunState::valueThatCannotComeBackIsLogged()
+{
+    const LoggingMachine machine;
+    enableAutorun(runValue(u"A"_s, u"a.exe"_s));
+    QCOMPARE(machine.errorLog(), QStringList{u"enableRunValue: "_s + userRunKey + u"\\A can't be brought back"_s});
 }
 
 void TestAutorunState::otherValuesOfTheKeyStay()

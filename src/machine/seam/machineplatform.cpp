@@ -104,6 +104,14 @@ std::unique_ptr<RegistryKey> MachinePlatform::openKey(const QString &path) const
     return std::make_unique<MachineKey>(machine_->registry(), path, options_.elevated);
 }
 
+QList<RegistryValue> MachinePlatform::registryValues(const QString &keyPath) const
+{
+    return guarded(QList<RegistryValue>(), [&] {
+        const auto key = machine_->registry().find(keyPath);
+        return key ? machine_->registry().values(*key) : QList<RegistryValue>();
+    });
+}
+
 QString MachinePlatform::hostPath(const QString &windowsPath) const
 {
     return machine_->hostPath(windowsPath);

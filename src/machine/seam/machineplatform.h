@@ -40,6 +40,7 @@ public:
     QList<int> takePauses() const;
 
     std::unique_ptr<RegistryKey> openKey(const QString &path) const override;
+    QList<RegistryValue> registryValues(const QString &keyPath) const override;
     QString hostPath(const QString &windowsPath) const override;
     QString programFolder() const override;
     QString resourceFolder() const override;

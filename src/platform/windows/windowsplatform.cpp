@@ -80,6 +80,11 @@ std::unique_ptr<RegistryKey> WindowsPlatform::openKey(const QString &path) const
     return std::make_unique<NativeKey>(path);
 }
 
+QList<RegistryValue> WindowsPlatform::registryValues(const QString &keyPath) const
+{
+    return WindowsReader().key(keyPath).values;
+}
+
 QString WindowsPlatform::hostPath(const QString &windowsPath) const
 {
     return windowsPath;

@@ -10,6 +10,7 @@ class WindowsPlatform final : public Platform
 {
 public:
     std::unique_ptr<RegistryKey> openKey(const QString &path) const override;
+    QList<RegistryValue> registryValues(const QString &keyPath) const override;
     QString hostPath(const QString &windowsPath) const override;
     QString programFolder() const override;
     QString resourceFolder() const override;

@@ -70,5 +70,8 @@ bool canRestore();
  */
 void fillRestoreLists(WorkThread &worker);
 
+/** The recorded programs that aren't in the start-up; after a Restore those that it couldn't bring back. */
+QStringList programsNotBroughtBack();
+
 /** After "AutomatizerRestore:finished": forgets the programs taken out of the start-up and the tweaks in force. */
 void closeRestore();

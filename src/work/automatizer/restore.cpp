@@ -3,6 +3,7 @@
 
 #include "automatizer.h"
 #include "platform/platform.h"
+#include "platform/registrydata.h"
 #include "platform/windowsfacts.h"
 #include "records.h"
 #include "work/autorun/autorun.h"
@@ -10,9 +11,13 @@
 #include "work/statusline.h"
 #include "work/tweaks/tweakcatalogue.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr quint32 taskOn = 2;
 
 /** The key of a Run value's path, up to the first place where its name stands. */
 QString runKey(const QString &path, const QString &name)
@@ -33,7 +38,38 @@ bool bringBack(const QString &name, const QString &record)
     return true;
 }
 
+bool isSwitchedOn(const QString &task)
+{
+    return platform().registryValues(task).contains(
+        RegistryValue{u"State"_s, RegistryType::DWord, registryDWord(taskOn)});
+}
+
+/** Whether a Run value is there; its command goes as far as records do. */
+bool isThere(const QString &key, const QString &name, const QString &command)
+{
+    const QList<RegistryValue> values = platform().registryValues(key);
+    return std::any_of(values.cbegin(), values.cend(), [&](const RegistryValue &value) {
+        return value.name.compare(name, Qt::CaseInsensitive) == 0 && textOf(value.data).section(u'=', 0, 0) == command;
+    });
+}
+
 } // namespace
+
+QStringList programsNotBroughtBack()
+{
+    const QStringList distrusted = distrustedRecords();
+    const auto records = openRecords(u"Autorun"_s);
+    QStringList missing;
+    for (const QString &name : recordedNames(u"Autorun"_s)) {
+        const QStringList parts = records->value(name).toString().split(u'=');
+        if (parts.size() < 2 || distrusted.contains(u"Autorun\\"_s + name))
+            continue;
+        if (!(parts.at(1).isEmpty() ? isSwitchedOn(parts.first())
+                                    : isThere(runKey(parts.at(1), name), name, parts.first())))
+            missing.append(name);
+    }
+    return missing;
+}
 
 void Automatizer::restore()
 {
@@ -79,9 +115,12 @@ void Automatizer::restoreTasks()
 void Automatizer::restoreAutoruns()
 {
     const QStringList names = trustedAutoruns();
-    // A single one stays off, without a word.
-    if (names.size() < 2)
+    // A single one stays off, without a word to the user.
+    if (names.size() < 2) {
+        for (const QString &name : names)
+            LogError(u"restoreAutoruns: "_s + name + u" isn't brought back"_s);
         return;
+    }
     reportPhase(WorkThread::tr("Autorun"));
     reportMaximum(names.size());
     reportStep(0);

@@ -4,6 +4,7 @@
 
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
+#include "runbackup.h"
 #include "work/settings.h"
 #include "work/workthread.h"
 
@@ -100,7 +101,11 @@ void disableAutorun(const AutorunEntry &entry)
 
 void disableRunValue(const AutorunEntry &entry)
 {
-    // The record is all that brings the value back: it goes first, and without it the value stays.
+    // What brings the value back goes first, and without it the value stays: an exact copy, and the record.
+    if (!backUpRunValue(keyOf(entry), valueNameOf(entry))) {
+        LogError(u"disableRunValue: "_s + entry.path + u" can't be backed up and stays"_s);
+        return;
+    }
     const QString text = entry.command + u'=' + entry.path;
     record(u"Autorun"_s, entry.name, text);
     if (openRecords(u"Autorun"_s)->value(entry.name).toString() != text) {
@@ -126,8 +131,10 @@ void enableAutorun(const AutorunEntry &entry)
 
 void enableRunValue(const QString &key, const QString &name, const QString &command)
 {
-    if (!canBeRestored(command))
+    if (!canBeRestored(command)) {
+        LogError(u"enableRunValue: "_s + key + u'\\' + name + u" can't be brought back"_s);
         return;
+    }
     const auto run = platform().openKey(key);
     // Recorded, and never removed. A record ends before an "=", and what is there must not be cut to it.
     if (run->value(name).toString().section(u'=', 0, 0) != command)
