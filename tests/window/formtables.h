@@ -179,7 +179,7 @@ struct LayoutRow
 constexpr LayoutRow layoutRows[] = {
     {"gridLayout",         "QGridLayout", "centralWidget",            0,     0,     0,     0,     0,     0},
     {"verticalLayout_3",   "QVBoxLayout", "wgtLeftMenu",              0,     0,     0,     0,     0,     0},
-    {"gridLayout_2",       "QGridLayout", "wgtMain",                  0,     unset, unset, unset, unset, unset},
+    {"gridLayout_2",       "QGridLayout", "wgtMain",                  0,     unset, unset, unset, 0,     0},
     {"horizontalLayout",   "QHBoxLayout", "wgtStatus",                unset, 0,     0,     0,     28,    28},
 
     {"gridLayout_15",      "QGridLayout", "tabAutomatizer",           0,     unset, 0,     unset, 6,     6},
