@@ -131,8 +131,17 @@ void Kestrune::buildKeepList()
         box->setModel(keepModel);
         box->setItemDelegate(new KeepDelegate(box)); // deletes the one before
         box->setCurrentText(tr("Keep features"));
+        connect(box, &QComboBox::currentIndexChanged, this, &Kestrune::showKeepTitle, Qt::UniqueConnection);
     }
     connect(keepModel, &QStandardItemModel::dataChanged, this, &Kestrune::onKeepModelChanged, Qt::UniqueConnection);
+}
+
+void Kestrune::showKeepTitle(int index)
+{
+    if (index <= 0) // the title, or a list that is being built
+        return;
+    for (QComboBox *box : {ui.cbSvcFeatures, ui.cbAutorunFeatures})
+        box->setCurrentIndex(0);
 }
 
 void Kestrune::onKeepModelChanged(const QModelIndex &first, const QModelIndex &last)

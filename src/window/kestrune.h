@@ -118,6 +118,8 @@ private Q_SLOTS:
     void onChkOptionsGetWinSxsSizeStateChanged(int state);
     void onCheckUpdateResult(QNetworkReply *reply);
 
+    /** The closed lists show their title, which the wheel and the keys would leave for a feature. */
+    void showKeepTitle(int index);
     void onKeepModelChanged(const QModelIndex &first, const QModelIndex &last);
 
 private:

@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QStandardItemModel>
 #include <QTest>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -139,6 +140,8 @@ private Q_SLOTS:
     void clickAnywhereInARowTogglesItsFeature();
     void otherMouseButtonsToggleNothing();
     void titleRowCannotBeCheckedByAClick();
+    void wheelAndKeysLeaveTheTitle_data();
+    void wheelAndKeysLeaveTheTitle();
     void changeOfTheTitleRowStoresItsStateAndTouchesNoMember();
     void changeOfSeveralRowsStoresEach();
 
@@ -306,6 +309,36 @@ void TestKeepList::titleRowCannotBeCheckedByAClick()
     QVERIFY(!keepModel->item(0)->data(Qt::CheckStateRole).isValid());
     QVERIFY(!stored(machine, 0).isValid());
     QCOMPARE(servicesBox(driver)->currentText(), u"Keep features"_s);
+}
+
+void TestKeepList::wheelAndKeysLeaveTheTitle_data()
+{
+    QTest::addColumn<bool>("rebuilt");
+    QTest::newRow("at the start") << false;
+    QTest::newRow("after a change of theme") << true;
+}
+
+void TestKeepList::wheelAndKeysLeaveTheTitle()
+{
+    QFETCH(const bool, rebuilt);
+    const WindowOnPc driver;
+    if (rebuilt)
+        driver.window().applyPalette();
+    for (QComboBox *box : {servicesBox(driver), homeBox(driver)}) {
+        for (const int turn : {-120, 120, -1200}) {
+            const QPointF place = box->rect().center();
+            QWheelEvent wheel(place, box->mapToGlobal(place), {}, {0, turn}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(box, &wheel);
+            QCOMPARE(box->currentText(), u"Keep features"_s);
+        }
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End, Qt::Key_PageDown, Qt::Key_P}) {
+            QTest::keyClick(box, key);
+            QCOMPARE(box->currentText(), u"Keep features"_s);
+        }
+    }
+    for (int row = 1; row <= 9; ++row)
+        QCOMPARE(keepModel->item(row)->checkState(), Qt::Checked);
 }
 
 void TestKeepList::changeOfTheTitleRowStoresItsStateAndTouchesNoMember()
