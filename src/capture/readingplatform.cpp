@@ -15,6 +15,9 @@ public:
     }
     void setValue(const QString &, const QVariant &) override {}
     void remove(const QString &) override {}
+    QVariant ownValue(const QString &) const override { return {}; }
+    void setOwnValue(const QString &, const QString &) override {}
+    void removeOwnValue(const QString &) override {}
     bool contains(const QString &) const override { return false; }
     QStringList allKeys() const override { return {}; }
     QStringList childKeys() const override { return {}; }
@@ -35,6 +38,14 @@ QString ReadingPlatform::hostPath(const QString &windowsPath) const
     if (!files_.contains(windowsPath))
         files_.append(windowsPath);
     return ForwardingPlatform::hostPath(windowsPath);
+}
+
+bool ReadingPlatform::isOnFixedDrive(const QString &windowsPath) const
+{
+    const bool there = ForwardingPlatform::isOnFixedDrive(windowsPath);
+    if (there && !files_.contains(windowsPath))
+        files_.append(windowsPath);
+    return there;
 }
 
 DllString ReadingPlatform::dllString(const QString &windowsPath, uint id) const

@@ -30,6 +30,9 @@ public:
 
     std::unique_ptr<RegistryKey> openKey(const QString &path) const override;
     QString hostPath(const QString &windowsPath) const override;
+    bool isOnFixedDrive(const QString &windowsPath) const override;
+    bool writeFile(const QString &, const QString &, const QByteArray &, IfThere) const override { return false; }
+    bool appendLine(const QString &, const QString &, const QString &) const override { return false; }
     DllString dllString(const QString &windowsPath, uint id) const override;
     void setFileAttributes(const QString &, quint32) const override {}
     void shellExecute(const ShellStart &) const override {}

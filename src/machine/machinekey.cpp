@@ -58,6 +58,12 @@ Place placeOf(const QString &name)
     return place;
 }
 
+/** Lists show the unnamed value as ".". */
+bool isOwnName(const QString &name)
+{
+    return !name.isEmpty() && name != u".";
+}
+
 QStringList listed(QStringList names)
 {
     for (QString &name : names)
@@ -146,21 +152,42 @@ void MachineKey::remove(const QString &name)
         const std::optional<KeyId> key = base();
         if (!key || !writable_)
             return;
-        const QString full = normalised(prefix_ + name);
-        if (full.isEmpty()) { // the key itself stays
-            for (const QString &value : store_.valueNames(*key))
-                store_.removeValue(*key, value);
-            for (const QString &subkey : store_.subkeys(*key)) {
-                if (const std::optional<KeyId> child = store_.find(*key, subkey))
-                    store_.removeKey(*child);
-            }
+        const QString below = normalised(name);
+        if (below.isEmpty())
             return;
-        }
+        const QString full = prefix_ + below;
         const Place place = placeOf(full);
         if (const std::optional<KeyId> parent = store_.find(*key, place.key))
             store_.removeValue(*parent, place.name);
         if (const std::optional<KeyId> subkey = store_.find(*key, swapSlashes(full)))
             store_.removeKey(*subkey);
+    });
+}
+
+QVariant MachineKey::ownValue(const QString &name) const
+{
+    return guarded<QVariant>([&] {
+        const std::optional<KeyId> key = currentGroup();
+        const auto found = key && isOwnName(name) ? store_.value(*key, swapSlashes(name)) : std::nullopt;
+        return found ? variantOf(*found) : QVariant();
+    });
+}
+
+void MachineKey::setOwnValue(const QString &name, const QString &text)
+{
+    guarded<void>([&] {
+        const std::optional<KeyId> key = base();
+        if (key && writable_ && isOwnName(name))
+            store_.setValue(store_.make(*key, swapSlashes(prefix_)), registryValueOf(swapSlashes(name), text));
+    });
+}
+
+void MachineKey::removeOwnValue(const QString &name)
+{
+    guarded<void>([&] {
+        const std::optional<KeyId> key = currentGroup();
+        if (key && writable_ && isOwnName(name))
+            store_.removeValue(*key, swapSlashes(name));
     });
 }
 

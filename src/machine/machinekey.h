@@ -19,6 +19,9 @@ public:
     void setValue(const QString &name, const QVariant &value) override;
     void remove(const QString &name) override;
     bool contains(const QString &name) const override;
+    QVariant ownValue(const QString &name) const override;
+    void setOwnValue(const QString &name, const QString &text) override;
+    void removeOwnValue(const QString &name) override;
     QStringList allKeys() const override;
     QStringList childKeys() const override;
     QStringList childGroups() const override;

@@ -19,8 +19,18 @@ public:
         return inner_->registryValues(keyPath);
     }
     QString hostPath(const QString &windowsPath) const override { return inner_->hostPath(windowsPath); }
+    bool isOnFixedDrive(const QString &windowsPath) const override { return inner_->isOnFixedDrive(windowsPath); }
     QString programFolder() const override { return inner_->programFolder(); }
     QString resourceFolder() const override { return inner_->resourceFolder(); }
+    bool writeFile(const QString &folder, const QString &name, const QByteArray &content,
+                   IfThere ifThere) const override
+    {
+        return inner_->writeFile(folder, name, content, ifThere);
+    }
+    bool appendLine(const QString &folder, const QString &name, const QString &line) const override
+    {
+        return inner_->appendLine(folder, name, line);
+    }
     void walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const override
     {
         inner_->walk(windowsPath, visit);

@@ -77,6 +77,12 @@ struct AdmittedProgram
     std::shared_ptr<void> hold{}; ///< nobody changes the file as long as this is there: keep it until the program ends
 };
 
+/** What becomes of a file that is there already where one is to be written. */
+enum class IfThere {
+    Replace, ///< it goes first; a link of that name goes, and not what it leads to
+    Keep,    ///< it stays, whatever it is
+};
+
 class Platform
 {
 public:
@@ -98,10 +104,28 @@ public:
      * ("C:"), mean the drive's root. A file that isn't there gives the path where it would be.
      */
     virtual QString hostPath(const QString &windowsPath) const = 0;
+    /**
+     * Whether a Windows path that begins with a drive's letter and a separator names something that is there, on a
+     * fixed drive and with no link on the way. Nothing else is looked at, so that no other computer is ever asked.
+     */
+    virtual bool isOnFixedDrive(const QString &windowsPath) const = 0;
     /** Host path of the folder that log.txt and the backups are written to, without a slash at its end. */
     virtual QString programFolder() const = 0;
     /** Host path of the folder that holds img and Translations, without a slash at its end. */
     virtual QString resourceFolder() const = 0;
+
+    /**
+     * Writes a file below a folder, which lies where it lies, whatever links lead there. Below it nothing is a link
+     * that is followed: whoever else can write there could have a file of the system written by this process. Folders
+     * on the way are made; one that is a link is a failure, and so is a folder in place of the file.
+     * @param folder host path
+     * @param name of the file, with "/" after the folders on the way
+     * @return false where the file isn't there as it was to be written
+     */
+    virtual bool writeFile(const QString &folder, const QString &name, const QByteArray &content,
+                           IfThere ifThere) const = 0;
+    /** Adds a line, with the system's own line end, to a file that is named likewise and is no link under any name. */
+    virtual bool appendLine(const QString &folder, const QString &name, const QString &line) const = 0;
 
     /**
      * Visits everything below a folder, given as a Windows path, as QDirIterator does on Windows with its default

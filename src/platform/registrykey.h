@@ -59,9 +59,22 @@ public:
     /** Writes int and uint as REG_DWORD, 64-bit integers as REG_QWORD, lists of texts as REG_MULTI_SZ, all else REG_SZ.
      */
     virtual void setValue(const QString &name, const QVariant &value) = 0;
-    /** Removes the value of that name and the whole subkey of that name; an absent name is silent. */
+    /**
+     * Removes the value of that name and the whole subkey of that name; an absent name is silent. A name of nothing but
+     * "/", or of nothing at all, would mean the key itself, with all that is in it: it removes nothing.
+     */
     virtual void remove(const QString &name) = 0;
     virtual bool contains(const QString &name) const = 0;
+
+    /**
+     * The key's own value of just that name, as childKeys() lists it: "/" in it separates nothing, and "Default" is a
+     * name like any other. An invalid variant where there is none. The unnamed value has no such name.
+     */
+    virtual QVariant ownValue(const QString &name) const = 0;
+    /** Writes a text as REG_SZ to the value that is named likewise. */
+    virtual void setOwnValue(const QString &name, const QString &text) = 0;
+    /** Removes the value that is named likewise, and nothing else. */
+    virtual void removeOwnValue(const QString &name) = 0;
 
     /** All values at and below the key, "/" between levels, sorted by UTF-16 code unit. */
     virtual QStringList allKeys() const = 0;

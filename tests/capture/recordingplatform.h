@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/forwardingplatform.h"
+#include "platform/programname.h"
 
 #include <QSet>
 
@@ -48,6 +49,21 @@ public:
         note(name);
         inner_->remove(name);
     }
+    QVariant ownValue(const QString &name) const override
+    {
+        noteOwn(name);
+        return inner_->ownValue(name);
+    }
+    void setOwnValue(const QString &name, const QString &text) override
+    {
+        noteOwn(name);
+        inner_->setOwnValue(name, text);
+    }
+    void removeOwnValue(const QString &name) override
+    {
+        noteOwn(name);
+        inner_->removeOwnValue(name);
+    }
     bool contains(const QString &name) const override
     {
         note(name);
@@ -90,6 +106,15 @@ private:
         questions_.values.insert({(QStringList(here()) + levels).join(u'\\'), last.replace(u'\\', u'/')});
     }
 
+    void noteOwn(const QString &name) const
+    {
+        QString exact = name;
+        for (QChar &unit : exact)
+            unit = unit == u'\\' ? u'/' : unit == u'/' ? u'\\' : unit;
+        const std::lock_guard lock(questions_.lock);
+        questions_.values.insert({here(), exact});
+    }
+
     std::unique_ptr<RegistryKey> inner_;
     QString path_;
     QStringList groups_;
@@ -115,6 +140,12 @@ public:
     {
         note(questions_.files, windowsPath);
         return ForwardingPlatform::hostPath(windowsPath);
+    }
+    bool isOnFixedDrive(const QString &windowsPath) const override
+    {
+        if (isDrivePath(windowsPath))
+            note(questions_.files, windowsPath);
+        return ForwardingPlatform::isOnFixedDrive(windowsPath);
     }
     QString programFile(const QString &program) const override
     {

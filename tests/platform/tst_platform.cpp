@@ -79,6 +79,7 @@ private Q_SLOTS:
     void opensRegistryScripts();
     void opensNoPageOfTheWeb();
 
+    void fixedDriveHasWhatIsThereWithoutALink();
     void dllStrings();
     void wmiTexts();
     void wmiOfAnUnknownClass();
@@ -118,7 +119,8 @@ void TestPlatform::notElevatedWritesTheUsersHiveAlone()
         key->setValue(u"a"_s, 2);
         key->setValue(u"b/c"_s, 2);
         key->remove(u"a"_s);
-        key->remove(QString());
+        key->setOwnValue(u"a"_s, u"x"_s);
+        key->removeOwnValue(u"a"_s);
         QCOMPARE(key->value(u"a"_s), QVariant(1));
         QCOMPARE(key->allKeys(), QStringList{u"a"_s});
     }
@@ -563,6 +565,26 @@ void TestPlatform::opensRegistryScripts()
     QVERIFY(!contract_->hasKey(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Second"_s));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"absent.reg: "_s));
     QDesktopServices::openUrl(QUrl::fromLocalFile(contract_->machine().programFolder() + u"/absent.reg"_s));
+}
+
+void TestPlatform::fixedDriveHasWhatIsThereWithoutALink()
+{
+    writeFile(drive() + u"/Folder/file.dll"_s, "");
+    writeFile(contract_->machine().folder() + u"/drive_unc/host/share/file.dll"_s, "");
+    for (const QString &path :
+         {u"C:\\Folder\\file.dll"_s, u"c:/folder/FILE.DLL"_s, u"C:\\Folder"_s, u"C:\\Folder\\..\\Folder\\file.dll"_s})
+        QVERIFY2(platform().isOnFixedDrive(path), qPrintable(path));
+    for (const QString &path :
+         {QString(), u"C:"_s, u"C:Folder\\file.dll"_s, u"\\Folder\\file.dll"_s, u"Folder\\file.dll"_s,
+          u"\\\\host\\share\\file.dll"_s, u"//host/share/file.dll"_s, u"\\\\?\\C:\\Folder\\file.dll"_s,
+          u"C:\\Folder\\absent.dll"_s, u"D:\\Folder\\file.dll"_s})
+        QVERIFY2(!platform().isOnFixedDrive(path), qPrintable(path));
+#ifdef Q_OS_UNIX
+    QVERIFY(QFile::link(drive() + u"/Folder"_s, drive() + u"/Linked"_s));
+    QVERIFY(QFile::link(drive() + u"/Folder/file.dll"_s, drive() + u"/Folder/linked.dll"_s));
+    QVERIFY(!platform().isOnFixedDrive(u"C:\\Linked\\file.dll"_s));
+    QVERIFY(!platform().isOnFixedDrive(u"C:\\Folder\\linked.dll"_s));
+#endif
 }
 
 void TestPlatform::dllStrings()

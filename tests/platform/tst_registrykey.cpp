@@ -72,10 +72,16 @@ private Q_SLOTS:
     void removesTheValueAndTheSubkeyOfOneName();
     void removesInSubkeys();
     void removingWhatIsAbsentIsSilent();
-    void removingTheEmptyNameEmptiesTheKey();
-    void removingTheEmptyNameInAGroupRemovesTheGroup();
+    void removingNoNameRemovesNothing_data();
+    void removingNoNameRemovesNothing();
     void removingTheUnnamedValueLeavesTheOthers();
     void anObjectSeesWhatAnotherWrites();
+
+    void ownValueIsTheOneOfThatVeryName_data();
+    void ownValueIsTheOneOfThatVeryName();
+    void ownValueHasItsType();
+    void ownValueOfAGroup();
+    void unnamedValueIsNoOwnValue();
 
 private:
     std::unique_ptr<RegistryKey> open(const QString &below = {}) const { return platform().openKey(scratch + below); }
@@ -519,31 +525,106 @@ void TestRegistryKey::removingWhatIsAbsentIsSilent()
     QVERIFY(open()->childGroups().isEmpty());
 }
 
-void TestRegistryKey::removingTheEmptyNameEmptiesTheKey()
+void TestRegistryKey::removingNoNameRemovesNothing_data()
 {
+    QTest::addColumn<QString>("name");
+    QTest::newRow("null") << QString();
+    QTest::newRow("empty") << u""_s;
+    QTest::newRow("a slash") << u"/"_s;
+    QTest::newRow("slashes") << u"///"_s;
+}
+
+void TestRegistryKey::removingNoNameRemovesNothing()
+{
+    QFETCH(const QString, name);
     open()->setValue(u"."_s, 1);
     open()->setValue(u"a"_s, 1);
     open()->setValue(u"b/c"_s, 1);
+    const QStringList all = open()->allKeys();
     const auto key = open();
-    key->remove(QString());
-    QVERIFY(contract_->hasKey(scratch));
-    QVERIFY(key->allKeys().isEmpty() && key->childGroups().isEmpty());
-    key->setValue(u"again"_s, 1);
-    QCOMPARE(open()->allKeys(), QStringList{u"again"_s});
+    key->remove(name);
+    QCOMPARE(key->allKeys(), all);
+    key->beginGroup(u"b"_s);
+    key->remove(name);
+    key->endGroup();
+    QCOMPARE(open()->allKeys(), all);
 }
 
-void TestRegistryKey::removingTheEmptyNameInAGroupRemovesTheGroup()
+void TestRegistryKey::ownValueIsTheOneOfThatVeryName_data()
 {
-    open()->setValue(u"keep"_s, 1);
-    open()->setValue(u"g/a"_s, 1);
-    open()->setValue(u"g/b/c"_s, 1);
+    addColumns<QString, QString>("listed", "exact");
+    QTest::newRow("plain") << u"Plain name"_s << u"Plain name"_s;
+    QTest::newRow("slash") << u"ATI\\AMD"_s << u"ATI/AMD"_s;
+    QTest::newRow("backslash") << u"a/b"_s << u"a\\b"_s;
+    QTest::newRow("a slash alone") << u"\\"_s << u"/"_s;
+    QTest::newRow("a backslash alone") << u"/"_s << u"\\"_s;
+    QTest::newRow("both") << u"\\/x//\\"_s << u"/\\x\\\\/"_s;
+    QTest::newRow("the word for the unnamed value") << u"Default"_s << u"Default"_s;
+    QTest::newRow("other letters") << u"服/务"_s << u"服\\务"_s;
+}
+
+void TestRegistryKey::ownValueIsTheOneOfThatVeryName()
+{
+    QFETCH(const QString, listed);
+    QFETCH(const QString, exact);
+    const QString text = u"\"C:\\App\\app.exe\" 服务"_s;
+    contract_->writeRaw(scratch, {QString(), RegistryType::String, registryText(u"unnamed"_s)});
+    contract_->writeRaw(scratch, {exact, RegistryType::String, registryText(text)});
+    contract_->writeRaw(scratch + u"\\a"_s, {u"b"_s, RegistryType::String, registryText(u"below"_s)});
     const auto key = open();
-    key->beginGroup(u"g"_s);
-    key->remove(QString());
-    QVERIFY(key->allKeys().isEmpty() && key->childGroups().isEmpty());
-    key->endGroup();
-    QCOMPARE(key->allKeys(), QStringList{u"keep"_s});
-    QVERIFY(!contract_->hasKey(scratch + u"\\g"_s));
+    QVERIFY(key->childKeys().contains(listed));
+    QCOMPARE(key->ownValue(listed), QVariant(text));
+    key->setOwnValue(listed, u"new"_s);
+    QCOMPARE(contract_->readRaw(scratch, exact).value_or(RegistryValue()).data, registryText(u"new"_s));
+    key->removeOwnValue(listed);
+    QVERIFY(!contract_->readRaw(scratch, exact));
+    QVERIFY(!key->ownValue(listed).isValid());
+    key->removeOwnValue(listed);
+    QCOMPARE(key->allKeys(), (QStringList{u"."_s, u"a/b"_s}));
+    QCOMPARE(key->value(u"."_s), QVariant(u"unnamed"_s));
+    key->setOwnValue(listed, u"again"_s);
+    QCOMPARE(contract_->readRaw(scratch, exact).value_or(RegistryValue()).data, registryText(u"again"_s));
+}
+
+void TestRegistryKey::ownValueHasItsType()
+{
+    const auto key = open();
+    contract_->writeRaw(scratch, {u"a\\expand"_s, RegistryType::ExpandString, registryText(u"%windir%"_s)});
+    contract_->writeRaw(scratch, {u"a\\number"_s, RegistryType::DWord, registryDWord(0xfffffffe)});
+    contract_->writeRaw(scratch, {u"a\\long"_s, RegistryType::QWord, registryQWord(5000000000)});
+    contract_->writeRaw(scratch, {u"a\\open"_s, RegistryType::String, utf16(u"no zero"_s)});
+    contract_->writeRaw(scratch, {u"a\\empty"_s, RegistryType::String, {}});
+    QCOMPARE(key->ownValue(u"a/expand"_s), QVariant(u"%windir%"_s));
+    QCOMPARE(key->ownValue(u"a/number"_s), QVariant(-2));
+    QCOMPARE(key->ownValue(u"a/long"_s), QVariant(qint64(5000000000)));
+    QCOMPARE(key->ownValue(u"a/open"_s), QVariant(u"no zero"_s));
+    QCOMPARE(key->ownValue(u"a/empty"_s).toString(), QString());
+}
+
+void TestRegistryKey::ownValueOfAGroup()
+{
+    const auto key = open();
+    key->beginGroup(u"g/h"_s);
+    key->setValue(u"made"_s, 1);
+    contract_->writeRaw(scratch + u"\\g\\h"_s, {u"a\\b"_s, RegistryType::String, registryText(u"there"_s)});
+    QCOMPARE(key->ownValue(u"a/b"_s), QVariant(u"there"_s));
+    key->setOwnValue(u"c/d"_s, u"new"_s);
+    QVERIFY(contract_->readRaw(scratch + u"\\g\\h"_s, u"c\\d"_s));
+    key->removeOwnValue(u"a/b"_s);
+    QVERIFY(!contract_->readRaw(scratch + u"\\g\\h"_s, u"a\\b"_s));
+}
+
+void TestRegistryKey::unnamedValueIsNoOwnValue()
+{
+    open()->setValue(u"."_s, u"unnamed"_s);
+    const auto key = open();
+    for (const QString &name : {QString(), u""_s, u"."_s}) {
+        QVERIFY(!key->ownValue(name).isValid());
+        key->setOwnValue(name, u"new"_s);
+        key->removeOwnValue(name);
+        QCOMPARE(key->value(u"."_s), QVariant(u"unnamed"_s));
+        QCOMPARE(key->allKeys(), QStringList(u"."_s));
+    }
 }
 
 void TestRegistryKey::removingTheUnnamedValueLeavesTheOthers()

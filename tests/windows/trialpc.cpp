@@ -54,7 +54,7 @@ TrialPc::~TrialPc()
 void TrialPc::startServices(const QStringList &only) const
 {
     const auto states = platform().openKey(standInStates);
-    states->remove(QString());
+    emptyKey(standInStates);
     for (const QString &service : texts(description_[u"running"_s])) {
         if (only.isEmpty() || only.contains(service))
             states->setValue(service, 1);
@@ -69,7 +69,7 @@ void TrialPc::startProcesses() const
 void TrialPc::registerTasks(const QStringList &only) const
 {
     const auto key = platform().openKey(standInTasks);
-    key->remove(QString());
+    emptyKey(standInTasks);
     qsizetype place = 0;
     for (const ScheduledTask &task : parseTaskExport(sourceOfPc(u"tasks.xml"_s), u"tasks.xml"_s)) {
         if (only.isEmpty() || only.contains(task.path))
@@ -97,6 +97,16 @@ void layStandIn(const QString &path)
         qFatal("%s can't be made", qUtf8Printable(path));
 }
 
+void emptyKey(const QString &path)
+{
+    const auto key = platform().openKey(path);
+    for (const QString &name : key->childKeys())
+        key->removeOwnValue(name);
+    key->remove(u"."_s);
+    for (const QString &name : key->childGroups())
+        key->remove(name);
+}
+
 QList<QStringList> commandsOf(const QString &tool)
 {
     const auto key = platform().openKey(standInCommands);
@@ -111,7 +121,7 @@ QList<QStringList> commandsOf(const QString &tool)
 
 void forgetCommands()
 {
-    platform().openKey(standInCommands)->remove(QString());
+    emptyKey(standInCommands);
 }
 
 void takePicture(const QString &name)

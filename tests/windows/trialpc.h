@@ -35,6 +35,9 @@ void layFile(const QString &path);
 /** Puts a stand-in of the stock tools there. */
 void layStandIn(const QString &path);
 
+/** Takes all out of a key of the registry, given by its full path. */
+void emptyKey(const QString &path);
+
 /** The commands of a tool since forgetCommands(), in order, each as its arguments. */
 QList<QStringList> commandsOf(const QString &tool);
 void forgetCommands();

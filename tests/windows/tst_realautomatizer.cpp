@@ -152,7 +152,7 @@ void TestRealAutomatizer::initTestCase()
     pc_ = std::make_unique<TrialPc>();
     QVERIFY(platform().isElevated());
     const auto settings = platform().openKey(settingsKey);
-    settings->remove(QString());
+    emptyKey(settingsKey);
     settings->setValue(u"Keep_1"_s, 0); // printer
     settings->setValue(u"Keep_8"_s, 0); // game bar
 
@@ -177,7 +177,7 @@ void TestRealAutomatizer::initTestCase()
 void TestRealAutomatizer::layPrograms() const
 {
     for (const QString &key : {userRunKey, machineRunKey, machineRunKey32})
-        platform().openKey(key)->remove(QString());
+        emptyKey(key);
     platform().openKey(userRunKey)->setValue(u"Quoted"_s, quotedCommand);
     platform().openKey(machineRunKey)->setValue(u"Unquoted"_s, unquotedCommand);
     platform().openKey(terminalTaskKey)->setValue(u"State"_s, 1);

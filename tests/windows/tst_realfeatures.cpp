@@ -73,7 +73,7 @@ void TestRealFeatures::initTestCase()
     pc_ = std::make_unique<TrialPc>();
     QVERIFY(platform().isElevated());
     platform().openKey(settingsKey)->setValue(u"GetWinSxsSize"_s, 0);
-    platform().openKey(tweakKey)->remove(QString());
+    emptyKey(tweakKey);
     platform().openKey(prefetchKey)->setValue(u"EnablePrefetcher"_s, 2);
     driver_ = std::make_unique<WindowDriver>();
     QVERIFY(QTest::qWaitForWindowExposed(&driver_->window()));

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void programAndResourceFoldersHoldTheProgram();
     void elevationIsThatOfTheToken();
 
+    void fixedDriveHasWhatIsThere();
     void stringsAreThoseOfTheDll_data();
     void stringsAreThoseOfTheDll();
     void missingDllGivesTheSystemsError();
@@ -118,6 +119,17 @@ void TestWindowsPlatform::elevationIsThatOfTheToken()
     // Without a divided account it is elevated if the user is an administrator.
     const bool expected = type == TokenElevationTypeDefault ? IsUserAnAdmin() != FALSE : type == TokenElevationTypeFull;
     QCOMPARE(platform().isElevated(), expected);
+}
+
+void TestWindowsPlatform::fixedDriveHasWhatIsThere()
+{
+    for (const QString &path : {u"C:\\Windows\\System32\\kernel32.dll"_s, u"c:/windows/system32/KERNEL32.DLL"_s,
+                                u"C:\\Windows"_s, u"C:\\Windows\\..\\Windows\\System32"_s})
+        QVERIFY2(platform().isOnFixedDrive(path), qPrintable(path));
+    for (const QString &path :
+         {QString(), u"C:"_s, u"C:Windows"_s, u"\\Windows"_s, u"kernel32.dll"_s, u"\\\\localhost\\C$\\Windows"_s,
+          u"\\\\?\\C:\\Windows"_s, u"C:\\Windows\\nosuchthing.dll"_s, u"1:\\Windows"_s, u"C:\\Windows\\*"_s})
+        QVERIFY2(!platform().isOnFixedDrive(path), qPrintable(path));
 }
 
 void TestWindowsPlatform::stringsAreThoseOfTheDll_data()

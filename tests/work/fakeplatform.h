@@ -18,6 +18,9 @@ public:
     }
     void setValue(const QString &, const QVariant &) override {}
     void remove(const QString &) override {}
+    QVariant ownValue(const QString &) const override { return {}; }
+    void setOwnValue(const QString &, const QString &) override {}
+    void removeOwnValue(const QString &) override {}
     bool contains(const QString &) const override { return false; }
     QStringList allKeys() const override { return {}; }
     QStringList childKeys() const override { return {}; }
@@ -33,8 +36,15 @@ public:
     std::unique_ptr<RegistryKey> openKey(const QString &) const override { return std::make_unique<FakeKey>(); }
     QList<RegistryValue> registryValues(const QString &) const override { return {}; }
     QString hostPath(const QString &windowsPath) const override { return windowsPath; }
+    bool isOnFixedDrive(const QString &) const override { return false; }
     QString programFolder() const override { return folder_.path(); }
     QString resourceFolder() const override { return folder_.path(); }
+    bool writeFile(const QString &, const QString &, const QByteArray &, IfThere) const override { return false; }
+    bool appendLine(const QString &folder, const QString &name, const QString &line) const override
+    {
+        QFile file(folder + u'/' + name);
+        return file.open(QIODevice::Append) && file.write(line.toUtf8() + '\n') > 0;
+    }
     void walk(const QString &, const std::function<bool(const WalkEntry &)> &) const override {}
     quint32 fileAttributes(const QString &) const override { return invalidAttributes; }
     void setFileAttributes(const QString &, quint32) const override {}

@@ -8,6 +8,7 @@
 #include "machine/environment.h"
 #include "machine/machineerror.h"
 #include "machine/machinekey.h"
+#include "platform/filebelow.h"
 #include "platform/programname.h"
 #include "platform/windowsfacts.h"
 #include "rehearsalprocess.h"
@@ -117,6 +118,17 @@ QString MachinePlatform::hostPath(const QString &windowsPath) const
     return machine_->hostPath(windowsPath);
 }
 
+bool MachinePlatform::isOnFixedDrive(const QString &windowsPath) const
+{
+    // All drives of a machine are built in. A file whose links are followed lies somewhere else than it says.
+    const QString file = hostPath(windowsPath);
+    const QString folder = machine_->folder();
+    if (!isDrivePath(windowsPath) || !file.startsWith(folder))
+        return false;
+    const QString place = QFileInfo(folder).canonicalFilePath() + file.sliced(folder.size());
+    return QFileInfo(file).canonicalFilePath().compare(place, Qt::CaseInsensitive) == 0;
+}
+
 QString MachinePlatform::programFolder() const
 {
     return machine_->programFolder();
@@ -125,6 +137,17 @@ QString MachinePlatform::programFolder() const
 QString MachinePlatform::resourceFolder() const
 {
     return options_.resourceFolder;
+}
+
+bool MachinePlatform::writeFile(const QString &folder, const QString &name, const QByteArray &content,
+                                IfThere ifThere) const
+{
+    return writeFileBelow(folder, name, content, ifThere);
+}
+
+bool MachinePlatform::appendLine(const QString &folder, const QString &name, const QString &line) const
+{
+    return appendLineBelow(folder, name, line);
 }
 
 void MachinePlatform::walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const

@@ -5,6 +5,7 @@
 #include "changelock.h"
 #include "heldfile.h"
 #include "nativekey.h"
+#include "platform/filebelow.h"
 #include "platform/programname.h"
 #include "processtoken.h"
 #include "systemfolders.h"
@@ -56,7 +57,22 @@ QString systemProgram(const QString &name)
 bool isFullPath(const QString &path)
 {
     const auto isSeparator = [&path](qsizetype at) { return path.at(at) == u'\\' || path.at(at) == u'/'; };
-    return path.size() > 2 && ((path.at(1) == u':' && isSeparator(2)) || (isSeparator(0) && isSeparator(1)));
+    return isDrivePath(path) || (path.size() > 2 && isSeparator(0) && isSeparator(1));
+}
+
+/** Of a file or folder itself, whatever it leads to. */
+bool isThereAndNoLink(const QString &path)
+{
+    const DWORD attributes = GetFileAttributesW(wide(path));
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
+        return attributes != INVALID_FILE_ATTRIBUTES;
+    // Files that are packed or lie elsewhere for other reasons have such marks too.
+    WIN32_FIND_DATAW found;
+    const HANDLE search = FindFirstFileW(wide(path), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return false;
+    FindClose(search);
+    return !IsReparseTagNameSurrogate(found.dwReserved0);
 }
 
 /** Whether a file lies in a folder that only the system's installers write to, as the stock tools do. */
@@ -90,6 +106,20 @@ QString WindowsPlatform::hostPath(const QString &windowsPath) const
     return windowsPath;
 }
 
+bool WindowsPlatform::isOnFixedDrive(const QString &windowsPath) const
+{
+    const QString path = QDir::toNativeSeparators(windowsPath);
+    if (!isDrivePath(path) || GetDriveTypeW(wide(path.first(3))) != DRIVE_FIXED)
+        return false;
+    // Part by part: asked for the whole, Windows would follow links on the way.
+    for (qsizetype end = 3; end >= 0;) {
+        end = path.indexOf(u'\\', end + 1);
+        if (!isThereAndNoLink(end < 0 ? path : path.first(end)))
+            return false;
+    }
+    return true;
+}
+
 QString WindowsPlatform::programFolder() const
 {
     return QCoreApplication::applicationDirPath();
@@ -98,6 +128,17 @@ QString WindowsPlatform::programFolder() const
 QString WindowsPlatform::resourceFolder() const
 {
     return QCoreApplication::applicationDirPath();
+}
+
+bool WindowsPlatform::writeFile(const QString &folder, const QString &name, const QByteArray &content,
+                                IfThere ifThere) const
+{
+    return writeFileBelow(folder, name, content, ifThere);
+}
+
+bool WindowsPlatform::appendLine(const QString &folder, const QString &name, const QString &line) const
+{
+    return appendLineBelow(folder, name, line);
 }
 
 void WindowsPlatform::walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const

@@ -12,8 +12,12 @@ public:
     std::unique_ptr<RegistryKey> openKey(const QString &path) const override;
     QList<RegistryValue> registryValues(const QString &keyPath) const override;
     QString hostPath(const QString &windowsPath) const override;
+    bool isOnFixedDrive(const QString &windowsPath) const override;
     QString programFolder() const override;
     QString resourceFolder() const override;
+    bool writeFile(const QString &folder, const QString &name, const QByteArray &content,
+                   IfThere ifThere) const override;
+    bool appendLine(const QString &folder, const QString &name, const QString &line) const override;
     void walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const override;
     quint32 fileAttributes(const QString &file) const override;
     void setFileAttributes(const QString &file, quint32 word) const override;

@@ -4,7 +4,7 @@
 #include "windowsplatform.h"
 
 #include "processtoken.h"
-#include "systemobjects.h"
+#include "registryhandle.h"
 
 #include <span>
 #include <utility>
@@ -14,28 +14,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct KeyCloser
-{
-    void operator()(HKEY key) const { RegCloseKey(key); }
-};
-using Key = std::unique_ptr<std::remove_pointer_t<HKEY>, KeyCloser>;
-
 struct ServiceManagerCloser
 {
     void operator()(SC_HANDLE manager) const { CloseServiceHandle(manager); }
 };
 using ServiceManager = std::unique_ptr<std::remove_pointer_t<SC_HANDLE>, ServiceManagerCloser>;
-
-HKEY hiveNamed(const QString &name)
-{
-    if (name == "HKEY_LOCAL_MACHINE"_L1)
-        return HKEY_LOCAL_MACHINE;
-    if (name == "HKEY_CURRENT_USER"_L1)
-        return HKEY_CURRENT_USER;
-    if (name == "HKEY_USERS"_L1)
-        return HKEY_USERS;
-    return name == "HKEY_CLASSES_ROOT"_L1 ? HKEY_CLASSES_ROOT : nullptr;
-}
 
 /** Opened, and never made. The view of 64 bits, which the program writes to as well. */
 std::pair<Key, LSTATUS> openForReading(const QString &path)
