@@ -10,6 +10,9 @@
 #include "work/tweaks/tweakcatalogue.h"
 #include "work/windowsname.h"
 
+#include <QScrollBar>
+#include <QTextCursor>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -39,19 +42,19 @@ void Kestrune::onAutomatizerValueChanged(const QString &line)
         closeAnalyze();
     } else if (line == StatusLine::optimizedWithoutTweaks) {
         fillBar();
-        ui.txtAutomatizer->append(QString());
+        appendToLog(QString());
         logAndShow(tr("Optimization finished"));
         letOthersIn();
     } else if (line == StatusLine::restoredWithoutTweaks) {
         closeRestore();
         fillBar();
-        ui.txtAutomatizer->append(QString());
+        appendToLog(QString());
         logAndShow(tr("Restoration finished: Restart your PC!"));
         letOthersIn();
     } else if (line == StatusLine::attributesSetByOptimize) {
         closeAttributeWalk();
     } else {
-        ui.txtAutomatizer->append(line);
+        appendToLog(line);
     }
 }
 
@@ -72,7 +75,7 @@ void Kestrune::closeAnalyze()
     if (hasFindings())
         logImprovements();
     else
-        ui.txtAutomatizer->append(tr("No optimizations found!"));
+        appendToLog(tr("No optimizations found!"));
     fillBar();
     ui.lblStatus->setText(countText(tr("Services:"), workThread->analyzeServiceCount) + summarySeparator
                           + countText(tr("Tasks:"), workThread->analyzeTaskCount) + summarySeparator
@@ -84,11 +87,10 @@ void Kestrune::logImprovements()
 {
     const bool onBattery = workThread->hasBattery();
     if (onBattery)
-        ui.txtAutomatizer->append(
-            tr("Features: Battery detected! Some optimizations will not be applied to maintain battery life"));
+        appendToLog(tr("Features: Battery detected! Some optimizations will not be applied to maintain battery life"));
     if (ui.chkAutomatizerTweak->isChecked()) {
         QString text = tr("Features: %1 improvements can be applied");
-        ui.txtAutomatizer->append(text.replace(u"%1"_s, improvementCount(isWindows10(workThread->winName), onBattery)));
+        appendToLog(text.replace(u"%1"_s, improvementCount(isWindows10(workThread->winName), onBattery)));
     }
 }
 
@@ -113,7 +115,7 @@ void Kestrune::startAttributeWalk()
     ui.pgrBar->setMaximum(0);
     const QString text = withHomeDrive(tr("Remove indexing attribute of %1"));
     ui.lblStatus->setText(text);
-    ui.txtAutomatizer->append(tr("Features") + u": "_s + text);
+    appendToLog(tr("Features") + u": "_s + text);
 }
 
 void Kestrune::closeWithoutAttributeWalk()
@@ -121,7 +123,7 @@ void Kestrune::closeWithoutAttributeWalk()
     workThread->optimizeRunning = 0;
     fillBar();
     logAndShow(tr("Features: applied successfully. Restart your PC!"));
-    ui.txtAutomatizer->append(QString());
+    appendToLog(QString());
     logAndShow(workThread->restoreRunning == 1 ? tr("Restoration finished") : tr("Optimization finished"));
     letOthersIn();
 }
@@ -134,15 +136,29 @@ void Kestrune::closeAttributeWalk()
     ui.lblStatus->setText(text);
     if (workThread->optimizeRunning == 1) {
         workThread->optimizeRunning = 0;
-        ui.txtAutomatizer->append(tr("Features") + u": "_s + text);
-        ui.txtAutomatizer->append(tr("Features: applied successfully. Restart your PC!"));
-        ui.txtAutomatizer->append(QString());
+        appendToLog(tr("Features") + u": "_s + text);
+        appendToLog(tr("Features: applied successfully. Restart your PC!"));
+        appendToLog(QString());
         logAndShow(tr("Optimization finished"));
     }
     // Takes the place of what was just set, and lacks the log's colon.
     if (workThread->restoreRunning == 0)
         ui.lblStatus->setText(tr("Features applied successfully. Restart your PC!"));
     letOthersIn();
+}
+
+void Kestrune::appendToLog(const QString &line)
+{
+    QTextBrowser *log = ui.txtAutomatizer;
+    QScrollBar *bar = log->verticalScrollBar();
+    const bool followsTheEnd = bar->value() >= bar->maximum();
+    QTextCursor end(log->document());
+    end.movePosition(QTextCursor::End);
+    if (!log->document()->isEmpty())
+        end.insertBlock();
+    end.insertText(line);
+    if (followsTheEnd)
+        bar->setValue(bar->maximum());
 }
 
 void Kestrune::fillBar()
@@ -154,6 +170,6 @@ void Kestrune::fillBar()
 
 void Kestrune::logAndShow(const QString &text)
 {
-    ui.txtAutomatizer->append(text);
+    appendToLog(text);
     ui.lblStatus->setText(text);
 }

@@ -41,5 +41,5 @@ void Kestrune::onWorkThreadValueChanged(const QString &text)
         break;
     }
     if (line.startsWith("txt:"_L1))
-        ui.txtAutomatizer->append(line);
+        appendToLog(line);
 }

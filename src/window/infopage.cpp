@@ -33,6 +33,12 @@ constexpr InfoStep infoSteps[] = {
 };
 // clang-format on
 
+/** The disks' text, in which nothing is markup but the breaks between its lines. */
+QString diskText(const QString &diskInfo)
+{
+    return diskInfo.toHtmlEscaped().replace("&lt;br&gt;"_L1, "<br>"_L1);
+}
+
 /** The HTML with the texts of a part of the report in the place of their marks. */
 QString withTexts(QString html, ReportPart part, const WorkThread &worker)
 {
@@ -43,7 +49,7 @@ QString withTexts(QString html, ReportPart part, const WorkThread &worker)
             marks.insert(text.turn, &text);
     }
     for (const ReportText *mark : std::as_const(marks))
-        html.replace(u'%' + QString(mark->name), worker.*(mark->text));
+        html.replace(u'%' + QString(mark->name), (worker.*(mark->text)).toHtmlEscaped());
     return html;
 }
 
@@ -114,10 +120,10 @@ void Kestrune::showSystemReport()
         ui.txtInfo->setHtml(withTexts(ui.txtInfo->toHtml(), part, *workThread));
 
     QString html = withTexts(ui.txtInfo->toHtml(), ReportPart::Graphics, *workThread);
-    ui.txtInfo->setHtml(html.replace(tr("loading screen info..."), screenName));
+    ui.txtInfo->setHtml(html.replace(tr("loading screen info..."), screenName.toHtmlEscaped()));
     html = withTexts(ui.txtInfo->toHtml(), ReportPart::Memory, *workThread);
-    ui.txtInfo->setHtml(html.replace("%memVSize"_L1, workThread->memVSize + tr("on drive") + u' '
-                                                         + workThread->memVSizeDrive.toUpper()));
+    const QString pageFile = workThread->memVSize + tr("on drive") + u' ' + workThread->memVSizeDrive.toUpper();
+    ui.txtInfo->setHtml(html.replace("%memVSize"_L1, pageFile.toHtmlEscaped()));
     html = ui.txtInfo->toHtml();
-    ui.txtInfo->setHtml(html.replace(tr("loading disk info..."), workThread->diskInfo));
+    ui.txtInfo->setHtml(html.replace(tr("loading disk info..."), diskText(workThread->diskInfo)));
 }

@@ -174,6 +174,8 @@ private:
     void closeAttributeWalk();
     void fillBar();
     void logAndShow(const QString &text);
+    /** Adds a line to the log, as text: a line may hold names of the system, which look like whatever they do. */
+    void appendToLog(const QString &line);
 
     // Services page
     void showServicesPage();

@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QGridLayout>
+#include <QLabel>
 
 namespace {
 
@@ -13,6 +14,13 @@ void nameButton(QMessageBox &box, QMessageBox::StandardButton button, const QStr
 {
     if (QAbstractButton *shown = box.button(button))
         shown->setText(text);
+}
+
+/** What a box says is text, whatever it looks like. */
+void speakPlainly(QMessageBox &box)
+{
+    for (QLabel *label : box.findChildren<QLabel *>())
+        label->setTextFormat(Qt::PlainText);
 }
 
 /** A box works out its own size when it is shown, whatever it was told before; what stands in its grid holds. */
@@ -34,6 +42,7 @@ QMessageBox::StandardButton ask(const Question &question)
     box.setIcon(QMessageBox::Information);
     box.setText(question.text);
     box.setInformativeText(question.informativeText);
+    speakPlainly(box);
     box.setStandardButtons(question.buttons);
     nameButton(box, QMessageBox::Yes, Kestrune::tr("Yes"));
     nameButton(box, QMessageBox::No, question.plainNo ? QStringLiteral("No") : Kestrune::tr("No"));
@@ -49,5 +58,6 @@ void tell(const QString &text)
 {
     QMessageBox box;
     box.setText(text);
+    speakPlainly(box);
     box.exec();
 }

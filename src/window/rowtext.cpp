@@ -3,24 +3,58 @@
 #include "rowtext.h"
 
 #include <QTableWidget>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// A name that isn't escaped has no such beginning.
+const QString escapedBegin = u"<span>"_s;
+const QString escapedEnd = u"</span>"_s;
+
+QString escaped(const QString &text)
+{
+    return escapedBegin + text.toHtmlEscaped() + escapedEnd;
+}
+
+/** What escaped() was given; of a piece without its end, what that piece was. */
+QString unescaped(QString text)
+{
+    text.remove(0, escapedBegin.size());
+    if (text.endsWith(escapedEnd))
+        text.chop(escapedEnd.size());
+    return text.replace("&lt;"_L1, "<"_L1)
+        .replace("&gt;"_L1, ">"_L1)
+        .replace("&quot;"_L1, "\""_L1)
+        .replace("&amp;"_L1, "&"_L1);
+}
+
+} // namespace
 
 QString wrappedText(const QString &text)
 {
     // A short text needs no wrapping.
     constexpr int longText = 100;
-    return text.size() > longText ? u"<span>"_s + text + u"</span>"_s : text;
+    // Descriptions of tasks come as an export has them, with its entities.
+    const QString shown = QString(text).replace("<"_L1, "&lt;"_L1);
+    return text.size() > longText ? u"<span>"_s + shown + u"</span>"_s : shown;
+}
+
+QString plainToolTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? escaped(text) : text;
 }
 
 QString rowToolTip(const QString &name, const QString &description)
 {
-    return name + u":<br><br>"_s + wrappedText(description);
+    return (name.contains(u'<') ? escaped(name) : name) + u":<br><br>"_s + wrappedText(description);
 }
 
 QString nameFromToolTip(const QString &toolTip)
 {
-    return toolTip.section(u':', 0, 0);
+    const QString name = toolTip.section(u':', 0, 0);
+    return name.startsWith(escapedBegin) ? unescaped(name) : name;
 }
 
 QList<QTableWidgetItem *> firstCells(const QTableWidget *table)

@@ -9,10 +9,19 @@
 class QTableWidget;
 class QTableWidgetItem;
 
-/** The text, as rich text where it is long, so that a tool tip wraps it. */
+/**
+ * The text of a description, as rich text where it is long, so that a tool tip wraps it. It holds no markup: that could
+ * have a picture fetched from another computer, which would be given the user's name and proof.
+ */
 QString wrappedText(const QString &text);
 
-/** The name, a colon and the description. The one place in a row that keeps the name where the cell shows another. */
+/** A text as a tool tip that shows it as it is, whatever it looks like. */
+QString plainToolTip(const QString &text);
+
+/**
+ * The name, a colon and the description, none of which is markup. The one place in a row that keeps the name where the
+ * cell shows another.
+ */
 QString rowToolTip(const QString &name, const QString &description);
 
 /** The name that rowToolTip() put before its first colon. */

@@ -3,6 +3,7 @@
 #include "boxes.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 
@@ -50,6 +51,10 @@ void Boxes::look()
     if (box == nullptr || !box->isVisible())
         return;
     shown_.append(read(*box));
+    for (const QLabel *label : box->findChildren<QLabel *>()) {
+        if (!label->text().isEmpty() && label->textFormat() != Qt::PlainText)
+            QTest::qFail("what the box says may be taken for markup", __FILE__, __LINE__);
+    }
     if (answers_.isEmpty()) {
         QTest::qFail(qPrintable(QStringLiteral("nobody expected the box: ") + box->text()), __FILE__, __LINE__);
         box->reject();

@@ -2,6 +2,8 @@
 
 #include "windowdriver.h"
 
+#include "window/rowtext.h"
+
 #include <QStyle>
 #include <QStyleOptionViewItem>
 #include <QTest>
@@ -12,7 +14,7 @@ namespace {
 
 QString nameInToolTip(const QTableWidgetItem *item)
 {
-    return item->toolTip().section(u':', 0, 0);
+    return nameFromToolTip(item->toolTip());
 }
 
 } // namespace

@@ -398,6 +398,7 @@ constexpr SettingRow settingRows[] = {
     {"tabWidget",                "currentIndex",              "0"},
     {"wgtStatus",                "minimumSize",               "0 x 24"},
     {"lblStatus",                "minimumSize",               "280 x 0"},
+    {"lblStatus",                "textFormat",                "PlainText"},
     {"pgrBar",                   "maximumSize",               "16777215 x 14"},
     {"pgrBar",                   "value",                     "24"},
 

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QScopeGuard>
+#include <QScrollBar>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -53,6 +54,8 @@ private Q_SLOTS:
     void linesOfTheWorkerArriveInTheirOrder();
     void anyOtherLineIsLoggedAsItStands_data();
     void anyOtherLineIsLoggedAsItStands();
+    void markupStaysText();
+    void logFollowsItsLastLineUnlessScrolledAway();
     void emptyLineIsABreakInTheLog();
     void logLineThatHoldsALineEndTakesTwoLines();
     void maximumLineShowsTheBarAndSetsItsMaximum();
@@ -124,6 +127,8 @@ void TestAutomatizerDisplay::anyOtherLineIsLoggedAsItStands_data()
     for (const char *line : {"Service: can be disable: DiagTrack",
                              "Autorun: can be disabled:  Steam",
                              " leading blank",
+                             "Task: <img src=\"file://host/share/x.png\"> &amp; done",
+                             "a &lt;b>   c",
                              "txt:second",
                              "TweaksDone",
                              "tweaksDone ",
@@ -165,6 +170,27 @@ void TestAutomatizerDisplay::anyOtherLineIsLoggedAsItStands()
     QCOMPARE(driver.worker().optimizeRunning.load(), 1);
     QCOMPARE(machine.names(settingsKey), settings);
     QVERIFY(!driver.worker().isRunning());
+}
+
+void TestAutomatizerDisplay::markupStaysText()
+{
+    const WindowOnPc driver;
+    send(driver, u"<b>Task</b>: disable and stop <img src=\"file://host/share/x.png\"> done"_s);
+    QVERIFY(!driver.get<QTextBrowser>(u"txtAutomatizer"_s)->toHtml().contains("<img"_L1));
+}
+
+void TestAutomatizerDisplay::logFollowsItsLastLineUnlessScrolledAway()
+{
+    const WindowOnPc driver;
+    const QScrollBar *bar = driver.get<QTextBrowser>(u"txtAutomatizer"_s)->verticalScrollBar();
+    const QString line = QString(u"a long line that is wrapped "_s).repeated(20);
+    for (int i = 0; i < 100; ++i)
+        send(driver, line);
+    QVERIFY(bar->maximum() > 0);
+    QCOMPARE(bar->value(), bar->maximum());
+    driver.get<QTextBrowser>(u"txtAutomatizer"_s)->verticalScrollBar()->setValue(0);
+    send(driver, line);
+    QCOMPARE(bar->value(), 0);
 }
 
 void TestAutomatizerDisplay::emptyLineIsABreakInTheLog()

@@ -64,6 +64,7 @@ private Q_SLOTS:
     void jobsWithoutAReaderHaveNoEffect();
     void textLineIsAppendedWithItsPrefixDuringAnyJob_data();
     void textLineIsAppendedWithItsPrefixDuringAnyJob();
+    void markupInALineStaysText();
     void textLineIsLookedForInWhatANumberLineLeaves();
     void lineThatHoldsTheTextPrefixElsewhereIsNotAppended();
 
@@ -252,6 +253,17 @@ void TestDispatch::textLineIsAppendedWithItsPrefixDuringAnyJob()
     driver.get<QTextEdit>(u"txtAutomatizer"_s)->setPlainText(u"first"_s);
     send(driver, job, u"txt:second"_s);
     QCOMPARE(automatizerText(driver), u"first\ntxt:second"_s);
+}
+
+void TestDispatch::markupInALineStaysText()
+{
+    const QString name = u"<img src=\"file://host/share/x.png\">"_s;
+    const WindowOnPc driver;
+    send(driver, JobAutomatizerAnalyze, u"txt:"_s + name);
+    QCOMPARE(automatizerText(driver), u"txt:"_s + name);
+    send(driver, JobSvcDisable, name);
+    QCOMPARE(driver.status(), label(JobSvcDisable) + name);
+    QCOMPARE(driver.get<QLabel>(u"lblStatus"_s)->textFormat(), Qt::PlainText);
 }
 
 void TestDispatch::textLineIsLookedForInWhatANumberLineLeaves()

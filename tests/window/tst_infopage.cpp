@@ -60,6 +60,9 @@ constexpr Text texts[] = {
 };
 // clang-format on
 
+/** What a device may call itself, so that another computer is asked for a picture. */
+const QString markup = u"a & <img src=\"file://host/share/x.png\"> b"_s;
+
 void fillTexts(const WindowDriver &driver)
 {
     for (const Text &text : texts)
@@ -132,6 +135,9 @@ private Q_SLOTS:
     void emptyTextsLeaveEmptyPlaces();
     void screenIsTheWindowsOwn();
     void breaksPartTheDisks();
+    void textsOfTheSystemAreNoMarkup_data();
+    void textsOfTheSystemAreNoMarkup();
+    void nameOfTheScreenIsNoMarkup();
     void secondReportStartsFromTheTemplate();
     void changedTemplateTextDoesNotReachLaterReports();
     void datesByLanguage_data();
@@ -302,6 +308,35 @@ void TestInfoPage::breaksPartTheDisks()
     QVERIFY(first >= 0);
     QCOMPARE(all.sliced(first, 5),
              (QStringList{u"Name:   A"_s, u"Capacity:   1 Go"_s, u"Interface type: IDE"_s, QString(), u"Name:   B"_s}));
+}
+
+void TestInfoPage::textsOfTheSystemAreNoMarkup_data()
+{
+    QTest::addColumn<int>("index");
+    for (int index = 0; index < static_cast<int>(std::size(texts)); ++index)
+        QTest::addRow("%d: %s", index, texts[index].line) << index;
+}
+
+void TestInfoPage::textsOfTheSystemAreNoMarkup()
+{
+    QFETCH(const int, index);
+    const WindowOnPc driver;
+    fillTexts(driver);
+    driver.worker().*texts[index].member = markup;
+    finish(driver);
+    // The drive of the page file is shown in capitals.
+    QVERIFY2(report(driver)->toPlainText().contains(markup, Qt::CaseInsensitive), qPrintable(lines(driver).join(u'|')));
+    QVERIFY(!report(driver)->toHtml().contains("<img"_L1, Qt::CaseInsensitive));
+}
+
+void TestInfoPage::nameOfTheScreenIsNoMarkup()
+{
+    const WindowOnPc driver;
+    fillTexts(driver);
+    driver.window().screenName = markup;
+    finish(driver);
+    QCOMPARE(lineWith(driver, u"Screen:"_s), u"Screen:   "_s + markup);
+    QVERIFY(!report(driver)->toHtml().contains("<img"_L1));
 }
 
 void TestInfoPage::secondReportStartsFromTheTemplate()

@@ -160,6 +160,8 @@ private Q_SLOTS:
     // Names
     void strangeNamesAreHandedOverAsTheyAre_data();
     void strangeNamesAreHandedOverAsTheyAre();
+    void nameThatLooksLikeMarkupIsItself_data();
+    void nameThatLooksLikeMarkupIsItself();
     void nameIsCutAtItsFirstColon();
 };
 
@@ -861,6 +863,30 @@ void TestServiceChange::strangeNamesAreHandedOverAsTheyAre()
     QCOMPARE(startMode(machine, name), 2);
     QCOMPARE(machine.names(recordsKey), QStringList());
     QCOMPARE(driver.listed(), QStringList(name));
+}
+
+void TestServiceChange::nameThatLooksLikeMarkupIsItself_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("markup") << u"A & <img src=x>"_s;
+    QTest::newRow("an entity") << u"A&lt;B"_s;
+    QTest::newRow("both") << u"<B>A&lt;B"_s;
+}
+
+void TestServiceChange::nameThatLooksLikeMarkupIsItself()
+{
+    QFETCH(const QString, name);
+    TestMachine machine;
+    machine.add({.name = name, .start = 2, .running = true});
+    const ServicesPage driver;
+    driver.services()->item(0, 0)->setCheckState(Qt::Checked);
+    driver.click(u"btnSvcDisable"_s);
+    QCOMPARE(driver.worker().servicesToChange, QStringList(name));
+    QVERIFY(driver.waitForList());
+    QCOMPARE(startMode(machine, name), 4);
+    driver.services()->setCurrentCell(0, 0);
+    driver.call("setServiceManualStart");
+    QCOMPARE(scRuns(machine), QStringList({u"stop|"_s + name, u"config|"_s + name + u"|start=disabled"_s}));
 }
 
 void TestServiceChange::nameIsCutAtItsFirstColon()

@@ -5,6 +5,7 @@
 #include "support/menus.h"
 #include "support/suite.h"
 #include "support/windowdriver.h"
+#include "window/rowtext.h"
 #include "work/services/services.h"
 
 #include <QApplication>
@@ -70,6 +71,8 @@ private Q_SLOTS:
     void startModeHasItsWord_data();
     void startModeHasItsWord();
     void toolTipOfEveryCellHoldsNameAndDescription();
+    void toolTipIsNoMarkup_data();
+    void toolTipIsNoMarkup();
     void descriptionOfMoreThanHundredCharactersIsWrapped_data();
     void descriptionOfMoreThanHundredCharactersIsWrapped();
     void noCellCanBeEditedAndNoRowIsChecked();
@@ -207,6 +210,36 @@ void TestServicesPage::toolTipOfEveryCellHoldsNameAndDescription()
     driver.list({service(u"Alpha"_s)});
     for (int column = 0; column < 3; ++column)
         QCOMPARE(driver.cell(u"Alpha"_s, column)->toolTip(), u"Alpha:<br><br>What Alpha is for"_s);
+}
+
+void TestServicesPage::toolTipIsNoMarkup_data()
+{
+    addColumns<QString, QString, QString>("name", "description", "toolTip");
+    const auto row = [](const char *title, const QString &name, const QString &description, const QString &toolTip) {
+        QTest::newRow(title) << name << description << toolTip;
+    };
+    row("description", u"Alpha"_s, u"a <img src=\"x\"> & b"_s, u"Alpha:<br><br>a &lt;img src=\"x\"> & b"_s);
+    row("entities of a description", u"Alpha"_s, u"a &lt;b&gt; &amp; c"_s, u"Alpha:<br><br>a &lt;b&gt; &amp; c"_s);
+    row("long description", u"Alpha"_s, u'<' + QString(100, u'd'),
+        u"Alpha:<br><br><span>&lt;"_s + QString(100, u'd') + u"</span>"_s);
+    row("name", u"A & <img src=x>"_s, u"d"_s, u"<span>A &amp; &lt;img src=x&gt;</span>:<br><br>d"_s);
+    row("name with an entity alone", u"A&lt;B & C"_s, u"d"_s, u"A&lt;B & C:<br><br>d"_s);
+    row("name with both", u"A&lt;<B"_s, u"d"_s, u"<span>A&amp;lt;&lt;B</span>:<br><br>d"_s);
+}
+
+void TestServicesPage::toolTipIsNoMarkup()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, description);
+    QFETCH(const QString, toolTip);
+    const WindowOnPc driver;
+    ServiceRow row = service(name);
+    row.description = description;
+    driver.list({row});
+    for (int column = 0; column < 3; ++column)
+        QCOMPARE(driver.services()->item(0, column)->toolTip(), toolTip);
+    QCOMPARE(driver.services()->item(0, 0)->text(), row.displayName);
+    QCOMPARE(nameFromToolTip(toolTip), name);
 }
 
 void TestServicesPage::descriptionOfMoreThanHundredCharactersIsWrapped_data()

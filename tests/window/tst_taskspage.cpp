@@ -119,6 +119,8 @@ private Q_SLOTS:
     void rowShowsPathAndDescription();
     void toolTipHoldsPathAndDescription_data();
     void toolTipHoldsPathAndDescription();
+    void toolTipIsNoMarkup();
+    void assistantKnowsATaskBelowAFolderThatLooksLikeMarkup();
     void noCellCanBeEditedAndNoRowIsChecked();
     void rowsAreSortedByPathUpwards();
     void rowsStayWholeWithSortingOn_data();
@@ -220,6 +222,28 @@ void TestTasksPage::toolTipHoldsPathAndDescription()
     list(driver, {{u"Folder\\A"_s, text, u"A"_s, {}, 0}});
     QCOMPARE(driver.table(table)->item(0, 0)->toolTip(), u"Folder\\A:<br><br>"_s + shown);
     QCOMPARE(driver.table(table)->item(0, 1)->toolTip(), shown);
+}
+
+void TestTasksPage::toolTipIsNoMarkup()
+{
+    const WindowOnPc driver;
+    list(driver, {{u"<img src=x>\\A"_s, u"<img src=\"x\"> &lt;"_s, u"A"_s, {}, 0}});
+    QCOMPARE(driver.table(table)->item(0, 0)->text(), u"<img src=x>\\A"_s);
+    QCOMPARE(driver.table(table)->item(0, 0)->toolTip(),
+             u"<span>&lt;img src=x&gt;\\A</span>:<br><br>&lt;img src=\"x\"> &lt;"_s);
+    QCOMPARE(driver.table(table)->item(0, 1)->text(), u"<img src=\"x\"> &lt;"_s);
+    QCOMPARE(driver.table(table)->item(0, 1)->toolTip(), u"&lt;img src=\"x\"> &lt;"_s);
+}
+
+void TestTasksPage::assistantKnowsATaskBelowAFolderThatLooksLikeMarkup()
+{
+    const WindowOnPc driver;
+    list(driver, {{u"<b>\\EduPrintProv"_s, u"d"_s, u"EduPrintProv"_s, {}, 0}});
+    driver.get<QTabWidget>(u"tabWidget"_s)->setCurrentIndex(2);
+    driver.worker().keepPrinter = 0;
+    Boxes boxes({QMessageBox::No});
+    driver.click(u"btnTaskAssist"_s);
+    QCOMPARE(driver.checkedIn(table), QStringList(u"<b>\\EduPrintProv"_s));
 }
 
 void TestTasksPage::noCellCanBeEditedAndNoRowIsChecked()
