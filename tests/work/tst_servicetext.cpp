@@ -34,6 +34,9 @@ public:
         addDll(u"C:\\Program Files\\Vendor\\v.dll"_s, {{7, u"Text of the vendor"_s}});
         addDll(u"C:\\Windows\\UUS\\amd64\\WaaSMedicSvcImpl.dll"_s, {{100, u"Text of the medic"_s}});
         addFile(u"C:\\Windows\\System32\\nodll.dll"_s, "this is no DLL");
+        // What stands on other drives and other computers.
+        addDll(u"D:\\Vendor\\d.dll"_s, {{1, u"Text of d"_s}});
+        addDll(u"\\\\host\\share\\x"_s, {{1, u"Text of the host"_s}});
         addFile(u"C:\\Windows\\SysWow64\\perfhost.exe"_s);
         addFile(u"C:\\Windows\\SysWow64\\PERFHOST2.EXE"_s);
         logErrors();
@@ -161,6 +164,17 @@ void TestServiceText::textIsExpanded_data()
     row("no path", u"@,-100"_s, none);
     row("plain text with comma and dash", u"Vendor,-the best"_s, none);
 
+    // Nothing but a whole path on a drive of this PC is looked at.
+    row("another drive", u"@D:\\Vendor\\d.dll,-1"_s, u"Text of d"_s);
+    row("slashes", u"@C:/Windows/System32/a.dll,-100"_s, a);
+    row("another computer", u"$(@\\\\host\\share\\x,-1)"_s, none);
+    row("another computer, with slashes", u"@//host/share/x,-1"_s, none);
+    row("another computer, in the long form", u"@\\\\?\\UNC\\host\\share\\x,-1"_s, none);
+    row("the long form", u"@\\\\?\\C:\\Windows\\System32\\a.dll,-100"_s, none);
+    row("from the drive's current folder", u"@C:Windows\\System32\\a.dll,-100"_s, none);
+    row("from the root", u"@\\Windows\\System32\\drivers\\c.sys,-1"_s, none);
+    row("no letter for a drive", u"@1:\\Windows\\System32\\a.dll,-100"_s, none);
+
     // One vendor's Bluetooth service.
     row("the vendor's path", u"C:\\Vendor\\RtkBtManServ.exe"_s, u"RtkBtManServ"_s);
     row("the vendor's name", u"RtkBtManServ"_s, u"RtkBtManServ"_s);
@@ -213,7 +227,8 @@ void TestServiceText::aVariableThatIsNotSetLeavesNothing()
     machine.machine().setDllStrings(u"C:\\Vendor\\v.exe"_s, {{1, u"on the root"_s}});
     qunsetenv("programfiles");
     WorkThread worker;
-    QCOMPARE(worker.ExpandResourceString(u"@%ProgramFiles%\\Vendor\\v.exe,-1"_s), u"on the root"_s);
+    // What is left has no drive.
+    QCOMPARE(worker.ExpandResourceString(u"@%ProgramFiles%\\Vendor\\v.exe,-1"_s), none);
 }
 
 void TestServiceText::stringOfADll_data()

@@ -7,8 +7,6 @@
 #include "work/settings.h"
 #include "work/workthread.h"
 
-#include <QFileInfo>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -43,12 +41,6 @@ void addFolder(QString &text)
         text.prepend(qEnvironmentVariable("SystemRoot") + u"\\System32\\"_s);
 }
 
-/** An empty path is nowhere, and not the drive's root. */
-bool isThere(const QString &windowsPath)
-{
-    return !windowsPath.isEmpty() && QFileInfo::exists(platform().hostPath(windowsPath));
-}
-
 } // namespace
 
 QString expandResourceString(const QString &text)
@@ -66,7 +58,10 @@ QString expandResourceString(const QString &text)
     QString result = text;
     if (reference.contains(",-"_L1)) {
         const QStringList parts = reference.split(u",-"_s);
-        result = isThere(parts.at(0)) ? resourceInDll(parts.at(0), parts.at(1)) : WorkThread::tr("no description");
+        // Whoever registers a task or a service may name any path: another computer would be given the user's name and
+        // proof with the question alone.
+        result = platform().isOnFixedDrive(parts.at(0)) ? resourceInDll(parts.at(0), parts.at(1))
+                                                        : WorkThread::tr("no description");
     }
     // The Bluetooth service of one vendor names itself by its program's path.
     if (result.contains("RtkBtManServ"_L1))
