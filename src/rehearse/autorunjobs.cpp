@@ -18,12 +18,10 @@ bool areSame(const QString &left, const QString &right)
     return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
-/** The entry of a record, "<command>=<path>", or "<path>=" of a packaged task. */
-AutorunEntry recordedEntry(const QString &name)
+/** Whether a record's entry is meant by one of the names: as it is shown, or with what stands before a backslash. */
+bool isNamed(const QString &recorded, const QStringList &names)
 {
-    const QStringList parts = openRecords(group)->value(name).toString().split(u'=');
-    const QString path = parts.value(1).isEmpty() ? parts.at(0) : parts.value(1);
-    return {name, path, parts.at(0)};
+    return names.contains(recorded, Qt::CaseInsensitive) || names.contains(shownAutorun(recorded), Qt::CaseInsensitive);
 }
 
 QStringList listedNames()
@@ -59,17 +57,19 @@ void enableAutoruns(WorkThread &, const QStringList &names)
     if (!platform().isElevated())
         return;
     for (const QString &recorded : trustedAutoruns()) {
-        if (!names.contains(recorded, Qt::CaseInsensitive))
+        if (!isNamed(recorded, names))
             continue;
-        enableAutorun(recordedEntry(recorded));
+        enableAutorun(recordedAutorun(recorded));
         // Also where it could not be brought back.
-        openRecords(group)->remove(recorded);
+        openRecords(group)->removeOwnValue(recorded);
     }
 }
 
 QStringList autorunsNotDisabled(const QStringList &names)
 {
-    const QStringList records = recordedNames(group);
+    QStringList records;
+    for (const QString &recorded : recordedNames(group))
+        records.append(shownAutorun(recorded));
     QStringList left;
     for (const QString &name : names) {
         if (isListed(name) || !records.contains(name, Qt::CaseInsensitive))

@@ -215,6 +215,9 @@ private:
     /** A Run value is there or it isn't; a packaged task has a switch. */
     static QString autorunState(Machine &machine, const AutorunEntry &entry)
     {
+        // A record has the registry's own name of its value, which a path may show with other slashes.
+        if (hasPartedName(entry.path))
+            return textAt(machine, runValueAt(entry.path).key, entry.name);
         if (!isPackagedTask(entry.name))
             return textAt(machine, entry.path.section(u'\\', 0, -2), entry.path.section(u'\\', -1));
         return textAt(machine, entry.path, u"State"_s) == "dword 2"_L1 ? u"enabled"_s : QString();

@@ -14,32 +14,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void addRow(QTableWidget *table, const QString &name, const QString &path, const QString &command)
+/** What the first cell of a row keeps, which shows a part of it. */
+enum Kept { Path = Qt::UserRole, RecordName };
+
+void addRow(QTableWidget *table, const AutorunEntry &entry, const QString &recordName = {})
 {
     const int index = table->rowCount();
     table->setRowCount(index + 1);
-    auto *first = new QTableWidgetItem(name);
-    first->setToolTip(path);
+    auto *first = new QTableWidgetItem(entry.name);
+    first->setToolTip(plainToolTip(entry.path));
+    first->setData(Path, entry.path);
+    first->setData(RecordName, recordName);
     first->setCheckState(Qt::Checked);
-    auto *second = new QTableWidgetItem(command);
-    second->setToolTip(command);
+    auto *second = new QTableWidgetItem(entry.command);
+    second->setToolTip(plainToolTip(entry.command));
     for (QTableWidgetItem *item : {first, second})
         item->setFlags(item->flags() & ~Qt::ItemIsEditable);
     table->setItem(index, 0, first);
     table->setItem(index, 1, second);
 }
-
-/** Rows and records have two parts; what follows a second "=" is dropped. */
-struct Parts
-{
-    explicit Parts(const QString &text)
-        : first(text.section(u'=', 0, 0))
-        , second(text.section(u'=', 1, 1))
-    {
-    }
-    QString first;
-    QString second;
-};
 
 } // namespace
 
@@ -57,9 +50,10 @@ void Kestrune::fillAutorunTable()
 {
     ui.tblAutorun->setRowCount(0);
     for (const AutorunRow &row : std::as_const(workThread->autoruns)) {
-        const Parts parts(row);
-        addRow(ui.tblAutorun, parts.first.sliced(parts.first.lastIndexOf(u'\\') + 1), parts.first,
-               parts.second.isEmpty() ? parts.first : parts.second);
+        AutorunEntry entry = autorunEntry(row);
+        if (entry.command.isEmpty())
+            entry.command = entry.path;
+        addRow(ui.tblAutorun, entry);
     }
 }
 
@@ -77,19 +71,26 @@ void Kestrune::switchCheckedAutoruns()
     if (!mayChange(this))
         return;
     const bool disable = ui.btnAutorun->text() == tr("Disable checked programs");
-    const QStringList programs = disable ? QStringList() : trustedAutoruns();
-    const QStringList records = recordedNames(u"Autorun"_s);
+    // By the names of their records: one may have changed since it was shown.
+    QMap<QString, QString> programs;
+    if (!disable) {
+        for (const QString &name : trustedAutoruns())
+            programs.insert(name, recordedAutorun(name).path);
+    }
     bool done = false;
     for (const QTableWidgetItem *item : firstCells(ui.tblAutorun)) {
         if (item->checkState() != Qt::Checked)
             continue;
-        const AutorunEntry entry{item->text(), item->toolTip(), ui.tblAutorun->item(item->row(), 1)->text()};
+        const AutorunEntry entry{item->text(), item->data(Path).toString(),
+                                 ui.tblAutorun->item(item->row(), 1)->text()};
+        // None in the view of what starts
+        const QString recorded = item->data(RecordName).toString();
         if (disable) {
             disableAutorun(entry);
-        } else if (programs.contains(entry.name) || !records.contains(entry.name)) {
+        } else if (recorded.isEmpty() || (programs.contains(recorded) && programs.value(recorded) == entry.path)) {
             enableAutorun(entry);
             // Also where it could not be brought back.
-            openRecords(u"Autorun"_s)->remove(entry.name);
+            openRecords(u"Autorun"_s)->removeOwnValue(recorded.isEmpty() ? runValueAt(entry.path).name : recorded);
         }
         done = true;
     }
@@ -108,10 +109,7 @@ void Kestrune::on_btnAutorunViewDisabled_clicked()
     }
     ui.btnAutorunViewDisabled->setText(tr("View auto started programs"));
     ui.btnAutorun->setText(tr("Enable checked programs"));
-    const auto records = openRecords(u"Autorun"_s);
-    for (const QString &name : recordedNames(u"Autorun"_s)) {
-        const Parts parts(records->value(name).toString());
-        addRow(ui.tblAutorun, name, parts.second.isEmpty() ? parts.first : parts.second, parts.first);
-    }
+    for (const QString &name : recordedNames(u"Autorun"_s))
+        addRow(ui.tblAutorun, recordedAutorun(name), name);
     ui.lblStatus->setText(countText(tr("Auto started programs disabled:"), ui.tblAutorun->rowCount()) + u"  "_s);
 }

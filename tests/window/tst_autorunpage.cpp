@@ -70,6 +70,7 @@ private Q_SLOTS:
     void programsMenuListsTheMachinesAutoruns();
     void rowShowsNameAndCommand_data();
     void rowShowsNameAndCommand();
+    void toolTipIsNoMarkup();
     void rowsStartCheckedAndCannotBeEdited();
     void rowsComeInTheOrderOfTheList();
     void statusCountsEntriesAndRecords();
@@ -101,6 +102,9 @@ private Q_SLOTS:
     void textOfTheEndIsNotSeen();
     void disableWithoutRightsOffersThemAndListsAnew();
     void disableStartsNoTool();
+
+    void nameWithASlashIsSwitchedOffAndOn_data();
+    void nameWithASlashIsSwitchedOffAndOn();
 
     // Switching on
     void enableBringsTheCheckedRowsBack();
@@ -172,6 +176,25 @@ void TestAutorunPage::rowShowsNameAndCommand()
     machine.write(userRunKey, name, data);
     const AutorunPage driver;
     QCOMPARE(rows(driver), (QList<QStringList>{{shownName, shownCommand, userRunKey + u'\\' + path, shownCommand}}));
+}
+
+void TestAutorunPage::toolTipIsNoMarkup()
+{
+    const QString name = u"A<b>"_s;
+    const QString text = command + u" <b>x</b> &lt;"_s;
+    const auto tip = [](const QString &shown) { return u"<span>"_s + shown.toHtmlEscaped() + u"</span>"_s; };
+    const QStringList row{name, text, tip(userRunKey + u'\\' + name), tip(text)};
+    TestMachine machine;
+    machine.addFile(program);
+    machine.write(userRunKey, name, text);
+    const AutorunPage driver;
+    QCOMPARE(rows(driver), QList<QStringList>{row});
+    driver.click(actionButton);
+    QCOMPARE(machine.names(userRunKey), QStringList());
+    driver.click(viewButton);
+    QCOMPARE(rows(driver), QList<QStringList>{row});
+    driver.click(actionButton);
+    QCOMPARE(machine.read(userRunKey, name), QVariant(text));
 }
 
 void TestAutorunPage::rowsStartCheckedAndCannotBeEdited()
@@ -518,6 +541,44 @@ void TestAutorunPage::textOfTheEndIsNotSeen()
     driver.click(actionButton);
     QCOMPARE(driver.status(), u"before"_s); // nothing was handled
     driver.worker().analyzeRunning = 0;
+}
+
+void TestAutorunPage::nameWithASlashIsSwitchedOffAndOn_data()
+{
+    addColumns<QString, QString, QString>("exact", "shown", "path");
+    QTest::newRow("slash") << u"ATI/AMD Tray"_s << u"AMD Tray"_s << u"ATI\\AMD Tray"_s;
+    QTest::newRow("a slash alone") << u"/"_s << QString() << u"\\"_s;
+    QTest::newRow("backslash") << u"a\\b"_s << u"a/b"_s << u"a/b"_s;
+    QTest::newRow("a backslash alone") << u"\\"_s << u"/"_s << u"/"_s;
+    QTest::newRow("a task's name") << u"x/StartTerminalOnLoginTask"_s << u"StartTerminalOnLoginTask"_s
+                                   << u"x\\StartTerminalOnLoginTask"_s;
+}
+
+void TestAutorunPage::nameWithASlashIsSwitchedOffAndOn()
+{
+    QFETCH(const QString, exact);
+    QFETCH(const QString, shown);
+    QFETCH(const QString, path);
+    TestMachine machine;
+    machine.addFile(program);
+    machine.write(userRunKey, u"Other"_s, u"other.exe"_s);
+    RegistryStore &registry = machine.machine().registry();
+    const auto key = registry.make(userRunKey).value();
+    registry.setValue(key, {exact, RegistryType::String, registryText(command)});
+    const QList<RegistryValue> before = registry.values(key);
+    const AutorunPage driver;
+    const QStringList row{shown, command, userRunKey + u'\\' + path, command};
+    QVERIFY(rows(driver).contains(row));
+    keepOnlyChecked(driver, {shown});
+    driver.click(actionButton);
+    QCOMPARE(machine.names(userRunKey), QStringList(u"Other"_s));
+    QCOMPARE(registry.subkeys(key), QStringList());
+    QVERIFY(registry.value(autorunRecordsKey, exact));
+    driver.click(viewButton);
+    QCOMPARE(rows(driver), QList<QStringList>{row});
+    driver.click(actionButton);
+    QCOMPARE(registry.values(key), before);
+    QVERIFY(!registry.value(autorunRecordsKey, exact));
 }
 
 void TestAutorunPage::disableWithoutRightsOffersThemAndListsAnew()

@@ -174,11 +174,11 @@ void TestAutomatizerBrokenOff::aRecordOfAProgramThatStaysDoesNotShortenIt()
     const QString whole = u"\"C:\\Tools\\a.exe\" --mode=tray"_s;
     pc.write(machineRunKey, u"App"_s, whole);
     // Ended between the record and the removal.
-    enableRunValue(machineRunKey, u"App"_s, u"\"C:\\Tools\\a.exe\" --mode"_s);
+    enableRunValue({machineRunKey, u"App"_s}, u"\"C:\\Tools\\a.exe\" --mode"_s);
     QCOMPARE(pc.read(machineRunKey, u"App"_s), QVariant(whole));
     // Another command of that name gives way, as ever.
     pc.write(machineRunKey, u"App"_s, u"other.exe"_s);
-    enableRunValue(machineRunKey, u"App"_s, u"\"C:\\Tools\\a.exe\" --mode"_s);
+    enableRunValue({machineRunKey, u"App"_s}, u"\"C:\\Tools\\a.exe\" --mode"_s);
     QCOMPARE(pc.read(machineRunKey, u"App"_s), QVariant(u"\"C:\\Tools\\a.exe\" --mode"_s));
 }
 

@@ -48,6 +48,7 @@ private Q_SLOTS:
     void autorunsComeBack_data();
     void autorunsComeBack();
     void theFirstPlaceOfAProgramsNameCounts();
+    void programsComeBackByTheirOwnNames();
     void withoutProgramsServicesAndTasksComeBack();
 
     void theFlagStaysSetAfterFeatures();
@@ -294,6 +295,34 @@ void TestAutomatizerRestore::theFirstPlaceOfAProgramsNameCounts()
     // The key's own name is the first.
     QCOMPARE(machine.read(userRunKey.chopped(4), u"Run"_s), QVariant(u"\"C:\\a.exe\""_s));
     QCOMPARE(machine.names(userRunKey), QStringList());
+}
+
+void TestAutomatizerRestore::programsComeBackByTheirOwnNames()
+{
+    TestMachine machine;
+    machine.addFile(u"C:\\Tools\\a.exe"_s);
+    RegistryStore &registry = machine.machine().registry();
+    const auto key = registry.make(userRunKey).value();
+    const QList<RegistryValue> values{
+        {u"/"_s, RegistryType::String, registryText(u"\"C:\\Tools\\a.exe\" 1"_s)},
+        {u"ATI/AMD Tray"_s, RegistryType::String, registryText(u"\"C:\\Tools\\a.exe\" 2"_s)},
+        {u"a\\b"_s, RegistryType::String, registryText(u"\"C:\\Tools\\a.exe\" 3"_s)},
+    };
+    for (const RegistryValue &value : values)
+        registry.setValue(key, value);
+    WorkerOn worker(onEleven);
+    worker.automatizerTweak = 0;
+    const QStringList off = optimize(worker);
+    QCOMPARE(off.filter(u"Autorun program"_s),
+             (QStringList{u"Autorun program: disable AMD Tray done"_s, u"Autorun program: disable  done"_s,
+                          u"Autorun program: disable a/b done"_s}));
+    QCOMPARE(registry.values(key), QList<RegistryValue>());
+    const QStringList on = restore(worker);
+    QCOMPARE(on.filter(u"Autorun program"_s).size(), 3);
+    QVERIFY(on.contains(u"Autorun program: enable AMD Tray done"_s));
+    QCOMPARE(registry.values(key), values);
+    closeRestore();
+    QCOMPARE(recordedNames(u"Autorun"_s), QStringList());
 }
 
 void TestAutomatizerRestore::withoutProgramsServicesAndTasksComeBack()

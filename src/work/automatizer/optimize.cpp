@@ -35,7 +35,7 @@ int changeTask(const QString &path, const QString &change)
 /** Switches what starts at logon off and records it. Gives the name by which it is reported. */
 QString switchOff(const AutorunEntry &entry)
 {
-    if (!isPackagedTaskExactly(entry.name)) {
+    if (!isPackagedTaskExactly(entry.name) || hasPartedName(entry.path)) {
         disableRunValue(entry);
         return entry.name;
     }

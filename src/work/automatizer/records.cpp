@@ -69,7 +69,7 @@ QStringList namesIn(const Group &group, bool trusted)
     QStringList names;
     const auto records = openRecords(group.name);
     for (const QString &name : recordedNames(group.name)) {
-        if (group.isTrusted(name, records->value(name).toString()) == trusted)
+        if (group.isTrusted(name, records->ownValue(name).toString()) == trusted)
             names.append(name);
     }
     return names;

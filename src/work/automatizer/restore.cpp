@@ -31,10 +31,13 @@ bool bringBack(const QString &name, const QString &record)
     const QStringList parts = record.split(u'=');
     if (parts.size() < 2)
         return false;
-    if (parts.at(1).isEmpty())
+    const QString &path = parts.at(1);
+    if (path.isEmpty())
         enablePackagedTask(parts.first());
+    else if (hasPartedName(path))
+        enableRunValue(runValueAt(path), parts.first());
     else
-        enableRunValue(runKey(parts.at(1), name), name, parts.first());
+        enableRunValue({runKey(path, name), name}, parts.first());
     return true;
 }
 
@@ -128,8 +131,8 @@ void Automatizer::restoreAutoruns()
     int counter = 1;
     for (const QString &name : names) {
         // Also reported of one that can't be brought back.
-        if (bringBack(name, records->value(name).toString()))
-            report(WorkThread::tr("Autorun program: enable %1 done").replace(u"%1"_s, name));
+        if (bringBack(name, records->ownValue(name).toString()))
+            report(WorkThread::tr("Autorun program: enable %1 done").replace(u"%1"_s, shownAutorun(name)));
         reportStep(counter);
         ++counter;
     }

@@ -18,7 +18,7 @@ void forgetRecords(const QString &group, const QStringList &names)
 {
     const auto records = openRecords(group);
     for (const QString &name : names)
-        records->remove(name);
+        records->removeOwnValue(name);
 }
 
 } // namespace

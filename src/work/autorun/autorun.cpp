@@ -22,21 +22,6 @@ constexpr int taskOn = 2;
 /** The keys of the packaged tasks, whose last parts are their names. */
 const QString packagedTasks[] = {WindowsKey::terminalTask, WindowsKey::xboxTask};
 
-QString lastPartOf(const QString &path)
-{
-    return path.sliced(path.lastIndexOf(u'\\') + 1);
-}
-
-QString keyOf(const AutorunEntry &entry)
-{
-    return entry.path.left(entry.path.lastIndexOf(u'\\'));
-}
-
-QString valueNameOf(const AutorunEntry &entry)
-{
-    return lastPartOf(entry.path);
-}
-
 /** The program of a command in double quotes is there. */
 bool canBeRestored(const QString &command)
 {
@@ -60,7 +45,7 @@ QList<AutorunRow> autorunRows()
             const bool hidden =
                 run == WindowsKey::machineRun && name.contains("SecurityHealth"_L1, Qt::CaseInsensitive);
             if (!unnamed && !hidden)
-                rows.append(run + u'\\' + name + u'=' + key->value(name).toString());
+                rows.append(run + u'\\' + name + u'=' + key->ownValue(name).toString());
         }
     }
     for (const QString &task : packagedTasks) {
@@ -79,40 +64,71 @@ AutorunEntry autorunEntry(const AutorunRow &row)
 {
     const QStringList parts = row.split(u'=');
     const QString &path = parts.first();
-    return {lastPartOf(path), path, parts.value(1)};
+    return {shownAutorun(path), path, parts.value(1)};
+}
+
+AutorunEntry recordedAutorun(const QString &recordName)
+{
+    const QStringList parts = openRecords(u"Autorun"_s)->ownValue(recordName).toString().split(u'=');
+    const QString path = parts.value(1).isEmpty() ? parts.first() : parts.at(1);
+    return {shownAutorun(recordName), path, parts.first()};
+}
+
+QString shownAutorun(const QString &path)
+{
+    return path.sliced(path.lastIndexOf(u'\\') + 1);
+}
+
+RunValue runValueAt(const QString &path)
+{
+    for (const QString &run : WindowsKey::runKeys) {
+        if (path.startsWith(run + u'\\', Qt::CaseInsensitive))
+            return {path.first(run.size()), path.sliced(run.size() + 1)};
+    }
+    return {path.left(path.lastIndexOf(u'\\')), shownAutorun(path)};
+}
+
+bool hasPartedName(const QString &path)
+{
+    const RunValue value = runValueAt(path);
+    return WindowsKey::runKeys.contains(value.key, Qt::CaseInsensitive)
+           && (value.name.contains(u'\\') || value.name.contains(u'/'));
 }
 
 bool isPackagedTask(const QString &name)
 {
     return std::any_of(std::begin(packagedTasks), std::end(packagedTasks),
-                       [&name](const QString &task) { return name.contains(lastPartOf(task), Qt::CaseInsensitive); });
+                       [&name](const QString &task) { return name.contains(shownAutorun(task), Qt::CaseInsensitive); });
 }
 
 bool isPackagedTaskExactly(const QString &name)
 {
     return std::any_of(std::begin(packagedTasks), std::end(packagedTasks),
-                       [&name](const QString &task) { return name == lastPartOf(task); });
+                       [&name](const QString &task) { return name == shownAutorun(task); });
 }
 
 void disableAutorun(const AutorunEntry &entry)
 {
-    isPackagedTask(entry.name) ? disablePackagedTask(entry) : disableRunValue(entry);
+    isPackagedTask(entry.name) && !hasPartedName(entry.path) ? disablePackagedTask(entry) : disableRunValue(entry);
 }
 
 void disableRunValue(const AutorunEntry &entry)
 {
+    const RunValue value = runValueAt(entry.path);
     // What brings the value back goes first, and without it the value stays: an exact copy, and the record.
-    if (!backUpRunValue(keyOf(entry), valueNameOf(entry))) {
+    if (!backUpRunValue(value.key, value.name)) {
         LogError(u"disableRunValue: "_s + entry.path + u" can't be backed up and stays"_s);
         return;
     }
     const QString text = entry.command + u'=' + entry.path;
-    record(u"Autorun"_s, entry.name, text);
-    if (openRecords(u"Autorun"_s)->value(entry.name).toString() != text) {
+    const auto records = openRecords(u"Autorun"_s);
+    records->setOwnValue(value.name, text);
+    records->flush();
+    if (records->ownValue(value.name) != QVariant(text)) {
         LogError(u"disableRunValue: "_s + entry.path + u" can't be recorded and stays"_s);
         return;
     }
-    platform().openKey(keyOf(entry))->remove(valueNameOf(entry));
+    platform().openKey(value.key)->removeOwnValue(value.name);
 }
 
 void disablePackagedTask(const AutorunEntry &entry)
@@ -123,22 +139,22 @@ void disablePackagedTask(const AutorunEntry &entry)
 
 void enableAutorun(const AutorunEntry &entry)
 {
-    if (isPackagedTask(entry.name))
+    if (isPackagedTask(entry.name) && !hasPartedName(entry.path))
         enablePackagedTask(entry.path);
     else
-        enableRunValue(keyOf(entry), valueNameOf(entry), entry.command);
+        enableRunValue(runValueAt(entry.path), entry.command);
 }
 
-void enableRunValue(const QString &key, const QString &name, const QString &command)
+void enableRunValue(const RunValue &value, const QString &command)
 {
     if (!canBeRestored(command)) {
-        LogError(u"enableRunValue: "_s + key + u'\\' + name + u" can't be brought back"_s);
+        LogError(u"enableRunValue: "_s + value.key + u'\\' + value.name + u" can't be brought back"_s);
         return;
     }
-    const auto run = platform().openKey(key);
+    const auto run = platform().openKey(value.key);
     // Recorded, and never removed. A record ends before an "=", and what is there must not be cut to it.
-    if (run->value(name).toString().section(u'=', 0, 0) != command)
-        run->setValue(name, command);
+    if (run->ownValue(value.name).toString().section(u'=', 0, 0) != command)
+        run->setOwnValue(value.name, command);
 }
 
 void enablePackagedTask(const QString &key)

@@ -13,13 +13,28 @@ QList<AutorunRow> autorunRows();
 /** Where an entry stands: the full path of its Run value, or of its packaged task's key. */
 struct AutorunEntry
 {
-    QString name;    ///< the part of the path after its last backslash; names the record
+    QString name;    ///< the part of the path after its last backslash, by which it is shown
     QString path;    ///< "<key>\<name>"
     QString command; ///< of a Run value
 };
 
 /** The entry of a row of the list. What follows a second "=" is lost, and with it the rest of such a command. */
 AutorunEntry autorunEntry(const AutorunRow &row);
+
+/** The entry of a record; shown by the same name as the entry that was recorded. */
+AutorunEntry recordedAutorun(const QString &recordName);
+/** The name by which an entry is shown whose path or record has this name. */
+QString shownAutorun(const QString &path);
+
+/** Where a Run value is: its key, and its name as the key lists it, which may hold backslashes itself. */
+struct RunValue
+{
+    QString key;
+    QString name; ///< names the record too
+};
+RunValue runValueAt(const QString &path);
+/** Whether a path is that of a Run value whose name holds what parts keys. It is no packaged task, whatever its end. */
+bool hasPartedName(const QString &path);
 
 /** Whether an entry is one of the two packaged tasks, which have a switch, and no Run value, which is there or isn't.
  */
@@ -37,5 +52,5 @@ void disablePackagedTask(const AutorunEntry &entry);
  * with anything else it is unknown where the program's path ends. The record is left alone.
  */
 void enableAutorun(const AutorunEntry &entry);
-void enableRunValue(const QString &key, const QString &name, const QString &command);
+void enableRunValue(const RunValue &value, const QString &command);
 void enablePackagedTask(const QString &key);
