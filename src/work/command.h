@@ -34,8 +34,6 @@ public:
     ~Command();
     Q_DISABLE_COPY_MOVE(Command)
 
-    /** Lets the next command's output go to a file, given by its host path, which is emptied first. */
-    void setStandardOutputFile(const QString &file) { process_->setStandardOutputFile(file, QIODevice::Truncate); }
     /** Lets nobody hear the next command. One that is left running would stop at a pipe that nobody empties. */
     void discardOutput();
     void start(const QString &program, const QStringList &arguments);

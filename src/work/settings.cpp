@@ -5,7 +5,6 @@
 #include "platform/platform.h"
 
 #include <QDateTime>
-#include <QFile>
 
 #include <mutex>
 
@@ -47,11 +46,8 @@ void LogError(const QString &message)
     // On Windows appending is finding the end and writing there, and two workers may find the same end.
     static std::mutex oneAtATime;
     const std::lock_guard lock(oneAtATime);
-    QFile file(platform().programFolder() + u"/log.txt"_s);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text))
-        return;
-    // One write for a line, so that two workers' lines don't mix within a line.
-    file.write(QString(QDate::currentDate().toString(Qt::TextDate) + u" - "_s
-                       + QTime::currentTime().toString(Qt::TextDate) + u": "_s + message + u'\n')
-                   .toUtf8());
+    const QDateTime now = QDateTime::currentDateTime();
+    platform().appendLine(platform().programFolder(), u"log.txt"_s,
+                          now.date().toString(Qt::TextDate) + u" - "_s + now.time().toString(Qt::TextDate) + u": "_s
+                              + message);
 }

@@ -12,6 +12,8 @@
 #include <QTest>
 #include <QThread>
 
+#include <filesystem>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -41,6 +43,8 @@ private Q_SLOTS:
     void linesAreAppendedToWhatIsThere();
     void switchingItOffStopsTheLines();
     void aLogThatCantBeWrittenIsPassedOverInSilence();
+    void lineIsAddedToNoLink_data();
+    void lineIsAddedToNoLink();
     void twoThreadsAtOnceGiveWholeLines();
 };
 
@@ -128,6 +132,32 @@ void TestErrorLog::aLogThatCantBeWrittenIsPassedOverInSilence()
     QCOMPARE(worker.services.size(), 1);
     QCOMPARE(worker.services.at(0).description, u"no description"_s);
     QVERIFY(QDir(logFile(machine)).isEmpty());
+}
+
+void TestErrorLog::lineIsAddedToNoLink_data()
+{
+    QTest::addColumn<bool>("hard");
+    QTest::newRow("to a file") << false;
+    QTest::newRow("a second name") << true;
+}
+
+void TestErrorLog::lineIsAddedToNoLink()
+{
+    QFETCH(const bool, hard);
+    TestMachine machine;
+    machine.logErrors();
+    const QString hosts = machine.addFile(u"C:\\Windows\\System32\\drivers\\etc\\hosts"_s, "of the system");
+    const std::filesystem::path target = hosts.toStdU16String();
+    const std::filesystem::path link = logFile(machine).toStdU16String();
+    std::error_code error;
+    hard ? std::filesystem::create_hard_link(target, link, error)
+         : std::filesystem::create_symlink(target, link, error);
+    if (error)
+        QSKIP("this system makes no such links");
+    LogError(u"a message"_s);
+    QFile file(hosts);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("of the system"));
 }
 
 void TestErrorLog::twoThreadsAtOnceGiveWholeLines()

@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <filesystem>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -83,6 +84,7 @@ private Q_SLOTS:
     void theListingWritesItEvenWhereServicesCantBeAsked();
     void exceptionsAreCaught();
     void theWindowsRegistryEditorWouldReadItBack();
+    void itFollowsNoLink();
 };
 
 void TestStartModeBackup::itLiesInTheProgramFolder()
@@ -423,6 +425,27 @@ void TestStartModeBackup::theWindowsRegistryEditorWouldReadItBack()
     applyRegistryScript(machine.machine().database(), machine.machine().registry(),
                         parseRegistryScript(backup(), u"StartMode.reg"_s));
     QCOMPARE(machine.read(servicesKey + u"\\Appinfo"_s, u"Start"_s), QVariant(2));
+}
+
+void TestStartModeBackup::itFollowsNoLink()
+{
+    TestMachine machine;
+    machine.add({.name = u"A"_s, .type = 32});
+    const QString some = machine.addFile(u"C:\\Windows\\some.txt"_s);
+    const QString elsewhere = QFileInfo(some).path();
+    const std::filesystem::path folder = QFileInfo(startModeBackupFile()).path().toStdU16String();
+    std::error_code error;
+    std::filesystem::create_directory_symlink(elsewhere.toStdU16String(), folder, error);
+    if (error)
+        QSKIP("this system makes no such links");
+    QCOMPARE(WriteStartModeBackup(), -1);
+    QVERIFY(!QFileInfo::exists(elsewhere + u"/StartMode.reg"_s));
+    std::filesystem::remove(folder);
+    QVERIFY(QDir().mkpath(QFileInfo(startModeBackupFile()).path()));
+    std::filesystem::create_symlink((elsewhere + u"/absent"_s).toStdU16String(),
+                                    startModeBackupFile().toStdU16String());
+    QCOMPARE(WriteStartModeBackup(), -1);
+    QVERIFY(!QFileInfo::exists(elsewhere + u"/absent"_s));
 }
 
 KESTRUNE_SUITE(TestStartModeBackup)

@@ -18,6 +18,9 @@ namespace {
 // the backups people already have look like this.
 const QString lineEnd = u"\r\r\n"_s;
 
+// In the program folder
+const QString backupName = u"backup_svc/StartMode.reg"_s;
+
 QString startModes()
 {
     QString script = registryScriptHead + lineEnd + lineEnd;
@@ -49,7 +52,7 @@ std::unique_ptr<RegistryKey> openServices()
 
 QString startModeBackupFile()
 {
-    return platform().programFolder() + u"/backup_svc/StartMode.reg"_s;
+    return platform().programFolder() + u'/' + backupName;
 }
 
 int WriteStartModeBackup()
@@ -58,7 +61,9 @@ try {
     const BackupState state = backupState(file, isCompleteScript);
     if (state == BackupState::Complete || (state == BackupState::CutOff && !setAside(file)))
         return -1;
-    return writeWhole(file, startModes().toUtf8()) ? 0 : -1;
+    const bool written =
+        platform().writeFile(platform().programFolder(), backupName, startModes().toUtf8(), IfThere::Keep);
+    return written ? 0 : -1;
 } catch (QFileDevice::FileError) {
     return 2;
 } catch (const std::exception &) {

@@ -12,7 +12,6 @@
 #include "work/statusline.h"
 #include "work/workthread.h"
 
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -29,12 +28,13 @@ QStringView between(QStringView text, QStringView begin, QStringView end)
     return stop < 0 ? text : text.first(stop);
 }
 
-/** Output that came in spite of the redirection belongs to the export too. */
-void appendToExport(const QString &fileName, const QByteArray &output)
+const QString exportName = u"tasks.xml"_s;
+
+/** Leaves the export in the user's folder for temporary files, in place of an earlier one. */
+bool leaveBehind(const QByteArray &exported)
 {
-    QFile file(fileName);
-    if (!output.isEmpty() && file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text))
-        file.write(output + "\r\n");
+    const QString folder = platform().hostPath(qEnvironmentVariable("temp") + u'/');
+    return platform().writeFile(folder, exportName, exported, IfThere::Replace);
 }
 
 /** One document for all tasks or one for each, closed by their last tag: no line end need follow it. */
@@ -45,16 +45,15 @@ bool isCompleteExport(const QString &text)
 }
 
 /** Keeps the first export, for the user; nothing reads it. */
-void backUp(const QByteArray &bytes)
+void backUp(const QByteArray &exported)
 {
-    const QString file = platform().programFolder() + u"/backup_tasks/tasks.xml"_s;
-    const BackupState state = backupState(file, isCompleteExport);
-    if (state == BackupState::Complete)
-        return;
+    const QString name = u"backup_tasks/"_s + exportName;
+    const QString file = platform().programFolder() + u'/' + name;
     // What looks cut off to this program, though the tool has ended by itself, takes no place of another one.
-    if (state == BackupState::CutOff && !(isCompleteExport(textOfFile(bytes)) && setAside(file)))
+    if (backupState(file, isCompleteExport) == BackupState::CutOff
+        && !(isCompleteExport(textOfFile(exported)) && setAside(file)))
         return;
-    writeWhole(file, bytes);
+    platform().writeFile(platform().programFolder(), name, exported, IfThere::Keep);
 }
 
 } // namespace
@@ -62,27 +61,23 @@ void backUp(const QByteArray &bytes)
 void WorkThread::TaskMakeList()
 try {
     tasks.clear();
-    const QString fileName = platform().hostPath(qEnvironmentVariable("temp") + u"/tasks.xml"_s);
 
     Command schtasks;
-    schtasks.setStandardOutputFile(fileName);
     if (!startLogged(schtasks, u"TaskMakeList"_s, u"schtasks"_s, {u"/xml"_s}))
         return;
     schtasks.waitForFinished();
-    appendToExport(fileName, schtasks.readAllStandardOutput());
+    // From the tool itself: anybody can put something else in the place of the file.
+    const QByteArray exported = schtasks.readAllStandardOutput();
     if (const int code = schtasks.exitCode(); code != 0) {
         LogError(u"TaskMakeList: schtasks process error: "_s + QString::number(code));
         return;
     }
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!leaveBehind(exported))
         return;
-    const QByteArray bytes = file.readAll();
     if (platform().isElevated() && schtasks.hasEndedByItself())
-        backUp(bytes);
-
-    QString exported = textOfFile(bytes);
-    tasks = tasksOf(exported.replace("\r\n"_L1, "\n"_L1));
+        backUp(exported);
+    QString text = textOfFile(exported);
+    tasks = tasksOf(text.replace("\r\n"_L1, "\n"_L1));
     if (analyzeRunning == 0)
         report(StatusLine::tasksListed);
 } catch (const JobInterrupted &) {
