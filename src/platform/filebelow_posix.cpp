@@ -103,14 +103,15 @@ bool writeFileBelow(const QString &folder, const QString &name, const QByteArray
         unlinkat(at, place.name.constData(), 0);
         return writeNew(place.folder, place.name, content);
     }
-    if (isThere(place))
+    if (ifThere == IfThere::Keep && isThere(place))
         return false;
     // Under another name until it is whole
     const QByteArray making = place.name + ".new";
     unlinkat(at, making.constData(), 0);
     if (!writeNew(place.folder, making, content))
         return false;
-    if (renameat2(at, making.constData(), at, place.name.constData(), RENAME_NOREPLACE) == 0)
+    const unsigned int flags = ifThere == IfThere::Keep ? RENAME_NOREPLACE : 0;
+    if (renameat2(at, making.constData(), at, place.name.constData(), flags) == 0)
         return true;
     unlinkat(at, making.constData(), 0);
     return false;

@@ -4,20 +4,11 @@
 
 #include "platform/registryscript.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStringDecoder>
 
 using namespace Qt::StringLiterals;
-
-bool writeWhole(const QString &file, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(file).path());
-    QSaveFile whole(file);
-    return whole.open(QIODevice::WriteOnly) && whole.write(bytes) == bytes.size() && whole.commit();
-}
 
 BackupState backupState(const QString &file, bool (*isComplete)(const QString &text))
 {

@@ -8,9 +8,6 @@
 
 #include <optional>
 
-/** Writes a file with its folder, as a whole or not at all, and keeps the rights of one that is there. */
-bool writeWhole(const QString &file, const QByteArray &bytes);
-
 enum class BackupState {
     Missing,
     CutOff,   ///< whoever wrote it was ended before its end

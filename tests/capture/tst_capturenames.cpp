@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A PC that is captured without names: whoever uses it stands nowhere in the machine, and what the jobs need is there.
 
-#include "capture/capturesteps.h"
 #include "capture/capture.h"
+#include "capture/capturesteps.h"
 #include "capture/neutralnames.h"
 #include "capturing.h"
 #include "machine/database.h"

@@ -87,6 +87,10 @@ private Q_SLOTS:
     void shortNameOfTheFolderWillDo();
     void linkOnTheWayIsAFailure();
 
+    void exchangedFileIsWhole();
+    void linkIsExchangedAndItsTargetStays_data() { addLinks(); }
+    void linkIsExchangedAndItsTargetStays();
+
     void keptFileStays();
     void linkIsKeptAndItsTargetStays_data() { addLinks(); }
     void linkIsKeptAndItsTargetStays();
@@ -229,6 +233,29 @@ void TestFileBelow::linkOnTheWayIsAFailure()
     QVERIFY(!writeFile(u"way/target"_s, "ours"));
     QVERIFY(!writeFile(u"way/new"_s, "ours", IfThere::Keep));
     QVERIFY(!platform().appendLine(folder_->path(), u"way/target"_s, u"ours"_s));
+    QVERIFY(outsideIsUntouched());
+}
+
+void TestFileBelow::exchangedFileIsWhole()
+{
+    QVERIFY(writeFile(u"file"_s, "a longer first text", IfThere::Exchange));
+    QVERIFY(writeFile(u"file"_s, "second", IfThere::Exchange));
+    QCOMPARE(read(at(u"file"_s)), QByteArray("second"));
+    QCOMPARE(names(), QStringList(u"file"_s));
+    // Where the new one can't be made, the old one stays.
+    QVERIFY(QDir(folder_->path()).mkdir(u"file.new"_s));
+    QVERIFY(!writeFile(u"file"_s, "third", IfThere::Exchange));
+    QCOMPARE(read(at(u"file"_s)), QByteArray("second"));
+}
+
+void TestFileBelow::linkIsExchangedAndItsTargetStays()
+{
+    QFETCH(const Link, kind);
+    if (!lay(u"file"_s, kind))
+        QSKIP("there is no such link here");
+    QVERIFY(writeFile(u"file"_s, "own", IfThere::Exchange));
+    QCOMPARE(read(at(u"file"_s)), QByteArray("own"));
+    QVERIFY(!QFileInfo(at(u"file"_s)).isSymbolicLink());
     QVERIFY(outsideIsUntouched());
 }
 

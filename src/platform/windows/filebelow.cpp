@@ -121,14 +121,14 @@ bool writeFileBelow(const QString &folder, const QString &name, const QByteArray
         DeleteFileW(wide(place.path));
         return writeNew(place.path, content);
     }
-    if (GetFileAttributesW(wide(place.path)) != INVALID_FILE_ATTRIBUTES)
+    if (ifThere == IfThere::Keep && GetFileAttributesW(wide(place.path)) != INVALID_FILE_ATTRIBUTES)
         return false;
     // Under another name until it is whole
     const QString making = place.path + u".new"_s;
     DeleteFileW(wide(making));
     if (!writeNew(making, content))
         return false;
-    if (MoveFileExW(wide(making), wide(place.path), 0))
+    if (MoveFileExW(wide(making), wide(place.path), ifThere == IfThere::Keep ? 0 : MOVEFILE_REPLACE_EXISTING))
         return true;
     DeleteFileW(wide(making));
     return false;

@@ -4,11 +4,11 @@
 
 #include "automatizer.h"
 #include "platform/platform.h"
-#include "work/backups.h"
 #include "work/command.h"
 #include "work/settings.h"
 
 #include <QFile>
+#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +26,13 @@ QString configFile()
 bool isEncoder(const QString &process)
 {
     return process == "EncoderServer.exe"_L1 || process == "EncoderServer64.exe"_L1;
+}
+
+/** Writes a file as a whole or not at all, with the rights that it has. */
+bool writeWhole(const QString &file, const QByteArray &bytes)
+{
+    QSaveFile whole(file);
+    return whole.open(QIODevice::WriteOnly) && whole.write(bytes) == bytes.size() && whole.commit();
 }
 
 /** Handled as bytes, since the file's code page is unknown. */

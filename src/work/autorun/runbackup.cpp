@@ -14,6 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// In the program folder
+const QString scriptName = u"backup_autorun/Run.reg"_s;
+
 /** The script so far, with LF line ends; nothing where one is there that can't be read or put aside. */
 std::optional<QString> scriptSoFar(const QString &file)
 {
@@ -29,17 +32,18 @@ std::optional<QString> scriptSoFar(const QString &file)
 }
 
 /** As the registry editor writes its own, so that it reads any name. */
-bool writeScript(const QString &file, QString script)
+bool writeScript(QString script)
 {
     QStringEncoder encoder(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
-    return writeWhole(file, encoder(script.replace(u'\n', "\r\n"_L1)));
+    return platform().writeFile(platform().programFolder(), scriptName, encoder(script.replace(u'\n', "\r\n"_L1)),
+                                IfThere::Exchange);
 }
 
 } // namespace
 
 QString runBackupFile()
 {
-    return platform().programFolder() + u"/backup_autorun/Run.reg"_s;
+    return platform().programFolder() + u'/' + scriptName;
 }
 
 bool backUpRunValue(const QString &key, const QString &name)
@@ -55,5 +59,5 @@ bool backUpRunValue(const QString &key, const QString &name)
     const QString file = runBackupFile();
     const std::optional<QString> script = scriptSoFar(file);
     const QString added = u"\n["_s + key + u"]\n"_s + registryScriptValue(*value) + u'\n';
-    return script && (script->contains(added) || writeScript(file, *script + added));
+    return script && (script->contains(added) || writeScript(*script + added));
 }

@@ -12,7 +12,6 @@
 #include "work/statusline.h"
 #include "work/workthread.h"
 
-
 using namespace Qt::StringLiterals;
 
 namespace {
