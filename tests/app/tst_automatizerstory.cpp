@@ -94,6 +94,7 @@ void TestAutomatizerStory::verifyWhatStaysChanged(MachinePair &pair, const QStri
     QCOMPARE(withBeginning(differences, u"service "_s) + withBeginning(differences, u"task "_s), QStringList());
     // The encoder stays off, and the backups stay.
     QStringList files = backups;
+    files.append(u"file program\\backup_autorun\\Run.reg"_s);
     files.append(u"file C:\\Program Files (x86)\\RivaTuner Statistics Server\\Profiles\\config"_s);
     files.sort();
     QCOMPARE(withBeginning(differences, u"file "_s), files);

@@ -232,7 +232,7 @@ void TestRehearseAutomatizer::theWindowsClosingStepsAreDone()
     QVERIFY(wasOptimized());
     QVERIFY(!recordedNames(u"Autorun"_s).isEmpty());
     // Without them they go.
-    QVERIFY(runOn(machine, {u"restore"_s, u"--no-features"_s}).output.endsWith("\tAutomatizerRestore:finished\n"));
+    QVERIFY(runOn(machine, {u"restore"_s, u"--no-features"_s}).output.contains("\tAutomatizerRestore:finished\n"));
     QVERIFY(!wasOptimized());
     for (const char *group : {"Autorun", "Tweak"})
         QVERIFY(recordedNames(QString::fromLatin1(group)).isEmpty());

@@ -277,7 +277,9 @@ void TestRehearseSoftware::autorunDisableAndEnable()
     QVERIFY(ended.output.startsWith("autorun\tHKEY_CURRENT_USER\\"));
     QVERIFY(!ended.output.contains("Steam") && !ended.output.contains("StartTerminalOnLoginTask"));
     const QList<QByteArray> differences = work.differences();
-    QCOMPARE(differences.size(), 4);
+    const QByteArray backup = "file program\\backup_autorun\\Run.reg (none) -> 346 bytes";
+    QCOMPARE(differences.size(), 5);
+    QVERIFY(hasLine(differences, backup));
     QVERIFY(
         hasLine(differences, "registry " + autorunGroup
                                  + "Steam (none) -> \"\"C:\\Program Files (x86)\\Steam\\steam.exe\" -silent="
@@ -287,7 +289,8 @@ void TestRehearseSoftware::autorunDisableAndEnable()
     QCOMPARE(ended.exitCode, done);
     QVERIFY(ended.output.contains("\\Run\\Steam=\"C:\\Program Files (x86)\\Steam\\steam.exe\" -silent\n"));
     QCOMPARE(work.differences(),
-             QList<QByteArray>({"registry HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale\\Autorun (none) -> key"}));
+             QList<QByteArray>(
+                 {"registry HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale\\Autorun (none) -> key", backup}));
 }
 
 void TestRehearseSoftware::autorunReportsWhatFailed_data()

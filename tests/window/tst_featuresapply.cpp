@@ -199,11 +199,15 @@ void TestFeaturesApply::othersAreKeptOutUntilTheWalkIsOver()
     TestMachine machine;
     const FeaturesPage driver;
     clickBox(driver, u"chkSsd8"_s);
+    std::atomic<bool> walkKeptThemOut = false;
+    QObject::connect(
+        &driver.worker(), &QThread::started, &driver.worker(),
+        [&] { walkKeptThemOut = !machine.platform().lockOthersOut(); }, Qt::DirectConnection);
     const Boxes boxes({answer});
     apply(driver);
-    QCOMPARE(machine.platform().lockOthersOut() == nullptr, answer == QMessageBox::Yes);
     QTRY_VERIFY_WITH_TIMEOUT(machine.platform().lockOthersOut(), patience);
     QVERIFY(!driver.worker().isRunning());
+    QCOMPARE(walkKeptThemOut.load(), answer == QMessageBox::Yes);
 }
 
 void TestFeaturesApply::nothingTouchedRunsNothingAndIsStored()
