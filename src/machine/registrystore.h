@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "platform/registrydata.h"
 #include "platform/registrykey.h"
 
 #include <QByteArray>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "registrydata.h"
+#include "registrykey.h"
 
 #include <QtEndian>
 

@@ -93,3 +93,12 @@ public:
     virtual void beginGroup(const QString &name) = 0;
     virtual void endGroup() = 0;
 };
+
+// Between texts or numbers and the data of values.
+
+QByteArray registryText(const QString &text);
+QByteArray registryTexts(const QStringList &texts);
+QString textOf(const QByteArray &data);
+QStringList textsOf(const QByteArray &data);
+QByteArray registryDWord(quint32 number);
+QByteArray registryQWord(quint64 number);

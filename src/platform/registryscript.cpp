@@ -2,7 +2,6 @@
 
 #include "registryscript.h"
 
-#include "registrydata.h"
 
 #include <algorithm>
 

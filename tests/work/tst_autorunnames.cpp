@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStringDecoder>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -125,6 +126,11 @@ void TestAutorunNames::valueGoesAndComesBackByItsOwnName()
 
     disableAutorun(entry);
     QVERIFY(!contract_.readRaw(WindowsKey::userRun, exact));
+    const QString quoted = u'"' + QString(exact).replace(u"\\"_s, u"\\\\"_s) + u"\"="_s;
+    QFile copies(runBackupFile());
+    QVERIFY(copies.open(QIODevice::ReadOnly));
+    const QString script = QStringDecoder(QStringConverter::Utf16LE)(copies.readAll());
+    QVERIFY2(script.contains(u'\n' + quoted), qPrintable(script));
     QCOMPARE(rawText(records, exact), command + u'=' + path);
     QCOMPARE(trustedAutoruns(), QStringList(listed));
     QCOMPARE(distrustedRecords(), QStringList());

@@ -7,7 +7,6 @@
 #include "support/packageplaces.h"
 #include "support/suite.h"
 #include "work/autorun/autorun.h"
-#include "work/autorun/runbackup.h"
 
 #include <QTest>
 

@@ -3,7 +3,7 @@
 
 #include "nativekey.h"
 
-#include "registryhandle.h"
+#include "systemobjects.h"
 
 #include <QtEndian>
 

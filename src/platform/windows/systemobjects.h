@@ -8,6 +8,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <type_traits>
 
 inline const wchar_t *wide(const QString &text)
 {
@@ -24,4 +25,24 @@ using Handle = std::unique_ptr<void, HandleCloser>;
 inline Handle validHandle(HANDLE handle)
 {
     return Handle(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
+}
+
+// Keys of the real registry, opened without QSettings.
+
+struct KeyCloser
+{
+    void operator()(HKEY key) const { RegCloseKey(key); }
+};
+using Key = std::unique_ptr<std::remove_pointer_t<HKEY>, KeyCloser>;
+
+/** A hive by its full name; null for any other name. */
+inline HKEY hiveNamed(const QString &name)
+{
+    if (name == QLatin1StringView("HKEY_LOCAL_MACHINE"))
+        return HKEY_LOCAL_MACHINE;
+    if (name == QLatin1StringView("HKEY_CURRENT_USER"))
+        return HKEY_CURRENT_USER;
+    if (name == QLatin1StringView("HKEY_USERS"))
+        return HKEY_USERS;
+    return name == QLatin1StringView("HKEY_CLASSES_ROOT") ? HKEY_CLASSES_ROOT : nullptr;
 }

@@ -4,7 +4,7 @@
 #include "windowsplatform.h"
 
 #include "processtoken.h"
-#include "registryhandle.h"
+#include "systemobjects.h"
 
 #include <span>
 #include <utility>

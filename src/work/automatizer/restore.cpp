@@ -3,7 +3,6 @@
 
 #include "automatizer.h"
 #include "platform/platform.h"
-#include "platform/registrydata.h"
 #include "platform/windowsfacts.h"
 #include "records.h"
 #include "work/autorun/autorun.h"

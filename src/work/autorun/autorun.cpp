@@ -4,7 +4,6 @@
 
 #include "platform/platform.h"
 #include "platform/windowsfacts.h"
-#include "runbackup.h"
 #include "work/settings.h"
 #include "work/workthread.h"
 

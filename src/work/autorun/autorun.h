@@ -54,3 +54,16 @@ void disablePackagedTask(const AutorunEntry &entry);
 void enableAutorun(const AutorunEntry &entry);
 void enableRunValue(const RunValue &value, const QString &command);
 void enablePackagedTask(const QString &key);
+
+// The exact copies of the Run values that the program removes. A record keeps a command as a text and ends before an
+// "=", and Restore brings back only what stands in double quotes: this is where the rest still is.
+
+/** Host path of the registry script that holds them, in the order of their removals. */
+QString runBackupFile();
+
+/**
+ * Adds a Run value with its type and data to the script, unless it is in there.
+ * @param name as the key lists it
+ * @return false where it can't be kept, and is lost when it is removed
+ */
+bool backUpRunValue(const QString &key, const QString &name);

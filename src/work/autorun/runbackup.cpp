@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "runbackup.h"
+#include "autorun.h"
 
 #include "platform/platform.h"
 #include "platform/registryscript.h"
