@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/platform.h"
+#include "platform/filebelow.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -39,11 +39,14 @@ public:
     bool isOnFixedDrive(const QString &) const override { return false; }
     QString programFolder() const override { return folder_.path(); }
     QString resourceFolder() const override { return folder_.path(); }
-    bool writeFile(const QString &, const QString &, const QByteArray &, IfThere) const override { return false; }
+    bool writeFile(const QString &folder, const QString &name, const QByteArray &content,
+                   IfThere ifThere) const override
+    {
+        return writeFileBelow(folder, name, content, ifThere);
+    }
     bool appendLine(const QString &folder, const QString &name, const QString &line) const override
     {
-        QFile file(folder + u'/' + name);
-        return file.open(QIODevice::Append) && file.write(line.toUtf8() + '\n') > 0;
+        return appendLineBelow(folder, name, line);
     }
     void walk(const QString &, const std::function<bool(const WalkEntry &)> &) const override {}
     quint32 fileAttributes(const QString &) const override { return invalidAttributes; }
