@@ -31,6 +31,14 @@ std::optional<QString> scriptSoFar(const QString &file)
     return script;
 }
 
+/** A value's name as the registry has it, of the one that its key lists: slashes and backslashes change places. */
+QString exactName(QString name)
+{
+    for (QChar &unit : name)
+        unit = unit == u'\\' ? u'/' : unit == u'/' ? u'\\' : unit;
+    return name;
+}
+
 /** As the registry editor writes its own, so that it reads any name. */
 bool writeScript(QString script)
 {
@@ -48,13 +56,14 @@ QString runBackupFile()
 
 bool backUpRunValue(const QString &key, const QString &name)
 {
+    const QString exact = exactName(name);
     const QList<RegistryValue> values = platform().registryValues(key);
-    const auto value = std::find_if(values.cbegin(), values.cend(), [&name](const RegistryValue &each) {
-        return each.name.compare(name, Qt::CaseInsensitive) == 0;
+    const auto value = std::find_if(values.cbegin(), values.cend(), [&exact](const RegistryValue &each) {
+        return each.name.compare(exact, Qt::CaseInsensitive) == 0;
     });
     if (value == values.cend())
         return true;
-    if (!fitsRegistryScript(name))
+    if (!fitsRegistryScript(exact))
         return false;
     const QString file = runBackupFile();
     const std::optional<QString> script = scriptSoFar(file);
