@@ -2,7 +2,6 @@
 
 #include "registryscript.h"
 
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
