@@ -115,6 +115,26 @@ QStringList each(const QString &line, const QStringList &names)
     return lines;
 }
 
+constexpr const char *optimizingVariable = "KESTRUNE_OPTIMIZE_UNTIL_ENDED";
+
+/** Clicks Analyze and Optimize, and waits for its end, which comes from elsewhere. */
+std::optional<int> optimizeUntilEnded(int argc, char **argv)
+{
+    if (!qEnvironmentVariableIsSet(optimizingVariable))
+        return std::nullopt;
+    QApplication application(argc, argv);
+    const TrialPc pc;
+    const WindowDriver driver;
+    const auto isAnalyzed = [&driver] { return driver.status().startsWith("Services:"_L1); };
+    driver.click(u"btnAutomatizerAnalyze"_s);
+    if (!QTest::qWaitFor(isAnalyzed, longPatience))
+        return 1;
+    driver.click(u"btnAutomatize"_s);
+    return QApplication::exec();
+}
+
+const SuiteHelper optimizing(optimizeUntilEnded);
+
 /** A phase of the log, after which an empty line stands. */
 QStringList phase(const QStringList &lines)
 {
@@ -134,6 +154,7 @@ private Q_SLOTS:
     void analyzeFindsWhatIsNeedless();
     void optimizeTakesItAway();
     void restoreBringsItBack();
+    void restoreBringsBackWhatAKilledOptimizeTook();
 
 private:
     void layPrograms() const;
@@ -355,6 +376,39 @@ void TestRealAutomatizer::restoreBringsItBack()
                                   {u"/set"_s, u"disabledynamictick"_s, u"No"_s}};
     QCOMPARE(commandsOf(u"bcdedit"_s), isWindows11Pc() ? boot : QList<QStringList>());
     QCOMPARE(commandsOf(u"icacls"_s), QList<QStringList>(1, {searchProgram(u".exe"_s), u"/reset"_s}));
+}
+
+void TestRealAutomatizer::restoreBringsBackWhatAKilledOptimizeTook()
+{
+    driver_.reset();
+    emptyKey(settingsKey);
+    platform().openKey(settingsKey)->setValue(u"Keep_1"_s, 0); // printer
+    pc_->startServices(runningServices);
+
+    QProcess other;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QString::fromLatin1(optimizingVariable), u"1"_s);
+    other.setProcessEnvironment(environment);
+    other.start(QCoreApplication::applicationFilePath(), QStringList());
+    QVERIFY(other.waitForStarted());
+    QVERIFY(QTest::qWaitFor([] { return !recordedNames(u"SVC"_s).isEmpty(); }, 2 * longPatience));
+    other.kill();
+    QVERIFY(other.waitForFinished());
+    const QStringList recorded = recordedNames(u"SVC"_s);
+    for (const QString &service : recorded)
+        QCOMPARE(startModeOf(service), 4);
+    QCOMPARE(valueOf(settingsKey, u"optimizeBegun"_s).toInt(), 1);
+    QCOMPARE(valueOf(settingsKey, u"optimized"_s).toInt(), 0);
+
+    driver_ = std::make_unique<WindowDriver>();
+    QVERIFY(QTest::qWaitForWindowExposed(&driver_->window()));
+    const Boxes boxes({QMessageBox::Yes, QMessageBox::No});
+    driver_->click(u"btnAutomatizerRestore"_s);
+    QVERIFY(waitFor(u"Restoration finished"_s));
+    for (const QString &service : recorded)
+        QCOMPARE(startModeOf(service), 2);
+    QCOMPARE(recordedNames(u"SVC"_s), QStringList());
+    QVERIFY(!platform().openKey(settingsKey)->contains(u"optimizeBegun"_s));
 }
 
 KESTRUNE_WINDOW_SUITE(TestRealAutomatizer)
