@@ -133,6 +133,8 @@ void TestRehearseAutomatizer::programsThatDoNotComeBackAreNamed_data()
 {
     addColumns<QStringList, QByteArray>("names", "output");
     QTest::newRow("one of two") << QStringList{u"Bare"_s, u"Quoted"_s} << QByteArray("\nnot brought back\tBare\n");
+    QTest::newRow("one of two whose name parts")
+        << QStringList{u"ATI\\Bare"_s, u"ATI\\Quoted"_s} << QByteArray("\nnot brought back\tATI\\Bare\n");
     QTest::newRow("a single one") << QStringList{u"Quoted"_s} << QByteArray("\nnot brought back\tQuoted\n");
 }
 
@@ -144,8 +146,9 @@ void TestRehearseAutomatizer::programsThatDoNotComeBackAreNamed()
     machine.write(settingsKey, u"optimized"_s, 1);
     machine.addFile(u"C:\\a.exe"_s);
     for (const QString &name : names) {
-        const QString command = name == "Quoted"_L1 ? u"\"C:\\a.exe\""_s : u"C:\\a.exe"_s;
-        machine.write(autorunRecordsKey, name, command + u'=' + userRunKey + u'\\' + name);
+        const QString command = name.endsWith("Quoted"_L1) ? u"\"C:\\a.exe\""_s : u"C:\\a.exe"_s;
+        machine.write(autorunRecordsKey, QString(name).replace(u'\\', u'/'),
+                      command + u'=' + userRunKey + u'\\' + name);
     }
     const Ended ended = runOn(machine, {u"restore"_s, u"--no-features"_s});
     QCOMPARE(ended.exitCode, done);

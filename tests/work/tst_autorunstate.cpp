@@ -43,6 +43,8 @@ private Q_SLOTS:
     void recordHoldsTheCommandAsItWasHandedOver();
     void removedValueIsKeptExactly_data();
     void removedValueIsKeptExactly();
+    void removedValueIsKeptByTheRegistrysName_data();
+    void removedValueIsKeptByTheRegistrysName();
     void removedValuesAreAddedInTheirOrder();
     void aValueIsAddedOnce();
     void aValueThatCannotBeKeptStays_data();
@@ -149,6 +151,28 @@ void TestAutorunState::removedValueIsKeptExactly()
     const QList<RegistryEdit> edits = parseRegistryScript(readFile(runBackupFile()), u"Run.reg"_s);
     QCOMPARE(edits.size(), 2);
     QCOMPARE(edits.last().key, machineRunKey32);
+    QCOMPARE(edits.last().value, value);
+}
+
+void TestAutorunState::removedValueIsKeptByTheRegistrysName_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"ATI/AMD Tray", "ATI\\AMD Tray", "/", "\\", "a/b\\c"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TestAutorunState::removedValueIsKeptByTheRegistrysName()
+{
+    QFETCH(const QString, name);
+    const TestMachine machine;
+    const RegistryValue value{name, RegistryType::ExpandString, registryText(u"\"%windir%\\a.exe\" x=1"_s)};
+    machine.machine().registry().setValue(*machine.machine().registry().make(userRunKey), value);
+    const QList<AutorunRow> rows = autorunRows();
+    QCOMPARE(rows.size(), 1);
+    disableAutorun(autorunEntry(rows.first()));
+    QCOMPARE(machine.names(userRunKey), QStringList());
+    const QList<RegistryEdit> edits = parseRegistryScript(readFile(runBackupFile()), u"Run.reg"_s);
+    QCOMPARE(edits.size(), 2);
     QCOMPARE(edits.last().value, value);
 }
 

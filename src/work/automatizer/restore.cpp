@@ -24,6 +24,12 @@ QString runKey(const QString &path, const QString &name)
     return path.left(path.indexOf(u'\\' + name));
 }
 
+/** Where a record's Run value was. */
+RunValue runValueOf(const QString &path, const QString &name)
+{
+    return hasPartedName(path) ? runValueAt(path) : RunValue{runKey(path, name), name};
+}
+
 /** Brings back what a record of the start-up names. False for a record that names nothing. */
 bool bringBack(const QString &name, const QString &record)
 {
@@ -33,10 +39,8 @@ bool bringBack(const QString &name, const QString &record)
     const QString &path = parts.at(1);
     if (path.isEmpty())
         enablePackagedTask(parts.first());
-    else if (hasPartedName(path))
-        enableRunValue(runValueAt(path), parts.first());
     else
-        enableRunValue({runKey(path, name), name}, parts.first());
+        enableRunValue(runValueOf(path, name), parts.first());
     return true;
 }
 
@@ -47,9 +51,10 @@ bool isSwitchedOn(const QString &task)
 }
 
 /** Whether a Run value is there; its command goes as far as records do. */
-bool isThere(const QString &key, const QString &name, const QString &command)
+bool isThere(const RunValue &run, const QString &command)
 {
-    const QList<RegistryValue> values = platform().registryValues(key);
+    const QString name = registryName(run.name);
+    const QList<RegistryValue> values = platform().registryValues(run.key);
     return std::any_of(values.cbegin(), values.cend(), [&](const RegistryValue &value) {
         return value.name.compare(name, Qt::CaseInsensitive) == 0 && textOf(value.data).section(u'=', 0, 0) == command;
     });
@@ -63,11 +68,11 @@ QStringList programsNotBroughtBack()
     const auto records = openRecords(u"Autorun"_s);
     QStringList missing;
     for (const QString &name : recordedNames(u"Autorun"_s)) {
-        const QStringList parts = records->value(name).toString().split(u'=');
+        const QStringList parts = records->ownValue(name).toString().split(u'=');
         if (parts.size() < 2 || distrusted.contains(u"Autorun\\"_s + name))
             continue;
         if (!(parts.at(1).isEmpty() ? isSwitchedOn(parts.first())
-                                    : isThere(runKey(parts.at(1), name), name, parts.first())))
+                                    : isThere(runValueOf(parts.at(1), name), parts.first())))
             missing.append(name);
     }
     return missing;

@@ -87,6 +87,14 @@ RunValue runValueAt(const QString &path)
     return {path.left(path.lastIndexOf(u'\\')), shownAutorun(path)};
 }
 
+QString registryName(const QString &listed)
+{
+    QString name = listed;
+    for (QChar &unit : name)
+        unit = unit == u'/' ? u'\\' : unit == u'\\' ? u'/' : unit;
+    return name;
+}
+
 bool hasPartedName(const QString &path)
 {
     const RunValue value = runValueAt(path);

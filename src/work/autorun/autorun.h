@@ -33,6 +33,8 @@ struct RunValue
     QString name; ///< names the record too
 };
 RunValue runValueAt(const QString &path);
+/** The name that the registry itself has for what a key lists: there "/" and a backslash stand for each other. */
+QString registryName(const QString &listed);
 /** Whether a path is that of a Run value whose name holds what parts keys. It is no packaged task, whatever its end. */
 bool hasPartedName(const QString &path);
 

@@ -31,14 +31,6 @@ std::optional<QString> scriptSoFar(const QString &file)
     return script;
 }
 
-/** A value's name as the registry has it, of the one that its key lists: slashes and backslashes change places. */
-QString exactName(QString name)
-{
-    for (QChar &unit : name)
-        unit = unit == u'\\' ? u'/' : unit == u'/' ? u'\\' : unit;
-    return name;
-}
-
 /** As the registry editor writes its own, so that it reads any name. */
 bool writeScript(QString script)
 {
@@ -56,7 +48,7 @@ QString runBackupFile()
 
 bool backUpRunValue(const QString &key, const QString &name)
 {
-    const QString exact = exactName(name);
+    const QString exact = registryName(name);
     const QList<RegistryValue> values = platform().registryValues(key);
     const auto value = std::find_if(values.cbegin(), values.cend(), [&exact](const RegistryValue &each) {
         return each.name.compare(exact, Qt::CaseInsensitive) == 0;
