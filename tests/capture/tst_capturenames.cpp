@@ -698,6 +698,8 @@ void TestCaptureNames::rehearsalIsTheSame()
                 parts.append(item[part].toString());
             items.append(names.text(parts.join(u" | "_s)).toLower().replace(account, u"1000000000"_s));
         }
+        // The copies of removed programs are as long as their commands, and those are cut.
+        items.removeIf([](const QString &item) { return item.contains(u"log and backups"_s); });
         // By name, which sorts otherwise when it is another.
         items.sort();
         return items;

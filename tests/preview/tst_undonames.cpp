@@ -189,15 +189,16 @@ void TestUndoNames::noForeignCommandIsWritten()
     }
 }
 
-/** A value among what starts at logon, which Optimize takes out. */
+/** A task that Optimize disables, by a name that a command prompt would take for a variable's. */
 void TestUndoNames::whatIsLeftOutIsPrinted()
 {
     SmallMachine machine;
-    setText(*machine, WindowsKey::userRun, u"a\n[-HKEY_LOCAL_MACHINE]\nb"_s, u"C:\\x.exe"_s);
+    machine->setTask({u"\\OneDrive Standalone Update Task-%TEMP%"_s,
+                      u"<Task><RegistrationInfo><URI>\\OneDrive Standalone Update Task-%TEMP%</URI></RegistrationInfo>"
+                      "<Settings></Settings></Task>"_s});
     const Ended ended = rehearse({u"preview"_s, machine.folder(), u"--undo"_s, machine.beside(u"undo.reg"_s)});
     QVERIFY2(ended.exitCode == done, ended.errors.constData());
-    QVERIFY2(ended.output.contains("left out: registry " + WindowsKey::userRun.toUtf8()
-                                   + ": a\\n[-HKEY_LOCAL_MACHINE]\\nb\n"),
+    QVERIFY2(ended.output.contains("left out: task \\OneDrive Standalone Update Task-%TEMP%\n"),
              ended.output.constData());
 }
 
