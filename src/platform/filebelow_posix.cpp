@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -87,10 +88,12 @@ bool writeNew(const Descriptor &folder, const QByteArray &name, const QByteArray
     return false;
 }
 
-bool isThere(const Place &place)
+/** What is there, which may be a link; nothing where nothing is. */
+std::optional<struct stat> whatIsThere(const Place &place)
 {
     struct stat found;
-    return fstatat(place.folder.get(), place.name.constData(), &found, AT_SYMLINK_NOFOLLOW) == 0;
+    const int result = fstatat(place.folder.get(), place.name.constData(), &found, AT_SYMLINK_NOFOLLOW);
+    return result == 0 ? std::optional(found) : std::nullopt;
 }
 
 } // namespace
@@ -103,13 +106,16 @@ bool writeFileBelow(const QString &folder, const QString &name, const QByteArray
         unlinkat(at, place.name.constData(), 0);
         return writeNew(place.folder, place.name, content);
     }
-    if (ifThere == IfThere::Keep && isThere(place))
+    const std::optional<struct stat> former = whatIsThere(place);
+    if (ifThere == IfThere::Keep && former)
         return false;
     // Under another name until it is whole
     const QByteArray making = place.name + ".new";
     unlinkat(at, making.constData(), 0);
     if (!writeNew(place.folder, making, content))
         return false;
+    if (former && S_ISREG(former->st_mode))
+        fchmodat(at, making.constData(), former->st_mode & 07777, 0);
     const unsigned int flags = ifThere == IfThere::Keep ? RENAME_NOREPLACE : 0;
     if (renameat2(at, making.constData(), at, place.name.constData(), flags) == 0)
         return true;

@@ -80,7 +80,7 @@ struct AdmittedProgram
 /** What becomes of a file that is there already where one is to be written. */
 enum class IfThere {
     Replace,  ///< it goes first; a link of that name goes, and not what it leads to
-    Exchange, ///< it goes likewise, but only when the new one is whole
+    Exchange, ///< it goes likewise, but only when the new one is whole, which has its rights then
     Keep,     ///< it stays, whatever it is
 };
 

@@ -242,6 +242,12 @@ void TestFileBelow::exchangedFileIsWhole()
     QVERIFY(writeFile(u"file"_s, "second", IfThere::Exchange));
     QCOMPARE(read(at(u"file"_s)), QByteArray("second"));
     QCOMPARE(names(), QStringList(u"file"_s));
+    // It has the rights of the old one.
+    constexpr auto rights = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    QVERIFY(QFile::setPermissions(at(u"file"_s), rights));
+    const QFile::Permissions former = QFile::permissions(at(u"file"_s));
+    QVERIFY(writeFile(u"file"_s, "second", IfThere::Exchange));
+    QCOMPARE(QFile::permissions(at(u"file"_s)), former);
     // Where the new one can't be made, the old one stays.
     QVERIFY(QDir(folder_->path()).mkdir(u"file.new"_s));
     QVERIFY(!writeFile(u"file"_s, "third", IfThere::Exchange));

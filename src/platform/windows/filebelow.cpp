@@ -110,6 +110,20 @@ bool writeNew(const QString &path, const QByteArray &content)
     return false;
 }
 
+/** Gives a file that is whole its own name. */
+bool moveTo(const QString &file, const QString &path, IfThere ifThere)
+{
+    if (ifThere == IfThere::Keep)
+        return MoveFileExW(wide(file), wide(path), 0);
+    // The system's own exchange keeps the rights of a file, and would go through a link.
+    const Handle former = validHandle(CreateFileW(wide(path), FILE_READ_ATTRIBUTES,
+                                                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                                  OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    if (former && isAt(former.get(), path, false))
+        return ReplaceFileW(wide(path), wide(file), nullptr, 0, nullptr, nullptr);
+    return MoveFileExW(wide(file), wide(path), MOVEFILE_REPLACE_EXISTING);
+}
+
 } // namespace
 
 bool writeFileBelow(const QString &folder, const QString &name, const QByteArray &content, IfThere ifThere)
@@ -128,7 +142,7 @@ bool writeFileBelow(const QString &folder, const QString &name, const QByteArray
     DeleteFileW(wide(making));
     if (!writeNew(making, content))
         return false;
-    if (MoveFileExW(wide(making), wide(place.path), ifThere == IfThere::Keep ? 0 : MOVEFILE_REPLACE_EXISTING))
+    if (moveTo(making, place.path, ifThere))
         return true;
     DeleteFileW(wide(making));
     return false;

@@ -8,7 +8,7 @@
 #include "work/settings.h"
 
 #include <QFile>
-#include <QSaveFile>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -26,13 +26,6 @@ QString configFile()
 bool isEncoder(const QString &process)
 {
     return process == "EncoderServer.exe"_L1 || process == "EncoderServer64.exe"_L1;
-}
-
-/** Writes a file as a whole or not at all, with the rights that it has. */
-bool writeWhole(const QString &file, const QByteArray &bytes)
-{
-    QSaveFile whole(file);
-    return whole.open(QIODevice::WriteOnly) && whole.write(bytes) == bytes.size() && whole.commit();
 }
 
 /** Handled as bytes, since the file's code page is unknown. */
@@ -72,7 +65,8 @@ void Automatizer::optimizeEncoder()
 
     const QByteArray config = withEncoderOff(file.readAll());
     file.close();
-    if (!writeWhole(file.fileName(), config))
+    const QFileInfo place(file.fileName());
+    if (!platform().writeFile(place.path(), place.fileName(), config, IfThere::Exchange))
         LogError(u"optimizeEncoder: "_s + file.fileName() + u" can't be written"_s);
     report(WorkThread::tr("Process: disable EncoderServer done"));
     reportBreak();
