@@ -216,7 +216,8 @@ void TestListStory::programsAreSwitchedOffAndOn()
     driver.click(u"btnAutorun"_s);
     QCOMPARE(driver.table(table)->rowCount(), 0);
     QCOMPARE(driver.status(), u"Autorun: 0  |  disabled: %1  "_s.arg(listed.size()));
-    QCOMPARE(pair.differences(), sorted(expected));
+    const QString copies = u"file program\\backup_autorun\\Run.reg"_s;
+    QCOMPARE(pair.differences(), sorted(expected + QStringList{copies}));
 
     driver.click(u"btnAutorunViewDisabled"_s);
     QCOMPARE(driver.column(table, 0), sorted(listed));
@@ -224,7 +225,8 @@ void TestListStory::programsAreSwitchedOffAndOn()
     QCOMPARE(sorted(driver.column(table, 0)), sorted(comeBack));
     QCOMPARE(recordedNames(u"Autorun"_s), QStringList());
     for (const QString &difference : pair.differences())
-        QVERIFY2(lost.contains(difference) || shortened.contains(difference), qPrintable(difference));
+        QVERIFY2(lost.contains(difference) || shortened.contains(difference) || difference == copies,
+                 qPrintable(difference));
 }
 
 KESTRUNE_WINDOW_SUITE(TestListStory)
