@@ -8,6 +8,8 @@
 
 #include <QDir>
 
+#include <aclapi.h>
+
 #include <utility>
 #include <vector>
 
@@ -110,17 +112,35 @@ bool writeNew(const QString &path, const QByteArray &content)
     return false;
 }
 
+Handle openItself(const QString &path, DWORD access)
+{
+    return validHandle(CreateFileW(wide(path), access | FILE_READ_ATTRIBUTES,
+                                   FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                   FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+}
+
+/** Gives a file the access list of another one, unless that is a link; where it can't, it keeps its folder's. */
+void copyRights(const QString &from, const QString &to)
+{
+    const Handle former = openItself(from, READ_CONTROL);
+    const Handle file = openItself(to, WRITE_DAC);
+    PACL rights = nullptr;
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    if (!former || !file || !isAt(former.get(), from, false) || !isAt(file.get(), to, false)
+        || GetSecurityInfo(former.get(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, &rights, nullptr,
+                           &descriptor)
+               != ERROR_SUCCESS)
+        return;
+    SetSecurityInfo(file.get(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, rights, nullptr);
+    LocalFree(descriptor);
+}
+
 /** Gives a file that is whole its own name. */
 bool moveTo(const QString &file, const QString &path, IfThere ifThere)
 {
     if (ifThere == IfThere::Keep)
         return MoveFileExW(wide(file), wide(path), 0);
-    // The system's own exchange keeps the rights of a file, and would go through a link.
-    const Handle former = validHandle(CreateFileW(wide(path), FILE_READ_ATTRIBUTES,
-                                                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                                  OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
-    if (former && isAt(former.get(), path, false))
-        return ReplaceFileW(wide(path), wide(file), nullptr, 0, nullptr, nullptr);
+    copyRights(path, file);
     return MoveFileExW(wide(file), wide(path), MOVEFILE_REPLACE_EXISTING);
 }
 
