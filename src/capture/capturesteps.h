@@ -27,7 +27,7 @@ struct CaptureKey
 /** All keys but those of network interfaces and display adapters, which go by rules of their own. */
 QList<CaptureKey> captureKeys();
 
-/** The part of a captured key's path, and the values of that key, that bear the program's own names for them. */
+/** The part of a captured key's path, and the values of that key, that have the program's own names. */
 struct CapturedPlace
 {
     QString key;
