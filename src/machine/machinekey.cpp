@@ -4,6 +4,7 @@
 #include "machinekey.h"
 
 #include "machineerror.h"
+#include "platform/registryplace.h"
 
 #include <algorithm>
 
@@ -21,41 +22,6 @@ constexpr QStringView hiveNames[] = {
 bool beginsWithHive(QStringView path, QStringView hive)
 {
     return path.startsWith(hive) && (path.size() == hive.size() || path.at(hive.size()) == u'\\');
-}
-
-/** Slashes and backslashes change their parts between a name here and one in the registry. */
-QString swapSlashes(QString name)
-{
-    for (QChar &unit : name) {
-        if (unit == u'\\')
-            unit = u'/';
-        else if (unit == u'/')
-            unit = u'\\';
-    }
-    return name;
-}
-
-/** Without the slashes at both ends, and one where there are several. */
-QString normalised(const QString &name)
-{
-    return name.split(u'/', Qt::SkipEmptyParts).join(u'/');
-}
-
-/** A name as the registry has it: the path of the key, and the value's name in it. */
-struct Place
-{
-    QString key;
-    QString name;
-};
-
-Place placeOf(const QString &name)
-{
-    const QString path = swapSlashes(name);
-    const qsizetype end = path.lastIndexOf(u'\\');
-    Place place{path.left(std::max<qsizetype>(end, 0)), path.mid(end + 1)};
-    if (place.name == u"Default" || place.name == u".")
-        place.name.clear();
-    return place;
 }
 
 /** Lists show the unnamed value as ".". */
@@ -113,7 +79,7 @@ std::optional<KeyId> MachineKey::currentGroup() const
 
 std::optional<RegistryValue> MachineKey::read(const QString &name) const
 {
-    const Place place = placeOf(prefix_ + normalised(name));
+    const RegistryPlace place = registryPlaceOf(prefix_ + normalisedName(name));
     std::optional<KeyId> key = base();
     if (key)
         key = store_.find(*key, place.key);
@@ -141,7 +107,7 @@ void MachineKey::setValue(const QString &name, const QVariant &value)
         const std::optional<KeyId> key = base();
         if (!key || !writable_)
             return;
-        const Place place = placeOf(prefix_ + normalised(name));
+        const RegistryPlace place = registryPlaceOf(prefix_ + normalisedName(name));
         store_.setValue(store_.make(*key, place.key), registryValueOf(place.name, value));
     });
 }
@@ -152,11 +118,11 @@ void MachineKey::remove(const QString &name)
         const std::optional<KeyId> key = base();
         if (!key || !writable_)
             return;
-        const QString below = normalised(name);
+        const QString below = normalisedName(name);
         if (below.isEmpty())
             return;
         const QString full = prefix_ + below;
-        const Place place = placeOf(full);
+        const RegistryPlace place = registryPlaceOf(full);
         if (const std::optional<KeyId> parent = store_.find(*key, place.key))
             store_.removeValue(*parent, place.name);
         if (const std::optional<KeyId> subkey = store_.find(*key, swapSlashes(full)))
@@ -222,7 +188,7 @@ QStringList MachineKey::childGroups() const
 
 void MachineKey::beginGroup(const QString &name)
 {
-    groups_ << normalised(name);
+    groups_ << normalisedName(name);
     if (!groups_.constLast().isEmpty())
         prefix_ += groups_.constLast() + u'/';
 }

@@ -37,10 +37,16 @@ public:
     }
     quint32 fileAttributes(const QString &file) const override { return inner_->fileAttributes(file); }
     void setFileAttributes(const QString &file, quint32 word) const override { inner_->setFileAttributes(file, word); }
-    QString programFile(const QString &program) const override { return inner_->programFile(program); }
-    std::optional<AdmittedProgram> admitProgram(const QString &program) const override
+    void setAllFileAttributes(const QList<FileAttributes> &files) const override
     {
-        return inner_->admitProgram(program);
+        inner_->setAllFileAttributes(files);
+    }
+    bool renameFile(const QString &from, const QString &to) const override { return inner_->renameFile(from, to); }
+    bool removeFile(const QString &file) const override { return inner_->removeFile(file); }
+    QString programFile(const QString &program) const override { return inner_->programFile(program); }
+    std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &arguments) const override
+    {
+        return inner_->admitProgram(program, arguments);
     }
     int exitCode(qint64 processId, int reported) const override { return inner_->exitCode(processId, reported); }
     bool isElevated() const override { return inner_->isElevated(); }
@@ -67,6 +73,12 @@ public:
     quint64 freeMemory() const override { return inner_->freeMemory(); }
     RootDrive rootDrive() const override { return inner_->rootDrive(); }
     void pause(int milliseconds) const override { inner_->pause(milliseconds); }
+    void beginChanges(const QString &what) const override { inner_->beginChanges(what); }
+    void endChanges(bool finished) const override { inner_->endChanges(finished); }
+    QString takeFailure() const override { return inner_->takeFailure(); }
+
+protected:
+    Platform &inner() const { return *inner_; }
 
 private:
     std::unique_ptr<Platform> inner_;

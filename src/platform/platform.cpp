@@ -2,6 +2,10 @@
 
 #include "platform.h"
 
+#include <QFile>
+
+#include <exception>
+
 #ifdef Q_OS_WIN
 #include <windows.h>
 #else
@@ -33,4 +37,40 @@ quint32 lastSystemError()
 #else
     return static_cast<quint32>(errno);
 #endif
+}
+
+void Platform::setAllFileAttributes(const QList<FileAttributes> &files) const
+{
+    for (const FileAttributes &each : files)
+        setFileAttributes(each.file, each.word);
+}
+
+bool Platform::renameFile(const QString &from, const QString &to) const
+{
+    return QFile::rename(from, to);
+}
+
+bool Platform::removeFile(const QString &file) const
+{
+    return QFile::remove(file);
+}
+
+void Platform::beginChanges(const QString &) const {}
+
+void Platform::endChanges(bool) const {}
+
+QString Platform::takeFailure() const
+{
+    return {};
+}
+
+ChangeSession::ChangeSession(const QString &what)
+    : exceptions_(std::uncaught_exceptions())
+{
+    platform().beginChanges(what);
+}
+
+ChangeSession::~ChangeSession()
+{
+    platform().endChanges(std::uncaught_exceptions() == exceptions_);
 }

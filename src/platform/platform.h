@@ -70,6 +70,13 @@ struct RootDrive
     quint64 freeBytes = 0; ///< 0 also where it is unknown
 };
 
+/** A file and the attribute word that it is to have. */
+struct FileAttributes
+{
+    QString file; ///< host path
+    quint32 word = 0;
+};
+
 /** A program that this process may start. */
 struct AdmittedProgram
 {
@@ -146,6 +153,14 @@ public:
      * lasts at the latest when the walk is over.
      */
     virtual void setFileAttributes(const QString &file, quint32 word) const = 0;
+    /** Changes those of many files together, where that is quicker. */
+    virtual void setAllFileAttributes(const QList<FileAttributes> &files) const;
+
+    // What is changed of files that aren't the program's own, by their host paths. False where it wasn't done.
+
+    /** Gives a file another path, at which nothing may be. */
+    virtual bool renameFile(const QString &from, const QString &to) const;
+    virtual bool removeFile(const QString &file) const;
 
     /** The file to start for a program name, a path, or a path in double quotes; empty where there is no such program.
      */
@@ -154,9 +169,9 @@ public:
      * Whether this process may start a program, named as for programFile(), which finds it. An elevated process starts
      * what lies in the system's own folders, where only an administrator puts something, and otherwise what is signed
      * by Microsoft: what a user's registry and folders name any program of his can have put there. Nothing where it may
-     * not be started.
+     * not be started. To be asked right before the start, with the arguments that it is to be started with.
      */
-    virtual std::optional<AdmittedProgram> admitProgram(const QString &program) const = 0;
+    virtual std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &arguments) const = 0;
     /**
      * The 32-bit exit code of a process of this program that has ended by itself.
      * @param reported what QProcess says of it, which some systems cut to 8 bits
@@ -212,6 +227,31 @@ public:
      * calling QThread is asked to be interrupted.
      */
     virtual void pause(int milliseconds) const = 0;
+
+    /**
+     * Changes that belong together begin and end; @p what names them, in English, for lists of them. May be nested,
+     * and then the outer one counts. For those who take notes of changes; ChangeSession calls both.
+     */
+    virtual void beginChanges(const QString &what) const;
+    /** @param finished false where they were broken off */
+    virtual void endChanges(bool finished) const;
+    /**
+     * Why something wasn't done since the last call that the system itself wouldn't have refused, such as a change that
+     * couldn't be noted; the first reason, in English. Empty where there is none.
+     */
+    virtual QString takeFailure() const;
+};
+
+/** Changes that belong together, as long as the object; they count as finished where it doesn't go by an exception. */
+class ChangeSession
+{
+public:
+    explicit ChangeSession(const QString &what);
+    ~ChangeSession();
+    Q_DISABLE_COPY_MOVE(ChangeSession)
+
+private:
+    int exceptions_;
 };
 
 /** The platform in force. main() sets it before anything else; without one the program ends. */

@@ -71,3 +71,6 @@ inline QString packageNameOf(const QString &fullName)
 {
     return fullName.section(u'_', 0, 0);
 }
+
+/** OneDrive's installer is no package; this name stands for it among them. */
+inline const QString oneDriveName = QStringLiteral("MS OneDrive");

@@ -5,6 +5,7 @@
 #include "kestrune.h"
 
 #include "elevation.h"
+#include "platform/platform.h"
 #include "rowtext.h"
 #include "work/automatizer/records.h"
 #include "work/autorun/autorun.h"
@@ -71,6 +72,7 @@ void Kestrune::switchCheckedAutoruns()
     if (!mayChange(this))
         return;
     const bool disable = ui.btnAutorun->text() == tr("Disable checked programs");
+    const ChangeSession session(disable ? u"Disable programs"_s : u"Enable programs"_s);
     // By the names of their records: one may have changed since it was shown.
     QMap<QString, QString> programs;
     if (!disable) {

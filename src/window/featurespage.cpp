@@ -127,6 +127,7 @@ void Kestrune::on_btnTweakApply_clicked()
 
 void Kestrune::applyTouchedTweaks()
 {
+    const ChangeSession session(u"Apply features"_s);
     for (const TweakBox &box : tweakBoxes()) {
         const QCheckBox *check = checkBoxOf(box);
         if (touchedBoxes.contains(check) && holds(box.apply, *workThread))

@@ -5,6 +5,7 @@
 
 #include "elevation.h"
 #include "messagebox.h"
+#include "platform/platform.h"
 #include "rowtext.h"
 #include "work/automatizer/records.h"
 #include "work/command.h"
@@ -261,6 +262,7 @@ void Kestrune::setServiceStart(const QString &argument)
         if (item->toolTip().contains(u':'))
             names.append(nameFromToolTip(item->toolTip()));
     }
+    const ChangeSession session(u"Start of services"_s);
     for (const QString &name : names) {
         runTool(u"sc"_s, {u"config"_s, name, argument});
         refreshPage();

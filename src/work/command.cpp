@@ -46,7 +46,7 @@ void Command::start(const QString &program, const QStringList &arguments)
         startError_ = u"Process failed to start: The system cannot find the file specified."_s;
         return;
     }
-    const std::optional<AdmittedProgram> admitted = platform().admitProgram(program);
+    const std::optional<AdmittedProgram> admitted = platform().admitProgram(program, arguments);
     refused_ = !admitted;
     if (refused_)
         return;

@@ -7,6 +7,37 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/** What a job that changes something is called in lists of changes; empty for one that only looks. */
+QString changesOf(int job)
+{
+    switch (job) {
+    case JobPackageSetState:
+        return u"Packages"_s;
+    case JobTaskStopOrStart:
+        return u"Tasks"_s;
+    case JobAutomatizerAnalyze:
+        return u"Analyze"_s;
+    case JobAutomatizerOptimize:
+        return u"Optimize"_s;
+    case JobAutomatizerRestore:
+        return u"Restore"_s;
+    case JobSvcDisable:
+        return u"Disable services"_s;
+    case JobSvcEnable:
+        return u"Enable services"_s;
+    case JobTweakApply:
+        return u"Content indexing off"_s;
+    case JobTweakReset:
+        return u"Content indexing on"_s;
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
 void WorkThread::startJob(int number)
 {
     job = number;
@@ -28,6 +59,9 @@ void WorkThread::run()
 {
     runOfThread_ = run_;
     try {
+        // The others change nothing by themselves.
+        const QString what = changesOf(job);
+        const auto session = what.isEmpty() ? nullptr : std::make_unique<ChangeSession>(what);
         runJob(job);
     } catch (const JobInterrupted &) {
         // Whoever ended the job knows; there is nobody to tell.

@@ -376,9 +376,9 @@ void TestPlatform::unsignedProgramsAreNotForElevatedProcesses()
         for (const QString &spelling :
              {setup, u'"' + setup + u'"', setup.toUpper(), u"C:/Users/Test/OneDriveSetup.exe"_s}) {
             QVERIFY(!platform().programFile(spelling).isEmpty());
-            QCOMPARE(platform().admitProgram(spelling).has_value(), !elevated);
+            QCOMPARE(platform().admitProgram(spelling, {}).has_value(), !elevated);
         }
-        const std::optional<AdmittedProgram> sc = platform().admitProgram(u"sc"_s);
+        const std::optional<AdmittedProgram> sc = platform().admitProgram(u"sc"_s, {});
         QVERIFY(sc);
         QCOMPARE(sc->file, platform().programFile(u"sc"_s));
     }
@@ -386,7 +386,7 @@ void TestPlatform::unsignedProgramsAreNotForElevatedProcesses()
     MachineOptions options;
     options.stockTool = QCoreApplication::applicationFilePath();
     contract_->restart(options);
-    QCOMPARE(platform().admitProgram(setup)->file, platform().programFile(setup));
+    QCOMPARE(platform().admitProgram(setup, {})->file, platform().programFile(setup));
 }
 
 void TestPlatform::programsNeverComeFromTheHost()

@@ -50,7 +50,7 @@ void TestAdmission::systemsOwnAreStarted_data()
 void TestAdmission::systemsOwnAreStarted()
 {
     QFETCH(const QString, program);
-    const std::optional<AdmittedProgram> admitted = platform().admitProgram(program);
+    const std::optional<AdmittedProgram> admitted = platform().admitProgram(program, {});
     QVERIFY(admitted);
     const QString folder = admitted->file.section(u'\\', 0, -2).toLower();
     QVERIFY2(folder == u"c:\\windows\\system32" || folder == u"c:\\windows\\system32\\windowspowershell\\v1.0",
@@ -81,8 +81,9 @@ void TestAdmission::unsignedOnesAreRefused()
     const QString program = folder + u'\\' + name;
     QVERIFY(QFile::copy(exitWith(), program));
     const bool found = !platform().programFile(program).isEmpty();
-    const bool admitted = platform().admitProgram(program).has_value();
-    const bool roundabout = platform().admitProgram(u"C:\\Windows\\System32\\..\\.."_s + program.sliced(2)).has_value();
+    const bool admitted = platform().admitProgram(program, {}).has_value();
+    const bool roundabout =
+        platform().admitProgram(u"C:\\Windows\\System32\\..\\.."_s + program.sliced(2), {}).has_value();
     QVERIFY(QFile::remove(program));
     QVERIFY(found);
     QVERIFY(!admitted && !roundabout);

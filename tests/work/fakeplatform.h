@@ -52,7 +52,7 @@ public:
     quint32 fileAttributes(const QString &) const override { return invalidAttributes; }
     void setFileAttributes(const QString &, quint32) const override {}
     QString programFile(const QString &) const override { return {}; }
-    std::optional<AdmittedProgram> admitProgram(const QString &program) const override
+    std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &) const override
     {
         return AdmittedProgram{program, {}};
     }

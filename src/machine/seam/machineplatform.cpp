@@ -169,6 +169,12 @@ void MachinePlatform::setFileAttributes(const QString &file, quint32 word) const
     attributes_.write(file, word);
 }
 
+void MachinePlatform::setAllFileAttributes(const QList<FileAttributes> &files) const
+{
+    const AttributeWords::Walk together(attributes_);
+    Platform::setAllFileAttributes(files);
+}
+
 QString MachinePlatform::programFile(const QString &program) const
 {
     return guarded(QString(), [&] { return resolvedProgram(withoutQuotes(program)); });
@@ -191,7 +197,7 @@ QString MachinePlatform::resolvedProgram(const QString &program) const
     return QFileInfo(file).isFile() ? file : QString();
 }
 
-std::optional<AdmittedProgram> MachinePlatform::admitProgram(const QString &program) const
+std::optional<AdmittedProgram> MachinePlatform::admitProgram(const QString &program, const QStringList &) const
 {
     const QString path = withoutQuotes(program);
     if (options_.elevated && !isBareName(path) && guarded(true, [&] { return machine_->isUnsigned(path); }))

@@ -51,8 +51,9 @@ public:
     void walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const override;
     quint32 fileAttributes(const QString &file) const override;
     void setFileAttributes(const QString &file, quint32 word) const override;
+    void setAllFileAttributes(const QList<FileAttributes> &files) const override;
     QString programFile(const QString &program) const override;
-    std::optional<AdmittedProgram> admitProgram(const QString &program) const override;
+    std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &arguments) const override;
     int exitCode(qint64 processId, int reported) const override;
     bool isElevated() const override;
     std::shared_ptr<void> lockOthersOut() const override;

@@ -179,7 +179,7 @@ QString WindowsPlatform::programFile(const QString &program) const
     return {};
 }
 
-std::optional<AdmittedProgram> WindowsPlatform::admitProgram(const QString &program) const
+std::optional<AdmittedProgram> WindowsPlatform::admitProgram(const QString &program, const QStringList &) const
 {
     const QString file = programFile(program);
     if (!isElevated())

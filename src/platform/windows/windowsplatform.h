@@ -22,7 +22,7 @@ public:
     quint32 fileAttributes(const QString &file) const override;
     void setFileAttributes(const QString &file, quint32 word) const override;
     QString programFile(const QString &program) const override;
-    std::optional<AdmittedProgram> admitProgram(const QString &program) const override;
+    std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &arguments) const override;
     int exitCode(qint64 processId, int reported) const override;
     bool isElevated() const override;
     std::shared_ptr<void> lockOthersOut() const override;

@@ -3,11 +3,10 @@
 
 #pragma once
 
+#include "platform/windowsfacts.h"
+
 #include <QString>
 #include <QStringList>
-
-/** OneDrive's installer is no package; this row stands for it. */
-inline const QString oneDriveName = QStringLiteral("MS OneDrive");
 
 /** The name under which the page records the old Xbox app: with its remark, in the user's language. */
 QString oldXboxAppRecord();

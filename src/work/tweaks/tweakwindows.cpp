@@ -84,21 +84,21 @@ void disable(const SearchProgram &program)
         return;
     // A copy that was disabled earlier; an update has put a new program beside it.
     if (const QString former = hostFile("WinDir", program.disabledFile); QFile::exists(former))
-        QFile::remove(former);
+        platform().removeFile(former);
     const QString file = qEnvironmentVariable("windir") + program.file;
     const QString user = qEnvironmentVariable("USERDOMAIN") + u'\\' + qEnvironmentVariable("USERNAME");
     // The rights first: the rename must come right after the kill, since the system starts the program anew.
     runTool(u"takeown"_s, {u"/f"_s, file});
     runTool(u"icacls"_s, {file, u"/grant:r"_s, user + u":F"_s, u"/L"_s});
     runTool(u"taskkill"_s, {u"/im"_s, program.process, u"/f"_s, u"/t"_s});
-    QFile::rename(hostFile("windir", program.file), hostFile("windir", program.disabledFile));
+    platform().renameFile(hostFile("windir", program.file), hostFile("windir", program.disabledFile));
 }
 
 void enable(const SearchProgram &program)
 {
     if (!QFile::exists(hostFile("WinDir", program.disabledFile)))
         return;
-    QFile::rename(hostFile("windir", program.disabledFile), hostFile("windir", program.file));
+    platform().renameFile(hostFile("windir", program.disabledFile), hostFile("windir", program.file));
     // The owner stays who it is.
     runTool(u"icacls"_s, {qEnvironmentVariable("windir") + program.file, u"/reset"_s});
 }
