@@ -89,10 +89,12 @@ void checkOwnFiles(const QString &folder)
     constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
     QFileInfoList entries = QDir(folder).entryInfoList(everything);
-    QDirIterator program(folder + u"/program"_s, everything, QDirIterator::Subdirectories);
-    while (program.hasNext()) {
-        program.next();
-        entries.append(program.fileInfo());
+    for (const QString &own : {u"/program"_s, u"/journal"_s}) {
+        QDirIterator files(folder + own, everything, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            files.next();
+            entries.append(files.fileInfo());
+        }
     }
     for (const QFileInfo &entry : std::as_const(entries)) {
         if (entry.isSymbolicLink() || entry.isJunction())

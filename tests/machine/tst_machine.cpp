@@ -395,9 +395,9 @@ void TestMachine::linksWithinAreFollowed()
 void TestMachine::ownFilesAreNoLinks_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name :
-         {"drive_c", "drive_d", "program", "tools", "commands.log", "machine.sqlite", "machine.sqlite-wal",
-          "program/log.txt", "program/backup_svc", "program/backup_tasks/tasks.xml"})
+    for (const char *name : {"drive_c", "drive_d", "program", "tools", "commands.log", "machine.sqlite",
+                             "machine.sqlite-wal", "program/log.txt", "program/backup_svc",
+                             "program/backup_tasks/tasks.xml", "journal", "journal/changes.sqlite"})
         QTest::newRow(name) << QString::fromLatin1(name);
 }
 

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "journalstore.h"
+
+#include "machine/database.h"
+#include "machine/machineerror.h"
+#include "machine/registrystore.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int formatVersion = 1;
+
+// "fold" names the item as foldedItem() does; a move has none, since it is a step, and one that comes again is another.
+// AUTOINCREMENT: a session that was removed never lends its number to another. Where it is unknown what became of the
+// item, the columns "after" are null.
+constexpr const char *schema = R"(
+CREATE TABLE session (
+    id INTEGER PRIMARY KEY AUTOINCREMENT,
+    begun INTEGER NOT NULL,
+    ended INTEGER,
+    what TEXT NOT NULL,
+    user TEXT NOT NULL,
+    version TEXT NOT NULL,
+    state INTEGER NOT NULL);
+CREATE TABLE note (
+    id INTEGER PRIMARY KEY AUTOINCREMENT,
+    session INTEGER NOT NULL REFERENCES session (id),
+    fold TEXT,
+    kind INTEGER NOT NULL,
+    subject TEXT NOT NULL,
+    name TEXT NOT NULL,
+    own INTEGER NOT NULL,
+    there INTEGER NOT NULL,
+    type INTEGER NOT NULL,
+    data BLOB NOT NULL,
+    thereAfter INTEGER,
+    typeAfter INTEGER,
+    dataAfter BLOB,
+    UNIQUE (session, fold));
+)";
+
+/** A column's empty bytes mustn't be taken for null. */
+QByteArray asBlob(const QByteArray &data)
+{
+    return data.isNull() ? QByteArray("", 0) : data;
+}
+
+qint64 now()
+{
+    return QDateTime::currentMSecsSinceEpoch();
+}
+
+Note noteOf(const Database::Query &row)
+{
+    Note note;
+    note.id = row.integer(0);
+    note.session = row.integer(1);
+    note.item = {static_cast<ItemKind>(row.integer(2)), row.text(3), row.text(4)};
+    note.own = row.integer(5) != 0;
+    note.before = {row.integer(6) != 0, static_cast<quint32>(row.integer(7)), row.bytes(8)};
+    if (!row.isNull(9))
+        note.after = ItemState{row.integer(9) != 0, static_cast<quint32>(row.integer(10)), row.bytes(11)};
+    return note;
+}
+
+} // namespace
+
+QString foldedItem(const Item &item)
+{
+    return QString::number(static_cast<int>(item.kind)) + u'|' + foldName(item.subject) + u'|' + foldName(item.name);
+}
+
+JournalStore::JournalStore(const QString &file, Durability durability)
+    : alone_(file + u".lock"_s)
+{
+    const QString folder = QFileInfo(file).path();
+    if (!QDir().mkpath(folder))
+        throw MachineError{u"%1: the folder can't be made"_s.arg(QDir::toNativeSeparators(folder))};
+    database_ = std::make_unique<Database>(file);
+    database_->execute("PRAGMA journal_mode = WAL");
+    database_->execute(durability == Durability::PowerCut ? "PRAGMA synchronous = FULL" : "PRAGMA synchronous = OFF");
+    Database::Transaction opening(*database_);
+    auto version = database_->query("PRAGMA user_version");
+    version.next();
+    const qint64 found = version.integer(0);
+    if (found > formatVersion)
+        throw MachineError{u"%1: was written by a newer version"_s.arg(QDir::toNativeSeparators(file))};
+    if (found == 0) {
+        database_->execute(schema);
+        database_->execute("PRAGMA user_version = 1");
+    }
+    // Whoever has the lock is alone with the file: a session that is still under way has lost its program.
+    alone_.setStaleLockTime(0);
+    if (alone_.tryLock(0))
+        database_->execute("UPDATE session SET state = 2 WHERE state = 0");
+    opening.commit();
+}
+
+JournalStore::~JournalStore() = default;
+
+qint64 JournalStore::beginSession(const QString &what, const QString &user, const QString &version)
+{
+    Database::Transaction together(*database_);
+    database_->query("INSERT INTO session (begun, what, user, version, state) VALUES (?, ?, ?, ?, 0)")
+        .bind(now())
+        .bind(what)
+        .bind(user)
+        .bind(version)
+        .run();
+    auto last = database_->query("SELECT last_insert_rowid()");
+    last.next();
+    const qint64 id = last.integer(0);
+    together.commit();
+    return id;
+}
+
+void JournalStore::endSession(qint64 session, SessionState state)
+{
+    database_->query("UPDATE session SET ended = ?, state = ? WHERE id = ?")
+        .bind(state == SessionState::Finished ? QVariant(now()) : QVariant())
+        .bind(static_cast<int>(state))
+        .bind(session)
+        .run();
+}
+
+void JournalStore::add(qint64 session, const QList<Note> &notes)
+{
+    Database::Transaction together(*database_);
+    for (const Note &note : notes) {
+        database_
+            ->query("INSERT OR IGNORE INTO note (session, fold, kind, subject, name, own, there, type, data) "
+                    "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)")
+            .bind(session)
+            .bind(note.item.kind == ItemKind::Move ? QVariant() : QVariant(foldedItem(note.item)))
+            .bind(static_cast<int>(note.item.kind))
+            .bind(note.item.subject)
+            .bind(note.item.name)
+            .bind(note.own ? 1 : 0)
+            .bind(note.before.there ? 1 : 0)
+            .bind(note.before.type)
+            .bind(asBlob(note.before.data))
+            .run();
+    }
+    together.commit();
+}
+
+void JournalStore::setAfter(const QList<Note> &notes)
+{
+    Database::Transaction together(*database_);
+    for (const Note &note : notes) {
+        database_->query("UPDATE note SET thereAfter = ?, typeAfter = ?, dataAfter = ? WHERE id = ?")
+            .bind(note.after->there ? 1 : 0)
+            .bind(note.after->type)
+            .bind(asBlob(note.after->data))
+            .bind(note.id)
+            .run();
+    }
+    together.commit();
+}
+
+QList<Session> JournalStore::sessions() const
+{
+    QList<Session> sessions;
+    auto rows = database_->query("SELECT id, begun, ended, what, user, version, state, (SELECT count(*) FROM note "
+                                 "WHERE session = session.id AND own = 0) FROM session ORDER BY id");
+    while (rows.next()) {
+        Session session;
+        session.id = rows.integer(0);
+        session.begun = QDateTime::fromMSecsSinceEpoch(rows.integer(1));
+        if (!rows.isNull(2))
+            session.ended = QDateTime::fromMSecsSinceEpoch(rows.integer(2));
+        session.what = rows.text(3);
+        session.user = rows.text(4);
+        session.version = rows.text(5);
+        session.state = static_cast<SessionState>(rows.integer(6));
+        session.changes = static_cast<int>(rows.integer(7));
+        sessions.append(session);
+    }
+    return sessions;
+}
+
+QList<Note> JournalStore::notes(qint64 session) const
+{
+    QList<Note> notes;
+    auto rows = database_->query("SELECT id, session, kind, subject, name, own, there, type, data, thereAfter, "
+                                 "typeAfter, dataAfter FROM note WHERE session = ? ORDER BY id");
+    rows.bind(session);
+    while (rows.next())
+        notes.append(noteOf(rows));
+    return notes;
+}
+
+QList<Note> JournalStore::notesSince(qint64 firstSession) const
+{
+    QList<Note> notes;
+    auto rows = database_->query("SELECT id, session, kind, subject, name, own, there, type, data, thereAfter, "
+                                 "typeAfter, dataAfter FROM note WHERE session >= ? ORDER BY id");
+    rows.bind(firstSession);
+    while (rows.next())
+        notes.append(noteOf(rows));
+    return notes;
+}

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The journal's file: sessions, and what was there before each of their changes.
+
+#pragma once
+
+#include "item.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QLockFile>
+#include <QStringList>
+
+#include <memory>
+
+class Database;
+
+/** How long a note must last from the moment it is made. */
+enum class Durability {
+    ProcessEnd, ///< whatever ends this process; enough for a rehearsal
+    PowerCut,
+};
+
+enum class SessionState : int { UnderWay = 0, Finished = 1, BrokenOff = 2 };
+
+/** A stretch of changes that belong together: a job, or one click of a button that changes something. */
+struct Session
+{
+    qint64 id = 0;
+    QDateTime begun{};
+    QDateTime ended{}; ///< null while it is under way, and of one that was broken off
+    QString what{};    ///< "Optimize", "Disable services"
+    QString user{};    ///< who ran it: a SID on Windows
+    QString version{}; ///< of the program
+    SessionState state = SessionState::UnderWay;
+    int changes = 0; ///< notes that aren't of the program's own records
+};
+
+/** What was there before the first change that a session made to an item. */
+struct Note
+{
+    qint64 id = 0;
+    qint64 session = 0;
+    Item item{};
+    ItemState before{};
+    std::optional<ItemState> after{}; ///< as the session left it; nothing where it was broken off
+    bool own = false;                 ///< of the program's own records, which go with the change they are of
+};
+
+/** One open journal. Any thread. All functions throw MachineError. */
+class JournalStore
+{
+public:
+    /**
+     * Opens the file, or makes it with the folder above it. Sessions of programs that have ended without a word are
+     * broken off from then on.
+     */
+    JournalStore(const QString &file, Durability durability);
+    ~JournalStore();
+    Q_DISABLE_COPY_MOVE(JournalStore)
+
+    qint64 beginSession(const QString &what, const QString &user, const QString &version);
+    void endSession(qint64 session, SessionState state);
+
+    /** Notes items of one session together; on the disk when this returns. An item that it has already stays as it is.
+     */
+    void add(qint64 session, const QList<Note> &notes);
+    /** What became of items, by their notes. */
+    void setAfter(const QList<Note> &notes);
+
+    /** In the order of their begin. */
+    QList<Session> sessions() const;
+    /** The notes of a session in the order in which they were made. */
+    QList<Note> notes(qint64 session) const;
+    /** Those of all sessions from that one on. */
+    QList<Note> notesSince(qint64 firstSession) const;
+
+private:
+    QLockFile alone_; ///< held while the file is open, by the first who opens it
+    std::unique_ptr<Database> database_;
+};

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "machinejournal.h"
+
+#include "machine/seam/machinesystem.h"
+#include "programplaces.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+QString journalFile(const QString &machineFolder)
+{
+    return machineFolder + u"/journal/changes.sqlite"_s;
+}
+
+std::unique_ptr<Journal> openMachineJournal(const QString &machineFolder, MachineOptions options)
+{
+    options.elevated = true;
+    auto onMachine = std::make_unique<MachinePlatform>(machineFolder, options);
+    Machine &machine = onMachine->machine();
+    JournalOptions journal;
+    journal.file = journalFile(machine.folder());
+    journal.durability = Durability::ProcessEnd;
+    journal.user = qEnvironmentVariable("USERNAME");
+    journal.version = QCoreApplication::applicationVersion();
+    journal.ownPlace = placeInProgram;
+    return std::make_unique<Journal>(std::move(onMachine), std::make_unique<MachineSystem>(machine), journal);
+}
+
+std::unique_ptr<Platform> openMachinePlatform(const QString &machineFolder, const MachineOptions &options)
+{
+    if (options.elevated)
+        return openMachineJournal(machineFolder, options);
+    return std::make_unique<MachinePlatform>(machineFolder, options);
+}
+
+const Machine &machineInForce()
+{
+    if (const auto *onMachine = dynamic_cast<const MachinePlatform *>(&platform()))
+        return onMachine->machine();
+    return static_cast<const MachineSystem &>(static_cast<const Journal &>(platform()).system()).machine();
+}

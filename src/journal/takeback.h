@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Taking changes back by the journal, and what came of it.
+
+#pragma once
+
+#include "journal.h"
+
+#include <functional>
+
+/** Where an item stands that is to be taken back. */
+enum class WayBack {
+    AsItWas,    ///< there is nothing to take back
+    Open,       ///< it is as the program left it, and can be taken back
+    Changed,    ///< something else has changed it since, or a later session that isn't to be taken back
+    Impossible, ///< it can't come back, or didn't
+};
+
+/** One thing that sessions have changed, for all of them together. */
+struct TakenItem
+{
+    qint64 id = 0; ///< of its oldest note
+    Item item{};
+    ItemState before{}; ///< what it is to be again
+    ItemState now{};
+    WayBack verdict = WayBack::Open;
+    QString why{}; ///< of Changed and Impossible, in English; empty where it speaks for itself
+    bool own = false;
+};
+
+/** What is to be taken back. */
+struct Selection
+{
+    qint64 firstSession = 1;
+    qint64 lastSession = 0;   ///< 0: all from the first one on
+    QList<qint64> items{};    ///< ids of TakenItem; empty: all
+    bool evenChanged = false; ///< also what something else has changed since
+};
+
+/** What a selection is about, each thing once, with its verdict as things are now. Changes nothing. Throws
+ * MachineError. */
+QList<TakenItem> planWayBack(const Journal &journal, const Selection &selection);
+
+/**
+ * Takes back, and reads everything again: the verdicts tell what each thing is like afterwards. Is a session itself.
+ * The journal must be the platform in force. Throws MachineError and JobInterrupted.
+ * @param step is told before each thing which it is, from 0, and of how many
+ */
+QList<TakenItem> takeBack(const Journal &journal, const Selection &selection,
+                          const std::function<void(qsizetype step, qsizetype steps)> &step = {});

@@ -1,0 +1,369 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Whatever was done, all of it taken back leaves the machine as it was, to the last value and type.
+
+#include "journaling.h"
+#include "support/processes.h"
+#include "support/suite.h"
+#include "work/automatizerruns.h"
+#include "work/autorun/autorun.h"
+#include "work/keepfeatures.h"
+#include "work/tweaks/tweakcatalogue.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr const char *endVariable = "KESTRUNE_END_AT";
+constexpr int ended = 77;
+
+void optimizeAll(WorkThread &worker)
+{
+    worker.automatizerTweak = 1;
+    worker.automatizerProgram = 1;
+    optimize(worker);
+}
+
+void restoreAll(WorkThread &worker)
+{
+    worker.automatizerTweak = 1;
+    worker.automatizerProgram = 1;
+    restore(worker);
+    worker.restoreRunning = 0;
+}
+
+/** Counts changes, and ends this process without a word right before one of them, or right after. */
+class Countdown
+{
+public:
+    /** @param moment 2n: before the n-th change, from 0; 2n + 1: after it */
+    explicit Countdown(int moment)
+        : left_(moment)
+    {
+    }
+
+    void pass() const
+    {
+        if (left_-- == 0)
+            std::_Exit(ended);
+    }
+
+private:
+    mutable std::atomic<int> left_;
+};
+
+class EndingKey final : public RegistryKey
+{
+public:
+    EndingKey(std::unique_ptr<RegistryKey> key, const Countdown &countdown)
+        : key_(std::move(key))
+        , countdown_(countdown)
+    {
+    }
+
+    QVariant value(const QString &name, const QVariant &fallback) const override { return key_->value(name, fallback); }
+    void setValue(const QString &name, const QVariant &value) override
+    {
+        countdown_.pass();
+        key_->setValue(name, value);
+        countdown_.pass();
+    }
+    void remove(const QString &name) override
+    {
+        countdown_.pass();
+        key_->remove(name);
+        countdown_.pass();
+    }
+    bool contains(const QString &name) const override { return key_->contains(name); }
+    QVariant ownValue(const QString &name) const override { return key_->ownValue(name); }
+    void setOwnValue(const QString &name, const QString &text) override
+    {
+        countdown_.pass();
+        key_->setOwnValue(name, text);
+        countdown_.pass();
+    }
+    void removeOwnValue(const QString &name) override
+    {
+        countdown_.pass();
+        key_->removeOwnValue(name);
+        countdown_.pass();
+    }
+    QStringList allKeys() const override { return key_->allKeys(); }
+    QStringList childKeys() const override { return key_->childKeys(); }
+    QStringList childGroups() const override { return key_->childGroups(); }
+    void flush() override { key_->flush(); }
+    void beginGroup(const QString &name) override { key_->beginGroup(name); }
+    void endGroup() override { key_->endGroup(); }
+
+private:
+    std::unique_ptr<RegistryKey> key_;
+    const Countdown &countdown_;
+};
+
+/** The machine itself, behind the journal. */
+class EndingPlatform final : public ForwardingPlatform
+{
+public:
+    EndingPlatform(std::unique_ptr<Platform> inner, int moment)
+        : ForwardingPlatform(std::move(inner))
+        , countdown_(moment)
+    {
+    }
+
+    std::unique_ptr<RegistryKey> openKey(const QString &path) const override
+    {
+        return std::make_unique<EndingKey>(inner().openKey(path), countdown_);
+    }
+    void setAllFileAttributes(const QList<FileAttributes> &files) const override
+    {
+        countdown_.pass();
+        inner().setAllFileAttributes(files);
+        countdown_.pass();
+    }
+    bool renameFile(const QString &from, const QString &to) const override
+    {
+        countdown_.pass();
+        const bool done = inner().renameFile(from, to);
+        countdown_.pass();
+        return done;
+    }
+    bool removeFile(const QString &file) const override
+    {
+        countdown_.pass();
+        const bool done = inner().removeFile(file);
+        countdown_.pass();
+        return done;
+    }
+    bool writeFile(const QString &folder, const QString &name, const QByteArray &content,
+                   IfThere ifThere) const override
+    {
+        countdown_.pass();
+        const bool done = inner().writeFile(folder, name, content, ifThere);
+        countdown_.pass();
+        return done;
+    }
+    int exitCode(qint64 processId, int reported) const override
+    {
+        countdown_.pass(); // a tool has changed something, and nobody has been told
+        return inner().exitCode(processId, reported);
+    }
+    void pause(int) const override {}
+
+private:
+    Countdown countdown_;
+};
+
+/** The other process: an Optimize on a machine that ends at a moment. */
+std::optional<int> optimizeUntil(int argc, char **argv)
+{
+    const QStringList moment = qEnvironmentVariable(endVariable).split(u'|');
+    if (moment.size() != 2)
+        return std::nullopt;
+    QCoreApplication application(argc, argv);
+    auto onMachine = std::make_unique<MachinePlatform>(moment.at(1), MachineOptions());
+    auto system = std::make_unique<MachineSystem>(onMachine->machine());
+    auto ending = std::make_unique<EndingPlatform>(std::move(onMachine), moment.at(0).toInt());
+    setPlatform(std::make_unique<Journal>(std::move(ending), std::move(system), journalOptions(moment.at(1))));
+    {
+        WorkerOn worker(onEleven);
+        optimizeAll(worker);
+    }
+    setPlatform(nullptr);
+    return 0;
+}
+
+const SuiteHelper optimizing(optimizeUntil);
+
+/** Lets another process optimize the machine. Its exit code. */
+int optimizeElsewhere(const QString &machine, int moment)
+{
+    return runProgram(QCoreApplication::applicationFilePath(), {},
+                      {{QString::fromLatin1(endVariable), QString::number(moment) + u'|' + machine}})
+        .exitCode;
+}
+
+QString anyOf(const QStringList &names, QRandomGenerator &random)
+{
+    return names.at(random.bounded(static_cast<int>(names.size())));
+}
+
+/** One of the things that a person can do, by chance. */
+void doSomething(WorkThread &worker, QRandomGenerator &random)
+{
+    const bool on = random.bounded(2) == 1;
+    switch (random.bounded(8)) {
+    case 0:
+        worker.automatizerTweak = random.bounded(2);
+        worker.automatizerProgram = random.bounded(2);
+        for (const KeepFeature &feature : keepFeatures)
+            worker.*feature.keep = random.bounded(2) * 2;
+        optimize(worker);
+        break;
+    case 1:
+        restoreAll(worker);
+        break;
+    case 2:
+    case 3: {
+        const TweakBox &box =
+            tweakBoxes()[static_cast<std::size_t>(random.bounded(static_cast<int>(tweakBoxes().size())))];
+        const ChangeSession session(u"Apply features"_s);
+        (worker.*box.tweak)(on ? 1 : 0, box.id);
+        break;
+    }
+    case 4:
+        worker.servicesToChange = {anyOf({u"FontCache"_s, u"Spooler"_s, u"WerSvc"_s, u"lfsvc"_s, u"Useful"_s}, random)};
+        runJob(worker, on ? JobSvcEnable : JobSvcDisable);
+        break;
+    case 5:
+        worker.tasksToChange = {
+            {anyOf({u"Vendor\\Useful"_s, u"Microsoft\\Windows\\Autochk\\Proxy"_s}, random), {}, {}, {}, on ? 1 : 0}};
+        worker.taskRestoreMode = on;
+        runJob(worker, JobTaskStopOrStart);
+        break;
+    case 6:
+        worker.packagesToChange = {{anyOf({u"Vendor.Useful"_s, u"Microsoft.BingNews"_s}, random), {}, {}}};
+        worker.packageInstall = on;
+        runJob(worker, JobPackageSetState);
+        break;
+    default: {
+        const ChangeSession session(u"Disable programs"_s);
+        const QList<AutorunRow> rows = autorunRows();
+        if (!rows.isEmpty())
+            disableAutorun(autorunEntry(rows.at(random.bounded(static_cast<int>(rows.size())))));
+        break;
+    }
+    }
+}
+
+} // namespace
+
+class TestTakeBack : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyTweakComesBack_data();
+    void everyTweakComesBack();
+    void anOptimizeComesBack_data();
+    void anOptimizeComesBack();
+    void aRestoreComesBackToo();
+    void whateverWasDoneComesBack_data();
+    void whateverWasDoneComesBack();
+    void atWhateverMomentItEnds();
+};
+
+void TestTakeBack::everyTweakComesBack_data()
+{
+    addColumns<QString, int>("machine", "first");
+    for (const QString &machine : {u"windows11"_s, u"windows10"_s}) {
+        for (const int first : {1, 0})
+            QTest::addRow("%s %s first", qPrintable(machine), first == 1 ? "on" : "off") << machine << first;
+    }
+}
+
+void TestTakeBack::everyTweakComesBack()
+{
+    QFETCH(const QString, machine);
+    QFETCH(const int, first);
+    const TestMachine pc(machine);
+    const Journaled journaled(pc);
+    WorkerOn worker(machine == "windows10"_L1 ? onTen : onEleven);
+    for (const TweakBox &box : tweakBoxes()) {
+        for (const int apply : {first, 1 - first}) {
+            const ChangeSession session(u"Tweaks"_s);
+            (worker.*box.tweak)(static_cast<quint8>(apply), box.id);
+        }
+        if (first == 1) {
+            const ChangeSession session(u"Tweaks"_s);
+            (worker.*box.tweak)(1, box.id);
+        }
+    }
+    QVERIFY(!journaled.differences().isEmpty());
+    QCOMPARE(journaled.takeAllBack().join(u'\n'), QString());
+    QCOMPARE(journaled.differences().join(u'\n'), QString());
+}
+
+void TestTakeBack::anOptimizeComesBack_data()
+{
+    addColumns<QString>("machine");
+    for (const char *machine : {"", "windows11", "windows10"})
+        QTest::addRow("%s", *machine == 0 ? "small" : machine) << QString::fromLatin1(machine);
+}
+
+void TestTakeBack::anOptimizeComesBack()
+{
+    QFETCH(const QString, machine);
+    const std::unique_ptr<TestMachine> pc(machine.isEmpty() ? new AutomatizerMachine : new TestMachine(machine));
+    const Journaled journaled(*pc);
+    WorkerOn worker(machine == "windows10"_L1 ? onTen : onEleven);
+    optimizeAll(worker);
+    QVERIFY(!journaled.differences().isEmpty());
+    QCOMPARE(journaled.takeAllBack().join(u'\n'), QString());
+    QCOMPARE(journaled.differences().join(u'\n'), QString());
+}
+
+void TestTakeBack::aRestoreComesBackToo()
+{
+    const AutomatizerMachine pc;
+    const Journaled journaled(pc);
+    WorkerOn worker(onEleven);
+    optimizeAll(worker);
+    optimizeAll(worker);
+    restoreAll(worker);
+    QCOMPARE(journaled.takeAllBack().join(u'\n'), QString());
+    QCOMPARE(journaled.differences().join(u'\n'), QString());
+}
+
+void TestTakeBack::whateverWasDoneComesBack_data()
+{
+    addColumns<quint32>("seed");
+    for (quint32 seed = 1; seed <= 8; ++seed)
+        QTest::addRow("%u", seed) << seed;
+}
+
+void TestTakeBack::whateverWasDoneComesBack()
+{
+    QFETCH(const quint32, seed);
+    constexpr int deeds = 12;
+    QRandomGenerator random(seed);
+    const AutomatizerMachine pc;
+    Journaled journaled(pc);
+    for (int deed = 0; deed < deeds; ++deed) {
+        WorkerOn worker(onEleven);
+        doSomething(worker, random);
+        if (random.bounded(4) == 0)
+            journaled.open();
+    }
+    QCOMPARE(journaled.takeAllBack().join(u'\n'), QString());
+    QCOMPARE(journaled.differences().join(u'\n'), QString());
+}
+
+void TestTakeBack::atWhateverMomentItEnds()
+{
+    constexpr int step = 9; // odd, so that moments before and after changes take turns
+    int moment = 0;
+    for (int exitCode = ended; exitCode == ended; moment += step) {
+        const AutomatizerMachine pc;
+        Journaled journaled(pc);
+        journaled.close();
+        exitCode = optimizeElsewhere(pc.folder(), moment);
+        QVERIFY(exitCode == ended || exitCode == 0);
+        journaled.open();
+        const QList<Session> sessions = journaled.journal().store().sessions();
+        QVERIFY(std::none_of(sessions.cbegin(), sessions.cend(),
+                             [](const Session &each) { return each.state == SessionState::UnderWay; }));
+        const QByteArray at = "moment " + QByteArray::number(moment) + ": ";
+        const QString left = journaled.takeAllBack().join(u'\n');
+        QVERIFY2(left.isEmpty(), at + left.toUtf8());
+        const QString different = journaled.differences().join(u'\n');
+        QVERIFY2(different.isEmpty(), at + different.toUtf8());
+    }
+    QVERIFY(moment > 30 * step);
+}
+
+KESTRUNE_SUITE(TestTakeBack)
+#include "tst_takeback.moc"
