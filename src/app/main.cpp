@@ -8,7 +8,7 @@
 #include "linkopener.h"
 #include "platform/windows/windowsplatform.h"
 #else
-#include "machine/seam/machineplatform.h"
+#include "journal/machinejournal.h"
 #include "pictures.h"
 #endif
 #ifndef Q_OS_WIN
@@ -50,7 +50,7 @@ bool choosePlatform()
         MachineOptions options;
         options.elevated = qEnvironmentVariable("KESTRUNE_ELEVATED", u"1"_s) != "0"_L1;
         options.pace = isForPictures() ? 0 : 1;
-        setPlatform(std::make_unique<MachinePlatform>(folder, options));
+        setPlatform(openMachinePlatform(folder, options));
     } catch (const MachineError &error) {
         qCritical("kestrune: %s", qUtf8Printable(error.message));
         return false;

@@ -83,9 +83,12 @@ void runAutomatizer(WorkThread &worker, int job, const AutomatizerChoice &choice
         throw Failure{ExitJobFailed, u"the Automatizer needs administrator rights"_s};
     worker.automatizerProgram = choice.programs ? 1 : 0;
     worker.automatizerTweak = choice.tweaks ? 1 : 0;
-    if (job == JobAutomatizerAnalyze)
+    if (job == JobAutomatizerAnalyze) {
         analyze(worker, printer);
-    else if (job == JobAutomatizerOptimize)
+        return;
+    }
+    const ChangeSession session(job == JobAutomatizerOptimize ? u"Optimize"_s : u"Restore"_s);
+    if (job == JobAutomatizerOptimize)
         optimize(worker, choice, printer);
     else
         restore(worker, choice, printer);

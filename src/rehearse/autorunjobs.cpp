@@ -43,6 +43,7 @@ void disableAutoruns(WorkThread &, const QStringList &names)
 {
     if (!platform().isElevated())
         return;
+    const ChangeSession session(u"Disable programs"_s);
     const QList<AutorunRow> rows = autorunRows();
     for (const QString &name : names) {
         for (const AutorunRow &row : rows) {
@@ -56,6 +57,7 @@ void enableAutoruns(WorkThread &, const QStringList &names)
 {
     if (!platform().isElevated())
         return;
+    const ChangeSession session(u"Enable programs"_s);
     for (const QString &recorded : trustedAutoruns()) {
         if (!isNamed(recorded, names))
             continue;

@@ -2,7 +2,7 @@
 
 #include "jobs.h"
 
-#include "machine/seam/machineplatform.h"
+#include "journal/machinejournal.h"
 #include "machine/taskdocument.h"
 #include "platform/windowsfacts.h"
 #include "work/packages/packages.h"
@@ -77,7 +77,7 @@ void takeTasks(WorkThread &worker, const QStringList &paths, int disabled)
 QStringList tasksUnlike(const QStringList &paths, bool enabled)
 {
     // The machine is asked, since the logic's own list writes files.
-    const Machine &machine = static_cast<const MachinePlatform &>(platform()).machine();
+    const Machine &machine = machineInForce();
     QStringList left;
     for (const QString &operand : paths) {
         const QString path = withoutBackslash(operand);

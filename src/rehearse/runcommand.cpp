@@ -3,7 +3,7 @@
 
 #include "jobrunner.h"
 #include "jobs.h"
-#include "machine/seam/machineplatform.h"
+#include "journal/machinejournal.h"
 #include "progress.h"
 #include "subcommands.h"
 #include "work/windowsname.h"
@@ -61,7 +61,10 @@ void runTweak(WorkThread &worker, const TweakRequest &tweak, LinePrinter &printe
     if (const std::optional<int> job = tweak.job())
         runToEnd(worker, *job, printer);
     else
-        runToEnd([&] { (worker.*tweak.run)(tweak.apply ? 1 : 0, tweak.id); });
+        runToEnd([&] {
+            const ChangeSession session(u"Tweaks"_s);
+            (worker.*tweak.run)(tweak.apply ? 1 : 0, tweak.id);
+        });
     printer.take("tweak"_L1, u"%1 %2 %3"_s.arg(tweak.group).arg(tweak.id).arg(tweak.apply ? "on"_L1 : "off"_L1));
     if (worker.needReboot == 1)
         printer.take("tweak"_L1, u"restart needed"_s);
@@ -123,7 +126,7 @@ int runJob(const Arguments &arguments)
     const QList<KeepChoice> keep = parseKeep(arguments.value("keep"_L1));
 
     const QString folder = openMachine(arguments.operand(0))->folder();
-    setPlatform(std::make_unique<MachinePlatform>(folder, machineOptions));
+    setPlatform(openMachinePlatform(folder, machineOptions));
     WorkThread worker;
     applyKeep(worker, keep);
     setWindowsName(worker);
@@ -131,6 +134,8 @@ int runJob(const Arguments &arguments)
         row.prepare(worker, operands);
 
     runRow(worker, row, arguments);
+    if (const QString failure = platform().takeFailure(); !failure.isEmpty())
+        throw Failure{ExitJobFailed, u"not everything was done: "_s + failure};
     if (row.unreached != nullptr) {
         if (const QStringList left = row.unreached(operands); !left.isEmpty())
             throw Failure{ExitJobFailed, u"%1 failed for %2"_s.arg(row.name, left.join(", "_L1))};

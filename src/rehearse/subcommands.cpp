@@ -19,8 +19,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr const Subcommand *subcommands[] = {
-    &newSubcommand,  &captureSubcommand, &listSubcommand, &runSubcommand,    &previewSubcommand, &verifySubcommand,
-    &diffSubcommand, &guiSubcommand,     &tourSubcommand, &exportSubcommand, &importSubcommand,
+    &newSubcommand,    &captureSubcommand, &listSubcommand, &runSubcommand,  &undoSubcommand,   &previewSubcommand,
+    &verifySubcommand, &diffSubcommand,    &guiSubcommand,  &tourSubcommand, &exportSubcommand, &importSubcommand,
 };
 
 /** Lets it end what it runs itself; a console's Ctrl-C has reached it anyway. */

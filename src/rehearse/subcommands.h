@@ -47,6 +47,7 @@ extern const Subcommand previewSubcommand;
 extern const Subcommand tourSubcommand;
 extern const Subcommand verifySubcommand;
 extern const Subcommand captureSubcommand;
+extern const Subcommand undoSubcommand;
 
 /** Opens a machine; a Failure of code 3 where that can't be done. */
 std::unique_ptr<Machine> openMachine(const QString &folder);

@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// kestrune-rehearse undo: what it lists, what it takes back, and what it refuses.
+
+#include "machine/compare/machinediff.h"
+#include "machine/database.h"
+#include "support/rehearsing.h"
+#include "support/smallmachine.h"
+#include "support/suite.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList linesOf(const Ended &ended)
+{
+    return QString::fromUtf8(ended.output).split(u'\n', Qt::SkipEmptyParts);
+}
+
+/** What isn't as on the copy; the program's own records and files are left out. */
+QStringList differences(Machine &before, const QString &folder)
+{
+    QStringList texts;
+    for (const DiffRow &row : compareMachines(before, *Machine::open(folder))) {
+        if (!row.path.startsWith("HKEY_CURRENT_USER\\Software\\Kestrune"_L1) && !row.path.startsWith("program\\"_L1))
+            texts.append(kindName(row.kind) + u' ' + row.path + u' ' + row.name);
+    }
+    return texts;
+}
+
+/** A machine on which two jobs have run, beside a copy of what it was. */
+class Changed
+{
+public:
+    Changed()
+    {
+        copyMachine(*machine_, machine_.beside(u"before"_s));
+        before_ = Machine::open(machine_.beside(u"before"_s));
+        for (const QStringList &job :
+             {QStringList{u"svc-disable"_s, u"DiagTrack"_s}, QStringList{u"tweak"_s, u"ssd"_s, u"1"_s, u"on"_s}}) {
+            const Ended ended = rehearse(QStringList{u"run"_s, folder()} + job);
+            if (ended.exitCode != done)
+                qFatal("%s can't be run: %s", qPrintable(job.first()), ended.errors.constData());
+        }
+    }
+
+    QString folder() const { return machine_.folder(); }
+    QString beside(const QString &name) const { return machine_.beside(name); }
+    QStringList differences() { return ::differences(*before_, folder()); }
+
+private:
+    SmallMachine machine_;
+    std::unique_ptr<Machine> before_;
+};
+
+} // namespace
+
+class TestRehearseUndo : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void listsSessions();
+    void listsTheChangesOfASession();
+    void takesEverythingBack();
+    void takesOneSessionBack();
+    void takesOneItemBack();
+    void takesBackSinceAMoment();
+    void writesJson();
+    void unelevatedRunsKeepNoJournal();
+    void aRunThatCannotNoteSaysSo();
+    void refusals_data();
+    void refusals();
+};
+
+void TestRehearseUndo::listsSessions()
+{
+    Changed machine;
+    const Ended ended = rehearse({u"undo"_s, machine.folder(), u"--list"_s});
+    QCOMPARE(ended.exitCode, done);
+    QStringList sessions;
+    for (const QString &line : linesOf(ended))
+        sessions.append(line.section(u'\t', 2, 3));
+    QCOMPARE(sessions.filter(u"Disable services"_s), QStringList(u"Disable services\tfinished"_s));
+    QCOMPARE(sessions.filter(u"Tweaks"_s), QStringList(u"Tweaks\tfinished"_s));
+    QVERIFY(!machine.differences().isEmpty());
+}
+
+void TestRehearseUndo::listsTheChangesOfASession()
+{
+    Changed machine;
+    const QString session = linesOf(rehearse({u"undo"_s, machine.folder(), u"--list"_s}))
+                                .filter(u"Disable services"_s)
+                                .first()
+                                .section(u'\t', 0, 0);
+    const Ended ended = rehearse({u"undo"_s, machine.folder(), u"--list"_s, u"--session"_s, session});
+    QCOMPARE(ended.exitCode, done);
+    QStringList changes;
+    for (const QString &line : linesOf(ended))
+        changes.append(line.section(u'\t', 1));
+    QVERIFY2(changes.contains(u"changed\tservice DiagTrack: how it starts\tautomatic\tdisabled"_s),
+             qPrintable(changes.join(u'\n')));
+    QVERIFY2(changes.contains(u"changed\tservice DiagTrack: whether it runs\trunning\tstopped"_s),
+             qPrintable(changes.join(u'\n')));
+}
+
+void TestRehearseUndo::takesEverythingBack()
+{
+    Changed machine;
+    const Ended ended = rehearse({u"undo"_s, machine.folder()});
+    QCOMPARE(ended.exitCode, done);
+    QCOMPARE(machine.differences(), QStringList());
+    for (const QString &line : linesOf(ended))
+        QCOMPARE(line.section(u'\t', 1, 1), u"as it was"_s);
+    // And back again: taking back is a session like any other.
+    const QStringList sessions = linesOf(rehearse({u"undo"_s, machine.folder(), u"--list"_s}));
+    const QString last = sessions.last().section(u'\t', 0, 0);
+    QCOMPARE(sessions.last().section(u'\t', 2, 2), u"Take back"_s);
+    QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--session"_s, last}).exitCode, done);
+    QVERIFY(machine.differences().contains(
+        u"registry HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\DiagTrack Start"_s));
+}
+
+void TestRehearseUndo::takesOneSessionBack()
+{
+    Changed machine;
+    const QString session =
+        linesOf(rehearse({u"undo"_s, machine.folder(), u"--list"_s})).filter(u"Tweaks"_s).first().section(u'\t', 0, 0);
+    QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--session"_s, session}).exitCode, done);
+    QVERIFY(machine.differences().filter(u"DisableWriteCacheFlush"_s).isEmpty());
+    QVERIFY(!machine.differences().filter(u"DiagTrack"_s).isEmpty());
+}
+
+void TestRehearseUndo::takesOneItemBack()
+{
+    Changed machine;
+    const QStringList changes =
+        linesOf(rehearse({u"undo"_s, machine.folder(), u"--list"_s, u"--since"_s, u"2000-01-01"_s}));
+    const QString item = changes.filter(u"DiagTrack: whether it runs"_s).first().section(u'\t', 0, 0);
+    // A disabled service runs again, and stays disabled.
+    QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--item"_s, item}).exitCode, done);
+    QVERIFY(!machine.differences().contains(u"service DiagTrack "_s));
+    QVERIFY(machine.differences().contains(
+        u"registry HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\DiagTrack Start"_s));
+}
+
+void TestRehearseUndo::takesBackSinceAMoment()
+{
+    Changed machine;
+    QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--since"_s, u"2100-01-01 00:00"_s}).output, QByteArray());
+    QVERIFY(!machine.differences().isEmpty());
+    QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--since"_s, u"2000-01-01T00:00"_s}).exitCode, done);
+    QCOMPARE(machine.differences(), QStringList());
+}
+
+void TestRehearseUndo::writesJson()
+{
+    Changed machine;
+    const QString file = machine.beside(u"undo.json"_s);
+    QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--list"_s, u"--json"_s, file}).output, QByteArray());
+    const QJsonArray sessions = QJsonDocument::fromJson(readFile(file)).array();
+    QVERIFY(!sessions.isEmpty());
+    QCOMPARE(sessions.last()[u"what"_s].toString(), u"Tweaks"_s);
+    QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--json"_s, file}).exitCode, done);
+    const QJsonArray items = QJsonDocument::fromJson(readFile(file)).array();
+    QVERIFY(!items.isEmpty());
+    for (const QJsonValue &item : items)
+        QCOMPARE(item[u"verdict"_s].toString(), u"as it was"_s);
+}
+
+void TestRehearseUndo::unelevatedRunsKeepNoJournal()
+{
+    SmallMachine machine;
+    QVERIFY(rehearse({u"run"_s, machine.folder(), u"analyze"_s, u"--not-elevated"_s}).exitCode != machineUnreadable);
+    QVERIFY(!QFileInfo::exists(machine.folder() + u"/journal"_s));
+}
+
+void TestRehearseUndo::aRunThatCannotNoteSaysSo()
+{
+    Changed machine;
+    const QStringList before = machine.differences();
+    {
+        Database journal(machine.folder() + u"/journal/changes.sqlite"_s);
+        journal.execute("DROP TABLE note");
+    }
+    const Ended ended = rehearse({u"run"_s, machine.folder(), u"tweak"_s, u"ssd"_s, u"2"_s, u"on"_s});
+    QCOMPARE(ended.exitCode, jobFailed);
+    QVERIFY2(ended.errors.contains("not everything was done: ") && ended.errors.contains("no such table"),
+             ended.errors);
+    QCOMPARE(machine.differences(), before);
+}
+
+void TestRehearseUndo::refusals_data()
+{
+    addColumns<QStringList, QString>("arguments", "message");
+    QTest::newRow("time") << QStringList{u"--since"_s, u"yesterday"_s}
+                          << u"'yesterday' is no time, such as 2026-11-22T09:30"_s;
+    QTest::newRow("number") << QStringList{u"--session"_s, u"0"_s} << u"invalid argument '0' for '--session'"_s;
+    QTest::newRow("item") << QStringList{u"--item"_s, u"1,x"_s} << u"invalid argument 'x' for '--item'"_s;
+    QTest::newRow("both") << QStringList{u"--since"_s, u"2000-01-01"_s, u"--session"_s, u"1"_s}
+                          << u"--since and --session can't be given together"_s;
+    QTest::newRow("unknown session") << QStringList{u"--session"_s, u"99"_s} << u"there is no session 99"_s;
+}
+
+void TestRehearseUndo::refusals()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, message);
+    const SmallMachine machine;
+    const Ended ended = rehearse(QStringList{u"undo"_s, machine.folder()} + arguments);
+    QCOMPARE(ended.exitCode, badArguments);
+    QVERIFY2(ended.errors.contains(message.toUtf8()), ended.errors);
+}
+
+KESTRUNE_SUITE(TestRehearseUndo)
+#include "tst_rehearseundo.moc"
