@@ -2,18 +2,12 @@
 
 #include "undo.h"
 
-#include "console/printable.h"
 #include "machine/compare/machinediff.h"
 #include "machine/database.h"
 #include "machine/machine.h"
-#include "machine/registrydisplay.h"
 #include "platform/windowsfacts.h"
 
-#include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
-#include <QSaveFile>
-#include <QStringEncoder>
 
 #include <algorithm>
 
@@ -22,37 +16,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString packagesPart = WindowsKey::packagesPart + u'\\';
-
-// Where the programs of the commands are, whatever lies in the folder in which they are given. The prompt's own
-// commands are given to one that runs nothing of the user's first.
-const QString system32 = u"%SystemRoot%\\System32\\"_s;
-const QString prompt = u"cmd.exe /d /c "_s;
-
-QString quoted(const QString &text)
-{
-    return u'"' + text + u'"';
-}
-
-/** Whether a command has it as one text in quotation marks, and as nothing else than it is. */
-bool canBeQuoted(const QString &text)
-{
-    return printable(text) == text && !text.contains(u'"') && !text.contains(u'%') && !text.endsWith(u'\\');
-}
-
-/** Whether a command has it as one word without quotation marks that is no switch. */
-bool isWord(const QString &text)
-{
-    static const QRegularExpression word(QRegularExpression::anchoredPattern(u"[A-Za-z0-9{][A-Za-z0-9._{}-]*"_s));
-    return word.match(text).hasMatch();
-}
-
-/** Whether Windows can have a file of that path: what is a pattern, a stream or a step up means other files. */
-bool isFilePath(const QString &path)
-{
-    static const QRegularExpression form(uR"(^[A-Za-z]:(\\[^\\/:*?"<>|]+)+$)"_s);
-    const QStringList names = path.split(u'\\');
-    return form.match(path).hasMatch() && !names.contains(u"."_s) && !names.contains(u".."_s);
-}
 
 bool isOfPackage(const QString &key)
 {
@@ -64,27 +27,34 @@ bool isOfProgram(const DiffRow &row)
     return row.path.startsWith("program\\"_L1);
 }
 
-/** The commands of one comparison, and the files they need. */
+/** These come back with its set-up. */
+bool isOfOneDrive(const QString &path)
+{
+    return path.contains("\\Microsoft\\OneDrive\\"_L1, Qt::CaseInsensitive);
+}
+
+/** Adds what isn't in the registry to a way back. */
 class UndoCommands
 {
 public:
-    UndoCommands(Machine &before, Machine &after, const QList<RegistryEdit> &registry, const QString &filesFolder)
+    UndoCommands(Machine &before, Machine &after, const QList<RegistryEdit> &registry, WayBackScript &script)
         : before_(before)
         , rows_(compareBesidesRegistry(before, after))
-        , filesFolder_(filesFolder)
+        , script_(script)
     {
         bringFilesBack();
         bringPackagesBack(registry);
-        eachOfFiles(DiffKind::Attribute, [this](const DiffRow &row) { setAttributes(row); });
+        eachOfFiles(DiffKind::Attribute,
+                    [this](const DiffRow &row) { script_.setAttributes(row.path, before_.attributes(row.path)); });
         eachOfFiles(DiffKind::Security, [this](const DiffRow &row) { setSecurity(row); });
-        each(DiffKind::BootOption, [this](const DiffRow &row) { setBootOption(row); });
-        each(DiffKind::Task, [this](const DiffRow &row) { switchTask(row); });
-        each(DiffKind::Service, [this](const DiffRow &row) { switchService(row); });
+        each(DiffKind::BootOption, [this](const DiffRow &row) {
+            script_.setBootOption(row.path, row.before.isEmpty() ? std::nullopt : std::optional(row.before));
+        });
+        each(DiffKind::Task,
+             [this](const DiffRow &row) { script_.enableTask(row.path, row.before.startsWith("enabled"_L1)); });
+        each(DiffKind::Service,
+             [this](const DiffRow &row) { script_.startService(row.path, row.before == "running"_L1); });
     }
-
-    QStringList commands() const { return commands_; }
-    QStringList leftOut() const { return leftOut_; }
-    QList<UndoFile> files() const { return files_; }
 
 private:
     template<typename Visit>
@@ -96,38 +66,13 @@ private:
         }
     }
 
-    /**
-     * Adds a command whose program is of System32, with texts in quotation marks at its places %1 and %2.
-     * @param what is brought back by it, and left out where the command can't say it
-     */
-    void give(const QString &what, QString command, const QStringList &texts)
-    {
-        if (!std::all_of(texts.begin(), texts.end(), canBeQuoted)) {
-            leaveOut(what);
-            return;
-        }
-        for (const QString &text : texts)
-            command = command.arg(quoted(text));
-        commands_.append(system32 + command);
-    }
-
-    void leaveOut(const QString &what)
-    {
-        if (!leftOut_.contains(printable(what)))
-            leftOut_.append(printable(what));
-    }
-
-    static QString named(const DiffRow &row) { return kindName(row.kind) + u' ' + row.path; }
-
     /** The rows of files and their rights and attributes that are about a file which Windows can have. */
     template<typename Visit>
     void eachOfFiles(DiffKind kind, Visit visit)
     {
         each(kind, [&](const DiffRow &row) {
-            if (isFilePath(row.path))
+            if (script_.takesFile(kind, row.path))
                 visit(row);
-            else
-                leaveOut(named(row));
         });
     }
 
@@ -137,7 +82,7 @@ private:
         QList<DiffRow> come;
         eachOfFiles(DiffKind::File, [&](const DiffRow &row) {
             if (row.path.endsWith("\\hiberfil.sys"_L1, Qt::CaseInsensitive))
-                give(named(row), row.before.isEmpty() ? u"powercfg.exe -h off"_s : u"powercfg.exe -h on"_s, {});
+                script_.switchHibernation(!row.before.isEmpty());
             else if (row.after.isEmpty())
                 gone.append(row);
             else if (row.before.isEmpty())
@@ -147,8 +92,12 @@ private:
         });
         for (const DiffRow &row : std::as_const(gone))
             renameBack(row, come);
-        for (const DiffRow &row : std::as_const(come))
-            give(named(row), prompt + (row.after == "folder"_L1 ? u"rd %1"_s : u"del /f %1"_s), {row.path});
+        for (const DiffRow &row : std::as_const(come)) {
+            if (row.after == "folder"_L1)
+                script_.removeFolder(row.path);
+            else
+                script_.removeFile(row.path);
+        }
     }
 
     /** A file of the same folder and size that has come since is what it was renamed to. */
@@ -159,34 +108,21 @@ private:
             return folder(row.path) == folder(gone.path) && row.after == gone.before;
         });
         if (renamed != come.end()) {
-            give(named(gone), prompt + u"ren %1 %2"_s, {renamed->path, gone.path.section(u'\\', -1)});
+            script_.renameFile(renamed->path, gone.path.section(u'\\', -1));
             come.erase(renamed);
         } else if (gone.before == "folder"_L1) {
-            give(named(gone), prompt + u"md %1"_s, {gone.path});
+            script_.makeFolder(gone.path);
         } else if (!isOfOneDrive(gone.path)) {
             putContentBack(gone);
         }
     }
 
-    /** These come back with its set-up. */
-    static bool isOfOneDrive(const QString &path)
-    {
-        return path.contains("\\Microsoft\\OneDrive\\"_L1, Qt::CaseInsensitive);
-    }
-
     void putContentBack(const DiffRow &row)
     {
-        const QString name = QString::number(files_.size() + 1) + u'-' + row.path.section(u'\\', -1);
-        const QString place = filesFolder_ + u'\\' + name;
-        if (!canBeQuoted(place) || !canBeQuoted(row.path)) {
-            leaveOut(named(row));
-            return;
-        }
         QFile file(before_.hostPath(row.path));
         if (!file.open(QIODevice::ReadOnly))
             throw MachineError{u"%1: %2"_s.arg(row.path, file.errorString())};
-        files_.append({name, file.readAll()});
-        give(named(row), prompt + u"copy /y %1 %2"_s, {place, row.path});
+        script_.putContent(row.path, file.readAll());
     }
 
     void bringPackagesBack(const QList<RegistryEdit> &registry)
@@ -199,114 +135,26 @@ private:
             families.append(packageNameOf(edit.key.mid(start).section(u'\\', 0, 0)));
         }
         families.removeDuplicates();
-        for (const QString &family : std::as_const(families)) {
-            // PowerShell would take any other sign for one of its own.
-            if (isWord(family))
-                commands_.append(
-                    system32 + u"WindowsPowerShell\\v1.0\\powershell.exe -Command Get-AppxPackage -allusers "_s + family
-                    + u" \" | Foreach {Add-AppxPackage -DisableDevelopmentMode -Register "
-                      "\\\"$($_.InstallLocation)\\AppXManifest.xml\\\"}\""_s);
-            else
-                leaveOut(u"package "_s + family);
-        }
+        for (const QString &family : std::as_const(families))
+            script_.installPackage(family);
         const bool oneDrive = std::any_of(rows_.begin(), rows_.end(), [](const DiffRow &row) {
             return row.kind == DiffKind::File && row.after.isEmpty() && isOfOneDrive(row.path);
         });
         if (oneDrive)
-            commands_.append(u"%SystemRoot%\\SysWOW64\\OneDriveSetup.exe /silent"_s);
-    }
-
-    void setAttributes(const DiffRow &row)
-    {
-        static const std::pair<quint32, QLatin1StringView> letters[] = {{AttributeReadOnly, "r"_L1},
-                                                                        {AttributeHidden, "h"_L1},
-                                                                        {AttributeSystem, "s"_L1},
-                                                                        {AttributeArchive, "a"_L1},
-                                                                        {AttributeNotIndexed, "i"_L1}};
-        const quint32 word = before_.attributes(row.path);
-        QString command = u"attrib.exe"_s;
-        for (const auto &[bit, letter] : letters)
-            command += ((word & bit) != 0 ? u" +"_s : u" -"_s) + letter;
-        give(named(row), command + u" %1"_s, {row.path});
+            script_.installOneDrive();
     }
 
     void setSecurity(const DiffRow &row)
     {
         const FileSecurity security = before_.security(row.path);
-        if (security.rights.isEmpty())
-            give(named(row), u"icacls.exe %1 /reset"_s, {row.path});
-        else
-            give(named(row), u"icacls.exe %1 /grant:r %2"_s, {row.path, security.rights});
-        give(named(row), u"icacls.exe %1 /setowner %2"_s,
-             {row.path, security.owner.isEmpty() ? QString(installationOwner) : security.owner});
-    }
-
-    void setBootOption(const DiffRow &row)
-    {
-        if (!isWord(row.path) || (!row.before.isEmpty() && !isWord(row.before)))
-            leaveOut(named(row));
-        else if (row.before.isEmpty())
-            give(named(row), u"bcdedit.exe /deletevalue "_s + row.path, {});
-        else
-            give(named(row), u"bcdedit.exe /set "_s + row.path + u' ' + row.before, {});
-    }
-
-    void switchTask(const DiffRow &row)
-    {
-        const bool enabled = row.before.startsWith("enabled"_L1);
-        give(named(row), u"schtasks.exe /CHANGE /TN %1"_s + (enabled ? u" /ENABLE"_s : u" /DISABLE"_s), {row.path});
-    }
-
-    void switchService(const DiffRow &row)
-    {
-        give(named(row), row.before == "running"_L1 ? u"sc.exe start %1"_s : u"sc.exe stop %1"_s, {row.path});
+        script_.setRights(row.path, security.rights);
+        script_.setOwner(row.path, security.owner.isEmpty() ? QString(installationOwner) : security.owner);
     }
 
     Machine &before_;
     QList<DiffRow> rows_;
-    QString filesFolder_;
-    QStringList commands_;
-    QStringList leftOut_;
-    QList<UndoFile> files_;
+    WayBackScript &script_;
 };
-
-/** "registry KEY", or "registry KEY: NAME" of a value, printable */
-QString namedEdit(const RegistryEdit &edit)
-{
-    using Kind = RegistryEdit::Kind;
-    const bool ofKey = edit.kind == Kind::MakeKey || edit.kind == Kind::RemoveKey;
-    return printable(kindName(DiffKind::Registry) + u' ' + edit.key
-                     + (ofKey ? QString() : u": "_s + valueName(edit.value)));
-}
-
-/** The registry editor takes a script of version 5 only in UTF-16 for sure. */
-QByteArray scriptBytes(const QList<RegistryEdit> &edits)
-{
-    QStringEncoder encoder(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
-    return encoder(writeRegistryEdits(edits).replace(u'\n', u"\r\n"_s));
-}
-
-QByteArray commandText(const QStringList &commands, const QString &script)
-{
-    QString text = u"rem The way back to the PC as it was before Optimize.\n"
-                   "rem\n"
-                   "rem 1. Import "_s
-                   + script + u" (a double click, or: reg import \""_s + script
-                   + u"\"). This can be done in Safe Mode.\n"
-                     "rem 2. Restart, so that services start as they did.\n"
-                     "rem 3. Give these commands in a command prompt of an administrator, in this folder.\n"
-                     "rem\n"_s;
-    for (const QString &command : commands)
-        text += command + u'\n';
-    return text.replace(u'\n', u"\r\n"_s).toUtf8();
-}
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
-        throw MachineError{u"%1: %2"_s.arg(QDir::toNativeSeparators(path), file.errorString())};
-}
 
 } // namespace
 
@@ -330,40 +178,22 @@ QList<RegistryEdit> registryUndo(const RegistryStore &before, const RegistryStor
     return edits;
 }
 
-Undo undoOf(Machine &before, Machine &after, const QString &filesFolder)
+WayBackScript undoOf(Machine &before, Machine &after, const QString &filesFolder)
 {
     const Database::Snapshot stillBefore(before.database());
     const Database::Snapshot stillAfter(after.database());
     const QList<RegistryEdit> edits = registryUndo(before.registry(), after.registry());
-    Undo undo;
+    WayBackScript script(filesFolder);
     for (const RegistryEdit &edit : edits) {
-        if (isOfPackage(edit.key))
-            continue;
-        if (fitsScript(edit))
-            undo.registry.append(edit);
-        else
-            undo.leftOut.append(namedEdit(edit));
+        if (!isOfPackage(edit.key))
+            script.edit(edit);
     }
-    const UndoCommands commands(before, after, edits, filesFolder);
-    undo.leftOut += commands.leftOut();
-    undo.commands = commands.commands();
-    undo.files = commands.files();
-    return undo;
+    UndoCommands(before, after, edits, script);
+    return script;
 }
 
-WrittenUndo writeUndo(Machine &before, Machine &after, const QString &file)
+WrittenWayBack writeUndo(Machine &before, Machine &after, const QString &file)
 {
-    const QFileInfo place(file);
-    const QString stem = place.path() + u'/' + place.completeBaseName();
-    const Undo undo = undoOf(before, after, place.completeBaseName() + u"-files"_s);
-    QStringList written{file, stem + u"-commands.txt"_s};
-    writeFile(written.at(0), scriptBytes(undo.registry));
-    writeFile(written.at(1), commandText(undo.commands, place.fileName()));
-    for (const UndoFile &content : undo.files) {
-        if (!QDir().mkpath(stem + u"-files"_s))
-            throw MachineError{u"%1-files: the folder can't be made"_s.arg(stem)};
-        written.append(stem + u"-files/"_s + content.name);
-        writeFile(written.last(), content.content);
-    }
-    return {written, undo.leftOut};
+    return undoOf(before, after, QFileInfo(file).completeBaseName() + u"-files"_s)
+        .write(file, u"The way back to the PC as it was before Optimize."_s);
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "machine/source/regfile.h"
+#include "wayback/waybackscript.h"
 
 class Machine;
 
@@ -13,36 +13,13 @@ class Machine;
  */
 QList<RegistryEdit> registryUndo(const RegistryStore &before, const RegistryStore &after);
 
-/** What has to be put where, because a command can't say it. */
-struct UndoFile
-{
-    QString name; ///< in the folder of the files
-    QByteArray content;
-};
-
-struct Undo
-{
-    QList<RegistryEdit> registry;
-    QStringList commands; ///< for the command prompt, in the order in which they are given
-    QList<UndoFile> files;
-    /** What can't be brought back so, since its name would say something else in a script or a command; printable. */
-    QStringList leftOut;
-};
-
-struct WrittenUndo
-{
-    QStringList files;
-    QStringList leftOut; ///< as in Undo
-};
-
 /**
  * What makes @p after as @p before was, but for the program's own files. Packages come back by commands: what the
  * registry says of them is the system's own record. Changes nothing in either. Throws MachineError.
  * @param filesFolder how the commands call the folder of the files
  */
-Undo undoOf(Machine &before, Machine &after, const QString &filesFolder);
+WayBackScript undoOf(Machine &before, Machine &after, const QString &filesFolder);
 /**
- * Writes the registry script as @p file, as the registry editor likes it, and beside it a text of the commands and a
- * folder of the files, both named after it. Throws MachineError.
+ * Writes that as WayBackScript::write() does. Throws MachineError.
  */
-WrittenUndo writeUndo(Machine &before, Machine &after, const QString &file);
+WrittenWayBack writeUndo(Machine &before, Machine &after, const QString &file);

@@ -114,14 +114,6 @@ QString describedPc(const Machine &machine, const QStringList &options)
     return options.isEmpty() ? machine.name() : u"%1 (Optimize run with %2)"_s.arg(machine.name(), options.join(u' '));
 }
 
-void printWritten(const WrittenUndo &undo)
-{
-    for (const QString &file : undo.files)
-        print(file + u'\n');
-    for (const QString &what : undo.leftOut)
-        print(u"left out: %1\n"_s.arg(what));
-}
-
 int runPreview(const Arguments &arguments)
 {
     const QStringList choice = automatizerOptions(arguments);

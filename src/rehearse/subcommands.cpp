@@ -6,6 +6,7 @@
 #include "console/programinterruption.h"
 #include "machine/machine.h"
 #include "platform/processground.h"
+#include "wayback/waybackscript.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -133,4 +134,12 @@ void writeReportFile(const QString &path, const QByteArray &report)
     write(file, path, report);
     if (!file.commit())
         fail(path, file.errorString());
+}
+
+void printWritten(const WrittenWayBack &wayBack)
+{
+    for (const QString &file : wayBack.files)
+        print(file + u'\n');
+    for (const QString &what : wayBack.leftOut)
+        print(u"left out: %1\n"_s.arg(what));
 }

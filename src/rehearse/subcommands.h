@@ -64,6 +64,10 @@ void print(const QByteArray &utf8);
  */
 bool waitForEnd(QProcess &process);
 
+struct WrittenWayBack;
+/** Prints the files, and what was left out. */
+void printWritten(const WrittenWayBack &wayBack);
+
 /** Fails before long work where a report can't be written. Leaves nothing there. Throws Failure. */
 void checkReportFile(const QString &path);
 /** The same for a report of several files, which no device or pipe can take. */

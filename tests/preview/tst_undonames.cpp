@@ -28,7 +28,7 @@ using Change = std::function<void(Machine &)>;
 
 struct Pair
 {
-    Undo wayBack() { return undoOf(*before, *after, u"undo-files"_s); }
+    WayBackScript wayBack() { return undoOf(*before, *after, u"undo-files"_s); }
 
     SmallMachine before;
     SmallMachine after;
@@ -92,7 +92,7 @@ void TestUndoNames::noForeignSectionIsWritten()
     after(*pair.after);
 
     const QString file = pair.before.beside(u"undo.reg"_s);
-    const WrittenUndo written = writeUndo(*pair.before, *pair.after, file);
+    const WrittenWayBack written = writeUndo(*pair.before, *pair.after, file);
 
     const QString text = QStringDecoder(QStringConverter::Utf16)(readFile(file));
     QVERIFY2(!text.contains(u"\n[-HKEY_LOCAL_MACHINE"_s) && !text.contains(u"\r[-HKEY_LOCAL_MACHINE"_s),
@@ -178,14 +178,14 @@ void TestUndoNames::noForeignCommandIsWritten()
         pair.before->setRunning(u"DiagTrack"_s, true);
         pair.after->setRunning(u"DiagTrack"_s, false);
 
-        const Undo undo = pair.wayBack();
+        const WayBackScript undo = pair.wayBack();
 
-        const QString commands = undo.commands.join(u'\n');
+        const QString commands = undo.commands().join(u'\n');
         QVERIFY2(!commands.contains(u"evil"_s), qPrintable(commands));
         QVERIFY2(commands.contains(u"DiagTrack"_s), qPrintable(commands));
-        QVERIFY(undo.files.isEmpty());
+        QVERIFY(undo.files().isEmpty());
         // What has come is sometimes taken away by a command that doesn't name it.
-        QVERIFY2(come || undo.leftOut.contains(leftOut), qPrintable(undo.leftOut.join(u'\n')));
+        QVERIFY2(come || undo.leftOut().contains(leftOut), qPrintable(undo.leftOut().join(u'\n')));
     }
 }
 
