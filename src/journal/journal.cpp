@@ -386,6 +386,8 @@ void Journal::endChanges(bool finished) const
     if (session_ != 0 && !ended_) {
         try {
             store_->endSession(session_, broken_ ? SessionState::BrokenOff : SessionState::Finished);
+            if (options_.afterSession != nullptr)
+                options_.afterSession(*this, session_);
         } catch (const MachineError &error) {
             failed(error.message);
         }

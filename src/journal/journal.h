@@ -18,6 +18,8 @@ enum class OwnPlace {
     Setting, ///< what the user has chosen for the program; unnoted
 };
 
+class Journal;
+
 struct JournalOptions
 {
     QString file{}; ///< host path of the journal
@@ -26,6 +28,8 @@ struct JournalOptions
     QString version{}; ///< of the program
     /** Tells of a key, or of a value in it. */
     OwnPlace (*ownPlace)(const QString &key, const QString &name) = nullptr;
+    /** Is called after each session that came to its end. May throw MachineError. */
+    void (*afterSession)(const Journal &journal, qint64 session) = nullptr;
 };
 
 /**

@@ -77,7 +77,8 @@ QString foldedItem(const Item &item)
 }
 
 JournalStore::JournalStore(const QString &file, Durability durability)
-    : alone_(file + u".lock"_s)
+    : file_(file)
+    , alone_(file + u".lock"_s)
 {
     const QString folder = QFileInfo(file).path();
     if (!QDir().mkpath(folder))

@@ -58,6 +58,9 @@ public:
     ~JournalStore();
     Q_DISABLE_COPY_MOVE(JournalStore)
 
+    /** The host path of the file. */
+    QString file() const { return file_; }
+
     qint64 beginSession(const QString &what, const QString &user, const QString &version);
     void endSession(qint64 session, SessionState state);
 
@@ -75,6 +78,7 @@ public:
     QList<Note> notesSince(qint64 firstSession) const;
 
 private:
+    QString file_;
     QLockFile alone_; ///< held while the file is open, by the first who opens it
     std::unique_ptr<Database> database_;
 };

@@ -4,6 +4,7 @@
 
 #include "machine/seam/machinesystem.h"
 #include "programplaces.h"
+#include "wayfiles.h"
 
 #include <QCoreApplication>
 
@@ -25,6 +26,7 @@ std::unique_ptr<Journal> openMachineJournal(const QString &machineFolder, Machin
     journal.user = qEnvironmentVariable("USERNAME");
     journal.version = QCoreApplication::applicationVersion();
     journal.ownPlace = placeInProgram;
+    journal.afterSession = keepWayBack;
     return std::make_unique<Journal>(std::move(onMachine), std::make_unique<MachineSystem>(machine), journal);
 }
 

@@ -7,6 +7,14 @@
 
 #include <QMap>
 
+/** Owner and rights of a file, as icacls takes them. */
+struct SecurityWords
+{
+    QString owner;
+    QString rights;     ///< to be granted; empty: those that the folder hands down
+    QString descriptor; ///< in place of rights, in the words of a security descriptor ("D:PAI(A;;FA;;;SY)"); or empty
+};
+
 /** What no stock tool puts back to the last byte is put back here, and refused where this process lacks the rights. */
 class SystemState : public SystemReader
 {
@@ -21,6 +29,9 @@ public:
     /** Owner and rights of a file, in a form that only setFileSecurity() has to understand; nothing without the file.
      */
     virtual std::optional<QByteArray> fileSecurity(const QString &windowsPath) const = 0;
+
+    /** What fileSecurity() has told, in words. */
+    virtual SecurityWords securityWords(const QByteArray &security) const = 0;
 
     /** The Windows path of a file, given by its host path. */
     virtual QString windowsPath(const QString &hostPath) const = 0;

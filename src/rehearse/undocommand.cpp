@@ -5,7 +5,7 @@
 #include "jobrunner.h"
 #include "journal/itemwords.h"
 #include "journal/machinejournal.h"
-#include "journal/takeback.h"
+#include "journal/wayfiles.h"
 #include "progress.h"
 #include "subcommands.h"
 
@@ -202,6 +202,11 @@ int runUndo(const Arguments &arguments)
         }
         return ExitDone;
     }
+    if (arguments.has("files"_L1)) {
+        const WrittenWayBack written = writeWayBack(journal, selection, absoluteFolder(arguments.value("files"_L1)));
+        printWritten(written);
+        return written.leftOut.isEmpty() ? ExitDone : ExitJobFailed;
+    }
     const QList<TakenItem> items = takeBackToEnd(journal, selection);
     report(arguments, itemsText(items), itemsJson(items));
     if (const QString failure = journal.takeFailure(); !failure.isEmpty())
@@ -218,6 +223,10 @@ constexpr OptionRow options[] = {
     {"item"_L1,    "N,..."_L1,  "take back these changes alone, by their numbers in the list"_L1},
     {"force"_L1,   {},          "take back what something else has changed since, too"_L1},
     {"json"_L1,    "FILE"_L1,   "write JSON"_L1},
+    {"files"_L1,   "FOLDER"_L1, "only write files: the way back for Windows' own tools"_L1,
+     "Changes nothing: writes\n.I way-back.reg\nand a list of commands into the folder, for Windows' own tools; both can be "
+     "used in Safe Mode.\nWhat can't be taken back this way is named.\n"
+     "The ten newest sessions have theirs already, in\n.I DIR/journal/files."_L1},
 };
 // clang-format on
 

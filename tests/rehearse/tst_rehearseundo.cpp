@@ -3,9 +3,11 @@
 
 #include "machine/compare/machinediff.h"
 #include "machine/database.h"
+#include "support/registryvalues.h"
 #include "support/rehearsing.h"
 #include "support/smallmachine.h"
 #include "support/suite.h"
+#include "support/undoing.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -26,7 +28,9 @@ QStringList differences(Machine &before, const QString &folder)
 {
     QStringList texts;
     for (const DiffRow &row : compareMachines(before, *Machine::open(folder))) {
-        if (!row.path.startsWith("HKEY_CURRENT_USER\\Software\\Kestrune"_L1) && !row.path.startsWith("program\\"_L1))
+        const bool isOwn = row.path.startsWith("HKEY_CURRENT_USER\\Software\\Kestrune"_L1)
+                           || row.path.startsWith("program\\"_L1) || row.path.endsWith("\\Temp\\tasks.xml"_L1);
+        if (!isOwn)
             texts.append(kindName(row.kind) + u' ' + row.path + u' ' + row.name);
     }
     return texts;
@@ -71,6 +75,10 @@ private Q_SLOTS:
     void takesOneItemBack();
     void takesBackSinceAMoment();
     void writesJson();
+    void filesBringEverythingBack_data();
+    void filesBringEverythingBack();
+    void keepsTheFilesOfTheLastSessions();
+    void keysThatOthersUseStay();
     void unelevatedRunsKeepNoJournal();
     void aRunThatCannotNoteSaysSo();
     void refusals_data();
@@ -170,6 +178,84 @@ void TestRehearseUndo::writesJson()
     QVERIFY(!items.isEmpty());
     for (const QJsonValue &item : items)
         QCOMPARE(item[u"verdict"_s].toString(), u"as it was"_s);
+}
+
+void TestRehearseUndo::filesBringEverythingBack_data()
+{
+    addColumns<QString>("machine");
+    QTest::newRow("Windows 10") << u"windows10"_s;
+    QTest::newRow("Windows 11") << u"windows11"_s;
+}
+
+/** With nothing but the system's own tools. */
+void TestRehearseUndo::filesBringEverythingBack()
+{
+    QFETCH(QString, machine);
+    const QTemporaryDir temporary;
+    const QString folder = temporary.filePath(u"machine"_s);
+    QCOMPARE(rehearse({u"new"_s, folder, u"--from"_s, machine}).exitCode, done);
+    copyMachine(*Machine::open(folder), temporary.filePath(u"before"_s));
+    const auto before = Machine::open(temporary.filePath(u"before"_s));
+    QCOMPARE(rehearse({u"run"_s, folder, u"optimize"_s}).exitCode, done);
+    QVERIFY(differences(*before, folder).size() > 100);
+
+    const Ended ended = rehearse({u"undo"_s, folder, u"--files"_s, temporary.filePath(u"files"_s)});
+    QCOMPARE(ended.errors, QByteArray());
+    QVERIFY2(!ended.output.contains("left out"), ended.output);
+    QCOMPARE(ended.exitCode, done);
+    QVERIFY(linesOf(ended).contains(temporary.filePath(u"files/way-back.reg"_s)));
+    QVERIFY(differences(*before, folder).size() > 100);
+
+    const QString refused = undo(*Machine::open(folder), temporary.filePath(u"files/way-back.reg"_s));
+    QVERIFY2(refused.isEmpty(), qPrintable(refused));
+    QCOMPARE(differences(*before, folder).join(u'\n'), QString());
+}
+
+void TestRehearseUndo::keepsTheFilesOfTheLastSessions()
+{
+    Changed machine;
+    const QDir files(machine.folder() + u"/journal/files"_s);
+    QStringList kept = files.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    QCOMPARE(kept.size(), 2);
+    QCOMPARE(kept.first().section(u'-', 1), u"Disable-services"_s);
+    // The last one first, as one goes back.
+    QCOMPARE(undo(*Machine::open(machine.folder()), files.filePath(kept.last() + u"/way-back.reg"_s)), QString());
+    QCOMPARE(undo(*Machine::open(machine.folder()), files.filePath(kept.first() + u"/way-back.reg"_s)), QString());
+    QCOMPARE(machine.differences(), QStringList());
+
+    for (int i = 0; i < 6; ++i) {
+        for (const QString &state : {u"on"_s, u"off"_s})
+            QCOMPARE(rehearse({u"run"_s, machine.folder(), u"tweak"_s, u"gaming"_s, u"4"_s, state}).exitCode, done);
+    }
+    kept = files.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    QCOMPARE(kept.size(), 10);
+    QVERIFY(!kept.first().startsWith(u"000001"_s));
+}
+
+/** A script removes a key with all that it holds. */
+void TestRehearseUndo::keysThatOthersUseStay()
+{
+    Changed machine;
+    const QString script = machine.beside(u"files/way-back.reg"_s);
+    const auto removedKeys = [&] {
+        QStringList keys;
+        for (const RegistryEdit &edit : parseRegistryScript(readFile(script), script)) {
+            if (edit.kind == RegistryEdit::Kind::RemoveKey)
+                keys.append(edit.key);
+        }
+        return keys;
+    };
+    QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--files"_s, machine.beside(u"files"_s)}).exitCode, done);
+    const QStringList removed = removedKeys();
+    QVERIFY(!removed.isEmpty());
+    setNumber(*Machine::open(machine.folder()), removed.first(), u"Somebody else's"_s, 1);
+
+    const Ended ended = rehearse({u"undo"_s, machine.folder(), u"--files"_s, machine.beside(u"files"_s)});
+    QCOMPARE(ended.exitCode, jobFailed);
+    QVERIFY2(QString::fromUtf8(ended.output).contains(u"left out: "_s)
+                 && QString::fromUtf8(ended.output).contains(removed.first()),
+             ended.output);
+    QVERIFY(!removedKeys().contains(removed.first()));
 }
 
 void TestRehearseUndo::unelevatedRunsKeepNoJournal()

@@ -13,6 +13,12 @@ namespace {
 
 constexpr char separator = '\n'; // in no name of a user
 
+FileSecurity securityOf(const QByteArray &security)
+{
+    const qsizetype end = security.indexOf(separator);
+    return {QString::fromUtf8(security.first(end)), QString::fromUtf8(security.sliced(end + 1))};
+}
+
 } // namespace
 
 KeyContent MachineSystem::key(const QString &path) const
@@ -62,6 +68,12 @@ std::optional<QByteArray> MachineSystem::fileSecurity(const QString &windowsPath
     return security.owner.toUtf8() + separator + security.rights.toUtf8();
 }
 
+SecurityWords MachineSystem::securityWords(const QByteArray &security) const
+{
+    const FileSecurity parts = securityOf(security);
+    return {parts.owner.isEmpty() ? QString(installationOwner) : parts.owner, parts.rights, {}};
+}
+
 QString MachineSystem::windowsPath(const QString &hostPath) const
 {
     return machine_.windowsPath(hostPath);
@@ -101,10 +113,8 @@ bool MachineSystem::removeEmptyKey(const QString &path)
 
 bool MachineSystem::setFileSecurity(const QString &windowsPath, const QByteArray &security)
 {
-    const qsizetype end = security.indexOf(separator);
-    if (end < 0 || !QFileInfo::exists(machine_.hostPath(windowsPath)))
+    if (!security.contains(separator) || !QFileInfo::exists(machine_.hostPath(windowsPath)))
         return false;
-    machine_.setSecurity(windowsPath,
-                         {QString::fromUtf8(security.first(end)), QString::fromUtf8(security.sliced(end + 1))});
+    machine_.setSecurity(windowsPath, securityOf(security));
     return true;
 }

@@ -26,6 +26,7 @@ public:
     std::optional<bool> isTaskEnabled(const QString &path) const override;
     std::optional<QMap<QString, QString>> bootOptions() const override;
     std::optional<QByteArray> fileSecurity(const QString &windowsPath) const override;
+    SecurityWords securityWords(const QByteArray &security) const override;
     QString windowsPath(const QString &hostPath) const override;
 
     bool setValue(const QString &key, const RegistryValue &value) override;

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "wayfiles.h"
+
+#include "itemwords.h"
+#include "machine/machineerror.h"
+#include "platform/windowsfacts.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString scriptName = u"way-back.reg"_s;
+
+/** Turns a plan into steps. */
+class ScriptOfPlan
+{
+public:
+    ScriptOfPlan(const Journal &journal, const QList<TakenItem> &plan)
+        : journal_(journal)
+        , script_(u"way-back-files"_s)
+    {
+        for (const TakenItem &item : plan) {
+            if (item.verdict == WayBack::Open)
+                add(item.item, item.before);
+            else if (item.verdict != WayBack::AsItWas)
+                leaveOut(item.item, item.why);
+        }
+    }
+
+    const WayBackScript &script() const { return script_; }
+
+private:
+    void leaveOut(const Item &item, const QString &why) { script_.leaveOut(itemTitle(item) + u": "_s + why); }
+
+    void add(const Item &item, const ItemState &before)
+    {
+        switch (item.kind) {
+        case ItemKind::Value:
+            return addValue(item, before);
+        case ItemKind::Key:
+            return addKey(item, before);
+        case ItemKind::RunState:
+            return script_.startService(item.subject, before.there);
+        case ItemKind::Task:
+            return script_.enableTask(item.subject, before.there);
+        case ItemKind::Package:
+            return addPackage(item.subject, before.there);
+        case ItemKind::BootOption:
+            return script_.setBootOption(item.subject,
+                                         before.there ? std::optional(QString::fromUtf8(before.data)) : std::nullopt);
+        case ItemKind::Hibernation:
+            return script_.switchHibernation(before.there);
+        case ItemKind::Security:
+            return addSecurity(item, before);
+        case ItemKind::Attributes:
+            if (before.there && script_.takesFile(DiffKind::Attribute, item.subject))
+                script_.setAttributes(item.subject, before.type);
+            return;
+        case ItemKind::Content:
+            return addContent(item, before);
+        case ItemKind::Move:
+            return addMove(item);
+        }
+    }
+
+    void addValue(const Item &item, const ItemState &before)
+    {
+        const RegistryValue value{item.name, static_cast<RegistryType>(before.type), before.data};
+        removedValues_.insert(foldedItem(item));
+        script_.edit(
+            {before.there ? RegistryEdit::Kind::SetValue : RegistryEdit::Kind::RemoveValue, item.subject, value});
+    }
+
+    /** A script removes a key with all that it holds, so it must hold nothing that stays. The lowest comes first. */
+    void addKey(const Item &item, const ItemState &before)
+    {
+        if (before.there) {
+            script_.edit({RegistryEdit::Kind::MakeKey, item.subject, {}});
+            return;
+        }
+        const KeyContent content = journal_.system().key(item.subject);
+        const bool isEmptied =
+            std::all_of(content.values.cbegin(), content.values.cend(),
+                        [&](const RegistryValue &value) {
+                            return removedValues_.contains(foldedItem({ItemKind::Value, item.subject, value.name}));
+                        })
+            && std::all_of(content.subkeys.cbegin(), content.subkeys.cend(), [&](const QString &name) {
+                   return removedKeys_.contains(foldedItem({ItemKind::Key, item.subject + u'\\' + name}));
+               });
+        if (!isEmptied) {
+            leaveOut(item, u"something else has put values or keys into it"_s);
+            return;
+        }
+        removedKeys_.insert(foldedItem(item));
+        script_.edit({RegistryEdit::Kind::RemoveKey, item.subject, {}});
+    }
+
+    void addPackage(const QString &name, bool installed)
+    {
+        if (name == oneDriveName)
+            return installed ? script_.installOneDrive() : script_.removeOneDrive();
+        return installed ? script_.installPackage(name) : script_.removePackage(name);
+    }
+
+    void addSecurity(const Item &item, const ItemState &before)
+    {
+        if (!before.there || !script_.takesFile(DiffKind::Security, item.subject))
+            return;
+        const SecurityWords words = journal_.system().securityWords(before.data);
+        if (words.descriptor.isEmpty())
+            script_.setRights(item.subject, words.rights);
+        else
+            script_.restoreRights(item.subject, words.descriptor);
+        script_.setOwner(item.subject, words.owner);
+    }
+
+    void addContent(const Item &item, const ItemState &before)
+    {
+        if (!script_.takesFile(DiffKind::File, item.subject))
+            return;
+        if (before.there)
+            script_.putContent(item.subject, before.data);
+        else
+            script_.removeFile(item.subject);
+    }
+
+    /** The program gives files other names and never other folders. */
+    void addMove(const Item &item)
+    {
+        if (script_.takesFile(DiffKind::File, item.name))
+            script_.renameFile(item.name, item.subject.section(u'\\', -1));
+    }
+
+    const Journal &journal_;
+    WayBackScript script_;
+    QSet<QString> removedValues_;
+    QSet<QString> removedKeys_;
+};
+
+/** "000012-Disable-services" */
+QString folderName(const Session &session)
+{
+    return QString::number(session.id).rightJustified(6, u'0') + u'-' + QString(session.what).replace(u' ', u'-');
+}
+
+void keepLast(const QString &folder)
+{
+    constexpr qsizetype kept = 10;
+
+    const QStringList names = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    for (qsizetype i = 0; i < names.size() - kept; ++i)
+        QDir(folder + u'/' + names.at(i)).removeRecursively();
+}
+
+} // namespace
+
+WayBackScript wayBackScript(const Journal &journal, const Selection &selection)
+{
+    return ScriptOfPlan(journal, planWayBack(journal, selection)).script();
+}
+
+WrittenWayBack writeWayBack(const Journal &journal, const Selection &selection, const QString &folder)
+{
+    if (!QDir().mkpath(folder))
+        throw MachineError{u"%1: the folder can't be made"_s.arg(QDir::toNativeSeparators(folder))};
+    return wayBackScript(journal, selection)
+        .write(folder + u'/' + scriptName, u"The way back to what was there before Kestrune changed it."_s);
+}
+
+void keepWayBack(const Journal &journal, qint64 session)
+{
+    const QList<Session> sessions = journal.store().sessions();
+    const auto found =
+        std::find_if(sessions.cbegin(), sessions.cend(), [session](const Session &each) { return each.id == session; });
+    if (found == sessions.cend() || found->changes == 0)
+        return;
+    const QString folder = QFileInfo(journal.store().file()).path() + u"/files"_s;
+    writeWayBack(journal, {.firstSession = session, .lastSession = session}, folder + u'/' + folderName(*found));
+    keepLast(folder);
+}
