@@ -12,6 +12,9 @@ target_compile_definitions(kestrune_options INTERFACE
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
     QT_STRICT_ITERATORS
     QT_DISABLE_DEPRECATED_BEFORE=0x060400
+    # Windows' headers define macros of the names min and max otherwise; one answer for all, since some headers of the
+    # compiler's ask for it, and what is precompiled holds only where the answer is the same.
+    $<$<BOOL:${WIN32}>:NOMINMAX>
 )
 
 if(MSVC)
