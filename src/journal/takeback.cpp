@@ -255,8 +255,9 @@ private:
 
 TakenItem judgedMove(const Journal &journal, const Note &note)
 {
-    TakenItem item{note.id, note.item, {}, {}, WayBack::Open, {}, false};
-    if (QFileInfo::exists(journal.hostPath(note.item.subject))) {
+    const bool isBack = QFileInfo::exists(journal.hostPath(note.item.subject));
+    TakenItem item{note.id, note.item, {true}, {isBack}, WayBack::Open, {}, false};
+    if (isBack) {
         item.verdict = WayBack::AsItWas;
     } else if (!QFileInfo::exists(journal.hostPath(note.item.name))) {
         item.verdict = WayBack::Impossible;
@@ -270,12 +271,14 @@ TakenItem judged(const Journal &journal, const Thing &thing, const Moves &moves)
     const Note &note = thing.first;
     const ItemState now = journal.stateOf(moves.followed(journal, note.item));
     TakenItem item{note.id, note.item, note.before, now, WayBack::Open, {}, note.own};
+    // As it was left, whatever has become of it in between, such as a change that was taken back.
+    const bool isAsLeft = thing.lastOwn && *thing.lastOwn == item.now;
     if (item.now == item.before) {
         item.verdict = WayBack::AsItWas;
-    } else if (thing.changedLater) {
+    } else if (thing.changedLater && !isAsLeft) {
         item.verdict = WayBack::Changed;
         item.why = u"a later session has changed it, too"_s;
-    } else if (thing.lastOwn && *thing.lastOwn != item.now) {
+    } else if (thing.lastOwn && !isAsLeft) {
         item.verdict = WayBack::Changed;
         item.why = u"something else has changed it since"_s;
     }
@@ -291,10 +294,9 @@ bool isWanted(const Selection &selection, const TakenItem &item)
 /** The verdict once all has been tried. */
 void judgeAfterwards(const Journal &journal, const Selection &selection, TakenItem &item)
 {
-    item.now = journal.stateOf(item.item);
-    const bool isBack = item.item.kind == ItemKind::Move ? QFileInfo::exists(journal.hostPath(item.item.subject))
-                                                         : item.now == item.before;
-    if (isBack) {
+    item.now = item.item.kind == ItemKind::Move ? ItemState{QFileInfo::exists(journal.hostPath(item.item.subject))}
+                                                : journal.stateOf(item.item);
+    if (item.now == item.before) {
         item.verdict = WayBack::AsItWas;
         item.why.clear();
     } else if (item.verdict != WayBack::Changed || selection.evenChanged) {

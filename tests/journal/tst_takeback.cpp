@@ -253,6 +253,7 @@ private Q_SLOTS:
     void aRestoreComesBackToo();
     void whateverWasDoneComesBack_data();
     void whateverWasDoneComesBack();
+    void anEarlierSessionComesBackOnceTheLaterOneIsBack();
     void atWhateverMomentItEnds();
 };
 
@@ -340,6 +341,27 @@ void TestTakeBack::whateverWasDoneComesBack()
     }
     QCOMPARE(journaled.takeAllBack().join(u'\n'), QString());
     QCOMPARE(journaled.differences().join(u'\n'), QString());
+}
+
+void TestTakeBack::anEarlierSessionComesBackOnceTheLaterOneIsBack()
+{
+    TestMachine pc;
+    pc.write(u"HKEY_CURRENT_USER\\Software\\Some"_s, u"Value"_s, 1);
+    const Journaled journaled(pc);
+    for (const int value : {2, 3}) {
+        const ChangeSession session(u"Tweaks"_s);
+        platform().openKey(u"HKEY_CURRENT_USER\\Software\\Some"_s)->setValue(u"Value"_s, value);
+    }
+    const QList<Session> sessions = journaled.journal().store().sessions();
+    const auto only = [](const Session &session) {
+        Selection selection;
+        selection.firstSession = selection.lastSession = session.id;
+        return selection;
+    };
+    QCOMPARE(planWayBack(journaled.journal(), only(sessions.at(0))).first().verdict, WayBack::Changed);
+    QCOMPARE(takeBack(journaled.journal(), only(sessions.at(1))).first().verdict, WayBack::AsItWas);
+    QCOMPARE(takeBack(journaled.journal(), only(sessions.at(0))).first().verdict, WayBack::AsItWas);
+    QCOMPARE(journaled.differences(), QStringList());
 }
 
 void TestTakeBack::atWhateverMomentItEnds()
