@@ -265,6 +265,14 @@
 &lt;/body&gt;&lt;/html&gt;</translation>
 </message>
 <message>
+<source>%1 bytes</source>
+<translation>%1 Byte</translation>
+</message>
+<message>
+<source>a later session has changed it, too</source>
+<translation>eine spätere Sitzung hat es auch geändert</translation>
+</message>
+<message>
 <source>A newer version of Kestrune is available!<byte value="xd"/>
 Would you like to visit the website for download?<byte value="xd"/>
 <byte value="xd"/>
@@ -279,6 +287,10 @@ Onlineversion: %2</translation>
 <message>
 <source>About</source>
 <translation>Info</translation>
+</message>
+<message>
+<source>absent</source>
+<translation>nicht vorhanden</translation>
 </message>
 <message>
 <source>Add indexing attribute of %1 finished</source>
@@ -307,6 +319,10 @@ Die Optimierungen stammen von den Seiten Dienste, Geplante Aufgaben, Programme u
 <translation>Übernehmen</translation>
 </message>
 <message>
+<source>Apply features</source>
+<translation>Features anwenden</translation>
+</message>
+<message>
 <source>Apply features finished successfully.</source>
 <translation>Anwenden der Features erfolgreich abgeschlossen.</translation>
 </message>
@@ -329,6 +345,10 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 <translation>Möchten Sie wirklich den Start aller geplanten Aufgaben wiederherstellen?</translation>
 </message>
 <message>
+<source>as it was</source>
+<translation>wie es war</translation>
+</message>
+<message>
 <source>ASSISTANT - disable a list of non vital services</source>
 <translation>ASSISTENT - nicht notwendige Dienste deaktivieren</translation>
 </message>
@@ -345,12 +365,24 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 <translation>Assistent - keine Aufgaben zu deaktivieren</translation>
 </message>
 <message>
+<source>at boot</source>
+<translation>beim Systemstart</translation>
+</message>
+<message>
+<source>Attributes of %1</source>
+<translation>Attribute von %1</translation>
+</message>
+<message>
 <source>Auto</source>
 <translation>Auto</translation>
 </message>
 <message>
 <source>Auto started programs disabled:</source>
 <translation>Deaktivierte Autostartprogramme:</translation>
+</message>
+<message>
+<source>automatic</source>
+<translation>automatisch</translation>
 </message>
 <message>
 <source>Automatic start</source>
@@ -389,6 +421,18 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 <translation>Bluetooth-Audio</translation>
 </message>
 <message>
+<source>Boot option %1</source>
+<translation>Startoption %1</translation>
+</message>
+<message>
+<source>broken off</source>
+<translation>abgebrochen</translation>
+</message>
+<message>
+<source>by the system</source>
+<translation>durch das System</translation>
+</message>
+<message>
 <source>Cancel</source>
 <translation>Abbrechen</translation>
 </message>
@@ -403,6 +447,14 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 <message>
 <source>Capacity:</source>
 <translation>Kapazität:</translation>
+</message>
+<message>
+<source>changed</source>
+<translation>geändert</translation>
+</message>
+<message>
+<source>changed again</source>
+<translation>wieder geändert</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -427,6 +479,14 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 <message>
 <source>Configure auto started programs done!</source>
 <translation>Konfiguration der Autostartprogramme abgeschlossen!</translation>
+</message>
+<message>
+<source>Content indexing off</source>
+<translation>Inhaltsindizierung aus</translation>
+</message>
+<message>
+<source>Content indexing on</source>
+<translation>Inhaltsindizierung ein</translation>
 </message>
 <message>
 <source>CPU</source>
@@ -569,6 +629,10 @@ vor allem bei Apps zur Videowiedergabe)</translation>
 <translation>Prefetcher deaktivieren  (verhindert das Vorausladen von Anwendungen)</translation>
 </message>
 <message>
+<source>Disable programs</source>
+<translation>Programme deaktivieren</translation>
+</message>
+<message>
 <source>Disable scheduled tasks</source>
 <translation>Geplante Aufgaben deaktivieren</translation>
 </message>
@@ -579,6 +643,10 @@ vor allem bei Apps zur Videowiedergabe)</translation>
 <message>
 <source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
 <translation>SearchHost.exe deaktivieren  (Dateisuche; die erweiterte Suche kann gestört sein)</translation>
+</message>
+<message>
+<source>Disable services</source>
+<translation>Dienste deaktivieren</translation>
 </message>
 <message>
 <source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
@@ -663,6 +731,14 @@ werden nur die von Ihnen deaktivierten Dienste wiederhergestellt</translation>
 <translation>Spielmodus aktivieren  (standardmäßig aktiviert)</translation>
 </message>
 <message>
+<source>Enable programs</source>
+<translation>Programme aktivieren</translation>
+</message>
+<message>
+<source>Enable services</source>
+<translation>Dienste aktivieren</translation>
+</message>
+<message>
 <source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
 <translation>Kontextmenü wie in Windows 10 aktivieren  (alle Einträge werden angezeigt)</translation>
 </message>
@@ -727,6 +803,10 @@ werden nur die von Ihnen deaktivierten Dienste wiederhergestellt</translation>
 <translation>Features: Windows-Optimierungen werden zurückgesetzt</translation>
 </message>
 <message>
+<source>File %1</source>
+<translation>Datei %1</translation>
+</message>
+<message>
 <source>Files sharing</source>
 <translation>Dateifreigabe</translation>
 </message>
@@ -775,6 +855,10 @@ werden nur die von Ihnen deaktivierten Dienste wiederhergestellt</translation>
 <translation>Handles</translation>
 </message>
 <message>
+<source>Hibernation</source>
+<translation>Ruhezustand</translation>
+</message>
+<message>
 <source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
 <translation>Wenn Sie weder Headset noch Audiogeräte über Bluetooth verwenden, können Sie diese Option deaktivieren</translation>
 </message>
@@ -793,6 +877,10 @@ werden nur die von Ihnen deaktivierten Dienste wiederhergestellt</translation>
 <message>
 <source>Install packages</source>
 <translation>Pakete installieren</translation>
+</message>
+<message>
+<source>installed</source>
+<translation>installiert</translation>
 </message>
 <message>
 <source>Intelligent personal assistant</source>
@@ -815,6 +903,10 @@ Markieren Sie sie zum Optimieren, oder heben Sie die Markierung auf, um die Stan
 <message>
 <source>interval in seconds:</source>
 <translation>Intervall in Sekunden:</translation>
+</message>
+<message>
+<source>it didn't come back</source>
+<translation>es kam nicht zurück</translation>
 </message>
 <message>
 <source>Keep features</source>
@@ -869,6 +961,10 @@ Mit „Deinstallierte Pakete anzeigen“ unter der Liste können Sie sie direkt 
 <translation>Bildschirminfos werden geladen...</translation>
 </message>
 <message>
+<source>Looking around</source>
+<translation>Umsehen</translation>
+</message>
+<message>
 <source>Mail &amp; Calendar</source>
 <translation>Mail und Kalender</translation>
 </message>
@@ -883,6 +979,10 @@ Mit „Deinstallierte Pakete anzeigen“ unter der Liste können Sie sie direkt 
 <message>
 <source>Manual</source>
 <translation>Manuell</translation>
+</message>
+<message>
+<source>manual</source>
+<translation>manuell</translation>
 </message>
 <message>
 <source>Manual start</source>
@@ -949,8 +1049,20 @@ Mit „Deinstallierte Pakete anzeigen“ unter der Liste können Sie sie direkt 
 <translation>Keine Optimierungen gefunden!</translation>
 </message>
 <message>
+<source>not possible</source>
+<translation>nicht möglich</translation>
+</message>
+<message>
+<source>off</source>
+<translation>aus</translation>
+</message>
+<message>
 <source>Old Xbox App, no longer supported!</source>
 <translation>Alte Xbox-App, wird nicht mehr unterstützt!</translation>
+</message>
+<message>
+<source>on</source>
+<translation>ein</translation>
 </message>
 <message>
 <source>on drive</source>
@@ -981,6 +1093,14 @@ Mit „Deinstallierte Pakete anzeigen“ unter der Liste können Sie sie direkt 
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
 <translation>Andernfalls werden einige geplante Aufgaben nicht erkannt!</translation>
+</message>
+<message>
+<source>Owner and rights of %1</source>
+<translation>Besitzer und Rechte von %1</translation>
+</message>
+<message>
+<source>Package %1</source>
+<translation>Paket %1</translation>
 </message>
 <message>
 <source>package: </source>
@@ -1023,6 +1143,10 @@ Mit „Deinstallierte Pakete anzeigen“ unter der Liste können Sie sie direkt 
 <translation>Smartphone-Link</translation>
 </message>
 <message>
+<source>Place of the file %1</source>
+<translation>Ort der Datei %1</translation>
+</message>
+<message>
 <source>Printer</source>
 <translation>Drucker</translation>
 </message>
@@ -1043,6 +1167,10 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 <message>
 <source>processes</source>
 <translation>Prozesse</translation>
+</message>
+<message>
+<source>Program started at logon: %1</source>
+<translation>Programm beim Anmelden: %1</translation>
 </message>
 <message>
 <source>Programs</source>
@@ -1077,6 +1205,14 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 <message>
 <source>Refresh</source>
 <translation>Aktualisieren</translation>
+</message>
+<message>
+<source>Registry key %1</source>
+<translation>Registrierungsschlüssel %1</translation>
+</message>
+<message>
+<source>Registry value %1</source>
+<translation>Registrierungswert %1</translation>
 </message>
 <message>
 <source>Remove indexing attribute of %1</source>
@@ -1129,12 +1265,32 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 <translation>Geplante Aufgaben wiederherstellen</translation>
 </message>
 <message>
+<source>running</source>
+<translation>läuft</translation>
+</message>
+<message>
+<source>Scheduled task %1</source>
+<translation>Geplante Aufgabe %1</translation>
+</message>
+<message>
 <source>Scheduled tasks</source>
 <translation>Geplante Aufgaben</translation>
 </message>
 <message>
 <source>Screenshot tool</source>
 <translation>Tool für Bildschirmfotos</translation>
+</message>
+<message>
+<source>Service %1: delayed start</source>
+<translation>Dienst %1: verzögerter Start</translation>
+</message>
+<message>
+<source>Service %1: run state</source>
+<translation>Dienst %1: Ausführung</translation>
+</message>
+<message>
+<source>Service %1: start mode</source>
+<translation>Dienst %1: Startart</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1199,12 +1355,20 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 (mit einem guten Prozessor verringert dies die Latenz)</translation>
 </message>
 <message>
+<source>something else has changed it since</source>
+<translation>etwas anderes hat es seitdem geändert</translation>
+</message>
+<message>
 <source>SSD</source>
 <translation>SSD</translation>
 </message>
 <message>
 <source>Start mode</source>
 <translation>Starttyp</translation>
+</message>
+<message>
+<source>Start of services</source>
+<translation>Start von Diensten</translation>
 </message>
 <message>
 <source>Start service:</source>
@@ -1231,6 +1395,10 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 <translation>Dienst wird beendet:</translation>
 </message>
 <message>
+<source>stopped</source>
+<translation>angehalten</translation>
+</message>
+<message>
 <source>stopped:</source>
 <translation>beendet:</translation>
 </message>
@@ -1247,6 +1415,10 @@ info</translation>
 <message>
 <source>System Information</source>
 <translation>Systeminformationen</translation>
+</message>
+<message>
+<source>Take back</source>
+<translation>Zurücknehmen</translation>
 </message>
 <message>
 <source>Task:</source>
@@ -1277,16 +1449,32 @@ info</translation>
 <translation>Aufgaben:</translation>
 </message>
 <message>
+<source>the file is at neither place</source>
+<translation>die Datei ist an keinem der beiden Orte</translation>
+</message>
+<message>
 <source>Theme:</source>
 <translation>Design:</translation>
+</message>
+<message>
+<source>there</source>
+<translation>vorhanden</translation>
 </message>
 <message>
 <source>threads</source>
 <translation>Threads</translation>
 </message>
 <message>
+<source>Tweaks</source>
+<translation>Optimierungen</translation>
+</message>
+<message>
 <source>Uncheck all</source>
 <translation>Alle Markierungen aufheben</translation>
+</message>
+<message>
+<source>under way</source>
+<translation>im Gange</translation>
 </message>
 <message>
 <source>Uninstall</source>

@@ -265,6 +265,14 @@
 &lt;/body&gt;&lt;/html&gt;</translation>
 </message>
 <message>
+<source>%1 bytes</source>
+<translation>%1 bytes</translation>
+</message>
+<message>
+<source>a later session has changed it, too</source>
+<translation>una sesión posterior también lo ha cambiado</translation>
+</message>
+<message>
 <source>A newer version of Kestrune is available!<byte value="xd"/>
 Would you like to visit the website for download?<byte value="xd"/>
 <byte value="xd"/>
@@ -279,6 +287,10 @@ Versión en línea: %2</translation>
 <message>
 <source>About</source>
 <translation>Acerca de</translation>
+</message>
+<message>
+<source>absent</source>
+<translation>ausente</translation>
 </message>
 <message>
 <source>Add indexing attribute of %1 finished</source>
@@ -307,6 +319,10 @@ Las optimizaciones proceden de las páginas Servicios, Tareas programadas, Progr
 <translation>Aplicar</translation>
 </message>
 <message>
+<source>Apply features</source>
+<translation>Aplicar funciones</translation>
+</message>
+<message>
 <source>Apply features finished successfully.</source>
 <translation>Funciones aplicadas correctamente.</translation>
 </message>
@@ -329,6 +345,10 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 <translation>¿Seguro que desea restaurar el inicio de todas las tareas programadas?</translation>
 </message>
 <message>
+<source>as it was</source>
+<translation>como estaba</translation>
+</message>
+<message>
 <source>ASSISTANT - disable a list of non vital services</source>
 <translation>ASISTENTE: deshabilitar servicios no vitales</translation>
 </message>
@@ -345,12 +365,24 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 <translation>Asistente: no hay tareas que desactivar</translation>
 </message>
 <message>
+<source>at boot</source>
+<translation>al arrancar</translation>
+</message>
+<message>
+<source>Attributes of %1</source>
+<translation>Atributos de %1</translation>
+</message>
+<message>
 <source>Auto</source>
 <translation>Auto</translation>
 </message>
 <message>
 <source>Auto started programs disabled:</source>
 <translation>Programas de inicio deshabilitados:</translation>
+</message>
+<message>
+<source>automatic</source>
+<translation>automático</translation>
 </message>
 <message>
 <source>Automatic start</source>
@@ -389,6 +421,18 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 <translation>Audio Bluetooth</translation>
 </message>
 <message>
+<source>Boot option %1</source>
+<translation>Opción de arranque %1</translation>
+</message>
+<message>
+<source>broken off</source>
+<translation>interrumpido</translation>
+</message>
+<message>
+<source>by the system</source>
+<translation>por el sistema</translation>
+</message>
+<message>
 <source>Cancel</source>
 <translation>Cancelar</translation>
 </message>
@@ -403,6 +447,14 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 <message>
 <source>Capacity:</source>
 <translation>Capacidad:</translation>
+</message>
+<message>
+<source>changed</source>
+<translation>cambiado</translation>
+</message>
+<message>
+<source>changed again</source>
+<translation>cambiado de nuevo</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -427,6 +479,14 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 <message>
 <source>Configure auto started programs done!</source>
 <translation>¡Configuración de los programas de inicio completada!</translation>
+</message>
+<message>
+<source>Content indexing off</source>
+<translation>Indexación de contenido desactivada</translation>
+</message>
+<message>
+<source>Content indexing on</source>
+<translation>Indexación de contenido activada</translation>
 </message>
 <message>
 <source>CPU</source>
@@ -569,6 +629,10 @@ de pantalla completa, sobre todo en aplicaciones de vídeo)</translation>
 <translation>Deshabilitar Prefetcher  (impide la precarga de aplicaciones)</translation>
 </message>
 <message>
+<source>Disable programs</source>
+<translation>Deshabilitar programas</translation>
+</message>
+<message>
 <source>Disable scheduled tasks</source>
 <translation>Deshabilitar tareas programadas</translation>
 </message>
@@ -579,6 +643,10 @@ de pantalla completa, sobre todo en aplicaciones de vídeo)</translation>
 <message>
 <source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
 <translation>Deshabilitar SearchHost.exe  (busca archivos; la búsqueda avanzada puede fallar)</translation>
+</message>
+<message>
+<source>Disable services</source>
+<translation>Deshabilitar servicios</translation>
 </message>
 <message>
 <source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
@@ -663,6 +731,14 @@ solo se restaurarán los servicios que usted deshabilitó</translation>
 <translation>Habilitar el modo de juego  (habilitado de forma predeterminada)</translation>
 </message>
 <message>
+<source>Enable programs</source>
+<translation>Habilitar programas</translation>
+</message>
+<message>
+<source>Enable services</source>
+<translation>Habilitar servicios</translation>
+</message>
+<message>
 <source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
 <translation>Habilitar el menú contextual de Windows 10  (se muestran todas sus entradas)</translation>
 </message>
@@ -727,6 +803,10 @@ solo se restaurarán los servicios que usted deshabilitó</translation>
 <translation>Funciones: restableciendo optimizaciones de Windows</translation>
 </message>
 <message>
+<source>File %1</source>
+<translation>Archivo %1</translation>
+</message>
+<message>
 <source>Files sharing</source>
 <translation>Uso compartido de archivos</translation>
 </message>
@@ -775,6 +855,10 @@ solo se restaurarán los servicios que usted deshabilitó</translation>
 <translation>identificadores</translation>
 </message>
 <message>
+<source>Hibernation</source>
+<translation>Hibernación</translation>
+</message>
+<message>
 <source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
 <translation>Si no tiene auriculares ni equipos de audio conectados por Bluetooth, puede desmarcar esta opción</translation>
 </message>
@@ -793,6 +877,10 @@ solo se restaurarán los servicios que usted deshabilitó</translation>
 <message>
 <source>Install packages</source>
 <translation>Instalar paquetes</translation>
+</message>
+<message>
+<source>installed</source>
+<translation>instalado</translation>
 </message>
 <message>
 <source>Intelligent personal assistant</source>
@@ -815,6 +903,10 @@ Márquelas para optimizar o desmárquelas para restaurar los valores predetermin
 <message>
 <source>interval in seconds:</source>
 <translation>intervalo en segundos:</translation>
+</message>
+<message>
+<source>it didn't come back</source>
+<translation>no se pudo recuperar</translation>
 </message>
 <message>
 <source>Keep features</source>
@@ -869,6 +961,10 @@ Puede volver a instalarlos directamente haciendo clic en «Ver paquetes desinsta
 <translation>cargando datos de la pantalla...</translation>
 </message>
 <message>
+<source>Looking around</source>
+<translation>Consulta</translation>
+</message>
+<message>
 <source>Mail &amp; Calendar</source>
 <translation>Correo y Calendario</translation>
 </message>
@@ -883,6 +979,10 @@ Puede volver a instalarlos directamente haciendo clic en «Ver paquetes desinsta
 <message>
 <source>Manual</source>
 <translation>Manual</translation>
+</message>
+<message>
+<source>manual</source>
+<translation>manual</translation>
 </message>
 <message>
 <source>Manual start</source>
@@ -949,8 +1049,20 @@ Puede volver a instalarlos directamente haciendo clic en «Ver paquetes desinsta
 <translation>¡No se encontraron optimizaciones!</translation>
 </message>
 <message>
+<source>not possible</source>
+<translation>no es posible</translation>
+</message>
+<message>
+<source>off</source>
+<translation>desactivado</translation>
+</message>
+<message>
 <source>Old Xbox App, no longer supported!</source>
 <translation>¡Antigua aplicación Xbox, ya sin soporte!</translation>
+</message>
+<message>
+<source>on</source>
+<translation>activado</translation>
 </message>
 <message>
 <source>on drive</source>
@@ -981,6 +1093,14 @@ Puede volver a instalarlos directamente haciendo clic en «Ver paquetes desinsta
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
 <translation>De lo contrario, algunas tareas programadas no se detectarán.</translation>
+</message>
+<message>
+<source>Owner and rights of %1</source>
+<translation>Propietario y permisos de %1</translation>
+</message>
+<message>
+<source>Package %1</source>
+<translation>Paquete %1</translation>
 </message>
 <message>
 <source>package: </source>
@@ -1023,6 +1143,10 @@ Puede volver a instalarlos directamente haciendo clic en «Ver paquetes desinsta
 <translation>Enlace Móvil</translation>
 </message>
 <message>
+<source>Place of the file %1</source>
+<translation>Lugar del archivo %1</translation>
+</message>
+<message>
 <source>Printer</source>
 <translation>Impresora</translation>
 </message>
@@ -1043,6 +1167,10 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 <message>
 <source>processes</source>
 <translation>procesos</translation>
+</message>
+<message>
+<source>Program started at logon: %1</source>
+<translation>Programa al iniciar sesión: %1</translation>
 </message>
 <message>
 <source>Programs</source>
@@ -1077,6 +1205,14 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 <message>
 <source>Refresh</source>
 <translation>Actualizar</translation>
+</message>
+<message>
+<source>Registry key %1</source>
+<translation>Clave del registro %1</translation>
+</message>
+<message>
+<source>Registry value %1</source>
+<translation>Valor del registro %1</translation>
 </message>
 <message>
 <source>Remove indexing attribute of %1</source>
@@ -1129,12 +1265,32 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 <translation>Restauración de tareas programadas</translation>
 </message>
 <message>
+<source>running</source>
+<translation>en ejecución</translation>
+</message>
+<message>
+<source>Scheduled task %1</source>
+<translation>Tarea programada %1</translation>
+</message>
+<message>
 <source>Scheduled tasks</source>
 <translation>Tareas programadas</translation>
 </message>
 <message>
 <source>Screenshot tool</source>
 <translation>Herramienta de recortes</translation>
+</message>
+<message>
+<source>Service %1: delayed start</source>
+<translation>Servicio %1: inicio retrasado</translation>
+</message>
+<message>
+<source>Service %1: run state</source>
+<translation>Servicio %1: ejecución</translation>
+</message>
+<message>
+<source>Service %1: start mode</source>
+<translation>Servicio %1: modo de inicio</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1199,12 +1355,20 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 (con una buena CPU, esto reduce la latencia)</translation>
 </message>
 <message>
+<source>something else has changed it since</source>
+<translation>otra cosa lo ha cambiado desde entonces</translation>
+</message>
+<message>
 <source>SSD</source>
 <translation>SSD</translation>
 </message>
 <message>
 <source>Start mode</source>
 <translation>Inicio</translation>
+</message>
+<message>
+<source>Start of services</source>
+<translation>Inicio de servicios</translation>
 </message>
 <message>
 <source>Start service:</source>
@@ -1231,6 +1395,10 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 <translation>Detener servicio:</translation>
 </message>
 <message>
+<source>stopped</source>
+<translation>detenido</translation>
+</message>
+<message>
 <source>stopped:</source>
 <translation>detenidos:</translation>
 </message>
@@ -1247,6 +1415,10 @@ del sistema</translation>
 <message>
 <source>System Information</source>
 <translation>Información del sistema</translation>
+</message>
+<message>
+<source>Take back</source>
+<translation>Deshacer</translation>
 </message>
 <message>
 <source>Task:</source>
@@ -1277,16 +1449,32 @@ del sistema</translation>
 <translation>Tareas:</translation>
 </message>
 <message>
+<source>the file is at neither place</source>
+<translation>el archivo no está en ninguno de los dos sitios</translation>
+</message>
+<message>
 <source>Theme:</source>
 <translation>Tema:</translation>
+</message>
+<message>
+<source>there</source>
+<translation>presente</translation>
 </message>
 <message>
 <source>threads</source>
 <translation>subprocesos</translation>
 </message>
 <message>
+<source>Tweaks</source>
+<translation>Ajustes</translation>
+</message>
+<message>
 <source>Uncheck all</source>
 <translation>Desmarcar todo</translation>
+</message>
+<message>
+<source>under way</source>
+<translation>en curso</translation>
 </message>
 <message>
 <source>Uninstall</source>

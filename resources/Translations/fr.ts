@@ -265,6 +265,14 @@
 &lt;/body&gt;&lt;/html&gt;</translation>
 </message>
 <message>
+<source>%1 bytes</source>
+<translation>%1 octets</translation>
+</message>
+<message>
+<source>a later session has changed it, too</source>
+<translation>une session ultérieure l’a modifié aussi</translation>
+</message>
+<message>
 <source>A newer version of Kestrune is available!<byte value="xd"/>
 Would you like to visit the website for download?<byte value="xd"/>
 <byte value="xd"/>
@@ -279,6 +287,10 @@ Version en ligne : %2</translation>
 <message>
 <source>About</source>
 <translation>À propos</translation>
+</message>
+<message>
+<source>absent</source>
+<translation>absent</translation>
 </message>
 <message>
 <source>Add indexing attribute of %1 finished</source>
@@ -307,6 +319,10 @@ Les optimisations proviennent des pages Services, Tâches planifiées, Programme
 <translation>Appliquer</translation>
 </message>
 <message>
+<source>Apply features</source>
+<translation>Appliquer les fonctions</translation>
+</message>
+<message>
 <source>Apply features finished successfully.</source>
 <translation>Application des fonctions terminée avec succès.</translation>
 </message>
@@ -329,6 +345,10 @@ Toutes les fonctions, applications, tous les services et toutes les tâches sero
 <translation>Voulez-vous vraiment restaurer le démarrage de toutes les tâches planifiées ?</translation>
 </message>
 <message>
+<source>as it was</source>
+<translation>comme avant</translation>
+</message>
+<message>
 <source>ASSISTANT - disable a list of non vital services</source>
 <translation>ASSISTANT - désactiver une liste de services non vitaux</translation>
 </message>
@@ -345,12 +365,24 @@ Toutes les fonctions, applications, tous les services et toutes les tâches sero
 <translation>Assistant - aucune tâche à désactiver</translation>
 </message>
 <message>
+<source>at boot</source>
+<translation>au démarrage</translation>
+</message>
+<message>
+<source>Attributes of %1</source>
+<translation>Attributs de %1</translation>
+</message>
+<message>
 <source>Auto</source>
 <translation>Auto</translation>
 </message>
 <message>
 <source>Auto started programs disabled:</source>
 <translation>Programmes au démarrage désactivés :</translation>
+</message>
+<message>
+<source>automatic</source>
+<translation>automatique</translation>
 </message>
 <message>
 <source>Automatic start</source>
@@ -389,6 +421,18 @@ Toutes les fonctions, applications, tous les services et toutes les tâches sero
 <translation>Audio Bluetooth</translation>
 </message>
 <message>
+<source>Boot option %1</source>
+<translation>Option de démarrage %1</translation>
+</message>
+<message>
+<source>broken off</source>
+<translation>interrompu</translation>
+</message>
+<message>
+<source>by the system</source>
+<translation>par le système</translation>
+</message>
+<message>
 <source>Cancel</source>
 <translation>Annuler</translation>
 </message>
@@ -403,6 +447,14 @@ Toutes les fonctions, applications, tous les services et toutes les tâches sero
 <message>
 <source>Capacity:</source>
 <translation>Capacité :</translation>
+</message>
+<message>
+<source>changed</source>
+<translation>modifié</translation>
+</message>
+<message>
+<source>changed again</source>
+<translation>modifié à nouveau</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -427,6 +479,14 @@ Toutes les fonctions, applications, tous les services et toutes les tâches sero
 <message>
 <source>Configure auto started programs done!</source>
 <translation>Configuration des programmes au démarrage terminée !</translation>
+</message>
+<message>
+<source>Content indexing off</source>
+<translation>Indexation du contenu désactivée</translation>
+</message>
+<message>
+<source>Content indexing on</source>
+<translation>Indexation du contenu activée</translation>
 </message>
 <message>
 <source>CPU</source>
@@ -569,6 +629,10 @@ du plein écran, surtout dans les applications de lecture vidéo)</translation>
 <translation>Désactiver Prefetcher  (empêche le préchargement des applications)</translation>
 </message>
 <message>
+<source>Disable programs</source>
+<translation>Désactiver des programmes</translation>
+</message>
+<message>
 <source>Disable scheduled tasks</source>
 <translation>Désactiver les tâches planifiées</translation>
 </message>
@@ -579,6 +643,10 @@ du plein écran, surtout dans les applications de lecture vidéo)</translation>
 <message>
 <source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
 <translation>Désactiver SearchHost.exe  (recherche de fichiers ; la recherche avancée peut en souffrir)</translation>
+</message>
+<message>
+<source>Disable services</source>
+<translation>Désactiver des services</translation>
 </message>
 <message>
 <source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
@@ -663,6 +731,14 @@ seuls les services que vous avez désactivés seront restaurés</translation>
 <translation>Activer le mode Jeu  (activé par défaut)</translation>
 </message>
 <message>
+<source>Enable programs</source>
+<translation>Activer des programmes</translation>
+</message>
+<message>
+<source>Enable services</source>
+<translation>Activer des services</translation>
+</message>
+<message>
 <source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
 <translation>Activer le menu contextuel de Windows 10  (toutes ses entrées sont affichées)</translation>
 </message>
@@ -727,6 +803,10 @@ seuls les services que vous avez désactivés seront restaurés</translation>
 <translation>Fonctions : réinitialisation des optimisations Windows</translation>
 </message>
 <message>
+<source>File %1</source>
+<translation>Fichier %1</translation>
+</message>
+<message>
 <source>Files sharing</source>
 <translation>Partage de fichiers</translation>
 </message>
@@ -775,6 +855,10 @@ seuls les services que vous avez désactivés seront restaurés</translation>
 <translation>handles</translation>
 </message>
 <message>
+<source>Hibernation</source>
+<translation>Veille prolongée</translation>
+</message>
+<message>
 <source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
 <translation>Si vous n’avez ni casque ni équipement audio connecté en Bluetooth, vous pouvez décocher cette case</translation>
 </message>
@@ -793,6 +877,10 @@ seuls les services que vous avez désactivés seront restaurés</translation>
 <message>
 <source>Install packages</source>
 <translation>Installer les packages</translation>
+</message>
+<message>
+<source>installed</source>
+<translation>installé</translation>
 </message>
 <message>
 <source>Intelligent personal assistant</source>
@@ -815,6 +903,10 @@ Cochez-les pour optimiser ou décochez-les pour rétablir les valeurs par défau
 <message>
 <source>interval in seconds:</source>
 <translation>intervalle en secondes :</translation>
+</message>
+<message>
+<source>it didn't come back</source>
+<translation>il n’est pas revenu</translation>
 </message>
 <message>
 <source>Keep features</source>
@@ -869,6 +961,10 @@ Vous pouvez les réinstaller directement en cliquant sur « Voir les packages d
 <translation>chargement des infos de l’écran...</translation>
 </message>
 <message>
+<source>Looking around</source>
+<translation>Consultation</translation>
+</message>
+<message>
 <source>Mail &amp; Calendar</source>
 <translation>Courrier et calendrier</translation>
 </message>
@@ -883,6 +979,10 @@ Vous pouvez les réinstaller directement en cliquant sur « Voir les packages d
 <message>
 <source>Manual</source>
 <translation>Manuel</translation>
+</message>
+<message>
+<source>manual</source>
+<translation>manuel</translation>
 </message>
 <message>
 <source>Manual start</source>
@@ -949,8 +1049,20 @@ Vous pouvez les réinstaller directement en cliquant sur « Voir les packages d
 <translation>Aucune optimisation trouvée !</translation>
 </message>
 <message>
+<source>not possible</source>
+<translation>impossible</translation>
+</message>
+<message>
+<source>off</source>
+<translation>désactivé</translation>
+</message>
+<message>
 <source>Old Xbox App, no longer supported!</source>
 <translation>Ancienne application Xbox, plus prise en charge !</translation>
+</message>
+<message>
+<source>on</source>
+<translation>activé</translation>
 </message>
 <message>
 <source>on drive</source>
@@ -981,6 +1093,14 @@ Vous pouvez les réinstaller directement en cliquant sur « Voir les packages d
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
 <translation>Sinon, certaines tâches planifiées ne seront pas détectées !</translation>
+</message>
+<message>
+<source>Owner and rights of %1</source>
+<translation>Propriétaire et droits de %1</translation>
+</message>
+<message>
+<source>Package %1</source>
+<translation>Package %1</translation>
 </message>
 <message>
 <source>package: </source>
@@ -1023,6 +1143,10 @@ Vous pouvez les réinstaller directement en cliquant sur « Voir les packages d
 <translation>Mobile connecté</translation>
 </message>
 <message>
+<source>Place of the file %1</source>
+<translation>Emplacement du fichier %1</translation>
+</message>
+<message>
 <source>Printer</source>
 <translation>Imprimante</translation>
 </message>
@@ -1043,6 +1167,10 @@ Ce processus ne sert qu’à la capture vidéo de l’écran. Il n’a aucun eff
 <message>
 <source>processes</source>
 <translation>processus</translation>
+</message>
+<message>
+<source>Program started at logon: %1</source>
+<translation>Programme à l’ouverture de session : %1</translation>
 </message>
 <message>
 <source>Programs</source>
@@ -1077,6 +1205,14 @@ Ce processus ne sert qu’à la capture vidéo de l’écran. Il n’a aucun eff
 <message>
 <source>Refresh</source>
 <translation>Actualiser</translation>
+</message>
+<message>
+<source>Registry key %1</source>
+<translation>Clé du registre %1</translation>
+</message>
+<message>
+<source>Registry value %1</source>
+<translation>Valeur du registre %1</translation>
 </message>
 <message>
 <source>Remove indexing attribute of %1</source>
@@ -1129,12 +1265,32 @@ Ce processus ne sert qu’à la capture vidéo de l’écran. Il n’a aucun eff
 <translation>Restauration des tâches planifiées</translation>
 </message>
 <message>
+<source>running</source>
+<translation>en cours d’exécution</translation>
+</message>
+<message>
+<source>Scheduled task %1</source>
+<translation>Tâche planifiée %1</translation>
+</message>
+<message>
 <source>Scheduled tasks</source>
 <translation>Tâches planifiées</translation>
 </message>
 <message>
 <source>Screenshot tool</source>
 <translation>Outil de capture d’écran</translation>
+</message>
+<message>
+<source>Service %1: delayed start</source>
+<translation>Service %1 : démarrage différé</translation>
+</message>
+<message>
+<source>Service %1: run state</source>
+<translation>Service %1 : exécution</translation>
+</message>
+<message>
+<source>Service %1: start mode</source>
+<translation>Service %1 : mode de démarrage</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1199,12 +1355,20 @@ Ce processus ne sert qu’à la capture vidéo de l’écran. Il n’a aucun eff
 (avec un bon processeur, cela réduit la latence)</translation>
 </message>
 <message>
+<source>something else has changed it since</source>
+<translation>autre chose l’a modifié depuis</translation>
+</message>
+<message>
 <source>SSD</source>
 <translation>SSD</translation>
 </message>
 <message>
 <source>Start mode</source>
 <translation>Démarrage</translation>
+</message>
+<message>
+<source>Start of services</source>
+<translation>Démarrage de services</translation>
 </message>
 <message>
 <source>Start service:</source>
@@ -1231,6 +1395,10 @@ Ce processus ne sert qu’à la capture vidéo de l’écran. Il n’a aucun eff
 <translation>Arrêt du service :</translation>
 </message>
 <message>
+<source>stopped</source>
+<translation>arrêté</translation>
+</message>
+<message>
 <source>stopped:</source>
 <translation>arrêtés :</translation>
 </message>
@@ -1247,6 +1415,10 @@ système</translation>
 <message>
 <source>System Information</source>
 <translation>Informations système</translation>
+</message>
+<message>
+<source>Take back</source>
+<translation>Annulation de modifications</translation>
 </message>
 <message>
 <source>Task:</source>
@@ -1277,16 +1449,32 @@ système</translation>
 <translation>Tâches :</translation>
 </message>
 <message>
+<source>the file is at neither place</source>
+<translation>le fichier n’est à aucun des deux endroits</translation>
+</message>
+<message>
 <source>Theme:</source>
 <translation>Thème :</translation>
+</message>
+<message>
+<source>there</source>
+<translation>présent</translation>
 </message>
 <message>
 <source>threads</source>
 <translation>threads</translation>
 </message>
 <message>
+<source>Tweaks</source>
+<translation>Réglages</translation>
+</message>
+<message>
 <source>Uncheck all</source>
 <translation>Tout décocher</translation>
+</message>
+<message>
+<source>under way</source>
+<translation>en cours</translation>
 </message>
 <message>
 <source>Uninstall</source>

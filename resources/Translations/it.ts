@@ -265,6 +265,14 @@
 &lt;/body&gt;&lt;/html&gt;</translation>
 </message>
 <message>
+<source>%1 bytes</source>
+<translation>%1 byte</translation>
+</message>
+<message>
+<source>a later session has changed it, too</source>
+<translation>anche una sessione successiva l’ha modificato</translation>
+</message>
+<message>
 <source>A newer version of Kestrune is available!<byte value="xd"/>
 Would you like to visit the website for download?<byte value="xd"/>
 <byte value="xd"/>
@@ -279,6 +287,10 @@ Versione online: %2</translation>
 <message>
 <source>About</source>
 <translation>Info</translation>
+</message>
+<message>
+<source>absent</source>
+<translation>assente</translation>
 </message>
 <message>
 <source>Add indexing attribute of %1 finished</source>
@@ -307,6 +319,10 @@ Le ottimizzazioni provengono dalle pagine Servizi, Attività pianificate, Progra
 <translation>Applica</translation>
 </message>
 <message>
+<source>Apply features</source>
+<translation>Applica funzionalità</translation>
+</message>
+<message>
 <source>Apply features finished successfully.</source>
 <translation>Applicazione delle funzionalità completata.</translation>
 </message>
@@ -329,6 +345,10 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 <translation>Ripristinare l'avvio di tutte le attività pianificate?</translation>
 </message>
 <message>
+<source>as it was</source>
+<translation>com’era</translation>
+</message>
+<message>
 <source>ASSISTANT - disable a list of non vital services</source>
 <translation>ASSISTENTE - disabilita servizi non essenziali</translation>
 </message>
@@ -345,12 +365,24 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 <translation>Assistente - nessuna attività da disattivare</translation>
 </message>
 <message>
+<source>at boot</source>
+<translation>all’avvio</translation>
+</message>
+<message>
+<source>Attributes of %1</source>
+<translation>Attributi di %1</translation>
+</message>
+<message>
 <source>Auto</source>
 <translation>Auto</translation>
 </message>
 <message>
 <source>Auto started programs disabled:</source>
 <translation>Programmi di avvio disabilitati:</translation>
+</message>
+<message>
+<source>automatic</source>
+<translation>automatico</translation>
 </message>
 <message>
 <source>Automatic start</source>
@@ -389,6 +421,18 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 <translation>Audio Bluetooth</translation>
 </message>
 <message>
+<source>Boot option %1</source>
+<translation>Opzione di avvio %1</translation>
+</message>
+<message>
+<source>broken off</source>
+<translation>interrotto</translation>
+</message>
+<message>
+<source>by the system</source>
+<translation>dal sistema</translation>
+</message>
+<message>
 <source>Cancel</source>
 <translation>Annulla</translation>
 </message>
@@ -403,6 +447,14 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 <message>
 <source>Capacity:</source>
 <translation>Capacità:</translation>
+</message>
+<message>
+<source>changed</source>
+<translation>modificato</translation>
+</message>
+<message>
+<source>changed again</source>
+<translation>modificato di nuovo</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -427,6 +479,14 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 <message>
 <source>Configure auto started programs done!</source>
 <translation>Configurazione dei programmi di avvio completata!</translation>
+</message>
+<message>
+<source>Content indexing off</source>
+<translation>Indicizzazione dei contenuti disattivata</translation>
+</message>
+<message>
+<source>Content indexing on</source>
+<translation>Indicizzazione dei contenuti attivata</translation>
 </message>
 <message>
 <source>CPU</source>
@@ -569,6 +629,10 @@ a schermo intero, soprattutto nelle app di riproduzione video)</translation>
 <translation>Disabilita Prefetcher  (impedisce il precaricamento delle applicazioni)</translation>
 </message>
 <message>
+<source>Disable programs</source>
+<translation>Disabilita programmi</translation>
+</message>
+<message>
 <source>Disable scheduled tasks</source>
 <translation>Disabilita le attività pianificate</translation>
 </message>
@@ -579,6 +643,10 @@ a schermo intero, soprattutto nelle app di riproduzione video)</translation>
 <message>
 <source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
 <translation>Disabilita SearchHost.exe  (ricerca file; la ricerca avanzata può non funzionare)</translation>
+</message>
+<message>
+<source>Disable services</source>
+<translation>Disabilita servizi</translation>
 </message>
 <message>
 <source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
@@ -663,6 +731,14 @@ verranno ripristinati solo i servizi disabilitati dall'utente</translation>
 <translation>Abilita la modalità gioco  (abilitata per impostazione predefinita)</translation>
 </message>
 <message>
+<source>Enable programs</source>
+<translation>Abilita programmi</translation>
+</message>
+<message>
+<source>Enable services</source>
+<translation>Abilita servizi</translation>
+</message>
+<message>
 <source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
 <translation>Abilita il menu contestuale di Windows 10  (sono visibili tutte le voci)</translation>
 </message>
@@ -727,6 +803,10 @@ verranno ripristinati solo i servizi disabilitati dall'utente</translation>
 <translation>Funzionalità: ripristino delle ottimizzazioni di Windows</translation>
 </message>
 <message>
+<source>File %1</source>
+<translation>File %1</translation>
+</message>
+<message>
 <source>Files sharing</source>
 <translation>Condivisione file</translation>
 </message>
@@ -775,6 +855,10 @@ verranno ripristinati solo i servizi disabilitati dall'utente</translation>
 <translation>handle</translation>
 </message>
 <message>
+<source>Hibernation</source>
+<translation>Ibernazione</translation>
+</message>
+<message>
 <source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
 <translation>Se non si usano cuffie o dispositivi audio collegati tramite Bluetooth, è possibile deselezionare questa voce</translation>
 </message>
@@ -793,6 +877,10 @@ verranno ripristinati solo i servizi disabilitati dall'utente</translation>
 <message>
 <source>Install packages</source>
 <translation>Installa pacchetti</translation>
+</message>
+<message>
+<source>installed</source>
+<translation>installato</translation>
 </message>
 <message>
 <source>Intelligent personal assistant</source>
@@ -815,6 +903,10 @@ Selezionarle per ottimizzare o deselezionarle per ripristinare i valori predefin
 <message>
 <source>interval in seconds:</source>
 <translation>intervallo in secondi:</translation>
+</message>
+<message>
+<source>it didn't come back</source>
+<translation>non è stato ripristinato</translation>
 </message>
 <message>
 <source>Keep features</source>
@@ -869,6 +961,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <translation>caricamento info schermo...</translation>
 </message>
 <message>
+<source>Looking around</source>
+<translation>Consultazione</translation>
+</message>
+<message>
 <source>Mail &amp; Calendar</source>
 <translation>Posta e Calendario</translation>
 </message>
@@ -883,6 +979,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <message>
 <source>Manual</source>
 <translation>Manuale</translation>
+</message>
+<message>
+<source>manual</source>
+<translation>manuale</translation>
 </message>
 <message>
 <source>Manual start</source>
@@ -949,8 +1049,20 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <translation>Nessuna ottimizzazione trovata!</translation>
 </message>
 <message>
+<source>not possible</source>
+<translation>non possibile</translation>
+</message>
+<message>
+<source>off</source>
+<translation>disattivo</translation>
+</message>
+<message>
 <source>Old Xbox App, no longer supported!</source>
 <translation>Vecchia app Xbox, non più supportata!</translation>
+</message>
+<message>
+<source>on</source>
+<translation>attivo</translation>
 </message>
 <message>
 <source>on drive</source>
@@ -981,6 +1093,14 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
 <translation>Altrimenti alcune attività pianificate non verranno rilevate!</translation>
+</message>
+<message>
+<source>Owner and rights of %1</source>
+<translation>Proprietario e diritti di %1</translation>
+</message>
+<message>
+<source>Package %1</source>
+<translation>Pacchetto %1</translation>
 </message>
 <message>
 <source>package: </source>
@@ -1023,6 +1143,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <translation>Collegamento al telefono</translation>
 </message>
 <message>
+<source>Place of the file %1</source>
+<translation>Posizione del file %1</translation>
+</message>
+<message>
 <source>Printer</source>
 <translation>Stampante</translation>
 </message>
@@ -1043,6 +1167,10 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 <message>
 <source>processes</source>
 <translation>processi</translation>
+</message>
+<message>
+<source>Program started at logon: %1</source>
+<translation>Programma all’accesso: %1</translation>
 </message>
 <message>
 <source>Programs</source>
@@ -1077,6 +1205,14 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 <message>
 <source>Refresh</source>
 <translation>Aggiorna</translation>
+</message>
+<message>
+<source>Registry key %1</source>
+<translation>Chiave del registro %1</translation>
+</message>
+<message>
+<source>Registry value %1</source>
+<translation>Valore del registro %1</translation>
 </message>
 <message>
 <source>Remove indexing attribute of %1</source>
@@ -1129,12 +1265,32 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 <translation>Ripristino delle attività pianificate</translation>
 </message>
 <message>
+<source>running</source>
+<translation>in esecuzione</translation>
+</message>
+<message>
+<source>Scheduled task %1</source>
+<translation>Attività pianificata %1</translation>
+</message>
+<message>
 <source>Scheduled tasks</source>
 <translation>Attività pianificate</translation>
 </message>
 <message>
 <source>Screenshot tool</source>
 <translation>Strumento di cattura</translation>
+</message>
+<message>
+<source>Service %1: delayed start</source>
+<translation>Servizio %1: avvio ritardato</translation>
+</message>
+<message>
+<source>Service %1: run state</source>
+<translation>Servizio %1: esecuzione</translation>
+</message>
+<message>
+<source>Service %1: start mode</source>
+<translation>Servizio %1: modalità di avvio</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1199,12 +1355,20 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 (con una buona CPU, riduce la latenza)</translation>
 </message>
 <message>
+<source>something else has changed it since</source>
+<translation>altro l’ha modificato da allora</translation>
+</message>
+<message>
 <source>SSD</source>
 <translation>SSD</translation>
 </message>
 <message>
 <source>Start mode</source>
 <translation>Avvio</translation>
+</message>
+<message>
+<source>Start of services</source>
+<translation>Avvio di servizi</translation>
 </message>
 <message>
 <source>Start service:</source>
@@ -1231,6 +1395,10 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 <translation>Arresto servizio:</translation>
 </message>
 <message>
+<source>stopped</source>
+<translation>arrestato</translation>
+</message>
+<message>
 <source>stopped:</source>
 <translation>arrestati:</translation>
 </message>
@@ -1247,6 +1415,10 @@ sul sistema</translation>
 <message>
 <source>System Information</source>
 <translation>Informazioni sul sistema</translation>
+</message>
+<message>
+<source>Take back</source>
+<translation>Annullamento di modifiche</translation>
 </message>
 <message>
 <source>Task:</source>
@@ -1277,16 +1449,32 @@ sul sistema</translation>
 <translation>Attività:</translation>
 </message>
 <message>
+<source>the file is at neither place</source>
+<translation>il file non è in nessuno dei due posti</translation>
+</message>
+<message>
 <source>Theme:</source>
 <translation>Tema:</translation>
+</message>
+<message>
+<source>there</source>
+<translation>presente</translation>
 </message>
 <message>
 <source>threads</source>
 <translation>thread</translation>
 </message>
 <message>
+<source>Tweaks</source>
+<translation>Ottimizzazioni</translation>
+</message>
+<message>
 <source>Uncheck all</source>
 <translation>Deseleziona tutto</translation>
+</message>
+<message>
+<source>under way</source>
+<translation>in corso</translation>
 </message>
 <message>
 <source>Uninstall</source>

@@ -265,6 +265,14 @@
 &lt;/body&gt;&lt;/html&gt;</translation>
 </message>
 <message>
+<source>%1 bytes</source>
+<translation>%1 バイト</translation>
+</message>
+<message>
+<source>a later session has changed it, too</source>
+<translation>後のセッションでも変更されています</translation>
+</message>
+<message>
 <source>A newer version of Kestrune is available!<byte value="xd"/>
 Would you like to visit the website for download?<byte value="xd"/>
 <byte value="xd"/>
@@ -279,6 +287,10 @@ Web サイトを開いてダウンロードしますか?<byte value="xd"/>
 <message>
 <source>About</source>
 <translation>情報</translation>
+</message>
+<message>
+<source>absent</source>
+<translation>なし</translation>
 </message>
 <message>
 <source>Add indexing attribute of %1 finished</source>
@@ -307,6 +319,10 @@ Optimizations come from the Services, Scheduled Tasks, Programs, and Features pa
 <translation>適用</translation>
 </message>
 <message>
+<source>Apply features</source>
+<translation>機能の適用</translation>
+</message>
+<message>
 <source>Apply features finished successfully.</source>
 <translation>機能の適用が正常に完了しました。</translation>
 </message>
@@ -329,6 +345,10 @@ All features, applications, services and tasks will be restored.</source>
 <translation>すべてのスケジュール タスクの起動を復元しますか?</translation>
 </message>
 <message>
+<source>as it was</source>
+<translation>元どおり</translation>
+</message>
+<message>
 <source>ASSISTANT - disable a list of non vital services</source>
 <translation>アシスタント - 不要なサービスを無効にする</translation>
 </message>
@@ -345,12 +365,24 @@ All features, applications, services and tasks will be restored.</source>
 <translation>アシスタント - 無効にするタスクはありません</translation>
 </message>
 <message>
+<source>at boot</source>
+<translation>ブート時</translation>
+</message>
+<message>
+<source>Attributes of %1</source>
+<translation>%1 の属性</translation>
+</message>
+<message>
 <source>Auto</source>
 <translation>自動</translation>
 </message>
 <message>
 <source>Auto started programs disabled:</source>
 <translation>無効なスタートアップ プログラム:</translation>
+</message>
+<message>
+<source>automatic</source>
+<translation>自動</translation>
 </message>
 <message>
 <source>Automatic start</source>
@@ -389,6 +421,18 @@ All features, applications, services and tasks will be restored.</source>
 <translation>Bluetooth オーディオ</translation>
 </message>
 <message>
+<source>Boot option %1</source>
+<translation>ブート オプション %1</translation>
+</message>
+<message>
+<source>broken off</source>
+<translation>中断</translation>
+</message>
+<message>
+<source>by the system</source>
+<translation>システム</translation>
+</message>
+<message>
 <source>Cancel</source>
 <translation>キャンセル</translation>
 </message>
@@ -403,6 +447,14 @@ All features, applications, services and tasks will be restored.</source>
 <message>
 <source>Capacity:</source>
 <translation>容量:</translation>
+</message>
+<message>
+<source>changed</source>
+<translation>変更済み</translation>
+</message>
+<message>
+<source>changed again</source>
+<translation>再度変更済み</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -427,6 +479,14 @@ All features, applications, services and tasks will be restored.</source>
 <message>
 <source>Configure auto started programs done!</source>
 <translation>スタートアップ プログラムの構成が完了しました!</translation>
+</message>
+<message>
+<source>Content indexing off</source>
+<translation>コンテンツのインデックス オフ</translation>
+</message>
+<message>
+<source>Content indexing on</source>
+<translation>コンテンツのインデックス オン</translation>
 </message>
 <message>
 <source>CPU</source>
@@ -569,6 +629,10 @@ especially for video playback apps)</source>
 <translation>Prefetcher を無効にする  (アプリの事前読み込みを行わない)</translation>
 </message>
 <message>
+<source>Disable programs</source>
+<translation>プログラムを無効にする</translation>
+</message>
+<message>
 <source>Disable scheduled tasks</source>
 <translation>スケジュール タスクを無効にする</translation>
 </message>
@@ -579,6 +643,10 @@ especially for video playback apps)</source>
 <message>
 <source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
 <translation>SearchHost.exe を無効にする  (ファイル検索。高度な検索が動作しないことがあります)</translation>
+</message>
+<message>
+<source>Disable services</source>
+<translation>サービスを無効にする</translation>
 </message>
 <message>
 <source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
@@ -663,6 +731,14 @@ then restore only the services you have disabled</source>
 <translation>ゲーム モードを有効にする  (既定で有効)</translation>
 </message>
 <message>
+<source>Enable programs</source>
+<translation>プログラムを有効にする</translation>
+</message>
+<message>
+<source>Enable services</source>
+<translation>サービスを有効にする</translation>
+</message>
+<message>
 <source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
 <translation>Windows 10 のコンテキスト メニューを有効にする  (すべての項目を表示)</translation>
 </message>
@@ -727,6 +803,10 @@ then restore only the services you have disabled</source>
 <translation>機能: Windows の最適化をリセット</translation>
 </message>
 <message>
+<source>File %1</source>
+<translation>ファイル %1</translation>
+</message>
+<message>
 <source>Files sharing</source>
 <translation>ファイル共有</translation>
 </message>
@@ -775,6 +855,10 @@ then restore only the services you have disabled</source>
 <translation>ハンドル</translation>
 </message>
 <message>
+<source>Hibernation</source>
+<translation>休止状態</translation>
+</message>
+<message>
 <source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
 <translation>Bluetooth 接続のヘッドセットやオーディオ機器がない場合は、チェックを外すことができます</translation>
 </message>
@@ -793,6 +877,10 @@ then restore only the services you have disabled</source>
 <message>
 <source>Install packages</source>
 <translation>パッケージをインストール</translation>
+</message>
+<message>
+<source>installed</source>
+<translation>インストール済み</translation>
 </message>
 <message>
 <source>Intelligent personal assistant</source>
@@ -815,6 +903,10 @@ Check them to optimize or uncheck them to restore defaults.</source>
 <message>
 <source>interval in seconds:</source>
 <translation>間隔 (秒):</translation>
+</message>
+<message>
+<source>it didn't come back</source>
+<translation>元に戻りませんでした</translation>
 </message>
 <message>
 <source>Keep features</source>
@@ -869,6 +961,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <translation>画面情報を読み込んでいます...</translation>
 </message>
 <message>
+<source>Looking around</source>
+<translation>閲覧</translation>
+</message>
+<message>
 <source>Mail &amp; Calendar</source>
 <translation>メールとカレンダー</translation>
 </message>
@@ -882,6 +978,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>Manual</source>
+<translation>手動</translation>
+</message>
+<message>
+<source>manual</source>
 <translation>手動</translation>
 </message>
 <message>
@@ -949,8 +1049,20 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <translation>最適化の項目は見つかりませんでした!</translation>
 </message>
 <message>
+<source>not possible</source>
+<translation>不可</translation>
+</message>
+<message>
+<source>off</source>
+<translation>オフ</translation>
+</message>
+<message>
 <source>Old Xbox App, no longer supported!</source>
 <translation>以前の Xbox アプリ、サポートは終了しました!</translation>
+</message>
+<message>
+<source>on</source>
+<translation>オン</translation>
 </message>
 <message>
 <source>on drive</source>
@@ -981,6 +1093,14 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
 <translation>そうしないと、一部のスケジュール タスクが検出されません!</translation>
+</message>
+<message>
+<source>Owner and rights of %1</source>
+<translation>%1 の所有者と権限</translation>
+</message>
+<message>
+<source>Package %1</source>
+<translation>パッケージ %1</translation>
 </message>
 <message>
 <source>package: </source>
@@ -1023,6 +1143,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <translation>スマートフォン連携</translation>
 </message>
 <message>
+<source>Place of the file %1</source>
+<translation>ファイル %1 の場所</translation>
+</message>
+<message>
 <source>Printer</source>
 <translation>プリンター</translation>
 </message>
@@ -1043,6 +1167,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <message>
 <source>processes</source>
 <translation>プロセス</translation>
+</message>
+<message>
+<source>Program started at logon: %1</source>
+<translation>サインイン時のプログラム: %1</translation>
 </message>
 <message>
 <source>Programs</source>
@@ -1077,6 +1205,14 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <message>
 <source>Refresh</source>
 <translation>最新の情報に更新</translation>
+</message>
+<message>
+<source>Registry key %1</source>
+<translation>レジストリ キー %1</translation>
+</message>
+<message>
+<source>Registry value %1</source>
+<translation>レジストリ値 %1</translation>
 </message>
 <message>
 <source>Remove indexing attribute of %1</source>
@@ -1129,12 +1265,32 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <translation>スケジュール タスクの復元</translation>
 </message>
 <message>
+<source>running</source>
+<translation>実行中</translation>
+</message>
+<message>
+<source>Scheduled task %1</source>
+<translation>スケジュールされたタスク %1</translation>
+</message>
+<message>
 <source>Scheduled tasks</source>
 <translation>スケジュール タスク</translation>
 </message>
 <message>
 <source>Screenshot tool</source>
 <translation>スクリーンショット ツール</translation>
+</message>
+<message>
+<source>Service %1: delayed start</source>
+<translation>サービス %1: 遅延開始</translation>
+</message>
+<message>
+<source>Service %1: run state</source>
+<translation>サービス %1: 実行状態</translation>
+</message>
+<message>
+<source>Service %1: start mode</source>
+<translation>サービス %1: 開始方法</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1199,12 +1355,20 @@ This process only allows screen video capture.Does not affect the monitoring dis
 (高性能な CPU では遅延が減ります)</translation>
 </message>
 <message>
+<source>something else has changed it since</source>
+<translation>その後ほかの要因で変更されています</translation>
+</message>
+<message>
 <source>SSD</source>
 <translation>SSD</translation>
 </message>
 <message>
 <source>Start mode</source>
 <translation>開始の種類</translation>
+</message>
+<message>
+<source>Start of services</source>
+<translation>サービスの開始方法</translation>
 </message>
 <message>
 <source>Start service:</source>
@@ -1231,6 +1395,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <translation>サービスの停止:</translation>
 </message>
 <message>
+<source>stopped</source>
+<translation>停止</translation>
+</message>
+<message>
 <source>stopped:</source>
 <translation>停止:</translation>
 </message>
@@ -1247,6 +1415,10 @@ Information</source>
 <message>
 <source>System Information</source>
 <translation>システム情報</translation>
+</message>
+<message>
+<source>Take back</source>
+<translation>変更を元に戻す</translation>
 </message>
 <message>
 <source>Task:</source>
@@ -1277,16 +1449,32 @@ Information</source>
 <translation>タスク:</translation>
 </message>
 <message>
+<source>the file is at neither place</source>
+<translation>ファイルはどちらの場所にもありません</translation>
+</message>
+<message>
 <source>Theme:</source>
 <translation>テーマ:</translation>
+</message>
+<message>
+<source>there</source>
+<translation>あり</translation>
 </message>
 <message>
 <source>threads</source>
 <translation>スレッド</translation>
 </message>
 <message>
+<source>Tweaks</source>
+<translation>調整</translation>
+</message>
+<message>
 <source>Uncheck all</source>
 <translation>すべての選択を解除</translation>
+</message>
+<message>
+<source>under way</source>
+<translation>進行中</translation>
 </message>
 <message>
 <source>Uninstall</source>

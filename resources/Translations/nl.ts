@@ -265,6 +265,14 @@
 &lt;/body&gt;&lt;/html&gt;</translation>
 </message>
 <message>
+<source>%1 bytes</source>
+<translation>%1 bytes</translation>
+</message>
+<message>
+<source>a later session has changed it, too</source>
+<translation>een latere sessie heeft het ook gewijzigd</translation>
+</message>
+<message>
 <source>A newer version of Kestrune is available!<byte value="xd"/>
 Would you like to visit the website for download?<byte value="xd"/>
 <byte value="xd"/>
@@ -279,6 +287,10 @@ Onlineversie: %2</translation>
 <message>
 <source>About</source>
 <translation>Info</translation>
+</message>
+<message>
+<source>absent</source>
+<translation>afwezig</translation>
 </message>
 <message>
 <source>Add indexing attribute of %1 finished</source>
@@ -307,6 +319,10 @@ De optimalisaties komen van de pagina's Services, Geplande taken, Programma's en
 <translation>Toepassen</translation>
 </message>
 <message>
+<source>Apply features</source>
+<translation>Functies toepassen</translation>
+</message>
+<message>
 <source>Apply features finished successfully.</source>
 <translation>De functies zijn toegepast.</translation>
 </message>
@@ -329,6 +345,10 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 <translation>Weet u zeker dat u het starten van alle geplande taken wilt herstellen?</translation>
 </message>
 <message>
+<source>as it was</source>
+<translation>zoals het was</translation>
+</message>
+<message>
 <source>ASSISTANT - disable a list of non vital services</source>
 <translation>ASSISTENT - niet-vitale services uitschakelen</translation>
 </message>
@@ -345,12 +365,24 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 <translation>Assistent - geen taken om uit te schakelen</translation>
 </message>
 <message>
+<source>at boot</source>
+<translation>bij het opstarten</translation>
+</message>
+<message>
+<source>Attributes of %1</source>
+<translation>Kenmerken van %1</translation>
+</message>
+<message>
 <source>Auto</source>
 <translation>Auto</translation>
 </message>
 <message>
 <source>Auto started programs disabled:</source>
 <translation>Uitgeschakelde opstartprogramma's:</translation>
+</message>
+<message>
+<source>automatic</source>
+<translation>automatisch</translation>
 </message>
 <message>
 <source>Automatic start</source>
@@ -389,6 +421,18 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 <translation>Bluetooth-audio</translation>
 </message>
 <message>
+<source>Boot option %1</source>
+<translation>Opstartoptie %1</translation>
+</message>
+<message>
+<source>broken off</source>
+<translation>afgebroken</translation>
+</message>
+<message>
+<source>by the system</source>
+<translation>door het systeem</translation>
+</message>
+<message>
 <source>Cancel</source>
 <translation>Annuleren</translation>
 </message>
@@ -403,6 +447,14 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 <message>
 <source>Capacity:</source>
 <translation>Capaciteit:</translation>
+</message>
+<message>
+<source>changed</source>
+<translation>gewijzigd</translation>
+</message>
+<message>
+<source>changed again</source>
+<translation>opnieuw gewijzigd</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -427,6 +479,14 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 <message>
 <source>Configure auto started programs done!</source>
 <translation>Configuratie van opstartprogramma's voltooid!</translation>
+</message>
+<message>
+<source>Content indexing off</source>
+<translation>Inhoudsindexering uit</translation>
+</message>
+<message>
+<source>Content indexing on</source>
+<translation>Inhoudsindexering aan</translation>
 </message>
 <message>
 <source>CPU</source>
@@ -569,6 +629,10 @@ volledig scherm, vooral in apps voor videoweergave)</translation>
 <translation>Prefetcher uitschakelen  (voorkomt het vooraf laden van toepassingen)</translation>
 </message>
 <message>
+<source>Disable programs</source>
+<translation>Programma's uitschakelen</translation>
+</message>
+<message>
 <source>Disable scheduled tasks</source>
 <translation>Geplande taken uitschakelen</translation>
 </message>
@@ -579,6 +643,10 @@ volledig scherm, vooral in apps voor videoweergave)</translation>
 <message>
 <source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
 <translation>SearchHost.exe uitschakelen  (zoekt bestanden; geavanceerd zoeken kan haperen)</translation>
+</message>
+<message>
+<source>Disable services</source>
+<translation>Services uitschakelen</translation>
 </message>
 <message>
 <source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
@@ -663,6 +731,14 @@ worden alleen de door u uitgeschakelde services hersteld</translation>
 <translation>Gamemodus inschakelen  (standaard ingeschakeld)</translation>
 </message>
 <message>
+<source>Enable programs</source>
+<translation>Programma's inschakelen</translation>
+</message>
+<message>
+<source>Enable services</source>
+<translation>Services inschakelen</translation>
+</message>
+<message>
 <source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
 <translation>Contextmenu van Windows 10 inschakelen  (alle items worden weergegeven)</translation>
 </message>
@@ -727,6 +803,10 @@ worden alleen de door u uitgeschakelde services hersteld</translation>
 <translation>Functies: Windows-optimalisaties worden hersteld</translation>
 </message>
 <message>
+<source>File %1</source>
+<translation>Bestand %1</translation>
+</message>
+<message>
 <source>Files sharing</source>
 <translation>Bestandsdeling</translation>
 </message>
@@ -775,6 +855,10 @@ worden alleen de door u uitgeschakelde services hersteld</translation>
 <translation>handles</translation>
 </message>
 <message>
+<source>Hibernation</source>
+<translation>Slaapstand</translation>
+</message>
+<message>
 <source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
 <translation>Als u geen headset of audioapparatuur via Bluetooth hebt aangesloten, kunt u dit uitvinken</translation>
 </message>
@@ -793,6 +877,10 @@ worden alleen de door u uitgeschakelde services hersteld</translation>
 <message>
 <source>Install packages</source>
 <translation>Pakketten installeren</translation>
+</message>
+<message>
+<source>installed</source>
+<translation>geïnstalleerd</translation>
 </message>
 <message>
 <source>Intelligent personal assistant</source>
@@ -815,6 +903,10 @@ Vink ze aan om te optimaliseren of uit om de standaardwaarden te herstellen.</tr
 <message>
 <source>interval in seconds:</source>
 <translation>interval in seconden:</translation>
+</message>
+<message>
+<source>it didn't come back</source>
+<translation>het kwam niet terug</translation>
 </message>
 <message>
 <source>Keep features</source>
@@ -869,6 +961,10 @@ U kunt ze rechtstreeks opnieuw installeren door onder de lijst op &quot;Verwijde
 <translation>scherminfo laden...</translation>
 </message>
 <message>
+<source>Looking around</source>
+<translation>Rondkijken</translation>
+</message>
+<message>
 <source>Mail &amp; Calendar</source>
 <translation>E-mail en Agenda</translation>
 </message>
@@ -883,6 +979,10 @@ U kunt ze rechtstreeks opnieuw installeren door onder de lijst op &quot;Verwijde
 <message>
 <source>Manual</source>
 <translation>Handmatig</translation>
+</message>
+<message>
+<source>manual</source>
+<translation>handmatig</translation>
 </message>
 <message>
 <source>Manual start</source>
@@ -949,8 +1049,20 @@ U kunt ze rechtstreeks opnieuw installeren door onder de lijst op &quot;Verwijde
 <translation>Geen optimalisaties gevonden!</translation>
 </message>
 <message>
+<source>not possible</source>
+<translation>niet mogelijk</translation>
+</message>
+<message>
+<source>off</source>
+<translation>uit</translation>
+</message>
+<message>
 <source>Old Xbox App, no longer supported!</source>
 <translation>Oude Xbox-app, niet meer ondersteund!</translation>
+</message>
+<message>
+<source>on</source>
+<translation>aan</translation>
 </message>
 <message>
 <source>on drive</source>
@@ -981,6 +1093,14 @@ U kunt ze rechtstreeks opnieuw installeren door onder de lijst op &quot;Verwijde
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
 <translation>Anders worden sommige geplande taken niet gevonden!</translation>
+</message>
+<message>
+<source>Owner and rights of %1</source>
+<translation>Eigenaar en rechten van %1</translation>
+</message>
+<message>
+<source>Package %1</source>
+<translation>Pakket %1</translation>
 </message>
 <message>
 <source>package: </source>
@@ -1023,6 +1143,10 @@ U kunt ze rechtstreeks opnieuw installeren door onder de lijst op &quot;Verwijde
 <translation>Mobiel verbinden</translation>
 </message>
 <message>
+<source>Place of the file %1</source>
+<translation>Plaats van het bestand %1</translation>
+</message>
+<message>
 <source>Printer</source>
 <translation>Printer</translation>
 </message>
@@ -1043,6 +1167,10 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 <message>
 <source>processes</source>
 <translation>processen</translation>
+</message>
+<message>
+<source>Program started at logon: %1</source>
+<translation>Programma bij het aanmelden: %1</translation>
 </message>
 <message>
 <source>Programs</source>
@@ -1077,6 +1205,14 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 <message>
 <source>Refresh</source>
 <translation>Vernieuwen</translation>
+</message>
+<message>
+<source>Registry key %1</source>
+<translation>Registersleutel %1</translation>
+</message>
+<message>
+<source>Registry value %1</source>
+<translation>Registerwaarde %1</translation>
 </message>
 <message>
 <source>Remove indexing attribute of %1</source>
@@ -1129,12 +1265,32 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 <translation>Geplande taken herstellen</translation>
 </message>
 <message>
+<source>running</source>
+<translation>actief</translation>
+</message>
+<message>
+<source>Scheduled task %1</source>
+<translation>Geplande taak %1</translation>
+</message>
+<message>
 <source>Scheduled tasks</source>
 <translation>Geplande taken</translation>
 </message>
 <message>
 <source>Screenshot tool</source>
 <translation>Knipprogramma</translation>
+</message>
+<message>
+<source>Service %1: delayed start</source>
+<translation>Service %1: uitgestelde start</translation>
+</message>
+<message>
+<source>Service %1: run state</source>
+<translation>Service %1: uitvoering</translation>
+</message>
+<message>
+<source>Service %1: start mode</source>
+<translation>Service %1: startwijze</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1199,12 +1355,20 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 (met een goede processor vermindert dit de latentie)</translation>
 </message>
 <message>
+<source>something else has changed it since</source>
+<translation>iets anders heeft het sindsdien gewijzigd</translation>
+</message>
+<message>
 <source>SSD</source>
 <translation>SSD</translation>
 </message>
 <message>
 <source>Start mode</source>
 <translation>Opstarttype</translation>
+</message>
+<message>
+<source>Start of services</source>
+<translation>Start van services</translation>
 </message>
 <message>
 <source>Start service:</source>
@@ -1231,6 +1395,10 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 <translation>Service stoppen:</translation>
 </message>
 <message>
+<source>stopped</source>
+<translation>gestopt</translation>
+</message>
+<message>
 <source>stopped:</source>
 <translation>gestopt:</translation>
 </message>
@@ -1247,6 +1415,10 @@ informatie</translation>
 <message>
 <source>System Information</source>
 <translation>Systeeminformatie</translation>
+</message>
+<message>
+<source>Take back</source>
+<translation>Terugdraaien</translation>
 </message>
 <message>
 <source>Task:</source>
@@ -1277,16 +1449,32 @@ informatie</translation>
 <translation>Taken:</translation>
 </message>
 <message>
+<source>the file is at neither place</source>
+<translation>het bestand staat op geen van beide plaatsen</translation>
+</message>
+<message>
 <source>Theme:</source>
 <translation>Thema:</translation>
+</message>
+<message>
+<source>there</source>
+<translation>aanwezig</translation>
 </message>
 <message>
 <source>threads</source>
 <translation>threads</translation>
 </message>
 <message>
+<source>Tweaks</source>
+<translation>Aanpassingen</translation>
+</message>
+<message>
 <source>Uncheck all</source>
 <translation>Alles uitvinken</translation>
+</message>
+<message>
+<source>under way</source>
+<translation>bezig</translation>
 </message>
 <message>
 <source>Uninstall</source>

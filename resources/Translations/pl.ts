@@ -265,6 +265,14 @@
 &lt;/body&gt;&lt;/html&gt;</translation>
 </message>
 <message>
+<source>%1 bytes</source>
+<translation>%1 bajtów</translation>
+</message>
+<message>
+<source>a later session has changed it, too</source>
+<translation>późniejsza sesja też to zmieniła</translation>
+</message>
+<message>
 <source>A newer version of Kestrune is available!<byte value="xd"/>
 Would you like to visit the website for download?<byte value="xd"/>
 <byte value="xd"/>
@@ -279,6 +287,10 @@ Wersja online: %2</translation>
 <message>
 <source>About</source>
 <translation>Informacje</translation>
+</message>
+<message>
+<source>absent</source>
+<translation>brak</translation>
 </message>
 <message>
 <source>Add indexing attribute of %1 finished</source>
@@ -307,6 +319,10 @@ Optymalizacje pochodzą ze stron Usługi, Zaplanowane zadania, Programy i Funkcj
 <translation>Zastosuj</translation>
 </message>
 <message>
+<source>Apply features</source>
+<translation>Stosowanie funkcji</translation>
+</message>
+<message>
 <source>Apply features finished successfully.</source>
 <translation>Stosowanie funkcji zakończone pomyślnie.</translation>
 </message>
@@ -329,6 +345,10 @@ Wszystkie funkcje, aplikacje, usługi i zadania zostaną przywrócone.</translat
 <translation>Czy na pewno chcesz przywrócić uruchamianie wszystkich zaplanowanych zadań?</translation>
 </message>
 <message>
+<source>as it was</source>
+<translation>jak było</translation>
+</message>
+<message>
 <source>ASSISTANT - disable a list of non vital services</source>
 <translation>ASYSTENT - wyłącz zbędne usługi z listy</translation>
 </message>
@@ -345,12 +365,24 @@ Wszystkie funkcje, aplikacje, usługi i zadania zostaną przywrócone.</translat
 <translation>Asystent - brak zadań do wyłączenia</translation>
 </message>
 <message>
+<source>at boot</source>
+<translation>przy rozruchu</translation>
+</message>
+<message>
+<source>Attributes of %1</source>
+<translation>Atrybuty: %1</translation>
+</message>
+<message>
 <source>Auto</source>
 <translation>Auto</translation>
 </message>
 <message>
 <source>Auto started programs disabled:</source>
 <translation>Wyłączone programy autostartu:</translation>
+</message>
+<message>
+<source>automatic</source>
+<translation>automatycznie</translation>
 </message>
 <message>
 <source>Automatic start</source>
@@ -389,6 +421,18 @@ Wszystkie funkcje, aplikacje, usługi i zadania zostaną przywrócone.</translat
 <translation>Dźwięk Bluetooth</translation>
 </message>
 <message>
+<source>Boot option %1</source>
+<translation>Opcja rozruchu %1</translation>
+</message>
+<message>
+<source>broken off</source>
+<translation>przerwane</translation>
+</message>
+<message>
+<source>by the system</source>
+<translation>przez system</translation>
+</message>
+<message>
 <source>Cancel</source>
 <translation>Anuluj</translation>
 </message>
@@ -403,6 +447,14 @@ Wszystkie funkcje, aplikacje, usługi i zadania zostaną przywrócone.</translat
 <message>
 <source>Capacity:</source>
 <translation>Pojemność:</translation>
+</message>
+<message>
+<source>changed</source>
+<translation>zmienione</translation>
+</message>
+<message>
+<source>changed again</source>
+<translation>zmienione ponownie</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -427,6 +479,14 @@ Wszystkie funkcje, aplikacje, usługi i zadania zostaną przywrócone.</translat
 <message>
 <source>Configure auto started programs done!</source>
 <translation>Konfigurowanie programów autostartu zakończone!</translation>
+</message>
+<message>
+<source>Content indexing off</source>
+<translation>Indeksowanie zawartości wyłączone</translation>
+</message>
+<message>
+<source>Content indexing on</source>
+<translation>Indeksowanie zawartości włączone</translation>
 </message>
 <message>
 <source>CPU</source>
@@ -569,6 +629,10 @@ pełnego ekranu, zwłaszcza w aplikacjach do odtwarzania wideo)</translation>
 <translation>Wyłącz Prefetcher  (zapobiega wstępnemu ładowaniu aplikacji)</translation>
 </message>
 <message>
+<source>Disable programs</source>
+<translation>Wyłączanie programów</translation>
+</message>
+<message>
 <source>Disable scheduled tasks</source>
 <translation>Wyłączanie zaplanowanych zadań</translation>
 </message>
@@ -579,6 +643,10 @@ pełnego ekranu, zwłaszcza w aplikacjach do odtwarzania wideo)</translation>
 <message>
 <source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
 <translation>Wyłącz SearchHost.exe  (wyszukiwanie plików; zaawansowane może źle działać)</translation>
+</message>
+<message>
+<source>Disable services</source>
+<translation>Wyłączanie usług</translation>
 </message>
 <message>
 <source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
@@ -663,6 +731,14 @@ przywrócone zostaną tylko usługi wyłączone przez Ciebie</translation>
 <translation>Włącz tryb gry  (domyślnie włączony)</translation>
 </message>
 <message>
+<source>Enable programs</source>
+<translation>Włączanie programów</translation>
+</message>
+<message>
+<source>Enable services</source>
+<translation>Włączanie usług</translation>
+</message>
+<message>
 <source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
 <translation>Włącz menu kontekstowe jak w Windows 10  (wyświetlane są wszystkie pozycje)</translation>
 </message>
@@ -727,6 +803,10 @@ przywrócone zostaną tylko usługi wyłączone przez Ciebie</translation>
 <translation>Funkcje: resetowanie optymalizacji systemu Windows</translation>
 </message>
 <message>
+<source>File %1</source>
+<translation>Plik %1</translation>
+</message>
+<message>
 <source>Files sharing</source>
 <translation>Udostępnianie plików</translation>
 </message>
@@ -775,6 +855,10 @@ przywrócone zostaną tylko usługi wyłączone przez Ciebie</translation>
 <translation>uchwyty</translation>
 </message>
 <message>
+<source>Hibernation</source>
+<translation>Hibernacja</translation>
+</message>
+<message>
 <source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
 <translation>Jeśli nie masz słuchawek ani sprzętu audio podłączonego przez Bluetooth, możesz odznaczyć tę opcję</translation>
 </message>
@@ -793,6 +877,10 @@ przywrócone zostaną tylko usługi wyłączone przez Ciebie</translation>
 <message>
 <source>Install packages</source>
 <translation>Zainstaluj pakiety</translation>
+</message>
+<message>
+<source>installed</source>
+<translation>zainstalowane</translation>
 </message>
 <message>
 <source>Intelligent personal assistant</source>
@@ -815,6 +903,10 @@ Zaznacz je, aby optymalizować, lub odznacz, aby przywrócić wartości domyśln
 <message>
 <source>interval in seconds:</source>
 <translation>odstęp w sekundach:</translation>
+</message>
+<message>
+<source>it didn't come back</source>
+<translation>nie udało się tego przywrócić</translation>
 </message>
 <message>
 <source>Keep features</source>
@@ -869,6 +961,10 @@ Możesz zainstalować je ponownie, klikając „Pokaż odinstalowane pakiety” 
 <translation>ładowanie informacji o ekranie...</translation>
 </message>
 <message>
+<source>Looking around</source>
+<translation>Przeglądanie</translation>
+</message>
+<message>
 <source>Mail &amp; Calendar</source>
 <translation>Poczta i Kalendarz</translation>
 </message>
@@ -883,6 +979,10 @@ Możesz zainstalować je ponownie, klikając „Pokaż odinstalowane pakiety” 
 <message>
 <source>Manual</source>
 <translation>Ręczny</translation>
+</message>
+<message>
+<source>manual</source>
+<translation>ręcznie</translation>
 </message>
 <message>
 <source>Manual start</source>
@@ -949,8 +1049,20 @@ Możesz zainstalować je ponownie, klikając „Pokaż odinstalowane pakiety” 
 <translation>Nie znaleziono optymalizacji!</translation>
 </message>
 <message>
+<source>not possible</source>
+<translation>niemożliwe</translation>
+</message>
+<message>
+<source>off</source>
+<translation>wyłączona</translation>
+</message>
+<message>
 <source>Old Xbox App, no longer supported!</source>
 <translation>Stara aplikacja Xbox, nie jest już wspierana!</translation>
+</message>
+<message>
+<source>on</source>
+<translation>włączona</translation>
 </message>
 <message>
 <source>on drive</source>
@@ -981,6 +1093,14 @@ Możesz zainstalować je ponownie, klikając „Pokaż odinstalowane pakiety” 
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
 <translation>W przeciwnym razie niektóre zaplanowane zadania nie zostaną wykryte!</translation>
+</message>
+<message>
+<source>Owner and rights of %1</source>
+<translation>Właściciel i prawa: %1</translation>
+</message>
+<message>
+<source>Package %1</source>
+<translation>Pakiet %1</translation>
 </message>
 <message>
 <source>package: </source>
@@ -1023,6 +1143,10 @@ Możesz zainstalować je ponownie, klikając „Pokaż odinstalowane pakiety” 
 <translation>Łącze z telefonem</translation>
 </message>
 <message>
+<source>Place of the file %1</source>
+<translation>Miejsce pliku %1</translation>
+</message>
+<message>
 <source>Printer</source>
 <translation>Drukarka</translation>
 </message>
@@ -1043,6 +1167,10 @@ Ten proces służy tylko do przechwytywania wideo z ekranu. Nie ma żadnego wpł
 <message>
 <source>processes</source>
 <translation>procesy</translation>
+</message>
+<message>
+<source>Program started at logon: %1</source>
+<translation>Program przy logowaniu: %1</translation>
 </message>
 <message>
 <source>Programs</source>
@@ -1077,6 +1205,14 @@ Ten proces służy tylko do przechwytywania wideo z ekranu. Nie ma żadnego wpł
 <message>
 <source>Refresh</source>
 <translation>Odśwież</translation>
+</message>
+<message>
+<source>Registry key %1</source>
+<translation>Klucz rejestru %1</translation>
+</message>
+<message>
+<source>Registry value %1</source>
+<translation>Wartość rejestru %1</translation>
 </message>
 <message>
 <source>Remove indexing attribute of %1</source>
@@ -1129,12 +1265,32 @@ Ten proces służy tylko do przechwytywania wideo z ekranu. Nie ma żadnego wpł
 <translation>Przywracanie zaplanowanych zadań</translation>
 </message>
 <message>
+<source>running</source>
+<translation>działa</translation>
+</message>
+<message>
+<source>Scheduled task %1</source>
+<translation>Zaplanowane zadanie %1</translation>
+</message>
+<message>
 <source>Scheduled tasks</source>
 <translation>Zaplanowane zadania</translation>
 </message>
 <message>
 <source>Screenshot tool</source>
 <translation>Narzędzie Wycinanie</translation>
+</message>
+<message>
+<source>Service %1: delayed start</source>
+<translation>Usługa %1: opóźnione uruchamianie</translation>
+</message>
+<message>
+<source>Service %1: run state</source>
+<translation>Usługa %1: działanie</translation>
+</message>
+<message>
+<source>Service %1: start mode</source>
+<translation>Usługa %1: tryb uruchamiania</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1199,12 +1355,20 @@ Ten proces służy tylko do przechwytywania wideo z ekranu. Nie ma żadnego wpł
 (przy dobrym procesorze zmniejsza to opóźnienie)</translation>
 </message>
 <message>
+<source>something else has changed it since</source>
+<translation>od tego czasu zmieniło to coś innego</translation>
+</message>
+<message>
 <source>SSD</source>
 <translation>SSD</translation>
 </message>
 <message>
 <source>Start mode</source>
 <translation>Typ startu</translation>
+</message>
+<message>
+<source>Start of services</source>
+<translation>Uruchamianie usług</translation>
 </message>
 <message>
 <source>Start service:</source>
@@ -1231,6 +1395,10 @@ Ten proces służy tylko do przechwytywania wideo z ekranu. Nie ma żadnego wpł
 <translation>Zatrzymywanie usługi:</translation>
 </message>
 <message>
+<source>stopped</source>
+<translation>zatrzymana</translation>
+</message>
+<message>
 <source>stopped:</source>
 <translation>zatrzymane:</translation>
 </message>
@@ -1247,6 +1415,10 @@ o systemie</translation>
 <message>
 <source>System Information</source>
 <translation>Informacje o systemie</translation>
+</message>
+<message>
+<source>Take back</source>
+<translation>Cofanie</translation>
 </message>
 <message>
 <source>Task:</source>
@@ -1277,16 +1449,32 @@ o systemie</translation>
 <translation>Zadania:</translation>
 </message>
 <message>
+<source>the file is at neither place</source>
+<translation>pliku nie ma w żadnym z obu miejsc</translation>
+</message>
+<message>
 <source>Theme:</source>
 <translation>Motyw:</translation>
+</message>
+<message>
+<source>there</source>
+<translation>obecne</translation>
 </message>
 <message>
 <source>threads</source>
 <translation>wątki</translation>
 </message>
 <message>
+<source>Tweaks</source>
+<translation>Optymalizacje</translation>
+</message>
+<message>
 <source>Uncheck all</source>
 <translation>Odznacz wszystko</translation>
+</message>
+<message>
+<source>under way</source>
+<translation>w toku</translation>
 </message>
 <message>
 <source>Uninstall</source>

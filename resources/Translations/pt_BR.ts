@@ -265,6 +265,14 @@
 &lt;/body&gt;&lt;/html&gt;</translation>
 </message>
 <message>
+<source>%1 bytes</source>
+<translation>%1 bytes</translation>
+</message>
+<message>
+<source>a later session has changed it, too</source>
+<translation>uma sessão posterior também o alterou</translation>
+</message>
+<message>
 <source>A newer version of Kestrune is available!<byte value="xd"/>
 Would you like to visit the website for download?<byte value="xd"/>
 <byte value="xd"/>
@@ -279,6 +287,10 @@ Versão online: %2</translation>
 <message>
 <source>About</source>
 <translation>Sobre</translation>
+</message>
+<message>
+<source>absent</source>
+<translation>ausente</translation>
 </message>
 <message>
 <source>Add indexing attribute of %1 finished</source>
@@ -307,6 +319,10 @@ As otimizações vêm das páginas Serviços, Tarefas agendadas, Programas e Rec
 <translation>Aplicar</translation>
 </message>
 <message>
+<source>Apply features</source>
+<translation>Aplicar recursos</translation>
+</message>
+<message>
 <source>Apply features finished successfully.</source>
 <translation>Recursos aplicados com êxito.</translation>
 </message>
@@ -329,6 +345,10 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 <translation>Tem certeza de que deseja restaurar o início de todas as tarefas agendadas?</translation>
 </message>
 <message>
+<source>as it was</source>
+<translation>como era</translation>
+</message>
+<message>
 <source>ASSISTANT - disable a list of non vital services</source>
 <translation>ASSISTENTE - desabilitar serviços não vitais</translation>
 </message>
@@ -345,12 +365,24 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 <translation>Assistente - nenhuma tarefa a desativar</translation>
 </message>
 <message>
+<source>at boot</source>
+<translation>na inicialização</translation>
+</message>
+<message>
+<source>Attributes of %1</source>
+<translation>Atributos de %1</translation>
+</message>
+<message>
 <source>Auto</source>
 <translation>Auto</translation>
 </message>
 <message>
 <source>Auto started programs disabled:</source>
 <translation>Programas de inicialização desabilitados:</translation>
+</message>
+<message>
+<source>automatic</source>
+<translation>automático</translation>
 </message>
 <message>
 <source>Automatic start</source>
@@ -389,6 +421,18 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 <translation>Áudio Bluetooth</translation>
 </message>
 <message>
+<source>Boot option %1</source>
+<translation>Opção de inicialização %1</translation>
+</message>
+<message>
+<source>broken off</source>
+<translation>interrompido</translation>
+</message>
+<message>
+<source>by the system</source>
+<translation>pelo sistema</translation>
+</message>
+<message>
 <source>Cancel</source>
 <translation>Cancelar</translation>
 </message>
@@ -403,6 +447,14 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 <message>
 <source>Capacity:</source>
 <translation>Capacidade:</translation>
+</message>
+<message>
+<source>changed</source>
+<translation>alterado</translation>
+</message>
+<message>
+<source>changed again</source>
+<translation>alterado novamente</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -427,6 +479,14 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 <message>
 <source>Configure auto started programs done!</source>
 <translation>Configuração dos programas de inicialização concluída!</translation>
+</message>
+<message>
+<source>Content indexing off</source>
+<translation>Indexação de conteúdo desativada</translation>
+</message>
+<message>
+<source>Content indexing on</source>
+<translation>Indexação de conteúdo ativada</translation>
 </message>
 <message>
 <source>CPU</source>
@@ -569,6 +629,10 @@ de tela inteira, principalmente em aplicativos de vídeo)</translation>
 <translation>Desabilitar o Prefetcher  (impede o pré-carregamento de aplicativos)</translation>
 </message>
 <message>
+<source>Disable programs</source>
+<translation>Desabilitar programas</translation>
+</message>
+<message>
 <source>Disable scheduled tasks</source>
 <translation>Desabilitar tarefas agendadas</translation>
 </message>
@@ -579,6 +643,10 @@ de tela inteira, principalmente em aplicativos de vídeo)</translation>
 <message>
 <source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
 <translation>Desabilitar SearchHost.exe  (busca de arquivos; a busca avançada pode falhar)</translation>
+</message>
+<message>
+<source>Disable services</source>
+<translation>Desabilitar serviços</translation>
 </message>
 <message>
 <source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
@@ -663,6 +731,14 @@ somente os serviços que você desabilitou serão restaurados</translation>
 <translation>Habilitar o modo de jogo  (habilitado por padrão)</translation>
 </message>
 <message>
+<source>Enable programs</source>
+<translation>Habilitar programas</translation>
+</message>
+<message>
+<source>Enable services</source>
+<translation>Habilitar serviços</translation>
+</message>
+<message>
 <source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
 <translation>Habilitar o menu de contexto do Windows 10  (todas as entradas são exibidas)</translation>
 </message>
@@ -727,6 +803,10 @@ somente os serviços que você desabilitou serão restaurados</translation>
 <translation>Recursos: redefinindo otimizações do Windows</translation>
 </message>
 <message>
+<source>File %1</source>
+<translation>Arquivo %1</translation>
+</message>
+<message>
 <source>Files sharing</source>
 <translation>Compartilhamento de arquivos</translation>
 </message>
@@ -775,6 +855,10 @@ somente os serviços que você desabilitou serão restaurados</translation>
 <translation>identificadores</translation>
 </message>
 <message>
+<source>Hibernation</source>
+<translation>Hibernação</translation>
+</message>
+<message>
 <source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
 <translation>Se você não tem fone de ouvido ou equipamento de áudio conectado por Bluetooth, pode desmarcar esta opção</translation>
 </message>
@@ -793,6 +877,10 @@ somente os serviços que você desabilitou serão restaurados</translation>
 <message>
 <source>Install packages</source>
 <translation>Instalar pacotes</translation>
+</message>
+<message>
+<source>installed</source>
+<translation>instalado</translation>
 </message>
 <message>
 <source>Intelligent personal assistant</source>
@@ -815,6 +903,10 @@ Marque-os para otimizar ou desmarque-os para restaurar os padrões.</translation
 <message>
 <source>interval in seconds:</source>
 <translation>intervalo em segundos:</translation>
+</message>
+<message>
+<source>it didn't come back</source>
+<translation>não voltou</translation>
 </message>
 <message>
 <source>Keep features</source>
@@ -869,6 +961,10 @@ Você pode reinstalá-los diretamente clicando em &quot;Ver pacotes desinstalado
 <translation>carregando dados da tela...</translation>
 </message>
 <message>
+<source>Looking around</source>
+<translation>Consulta</translation>
+</message>
+<message>
 <source>Mail &amp; Calendar</source>
 <translation>Email e Calendário</translation>
 </message>
@@ -883,6 +979,10 @@ Você pode reinstalá-los diretamente clicando em &quot;Ver pacotes desinstalado
 <message>
 <source>Manual</source>
 <translation>Manual</translation>
+</message>
+<message>
+<source>manual</source>
+<translation>manual</translation>
 </message>
 <message>
 <source>Manual start</source>
@@ -949,8 +1049,20 @@ Você pode reinstalá-los diretamente clicando em &quot;Ver pacotes desinstalado
 <translation>Nenhuma otimização encontrada!</translation>
 </message>
 <message>
+<source>not possible</source>
+<translation>não é possível</translation>
+</message>
+<message>
+<source>off</source>
+<translation>desativado</translation>
+</message>
+<message>
 <source>Old Xbox App, no longer supported!</source>
 <translation>Aplicativo Xbox antigo, não é mais suportado!</translation>
+</message>
+<message>
+<source>on</source>
+<translation>ativado</translation>
 </message>
 <message>
 <source>on drive</source>
@@ -981,6 +1093,14 @@ Você pode reinstalá-los diretamente clicando em &quot;Ver pacotes desinstalado
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
 <translation>Caso contrário, algumas tarefas agendadas não serão detectadas!</translation>
+</message>
+<message>
+<source>Owner and rights of %1</source>
+<translation>Proprietário e permissões de %1</translation>
+</message>
+<message>
+<source>Package %1</source>
+<translation>Pacote %1</translation>
 </message>
 <message>
 <source>package: </source>
@@ -1023,6 +1143,10 @@ Você pode reinstalá-los diretamente clicando em &quot;Ver pacotes desinstalado
 <translation>Vincular ao Celular</translation>
 </message>
 <message>
+<source>Place of the file %1</source>
+<translation>Local do arquivo %1</translation>
+</message>
+<message>
 <source>Printer</source>
 <translation>Impressora</translation>
 </message>
@@ -1043,6 +1167,10 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 <message>
 <source>processes</source>
 <translation>processos</translation>
+</message>
+<message>
+<source>Program started at logon: %1</source>
+<translation>Programa ao entrar: %1</translation>
 </message>
 <message>
 <source>Programs</source>
@@ -1077,6 +1205,14 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 <message>
 <source>Refresh</source>
 <translation>Atualizar</translation>
+</message>
+<message>
+<source>Registry key %1</source>
+<translation>Chave do Registro %1</translation>
+</message>
+<message>
+<source>Registry value %1</source>
+<translation>Valor do Registro %1</translation>
 </message>
 <message>
 <source>Remove indexing attribute of %1</source>
@@ -1129,12 +1265,32 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 <translation>Restauração das tarefas agendadas</translation>
 </message>
 <message>
+<source>running</source>
+<translation>em execução</translation>
+</message>
+<message>
+<source>Scheduled task %1</source>
+<translation>Tarefa agendada %1</translation>
+</message>
+<message>
 <source>Scheduled tasks</source>
 <translation>Tarefas agendadas</translation>
 </message>
 <message>
 <source>Screenshot tool</source>
 <translation>Ferramenta de captura</translation>
+</message>
+<message>
+<source>Service %1: delayed start</source>
+<translation>Serviço %1: início atrasado</translation>
+</message>
+<message>
+<source>Service %1: run state</source>
+<translation>Serviço %1: execução</translation>
+</message>
+<message>
+<source>Service %1: start mode</source>
+<translation>Serviço %1: modo de início</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1199,12 +1355,20 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 (com uma boa CPU, isso reduz a latência)</translation>
 </message>
 <message>
+<source>something else has changed it since</source>
+<translation>outra coisa o alterou desde então</translation>
+</message>
+<message>
 <source>SSD</source>
 <translation>SSD</translation>
 </message>
 <message>
 <source>Start mode</source>
 <translation>Início</translation>
+</message>
+<message>
+<source>Start of services</source>
+<translation>Início de serviços</translation>
 </message>
 <message>
 <source>Start service:</source>
@@ -1231,6 +1395,10 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 <translation>Parar serviço:</translation>
 </message>
 <message>
+<source>stopped</source>
+<translation>parado</translation>
+</message>
+<message>
 <source>stopped:</source>
 <translation>parados:</translation>
 </message>
@@ -1247,6 +1415,10 @@ do sistema</translation>
 <message>
 <source>System Information</source>
 <translation>Informações do sistema</translation>
+</message>
+<message>
+<source>Take back</source>
+<translation>Desfazer</translation>
 </message>
 <message>
 <source>Task:</source>
@@ -1277,16 +1449,32 @@ do sistema</translation>
 <translation>Tarefas:</translation>
 </message>
 <message>
+<source>the file is at neither place</source>
+<translation>o arquivo não está em nenhum dos dois lugares</translation>
+</message>
+<message>
 <source>Theme:</source>
 <translation>Tema:</translation>
+</message>
+<message>
+<source>there</source>
+<translation>presente</translation>
 </message>
 <message>
 <source>threads</source>
 <translation>threads</translation>
 </message>
 <message>
+<source>Tweaks</source>
+<translation>Ajustes</translation>
+</message>
+<message>
 <source>Uncheck all</source>
 <translation>Desmarcar tudo</translation>
+</message>
+<message>
+<source>under way</source>
+<translation>em andamento</translation>
 </message>
 <message>
 <source>Uninstall</source>

@@ -265,6 +265,14 @@
 &lt;/body&gt;&lt;/html&gt;</translation>
 </message>
 <message>
+<source>%1 bytes</source>
+<translation>%1 字节</translation>
+</message>
+<message>
+<source>a later session has changed it, too</source>
+<translation>之后的会话也更改了它</translation>
+</message>
+<message>
 <source>A newer version of Kestrune is available!<byte value="xd"/>
 Would you like to visit the website for download?<byte value="xd"/>
 <byte value="xd"/>
@@ -279,6 +287,10 @@ Online version: %2</source>
 <message>
 <source>About</source>
 <translation>关于</translation>
+</message>
+<message>
+<source>absent</source>
+<translation>不存在</translation>
 </message>
 <message>
 <source>Add indexing attribute of %1 finished</source>
@@ -307,6 +319,10 @@ Optimizations come from the Services, Scheduled Tasks, Programs, and Features pa
 <translation>应用</translation>
 </message>
 <message>
+<source>Apply features</source>
+<translation>应用功能</translation>
+</message>
+<message>
 <source>Apply features finished successfully.</source>
 <translation>功能已成功应用。</translation>
 </message>
@@ -329,6 +345,10 @@ All features, applications, services and tasks will be restored.</source>
 <translation>确定要还原所有计划任务的启动吗?</translation>
 </message>
 <message>
+<source>as it was</source>
+<translation>与原来相同</translation>
+</message>
+<message>
 <source>ASSISTANT - disable a list of non vital services</source>
 <translation>助手 - 禁用一组非关键服务</translation>
 </message>
@@ -345,12 +365,24 @@ All features, applications, services and tasks will be restored.</source>
 <translation>助手 - 没有要停用的任务</translation>
 </message>
 <message>
+<source>at boot</source>
+<translation>引导时</translation>
+</message>
+<message>
+<source>Attributes of %1</source>
+<translation>%1 的属性</translation>
+</message>
+<message>
 <source>Auto</source>
 <translation>自动</translation>
 </message>
 <message>
 <source>Auto started programs disabled:</source>
 <translation>已禁用的自启动程序:</translation>
+</message>
+<message>
+<source>automatic</source>
+<translation>自动</translation>
 </message>
 <message>
 <source>Automatic start</source>
@@ -389,6 +421,18 @@ All features, applications, services and tasks will be restored.</source>
 <translation>蓝牙音频</translation>
 </message>
 <message>
+<source>Boot option %1</source>
+<translation>启动选项 %1</translation>
+</message>
+<message>
+<source>broken off</source>
+<translation>已中断</translation>
+</message>
+<message>
+<source>by the system</source>
+<translation>由系统</translation>
+</message>
+<message>
 <source>Cancel</source>
 <translation>取消</translation>
 </message>
@@ -403,6 +447,14 @@ All features, applications, services and tasks will be restored.</source>
 <message>
 <source>Capacity:</source>
 <translation>容量:</translation>
+</message>
+<message>
+<source>changed</source>
+<translation>已更改</translation>
+</message>
+<message>
+<source>changed again</source>
+<translation>再次更改</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -427,6 +479,14 @@ All features, applications, services and tasks will be restored.</source>
 <message>
 <source>Configure auto started programs done!</source>
 <translation>自启动程序配置完成!</translation>
+</message>
+<message>
+<source>Content indexing off</source>
+<translation>关闭内容索引</translation>
+</message>
+<message>
+<source>Content indexing on</source>
+<translation>开启内容索引</translation>
 </message>
 <message>
 <source>CPU</source>
@@ -569,6 +629,10 @@ especially for video playback apps)</source>
 <translation>禁用 Prefetcher  (阻止预加载应用程序)</translation>
 </message>
 <message>
+<source>Disable programs</source>
+<translation>禁用程序</translation>
+</message>
+<message>
 <source>Disable scheduled tasks</source>
 <translation>禁用计划任务</translation>
 </message>
@@ -579,6 +643,10 @@ especially for video playback apps)</source>
 <message>
 <source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
 <translation>禁用 SearchHost.exe  (搜索文件的进程。禁用后高级搜索可能无法正常工作)</translation>
+</message>
+<message>
+<source>Disable services</source>
+<translation>禁用服务</translation>
 </message>
 <message>
 <source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
@@ -663,6 +731,14 @@ then restore only the services you have disabled</source>
 <translation>启用游戏模式  (默认启用)</translation>
 </message>
 <message>
+<source>Enable programs</source>
+<translation>启用程序</translation>
+</message>
+<message>
+<source>Enable services</source>
+<translation>启用服务</translation>
+</message>
+<message>
 <source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
 <translation>启用 Windows 10 样式的上下文菜单  (显示所有菜单项)</translation>
 </message>
@@ -727,6 +803,10 @@ then restore only the services you have disabled</source>
 <translation>功能: 重置 Windows 优化</translation>
 </message>
 <message>
+<source>File %1</source>
+<translation>文件 %1</translation>
+</message>
+<message>
 <source>Files sharing</source>
 <translation>文件共享</translation>
 </message>
@@ -775,6 +855,10 @@ then restore only the services you have disabled</source>
 <translation>句柄</translation>
 </message>
 <message>
+<source>Hibernation</source>
+<translation>休眠</translation>
+</message>
+<message>
 <source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
 <translation>如果没有通过蓝牙连接的耳机或音频设备，可以取消选中此项</translation>
 </message>
@@ -793,6 +877,10 @@ then restore only the services you have disabled</source>
 <message>
 <source>Install packages</source>
 <translation>安装程序包</translation>
+</message>
+<message>
+<source>installed</source>
+<translation>已安装</translation>
 </message>
 <message>
 <source>Intelligent personal assistant</source>
@@ -815,6 +903,10 @@ Check them to optimize or uncheck them to restore defaults.</source>
 <message>
 <source>interval in seconds:</source>
 <translation>间隔(秒):</translation>
+</message>
+<message>
+<source>it didn't come back</source>
+<translation>未能恢复</translation>
 </message>
 <message>
 <source>Keep features</source>
@@ -869,6 +961,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <translation>正在加载屏幕信息...</translation>
 </message>
 <message>
+<source>Looking around</source>
+<translation>浏览</translation>
+</message>
+<message>
 <source>Mail &amp; Calendar</source>
 <translation>邮件和日历</translation>
 </message>
@@ -882,6 +978,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>Manual</source>
+<translation>手动</translation>
+</message>
+<message>
+<source>manual</source>
 <translation>手动</translation>
 </message>
 <message>
@@ -949,8 +1049,20 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <translation>未找到可优化项目!</translation>
 </message>
 <message>
+<source>not possible</source>
+<translation>无法撤回</translation>
+</message>
+<message>
+<source>off</source>
+<translation>关</translation>
+</message>
+<message>
 <source>Old Xbox App, no longer supported!</source>
 <translation>旧版 Xbox 应用，已不再受支持!</translation>
+</message>
+<message>
+<source>on</source>
+<translation>开</translation>
 </message>
 <message>
 <source>on drive</source>
@@ -981,6 +1093,14 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
 <translation>否则某些计划任务将无法检测到!</translation>
+</message>
+<message>
+<source>Owner and rights of %1</source>
+<translation>%1 的所有者和权限</translation>
+</message>
+<message>
+<source>Package %1</source>
+<translation>程序包 %1</translation>
 </message>
 <message>
 <source>package: </source>
@@ -1023,6 +1143,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <translation>手机连接</translation>
 </message>
 <message>
+<source>Place of the file %1</source>
+<translation>文件 %1 的位置</translation>
+</message>
+<message>
 <source>Printer</source>
 <translation>打印机</translation>
 </message>
@@ -1043,6 +1167,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <message>
 <source>processes</source>
 <translation>进程</translation>
+</message>
+<message>
+<source>Program started at logon: %1</source>
+<translation>登录时启动的程序：%1</translation>
 </message>
 <message>
 <source>Programs</source>
@@ -1077,6 +1205,14 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <message>
 <source>Refresh</source>
 <translation>刷新</translation>
+</message>
+<message>
+<source>Registry key %1</source>
+<translation>注册表项 %1</translation>
+</message>
+<message>
+<source>Registry value %1</source>
+<translation>注册表值 %1</translation>
 </message>
 <message>
 <source>Remove indexing attribute of %1</source>
@@ -1129,12 +1265,32 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <translation>正在还原计划任务</translation>
 </message>
 <message>
+<source>running</source>
+<translation>正在运行</translation>
+</message>
+<message>
+<source>Scheduled task %1</source>
+<translation>计划任务 %1</translation>
+</message>
+<message>
 <source>Scheduled tasks</source>
 <translation>计划任务</translation>
 </message>
 <message>
 <source>Screenshot tool</source>
 <translation>截图工具</translation>
+</message>
+<message>
+<source>Service %1: delayed start</source>
+<translation>服务 %1：延迟启动</translation>
+</message>
+<message>
+<source>Service %1: run state</source>
+<translation>服务 %1：运行状态</translation>
+</message>
+<message>
+<source>Service %1: start mode</source>
+<translation>服务 %1：启动方式</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1199,12 +1355,20 @@ This process only allows screen video capture.Does not affect the monitoring dis
 (如果 CPU 性能较好，可降低延迟)</translation>
 </message>
 <message>
+<source>something else has changed it since</source>
+<translation>此后被其他程序更改</translation>
+</message>
+<message>
 <source>SSD</source>
 <translation>SSD</translation>
 </message>
 <message>
 <source>Start mode</source>
 <translation>启动类型</translation>
+</message>
+<message>
+<source>Start of services</source>
+<translation>服务启动方式</translation>
 </message>
 <message>
 <source>Start service:</source>
@@ -1231,6 +1395,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <translation>停止服务:</translation>
 </message>
 <message>
+<source>stopped</source>
+<translation>已停止</translation>
+</message>
+<message>
 <source>stopped:</source>
 <translation>已停止:</translation>
 </message>
@@ -1247,6 +1415,10 @@ Information</source>
 <message>
 <source>System Information</source>
 <translation>系统信息</translation>
+</message>
+<message>
+<source>Take back</source>
+<translation>撤回</translation>
 </message>
 <message>
 <source>Task:</source>
@@ -1277,16 +1449,32 @@ Information</source>
 <translation>任务:</translation>
 </message>
 <message>
+<source>the file is at neither place</source>
+<translation>文件不在两个位置中的任何一个</translation>
+</message>
+<message>
 <source>Theme:</source>
 <translation>主题:</translation>
+</message>
+<message>
+<source>there</source>
+<translation>存在</translation>
 </message>
 <message>
 <source>threads</source>
 <translation>线程</translation>
 </message>
 <message>
+<source>Tweaks</source>
+<translation>优化项</translation>
+</message>
+<message>
 <source>Uncheck all</source>
 <translation>全部取消选中</translation>
+</message>
+<message>
+<source>under way</source>
+<translation>进行中</translation>
 </message>
 <message>
 <source>Uninstall</source>

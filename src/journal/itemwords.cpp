@@ -5,58 +5,106 @@
 #include "machine/registrydisplay.h"
 #include "platform/windowsfacts.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
+/** In the language of the program, which is English where it has installed none. */
+class Words
+{
+    Q_DECLARE_TR_FUNCTIONS(Kestrune)
+};
+
+// What others have written in English, here for the translation only.
+// clang-format off
+[[maybe_unused]] constexpr const char *translatedWords[] = {
+    // What sessions are called
+    QT_TRANSLATE_NOOP("Kestrune", "Analyze"),
+    QT_TRANSLATE_NOOP("Kestrune", "Apply features"),
+    QT_TRANSLATE_NOOP("Kestrune", "Content indexing off"),
+    QT_TRANSLATE_NOOP("Kestrune", "Content indexing on"),
+    QT_TRANSLATE_NOOP("Kestrune", "Disable programs"),
+    QT_TRANSLATE_NOOP("Kestrune", "Disable services"),
+    QT_TRANSLATE_NOOP("Kestrune", "Enable programs"),
+    QT_TRANSLATE_NOOP("Kestrune", "Enable services"),
+    QT_TRANSLATE_NOOP("Kestrune", "Looking around"),
+    QT_TRANSLATE_NOOP("Kestrune", "Optimize"),
+    QT_TRANSLATE_NOOP("Kestrune", "Packages"),
+    QT_TRANSLATE_NOOP("Kestrune", "Restore"),
+    QT_TRANSLATE_NOOP("Kestrune", "Start of services"),
+    QT_TRANSLATE_NOOP("Kestrune", "Take back"),
+    QT_TRANSLATE_NOOP("Kestrune", "Tasks"),
+    QT_TRANSLATE_NOOP("Kestrune", "Tweaks"),
+    // Why something isn't back
+    QT_TRANSLATE_NOOP("Kestrune", "a later session has changed it, too"),
+    QT_TRANSLATE_NOOP("Kestrune", "it didn't come back"),
+    QT_TRANSLATE_NOOP("Kestrune", "something else has changed it since"),
+    QT_TRANSLATE_NOOP("Kestrune", "the file is at neither place"),
+};
+// clang-format on
+
+/** The service whose value of that name the item is. */
+std::optional<QString> serviceOfValue(const Item &item, QLatin1StringView name)
+{
+    const bool isValue = item.kind == ItemKind::Value && item.name.compare(name, Qt::CaseInsensitive) == 0;
+    return isValue ? serviceOfKey(item.subject) : std::nullopt;
+}
+
 /** The value in which a service's start mode stands. */
 std::optional<QString> serviceOfStart(const Item &item)
 {
-    const bool isStart = item.kind == ItemKind::Value && item.name.compare("Start"_L1, Qt::CaseInsensitive) == 0;
-    return isStart ? serviceOfKey(item.subject) : std::nullopt;
+    return serviceOfValue(item, "Start"_L1);
 }
 
 QString startText(const ItemState &state)
 {
-    static const QStringList modes{u"at boot"_s, u"by the system"_s, u"automatic"_s, u"manual"_s, u"disabled"_s};
+    const QStringList modes{Words::tr("at boot"), Words::tr("by the system"), Words::tr("automatic"),
+                            Words::tr("manual"), Words::tr("disabled")};
     const auto mode = state.data.isEmpty() ? modes.size() : static_cast<unsigned char>(state.data.front());
-    return modes.value(mode, u"unknown"_s);
+    return modes.value(mode, Words::tr("unknown"));
 }
 
-QString switchText(const ItemState &state, QLatin1StringView on, QLatin1StringView off)
+QString valueTitle(const Item &item)
 {
-    return state.there ? on : off;
+    if (const auto service = serviceOfStart(item))
+        return Words::tr("Service %1: start mode").arg(*service);
+    if (const auto service = serviceOfValue(item, "DelayedAutostart"_L1))
+        return Words::tr("Service %1: delayed start").arg(*service);
+    if (WindowsKey::runKeys.contains(item.subject, Qt::CaseInsensitive))
+        return Words::tr("Program started at logon: %1").arg(item.name);
+    return Words::tr("Registry value %1")
+        .arg(item.subject + u'\\' + (item.name.isEmpty() ? u"(default)"_s : item.name));
 }
 
 } // namespace
 
 QString itemTitle(const Item &item)
 {
-    if (const auto service = serviceOfStart(item))
-        return u"service %1: how it starts"_s.arg(*service);
     switch (item.kind) {
     case ItemKind::Value:
-        return u"registry %1: %2"_s.arg(item.subject, item.name.isEmpty() ? u"(default)"_s : item.name);
+        return valueTitle(item);
     case ItemKind::Key:
-        return u"registry key %1"_s.arg(item.subject);
+        return Words::tr("Registry key %1").arg(item.subject);
     case ItemKind::RunState:
-        return u"service %1: whether it runs"_s.arg(item.subject);
+        return Words::tr("Service %1: run state").arg(item.subject);
     case ItemKind::Task:
-        return u"task %1"_s.arg(item.subject);
+        return Words::tr("Scheduled task %1").arg(item.subject);
     case ItemKind::Package:
-        return u"package %1"_s.arg(item.subject);
+        return Words::tr("Package %1").arg(item.subject);
     case ItemKind::BootOption:
-        return u"boot option %1"_s.arg(item.subject);
+        return Words::tr("Boot option %1").arg(item.subject);
     case ItemKind::Hibernation:
-        return u"hibernation"_s;
+        return Words::tr("Hibernation");
     case ItemKind::Security:
-        return u"owner and rights of %1"_s.arg(item.subject);
+        return Words::tr("Owner and rights of %1").arg(item.subject);
     case ItemKind::Attributes:
-        return u"attributes of %1"_s.arg(item.subject);
+        return Words::tr("Attributes of %1").arg(item.subject);
     case ItemKind::Content:
-        return u"file %1"_s.arg(item.subject);
+        return Words::tr("File %1").arg(item.subject);
     case ItemKind::Move:
-        return u"name of %1"_s.arg(item.subject);
+        return Words::tr("Place of the file %1").arg(item.subject);
     }
     return {};
 }
@@ -65,20 +113,20 @@ QString stateText(const Item &item, const ItemState &state)
 {
     switch (item.kind) {
     case ItemKind::RunState:
-        return switchText(state, "running"_L1, "stopped"_L1);
+        return state.there ? Words::tr("running") : Words::tr("stopped");
     case ItemKind::Task:
-        return switchText(state, "enabled"_L1, "disabled"_L1);
+        return state.there ? Words::tr("enabled") : Words::tr("disabled");
     case ItemKind::Package:
-        return switchText(state, "installed"_L1, "absent"_L1);
+        return state.there ? Words::tr("installed") : Words::tr("absent");
     case ItemKind::Hibernation:
-        return switchText(state, "on"_L1, "off"_L1);
+        return state.there ? Words::tr("on") : Words::tr("off");
     case ItemKind::Move:
         return state.there ? item.subject : item.name;
     default:
         break;
     }
     if (!state.there)
-        return u"absent"_s;
+        return Words::tr("absent");
     if (serviceOfStart(item))
         return startText(state);
     switch (item.kind) {
@@ -89,9 +137,9 @@ QString stateText(const Item &item, const ItemState &state)
     case ItemKind::Attributes:
         return u"0x"_s + QString::number(state.type, 16);
     case ItemKind::Content:
-        return u"%1 bytes"_s.arg(state.data.size());
+        return Words::tr("%1 bytes").arg(state.data.size());
     default:
-        return u"there"_s;
+        return Words::tr("there");
     }
 }
 
@@ -99,13 +147,13 @@ QString verdictText(WayBack verdict)
 {
     switch (verdict) {
     case WayBack::AsItWas:
-        return u"as it was"_s;
+        return Words::tr("as it was");
     case WayBack::Open:
-        return u"changed"_s;
+        return Words::tr("changed");
     case WayBack::Changed:
-        return u"changed again"_s;
+        return Words::tr("changed again");
     case WayBack::Impossible:
-        return u"not possible"_s;
+        return Words::tr("not possible");
     }
     return {};
 }
@@ -114,11 +162,16 @@ QString sessionStateText(SessionState state)
 {
     switch (state) {
     case SessionState::UnderWay:
-        return u"under way"_s;
+        return Words::tr("under way");
     case SessionState::Finished:
-        return u"finished"_s;
+        return Words::tr("finished");
     case SessionState::BrokenOff:
-        return u"broken off"_s;
+        return Words::tr("broken off");
     }
     return {};
+}
+
+QString translatedText(const QString &english)
+{
+    return Words::tr(english.toUtf8().constData());
 }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What was changed, in words.
+// What was changed, in words of the language that the program has installed; in English where it has none.
 
 #pragma once
 
 #include "takeback.h"
 
-/** "service Spooler: how it starts"; in English. */
+/** "Service Spooler: start mode" */
 QString itemTitle(const Item &item);
 /** "disabled", "dword 1"; what isn't there is "absent". */
 QString stateText(const Item &item, const ItemState &state);
@@ -13,3 +13,5 @@ QString stateText(const Item &item, const ItemState &state);
 QString verdictText(WayBack verdict);
 /** "finished", "broken off", "under way" */
 QString sessionStateText(SessionState state);
+/** The same of what is kept in English: what a session is called, and why something isn't back. */
+QString translatedText(const QString &english);

@@ -110,9 +110,9 @@ void TestRehearseUndo::listsTheChangesOfASession()
     QStringList changes;
     for (const QString &line : linesOf(ended))
         changes.append(line.section(u'\t', 1));
-    QVERIFY2(changes.contains(u"changed\tservice DiagTrack: how it starts\tautomatic\tdisabled"_s),
+    QVERIFY2(changes.contains(u"changed\tService DiagTrack: start mode\tautomatic\tdisabled"_s),
              qPrintable(changes.join(u'\n')));
-    QVERIFY2(changes.contains(u"changed\tservice DiagTrack: whether it runs\trunning\tstopped"_s),
+    QVERIFY2(changes.contains(u"changed\tService DiagTrack: run state\trunning\tstopped"_s),
              qPrintable(changes.join(u'\n')));
 }
 
@@ -148,7 +148,7 @@ void TestRehearseUndo::takesOneItemBack()
     Changed machine;
     const QStringList changes =
         linesOf(rehearse({u"undo"_s, machine.folder(), u"--list"_s, u"--since"_s, u"2000-01-01"_s}));
-    const QString item = changes.filter(u"DiagTrack: whether it runs"_s).first().section(u'\t', 0, 0);
+    const QString item = changes.filter(u"DiagTrack: run state"_s).first().section(u'\t', 0, 0);
     // A disabled service runs again, and stays disabled.
     QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--item"_s, item}).exitCode, done);
     QVERIFY(!machine.differences().contains(u"service DiagTrack "_s));
