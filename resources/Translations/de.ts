@@ -269,6 +269,18 @@
 <translation>%1 Byte</translation>
 </message>
 <message>
+<source>%1 of %2 are as they were.</source>
+<translation>%1 von %2 sind, wie sie waren.</translation>
+</message>
+<message>
+<source>&amp;Sessions:</source>
+<translation>&amp;Sitzungen:</translation>
+</message>
+<message>
+<source>&amp;Take back</source>
+<translation>&amp;Zurücknehmen</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>eine spätere Sitzung hat es auch geändert</translation>
 </message>
@@ -417,6 +429,10 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 <translation>Sicherungsdatei vorhanden</translation>
 </message>
 <message>
+<source>Before</source>
+<translation>Vorher</translation>
+</message>
+<message>
 <source>Bluetooth audio</source>
 <translation>Bluetooth-Audio</translation>
 </message>
@@ -427,6 +443,10 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 <message>
 <source>broken off</source>
 <translation>abgebrochen</translation>
+</message>
+<message>
+<source>Broken off: way back…</source>
+<translation>Abgebrochen: Weg zurück …</translation>
 </message>
 <message>
 <source>by the system</source>
@@ -449,12 +469,20 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 <translation>Kapazität:</translation>
 </message>
 <message>
+<source>Change</source>
+<translation>Änderung</translation>
+</message>
+<message>
 <source>changed</source>
 <translation>geändert</translation>
 </message>
 <message>
 <source>changed again</source>
 <translation>wieder geändert</translation>
+</message>
+<message>
+<source>Changes</source>
+<translation>Änderungen</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -471,6 +499,10 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 <message>
 <source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
 <translation>WinSxS-Ordner mit dem Microsoft-Tool DISM bereinigen  (aktuelle Größe: %1 GB)</translation>
+</message>
+<message>
+<source>Close</source>
+<translation>Schließen</translation>
 </message>
 <message>
 <source>Comments</source>
@@ -1041,6 +1073,10 @@ Mit „Deinstallierte Pakete anzeigen“ unter der Liste können Sie sie direkt 
 <translation>Nein</translation>
 </message>
 <message>
+<source>No changes have been noted on this PC so far.</source>
+<translation>Auf diesem PC wurden bisher keine Änderungen notiert.</translation>
+</message>
+<message>
 <source>no description</source>
 <translation>keine Beschreibung</translation>
 </message>
@@ -1051,6 +1087,10 @@ Mit „Deinstallierte Pakete anzeigen“ unter der Liste können Sie sie direkt 
 <message>
 <source>not possible</source>
 <translation>nicht möglich</translation>
+</message>
+<message>
+<source>Now</source>
+<translation>Jetzt</translation>
 </message>
 <message>
 <source>off</source>
@@ -1197,6 +1237,10 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 (standardmäßig nicht verwendet, aber aktiviert!)</translation>
 </message>
 <message>
+<source>Reading what has become of it…</source>
+<translation>Der heutige Stand wird gelesen …</translation>
+</message>
+<message>
 <source>Reduces certain delays
 (menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
 <translation>Bestimmte Verzögerungen verringern
@@ -1267,6 +1311,10 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 <message>
 <source>running</source>
 <translation>läuft</translation>
+</message>
+<message>
+<source>S&amp;earch:</source>
+<translation>Su&amp;che:</translation>
 </message>
 <message>
 <source>Scheduled task %1</source>
@@ -1349,6 +1397,10 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 <translation>Dienste:</translation>
 </message>
 <message>
+<source>Sessions</source>
+<translation>Sitzungen</translation>
+</message>
+<message>
 <source>Set the maximum number of GPU pre-rendered frames to 1
 (if you have a good CPU, this reduces latency)</source>
 <translation>Höchstzahl der von der GPU vorgerenderten Bilder auf 1 festlegen
@@ -1381,6 +1433,10 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 <message>
 <source>started:</source>
 <translation>gestartet:</translation>
+</message>
+<message>
+<source>State</source>
+<translation>Stand</translation>
 </message>
 <message>
 <source>Status: Getting WinSxS folder size finished!</source>
@@ -1421,6 +1477,10 @@ info</translation>
 <translation>Zurücknehmen</translation>
 </message>
 <message>
+<source>Taking back…</source>
+<translation>Wird zurückgenommen …</translation>
+</message>
+<message>
 <source>Task:</source>
 <translation>Aufgabe:</translation>
 </message>
@@ -1451,6 +1511,10 @@ info</translation>
 <message>
 <source>the file is at neither place</source>
 <translation>die Datei ist an keinem der beiden Orte</translation>
+</message>
+<message>
+<source>The way back needs Admin rights: only what was changed with them is noted.</source>
+<translation>Der Weg zurück braucht Administratorrechte: Nur was mit ihnen geändert wurde, ist notiert.</translation>
 </message>
 <message>
 <source>Theme:</source>
@@ -1521,6 +1585,26 @@ info</translation>
 <translation>Deinstallierte Pakete anzeigen</translation>
 </message>
 <message>
+<source>Way back</source>
+<translation>Weg zurück</translation>
+</message>
+<message>
+<source>Way back…</source>
+<translation>Weg zurück …</translation>
+</message>
+<message>
+<source>What</source>
+<translation>Was</translation>
+</message>
+<message>
+<source>What was changed on this PC isn't noted, so there is no way back by notes.</source>
+<translation>Was auf diesem PC geändert wurde, ist nicht notiert; deshalb gibt es keinen Weg zurück nach Notizen.</translation>
+</message>
+<message>
+<source>When</source>
+<translation>Wann</translation>
+</message>
+<message>
 <source>Widget app</source>
 <translation>Widget-App</translation>
 </message>
@@ -1565,6 +1649,10 @@ info</translation>
 (by default it is not used but activated!)</source>
 <translation>Windows-Freigabe im lokalen Netzwerk (SMB-Protokoll) (z. B. zum Verbinden von Festplatten oder Druckern im lokalen Netzwerk)<byte value="xd"/>
 (standardmäßig nicht verwendet, aber aktiviert!)</translation>
+</message>
+<message>
+<source>With all &amp;later changes</source>
+<translation>Mit &amp;allen späteren Änderungen</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>

@@ -269,6 +269,18 @@
 <translation>%1 bytes</translation>
 </message>
 <message>
+<source>%1 of %2 are as they were.</source>
+<translation>%1 de %2 están como estaban.</translation>
+</message>
+<message>
+<source>&amp;Sessions:</source>
+<translation>&amp;Sesiones:</translation>
+</message>
+<message>
+<source>&amp;Take back</source>
+<translation>&amp;Deshacer</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>una sesión posterior también lo ha cambiado</translation>
 </message>
@@ -417,6 +429,10 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 <translation>Existe un archivo de copia de seguridad</translation>
 </message>
 <message>
+<source>Before</source>
+<translation>Antes</translation>
+</message>
+<message>
 <source>Bluetooth audio</source>
 <translation>Audio Bluetooth</translation>
 </message>
@@ -427,6 +443,10 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 <message>
 <source>broken off</source>
 <translation>interrumpido</translation>
+</message>
+<message>
+<source>Broken off: way back…</source>
+<translation>Interrumpido: vuelta atrás…</translation>
 </message>
 <message>
 <source>by the system</source>
@@ -449,12 +469,20 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 <translation>Capacidad:</translation>
 </message>
 <message>
+<source>Change</source>
+<translation>Cambio</translation>
+</message>
+<message>
 <source>changed</source>
 <translation>cambiado</translation>
 </message>
 <message>
 <source>changed again</source>
 <translation>cambiado de nuevo</translation>
+</message>
+<message>
+<source>Changes</source>
+<translation>Cambios</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -471,6 +499,10 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 <message>
 <source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
 <translation>Limpiar la carpeta WinSxS con la herramienta DISM de Microsoft  (tamaño actual: %1 GB)</translation>
+</message>
+<message>
+<source>Close</source>
+<translation>Cerrar</translation>
 </message>
 <message>
 <source>Comments</source>
@@ -1041,6 +1073,10 @@ Puede volver a instalarlos directamente haciendo clic en «Ver paquetes desinsta
 <translation>No</translation>
 </message>
 <message>
+<source>No changes have been noted on this PC so far.</source>
+<translation>Aún no se ha anotado ningún cambio en este PC.</translation>
+</message>
+<message>
 <source>no description</source>
 <translation>sin descripción</translation>
 </message>
@@ -1051,6 +1087,10 @@ Puede volver a instalarlos directamente haciendo clic en «Ver paquetes desinsta
 <message>
 <source>not possible</source>
 <translation>no es posible</translation>
+</message>
+<message>
+<source>Now</source>
+<translation>Ahora</translation>
 </message>
 <message>
 <source>off</source>
@@ -1197,6 +1237,10 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 (de forma predeterminada no se usa, pero está activada)</translation>
 </message>
 <message>
+<source>Reading what has become of it…</source>
+<translation>Leyendo el estado actual…</translation>
+</message>
+<message>
 <source>Reduces certain delays
 (menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
 <translation>Reducir ciertos retrasos
@@ -1267,6 +1311,10 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 <message>
 <source>running</source>
 <translation>en ejecución</translation>
+</message>
+<message>
+<source>S&amp;earch:</source>
+<translation>&amp;Buscar:</translation>
 </message>
 <message>
 <source>Scheduled task %1</source>
@@ -1349,6 +1397,10 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 <translation>Servicios:</translation>
 </message>
 <message>
+<source>Sessions</source>
+<translation>Sesiones</translation>
+</message>
+<message>
 <source>Set the maximum number of GPU pre-rendered frames to 1
 (if you have a good CPU, this reduces latency)</source>
 <translation>Establecer en 1 el número máximo de fotogramas prerrenderizados por la GPU
@@ -1381,6 +1433,10 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 <message>
 <source>started:</source>
 <translation>iniciados:</translation>
+</message>
+<message>
+<source>State</source>
+<translation>Estado</translation>
 </message>
 <message>
 <source>Status: Getting WinSxS folder size finished!</source>
@@ -1421,6 +1477,10 @@ del sistema</translation>
 <translation>Deshacer</translation>
 </message>
 <message>
+<source>Taking back…</source>
+<translation>Deshaciendo…</translation>
+</message>
+<message>
 <source>Task:</source>
 <translation>Tarea:</translation>
 </message>
@@ -1451,6 +1511,10 @@ del sistema</translation>
 <message>
 <source>the file is at neither place</source>
 <translation>el archivo no está en ninguno de los dos sitios</translation>
+</message>
+<message>
+<source>The way back needs Admin rights: only what was changed with them is noted.</source>
+<translation>La vuelta atrás requiere derechos de administrador: solo se anota lo que se cambió con ellos.</translation>
 </message>
 <message>
 <source>Theme:</source>
@@ -1521,6 +1585,26 @@ del sistema</translation>
 <translation>Ver paquetes desinstalados</translation>
 </message>
 <message>
+<source>Way back</source>
+<translation>Vuelta atrás</translation>
+</message>
+<message>
+<source>Way back…</source>
+<translation>Vuelta atrás…</translation>
+</message>
+<message>
+<source>What</source>
+<translation>Qué</translation>
+</message>
+<message>
+<source>What was changed on this PC isn't noted, so there is no way back by notes.</source>
+<translation>Los cambios en este PC no se anotan, así que no hay vuelta atrás a partir de notas.</translation>
+</message>
+<message>
+<source>When</source>
+<translation>Cuándo</translation>
+</message>
+<message>
 <source>Widget app</source>
 <translation>Aplicación de widgets</translation>
 </message>
@@ -1565,6 +1649,10 @@ del sistema</translation>
 (by default it is not used but activated!)</source>
 <translation>Uso compartido de Windows en una red local (protocolo SMB) (p. ej., conectar discos duros o impresoras en una red local)<byte value="xd"/>
 (de forma predeterminada no se usa, pero está activado)</translation>
+</message>
+<message>
+<source>With all &amp;later changes</source>
+<translation>Con todos los cambios &amp;posteriores</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>

@@ -269,6 +269,18 @@
 <translation>%1 octets</translation>
 </message>
 <message>
+<source>%1 of %2 are as they were.</source>
+<translation>%1 sur %2 sont comme avant.</translation>
+</message>
+<message>
+<source>&amp;Sessions:</source>
+<translation>&amp;Sessions :</translation>
+</message>
+<message>
+<source>&amp;Take back</source>
+<translation>A&amp;nnuler ces modifications</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>une session ultérieure l’a modifié aussi</translation>
 </message>
@@ -417,6 +429,10 @@ Toutes les fonctions, applications, tous les services et toutes les tâches sero
 <translation>Le fichier de sauvegarde existe</translation>
 </message>
 <message>
+<source>Before</source>
+<translation>Avant</translation>
+</message>
+<message>
 <source>Bluetooth audio</source>
 <translation>Audio Bluetooth</translation>
 </message>
@@ -427,6 +443,10 @@ Toutes les fonctions, applications, tous les services et toutes les tâches sero
 <message>
 <source>broken off</source>
 <translation>interrompu</translation>
+</message>
+<message>
+<source>Broken off: way back…</source>
+<translation>Interrompu : retour en arrière…</translation>
 </message>
 <message>
 <source>by the system</source>
@@ -449,12 +469,20 @@ Toutes les fonctions, applications, tous les services et toutes les tâches sero
 <translation>Capacité :</translation>
 </message>
 <message>
+<source>Change</source>
+<translation>Modification</translation>
+</message>
+<message>
 <source>changed</source>
 <translation>modifié</translation>
 </message>
 <message>
 <source>changed again</source>
 <translation>modifié à nouveau</translation>
+</message>
+<message>
+<source>Changes</source>
+<translation>Modifications</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -471,6 +499,10 @@ Toutes les fonctions, applications, tous les services et toutes les tâches sero
 <message>
 <source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
 <translation>Nettoyer le dossier WinSxS avec l’outil Microsoft DISM  (taille actuelle : %1 Go)</translation>
+</message>
+<message>
+<source>Close</source>
+<translation>Fermer</translation>
 </message>
 <message>
 <source>Comments</source>
@@ -1041,6 +1073,10 @@ Vous pouvez les réinstaller directement en cliquant sur « Voir les packages d
 <translation>Non</translation>
 </message>
 <message>
+<source>No changes have been noted on this PC so far.</source>
+<translation>Aucune modification n’a été notée sur ce PC jusqu’ici.</translation>
+</message>
+<message>
 <source>no description</source>
 <translation>aucune description</translation>
 </message>
@@ -1051,6 +1087,10 @@ Vous pouvez les réinstaller directement en cliquant sur « Voir les packages d
 <message>
 <source>not possible</source>
 <translation>impossible</translation>
+</message>
+<message>
+<source>Now</source>
+<translation>Maintenant</translation>
 </message>
 <message>
 <source>off</source>
@@ -1197,6 +1237,10 @@ Ce processus ne sert qu’à la capture vidéo de l’écran. Il n’a aucun eff
 (par défaut, elle n’est pas utilisée mais activée !)</translation>
 </message>
 <message>
+<source>Reading what has become of it…</source>
+<translation>Lecture de l’état actuel…</translation>
+</message>
+<message>
 <source>Reduces certain delays
 (menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
 <translation>Réduire certains délais
@@ -1267,6 +1311,10 @@ Ce processus ne sert qu’à la capture vidéo de l’écran. Il n’a aucun eff
 <message>
 <source>running</source>
 <translation>en cours d’exécution</translation>
+</message>
+<message>
+<source>S&amp;earch:</source>
+<translation>&amp;Rechercher :</translation>
 </message>
 <message>
 <source>Scheduled task %1</source>
@@ -1349,6 +1397,10 @@ Ce processus ne sert qu’à la capture vidéo de l’écran. Il n’a aucun eff
 <translation>Services :</translation>
 </message>
 <message>
+<source>Sessions</source>
+<translation>Sessions</translation>
+</message>
+<message>
 <source>Set the maximum number of GPU pre-rendered frames to 1
 (if you have a good CPU, this reduces latency)</source>
 <translation>Régler le nombre maximal d’images pré-rendues par le GPU sur 1
@@ -1381,6 +1433,10 @@ Ce processus ne sert qu’à la capture vidéo de l’écran. Il n’a aucun eff
 <message>
 <source>started:</source>
 <translation>démarrés :</translation>
+</message>
+<message>
+<source>State</source>
+<translation>État</translation>
 </message>
 <message>
 <source>Status: Getting WinSxS folder size finished!</source>
@@ -1421,6 +1477,10 @@ système</translation>
 <translation>Annulation de modifications</translation>
 </message>
 <message>
+<source>Taking back…</source>
+<translation>Annulation des modifications…</translation>
+</message>
+<message>
 <source>Task:</source>
 <translation>Tâche :</translation>
 </message>
@@ -1451,6 +1511,10 @@ système</translation>
 <message>
 <source>the file is at neither place</source>
 <translation>le fichier n’est à aucun des deux endroits</translation>
+</message>
+<message>
+<source>The way back needs Admin rights: only what was changed with them is noted.</source>
+<translation>Le retour en arrière demande des droits d’administrateur : seul ce qui a été modifié avec eux est noté.</translation>
 </message>
 <message>
 <source>Theme:</source>
@@ -1521,6 +1585,26 @@ système</translation>
 <translation>Voir les packages désinstallés</translation>
 </message>
 <message>
+<source>Way back</source>
+<translation>Retour en arrière</translation>
+</message>
+<message>
+<source>Way back…</source>
+<translation>Retour en arrière…</translation>
+</message>
+<message>
+<source>What</source>
+<translation>Quoi</translation>
+</message>
+<message>
+<source>What was changed on this PC isn't noted, so there is no way back by notes.</source>
+<translation>Les modifications de ce PC ne sont pas notées : il n’y a donc pas de retour en arrière.</translation>
+</message>
+<message>
+<source>When</source>
+<translation>Quand</translation>
+</message>
+<message>
 <source>Widget app</source>
 <translation>Application de widgets</translation>
 </message>
@@ -1565,6 +1649,10 @@ système</translation>
 (by default it is not used but activated!)</source>
 <translation>Fonctionnalité de partage de Windows sur un réseau local (protocole SMB) (ex. : connexion de disques durs, d’imprimantes sur un réseau local)<byte value="xd"/>
 (par défaut, elle n’est pas utilisée mais activée !)</translation>
+</message>
+<message>
+<source>With all &amp;later changes</source>
+<translation>Avec toutes les modifications &amp;ultérieures</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>

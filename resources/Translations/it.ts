@@ -269,6 +269,18 @@
 <translation>%1 byte</translation>
 </message>
 <message>
+<source>%1 of %2 are as they were.</source>
+<translation>%1 su %2 sono come prima.</translation>
+</message>
+<message>
+<source>&amp;Sessions:</source>
+<translation>&amp;Sessioni:</translation>
+</message>
+<message>
+<source>&amp;Take back</source>
+<translation>&amp;Annulla modifiche</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>anche una sessione successiva l’ha modificato</translation>
 </message>
@@ -417,6 +429,10 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 <translation>Il file di backup esiste</translation>
 </message>
 <message>
+<source>Before</source>
+<translation>Prima</translation>
+</message>
+<message>
 <source>Bluetooth audio</source>
 <translation>Audio Bluetooth</translation>
 </message>
@@ -427,6 +443,10 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 <message>
 <source>broken off</source>
 <translation>interrotto</translation>
+</message>
+<message>
+<source>Broken off: way back…</source>
+<translation>Interrotto: ritorno…</translation>
 </message>
 <message>
 <source>by the system</source>
@@ -449,12 +469,20 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 <translation>Capacità:</translation>
 </message>
 <message>
+<source>Change</source>
+<translation>Modifica</translation>
+</message>
+<message>
 <source>changed</source>
 <translation>modificato</translation>
 </message>
 <message>
 <source>changed again</source>
 <translation>modificato di nuovo</translation>
+</message>
+<message>
+<source>Changes</source>
+<translation>Modifiche</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -471,6 +499,10 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 <message>
 <source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
 <translation>Pulisci la cartella WinSxS con lo strumento Microsoft DISM  (dimensione attuale: %1 GB)</translation>
+</message>
+<message>
+<source>Close</source>
+<translation>Chiudi</translation>
 </message>
 <message>
 <source>Comments</source>
@@ -1041,6 +1073,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <translation>No</translation>
 </message>
 <message>
+<source>No changes have been noted on this PC so far.</source>
+<translation>Finora su questo PC non è stata annotata alcuna modifica.</translation>
+</message>
+<message>
 <source>no description</source>
 <translation>nessuna descrizione</translation>
 </message>
@@ -1051,6 +1087,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <message>
 <source>not possible</source>
 <translation>non possibile</translation>
+</message>
+<message>
+<source>Now</source>
+<translation>Adesso</translation>
 </message>
 <message>
 <source>off</source>
@@ -1197,6 +1237,10 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 (per impostazione predefinita non è usata ma attivata!)</translation>
 </message>
 <message>
+<source>Reading what has become of it…</source>
+<translation>Lettura dello stato attuale…</translation>
+</message>
+<message>
 <source>Reduces certain delays
 (menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
 <translation>Riduci alcuni ritardi
@@ -1267,6 +1311,10 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 <message>
 <source>running</source>
 <translation>in esecuzione</translation>
+</message>
+<message>
+<source>S&amp;earch:</source>
+<translation>Ce&amp;rca:</translation>
 </message>
 <message>
 <source>Scheduled task %1</source>
@@ -1349,6 +1397,10 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 <translation>Servizi:</translation>
 </message>
 <message>
+<source>Sessions</source>
+<translation>Sessioni</translation>
+</message>
+<message>
 <source>Set the maximum number of GPU pre-rendered frames to 1
 (if you have a good CPU, this reduces latency)</source>
 <translation>Imposta a 1 il numero massimo di fotogrammi prerenderizzati dalla GPU
@@ -1381,6 +1433,10 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 <message>
 <source>started:</source>
 <translation>avviati:</translation>
+</message>
+<message>
+<source>State</source>
+<translation>Stato</translation>
 </message>
 <message>
 <source>Status: Getting WinSxS folder size finished!</source>
@@ -1421,6 +1477,10 @@ sul sistema</translation>
 <translation>Annullamento di modifiche</translation>
 </message>
 <message>
+<source>Taking back…</source>
+<translation>Annullamento delle modifiche…</translation>
+</message>
+<message>
 <source>Task:</source>
 <translation>Attività:</translation>
 </message>
@@ -1451,6 +1511,10 @@ sul sistema</translation>
 <message>
 <source>the file is at neither place</source>
 <translation>il file non è in nessuno dei due posti</translation>
+</message>
+<message>
+<source>The way back needs Admin rights: only what was changed with them is noted.</source>
+<translation>Il ritorno richiede diritti di amministratore: è annotato solo ciò che è stato modificato con essi.</translation>
 </message>
 <message>
 <source>Theme:</source>
@@ -1521,6 +1585,26 @@ sul sistema</translation>
 <translation>Mostra pacchetti disinstallati</translation>
 </message>
 <message>
+<source>Way back</source>
+<translation>Ritorno</translation>
+</message>
+<message>
+<source>Way back…</source>
+<translation>Ritorno…</translation>
+</message>
+<message>
+<source>What</source>
+<translation>Cosa</translation>
+</message>
+<message>
+<source>What was changed on this PC isn't noted, so there is no way back by notes.</source>
+<translation>Le modifiche su questo PC non sono annotate, quindi non c’è un ritorno.</translation>
+</message>
+<message>
+<source>When</source>
+<translation>Quando</translation>
+</message>
+<message>
 <source>Widget app</source>
 <translation>App widget</translation>
 </message>
@@ -1565,6 +1649,10 @@ sul sistema</translation>
 (by default it is not used but activated!)</source>
 <translation>Funzionalità di condivisione di Windows in una rete locale (protocollo SMB) (ad es. per collegare dischi rigidi o stampanti in rete locale)<byte value="xd"/>
 (per impostazione predefinita non è usata ma attivata!)</translation>
+</message>
+<message>
+<source>With all &amp;later changes</source>
+<translation>Con tutte le modifiche s&amp;uccessive</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>

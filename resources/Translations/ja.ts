@@ -269,6 +269,18 @@
 <translation>%1 バイト</translation>
 </message>
 <message>
+<source>%1 of %2 are as they were.</source>
+<translation>%2 件中 %1 件が元どおりです。</translation>
+</message>
+<message>
+<source>&amp;Sessions:</source>
+<translation>セッション(&amp;S):</translation>
+</message>
+<message>
+<source>&amp;Take back</source>
+<translation>元に戻す(&amp;T)</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>後のセッションでも変更されています</translation>
 </message>
@@ -417,6 +429,10 @@ All features, applications, services and tasks will be restored.</source>
 <translation>バックアップ ファイルがあります</translation>
 </message>
 <message>
+<source>Before</source>
+<translation>変更前</translation>
+</message>
+<message>
 <source>Bluetooth audio</source>
 <translation>Bluetooth オーディオ</translation>
 </message>
@@ -427,6 +443,10 @@ All features, applications, services and tasks will be restored.</source>
 <message>
 <source>broken off</source>
 <translation>中断</translation>
+</message>
+<message>
+<source>Broken off: way back…</source>
+<translation>中断しました: 元に戻す…</translation>
 </message>
 <message>
 <source>by the system</source>
@@ -449,12 +469,20 @@ All features, applications, services and tasks will be restored.</source>
 <translation>容量:</translation>
 </message>
 <message>
+<source>Change</source>
+<translation>変更内容</translation>
+</message>
+<message>
 <source>changed</source>
 <translation>変更済み</translation>
 </message>
 <message>
 <source>changed again</source>
 <translation>再度変更済み</translation>
+</message>
+<message>
+<source>Changes</source>
+<translation>変更</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -471,6 +499,10 @@ All features, applications, services and tasks will be restored.</source>
 <message>
 <source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
 <translation>Microsoft DISM ツールで WinSxS フォルダーをクリーンアップする  (現在のサイズ: %1 GB)</translation>
+</message>
+<message>
+<source>Close</source>
+<translation>閉じる</translation>
 </message>
 <message>
 <source>Comments</source>
@@ -1041,6 +1073,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <translation>いいえ</translation>
 </message>
 <message>
+<source>No changes have been noted on this PC so far.</source>
+<translation>この PC にはまだ変更の記録がありません。</translation>
+</message>
+<message>
 <source>no description</source>
 <translation>説明なし</translation>
 </message>
@@ -1051,6 +1087,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <message>
 <source>not possible</source>
 <translation>不可</translation>
+</message>
+<message>
+<source>Now</source>
+<translation>現在</translation>
 </message>
 <message>
 <source>off</source>
@@ -1197,6 +1237,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 (既定では使用されていませんが、有効になっています!)</translation>
 </message>
 <message>
+<source>Reading what has become of it…</source>
+<translation>現在の状態を読み取っています…</translation>
+</message>
+<message>
 <source>Reduces certain delays
 (menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
 <translation>一部の待ち時間を短縮する
@@ -1267,6 +1311,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <message>
 <source>running</source>
 <translation>実行中</translation>
+</message>
+<message>
+<source>S&amp;earch:</source>
+<translation>検索(&amp;E):</translation>
 </message>
 <message>
 <source>Scheduled task %1</source>
@@ -1349,6 +1397,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <translation>サービス:</translation>
 </message>
 <message>
+<source>Sessions</source>
+<translation>セッション</translation>
+</message>
+<message>
 <source>Set the maximum number of GPU pre-rendered frames to 1
 (if you have a good CPU, this reduces latency)</source>
 <translation>GPU がプリレンダリングする最大フレーム数を 1 に設定する
@@ -1381,6 +1433,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <message>
 <source>started:</source>
 <translation>開始:</translation>
+</message>
+<message>
+<source>State</source>
+<translation>状態</translation>
 </message>
 <message>
 <source>Status: Getting WinSxS folder size finished!</source>
@@ -1421,6 +1477,10 @@ Information</source>
 <translation>変更を元に戻す</translation>
 </message>
 <message>
+<source>Taking back…</source>
+<translation>元に戻しています…</translation>
+</message>
+<message>
 <source>Task:</source>
 <translation>タスク:</translation>
 </message>
@@ -1451,6 +1511,10 @@ Information</source>
 <message>
 <source>the file is at neither place</source>
 <translation>ファイルはどちらの場所にもありません</translation>
+</message>
+<message>
+<source>The way back needs Admin rights: only what was changed with them is noted.</source>
+<translation>元に戻すには管理者権限が必要です。記録されるのは、その権限で行われた変更だけです。</translation>
 </message>
 <message>
 <source>Theme:</source>
@@ -1521,6 +1585,26 @@ Information</source>
 <translation>アンインストール済みを表示</translation>
 </message>
 <message>
+<source>Way back</source>
+<translation>元に戻す</translation>
+</message>
+<message>
+<source>Way back…</source>
+<translation>元に戻す…</translation>
+</message>
+<message>
+<source>What</source>
+<translation>内容</translation>
+</message>
+<message>
+<source>What was changed on this PC isn't noted, so there is no way back by notes.</source>
+<translation>この PC での変更は記録されていないため、記録から元に戻すことはできません。</translation>
+</message>
+<message>
+<source>When</source>
+<translation>日時</translation>
+</message>
+<message>
 <source>Widget app</source>
 <translation>ウィジェット アプリ</translation>
 </message>
@@ -1565,6 +1649,10 @@ Information</source>
 (by default it is not used but activated!)</source>
 <translation>ローカル ネットワークでの Windows の共有機能 (SMB プロトコル) (例: ローカル ネットワーク上のハード ドライブやプリンターへの接続)<byte value="xd"/>
 (既定では使用されていませんが、有効になっています!)</translation>
+</message>
+<message>
+<source>With all &amp;later changes</source>
+<translation>以後のすべての変更を含む(&amp;L)</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>

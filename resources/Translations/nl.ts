@@ -269,6 +269,18 @@
 <translation>%1 bytes</translation>
 </message>
 <message>
+<source>%1 of %2 are as they were.</source>
+<translation>%1 van %2 zijn zoals ze waren.</translation>
+</message>
+<message>
+<source>&amp;Sessions:</source>
+<translation>&amp;Sessies:</translation>
+</message>
+<message>
+<source>&amp;Take back</source>
+<translation>&amp;Terugdraaien</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>een latere sessie heeft het ook gewijzigd</translation>
 </message>
@@ -417,6 +429,10 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 <translation>Er is een back-upbestand</translation>
 </message>
 <message>
+<source>Before</source>
+<translation>Daarvoor</translation>
+</message>
+<message>
 <source>Bluetooth audio</source>
 <translation>Bluetooth-audio</translation>
 </message>
@@ -427,6 +443,10 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 <message>
 <source>broken off</source>
 <translation>afgebroken</translation>
+</message>
+<message>
+<source>Broken off: way back…</source>
+<translation>Afgebroken: weg terug…</translation>
 </message>
 <message>
 <source>by the system</source>
@@ -449,12 +469,20 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 <translation>Capaciteit:</translation>
 </message>
 <message>
+<source>Change</source>
+<translation>Wijziging</translation>
+</message>
+<message>
 <source>changed</source>
 <translation>gewijzigd</translation>
 </message>
 <message>
 <source>changed again</source>
 <translation>opnieuw gewijzigd</translation>
+</message>
+<message>
+<source>Changes</source>
+<translation>Wijzigingen</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -471,6 +499,10 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 <message>
 <source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
 <translation>WinSxS-map opschonen met het Microsoft-hulpprogramma DISM  (huidige grootte: %1 GB)</translation>
+</message>
+<message>
+<source>Close</source>
+<translation>Sluiten</translation>
 </message>
 <message>
 <source>Comments</source>
@@ -1041,6 +1073,10 @@ U kunt ze rechtstreeks opnieuw installeren door onder de lijst op &quot;Verwijde
 <translation>Nee</translation>
 </message>
 <message>
+<source>No changes have been noted on this PC so far.</source>
+<translation>Op deze pc zijn nog geen wijzigingen genoteerd.</translation>
+</message>
+<message>
 <source>no description</source>
 <translation>geen beschrijving</translation>
 </message>
@@ -1051,6 +1087,10 @@ U kunt ze rechtstreeks opnieuw installeren door onder de lijst op &quot;Verwijde
 <message>
 <source>not possible</source>
 <translation>niet mogelijk</translation>
+</message>
+<message>
+<source>Now</source>
+<translation>Nu</translation>
 </message>
 <message>
 <source>off</source>
@@ -1197,6 +1237,10 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 (standaard niet gebruikt, maar wel geactiveerd!)</translation>
 </message>
 <message>
+<source>Reading what has become of it…</source>
+<translation>De huidige stand wordt gelezen…</translation>
+</message>
+<message>
 <source>Reduces certain delays
 (menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
 <translation>Bepaalde vertragingen verkorten
@@ -1267,6 +1311,10 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 <message>
 <source>running</source>
 <translation>actief</translation>
+</message>
+<message>
+<source>S&amp;earch:</source>
+<translation>&amp;Zoeken:</translation>
 </message>
 <message>
 <source>Scheduled task %1</source>
@@ -1349,6 +1397,10 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 <translation>Services:</translation>
 </message>
 <message>
+<source>Sessions</source>
+<translation>Sessies</translation>
+</message>
+<message>
 <source>Set the maximum number of GPU pre-rendered frames to 1
 (if you have a good CPU, this reduces latency)</source>
 <translation>Maximumaantal vooraf door de GPU gerenderde frames op 1 instellen
@@ -1381,6 +1433,10 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 <message>
 <source>started:</source>
 <translation>gestart:</translation>
+</message>
+<message>
+<source>State</source>
+<translation>Stand</translation>
 </message>
 <message>
 <source>Status: Getting WinSxS folder size finished!</source>
@@ -1421,6 +1477,10 @@ informatie</translation>
 <translation>Terugdraaien</translation>
 </message>
 <message>
+<source>Taking back…</source>
+<translation>Bezig met terugdraaien…</translation>
+</message>
+<message>
 <source>Task:</source>
 <translation>Taak:</translation>
 </message>
@@ -1451,6 +1511,10 @@ informatie</translation>
 <message>
 <source>the file is at neither place</source>
 <translation>het bestand staat op geen van beide plaatsen</translation>
+</message>
+<message>
+<source>The way back needs Admin rights: only what was changed with them is noted.</source>
+<translation>De weg terug vereist administratorrechten: alleen wat daarmee is gewijzigd, is genoteerd.</translation>
 </message>
 <message>
 <source>Theme:</source>
@@ -1521,6 +1585,26 @@ informatie</translation>
 <translation>Verwijderde pakketten weergeven</translation>
 </message>
 <message>
+<source>Way back</source>
+<translation>Weg terug</translation>
+</message>
+<message>
+<source>Way back…</source>
+<translation>Weg terug…</translation>
+</message>
+<message>
+<source>What</source>
+<translation>Wat</translation>
+</message>
+<message>
+<source>What was changed on this PC isn't noted, so there is no way back by notes.</source>
+<translation>Wat op deze pc is gewijzigd, is niet genoteerd; er is dus geen weg terug.</translation>
+</message>
+<message>
+<source>When</source>
+<translation>Wanneer</translation>
+</message>
+<message>
 <source>Widget app</source>
 <translation>Widget-app</translation>
 </message>
@@ -1565,6 +1649,10 @@ informatie</translation>
 (by default it is not used but activated!)</source>
 <translation>Deelfunctie van Windows in een lokaal netwerk (SMB-protocol) (bijv. harde schijven of printers in een lokaal netwerk verbinden)<byte value="xd"/>
 (standaard niet gebruikt, maar wel geactiveerd!)</translation>
+</message>
+<message>
+<source>With all &amp;later changes</source>
+<translation>Met alle &amp;latere wijzigingen</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>

@@ -269,6 +269,18 @@
 <translation>%1 bajtów</translation>
 </message>
 <message>
+<source>%1 of %2 are as they were.</source>
+<translation>%1 z %2 jest tak, jak było.</translation>
+</message>
+<message>
+<source>&amp;Sessions:</source>
+<translation>&amp;Sesje:</translation>
+</message>
+<message>
+<source>&amp;Take back</source>
+<translation>&amp;Cofnij</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>późniejsza sesja też to zmieniła</translation>
 </message>
@@ -417,6 +429,10 @@ Wszystkie funkcje, aplikacje, usługi i zadania zostaną przywrócone.</translat
 <translation>Plik kopii zapasowej istnieje</translation>
 </message>
 <message>
+<source>Before</source>
+<translation>Przedtem</translation>
+</message>
+<message>
 <source>Bluetooth audio</source>
 <translation>Dźwięk Bluetooth</translation>
 </message>
@@ -427,6 +443,10 @@ Wszystkie funkcje, aplikacje, usługi i zadania zostaną przywrócone.</translat
 <message>
 <source>broken off</source>
 <translation>przerwane</translation>
+</message>
+<message>
+<source>Broken off: way back…</source>
+<translation>Przerwane: droga powrotna…</translation>
 </message>
 <message>
 <source>by the system</source>
@@ -449,12 +469,20 @@ Wszystkie funkcje, aplikacje, usługi i zadania zostaną przywrócone.</translat
 <translation>Pojemność:</translation>
 </message>
 <message>
+<source>Change</source>
+<translation>Zmiana</translation>
+</message>
+<message>
 <source>changed</source>
 <translation>zmienione</translation>
 </message>
 <message>
 <source>changed again</source>
 <translation>zmienione ponownie</translation>
+</message>
+<message>
+<source>Changes</source>
+<translation>Zmiany</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -471,6 +499,10 @@ Wszystkie funkcje, aplikacje, usługi i zadania zostaną przywrócone.</translat
 <message>
 <source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
 <translation>Wyczyść folder WinSxS narzędziem Microsoft DISM  (obecny rozmiar: %1 GB)</translation>
+</message>
+<message>
+<source>Close</source>
+<translation>Zamknij</translation>
 </message>
 <message>
 <source>Comments</source>
@@ -1041,6 +1073,10 @@ Możesz zainstalować je ponownie, klikając „Pokaż odinstalowane pakiety” 
 <translation>Nie</translation>
 </message>
 <message>
+<source>No changes have been noted on this PC so far.</source>
+<translation>Na tym komputerze nie zapisano jeszcze żadnych zmian.</translation>
+</message>
+<message>
 <source>no description</source>
 <translation>brak opisu</translation>
 </message>
@@ -1051,6 +1087,10 @@ Możesz zainstalować je ponownie, klikając „Pokaż odinstalowane pakiety” 
 <message>
 <source>not possible</source>
 <translation>niemożliwe</translation>
+</message>
+<message>
+<source>Now</source>
+<translation>Teraz</translation>
 </message>
 <message>
 <source>off</source>
@@ -1197,6 +1237,10 @@ Ten proces służy tylko do przechwytywania wideo z ekranu. Nie ma żadnego wpł
 (domyślnie nieużywana, ale włączona!)</translation>
 </message>
 <message>
+<source>Reading what has become of it…</source>
+<translation>Odczytywanie obecnego stanu…</translation>
+</message>
+<message>
 <source>Reduces certain delays
 (menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
 <translation>Skróć niektóre opóźnienia
@@ -1267,6 +1311,10 @@ Ten proces służy tylko do przechwytywania wideo z ekranu. Nie ma żadnego wpł
 <message>
 <source>running</source>
 <translation>działa</translation>
+</message>
+<message>
+<source>S&amp;earch:</source>
+<translation>Sz&amp;ukaj:</translation>
 </message>
 <message>
 <source>Scheduled task %1</source>
@@ -1349,6 +1397,10 @@ Ten proces służy tylko do przechwytywania wideo z ekranu. Nie ma żadnego wpł
 <translation>Usługi:</translation>
 </message>
 <message>
+<source>Sessions</source>
+<translation>Sesje</translation>
+</message>
+<message>
 <source>Set the maximum number of GPU pre-rendered frames to 1
 (if you have a good CPU, this reduces latency)</source>
 <translation>Ustaw maksymalną liczbę klatek wstępnie renderowanych przez GPU na 1
@@ -1381,6 +1433,10 @@ Ten proces służy tylko do przechwytywania wideo z ekranu. Nie ma żadnego wpł
 <message>
 <source>started:</source>
 <translation>uruchomione:</translation>
+</message>
+<message>
+<source>State</source>
+<translation>Stan</translation>
 </message>
 <message>
 <source>Status: Getting WinSxS folder size finished!</source>
@@ -1421,6 +1477,10 @@ o systemie</translation>
 <translation>Cofanie</translation>
 </message>
 <message>
+<source>Taking back…</source>
+<translation>Trwa cofanie…</translation>
+</message>
+<message>
 <source>Task:</source>
 <translation>Zadanie:</translation>
 </message>
@@ -1451,6 +1511,10 @@ o systemie</translation>
 <message>
 <source>the file is at neither place</source>
 <translation>pliku nie ma w żadnym z obu miejsc</translation>
+</message>
+<message>
+<source>The way back needs Admin rights: only what was changed with them is noted.</source>
+<translation>Droga powrotna wymaga uprawnień administratora: zapisane jest tylko to, co z nimi zmieniono.</translation>
 </message>
 <message>
 <source>Theme:</source>
@@ -1521,6 +1585,26 @@ o systemie</translation>
 <translation>Pokaż odinstalowane pakiety</translation>
 </message>
 <message>
+<source>Way back</source>
+<translation>Droga powrotna</translation>
+</message>
+<message>
+<source>Way back…</source>
+<translation>Droga powrotna…</translation>
+</message>
+<message>
+<source>What</source>
+<translation>Co</translation>
+</message>
+<message>
+<source>What was changed on this PC isn't noted, so there is no way back by notes.</source>
+<translation>Zmiany na tym komputerze nie są zapisywane, więc nie ma drogi powrotnej.</translation>
+</message>
+<message>
+<source>When</source>
+<translation>Kiedy</translation>
+</message>
+<message>
 <source>Widget app</source>
 <translation>Aplikacja widżetów</translation>
 </message>
@@ -1565,6 +1649,10 @@ o systemie</translation>
 (by default it is not used but activated!)</source>
 <translation>Funkcja udostępniania systemu Windows w sieci lokalnej (protokół SMB) (np. podłączanie dysków twardych i drukarek w sieci lokalnej)<byte value="xd"/>
 (domyślnie nieużywana, ale włączona!)</translation>
+</message>
+<message>
+<source>With all &amp;later changes</source>
+<translation>Ze wszystkimi &amp;późniejszymi zmianami</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>

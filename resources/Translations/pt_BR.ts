@@ -269,6 +269,18 @@
 <translation>%1 bytes</translation>
 </message>
 <message>
+<source>%1 of %2 are as they were.</source>
+<translation>%1 de %2 estão como eram.</translation>
+</message>
+<message>
+<source>&amp;Sessions:</source>
+<translation>&amp;Sessões:</translation>
+</message>
+<message>
+<source>&amp;Take back</source>
+<translation>&amp;Desfazer</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>uma sessão posterior também o alterou</translation>
 </message>
@@ -417,6 +429,10 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 <translation>O arquivo de backup existe</translation>
 </message>
 <message>
+<source>Before</source>
+<translation>Antes</translation>
+</message>
+<message>
 <source>Bluetooth audio</source>
 <translation>Áudio Bluetooth</translation>
 </message>
@@ -427,6 +443,10 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 <message>
 <source>broken off</source>
 <translation>interrompido</translation>
+</message>
+<message>
+<source>Broken off: way back…</source>
+<translation>Interrompido: caminho de volta…</translation>
 </message>
 <message>
 <source>by the system</source>
@@ -449,12 +469,20 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 <translation>Capacidade:</translation>
 </message>
 <message>
+<source>Change</source>
+<translation>Alteração</translation>
+</message>
+<message>
 <source>changed</source>
 <translation>alterado</translation>
 </message>
 <message>
 <source>changed again</source>
 <translation>alterado novamente</translation>
+</message>
+<message>
+<source>Changes</source>
+<translation>Alterações</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -471,6 +499,10 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 <message>
 <source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
 <translation>Limpar a pasta WinSxS com a ferramenta Microsoft DISM  (tamanho atual: %1 GB)</translation>
+</message>
+<message>
+<source>Close</source>
+<translation>Fechar</translation>
 </message>
 <message>
 <source>Comments</source>
@@ -1041,6 +1073,10 @@ Você pode reinstalá-los diretamente clicando em &quot;Ver pacotes desinstalado
 <translation>Não</translation>
 </message>
 <message>
+<source>No changes have been noted on this PC so far.</source>
+<translation>Nenhuma alteração foi registrada neste PC até agora.</translation>
+</message>
+<message>
 <source>no description</source>
 <translation>sem descrição</translation>
 </message>
@@ -1051,6 +1087,10 @@ Você pode reinstalá-los diretamente clicando em &quot;Ver pacotes desinstalado
 <message>
 <source>not possible</source>
 <translation>não é possível</translation>
+</message>
+<message>
+<source>Now</source>
+<translation>Agora</translation>
 </message>
 <message>
 <source>off</source>
@@ -1197,6 +1237,10 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 (por padrão não é usado, mas está ativado!)</translation>
 </message>
 <message>
+<source>Reading what has become of it…</source>
+<translation>Lendo o estado atual…</translation>
+</message>
+<message>
 <source>Reduces certain delays
 (menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
 <translation>Reduzir certos atrasos
@@ -1267,6 +1311,10 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 <message>
 <source>running</source>
 <translation>em execução</translation>
+</message>
+<message>
+<source>S&amp;earch:</source>
+<translation>&amp;Pesquisar:</translation>
 </message>
 <message>
 <source>Scheduled task %1</source>
@@ -1349,6 +1397,10 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 <translation>Serviços:</translation>
 </message>
 <message>
+<source>Sessions</source>
+<translation>Sessões</translation>
+</message>
+<message>
 <source>Set the maximum number of GPU pre-rendered frames to 1
 (if you have a good CPU, this reduces latency)</source>
 <translation>Definir como 1 o número máximo de quadros pré-renderizados pela GPU
@@ -1381,6 +1433,10 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 <message>
 <source>started:</source>
 <translation>iniciados:</translation>
+</message>
+<message>
+<source>State</source>
+<translation>Situação</translation>
 </message>
 <message>
 <source>Status: Getting WinSxS folder size finished!</source>
@@ -1421,6 +1477,10 @@ do sistema</translation>
 <translation>Desfazer</translation>
 </message>
 <message>
+<source>Taking back…</source>
+<translation>Desfazendo…</translation>
+</message>
+<message>
 <source>Task:</source>
 <translation>Tarefa:</translation>
 </message>
@@ -1451,6 +1511,10 @@ do sistema</translation>
 <message>
 <source>the file is at neither place</source>
 <translation>o arquivo não está em nenhum dos dois lugares</translation>
+</message>
+<message>
+<source>The way back needs Admin rights: only what was changed with them is noted.</source>
+<translation>O caminho de volta exige direitos de administrador: só é registrado o que foi alterado com eles.</translation>
 </message>
 <message>
 <source>Theme:</source>
@@ -1521,6 +1585,26 @@ do sistema</translation>
 <translation>Ver pacotes desinstalados</translation>
 </message>
 <message>
+<source>Way back</source>
+<translation>Caminho de volta</translation>
+</message>
+<message>
+<source>Way back…</source>
+<translation>Caminho de volta…</translation>
+</message>
+<message>
+<source>What</source>
+<translation>O quê</translation>
+</message>
+<message>
+<source>What was changed on this PC isn't noted, so there is no way back by notes.</source>
+<translation>As alterações neste PC não são registradas, portanto não há caminho de volta.</translation>
+</message>
+<message>
+<source>When</source>
+<translation>Quando</translation>
+</message>
+<message>
 <source>Widget app</source>
 <translation>Aplicativo de widgets</translation>
 </message>
@@ -1565,6 +1649,10 @@ do sistema</translation>
 (by default it is not used but activated!)</source>
 <translation>Compartilhamento do Windows em uma rede local (protocolo SMB) (ex.: conectar discos rígidos e impressoras em uma rede local)<byte value="xd"/>
 (por padrão não é usado, mas está ativado!)</translation>
+</message>
+<message>
+<source>With all &amp;later changes</source>
+<translation>Com todas as alterações p&amp;osteriores</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>

@@ -269,6 +269,18 @@
 <translation>%1 字节</translation>
 </message>
 <message>
+<source>%1 of %2 are as they were.</source>
+<translation>%2 项中有 %1 项与原来相同。</translation>
+</message>
+<message>
+<source>&amp;Sessions:</source>
+<translation>会话(&amp;S)：</translation>
+</message>
+<message>
+<source>&amp;Take back</source>
+<translation>撤回(&amp;T)</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>之后的会话也更改了它</translation>
 </message>
@@ -417,6 +429,10 @@ All features, applications, services and tasks will be restored.</source>
 <translation>备份文件已存在</translation>
 </message>
 <message>
+<source>Before</source>
+<translation>之前</translation>
+</message>
+<message>
 <source>Bluetooth audio</source>
 <translation>蓝牙音频</translation>
 </message>
@@ -427,6 +443,10 @@ All features, applications, services and tasks will be restored.</source>
 <message>
 <source>broken off</source>
 <translation>已中断</translation>
+</message>
+<message>
+<source>Broken off: way back…</source>
+<translation>已中断：撤回更改…</translation>
 </message>
 <message>
 <source>by the system</source>
@@ -449,12 +469,20 @@ All features, applications, services and tasks will be restored.</source>
 <translation>容量:</translation>
 </message>
 <message>
+<source>Change</source>
+<translation>更改</translation>
+</message>
+<message>
 <source>changed</source>
 <translation>已更改</translation>
 </message>
 <message>
 <source>changed again</source>
 <translation>再次更改</translation>
+</message>
+<message>
+<source>Changes</source>
+<translation>更改数</translation>
 </message>
 <message>
 <source>Check all</source>
@@ -471,6 +499,10 @@ All features, applications, services and tasks will be restored.</source>
 <message>
 <source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
 <translation>使用 Microsoft DISM 工具清理 WinSxS 文件夹  (当前大小: %1 GB)</translation>
+</message>
+<message>
+<source>Close</source>
+<translation>关闭</translation>
 </message>
 <message>
 <source>Comments</source>
@@ -1041,6 +1073,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <translation>否</translation>
 </message>
 <message>
+<source>No changes have been noted on this PC so far.</source>
+<translation>此电脑上尚未记录任何更改。</translation>
+</message>
+<message>
 <source>no description</source>
 <translation>无描述</translation>
 </message>
@@ -1051,6 +1087,10 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <message>
 <source>not possible</source>
 <translation>无法撤回</translation>
+</message>
+<message>
+<source>Now</source>
+<translation>现在</translation>
 </message>
 <message>
 <source>off</source>
@@ -1197,6 +1237,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 (默认未使用但已激活!)</translation>
 </message>
 <message>
+<source>Reading what has become of it…</source>
+<translation>正在读取当前状态…</translation>
+</message>
+<message>
 <source>Reduces certain delays
 (menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
 <translation>缩短某些延迟
@@ -1267,6 +1311,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <message>
 <source>running</source>
 <translation>正在运行</translation>
+</message>
+<message>
+<source>S&amp;earch:</source>
+<translation>搜索(&amp;E)：</translation>
 </message>
 <message>
 <source>Scheduled task %1</source>
@@ -1349,6 +1397,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <translation>服务:</translation>
 </message>
 <message>
+<source>Sessions</source>
+<translation>会话</translation>
+</message>
+<message>
 <source>Set the maximum number of GPU pre-rendered frames to 1
 (if you have a good CPU, this reduces latency)</source>
 <translation>将 GPU 预渲染的最大帧数设置为 1
@@ -1381,6 +1433,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <message>
 <source>started:</source>
 <translation>已启动:</translation>
+</message>
+<message>
+<source>State</source>
+<translation>状态</translation>
 </message>
 <message>
 <source>Status: Getting WinSxS folder size finished!</source>
@@ -1421,6 +1477,10 @@ Information</source>
 <translation>撤回</translation>
 </message>
 <message>
+<source>Taking back…</source>
+<translation>正在撤回…</translation>
+</message>
+<message>
 <source>Task:</source>
 <translation>任务:</translation>
 </message>
@@ -1451,6 +1511,10 @@ Information</source>
 <message>
 <source>the file is at neither place</source>
 <translation>文件不在两个位置中的任何一个</translation>
+</message>
+<message>
+<source>The way back needs Admin rights: only what was changed with them is noted.</source>
+<translation>撤回更改需要管理员权限：只有以该权限进行的更改才会被记录。</translation>
 </message>
 <message>
 <source>Theme:</source>
@@ -1521,6 +1585,26 @@ Information</source>
 <translation>查看已卸载的程序包</translation>
 </message>
 <message>
+<source>Way back</source>
+<translation>撤回更改</translation>
+</message>
+<message>
+<source>Way back…</source>
+<translation>撤回更改…</translation>
+</message>
+<message>
+<source>What</source>
+<translation>操作</translation>
+</message>
+<message>
+<source>What was changed on this PC isn't noted, so there is no way back by notes.</source>
+<translation>此电脑上的更改未被记录，因此无法据此撤回。</translation>
+</message>
+<message>
+<source>When</source>
+<translation>时间</translation>
+</message>
+<message>
 <source>Widget app</source>
 <translation>小组件应用</translation>
 </message>
@@ -1565,6 +1649,10 @@ Information</source>
 (by default it is not used but activated!)</source>
 <translation>局域网中的 Windows 共享功能(SMB 协议)(例如: 连接局域网中的硬盘、打印机)<byte value="xd"/>
 (默认未使用但已激活!)</translation>
+</message>
+<message>
+<source>With all &amp;later changes</source>
+<translation>包括之后的所有更改(&amp;L)</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>

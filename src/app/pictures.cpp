@@ -7,6 +7,7 @@
 #include "window/kestrune.h"
 
 #include <QApplication>
+#include <QDialog>
 
 using namespace Qt::StringLiterals;
 
@@ -17,8 +18,8 @@ constexpr int badArguments = 2;
 
 bool isIdle(const Kestrune &window)
 {
-    const auto workers = window.findChildren<WorkThread *>();
-    return std::none_of(workers.begin(), workers.end(), [](const WorkThread *worker) { return worker->isRunning(); });
+    const auto workers = window.findChildren<QThread *>();
+    return std::none_of(workers.begin(), workers.end(), [](const QThread *worker) { return worker->isRunning(); });
 }
 
 /** Ends what is under way where the program is broken off, and throws. */
@@ -26,7 +27,7 @@ void endIfInterrupted(const Kestrune &window)
 {
     if (!isInterrupted())
         return;
-    for (WorkThread *worker : window.findChildren<WorkThread *>()) {
+    for (QThread *worker : window.findChildren<QThread *>()) {
         worker->requestInterruption();
         worker->wait();
     }
@@ -67,6 +68,17 @@ bool show(Kestrune &window, const QString &what)
     return true;
 }
 
+/** Saves the dialog that a button has opened, and closes it; without one, the window. */
+bool save(Kestrune &window, const QString &file)
+{
+    auto *dialog = window.findChild<QDialog *>();
+    if (dialog == nullptr)
+        return window.grab().save(file);
+    const bool saved = dialog->grab().save(file);
+    delete dialog;
+    return saved;
+}
+
 /** Saves what the arguments name, in pairs of page and file. */
 int savePictures(Kestrune &window, const QStringList &pairs)
 {
@@ -75,7 +87,7 @@ int savePictures(Kestrune &window, const QStringList &pairs)
             qCritical("kestrune: %s: there is no such button", qUtf8Printable(pairs.at(i)));
             return badArguments;
         }
-        if (!window.grab().save(absolutePath(pairs.at(i + 1)))) {
+        if (!save(window, absolutePath(pairs.at(i + 1)))) {
             qCritical("kestrune: %s: can't be written", qUtf8Printable(pairs.at(i + 1)));
             return cannotWrite;
         }

@@ -7,6 +7,7 @@
 
 /**
  * Saves pages of the window on the platform in force, given in pairs of PAGE[:BUTTON] and FILE: a page by its number,
- * from 0 on. With a button's object name it is clicked first, and its job is waited for. Gives the program's exit code.
+ * from 0 on. With a button's object name it is clicked first, and its job is waited for; a dialog that it opens is
+ * saved in place of the window. Gives the program's exit code.
  */
 int takePictures(const QStringList &pairs);

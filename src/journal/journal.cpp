@@ -20,9 +20,6 @@ namespace {
 /** How many attribute words are noted together. */
 constexpr qsizetype mostWords = 5000;
 
-/** Keys and values that the program makes by looking at them have no job to be of. */
-const QString lookingAround = u"Looking around"_s;
-
 /** The words that the walk of this thread has still to set; null while none is under way. */
 thread_local QList<FileAttributes> *waitingWords = nullptr;
 /** Their files' present words. */

@@ -22,6 +22,9 @@ enum class Durability {
 
 enum class SessionState : int { UnderWay = 0, Finished = 1, BrokenOff = 2 };
 
+/** The session of keys and values that the program makes by looking at them, which no job is about. */
+inline const QString lookingAround = QStringLiteral("Looking around");
+
 /** A stretch of changes that belong together: a job, or one click of a button that changes something. */
 struct Session
 {

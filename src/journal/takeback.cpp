@@ -308,6 +308,11 @@ void judgeAfterwards(const Journal &journal, const Selection &selection, TakenIt
 
 } // namespace
 
+const Journal *journalInForce()
+{
+    return dynamic_cast<const Journal *>(&platform());
+}
+
 QList<TakenItem> planWayBack(const Journal &journal, const Selection &selection)
 {
     QList<Thing> things;

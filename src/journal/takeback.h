@@ -36,6 +36,9 @@ struct Selection
     bool evenChanged = false; ///< also what something else has changed since
 };
 
+/** The platform in force, where it keeps a journal; null otherwise. */
+const Journal *journalInForce();
+
 /** What a selection is about, each thing once, with its verdict as things are now. Changes nothing. Throws
  * MachineError. */
 QList<TakenItem> planWayBack(const Journal &journal, const Selection &selection);

@@ -44,6 +44,14 @@ bool mayChange(Kestrune *window)
     return elevated;
 }
 
+std::shared_ptr<void> lockOthersOutOrTell()
+{
+    auto lock = platform().lockOthersOut();
+    if (!lock)
+        tell(Kestrune::tr("Another instance of the program is changing this PC. Try again when it has finished."));
+    return lock;
+}
+
 void Kestrune::StartAsAdmin()
 {
     // The Options page writes this value as "StartAsAdmin"; names in the registry don't mind case.

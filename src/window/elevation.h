@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Administrator rights: whether there are some, and how to get them.
+// Whether this process may change the PC: by its rights, and by what other instances do.
 
 #pragma once
+
+#include <memory>
 
 class Kestrune;
 
@@ -19,3 +21,6 @@ void showAdminRequiredDialog(Kestrune *window);
 
 /** Whether this process may change the system. Where it may not, that dialog is shown. */
 bool mayChange(Kestrune *window);
+
+/** Keeps other instances from changing the PC, as Platform::lockOthersOut(); says so where one of them is at work. */
+std::shared_ptr<void> lockOthersOutOrTell();

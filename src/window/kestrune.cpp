@@ -3,8 +3,7 @@
 
 #include "kestrune.h"
 
-#include "messagebox.h"
-#include "platform/platform.h"
+#include "elevation.h"
 #include "work/settings.h"
 #include "work/windowsname.h"
 
@@ -85,9 +84,7 @@ void Kestrune::waitForLastInstructions()
 bool Kestrune::lockOthersOut()
 {
     if (!othersLock)
-        othersLock = platform().lockOthersOut();
-    if (!othersLock)
-        tell(tr("Another instance of the program is changing this PC. Try again when it has finished."));
+        othersLock = lockOthersOutOrTell();
     return othersLock != nullptr;
 }
 

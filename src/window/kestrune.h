@@ -118,6 +118,10 @@ private Q_SLOTS:
     void onChkOptionsGetWinSxsSizeStateChanged(int state);
     void onCheckUpdateResult(QNetworkReply *reply);
 
+    // The way back
+    void on_btnOptionsWayBack_clicked() { openWayBack(0); }
+    void on_btnBrokenOff_clicked();
+
     /** The closed lists show their title, which the wheel and the keys would leave for a feature. */
     void showKeepTitle(int index);
     void onKeepModelChanged(const QModelIndex &first, const QModelIndex &last);
@@ -242,6 +246,12 @@ private:
     void showAboutPage();
     void nameHost();
     void checkUpdate();
+
+    // The way back
+    /** Opens the dialog at a session of the journal, by its number; at the last one with 0. */
+    void openWayBack(qint64 session);
+    /** Shows the button of the status strip where a session was broken off that nobody has looked at. */
+    void showBrokenOff();
 
     Ui::KestruneClass ui;
     WorkThread *workThread = nullptr;

@@ -156,6 +156,7 @@ void Kestrune::prepareForm()
 
     ui.tabWidget->tabBar()->hide();
     ui.pgrBar->hide();
+    showBrokenOff();
     nameHost();
     for (const Widths &widths : tables) {
         for (int column = 0; column < widths.columns.size(); ++column)

@@ -34,6 +34,7 @@ constexpr WidgetRow widgetRows[] = {
     {"wgtStatus",                        "QWidget",      "wgtMain"},
     {"lblStatus",                        "QLabel",       "wgtStatus"},
     {"pgrBar",                           "QProgressBar", "wgtStatus"},
+    {"btnBrokenOff",                     "QPushButton",  "wgtStatus"},
 
     {"tabAutomatizer",                   "QWidget",      "qt_tabwidget_stackedwidget"},
     {"wgtAutomatizer",                   "QWidget",      "tabAutomatizer"},
@@ -154,6 +155,7 @@ constexpr WidgetRow widgetRows[] = {
     {"label_9",                          "QLabel",       "wgtOptions"},
     {"cbOptionsMonitorInterval",         "QComboBox",    "wgtOptions"},
     {"chkOptionsMonitorThreadAndHandle", "QCheckBox",    "wgtOptions"},
+    {"btnOptionsWayBack",                "QPushButton",  "wgtOptions"},
 
     {"tabAbout",                         "QWidget",      "qt_tabwidget_stackedwidget"},
     {"wgtAbout",                         "QWidget",      "tabAbout"},
@@ -348,7 +350,7 @@ struct BoxRow
 constexpr BoxRow boxRows[] = {
     {"verticalLayout_3",   "btnMenuHome btnMenuService btnMenuTask btnMenuPackage "
                            "btnMenuTweak btnMenuInfo btnMenuOptions btnMenuAbout"},
-    {"horizontalLayout",   "lblStatus pgrBar"},
+    {"horizontalLayout",   "lblStatus pgrBar btnBrokenOff"},
     {"horizontalLayout_2", "btnAutomatizerAnalyze btnAutomatize btnAutomatizerRestore"},
     {"verticalLayout",     "lblAboutTop txtAbout"},
 };
@@ -375,6 +377,7 @@ constexpr RectangleRow rectangleRows[] = {
     {"label_9",                           30, 410, 161,  21},
     {"cbOptionsMonitorInterval",         200, 410,  41,  24},
     {"chkOptionsMonitorThreadAndHandle", 290, 410, 271,  22},
+    {"btnOptionsWayBack",                 10, 490, 301,  28},
 };
 
 struct SettingRow
@@ -401,6 +404,9 @@ constexpr SettingRow settingRows[] = {
     {"lblStatus",                "textFormat",                "PlainText"},
     {"pgrBar",                   "maximumSize",               "16777215 x 14"},
     {"pgrBar",                   "value",                     "24"},
+    {"btnBrokenOff",             "sizePolicy",                "Fixed Fixed"},
+    {"btnBrokenOff",             "maximumSize",               "16777215 x 24"},
+    {"btnBrokenOff",             "flat",                      "true"},
 
     {"cbAutorunFeatures",        "minimumSize",               "200 x 26"},
     {"cbAutorunFeatures",        "sizePolicy",                "Fixed Fixed"},
@@ -618,6 +624,7 @@ constexpr TextRow textRows[] = {
     {"btnMenuOptions", "Options"},
     {"btnMenuAbout",   "About"},
     {"lblStatus",      "lblStatus"},
+    {"btnBrokenOff",   "Broken off: way back…"},
 
     {"lblHomeTop", "Optimizer"},
     {"label_4",
@@ -745,6 +752,7 @@ constexpr TextRow textRows[] = {
     {"chkOptionsMonitor",                "Monitor and display some system information in the title bar"},
     {"label_9",                          "interval in seconds:"},
     {"chkOptionsMonitorThreadAndHandle", "display threads and handles count"},
+    {"btnOptionsWayBack",                "Way back…"},
 
     {"lblAboutTop", "About"},
 };
