@@ -847,6 +847,10 @@ werden nur die von Ihnen deaktivierten Dienste wiederhergestellt</translation>
 <translation>fertig</translation>
 </message>
 <message>
+<source>Folder for the files of the way back</source>
+<translation>Ordner für die Dateien des Wegs zurück</translation>
+</message>
+<message>
 <source>Français</source>
 <translation>Français</translation>
 </message>
@@ -1317,6 +1321,10 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 <translation>Su&amp;che:</translation>
 </message>
 <message>
+<source>Sa&amp;ve as files…</source>
+<translation>Als &amp;Dateien speichern …</translation>
+</message>
+<message>
 <source>Scheduled task %1</source>
 <translation>Geplante Aufgabe %1</translation>
 </message>
@@ -1513,6 +1521,10 @@ info</translation>
 <translation>die Datei ist an keinem der beiden Orte</translation>
 </message>
 <message>
+<source>The files can't bring back:</source>
+<translation>Die Dateien können nicht zurückbringen:</translation>
+</message>
+<message>
 <source>The way back needs Admin rights: only what was changed with them is noted.</source>
 <translation>Der Weg zurück braucht Administratorrechte: Nur was mit ihnen geändert wurde, ist notiert.</translation>
 </message>
@@ -1661,6 +1673,10 @@ info</translation>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
 <translation>Möchten Sie die Indizierungsattribute aller Dateien der Windows-Partition festlegen?</translation>
+</message>
+<message>
+<source>Written: %1</source>
+<translation>Geschrieben: %1</translation>
 </message>
 <message>
 <source>Xbox App</source>

@@ -847,6 +847,10 @@ solo se restaurarán los servicios que usted deshabilitó</translation>
 <translation>completado</translation>
 </message>
 <message>
+<source>Folder for the files of the way back</source>
+<translation>Carpeta para los archivos de la vuelta atrás</translation>
+</message>
+<message>
 <source>Français</source>
 <translation>Français</translation>
 </message>
@@ -1317,6 +1321,10 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 <translation>&amp;Buscar:</translation>
 </message>
 <message>
+<source>Sa&amp;ve as files…</source>
+<translation>&amp;Guardar como archivos…</translation>
+</message>
+<message>
 <source>Scheduled task %1</source>
 <translation>Tarea programada %1</translation>
 </message>
@@ -1513,6 +1521,10 @@ del sistema</translation>
 <translation>el archivo no está en ninguno de los dos sitios</translation>
 </message>
 <message>
+<source>The files can't bring back:</source>
+<translation>Los archivos no pueden recuperar:</translation>
+</message>
+<message>
 <source>The way back needs Admin rights: only what was changed with them is noted.</source>
 <translation>La vuelta atrás requiere derechos de administrador: solo se anota lo que se cambió con ellos.</translation>
 </message>
@@ -1661,6 +1673,10 @@ del sistema</translation>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
 <translation>¿Desea establecer los atributos de indexación de todos los archivos de la partición de Windows?</translation>
+</message>
+<message>
+<source>Written: %1</source>
+<translation>Escrito: %1</translation>
 </message>
 <message>
 <source>Xbox App</source>

@@ -847,6 +847,10 @@ seuls les services que vous avez désactivés seront restaurés</translation>
 <translation>terminé</translation>
 </message>
 <message>
+<source>Folder for the files of the way back</source>
+<translation>Dossier des fichiers du retour en arrière</translation>
+</message>
+<message>
 <source>Français</source>
 <translation>Français</translation>
 </message>
@@ -1317,6 +1321,10 @@ Ce processus ne sert qu’à la capture vidéo de l’écran. Il n’a aucun eff
 <translation>&amp;Rechercher :</translation>
 </message>
 <message>
+<source>Sa&amp;ve as files…</source>
+<translation>&amp;Enregistrer en fichiers…</translation>
+</message>
+<message>
 <source>Scheduled task %1</source>
 <translation>Tâche planifiée %1</translation>
 </message>
@@ -1513,6 +1521,10 @@ système</translation>
 <translation>le fichier n’est à aucun des deux endroits</translation>
 </message>
 <message>
+<source>The files can't bring back:</source>
+<translation>Les fichiers ne peuvent pas rétablir :</translation>
+</message>
+<message>
 <source>The way back needs Admin rights: only what was changed with them is noted.</source>
 <translation>Le retour en arrière demande des droits d’administrateur : seul ce qui a été modifié avec eux est noté.</translation>
 </message>
@@ -1661,6 +1673,10 @@ système</translation>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
 <translation>Voulez-vous définir les attributs d’indexation de tous les fichiers de la partition Windows ?</translation>
+</message>
+<message>
+<source>Written: %1</source>
+<translation>Écrit : %1</translation>
 </message>
 <message>
 <source>Xbox App</source>

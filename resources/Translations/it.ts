@@ -847,6 +847,10 @@ verranno ripristinati solo i servizi disabilitati dall'utente</translation>
 <translation>completato</translation>
 </message>
 <message>
+<source>Folder for the files of the way back</source>
+<translation>Cartella per i file del ritorno</translation>
+</message>
+<message>
 <source>Français</source>
 <translation>Français</translation>
 </message>
@@ -1317,6 +1321,10 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 <translation>Ce&amp;rca:</translation>
 </message>
 <message>
+<source>Sa&amp;ve as files…</source>
+<translation>Sal&amp;va come file…</translation>
+</message>
+<message>
 <source>Scheduled task %1</source>
 <translation>Attività pianificata %1</translation>
 </message>
@@ -1513,6 +1521,10 @@ sul sistema</translation>
 <translation>il file non è in nessuno dei due posti</translation>
 </message>
 <message>
+<source>The files can't bring back:</source>
+<translation>I file non possono ripristinare:</translation>
+</message>
+<message>
 <source>The way back needs Admin rights: only what was changed with them is noted.</source>
 <translation>Il ritorno richiede diritti di amministratore: è annotato solo ciò che è stato modificato con essi.</translation>
 </message>
@@ -1661,6 +1673,10 @@ sul sistema</translation>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
 <translation>Impostare gli attributi di indicizzazione di tutti i file della partizione di Windows?</translation>
+</message>
+<message>
+<source>Written: %1</source>
+<translation>Scritto: %1</translation>
 </message>
 <message>
 <source>Xbox App</source>

@@ -847,6 +847,10 @@ then restore only the services you have disabled</source>
 <translation>完了</translation>
 </message>
 <message>
+<source>Folder for the files of the way back</source>
+<translation>元に戻すためのファイルの保存先</translation>
+</message>
+<message>
 <source>Français</source>
 <translation>Français</translation>
 </message>
@@ -1317,6 +1321,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <translation>検索(&amp;E):</translation>
 </message>
 <message>
+<source>Sa&amp;ve as files…</source>
+<translation>ファイルとして保存(&amp;V)…</translation>
+</message>
+<message>
 <source>Scheduled task %1</source>
 <translation>スケジュールされたタスク %1</translation>
 </message>
@@ -1513,6 +1521,10 @@ Information</source>
 <translation>ファイルはどちらの場所にもありません</translation>
 </message>
 <message>
+<source>The files can't bring back:</source>
+<translation>ファイルでは元に戻せないもの:</translation>
+</message>
+<message>
 <source>The way back needs Admin rights: only what was changed with them is noted.</source>
 <translation>元に戻すには管理者権限が必要です。記録されるのは、その権限で行われた変更だけです。</translation>
 </message>
@@ -1661,6 +1673,10 @@ Information</source>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
 <translation>Windows パーティションのすべてのファイルのインデックス属性を設定しますか?</translation>
+</message>
+<message>
+<source>Written: %1</source>
+<translation>書き込みました: %1</translation>
 </message>
 <message>
 <source>Xbox App</source>

@@ -847,6 +847,10 @@ worden alleen de door u uitgeschakelde services hersteld</translation>
 <translation>voltooid</translation>
 </message>
 <message>
+<source>Folder for the files of the way back</source>
+<translation>Map voor de bestanden van de weg terug</translation>
+</message>
+<message>
 <source>Français</source>
 <translation>Français</translation>
 </message>
@@ -1317,6 +1321,10 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 <translation>&amp;Zoeken:</translation>
 </message>
 <message>
+<source>Sa&amp;ve as files…</source>
+<translation>&amp;Opslaan als bestanden…</translation>
+</message>
+<message>
 <source>Scheduled task %1</source>
 <translation>Geplande taak %1</translation>
 </message>
@@ -1513,6 +1521,10 @@ informatie</translation>
 <translation>het bestand staat op geen van beide plaatsen</translation>
 </message>
 <message>
+<source>The files can't bring back:</source>
+<translation>De bestanden kunnen niet terugbrengen:</translation>
+</message>
+<message>
 <source>The way back needs Admin rights: only what was changed with them is noted.</source>
 <translation>De weg terug vereist administratorrechten: alleen wat daarmee is gewijzigd, is genoteerd.</translation>
 </message>
@@ -1661,6 +1673,10 @@ informatie</translation>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
 <translation>Wilt u de indexeringskenmerken van alle bestanden in de Windows-partitie instellen?</translation>
+</message>
+<message>
+<source>Written: %1</source>
+<translation>Geschreven: %1</translation>
 </message>
 <message>
 <source>Xbox App</source>

@@ -847,6 +847,10 @@ przywrócone zostaną tylko usługi wyłączone przez Ciebie</translation>
 <translation>zakończone</translation>
 </message>
 <message>
+<source>Folder for the files of the way back</source>
+<translation>Folder na pliki drogi powrotnej</translation>
+</message>
+<message>
 <source>Français</source>
 <translation>Français</translation>
 </message>
@@ -1317,6 +1321,10 @@ Ten proces służy tylko do przechwytywania wideo z ekranu. Nie ma żadnego wpł
 <translation>Sz&amp;ukaj:</translation>
 </message>
 <message>
+<source>Sa&amp;ve as files…</source>
+<translation>&amp;Zapisz jako pliki…</translation>
+</message>
+<message>
 <source>Scheduled task %1</source>
 <translation>Zaplanowane zadanie %1</translation>
 </message>
@@ -1513,6 +1521,10 @@ o systemie</translation>
 <translation>pliku nie ma w żadnym z obu miejsc</translation>
 </message>
 <message>
+<source>The files can't bring back:</source>
+<translation>Pliki nie mogą przywrócić:</translation>
+</message>
+<message>
 <source>The way back needs Admin rights: only what was changed with them is noted.</source>
 <translation>Droga powrotna wymaga uprawnień administratora: zapisane jest tylko to, co z nimi zmieniono.</translation>
 </message>
@@ -1661,6 +1673,10 @@ o systemie</translation>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
 <translation>Czy chcesz ustawić atrybuty indeksowania wszystkich plików na partycji Windows?</translation>
+</message>
+<message>
+<source>Written: %1</source>
+<translation>Zapisano: %1</translation>
 </message>
 <message>
 <source>Xbox App</source>

@@ -847,6 +847,10 @@ somente os serviços que você desabilitou serão restaurados</translation>
 <translation>concluído</translation>
 </message>
 <message>
+<source>Folder for the files of the way back</source>
+<translation>Pasta para os arquivos do caminho de volta</translation>
+</message>
+<message>
 <source>Français</source>
 <translation>Français</translation>
 </message>
@@ -1317,6 +1321,10 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 <translation>&amp;Pesquisar:</translation>
 </message>
 <message>
+<source>Sa&amp;ve as files…</source>
+<translation>Sal&amp;var como arquivos…</translation>
+</message>
+<message>
 <source>Scheduled task %1</source>
 <translation>Tarefa agendada %1</translation>
 </message>
@@ -1513,6 +1521,10 @@ do sistema</translation>
 <translation>o arquivo não está em nenhum dos dois lugares</translation>
 </message>
 <message>
+<source>The files can't bring back:</source>
+<translation>Os arquivos não podem recuperar:</translation>
+</message>
+<message>
 <source>The way back needs Admin rights: only what was changed with them is noted.</source>
 <translation>O caminho de volta exige direitos de administrador: só é registrado o que foi alterado com eles.</translation>
 </message>
@@ -1661,6 +1673,10 @@ do sistema</translation>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
 <translation>Deseja definir os atributos de indexação de todos os arquivos da partição do Windows?</translation>
+</message>
+<message>
+<source>Written: %1</source>
+<translation>Gravado: %1</translation>
 </message>
 <message>
 <source>Xbox App</source>

@@ -847,6 +847,10 @@ then restore only the services you have disabled</source>
 <translation>完成</translation>
 </message>
 <message>
+<source>Folder for the files of the way back</source>
+<translation>撤回文件的文件夹</translation>
+</message>
+<message>
 <source>Français</source>
 <translation>Français</translation>
 </message>
@@ -1317,6 +1321,10 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <translation>搜索(&amp;E)：</translation>
 </message>
 <message>
+<source>Sa&amp;ve as files…</source>
+<translation>另存为文件(&amp;V)…</translation>
+</message>
+<message>
 <source>Scheduled task %1</source>
 <translation>计划任务 %1</translation>
 </message>
@@ -1513,6 +1521,10 @@ Information</source>
 <translation>文件不在两个位置中的任何一个</translation>
 </message>
 <message>
+<source>The files can't bring back:</source>
+<translation>文件无法恢复：</translation>
+</message>
+<message>
 <source>The way back needs Admin rights: only what was changed with them is noted.</source>
 <translation>撤回更改需要管理员权限：只有以该权限进行的更改才会被记录。</translation>
 </message>
@@ -1661,6 +1673,10 @@ Information</source>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
 <translation>是否为 Windows 分区中的所有文件设置索引属性?</translation>
+</message>
+<message>
+<source>Written: %1</source>
+<translation>已写入：%1</translation>
 </message>
 <message>
 <source>Xbox App</source>

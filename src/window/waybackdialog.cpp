@@ -9,6 +9,8 @@
 #include "messagebox.h"
 
 #include <QCheckBox>
+#include <QDir>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -124,6 +126,7 @@ void WayBackDialog::makeWidgets()
     bar_->setAccessibleName(Kestrune::tr("Taking back…"));
     bar_->hide();
     take_ = newButton(u"btnTakeBack"_s, Kestrune::tr("&Take back"));
+    save_ = newButton(u"btnSaveFiles"_s, Kestrune::tr("Sa&ve as files…"));
     close_ = newButton(u"btnClose"_s, Kestrune::tr("Close"));
 }
 
@@ -157,13 +160,13 @@ void WayBackDialog::layOut()
     sides->addWidget(right);
     sides->setStretchFactor(1, 1);
     sides->setSizes({360, 620});
-    auto *buttons = line({status_, bar_, take_, close_});
+    auto *buttons = line({status_, bar_, take_, save_, close_});
     buttons->setStretch(0, 1);
     auto *all = new QVBoxLayout(this);
     all->addWidget(sides, 1);
     all->addLayout(buttons);
 
-    const QList<QWidget *> order{sessions_, later_, search_, changes_, checkAll_, uncheckAll_, take_, close_};
+    const QList<QWidget *> order{sessions_, later_, search_, changes_, checkAll_, uncheckAll_, take_, save_, close_};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
     QHeaderView *header = changes_->header();
@@ -182,6 +185,7 @@ void WayBackDialog::connectWidgets()
     connect(uncheckAll_, &QPushButton::clicked, this, [this] { checkAll(false); });
     connect(model_, &WayBackModel::checksChanged, this, &WayBackDialog::allowTaking);
     connect(take_, &QPushButton::clicked, this, &WayBackDialog::take);
+    connect(save_, &QPushButton::clicked, this, &WayBackDialog::save);
     connect(close_, &QPushButton::clicked, this, &WayBackDialog::reject);
     connect(work_, &QThread::finished, this, &WayBackDialog::onFinished);
     connect(work_, &WayBackWork::stepped, this, [this](int step, int steps) {
@@ -258,6 +262,20 @@ void WayBackDialog::take()
     work_->take(model_->checkedOf(chosen()));
 }
 
+void WayBackDialog::save()
+{
+    if (doing_ != Doing::Nothing || !model_->isAnyChecked())
+        return;
+    // The system's own dialog would bring programs of others into an elevated process.
+    const QString folder =
+        QFileDialog::getExistingDirectory(this, Kestrune::tr("Folder for the files of the way back"), QString(),
+                                          QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
+    if (folder.isEmpty())
+        return;
+    showDoing(Doing::Saving);
+    work_->save(model_->checkedOf(chosen()), folder);
+}
+
 void WayBackDialog::onFinished()
 {
     work_->wait(); // for the thread's last instructions
@@ -267,6 +285,8 @@ void WayBackDialog::onFinished()
         look();
     else if (done == Doing::Looking)
         onLooked();
+    else if (done == Doing::Saving)
+        onSaved();
     else
         onTaken();
 }
@@ -294,9 +314,26 @@ void WayBackDialog::onTaken()
         tell(failure);
 }
 
+void WayBackDialog::onSaved()
+{
+    constexpr qsizetype most = 20; // lines that a box shows
+
+    const WrittenWayBack &written = work_->written;
+    if (!work_->failure.isEmpty()) {
+        tell(work_->failure);
+    } else if (written.leftOut.isEmpty()) {
+        tell(Kestrune::tr("Written: %1").arg(QDir::toNativeSeparators(written.files.value(0))));
+    } else {
+        QStringList lines = written.leftOut.first(std::min(most, written.leftOut.size()));
+        if (lines.size() < written.leftOut.size())
+            lines.append(u"…"_s);
+        tell(Kestrune::tr("The files can't bring back:") + u"\n\n"_s + lines.join(u'\n'));
+    }
+}
+
 void WayBackDialog::reject()
 {
-    if (doing_ != Doing::Taking) {
+    if (doing_ != Doing::Taking && doing_ != Doing::Saving) {
         QDialog::reject();
         return;
     }
@@ -313,14 +350,14 @@ void WayBackDialog::checkAll(bool on)
 void WayBackDialog::showDoing(Doing doing)
 {
     doing_ = doing;
-    const bool isTaking = doing == Doing::Taking;
-    bar_->setVisible(isTaking);
+    const bool isBusy = doing == Doing::Taking || doing == Doing::Saving;
+    bar_->setVisible(doing == Doing::Taking);
     close_->setEnabled(true);
-    close_->setText(isTaking ? Kestrune::tr("Cancel") : Kestrune::tr("Close"));
+    close_->setText(isBusy ? Kestrune::tr("Cancel") : Kestrune::tr("Close"));
     for (QWidget *widget :
          {static_cast<QWidget *>(sessions_), static_cast<QWidget *>(later_), static_cast<QWidget *>(changes_),
           static_cast<QWidget *>(checkAll_), static_cast<QWidget *>(uncheckAll_)})
-        widget->setEnabled(!isTaking);
+        widget->setEnabled(!isBusy);
     allowTaking();
 }
 
@@ -334,5 +371,7 @@ void WayBackDialog::showVerdicts()
 
 void WayBackDialog::allowTaking()
 {
-    take_->setEnabled(doing_ == Doing::Nothing && model_->isAnyChecked());
+    const bool isReady = doing_ == Doing::Nothing && model_->isAnyChecked();
+    take_->setEnabled(isReady);
+    save_->setEnabled(isReady);
 }

@@ -35,7 +35,7 @@ public:
     void reject() override;
 
 private:
-    enum class Doing { Nothing, Looking, Taking };
+    enum class Doing { Nothing, Looking, Taking, Saving };
 
     void makeWidgets();
     void layOut();
@@ -48,9 +48,11 @@ private:
     Selection chosen() const;
     void look();
     void take();
+    void save();
     void onFinished();
     void onLooked();
     void onTaken();
+    void onSaved();
     void checkAll(bool on);
     void showDoing(Doing doing);
     void showVerdicts();
@@ -73,5 +75,6 @@ private:
     QLabel *status_ = nullptr;
     QProgressBar *bar_ = nullptr;
     QPushButton *take_ = nullptr;
+    QPushButton *save_ = nullptr;
     QPushButton *close_ = nullptr;
 };

@@ -7,38 +7,43 @@
 
 void WayBackWork::look(const Selection &selection)
 {
-    begin(selection, false);
+    begin([this, selection] { items = planWayBack(journal_, selection); });
 }
 
 void WayBackWork::take(const Selection &selection)
 {
-    begin(selection, true);
+    begin([this, selection] { takeSelection(selection); });
 }
 
-void WayBackWork::begin(const Selection &selection, bool takes)
+void WayBackWork::save(const Selection &selection, const QString &folder)
 {
-    selection_ = selection;
-    takes_ = takes;
+    begin([this, selection, folder] { written = writeWayBack(journal_, selection, folder); });
+}
+
+void WayBackWork::begin(const std::function<void()> &work)
+{
+    work_ = work;
     items.clear();
+    written = {};
     failure.clear();
-    brokenOff = false;
     start(QThread::InheritPriority);
+}
+
+void WayBackWork::takeSelection(const Selection &selection)
+{
+    items = takeBack(journal_, selection, [this](qsizetype step, qsizetype steps) {
+        Q_EMIT stepped(static_cast<int>(step), static_cast<int>(steps));
+    });
+    failure = journal_.takeFailure();
 }
 
 void WayBackWork::run()
 {
     try {
-        if (!takes_) {
-            items = planWayBack(journal_, selection_);
-            return;
-        }
-        items = takeBack(journal_, selection_, [this](qsizetype step, qsizetype steps) {
-            Q_EMIT stepped(static_cast<int>(step), static_cast<int>(steps));
-        });
-        failure = journal_.takeFailure();
+        work_();
     } catch (const MachineError &error) {
         failure = error.message;
     } catch (const JobInterrupted &) {
-        brokenOff = true;
+        // Whoever broke it off knows.
     }
 }

@@ -3,11 +3,11 @@
 
 #pragma once
 
-#include "journal/takeback.h"
+#include "journal/wayfiles.h"
 
 #include <QThread>
 
-/** A thread that looks what sessions have changed, or takes it back; its members are read when it has finished. */
+/** A thread that looks what sessions have changed, takes it back, or writes files; its members are read afterwards. */
 class WayBackWork final : public QThread
 {
     Q_OBJECT
@@ -19,13 +19,16 @@ public:
     {
     }
 
-    /** Looks, or takes back. Only while it isn't running. */
+    // Only while it isn't running.
+
     void look(const Selection &selection);
     void take(const Selection &selection);
+    /** Writes the way back as files into a folder, which is made. */
+    void save(const Selection &selection, const QString &folder);
 
     QList<TakenItem> items; ///< with their verdicts; empty where it has failed or was broken off
-    QString failure;        ///< why it has failed, or why some of it wasn't done; in English
-    bool brokenOff = false;
+    WrittenWayBack written;
+    QString failure; ///< why it has failed, or why some of it wasn't done; in English
 
 Q_SIGNALS:
     /** Which thing is taken back next, from 0, and of how many. */
@@ -35,9 +38,9 @@ protected:
     void run() override;
 
 private:
-    void begin(const Selection &selection, bool takes);
+    void begin(const std::function<void()> &work);
+    void takeSelection(const Selection &selection);
 
     const Journal &journal_;
-    Selection selection_;
-    bool takes_ = false;
+    std::function<void()> work_;
 };

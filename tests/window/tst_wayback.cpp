@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QTest>
 #include <QTranslator>
@@ -206,6 +207,7 @@ private Q_SLOTS:
     void laterSessionsAreTakenWithIt();
     void theSearchHidesTheOthers();
     void takingBackCanBeBrokenOff();
+    void theFilesAreWrittenWhereOneSays();
     void nothingIsTakenBackBesideAnotherInstance();
     void withoutChangesItSaysSo();
     void withoutRightsTheyAreOffered_data();
@@ -370,6 +372,55 @@ void TestWayBack::takingBackCanBeBrokenOff()
     QVERIFY(!dialog.isOpen());
 }
 
+/** Chooses this folder in the dialog for one as soon as that stands on the screen. */
+class FolderChoice
+{
+public:
+    explicit FolderChoice(const QString &folder)
+    {
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this, folder] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            if (dialog == nullptr)
+                return;
+            timer_.stop();
+            dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(folder);
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        timer_.start(5);
+    }
+
+private:
+    QTimer timer_;
+};
+
+void TestWayBack::theFilesAreWrittenWhereOneSays()
+{
+    const ServicesPc machine;
+    const Journaled pc(machine);
+    const WindowDriver driver;
+    QVERIFY(disable(driver, {u"Alpha"_s, u"Beta"_s}));
+    const Dialog dialog(driver);
+    dialog.choose(u"Disable services"_s);
+    QVERIFY(dialog.changes()->model()->setData(dialog.row(betaStart), Qt::Unchecked, Qt::CheckStateRole));
+    const QTemporaryDir folder;
+    {
+        const FolderChoice choice(folder.path());
+        Boxes boxes({QMessageBox::NoButton});
+        dialog.click(u"btnSaveFiles"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(boxes.shown().size(), 1, patience);
+        QVERIFY2(boxes.shown().first().text.startsWith(u"Written: "_s), qPrintable(boxes.shown().first().text));
+    }
+    QVERIFY(dialog.isIdle());
+    QVERIFY(dialog.takeButton()->isEnabled());
+    QFile script(folder.filePath(u"way-back.reg"_s));
+    QVERIFY(script.open(QIODevice::ReadOnly));
+    const QByteArray bytes = script.readAll();
+    const QString text = QString::fromUtf16(reinterpret_cast<const char16_t *>(bytes.constData()), bytes.size() / 2);
+    QVERIFY(text.contains(u"Services\\Alpha]"_s));
+    QVERIFY(!text.contains(u"Services\\Beta]"_s));
+    QCOMPARE(startOf(pc, u"Alpha"_s), int(StartDisabled)); // nothing is taken back
+}
+
 void TestWayBack::nothingIsTakenBackBesideAnotherInstance()
 {
     const ServicesPc machine;
@@ -490,7 +541,7 @@ void TestWayBack::theKeyboardReachesEverything()
     QApplication::setActiveWindow(&*dialog);
     dialog.sessions()->setFocus();
     QStringList reached;
-    for (int step = 0; step < 8; ++step) {
+    for (int step = 0; step < 9; ++step) {
         const QWidget *focus = dialog.operator*().focusWidget();
         QVERIFY2(
             !QAccessible::queryAccessibleInterface(const_cast<QWidget *>(focus))->text(QAccessible::Name).isEmpty(),
@@ -499,7 +550,7 @@ void TestWayBack::theKeyboardReachesEverything()
         QTest::keyClick(&*dialog, Qt::Key_Tab);
     }
     QCOMPARE(reached, QStringList({u"lstSessions"_s, u"chkLater"_s, u"edtSearch"_s, u"lstChanges"_s, u"btnCheckAll"_s,
-                                   u"btnUncheckAll"_s, u"btnTakeBack"_s, u"btnClose"_s}));
+                                   u"btnUncheckAll"_s, u"btnTakeBack"_s, u"btnSaveFiles"_s, u"btnClose"_s}));
     dialog.changes()->setFocus();
     dialog.changes()->setCurrentIndex(dialog.row(alphaStart));
     QTest::keyClick(dialog.changes(), Qt::Key_Space);
@@ -525,7 +576,7 @@ void TestWayBack::everyLanguageHasLettersOfItsOwn()
     const WindowDriver driver;
     const Dialog dialog(driver);
     QStringList letters = mnemonics(*dialog);
-    QCOMPARE(letters.size(), 4);
+    QCOMPARE(letters.size(), 5);
     QCOMPARE(letters.removeDuplicates(), 0);
 }
 
