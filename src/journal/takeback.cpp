@@ -6,8 +6,10 @@
 #include "platform/windowsfacts.h"
 #include "work/command.h"
 #include "work/interruption.h"
+#include "work/settings.h"
 
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 
@@ -306,6 +308,42 @@ void judgeAfterwards(const Journal &journal, const Selection &selection, TakenIt
     }
 }
 
+/** The place of the record that the program keeps of a change, as a key and a name below it; empty without one. */
+QString recordOf(const Item &item)
+{
+    switch (item.kind) {
+    case ItemKind::Value:
+        if (WindowsKey::runKeys.contains(item.subject, Qt::CaseInsensitive))
+            return recordKey(u"Autorun"_s) + u'\\' + item.name;
+        if (const auto service = serviceOfKey(item.subject);
+            service && item.name.compare("Start"_L1, Qt::CaseInsensitive) == 0)
+            return recordKey(u"SVC"_s) + u'\\' + *service;
+        return {};
+    case ItemKind::Task:
+        return recordKey(u"Task"_s) + item.subject;
+    case ItemKind::Package:
+        return recordKey(u"Packages"_s) + u'\\' + item.subject;
+    default:
+        return {};
+    }
+}
+
+/** Leaves the items of these ids in a plan, and the program's records of them, which would be wrong without them. */
+void keepSelected(QList<TakenItem> &plan, const QList<qint64> &ids)
+{
+    const QSet<qint64> selected(ids.cbegin(), ids.cend());
+    QSet<QString> records;
+    for (const TakenItem &item : std::as_const(plan)) {
+        if (selected.contains(item.id))
+            records.insert(foldName(recordOf(item.item)));
+    }
+    plan.removeIf([&selected, &records](const TakenItem &item) {
+        const bool isRecord = item.own && item.item.kind == ItemKind::Value;
+        return !selected.contains(item.id)
+               && !(isRecord && records.contains(foldName(item.item.subject + u'\\' + item.item.name)));
+    });
+}
+
 } // namespace
 
 const Journal *journalInForce()
@@ -337,9 +375,8 @@ QList<TakenItem> planWayBack(const Journal &journal, const Selection &selection)
         plan.append(judgedMove(journal, move));
     for (const Thing &thing : std::as_const(things))
         plan.append(judged(journal, thing, moves));
-    plan.removeIf([&selection](const TakenItem &item) {
-        return !selection.items.isEmpty() && !selection.items.contains(item.id);
-    });
+    if (!selection.items.isEmpty())
+        keepSelected(plan, selection.items);
     std::stable_sort(plan.begin(), plan.end(), comesBackBefore);
     return plan;
 }

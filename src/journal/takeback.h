@@ -32,7 +32,7 @@ struct Selection
 {
     qint64 firstSession = 1;
     qint64 lastSession = 0;   ///< 0: all from the first one on
-    QList<qint64> items{};    ///< ids of TakenItem; empty: all
+    QList<qint64> items{};    ///< ids of TakenItem, whose records go with them; empty: all
     bool evenChanged = false; ///< also what something else has changed since
 };
 

@@ -6,6 +6,7 @@
 #include "support/featuresview.h"
 #include "support/suite.h"
 #include "window/waybackdialog.h"
+#include "work/settings.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -270,6 +271,7 @@ void TestWayBack::aSingleChangeIsTakenBack()
     QCOMPARE(dialog.state(betaStart), u"changed"_s);
     QCOMPARE(startOf(pc, u"Alpha"_s), int(StartAutomatic));
     QCOMPARE(startOf(pc, u"Beta"_s), int(StartDisabled));
+    QCOMPARE(recordedNames(u"SVC"_s), QStringList(u"Beta"_s)); // a record goes with what it is of
 }
 
 void TestWayBack::whatSomethingElseHasChangedIsLeftAlone()
