@@ -3,8 +3,8 @@
 #include "capture.h"
 
 #include "capturesteps.h"
-#include "machine/taskdocument.h"
 #include "neutralnames.h"
+#include "platform/taskdocument.h"
 #include "platform/windowsfacts.h"
 #include "readingplatform.h"
 #include "work/services/services.h"

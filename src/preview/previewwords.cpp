@@ -5,7 +5,7 @@
 #include "machine/compare/machinediff.h"
 #include "machine/machine.h"
 #include "machine/registrydisplay.h"
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 #include "platform/windowsfacts.h"
 #include "work/settings.h"
 

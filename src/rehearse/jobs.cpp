@@ -3,7 +3,7 @@
 #include "jobs.h"
 
 #include "journal/machinejournal.h"
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 #include "platform/windowsfacts.h"
 #include "work/packages/packages.h"
 #include "work/settings.h"

@@ -4,7 +4,7 @@
 #include "console/printable.h"
 #include "machine/machine.h"
 #include "machine/registrydisplay.h"
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 #include "platform/windowsfacts.h"
 #include "subcommands.h"
 

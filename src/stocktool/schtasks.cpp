@@ -3,7 +3,7 @@
 
 #include "console/console.h"
 #include "machine/source/toolreport.h"
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 #include "tools.h"
 
 #include <variant>

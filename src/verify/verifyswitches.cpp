@@ -2,7 +2,7 @@
 
 #include "machine/machine.h"
 #include "machine/registrydisplay.h"
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 #include "platform/windowsfacts.h"
 #include "preview/previewwords.h"
 #include "toollog.h"

@@ -5,7 +5,7 @@
 
 #include "machine/compare/machinediff.h"
 #include "machine/source/machinesource.h"
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 #include "support/boxes.h"
 #include "support/suite.h"
 #include "support/tweakrows.h"

@@ -5,7 +5,7 @@
 #include "support/suite.h"
 
 #include "machine/registrydisplay.h"
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 
 #include <QJsonArray>
 #include <QSet>

@@ -5,7 +5,7 @@
 #include "support/toolrun.h"
 
 #include "machine/source/toolreport.h"
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -7,7 +7,7 @@
 #include "taskexport.h"
 #include "work/settings.h"
 
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 
 inline const QString controlKey = QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control");
 inline const QString taskRecordsKey = settingsKey + QStringLiteral("\\Task");

@@ -8,7 +8,7 @@
 
 #include "machine/compare/machinediff.h"
 #include "machine/machine.h"
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 #include "verify/verify.h"
 #include "work/settings.h"
 

@@ -2,7 +2,7 @@
 // The whole difference that Optimize and Restore make on a small machine, for what is kept and given up: a machine that
 // they have run on is compared with one that is changed by hand.
 
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 #include "support/suite.h"
 #include "tweakruns.h"
 #include "work/automatizer/automatizer.h"

@@ -5,7 +5,7 @@
 #include "console/programinterruption.h"
 #include "machine/database.h"
 #include "machine/machine.h"
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 
 #include <QCryptographicHash>
 

@@ -3,7 +3,7 @@
 #include "machinesystem.h"
 
 #include "machine/machine.h"
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 
 #include <QFileInfo>
 

@@ -3,7 +3,7 @@
 #include "toolreport.h"
 
 #include "console/console.h"
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 
 #include <QFileInfo>
 #include <QStringDecoder>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a scheduled task's XML says, and its switch.
 
-#include "machine/taskdocument.h"
+#include "platform/taskdocument.h"
 #include "support/suite.h"
 
 #include <QTest>
