@@ -2,34 +2,15 @@
 
 #include "changelock.h"
 
+#include "adminfolder.h"
 #include "systemobjects.h"
 
-#include <aclapi.h>
 #include <sddl.h>
 
 namespace {
 
 // It belongs to the administrators, and nobody else may open it.
 constexpr wchar_t mutexRights[] = L"O:BAG:BAD:P(A;;GA;;;BA)(A;;GA;;;SY)";
-
-struct LocalFreer
-{
-    void operator()(void *memory) const { LocalFree(memory); }
-};
-using LocalMemory = std::unique_ptr<void, LocalFreer>;
-
-/** Without administrator rights none can be made that has such an owner. */
-bool isOfAdministrators(HANDLE mutex)
-{
-    PSID owner = nullptr;
-    PSECURITY_DESCRIPTOR descriptor = nullptr;
-    if (GetSecurityInfo(mutex, SE_KERNEL_OBJECT, OWNER_SECURITY_INFORMATION, &owner, nullptr, nullptr, nullptr,
-                        &descriptor)
-        != ERROR_SUCCESS)
-        return false;
-    const LocalMemory memory(descriptor);
-    return IsWellKnownSid(owner, WinBuiltinAdministratorsSid) || IsWellKnownSid(owner, WinLocalSystemSid);
-}
 
 } // namespace
 
@@ -49,7 +30,7 @@ std::shared_ptr<void> lockChanges()
     SetLastError(ERROR_SUCCESS);
     Handle mutex(CreateMutexExW(&attributes, changeLockName, 0, SYNCHRONIZE | READ_CONTROL));
     const bool wasThere = GetLastError() == ERROR_ALREADY_EXISTS;
-    if (mutex && wasThere && isOfAdministrators(mutex.get()))
+    if (mutex && wasThere && isOfAdministrators(mutex.get(), SE_KERNEL_OBJECT))
         return nullptr;
     if (!mutex || wasThere)
         return nobody;

@@ -5,6 +5,7 @@
 #include "systemobjects.h"
 
 #define SECURITY_WIN32
+#include <sddl.h>
 #include <security.h>
 
 #include <vector>
@@ -15,6 +16,25 @@ Handle ownToken()
 {
     HANDLE token = nullptr;
     return Handle(OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token) ? token : nullptr);
+}
+
+/** A TOKEN_USER; empty where the token can't be read. */
+std::vector<BYTE> tokenUser()
+{
+    const Handle token = ownToken();
+    DWORD size = 0;
+    if (!token)
+        return {};
+    GetTokenInformation(token.get(), TokenUser, nullptr, 0, &size);
+    std::vector<BYTE> user(size);
+    if (!GetTokenInformation(token.get(), TokenUser, user.data(), size, &size))
+        return {};
+    return user;
+}
+
+PSID sidIn(const std::vector<BYTE> &user)
+{
+    return reinterpret_cast<const TOKEN_USER *>(user.data())->User.Sid;
 }
 
 } // namespace
@@ -32,24 +52,28 @@ Account userOfProcess()
 {
     constexpr DWORD longestName = 256;   // UNLEN
     constexpr DWORD longestDomain = 256; // DNLEN is shorter, a DNS name is not
-    const Handle token = ownToken();
-    DWORD size = 0;
-    if (!token)
-        return {};
-    GetTokenInformation(token.get(), TokenUser, nullptr, 0, &size);
-    std::vector<BYTE> user(size);
-    if (!GetTokenInformation(token.get(), TokenUser, user.data(), size, &size))
+    const std::vector<BYTE> user = tokenUser();
+    if (user.empty())
         return {};
     wchar_t name[longestName + 1];
     wchar_t domain[longestDomain + 1];
     DWORD nameLength = longestName + 1;
     DWORD domainLength = longestDomain + 1;
     SID_NAME_USE use{};
-    if (!LookupAccountSidW(nullptr, reinterpret_cast<const TOKEN_USER *>(user.data())->User.Sid, name, &nameLength,
-                           domain, &domainLength, &use))
+    if (!LookupAccountSidW(nullptr, sidIn(user), name, &nameLength, domain, &domainLength, &use))
         return {};
     return {QString::fromWCharArray(domain, static_cast<qsizetype>(domainLength)),
             QString::fromWCharArray(name, static_cast<qsizetype>(nameLength))};
+}
+
+QString sidOfUser()
+{
+    const std::vector<BYTE> user = tokenUser();
+    LPWSTR text = nullptr;
+    if (user.empty() || !ConvertSidToStringSidW(sidIn(user), &text))
+        return {};
+    const LocalMemory memory(text);
+    return QString::fromWCharArray(text);
 }
 
 QStringList shownNamesOfUser()

@@ -18,5 +18,8 @@ struct Account
 /** The user of this process; empty where the system doesn't know. */
 Account userOfProcess();
 
+/** The SID of the user of this process, as text; empty where the system doesn't know. */
+QString sidOfUser();
+
 /** The full name of the user of this process, and the address of his account in a directory; those that there are. */
 QStringList shownNamesOfUser();

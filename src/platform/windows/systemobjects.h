@@ -27,6 +27,13 @@ inline Handle validHandle(HANDLE handle)
     return Handle(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
 }
 
+struct LocalFreer
+{
+    void operator()(void *memory) const { LocalFree(memory); }
+};
+/** An owner of what the system says is to be given back by LocalFree. */
+using LocalMemory = std::unique_ptr<void, LocalFreer>;
+
 // Keys of the real registry, opened without QSettings.
 
 struct KeyCloser

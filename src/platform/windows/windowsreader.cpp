@@ -3,11 +3,10 @@
 
 #include "windowsplatform.h"
 
+#include "nativeregistry.h"
 #include "processtoken.h"
-#include "systemobjects.h"
 
 #include <span>
-#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -19,16 +18,6 @@ struct ServiceManagerCloser
     void operator()(SC_HANDLE manager) const { CloseServiceHandle(manager); }
 };
 using ServiceManager = std::unique_ptr<std::remove_pointer_t<SC_HANDLE>, ServiceManagerCloser>;
-
-/** Opened, and never made. The view of 64 bits, which the program writes to as well. */
-std::pair<Key, LSTATUS> openForReading(const QString &path)
-{
-    const QString below = path.section(u'\\', 1);
-    HKEY key = nullptr;
-    const LSTATUS status =
-        RegOpenKeyExW(hiveNamed(path.section(u'\\', 0, 0)), wide(below), 0, KEY_READ | KEY_WOW64_64KEY, &key);
-    return {Key(status == ERROR_SUCCESS ? key : nullptr), status};
-}
 
 struct Sizes
 {
@@ -108,7 +97,7 @@ std::optional<std::span<const ENUM_SERVICE_STATUS_PROCESSW>> listServices(SC_HAN
 
 KeyContent WindowsReader::key(const QString &path) const
 {
-    const auto [key, status] = openForReading(path);
+    const auto [key, status] = openExisting(path, KEY_READ);
     if (!key)
         return {status == ERROR_ACCESS_DENIED, status == ERROR_ACCESS_DENIED};
     const std::optional<Sizes> sizes = sizesOf(key.get());
