@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString currentUser = u"HKEY_CURRENT_USER"_s;
+
 /** How many attribute words are noted together. */
 constexpr qsizetype mostWords = 5000;
 
@@ -89,13 +91,23 @@ Journal::Journal(std::unique_ptr<Platform> inner, std::unique_ptr<SystemState> s
     : ForwardingPlatform(std::move(inner))
     , system_(std::move(system))
     , options_(std::move(options))
-    , store_(std::make_unique<JournalStore>(options_.file, options_.durability))
 {
+    if (options_.shut.isEmpty())
+        store_ = openStore(options_.file, options_.durability, options_.isForeign, options_.putAside);
+    else
+        failed(options_.shut);
 }
 
 Journal::~Journal()
 {
     endSession(SessionState::Finished);
+}
+
+JournalStore &Journal::store() const
+{
+    if (!store_)
+        throw MachineError{options_.shut};
+    return *store_;
 }
 
 QString Journal::takeFailure() const
@@ -158,12 +170,21 @@ ItemState Journal::stateOf(const Item &item) const
     return {};
 }
 
+QString Journal::commonPath(const QString &key) const
+{
+    const bool isUsers = key == currentUser || key.startsWith(currentUser + u'\\', Qt::CaseInsensitive);
+    return isUsers && !options_.userKey.isEmpty() ? options_.userKey + key.sliced(currentUser.size()) : key;
+}
+
 OwnPlace Journal::placeOf(const Item &item) const
 {
     const bool isOfRegistry = item.kind == ItemKind::Value || item.kind == ItemKind::Key;
     if (!isOfRegistry || options_.ownPlace == nullptr)
         return OwnPlace::None;
-    return options_.ownPlace(item.subject, item.kind == ItemKind::Value ? item.name : QString());
+    const bool isUsers =
+        !options_.userKey.isEmpty() && item.subject.startsWith(options_.userKey + u'\\', Qt::CaseInsensitive);
+    const QString key = isUsers ? currentUser + item.subject.sliced(options_.userKey.size()) : item.subject;
+    return options_.ownPlace(key, item.kind == ItemKind::Value ? item.name : QString());
 }
 
 qint64 Journal::sessionFor(bool own) const
@@ -180,7 +201,7 @@ void Journal::openSession(bool own) const
     endSession(SessionState::Finished);
     if (depth_ == 0)
         what_ = lookingAround;
-    session_ = store_->beginSession(what_, options_.user, options_.version);
+    session_ = store().beginSession(what_, options_.user, options_.version);
     ended_ = false;
 }
 
@@ -209,7 +230,7 @@ bool Journal::note(const QList<Item> &items) const
             return true;
         for (Note &note : notes)
             note.before = stateOf(note.item);
-        store_->add(session_, notes);
+        store().add(session_, notes);
         for (const Note &note : std::as_const(notes))
             noted_.insert(foldedItem(note.item));
         return true;
@@ -268,7 +289,7 @@ std::unique_ptr<RegistryKey> Journal::openKey(const QString &path) const
     const std::optional<QString> fullPath = fullKeyPath(path);
     if (!fullPath) // outside the hives, where nothing is made
         return key;
-    return std::make_unique<JournalKey>(*this, std::move(key), *fullPath);
+    return std::make_unique<JournalKey>(*this, std::move(key), commonPath(*fullPath));
 }
 
 void Journal::walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const
@@ -325,7 +346,7 @@ bool Journal::setWords(const QList<FileAttributes> &words, const QList<quint32> 
     if (!notes.isEmpty()) {
         try {
             openSession(false);
-            store_->add(session_, notes);
+            store().add(session_, notes);
         } catch (const MachineError &error) {
             return failed(error.message);
         }
@@ -359,7 +380,11 @@ std::optional<AdmittedProgram> Journal::admitProgram(const QString &program, con
     const std::optional<AdmittedProgram> admitted = inner().admitProgram(program, arguments);
     if (!admitted)
         return admitted;
-    const QList<Item> subjects = subjectsOf(program, arguments, *system_);
+    QList<Item> subjects = subjectsOf(program, arguments, *system_);
+    for (Item &each : subjects) {
+        if (each.kind == ItemKind::Value || each.kind == ItemKind::Key)
+            each.subject = commonPath(each.subject);
+    }
     return subjects.isEmpty() || note(subjects) ? admitted : std::nullopt;
 }
 
@@ -382,7 +407,7 @@ void Journal::endChanges(bool finished) const
     noteOutcome();
     if (session_ != 0 && !ended_) {
         try {
-            store_->endSession(session_, broken_ ? SessionState::BrokenOff : SessionState::Finished);
+            store().endSession(session_, broken_ ? SessionState::BrokenOff : SessionState::Finished);
             if (options_.afterSession != nullptr)
                 options_.afterSession(*this, session_);
         } catch (const MachineError &error) {
@@ -399,7 +424,7 @@ void Journal::endSession(SessionState state) const
     noteOutcome();
     try {
         if (!ended_)
-            store_->endSession(session_, state);
+            store().endSession(session_, state);
     } catch (const MachineError &error) {
         failed(error.message);
     }
@@ -414,11 +439,11 @@ void Journal::noteOutcome() const
     if (session_ == 0)
         return;
     try {
-        QList<Note> notes = store_->notes(session_);
+        QList<Note> notes = store().notes(session_);
         notes.removeIf([](const Note &note) { return note.after || note.item.kind == ItemKind::Move; });
         for (Note &note : notes)
             note.after = stateOf(note.item);
-        store_->setAfter(notes);
+        store().setAfter(notes);
     } catch (const MachineError &error) {
         failed(error.message);
     }

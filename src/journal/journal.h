@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "journalstore.h"
+#include "journalplace.h"
 #include "platform/forwardingplatform.h"
 #include "platform/systemstate.h"
 
@@ -26,6 +26,11 @@ struct JournalOptions
     Durability durability = Durability::PowerCut;
     QString user{};    ///< who runs the program, for the list of sessions
     QString version{}; ///< of the program
+    QString userKey{}; ///< what HKEY_CURRENT_USER is called where others see it too; empty: nothing else
+    QString shut{};    ///< why there can be no journal; nothing is changed then
+    ForeignRule isForeign = nullptr;
+    QStringList putAside{};       ///< sentences about what was put aside already
+    std::shared_ptr<void> hold{}; ///< kept as long as the journal is open
     /** Tells of a key, or of a value in it. */
     OwnPlace (*ownPlace)(const QString &key, const QString &name) = nullptr;
     /** Is called after each session that came to its end. May throw MachineError. */
@@ -39,11 +44,14 @@ struct JournalOptions
 class Journal final : public ForwardingPlatform
 {
 public:
-    /** Opens the journal. Throws MachineError. */
+    /** Opens the journal, unless it is shut; then takeFailure() says so at once. Throws MachineError. */
     Journal(std::unique_ptr<Platform> inner, std::unique_ptr<SystemState> system, JournalOptions options);
     ~Journal() override;
 
-    JournalStore &store() const { return *store_; }
+    /** Throws MachineError where there can be none. */
+    JournalStore &store() const;
+    /** What was put aside to open the journal, and where it is now: sentences in English. */
+    QStringList putAside() const { return options_.putAside; }
     SystemState &system() const { return *system_; }
 
     /** What the item is like now. */
@@ -75,6 +83,8 @@ public:
 private:
     class Walk;
 
+    /** By the name of the user's keys that others see too. */
+    QString commonPath(const QString &key) const;
     OwnPlace placeOf(const Item &item) const;
     /** The session that a note belongs to; 0 where one has still to begin. */
     qint64 sessionFor(bool own) const;

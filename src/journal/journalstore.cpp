@@ -56,6 +56,21 @@ qint64 now()
     return QDateTime::currentMSecsSinceEpoch();
 }
 
+/** Whether it has the tables, and SQLite finds nothing wrong with it. */
+bool isSound(Database &database, qint64 size)
+{
+    constexpr qint64 mostToLookThrough = qint64(16) << 20; // what is larger would hold up each start
+
+    auto tables =
+        database.query("SELECT count(*) FROM sqlite_schema WHERE type = 'table' AND name IN ('session', 'note')");
+    if (!tables.next() || tables.integer(0) != 2)
+        return false;
+    if (size > mostToLookThrough)
+        return true;
+    auto check = database.query("PRAGMA quick_check(1)");
+    return check.next() && check.text(0) == "ok"_L1;
+}
+
 Note noteOf(const Database::Query &row)
 {
     Note note;
@@ -96,6 +111,8 @@ JournalStore::JournalStore(const QString &file, Durability durability)
         database_->execute(schema);
         database_->execute("PRAGMA user_version = 1");
     }
+    if (!isSound(*database_, QFileInfo(file).size()))
+        throw MachineError{u"%1: is damaged"_s.arg(QDir::toNativeSeparators(file)), true};
     // Whoever has the lock is alone with the file: a session that is still under way has lost its program.
     alone_.setStaleLockTime(0);
     if (alone_.tryLock(0))
