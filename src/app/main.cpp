@@ -5,8 +5,9 @@
 
 #include "platform/processground.h"
 #ifdef KESTRUNE_REAL_MACHINE
+#include "journal/realjournal.h"
 #include "linkopener.h"
-#include "platform/windows/windowsplatform.h"
+#include "window/messagebox.h"
 #else
 #include "journal/machinejournal.h"
 #include "pictures.h"
@@ -26,8 +27,15 @@ namespace {
 
 bool choosePlatform()
 {
-    setPlatform(std::make_unique<WindowsPlatform>());
+    setPlatform(openRealPlatform());
     return true;
+}
+
+/** Said once, before the window: it opens all the same, to look at the PC and its settings. */
+void tellWhatIsShut()
+{
+    if (const QString why = platform().takeFailure(); !why.isEmpty())
+        tell(u"What is changed can't be noted, so nothing is changed.\n\n"_s + why);
 }
 
 #else
@@ -78,6 +86,7 @@ int main(int argc, char **argv)
     if (isForPictures())
         return takePictures(QCoreApplication::arguments().sliced(2));
 #else
+    tellWhatIsShut();
     const auto links = platform().isElevated() ? std::make_unique<LinkOpener>() : nullptr;
 #endif
 

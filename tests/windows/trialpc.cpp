@@ -2,6 +2,7 @@
 
 #include "trialpc.h"
 
+#include "journal/realjournal.h"
 #include "machine/source/toolreport.h"
 #include "platform/windows/windowsplatform.h"
 #include "windows/standin/standinkeys.h"
@@ -41,7 +42,9 @@ QStringList texts(const QJsonValue &array)
 TrialPc::TrialPc()
     : description_(QJsonDocument::fromJson(sourceOfPc(u"machine.json"_s)).object())
 {
-    setPlatform(std::make_unique<WindowsPlatform>());
+    auto journal = openRealJournal(realJournalFolder());
+    journal_ = journal.get();
+    setPlatform(std::move(journal));
     qputenv("KESTRUNE_STANDIN", "1");
     forgetCommands();
 }
@@ -53,7 +56,7 @@ TrialPc::~TrialPc()
 
 void TrialPc::startServices(const QStringList &only) const
 {
-    const auto states = platform().openKey(standInStates);
+    const auto states = WindowsPlatform().openKey(standInStates);
     emptyKey(standInStates);
     for (const QString &service : texts(description_[u"running"_s])) {
         if (only.isEmpty() || only.contains(service))
@@ -63,12 +66,12 @@ void TrialPc::startServices(const QStringList &only) const
 
 void TrialPc::startProcesses() const
 {
-    platform().openKey(standInProcesses)->setValue(u"Names"_s, texts(description_[u"processes"_s]));
+    WindowsPlatform().openKey(standInProcesses)->setValue(u"Names"_s, texts(description_[u"processes"_s]));
 }
 
 void TrialPc::registerTasks(const QStringList &only) const
 {
-    const auto key = platform().openKey(standInTasks);
+    const auto key = WindowsPlatform().openKey(standInTasks);
     emptyKey(standInTasks);
     qsizetype place = 0;
     for (const ScheduledTask &task : parseTaskExport(sourceOfPc(u"tasks.xml"_s), u"tasks.xml"_s)) {
@@ -99,7 +102,7 @@ void layStandIn(const QString &path)
 
 void emptyKey(const QString &path)
 {
-    const auto key = platform().openKey(path);
+    const auto key = WindowsPlatform().openKey(path);
     for (const QString &name : key->childKeys())
         key->removeOwnValue(name);
     key->remove(u"."_s);
@@ -109,11 +112,11 @@ void emptyKey(const QString &path)
 
 QList<QStringList> commandsOf(const QString &tool)
 {
-    const auto key = platform().openKey(standInCommands);
+    const auto key = WindowsPlatform().openKey(standInCommands);
     QList<QStringList> commands;
     for (int number = 1; number <= key->value(standInCount, 0).toInt(); ++number) {
         QStringList command = key->value(QString::number(number)).toStringList();
-        if (!command.isEmpty() && command.takeFirst() == tool)
+        if (!command.isEmpty() && command.takeFirst() == tool && command.value(0) != "/enum"_L1)
             commands.append(command);
     }
     return commands;

@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+class Journal;
+
 /** The process works on the real Windows, with stand-ins of the stock tools, while this object lives. */
 class TrialPc
 {
@@ -16,6 +18,9 @@ public:
     TrialPc();
     ~TrialPc();
     Q_DISABLE_COPY_MOVE(TrialPc)
+
+    /** The journal that the process works through; it has administrator rights. */
+    const Journal &journal() const { return *journal_; }
 
     /**
      * Lets the services, the processes and the scheduled tasks of the built-in PC be known to the stand-ins, and no
@@ -27,6 +32,7 @@ public:
 
 private:
     QJsonObject description_; ///< the PC's machine.json
+    const Journal *journal_ = nullptr;
 };
 
 bool isWindows11Pc();
@@ -35,10 +41,15 @@ void layFile(const QString &path);
 /** Puts a stand-in of the stock tools there. */
 void layStandIn(const QString &path);
 
+// What prepares the PC and looks at it goes past the journal.
+
 /** Takes all out of a key of the registry, given by its full path. */
 void emptyKey(const QString &path);
 
-/** The commands of a tool since forgetCommands(), in order, each as its arguments. */
+/**
+ * The commands of a tool since forgetCommands(), in order, each as its arguments; without those by which the journal
+ * looks.
+ */
 QList<QStringList> commandsOf(const QString &tool);
 void forgetCommands();
 

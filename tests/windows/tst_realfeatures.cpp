@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Features page on a real registry: some boxes are put in force and taken back.
 
+#include "journal/realjournal.h"
+#include "journal/takeback.h"
 #include "platform/platform.h"
 #include "support/featuresview.h"
 #include "support/suite.h"
 #include "windows/trialpc.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -47,6 +50,15 @@ QVariant valueOf(const QString &key, const QString &name)
     return platform().openKey(key)->value(name);
 }
 
+/** With types and bytes. */
+QList<RegistryValue> storedTraces(const Journal &journal)
+{
+    QList<RegistryValue> values;
+    for (const Trace &trace : traces)
+        values.append(journal.system().value(trace.key, trace.name).value_or(RegistryValue{u"absent"_s, {}, {}}));
+    return values;
+}
+
 } // namespace
 
 class TestRealFeatures : public QObject
@@ -59,6 +71,7 @@ private Q_SLOTS:
 
     void checkedBoxesArePutInForce();
     void uncheckedBoxesAreTakenBack();
+    void bothComeBackByTheJournal();
 
 private:
     /** Clicks the boxes and Apply, and looks at what came of it. */
@@ -66,6 +79,8 @@ private:
 
     std::unique_ptr<TrialPc> pc_;
     std::unique_ptr<WindowDriver> driver_;
+    QList<RegistryValue> before_;
+    qint64 lastSession_ = 0; ///< before the tests
 };
 
 void TestRealFeatures::initTestCase()
@@ -78,6 +93,9 @@ void TestRealFeatures::initTestCase()
     driver_ = std::make_unique<WindowDriver>();
     QVERIFY(QTest::qWaitForWindowExposed(&driver_->window()));
     driver_->click(u"btnMenuTweak"_s);
+    before_ = storedTraces(pc_->journal());
+    const QList<Session> sessions = pc_->journal().store().sessions();
+    lastSession_ = sessions.isEmpty() ? 0 : sessions.constLast().id;
 }
 
 void TestRealFeatures::cleanupTestCase()
@@ -118,6 +136,22 @@ void TestRealFeatures::checkedBoxesArePutInForce()
 void TestRealFeatures::uncheckedBoxesAreTakenBack()
 {
     clickAndApply(false);
+}
+
+void TestRealFeatures::bothComeBackByTheJournal()
+{
+    QVERIFY(QFileInfo(realJournalFolder() + u"\\changes.sqlite"_s).isFile());
+    int applied = 0;
+    for (const Session &session : pc_->journal().store().sessions())
+        applied += session.id > lastSession_ && session.what == "Apply features"_L1 && session.changes > 0 ? 1 : 0;
+    QCOMPARE(applied, 2);
+    QVERIFY(storedTraces(pc_->journal()) != before_);
+    Selection since;
+    since.firstSession = lastSession_ + 1;
+    for (const TakenItem &item : takeBack(pc_->journal(), since))
+        QVERIFY2(item.verdict == WayBack::AsItWas, qPrintable(item.item.subject + u'|' + item.item.name + item.why));
+    QCOMPARE(storedTraces(pc_->journal()), before_);
+    QCOMPARE(platform().takeFailure(), QString());
 }
 
 KESTRUNE_WINDOW_SUITE(TestRealFeatures)

@@ -2,7 +2,8 @@
 // The program itself with administrator rights, where every program of its user may have prepared the ground: other
 // programs under the tools' names around it, and variables that lead astray.
 
-#include "platform/platform.h"
+#include "journal/realjournal.h"
+#include "platform/windows/windowsplatform.h"
 #include "support/suite.h"
 #include "windows/standin/standinkeys.h"
 #include "windows/trialpc.h"
@@ -11,6 +12,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -47,6 +49,10 @@ void TestRealGround::startsTheSystemsToolsInTheirOwnSurroundings()
 {
     const TrialPc pc;
     QVERIFY(platform().isElevated());
+    // It makes its journal anew, and alone.
+    setPlatform(nullptr);
+    QVERIFY(QDir(realJournalFolder()).removeRecursively());
+    setPlatform(std::make_unique<WindowsPlatform>());
     const QTemporaryDir folder;
     const QString marks = folder.filePath(u"marks"_s);
     const QString current = folder.filePath(u"current"_s);
@@ -81,6 +87,7 @@ void TestRealGround::startsTheSystemsToolsInTheirOwnSurroundings()
     QVERIFY(process.waitForFinished(patience));
     QCOMPARE(QDir(marks).entryList(QDir::Files), QStringList());
     QVERIFY(asked);
+    QVERIFY(QFileInfo(realJournalFolder() + u"\\changes.sqlite"_s).size() > 0);
     QCOMPARE(commandsOf(u"sc"_s).constFirst(), (QStringList{u"query"_s, u"state="_s, u"all"_s}));
 
     const auto surroundings = platform().openKey(standInSurroundings);
