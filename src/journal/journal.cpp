@@ -176,15 +176,18 @@ QString Journal::commonPath(const QString &key) const
     return isUsers && !options_.userKey.isEmpty() ? options_.userKey + key.sliced(currentUser.size()) : key;
 }
 
+QString Journal::ownPath(const QString &key) const
+{
+    const bool isUsers = !options_.userKey.isEmpty() && key.startsWith(options_.userKey + u'\\', Qt::CaseInsensitive);
+    return isUsers ? currentUser + key.sliced(options_.userKey.size()) : key;
+}
+
 OwnPlace Journal::placeOf(const Item &item) const
 {
     const bool isOfRegistry = item.kind == ItemKind::Value || item.kind == ItemKind::Key;
     if (!isOfRegistry || options_.ownPlace == nullptr)
         return OwnPlace::None;
-    const bool isUsers =
-        !options_.userKey.isEmpty() && item.subject.startsWith(options_.userKey + u'\\', Qt::CaseInsensitive);
-    const QString key = isUsers ? currentUser + item.subject.sliced(options_.userKey.size()) : item.subject;
-    return options_.ownPlace(key, item.kind == ItemKind::Value ? item.name : QString());
+    return options_.ownPlace(ownPath(item.subject), item.kind == ItemKind::Value ? item.name : QString());
 }
 
 qint64 Journal::sessionFor(bool own) const

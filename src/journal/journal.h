@@ -53,6 +53,8 @@ public:
     /** What was put aside to open the journal, and where it is now: sentences in English. */
     QStringList putAside() const { return options_.putAside; }
     SystemState &system() const { return *system_; }
+    /** A noted key as the programs of this user call it. */
+    QString ownPath(const QString &key) const;
 
     /** What the item is like now. */
     ItemState stateOf(const Item &item) const;

@@ -309,11 +309,11 @@ void judgeAfterwards(const Journal &journal, const Selection &selection, TakenIt
 }
 
 /** The place of the record that the program keeps of a change, as a key and a name below it; empty without one. */
-QString recordOf(const Item &item)
+QString recordOf(const Journal &journal, const Item &item)
 {
     switch (item.kind) {
     case ItemKind::Value:
-        if (WindowsKey::runKeys.contains(item.subject, Qt::CaseInsensitive))
+        if (WindowsKey::runKeys.contains(journal.ownPath(item.subject), Qt::CaseInsensitive))
             return recordKey(u"Autorun"_s) + u'\\' + item.name;
         if (const auto service = serviceOfKey(item.subject);
             service && item.name.compare("Start"_L1, Qt::CaseInsensitive) == 0)
@@ -329,18 +329,19 @@ QString recordOf(const Item &item)
 }
 
 /** Leaves the items of these ids in a plan, and the program's records of them, which would be wrong without them. */
-void keepSelected(QList<TakenItem> &plan, const QList<qint64> &ids)
+void keepSelected(const Journal &journal, QList<TakenItem> &plan, const QList<qint64> &ids)
 {
     const QSet<qint64> selected(ids.cbegin(), ids.cend());
     QSet<QString> records;
     for (const TakenItem &item : std::as_const(plan)) {
         if (selected.contains(item.id))
-            records.insert(foldName(recordOf(item.item)));
+            records.insert(foldName(recordOf(journal, item.item)));
     }
-    plan.removeIf([&selected, &records](const TakenItem &item) {
+    plan.removeIf([&journal, &selected, &records](const TakenItem &item) {
         const bool isRecord = item.own && item.item.kind == ItemKind::Value;
         return !selected.contains(item.id)
-               && !(isRecord && records.contains(foldName(item.item.subject + u'\\' + item.item.name)));
+               && !(isRecord
+                    && records.contains(foldName(journal.ownPath(item.item.subject) + u'\\' + item.item.name)));
     });
 }
 
@@ -376,7 +377,7 @@ QList<TakenItem> planWayBack(const Journal &journal, const Selection &selection)
     for (const Thing &thing : std::as_const(things))
         plan.append(judged(journal, thing, moves));
     if (!selection.items.isEmpty())
-        keepSelected(plan, selection.items);
+        keepSelected(journal, plan, selection.items);
     std::stable_sort(plan.begin(), plan.end(), comesBackBefore);
     return plan;
 }

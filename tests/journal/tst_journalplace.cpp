@@ -68,6 +68,7 @@ private Q_SLOTS:
     void aShutJournalLetsNothingBeChanged();
     void usersKeysAreNotedByTheNameThatOthersKnow();
     void recordsAreKnownByThatNameToo();
+    void aRecordGoesWithItsSingleChange();
 };
 
 void TestJournalPlace::aSoundOneStays()
@@ -322,6 +323,30 @@ void TestJournalPlace::recordsAreKnownByThatNameToo()
     QCOMPARE(notedValues(journal, false), QStringList());
     QCOMPARE(notedValues(journal, true),
              QStringList(users + settingsKey.sliced(settingsKey.indexOf(u'\\')) + u"\\SVC|Spooler"_s));
+    setPlatform(nullptr);
+}
+
+void TestJournalPlace::aRecordGoesWithItsSingleChange()
+{
+    TestMachine pc;
+    pc.add({.name = u"Spooler"_s, .start = 2});
+    setPlatform(nullptr);
+    const Journal &journal = openAsUser(pc.folder());
+    {
+        const ChangeSession session(u"Test"_s);
+        platform().openKey(servicesKey + u"\\Spooler"_s)->setValue(u"Start"_s, 4);
+        platform().openKey(settingsKey + u"\\SVC"_s)->setValue(u"Spooler"_s, 1);
+        platform().openKey(u"HKEY_CURRENT_USER\\Software\\Vendor"_s)->setValue(u"Value"_s, 1);
+    }
+    Selection selection;
+    for (const Note &note : journal.store().notesSince(1)) {
+        if (note.item.name == "Start"_L1)
+            selection.items.append(note.id);
+    }
+    QCOMPARE(selection.items.size(), 1);
+    const QList<TakenItem> plan = planWayBack(journal, selection);
+    QCOMPARE(plan.size(), 2);
+    QVERIFY(plan.at(0).own != plan.at(1).own);
     setPlatform(nullptr);
 }
 
