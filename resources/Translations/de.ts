@@ -281,6 +281,18 @@
 <translation>&amp;Zurücknehmen</translation>
 </message>
 <message>
+<source>Clean-up of the WinSxS folder</source>
+<translation>Bereinigung des Ordners WinSxS</translation>
+</message>
+<message>
+<source>Windows keeps no copy of what this removes</source>
+<translation>Windows behält keine Kopie von dem, was das entfernt</translation>
+</message>
+<message>
+<source>its files are gone from this PC; get it from the Store</source>
+<translation>die Dateien sind auf diesem PC nicht mehr vorhanden; im Store erhältlich</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>eine spätere Sitzung hat es auch geändert</translation>
 </message>

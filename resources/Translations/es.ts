@@ -281,6 +281,18 @@
 <translation>&amp;Deshacer</translation>
 </message>
 <message>
+<source>Clean-up of the WinSxS folder</source>
+<translation>Limpieza de la carpeta WinSxS</translation>
+</message>
+<message>
+<source>Windows keeps no copy of what this removes</source>
+<translation>Windows no guarda copia de lo que esto elimina</translation>
+</message>
+<message>
+<source>its files are gone from this PC; get it from the Store</source>
+<translation>sus archivos ya no están en este PC; puede obtenerse en la Store</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>una sesión posterior también lo ha cambiado</translation>
 </message>

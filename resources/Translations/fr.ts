@@ -281,6 +281,18 @@
 <translation>A&amp;nnuler ces modifications</translation>
 </message>
 <message>
+<source>Clean-up of the WinSxS folder</source>
+<translation>Nettoyage du dossier WinSxS</translation>
+</message>
+<message>
+<source>Windows keeps no copy of what this removes</source>
+<translation>Windows ne garde aucune copie de ce que cela supprime</translation>
+</message>
+<message>
+<source>its files are gone from this PC; get it from the Store</source>
+<translation>ses fichiers ne sont plus sur ce PC ; disponible dans le Store</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>une session ultérieure l’a modifié aussi</translation>
 </message>

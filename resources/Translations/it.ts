@@ -281,6 +281,18 @@
 <translation>&amp;Annulla modifiche</translation>
 </message>
 <message>
+<source>Clean-up of the WinSxS folder</source>
+<translation>Pulizia della cartella WinSxS</translation>
+</message>
+<message>
+<source>Windows keeps no copy of what this removes</source>
+<translation>Windows non conserva copie di ciò che viene rimosso</translation>
+</message>
+<message>
+<source>its files are gone from this PC; get it from the Store</source>
+<translation>i suoi file non sono più su questo PC; disponibile nello Store</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>anche una sessione successiva l’ha modificato</translation>
 </message>

@@ -281,6 +281,18 @@
 <translation>元に戻す(&amp;T)</translation>
 </message>
 <message>
+<source>Clean-up of the WinSxS folder</source>
+<translation>WinSxS フォルダーのクリーンアップ</translation>
+</message>
+<message>
+<source>Windows keeps no copy of what this removes</source>
+<translation>これで削除されたもののコピーは Windows に残りません</translation>
+</message>
+<message>
+<source>its files are gone from this PC; get it from the Store</source>
+<translation>この PC にファイルがもうありません。Store から入手してください</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>後のセッションでも変更されています</translation>
 </message>

@@ -281,6 +281,18 @@
 <translation>&amp;Terugdraaien</translation>
 </message>
 <message>
+<source>Clean-up of the WinSxS folder</source>
+<translation>Opschoning van de map WinSxS</translation>
+</message>
+<message>
+<source>Windows keeps no copy of what this removes</source>
+<translation>Windows bewaart geen kopie van wat dit verwijdert</translation>
+</message>
+<message>
+<source>its files are gone from this PC; get it from the Store</source>
+<translation>de bestanden staan niet meer op deze pc; verkrijgbaar in de Store</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>een latere sessie heeft het ook gewijzigd</translation>
 </message>

@@ -281,6 +281,18 @@
 <translation>&amp;Cofnij</translation>
 </message>
 <message>
+<source>Clean-up of the WinSxS folder</source>
+<translation>Czyszczenie folderu WinSxS</translation>
+</message>
+<message>
+<source>Windows keeps no copy of what this removes</source>
+<translation>Windows nie zachowuje kopii tego, co zostało usunięte</translation>
+</message>
+<message>
+<source>its files are gone from this PC; get it from the Store</source>
+<translation>jego plików nie ma już na tym komputerze; można go pobrać ze sklepu Store</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>późniejsza sesja też to zmieniła</translation>
 </message>

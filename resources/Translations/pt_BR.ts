@@ -281,6 +281,18 @@
 <translation>&amp;Desfazer</translation>
 </message>
 <message>
+<source>Clean-up of the WinSxS folder</source>
+<translation>Limpeza da pasta WinSxS</translation>
+</message>
+<message>
+<source>Windows keeps no copy of what this removes</source>
+<translation>O Windows não guarda cópia do que isso remove</translation>
+</message>
+<message>
+<source>its files are gone from this PC; get it from the Store</source>
+<translation>os arquivos não estão mais neste PC; obtenha-o na Store</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>uma sessão posterior também o alterou</translation>
 </message>

@@ -281,6 +281,18 @@
 <translation>撤回(&amp;T)</translation>
 </message>
 <message>
+<source>Clean-up of the WinSxS folder</source>
+<translation>清理 WinSxS 文件夹</translation>
+</message>
+<message>
+<source>Windows keeps no copy of what this removes</source>
+<translation>Windows 不会保留被删除内容的副本</translation>
+</message>
+<message>
+<source>its files are gone from this PC; get it from the Store</source>
+<translation>其文件已不在此电脑上；可从 Store 获取</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>之后的会话也更改了它</translation>
 </message>

@@ -6,10 +6,12 @@
 #include "platform/processground.h"
 #ifdef KESTRUNE_REAL_MACHINE
 #include "journal/realjournal.h"
+#include "journal/settle.h"
 #include "linkopener.h"
 #include "window/messagebox.h"
 #else
 #include "journal/machinejournal.h"
+#include "journal/settle.h"
 #include "pictures.h"
 #endif
 #ifndef Q_OS_WIN
@@ -28,6 +30,7 @@ namespace {
 bool choosePlatform()
 {
     setPlatform(openRealPlatform());
+    settleBrokenOff();
     return true;
 }
 
@@ -59,6 +62,7 @@ bool choosePlatform()
         options.elevated = qEnvironmentVariable("KESTRUNE_ELEVATED", u"1"_s) != "0"_L1;
         options.pace = isForPictures() ? 0 : 1;
         setPlatform(openMachinePlatform(folder, options));
+        settleBrokenOff();
     } catch (const MachineError &error) {
         qCritical("kestrune: %s", qUtf8Printable(error.message));
         return false;

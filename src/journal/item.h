@@ -21,6 +21,7 @@ enum class ItemKind : int {
     Attributes = 9,  ///< the attribute word of a file, by its Windows path
     Content = 10,    ///< what a file, by its Windows path, holds
     Move = 11,       ///< a file that got another path: subject is the former Windows path, name the new one
+    OneWay = 12,     ///< what can't be taken back, by its name
 };
 
 struct Item
@@ -35,7 +36,8 @@ struct Item
 /** The same for two items that are one, whatever the case of their names. */
 QString foldedItem(const Item &item);
 
-/** What an item is like. Of a switch "there" means on: running, enabled, installed. */
+/** What an item is like. Of a switch "there" means on: running, enabled, installed. A note's data of a package is its
+   full name. */
 struct ItemState
 {
     bool there = false;

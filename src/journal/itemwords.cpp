@@ -23,6 +23,7 @@ class Words
     // What sessions are called
     QT_TRANSLATE_NOOP("Kestrune", "Analyze"),
     QT_TRANSLATE_NOOP("Kestrune", "Apply features"),
+    QT_TRANSLATE_NOOP("Kestrune", "Clean-up of the WinSxS folder"),
     QT_TRANSLATE_NOOP("Kestrune", "Content indexing off"),
     QT_TRANSLATE_NOOP("Kestrune", "Content indexing on"),
     QT_TRANSLATE_NOOP("Kestrune", "Disable programs"),
@@ -38,8 +39,10 @@ class Words
     QT_TRANSLATE_NOOP("Kestrune", "Tasks"),
     QT_TRANSLATE_NOOP("Kestrune", "Tweaks"),
     // Why something isn't back
+    QT_TRANSLATE_NOOP("Kestrune", "Windows keeps no copy of what this removes"),
     QT_TRANSLATE_NOOP("Kestrune", "a later session has changed it, too"),
     QT_TRANSLATE_NOOP("Kestrune", "it didn't come back"),
+    QT_TRANSLATE_NOOP("Kestrune", "its files are gone from this PC; get it from the Store"),
     QT_TRANSLATE_NOOP("Kestrune", "something else has changed it since"),
     QT_TRANSLATE_NOOP("Kestrune", "the file is at neither place"),
 };
@@ -105,6 +108,8 @@ QString itemTitle(const Item &item)
         return Words::tr("File %1").arg(item.subject);
     case ItemKind::Move:
         return Words::tr("Place of the file %1").arg(item.subject);
+    case ItemKind::OneWay:
+        return translatedText(item.subject);
     }
     return {};
 }
@@ -122,6 +127,8 @@ QString stateText(const Item &item, const ItemState &state)
         return state.there ? Words::tr("on") : Words::tr("off");
     case ItemKind::Move:
         return state.there ? item.subject : item.name;
+    case ItemKind::OneWay:
+        return {};
     default:
         break;
     }
@@ -174,4 +181,9 @@ QString sessionStateText(SessionState state)
 QString translatedText(const QString &english)
 {
     return Words::tr(english.toUtf8().constData());
+}
+
+QString whyText(const TakenItem &item)
+{
+    return translatedText(item.why) + (item.storeLink.isEmpty() ? QString() : u": "_s + item.storeLink);
 }

@@ -22,6 +22,8 @@ const QString currentUser = u"HKEY_CURRENT_USER"_s;
 /** How many attribute words are noted together. */
 constexpr qsizetype mostWords = 5000;
 
+const QString componentCleanup = u"Clean-up of the WinSxS folder"_s;
+
 /** The words that the walk of this thread has still to set; null while none is under way. */
 thread_local QList<FileAttributes> *waitingWords = nullptr;
 /** Their files' present words. */
@@ -43,6 +45,16 @@ bool isRunning(const SystemState &system, const QString &service)
         return each.name.compare(service, Qt::CaseInsensitive) == 0;
     });
     return found != services->cend() && found->running;
+}
+
+/** As the user has it; empty where he has none of that name. */
+QString fullNameOfPackage(const SystemState &system, const QString &name)
+{
+    const QStringList packages = system.key(WindowsKey::userPackages).subkeys;
+    const auto found = std::find_if(packages.cbegin(), packages.cend(), [&name](const QString &fullName) {
+        return packageNameOf(fullName).compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found == packages.cend() ? QString() : *found;
 }
 
 } // namespace
@@ -92,10 +104,12 @@ Journal::Journal(std::unique_ptr<Platform> inner, std::unique_ptr<SystemState> s
     , system_(std::move(system))
     , options_(std::move(options))
 {
-    if (options_.shut.isEmpty())
-        store_ = openStore(options_.file, options_.durability, options_.isForeign, options_.putAside);
-    else
+    if (!options_.shut.isEmpty()) {
         failed(options_.shut);
+        return;
+    }
+    store_ = openStore(options_.file, options_.durability, options_.isForeign, options_.putAside);
+    store_->keepDays(options_.keptDays);
 }
 
 Journal::~Journal()
@@ -139,10 +153,7 @@ ItemState Journal::stateOf(const Item &item) const
         if (item.subject == oneDriveName)
             return {QFileInfo::exists(
                 hostPath(qEnvironmentVariable("LOCALAPPDATA") + u"\\Microsoft\\OneDrive\\OneDrive.exe"_s))};
-        const QStringList packages = system_->key(WindowsKey::userPackages).subkeys;
-        return {std::any_of(packages.cbegin(), packages.cend(), [&item](const QString &fullName) {
-            return packageNameOf(fullName).compare(item.subject, Qt::CaseInsensitive) == 0;
-        })};
+        return {!fullNameOfPackage(*system_, item.subject).isEmpty()};
     }
     case ItemKind::BootOption: {
         const QMap<QString, QString> options = system_->bootOptions().value_or(QMap<QString, QString>());
@@ -165,6 +176,7 @@ ItemState Journal::stateOf(const Item &item) const
         return {true, 0, file.readAll()};
     }
     case ItemKind::Move:
+    case ItemKind::OneWay:
         return {};
     }
     return {};
@@ -180,6 +192,14 @@ QString Journal::ownPath(const QString &key) const
 {
     const bool isUsers = !options_.userKey.isEmpty() && key.startsWith(options_.userKey + u'\\', Qt::CaseInsensitive);
     return isUsers ? currentUser + key.sliced(options_.userKey.size()) : key;
+}
+
+ItemState Journal::stateToNote(const Item &item) const
+{
+    ItemState state = stateOf(item);
+    if (item.kind == ItemKind::Package && state.there)
+        state.data = fullNameOfPackage(*system_, item.subject).toUtf8();
+    return state;
 }
 
 OwnPlace Journal::placeOf(const Item &item) const
@@ -232,7 +252,7 @@ bool Journal::note(const QList<Item> &items) const
         if (notes.isEmpty())
             return true;
         for (Note &note : notes)
-            note.before = stateOf(note.item);
+            note.before = stateToNote(note.item);
         store().add(session_, notes);
         for (const Note &note : std::as_const(notes))
             noted_.insert(foldedItem(note.item));
@@ -378,6 +398,19 @@ bool Journal::writeFile(const QString &folder, const QString &name, const QByteA
     return inner().writeFile(folder, name, content, ifThere);
 }
 
+void Journal::shellExecute(const ShellStart &start) const
+{
+    // The clean-up runs in a window of its own, and is over when the user closes that.
+    if (start.parameters.contains("/StartComponentCleanup"_L1)) {
+        beginChanges(componentCleanup);
+        const bool isNoted = note({{ItemKind::OneWay, componentCleanup}});
+        endChanges(true);
+        if (!isNoted)
+            return;
+    }
+    inner().shellExecute(start);
+}
+
 std::optional<AdmittedProgram> Journal::admitProgram(const QString &program, const QStringList &arguments) const
 {
     const std::optional<AdmittedProgram> admitted = inner().admitProgram(program, arguments);
@@ -437,13 +470,23 @@ void Journal::endSession(SessionState state) const
     present_.clear();
 }
 
+void Journal::resume(qint64 session) const
+{
+    const std::lock_guard lock(lock_);
+    endSession(SessionState::Finished);
+    session_ = session;
+    noteOutcome();
+}
+
 void Journal::noteOutcome() const
 {
     if (session_ == 0)
         return;
     try {
         QList<Note> notes = store().notes(session_);
-        notes.removeIf([](const Note &note) { return note.after || note.item.kind == ItemKind::Move; });
+        notes.removeIf([](const Note &note) {
+            return note.after || note.item.kind == ItemKind::Move || note.item.kind == ItemKind::OneWay;
+        });
         for (Note &note : notes)
             note.after = stateOf(note.item);
         store().setAfter(notes);

@@ -33,6 +33,7 @@ struct JournalOptions
     std::shared_ptr<void> hold{}; ///< kept as long as the journal is open
     /** Tells of a key, or of a value in it. */
     OwnPlace (*ownPlace)(const QString &key, const QString &name) = nullptr;
+    int keptDays = 0; ///< how long sessions are kept; 0: for ever
     /** Is called after each session that came to its end. May throw MachineError. */
     void (*afterSession)(const Journal &journal, qint64 session) = nullptr;
 };
@@ -68,6 +69,9 @@ public:
     /** Notes a key with all that it holds. */
     bool noteRemoval(const QString &key) const;
 
+    /** Lets a session that was broken off take the notes of records, and has what it left written down. */
+    void resume(qint64 session) const;
+
     std::unique_ptr<RegistryKey> openKey(const QString &path) const override;
     void walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const override;
     quint32 fileAttributes(const QString &file) const override;
@@ -77,6 +81,7 @@ public:
     bool removeFile(const QString &file) const override;
     bool writeFile(const QString &folder, const QString &name, const QByteArray &content,
                    IfThere ifThere) const override;
+    void shellExecute(const ShellStart &start) const override;
     std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &arguments) const override;
     void beginChanges(const QString &what) const override;
     void endChanges(bool finished) const override;
@@ -88,6 +93,8 @@ private:
     /** By the name of the user's keys that others see too. */
     QString commonPath(const QString &key) const;
     OwnPlace placeOf(const Item &item) const;
+    /** With what a note needs beyond stateOf(). */
+    ItemState stateToNote(const Item &item) const;
     /** The session that a note belongs to; 0 where one has still to begin. */
     qint64 sessionFor(bool own) const;
     /** Begins one where that is so. */

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -27,7 +28,8 @@ CREATE TABLE session (
     what TEXT NOT NULL,
     user TEXT NOT NULL,
     version TEXT NOT NULL,
-    state INTEGER NOT NULL);
+    state INTEGER NOT NULL,
+    settled INTEGER NOT NULL DEFAULT 0);
 CREATE TABLE note (
     id INTEGER PRIMARY KEY AUTOINCREMENT,
     session INTEGER NOT NULL REFERENCES session (id),
@@ -82,6 +84,43 @@ Note noteOf(const Database::Query &row)
     if (!row.isNull(9))
         note.after = ItemState{row.integer(9) != 0, static_cast<quint32>(row.integer(10)), row.bytes(11)};
     return note;
+}
+
+QList<Session> sessionsIn(Database &database)
+{
+    QList<Session> sessions;
+    auto rows = database.query("SELECT id, begun, ended, what, user, version, state, (SELECT count(*) FROM note "
+                               "WHERE session = session.id AND own = 0), settled FROM session ORDER BY id");
+    while (rows.next()) {
+        Session session;
+        session.id = rows.integer(0);
+        session.begun = QDateTime::fromMSecsSinceEpoch(rows.integer(1));
+        if (!rows.isNull(2))
+            session.ended = QDateTime::fromMSecsSinceEpoch(rows.integer(2));
+        session.what = rows.text(3);
+        session.user = rows.text(4);
+        session.version = rows.text(5);
+        session.state = static_cast<SessionState>(rows.integer(6));
+        session.changes = static_cast<int>(rows.integer(7));
+        session.settled = rows.integer(8) != 0;
+        sessions.append(session);
+    }
+    return sessions;
+}
+
+constexpr char notesOfSession[] = "SELECT id, session, kind, subject, name, own, there, type, data, thereAfter, "
+                                  "typeAfter, dataAfter FROM note WHERE session = ? ORDER BY id";
+constexpr char notesSinceSession[] = "SELECT id, session, kind, subject, name, own, there, type, data, thereAfter, "
+                                     "typeAfter, dataAfter FROM note WHERE session >= ? ORDER BY id";
+
+QList<Note> notesIn(Database &database, const char *query, qint64 session)
+{
+    QList<Note> notes;
+    auto rows = database.query(query);
+    rows.bind(session);
+    while (rows.next())
+        notes.append(noteOf(rows));
+    return notes;
 }
 
 } // namespace
@@ -147,6 +186,22 @@ void JournalStore::endSession(qint64 session, SessionState state)
         .run();
 }
 
+void JournalStore::setSettled(qint64 session)
+{
+    database_->query("UPDATE session SET settled = 1 WHERE id = ?").bind(session).run();
+}
+
+void JournalStore::keepDays(int days)
+{
+    if (days == 0)
+        return;
+    Database::Transaction together(*database_);
+    const qint64 moment = QDateTime::currentDateTimeUtc().addDays(-days).toMSecsSinceEpoch();
+    database_->query("DELETE FROM note WHERE session IN (SELECT id FROM session WHERE begun < ?)").bind(moment).run();
+    database_->query("DELETE FROM session WHERE begun < ?").bind(moment).run();
+    together.commit();
+}
+
 void JournalStore::add(qint64 session, const QList<Note> &notes)
 {
     Database::Transaction together(*database_);
@@ -184,43 +239,27 @@ void JournalStore::setAfter(const QList<Note> &notes)
 
 QList<Session> JournalStore::sessions() const
 {
-    QList<Session> sessions;
-    auto rows = database_->query("SELECT id, begun, ended, what, user, version, state, (SELECT count(*) FROM note "
-                                 "WHERE session = session.id AND own = 0) FROM session ORDER BY id");
-    while (rows.next()) {
-        Session session;
-        session.id = rows.integer(0);
-        session.begun = QDateTime::fromMSecsSinceEpoch(rows.integer(1));
-        if (!rows.isNull(2))
-            session.ended = QDateTime::fromMSecsSinceEpoch(rows.integer(2));
-        session.what = rows.text(3);
-        session.user = rows.text(4);
-        session.version = rows.text(5);
-        session.state = static_cast<SessionState>(rows.integer(6));
-        session.changes = static_cast<int>(rows.integer(7));
-        sessions.append(session);
-    }
-    return sessions;
+    return sessionsIn(*database_);
 }
 
 QList<Note> JournalStore::notes(qint64 session) const
 {
-    QList<Note> notes;
-    auto rows = database_->query("SELECT id, session, kind, subject, name, own, there, type, data, thereAfter, "
-                                 "typeAfter, dataAfter FROM note WHERE session = ? ORDER BY id");
-    rows.bind(session);
-    while (rows.next())
-        notes.append(noteOf(rows));
-    return notes;
+    return notesIn(*database_, notesOfSession, session);
 }
 
 QList<Note> JournalStore::notesSince(qint64 firstSession) const
 {
-    QList<Note> notes;
-    auto rows = database_->query("SELECT id, session, kind, subject, name, own, there, type, data, thereAfter, "
-                                 "typeAfter, dataAfter FROM note WHERE session >= ? ORDER BY id");
-    rows.bind(firstSession);
-    while (rows.next())
-        notes.append(noteOf(rows));
-    return notes;
+    return notesIn(*database_, notesSinceSession, firstSession);
+}
+
+JournalContent readJournal(const QString &file)
+{
+    // SQLite puts files beside one that it reads.
+    const QTemporaryDir copies;
+    const QString copy = copies.filePath(u"changes.sqlite"_s);
+    if (!QFile::copy(file, copy))
+        throw MachineError{u"%1: can't be read"_s.arg(QDir::toNativeSeparators(file))};
+    QFile::copy(file + u"-wal"_s, copy + u"-wal"_s); // what a program that was ended has left there
+    Database database(copy);
+    return {sessionsIn(database), notesIn(database, notesSinceSession, 0)};
 }

@@ -35,7 +35,8 @@ struct Session
     QString user{};    ///< who ran it: a SID on Windows
     QString version{}; ///< of the program
     SessionState state = SessionState::UnderWay;
-    int changes = 0; ///< notes that aren't of the program's own records
+    bool settled = false; ///< of one that was broken off: what it had left undone was looked after
+    int changes = 0;      ///< notes that aren't of the program's own records
 };
 
 /** What was there before the first change that a session made to an item. */
@@ -66,6 +67,9 @@ public:
 
     qint64 beginSession(const QString &what, const QString &user, const QString &version);
     void endSession(qint64 session, SessionState state);
+    void setSettled(qint64 session);
+    /** Removes the sessions that are older, with their notes. @param days 0: none */
+    void keepDays(int days);
 
     /** Notes items of one session together; on the disk when this returns. An item that it has already stays as it is.
      */
@@ -85,3 +89,13 @@ private:
     QLockFile alone_; ///< held while the file is open, by the first who opens it
     std::unique_ptr<Database> database_;
 };
+
+/** All that a journal holds. */
+struct JournalContent
+{
+    QList<Session> sessions; ///< in the order of their begin
+    QList<Note> notes;       ///< in the order in which they were made
+};
+
+/** Reads a journal that is there, without a change to it. Throws MachineError. */
+JournalContent readJournal(const QString &file);

@@ -27,7 +27,9 @@ std::unique_ptr<Journal> openMachineJournal(const QString &machineFolder, Machin
     journal.version = QCoreApplication::applicationVersion();
     journal.ownPlace = placeInProgram;
     journal.afterSession = keepWayBack;
-    return std::make_unique<Journal>(std::move(onMachine), std::make_unique<MachineSystem>(machine), journal);
+    auto system = std::make_unique<MachineSystem>(machine);
+    journal.keptDays = keptDays(*system);
+    return std::make_unique<Journal>(std::move(onMachine), std::move(system), journal);
 }
 
 std::unique_ptr<Platform> openMachinePlatform(const QString &machineFolder, const MachineOptions &options)

@@ -28,9 +28,11 @@ std::shared_ptr<void> holdJournalFolder(const QString &folder, QStringList &told
     return hold;
 }
 
-std::unique_ptr<Journal> journalWith(const JournalOptions &options)
+std::unique_ptr<Journal> journalWith(JournalOptions options)
 {
-    return std::make_unique<Journal>(std::make_unique<WindowsPlatform>(), std::make_unique<WindowsSystem>(), options);
+    auto system = std::make_unique<WindowsSystem>();
+    options.keptDays = keptDays(*system);
+    return std::make_unique<Journal>(std::make_unique<WindowsPlatform>(), std::move(system), std::move(options));
 }
 
 } // namespace

@@ -50,6 +50,8 @@ int rankOf(const Item &item)
         return 8;
     case ItemKind::RunState:
         return 9;
+    case ItemKind::OneWay:
+        break;
     }
     return 10;
 }
@@ -82,6 +84,41 @@ QString startWord(const ItemState &start, const std::optional<RegistryValue> &de
     if (mode == StartAutomatic && delayed && !delayed->data.isEmpty() && delayed->data.front() != 0)
         return u"delayed-auto"_s;
     return words.value(mode);
+}
+
+/** Whether a package that the user has lost can be registered from files that others still hold. */
+bool isHeld(const SystemState &system, const QString &name)
+{
+    const auto holds = [&](const QString &key) {
+        const QStringList packages = system.key(key).subkeys;
+        return std::any_of(packages.cbegin(), packages.cend(), [&name](const QString &fullName) {
+            return packageNameOf(fullName).compare(name, Qt::CaseInsensitive) == 0;
+        });
+    };
+    if (holds(WindowsKey::machinePackages))
+        return true;
+    // Beside those of all users the store has a key for each user who has packages, by his SID.
+    const QString store = WindowsKey::machinePackages.section(u'\\', 0, -2);
+    const QStringList users = system.key(store).subkeys;
+    return std::any_of(users.cbegin(), users.cend(),
+                       [&](const QString &user) { return user.startsWith("S-1-"_L1) && holds(store + u'\\' + user); });
+}
+
+/** The page of the Store on which a package can be had again, by its full name. */
+QString storeLink(const QString &fullName)
+{
+    return u"ms-windows-store://pdp/?PFN=%1_%2"_s.arg(packageNameOf(fullName), fullName.section(u'_', -1));
+}
+
+/** Why a thing can't come back, whatever is tried; empty where it may. */
+QString hindrance(const SystemState &system, const Note &note, const ItemState &now)
+{
+    if (note.item.kind == ItemKind::OneWay)
+        return u"Windows keeps no copy of what this removes"_s;
+    const bool isLost = note.item.kind == ItemKind::Package && note.before.there && !now.there;
+    if (!isLost || note.item.subject == oneDriveName || isHeld(system, note.item.subject))
+        return {};
+    return u"its files are gone from this PC; get it from the Store"_s;
 }
 
 /** Carries a plan out. */
@@ -132,6 +169,8 @@ public:
             if (QFileInfo::exists(platform().hostPath(what.name))
                 && !QFileInfo::exists(platform().hostPath(what.subject)))
                 platform().renameFile(platform().hostPath(what.name), platform().hostPath(what.subject));
+            return;
+        case ItemKind::OneWay:
             return;
         }
     }
@@ -273,9 +312,16 @@ TakenItem judged(const Journal &journal, const Thing &thing, const Moves &moves)
     const Note &note = thing.first;
     const ItemState now = journal.stateOf(moves.followed(journal, note.item));
     TakenItem item{note.id, note.item, note.before, now, WayBack::Open, {}, note.own};
+    if (item.item.kind == ItemKind::Package) // its full name is no part of the state
+        item.before.data.clear();
     // As it was left, whatever has become of it in between, such as a change that was taken back.
     const bool isAsLeft = thing.lastOwn && *thing.lastOwn == item.now;
-    if (item.now == item.before) {
+    if (QString why = hindrance(journal.system(), note, now); !why.isEmpty()) {
+        item.verdict = WayBack::Impossible;
+        item.why = std::move(why);
+        if (note.item.kind == ItemKind::Package)
+            item.storeLink = storeLink(QString::fromUtf8(note.before.data));
+    } else if (item.now == item.before) {
         item.verdict = WayBack::AsItWas;
     } else if (thing.changedLater && !isAsLeft) {
         item.verdict = WayBack::Changed;
@@ -296,6 +342,8 @@ bool isWanted(const Selection &selection, const TakenItem &item)
 /** The verdict once all has been tried. */
 void judgeAfterwards(const Journal &journal, const Selection &selection, TakenItem &item)
 {
+    if (item.item.kind == ItemKind::OneWay)
+        return;
     item.now = item.item.kind == ItemKind::Move ? ItemState{QFileInfo::exists(journal.hostPath(item.item.subject))}
                                                 : journal.stateOf(item.item);
     if (item.now == item.before) {

@@ -29,7 +29,7 @@ public:
             if (item.verdict == WayBack::Open)
                 add(item.item, item.before);
             else if (item.verdict != WayBack::AsItWas)
-                leaveOut(item.item, item.why);
+                leaveOut(item.item, whyText(item));
         }
     }
 
@@ -66,6 +66,8 @@ private:
             return addContent(item, before);
         case ItemKind::Move:
             return addMove(item);
+        case ItemKind::OneWay:
+            return; // never open
         }
     }
 

@@ -4,6 +4,7 @@
 #include "jobrunner.h"
 #include "jobs.h"
 #include "journal/machinejournal.h"
+#include "journal/settle.h"
 #include "progress.h"
 #include "subcommands.h"
 #include "work/windowsname.h"
@@ -127,6 +128,7 @@ int runJob(const Arguments &arguments)
 
     const QString folder = openMachine(arguments.operand(0))->folder();
     setPlatform(openMachinePlatform(folder, machineOptions));
+    settleBrokenOff();
     WorkThread worker;
     applyKeep(worker, keep);
     setWindowsName(worker);

@@ -5,6 +5,7 @@
 #include "jobrunner.h"
 #include "journal/itemwords.h"
 #include "journal/machinejournal.h"
+#include "journal/settle.h"
 #include "journal/wayfiles.h"
 #include "progress.h"
 #include "subcommands.h"
@@ -115,7 +116,7 @@ QString itemsText(const QList<TakenItem> &items)
         QStringList columns{QString::number(each.id), verdictText(each.verdict), itemTitle(each.item),
                             stateText(each.item, each.before), stateText(each.item, each.now)};
         if (!each.why.isEmpty())
-            columns.append(each.why);
+            columns.append(whyText(each));
         text += lineOf(columns);
     }
     return text;
@@ -147,7 +148,7 @@ QJsonArray itemsJson(const QList<TakenItem> &items)
                                  {u"what"_s, itemTitle(each.item)},
                                  {u"was"_s, stateText(each.item, each.before)},
                                  {u"now"_s, stateText(each.item, each.now)},
-                                 {u"why"_s, each.why}});
+                                 {u"why"_s, whyText(each)}});
     }
     return array;
 }
@@ -190,6 +191,7 @@ int runUndo(const Arguments &arguments)
     const Journal &journal = *opened;
     setPlatform(std::move(opened));
     const auto close = qScopeGuard([] { setPlatform(nullptr); });
+    settleBrokenOff();
 
     const QList<Session> sessions = journal.store().sessions();
     const Selection selection = selectionOf(request, sessions);

@@ -27,8 +27,7 @@ QString cellText(const TakenItem &item, int column)
     case WayBackModel::Now:
         return stateText(item.item, item.now);
     default:
-        return item.why.isEmpty() ? verdictText(item.verdict)
-                                  : verdictText(item.verdict) + u": "_s + translatedText(item.why);
+        return item.why.isEmpty() ? verdictText(item.verdict) : verdictText(item.verdict) + u": "_s + whyText(item);
     }
 }
 

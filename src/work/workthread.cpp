@@ -7,9 +7,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/** What a job that changes something is called in lists of changes; empty for one that only looks. */
 QString changesOf(int job)
 {
     switch (job) {
@@ -35,8 +32,6 @@ QString changesOf(int job)
         return {};
     }
 }
-
-} // namespace
 
 void WorkThread::startJob(int number)
 {

@@ -31,6 +31,9 @@ enum Job : int {
     JobMonitor = 15,
 };
 
+/** What a job that changes something is called in lists of changes; empty for one that only looks. */
+QString changesOf(int job);
+
 /**
  * A thread that runs one job at a time. Whoever wants a job done looks that the thread is idle, writes the job's input
  * into the members, and starts it; from then on it learns of the job by the lines that the two signals carry, on the
