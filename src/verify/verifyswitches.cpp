@@ -2,6 +2,7 @@
 
 #include "machine/machine.h"
 #include "machine/registrydisplay.h"
+#include "past.h"
 #include "platform/taskdocument.h"
 #include "platform/windowsfacts.h"
 #include "preview/previewwords.h"
@@ -35,8 +36,16 @@ struct Sides
     QString recorded;
 };
 
-/** The item of a thing, by its states and by the last run of a tool that switched it. */
-VerifiedItem judged(VerifiedItem item, const Sides &sides, const std::optional<SwitchRun> &last)
+/** What the journal knows of a thing. */
+struct PastOfItem
+{
+    bool isKnown = false;
+    QString change{}; ///< the last session that put it into the recorded state, in words
+};
+
+/** The item of a thing, by its states, by the last run of a tool that switched it, and by the journal. */
+VerifiedItem judged(VerifiedItem item, const Sides &sides, const std::optional<SwitchRun> &last,
+                    const PastOfItem &past = {})
 {
     if (sides.now == sides.recorded)
         return item;
@@ -51,8 +60,13 @@ VerifiedItem judged(VerifiedItem item, const Sides &sides, const std::optional<S
     } else if (last && last->exitCode == 0) {
         item.verdict = Verdict::ChangedBack;
         item.why = u"%1 was told to change it back"_s.arg(last->tool);
+    } else if (!past.change.isEmpty()) {
+        item.verdict = Verdict::ChangedBack;
+        item.why = u"it was in force after "_s + past.change;
     } else {
         item.verdict = sides.now == sides.before ? Verdict::AsBefore : Verdict::ChangedBack;
+        if (item.verdict == Verdict::AsBefore && past.isKnown)
+            item.why = u"the journal knows of no change"_s;
     }
     return item;
 }
@@ -65,6 +79,7 @@ public:
         : before_(before)
         , now_(now)
         , last_(readToolLog(now))
+        , past_(now)
     {
     }
 
@@ -116,6 +131,11 @@ private:
         return run == switches.end() ? std::nullopt : std::optional(*run);
     }
 
+    PastOfItem pastOf(const Item &item, const std::function<bool(const ItemState &)> &isRecorded) const
+    {
+        return {past_.isKnown(), past_.changeOf(item, isRecorded)};
+    }
+
     static QString startMode(Machine &machine, const QString &service)
     {
         return startModeInWords(textAt(machine, WindowsKey::services + u'\\' + service, u"Start"_s));
@@ -130,8 +150,11 @@ private:
                 item.verdict = Verdict::Gone;
                 return item;
             }
-            item = judged(item, {startModeDetail, startMode(before_, name), mode, u"disabled"_s},
-                          lastOf(last_.services, name));
+            item = judged(
+                item, {startModeDetail, startMode(before_, name), mode, u"disabled"_s}, lastOf(last_.services, name),
+                pastOf({ItemKind::Value, WindowsKey::services + u'\\' + name, u"Start"_s}, [](const ItemState &state) {
+                    return !state.data.isEmpty() && state.data.front() == StartDisabled;
+                }));
             if (item.verdict == Verdict::InForce && now_.isRunning(name).value_or(false))
                 item.why = u"runs until Windows starts the next time"_s;
             return item;
@@ -172,7 +195,9 @@ private:
                 return item;
             }
             return judged(item, {u"state"_s, taskState(before_, path), state, states.value(path, u"disabled"_s)},
-                          lastOf(last_.tasks, path));
+                          lastOf(last_.tasks, path),
+                          pastOf({ItemKind::Task, path}, [enabled = states.value(path) == "enabled"_L1](
+                                                             const ItemState &was) { return was.there == enabled; }));
         });
     }
 
@@ -208,7 +233,8 @@ private:
         each(recorded("Packages"_L1), last_.packages, [this](const QString &name) {
             return judged({PreviewGroup::Packages, name, name},
                           {u"installed"_s, installed(before_, name), installed(now_, name), QString()},
-                          lastOf(last_.packages, name));
+                          lastOf(last_.packages, name),
+                          pastOf({ItemKind::Package, name}, [](const ItemState &state) { return !state.there; }));
         });
     }
 
@@ -242,6 +268,7 @@ private:
     Machine &before_;
     Machine &now_;
     LastSwitches last_;
+    Past past_;
     QList<VerifiedItem> items_;
 };
 

@@ -3,6 +3,7 @@
 #include "console/programinterruption.h"
 #include "machine/compare/machinediff.h"
 #include "machine/machine.h"
+#include "past.h"
 #include "preview/previewwords.h"
 #include "toollog.h"
 #include "verify.h"
@@ -62,9 +63,10 @@ std::optional<ToolRun> refusal(const QList<ToolRun> &runs, const DiffRow &row)
 class TweakJudgement
 {
 public:
-    TweakJudgement(const QMap<Place, DiffRow> &sinceBefore, const QList<ToolRun> &runs)
+    TweakJudgement(const QMap<Place, DiffRow> &sinceBefore, const QList<ToolRun> &runs, const Past &past)
         : sinceBefore_(sinceBefore)
         , runs_(runs)
+        , past_(past)
     {
     }
 
@@ -79,14 +81,21 @@ public:
             item.why = u"%1 ended with %2"_s.arg(refused->program).arg(refused->exitCode);
         } else if (item.verdict != Verdict::Refused && !asBefore) {
             item.verdict = Verdict::ChangedBack;
+        } else if (const QString session = past_.changeOf(row);
+                   item.verdict != Verdict::Refused && !session.isEmpty()) {
+            item.verdict = Verdict::ChangedBack;
+            item.why = u"it was in force after "_s + session;
         } else if (item.verdict == Verdict::InForce) {
             item.verdict = Verdict::AsBefore;
+            if (past_.isKnown())
+                item.why = u"the journal knows of no change"_s;
         }
     }
 
 private:
     const QMap<Place, DiffRow> &sinceBefore_;
     const QList<ToolRun> &runs_;
+    const Past &past_;
 };
 
 QMap<Place, DiffRow> byPlace(const QList<DiffRow> &rows)
@@ -108,7 +117,8 @@ QList<VerifiedItem> verifyTweaks(Machine &before, Machine &now, Machine &again)
             rowsOf[tweakBoxOf(row)].append(row);
     }
     const QList<ToolRun> runs = readToolLog(now);
-    const TweakJudgement judgement(sinceBefore, runs);
+    const Past past(now);
+    const TweakJudgement judgement(sinceBefore, runs, past);
 
     QList<VerifiedItem> items;
     for (const TweakBox &box : tweakBoxes()) {

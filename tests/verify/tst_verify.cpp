@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse verify: what of the recorded changes holds.
 
+#include "preview/previewwords.h"
 #include "support/registryvalues.h"
 #include "support/rehearsing.h"
 #include "support/smallmachine.h"
@@ -63,7 +64,7 @@ private:
 class Later
 {
 public:
-    enum class Log { Kept, None };
+    enum class Log { Kept, None, Journal };
 
     explicit Later(const OptimizedPc &pc, Log log = Log::Kept)
         : before(Machine::open(pc.before()))
@@ -71,6 +72,10 @@ public:
         copyMachine(*Machine::open(pc.now()), folder());
         if (log == Log::Kept && !QFile::copy(pc.now() + u"/commands.log"_s, folder() + u"/commands.log"_s))
             qFatal("there is no log");
+        const QString journal = u"/journal/changes.sqlite"_s;
+        if (log == Log::Journal
+            && !(QDir().mkpath(folder() + u"/journal"_s) && QFile::copy(pc.now() + journal, folder() + journal)))
+            qFatal("there is no journal");
         now = Machine::open(folder());
     }
 
@@ -132,6 +137,8 @@ private Q_SLOTS:
     void optimizedPcIsInForceButForWhatIsOnlyRecorded_data();
     void optimizedPcIsInForceButForWhatIsOnlyRecorded();
     void nothingIsChangedByIt();
+    void theJournalKnowsWhatWasInForce();
+    void theJournalKnowsWhatAnOptionChanged();
     void serviceSetBack_data();
     void serviceSetBack();
     void serviceThatStillRunsIsTold();
@@ -210,6 +217,36 @@ void TestVerify::nothingIsChangedByIt()
     QCOMPARE(readFile(later.folder() + u"/commands.log"_s), readFile(same.folder() + u"/commands.log"_s));
 }
 
+void TestVerify::theJournalKnowsWhatWasInForce()
+{
+    Later later(*pc_, Later::Log::Journal);
+    setNumber(*later.now, servicesKey + u"DiagTrack"_s, u"Start"_s, 2);
+    const QString change = later.item(u"DiagTrack"_s).why;
+    QVERIFY2(change.startsWith(u"it was in force after Optimize on 20"_s), qPrintable(change));
+
+    // A record of what was never done.
+    setNumber(*later.now, recordKey(u"SVC"_s), u"RpcSs"_s, 1);
+    const VerifiedItem item = later.item(u"RpcSs"_s);
+    QCOMPARE(item.verdict, Verdict::AsBefore);
+    QCOMPARE(item.why, u"the journal knows of no change"_s);
+}
+
+void TestVerify::theJournalKnowsWhatAnOptionChanged()
+{
+    Later later(*pc_, Later::Log::Journal);
+    const QList<DiffRow> rows = compareMachines(*later.before, *later.now);
+    const auto written = std::find_if(rows.cbegin(), rows.cend(), [](const DiffRow &row) {
+        return row.kind == DiffKind::Registry && tweakBoxOf(row) == "chkWindows8"_L1 && !row.before.isEmpty()
+               && !row.after.isEmpty();
+    });
+    QVERIFY(written != rows.cend());
+    RegistryStore &store = later.now->registry();
+    store.setValue(*store.find(written->path), *later.before->registry().value(written->path, written->name));
+    const QJsonObject option = later.option(u"chkWindows8"_s);
+    QCOMPARE(option[u"verdict"_s].toString(), u"changed-back"_s);
+    QVERIFY(option[u"why"_s].toString().startsWith(u"it was in force after Optimize"_s));
+}
+
 void TestVerify::serviceSetBack_data()
 {
     addColumns<Later::Log, int, Verdict>("log", "start", "verdict");
@@ -217,6 +254,7 @@ void TestVerify::serviceSetBack_data()
     QTest::newRow("to what it was, after sc had switched it off") << Later::Log::Kept << 2 << Verdict::ChangedBack;
     QTest::newRow("to something else, after sc had switched it off") << Later::Log::Kept << 3 << Verdict::ChangedBack;
     QTest::newRow("to what it was, without a log") << Later::Log::None << 2 << Verdict::AsBefore;
+    QTest::newRow("to what it was, by the journal") << Later::Log::Journal << 2 << Verdict::ChangedBack;
     QTest::newRow("to something else, without a log") << Later::Log::None << 3 << Verdict::ChangedBack;
     QTest::newRow("not at all") << Later::Log::None << 4 << Verdict::InForce;
 }
