@@ -11,6 +11,11 @@ struct MachineError
     bool damaged = false; ///< the machine's own files aren't what they were
 };
 
+/** Says what went wrong on the standard error, and keeps the first of it for takeMachineFailure(). Any thread. */
+void sayMachineFailure(const MachineError &error);
+/** What was said first since the last call; empty where nothing was. Any thread. */
+QString takeMachineFailure();
+
 /** The answer of a system without the thing, where the machine turns out damaged in use; what is wrong is said. */
 template<typename Result, typename Operation>
 Result guarded(Result fallback, Operation operation)
@@ -18,7 +23,7 @@ Result guarded(Result fallback, Operation operation)
     try {
         return operation();
     } catch (const MachineError &error) {
-        qWarning("%s", qUtf8Printable(error.message));
+        sayMachineFailure(error);
         return fallback;
     }
 }

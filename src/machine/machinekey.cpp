@@ -45,7 +45,7 @@ Result guarded(Operation operation)
     try {
         return operation();
     } catch (const MachineError &error) {
-        qWarning("%s", qUtf8Printable(error.message));
+        sayMachineFailure(error);
         return Result();
     }
 }

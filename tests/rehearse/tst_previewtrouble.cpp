@@ -44,13 +44,18 @@ class Preview
 {
 public:
     Preview(const QString &machine, const QStringList &options, std::function<void()> inChild = {})
+        : Preview(QStringList{u"preview"_s, machine} + options, std::move(inChild))
+    {
+    }
+    /** @param arguments of another subcommand */
+    explicit Preview(const QStringList &arguments, std::function<void()> inChild = {})
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"TMPDIR"_s, temporary_.path());
         process_.setProcessEnvironment(environment);
         if (inChild)
             process_.setChildProcessModifier(inChild);
-        process_.start(builtProgram(u"kestrune-rehearse"_s), QStringList{u"preview"_s, machine} + options);
+        process_.start(builtProgram(u"kestrune-rehearse"_s), arguments);
     }
 
     int end()
@@ -110,6 +115,7 @@ private Q_SLOTS:
     void reportThatCannotBeWrittenIsToldFirst();
     void fullDiskWhileCopying();
     void fullDiskWhileReportsAreWritten();
+    void aJobThatWasNotDoneToItsEndFails();
     void severalAtOnce();
 
 private:
@@ -281,6 +287,17 @@ void TestPreviewTrouble::fullDiskWhileCopying()
         QVERIFY(!QFile::exists(page));
     }
     QCOMPARE(compareMachines(*Machine::open(folder_.filePath(u"as it was"_s)), *Machine::open(pc_)), QList<DiffRow>());
+}
+
+void TestPreviewTrouble::aJobThatWasNotDoneToItsEndFails()
+{
+    const QString machine = copyOf(pc_, u"full"_s);
+    const auto size = static_cast<rlim_t>(QFileInfo(machine + u"/machine.sqlite"_s).size());
+    Preview run({u"run"_s, machine, u"optimize"_s}, [size] { limitFiles(size); });
+    QCOMPARE(run.end(), 1);
+    const QByteArray last = run.errors().trimmed().split('\n').last();
+    QVERIFY2(last.startsWith("kestrune-rehearse: not everything was done: "), run.errors().constData());
+    QVERIFY2(last.contains("full"), last.constData());
 }
 
 void TestPreviewTrouble::fullDiskWhileReportsAreWritten()
