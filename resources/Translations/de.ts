@@ -293,6 +293,10 @@
 <translation>die Dateien sind auf diesem PC nicht mehr vorhanden; im Store erhältlich</translation>
 </message>
 <message>
+<source>Not everything was done.</source>
+<translation>Es wurde nicht alles ausgeführt.</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>eine spätere Sitzung hat es auch geändert</translation>
 </message>

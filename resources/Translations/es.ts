@@ -293,6 +293,10 @@
 <translation>sus archivos ya no están en este PC; puede obtenerse en la Store</translation>
 </message>
 <message>
+<source>Not everything was done.</source>
+<translation>No se ha hecho todo.</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>una sesión posterior también lo ha cambiado</translation>
 </message>

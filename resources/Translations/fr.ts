@@ -293,6 +293,10 @@
 <translation>ses fichiers ne sont plus sur ce PC ; disponible dans le Store</translation>
 </message>
 <message>
+<source>Not everything was done.</source>
+<translation>Tout n’a pas été fait.</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>une session ultérieure l’a modifié aussi</translation>
 </message>

@@ -293,6 +293,10 @@
 <translation>i suoi file non sono più su questo PC; disponibile nello Store</translation>
 </message>
 <message>
+<source>Not everything was done.</source>
+<translation>Non è stato fatto tutto.</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>anche una sessione successiva l’ha modificato</translation>
 </message>

@@ -293,6 +293,10 @@
 <translation>この PC にファイルがもうありません。Store から入手してください</translation>
 </message>
 <message>
+<source>Not everything was done.</source>
+<translation>一部の処理は実行されませんでした。</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>後のセッションでも変更されています</translation>
 </message>

@@ -293,6 +293,10 @@
 <translation>de bestanden staan niet meer op deze pc; verkrijgbaar in de Store</translation>
 </message>
 <message>
+<source>Not everything was done.</source>
+<translation>Niet alles is uitgevoerd.</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>een latere sessie heeft het ook gewijzigd</translation>
 </message>

@@ -293,6 +293,10 @@
 <translation>jego plików nie ma już na tym komputerze; można go pobrać ze sklepu Store</translation>
 </message>
 <message>
+<source>Not everything was done.</source>
+<translation>Nie wszystko zostało wykonane.</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>późniejsza sesja też to zmieniła</translation>
 </message>

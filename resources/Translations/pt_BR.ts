@@ -293,6 +293,10 @@
 <translation>os arquivos não estão mais neste PC; obtenha-o na Store</translation>
 </message>
 <message>
+<source>Not everything was done.</source>
+<translation>Nem tudo foi feito.</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>uma sessão posterior também o alterou</translation>
 </message>

@@ -293,6 +293,10 @@
 <translation>其文件已不在此电脑上；可从 Store 获取</translation>
 </message>
 <message>
+<source>Not everything was done.</source>
+<translation>并非所有操作都已完成。</translation>
+</message>
+<message>
 <source>a later session has changed it, too</source>
 <translation>之后的会话也更改了它</translation>
 </message>

@@ -98,6 +98,7 @@ void Kestrune::switchCheckedAutoruns()
     }
     if (done)
         ui.lblStatus->setText(tr("Configure auto started programs done!") + u"  "_s);
+    tellFailure();
 }
 
 void Kestrune::on_btnAutorunViewDisabled_clicked()

@@ -123,6 +123,7 @@ void Kestrune::on_btnTweakApply_clicked()
     workThread->needReboot = 0;
     if (!workThread->isRunning())
         letOthersIn();
+    tellFailure();
 }
 
 void Kestrune::applyTouchedTweaks()

@@ -55,6 +55,7 @@ void Kestrune::makeWorkers()
     workThread = new WorkThread(this);
     connect(workThread, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueChanged);
     connect(workThread, &WorkThread::automatizerValueChanged, this, &Kestrune::onAutomatizerValueChanged);
+    connect(workThread, &QThread::finished, this, &Kestrune::tellFailure);
     makeWinSxsWorker();
     workThreadMonitor = new WorkThread(this);
     connect(workThreadMonitor, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueMonitor);

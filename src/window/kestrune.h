@@ -252,12 +252,15 @@ private:
     void openWayBack(qint64 session);
     /** Shows the button of the status strip where a session was broken off that nobody has looked at. */
     void showBrokenOff();
+    /** Says once why changes weren't made that the system itself wouldn't have refused; nothing where all were. */
+    void tellFailure();
 
     Ui::KestruneClass ui;
     WorkThread *workThread = nullptr;
     WorkThread *workThreadWinSxs = nullptr;
     WorkThread *workThreadMonitor = nullptr;
     QTimer *monitorTimer = nullptr;
+    QString toldFailure;
     QNetworkAccessManager *updateManager = nullptr; ///< of the last check
     QString infoTemplate;                           ///< the report with its marks, once there has been one
     QPalette startPalette;                          ///< the system's own palette

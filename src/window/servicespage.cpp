@@ -262,9 +262,12 @@ void Kestrune::setServiceStart(const QString &argument)
         if (item->toolTip().contains(u':'))
             names.append(nameFromToolTip(item->toolTip()));
     }
-    const ChangeSession session(u"Start of services"_s);
-    for (const QString &name : names) {
-        runTool(u"sc"_s, {u"config"_s, name, argument});
-        refreshPage();
+    {
+        const ChangeSession session(u"Start of services"_s);
+        for (const QString &name : names) {
+            runTool(u"sc"_s, {u"config"_s, name, argument});
+            refreshPage();
+        }
     }
+    tellFailure();
 }

@@ -79,3 +79,12 @@ void Kestrune::openWayBack(qint64 session)
     });
     dialog->open();
 }
+
+void Kestrune::tellFailure()
+{
+    const QString failure = platform().takeFailure();
+    if (failure.isEmpty() || failure == toldFailure)
+        return;
+    toldFailure = failure;
+    tell(tr("Not everything was done.") + u"\n\n"_s + failure);
+}

@@ -2,6 +2,7 @@
 // The way back in the window: what its dialog lists and takes back, and the button that leads there after a break.
 
 #include "journal/journaling.h"
+#include "machine/database.h"
 #include "support/boxes.h"
 #include "support/featuresview.h"
 #include "support/suite.h"
@@ -214,6 +215,7 @@ private Q_SLOTS:
     void withoutRightsTheyAreOffered_data();
     void withoutRightsTheyAreOffered();
     void withoutAJournalItSaysSo();
+    void whatCannotBeNotedIsToldOnce();
     void aBrokenOffSessionHasAButtonUntilItWasSeen();
     void lookingAroundIsNoBrokenOffJob();
     void theKeyboardReachesEverything();
@@ -485,6 +487,27 @@ void TestWayBack::withoutAJournalItSaysSo()
     driver.click(u"btnOptionsWayBack"_s);
     QCOMPARE(boxes.shown().size(), 1);
     QVERIFY(driver.window().findChild<WayBackDialog *>() == nullptr);
+}
+
+/** And isn't done. */
+void TestWayBack::whatCannotBeNotedIsToldOnce()
+{
+    const ServicesPc machine;
+    const Journaled pc(machine);
+    const WindowDriver driver;
+    Database(machine.folder() + u"/journal/changes.sqlite"_s).execute("ALTER TABLE note RENAME COLUMN fold TO folded");
+    {
+        Boxes boxes({QMessageBox::NoButton});
+        QVERIFY(disable(driver, {u"Alpha"_s}));
+        QTRY_COMPARE(boxes.shown().size(), 1);
+        QVERIFY2(boxes.shown().first().text.startsWith(u"Not everything was done.\n\n"_s),
+                 qPrintable(boxes.shown().first().text));
+        QVERIFY(boxes.shown().first().text.contains(u"changes.sqlite"_s));
+    }
+    QCOMPARE(startOf(pc, u"Alpha"_s), int(StartAutomatic));
+    const Boxes none;
+    QVERIFY(disable(driver, {u"Beta"_s}));
+    QCOMPARE(startOf(pc, u"Beta"_s), int(StartAutomatic));
 }
 
 void TestWayBack::aBrokenOffSessionHasAButtonUntilItWasSeen()
