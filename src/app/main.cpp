@@ -3,12 +3,13 @@
 
 #include "window/kestrune.h"
 
+#include "journal/takeback.h"
 #include "platform/processground.h"
+#include "window/messagebox.h"
 #ifdef KESTRUNE_REAL_MACHINE
 #include "journal/realjournal.h"
 #include "journal/settle.h"
 #include "linkopener.h"
-#include "window/messagebox.h"
 #else
 #include "journal/machinejournal.h"
 #include "journal/settle.h"
@@ -32,13 +33,6 @@ bool choosePlatform()
     setPlatform(openRealPlatform());
     settleBrokenOff();
     return true;
-}
-
-/** Said once, before the window: it opens all the same, to look at the PC and its settings. */
-void tellWhatIsShut()
-{
-    if (const QString why = platform().takeFailure(); !why.isEmpty())
-        tell(u"What is changed can't be noted, so nothing is changed.\n\n"_s + why);
 }
 
 #else
@@ -75,6 +69,18 @@ bool choosePlatform()
 
 #endif
 
+/** Said once, before the window: it opens all the same, to look at the PC and its settings. */
+void tellOfJournal()
+{
+    const Journal *journal = journalInForce();
+    if (journal == nullptr)
+        return;
+    if (!journal->putAside().isEmpty())
+        tell(journal->putAside().join(u'\n'));
+    if (const QString why = platform().takeFailure(); !why.isEmpty())
+        tell(u"What is changed can't be noted, so nothing is changed.\n\n"_s + why);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -90,10 +96,10 @@ int main(int argc, char **argv)
     if (isForPictures())
         return takePictures(QCoreApplication::arguments().sliced(2));
 #else
-    tellWhatIsShut();
     const auto links = platform().isElevated() ? std::make_unique<LinkOpener>() : nullptr;
 #endif
 
+    tellOfJournal();
     Kestrune window;
     if (window.hasLeft())
         return 0;

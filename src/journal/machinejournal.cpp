@@ -29,7 +29,10 @@ std::unique_ptr<Journal> openMachineJournal(const QString &machineFolder, Machin
     journal.afterSession = keepWayBack;
     auto system = std::make_unique<MachineSystem>(machine);
     journal.keptDays = keptDays(*system);
-    return std::make_unique<Journal>(std::move(onMachine), std::move(system), journal);
+    auto opened = std::make_unique<Journal>(std::move(onMachine), std::move(system), journal);
+    for (const QString &sentence : opened->putAside())
+        qWarning("%s", qUtf8Printable(sentence));
+    return opened;
 }
 
 std::unique_ptr<Platform> openMachinePlatform(const QString &machineFolder, const MachineOptions &options)
