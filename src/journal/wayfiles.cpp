@@ -17,6 +17,20 @@ namespace {
 
 const QString scriptName = u"way-back.reg"_s;
 
+constexpr char howTo[] = "How to go back without Kestrune\r\n"
+                         "\r\n"
+                         "Each folder here belongs to one session. With what is in it, Windows' own tools take\r\n"
+                         "back what the session changed, in Safe Mode too. The highest number is the newest\r\n"
+                         "session. Go back from the newest to the oldest.\r\n"
+                         "\r\n"
+                         "1. Open way-back.reg with a double click, and confirm.\r\n"
+                         "2. Restart the PC.\r\n"
+                         "3. Open a command prompt as administrator, go to the folder (cd /d \"...\"), and run the\r\n"
+                         "   commands that are in way-back-commands.txt.\r\n"
+                         "\r\n"
+                         "In Kestrune, \"Way back...\" on the Options page does all of this, and says what came\r\n"
+                         "back.\r\n";
+
 /** Turns a plan into steps. */
 class ScriptOfPlan
 {
@@ -151,6 +165,13 @@ QString folderName(const Session &session)
     return QString::number(session.id).rightJustified(6, u'0') + u'-' + QString(session.what).replace(u' ', u'-');
 }
 
+void explain(const QString &folder)
+{
+    QFile file(folder + u"/how-to-go-back.txt"_s);
+    if (!file.exists() && file.open(QIODevice::WriteOnly))
+        file.write(howTo);
+}
+
 void keepLast(const QString &folder)
 {
     constexpr qsizetype kept = 10;
@@ -184,5 +205,6 @@ void keepWayBack(const Journal &journal, qint64 session)
         return;
     const QString folder = QFileInfo(journal.store().file()).path() + u"/files"_s;
     writeWayBack(journal, {.firstSession = session, .lastSession = session}, folder + u'/' + folderName(*found));
+    explain(folder);
     keepLast(folder);
 }

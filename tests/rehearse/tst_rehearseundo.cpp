@@ -218,6 +218,7 @@ void TestRehearseUndo::keepsTheFilesOfTheLastSessions()
     QStringList kept = files.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     QCOMPARE(kept.size(), 2);
     QCOMPARE(kept.first().section(u'-', 1), u"Disable-services"_s);
+    QVERIFY(readFile(files.filePath(u"how-to-go-back.txt"_s)).contains("way-back-commands.txt"));
     // The last one first, as one goes back.
     QCOMPARE(undo(*Machine::open(machine.folder()), files.filePath(kept.last() + u"/way-back.reg"_s)), QString());
     QCOMPARE(undo(*Machine::open(machine.folder()), files.filePath(kept.first() + u"/way-back.reg"_s)), QString());
