@@ -7,12 +7,12 @@
 #include "platform/processground.h"
 #include "window/messagebox.h"
 #ifdef KESTRUNE_REAL_MACHINE
+#include "journal/programrecords.h"
 #include "journal/realjournal.h"
-#include "journal/settle.h"
 #include "linkopener.h"
 #else
 #include "journal/machinejournal.h"
-#include "journal/settle.h"
+#include "journal/programrecords.h"
 #include "pictures.h"
 #endif
 #ifndef Q_OS_WIN

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "commandsubjects.h"
+#include "item.h"
 
 #include "machine/registrystore.h"
 #include "platform/systemstate.h"

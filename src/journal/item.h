@@ -4,9 +4,13 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
+
+class SystemState;
 
 /** Kinds of things; the numbers are those of the journal's file. */
 enum class ItemKind : int {
@@ -49,3 +53,10 @@ struct ItemState
 
 /** Whether the key is a service's own, and which one it is. */
 std::optional<QString> serviceOfKey(const QString &key);
+
+/**
+ * The items that a command may change, and that come back by themselves or by a command; empty for one that changes
+ * nothing, and for taskkill: no program that ran is started anew.
+ * @param program as it is given to Platform::programFile()
+ */
+QList<Item> subjectsOf(const QString &program, const QStringList &arguments, const SystemState &system);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "itemwords.h"
+#include "takeback.h"
 
 #include "machine/registrydisplay.h"
 #include "platform/windowsfacts.h"

@@ -2,7 +2,7 @@
 
 #include "journal.h"
 
-#include "commandsubjects.h"
+#include "item.h"
 #include "journalkey.h"
 #include "machine/machineerror.h"
 #include "machine/registrystore.h"

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "journalplace.h"
+#include "journalstore.h"
 #include "platform/forwardingplatform.h"
 #include "platform/systemstate.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "journalplace.h"
+#include "journalstore.h"
 
 #include "machine/machineerror.h"
 

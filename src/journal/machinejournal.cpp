@@ -3,8 +3,8 @@
 #include "machinejournal.h"
 
 #include "machine/seam/machinesystem.h"
-#include "programplaces.h"
-#include "wayfiles.h"
+#include "programrecords.h"
+#include "takeback.h"
 
 #include <QCoreApplication>
 

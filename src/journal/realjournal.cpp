@@ -6,8 +6,8 @@
 #include "platform/windows/adminfolder.h"
 #include "platform/windows/processtoken.h"
 #include "platform/windows/windowssystem.h"
-#include "programplaces.h"
-#include "wayfiles.h"
+#include "programrecords.h"
+#include "takeback.h"
 
 #include <QCoreApplication>
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "journal.h"
+#include "wayback/waybackscript.h"
 
 #include <functional>
 
@@ -51,3 +52,32 @@ QList<TakenItem> planWayBack(const Journal &journal, const Selection &selection)
  */
 QList<TakenItem> takeBack(const Journal &journal, const Selection &selection,
                           const std::function<void(qsizetype step, qsizetype steps)> &step = {});
+
+// The same as files, for the system's own tools: in Safe Mode, or where this program is gone.
+
+/** What of a selection can be taken back, as steps; the present state of things is read. Throws MachineError. */
+WayBackScript wayBackScript(const Journal &journal, const Selection &selection);
+
+/** Writes that as way-back.reg and what belongs to it into a folder, which is made. Throws MachineError. */
+WrittenWayBack writeWayBack(const Journal &journal, const Selection &selection, const QString &folder);
+
+/**
+ * Writes a session's way back into a folder of its own beside the journal, where the last ten are kept. Nothing is
+ * written of a session that has changed nothing. Throws MachineError.
+ */
+void keepWayBack(const Journal &journal, qint64 session);
+
+// In words of the language that the program has installed; in English where it has none.
+
+/** "Service Spooler: start mode" */
+QString itemTitle(const Item &item);
+/** "disabled", "dword 1"; what isn't there is "absent". */
+QString stateText(const Item &item, const ItemState &state);
+/** "as it was", "can be taken back" ... */
+QString verdictText(WayBack verdict);
+/** "finished", "broken off", "under way" */
+QString sessionStateText(SessionState state);
+/** The same of what is kept in English: what a session is called, and why something isn't back. */
+QString translatedText(const QString &english);
+/** Why it isn't back, with where a package can be had again; empty where there is nothing to say. */
+QString whyText(const TakenItem &item);

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "wayfiles.h"
+#include "takeback.h"
 
-#include "itemwords.h"
 #include "machine/machineerror.h"
 #include "platform/windowsfacts.h"
 

@@ -4,6 +4,9 @@
 
 #include <QString>
 
+#include <mutex>
+#include <utility>
+
 /** What went wrong with a rehearsal machine, in one line for a person. */
 struct MachineError
 {
@@ -11,10 +14,29 @@ struct MachineError
     bool damaged = false; ///< the machine's own files aren't what they were
 };
 
-/** Says what went wrong on the standard error, and keeps the first of it for takeMachineFailure(). Any thread. */
-void sayMachineFailure(const MachineError &error);
-/** What was said first since the last call; empty where nothing was. Any thread. */
-QString takeMachineFailure();
+/** What rehearsal machines have failed by. Any thread. */
+class MachineFailures
+{
+public:
+    /** Says it on the standard error, and keeps the first one. */
+    static void say(const MachineError &error)
+    {
+        qWarning("%s", qUtf8Printable(error.message));
+        const std::lock_guard hold(lock_);
+        if (first_.isEmpty())
+            first_ = error.message;
+    }
+    /** The first one since the last call; empty where there was none. */
+    static QString take()
+    {
+        const std::lock_guard hold(lock_);
+        return std::exchange(first_, QString());
+    }
+
+private:
+    static inline std::mutex lock_;
+    static inline QString first_;
+};
 
 /** The answer of a system without the thing, where the machine turns out damaged in use; what is wrong is said. */
 template<typename Result, typename Operation>
@@ -23,7 +45,7 @@ Result guarded(Result fallback, Operation operation)
     try {
         return operation();
     } catch (const MachineError &error) {
-        sayMachineFailure(error);
+        MachineFailures::say(error);
         return fallback;
     }
 }

@@ -45,7 +45,7 @@ Result guarded(Operation operation)
     try {
         return operation();
     } catch (const MachineError &error) {
-        sayMachineFailure(error);
+        MachineFailures::say(error);
         return Result();
     }
 }

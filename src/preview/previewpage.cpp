@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "previewreport.h"
+#include "preview.h"
 
 #include "machine/compare/webpage.h"
 #include "previewpage.css.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "previewreport.h"
+#include "preview.h"
 
 #include "console/printable.h"
 #include "previewtexts.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "undo.h"
+#include "preview.h"
 
 #include "machine/compare/machinediff.h"
 #include "machine/database.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse diff
 
-#include "machine/compare/diffreport.h"
 #include "machine/compare/machinediff.h"
 #include "machine/machine.h"
 #include "progress.h"

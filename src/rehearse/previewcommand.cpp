@@ -3,8 +3,7 @@
 
 #include "console/programinterruption.h"
 #include "machine/machine.h"
-#include "preview/previewreport.h"
-#include "preview/undo.h"
+#include "preview/preview.h"
 #include "progress.h"
 #include "subcommands.h"
 

@@ -4,7 +4,7 @@
 #include "jobrunner.h"
 #include "jobs.h"
 #include "journal/machinejournal.h"
-#include "journal/settle.h"
+#include "journal/programrecords.h"
 #include "progress.h"
 #include "subcommands.h"
 #include "work/windowsname.h"

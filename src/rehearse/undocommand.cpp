@@ -3,10 +3,9 @@
 
 #include "console/printable.h"
 #include "jobrunner.h"
-#include "journal/itemwords.h"
 #include "journal/machinejournal.h"
-#include "journal/settle.h"
-#include "journal/wayfiles.h"
+#include "journal/programrecords.h"
+#include "journal/takeback.h"
 #include "progress.h"
 #include "subcommands.h"
 

@@ -1,16 +1,51 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the journal of a machine knows of its past.
+// What is known of a machine's past: what its tools were asked, and what its journal has noted.
 
 #pragma once
 
 #include "journal/item.h"
 #include "machine/compare/diffrow.h"
+#include "machine/machine.h"
 
 #include <QHash>
 
 #include <functional>
 
-class Machine;
+struct ToolRun
+{
+    QString program;
+    QStringList arguments;
+    int exitCode = 0;
+};
+
+/** The runs in their order. Empty where no tool has run, as on a captured PC; half a line at the end is left out. */
+QList<ToolRun> readToolLog(const Machine &machine);
+
+/** Which way a tool switches a thing. */
+enum class Switch { Off, On };
+
+/** A run that switches a service, a task or a package. */
+struct SwitchRun
+{
+    QString tool;
+    QString name; ///< of the thing, as the tool was told
+    Switch to = Switch::Off;
+    int exitCode = 0;
+};
+
+/** The last of the runs that switches each service, task (by its path with a backslash first) or package. */
+struct LastSwitches
+{
+    explicit LastSwitches(const QList<ToolRun> &runs);
+
+    // By name in upper case.
+    QMap<QString, SwitchRun> services;
+    QMap<QString, SwitchRun> tasks;
+    QMap<QString, SwitchRun> packages;
+};
+
+/** A path of a task with its backslash; those in the root folder are named without. */
+QString taskPath(const QString &name);
 
 class Past
 {

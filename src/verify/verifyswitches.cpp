@@ -6,7 +6,6 @@
 #include "platform/taskdocument.h"
 #include "platform/windowsfacts.h"
 #include "preview/previewwords.h"
-#include "toollog.h"
 #include "verify.h"
 #include "work/autorun/autorun.h"
 #include "work/packages/packages.h"

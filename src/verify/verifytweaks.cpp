@@ -5,7 +5,6 @@
 #include "machine/machine.h"
 #include "past.h"
 #include "preview/previewwords.h"
-#include "toollog.h"
 #include "verify.h"
 #include "work/settings.h"
 #include "work/tweaks/tweakcatalogue.h"

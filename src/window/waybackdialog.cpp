@@ -3,7 +3,7 @@
 #include "waybackdialog.h"
 
 #include "elevation.h"
-#include "journal/itemwords.h"
+#include "journal/takeback.h"
 #include "kestrune.h"
 #include "machine/machineerror.h"
 #include "messagebox.h"

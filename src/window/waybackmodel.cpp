@@ -2,7 +2,7 @@
 
 #include "waybackmodel.h"
 
-#include "journal/itemwords.h"
+#include "journal/takeback.h"
 #include "kestrune.h"
 #include "rowtext.h"
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "journal/wayfiles.h"
+#include "journal/takeback.h"
 
 #include <QThread>
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "journal/journal.h"
-#include "journal/programplaces.h"
+#include "journal/programrecords.h"
 #include "journal/takeback.h"
 #include "machine/compare/machinediff.h"
 #include "machine/seam/machinesystem.h"

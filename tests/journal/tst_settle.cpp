@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the next start makes of a session that was broken off, what can't be taken back, and how long notes are kept.
 
-#include "journal/settle.h"
+#include "journal/programrecords.h"
 
 #include "journaling.h"
 #include "machine/database.h"

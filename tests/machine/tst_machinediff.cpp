@@ -4,7 +4,6 @@
 #include "support/smallmachine.h"
 #include "support/suite.h"
 
-#include "machine/compare/diffreport.h"
 #include "machine/compare/machinediff.h"
 
 #include <QDir>

@@ -5,7 +5,7 @@
 #include "support/smallmachine.h"
 #include "support/suite.h"
 
-#include "preview/previewreport.h"
+#include "preview/preview.h"
 #include "preview/previewtexts.h"
 
 #include <QJsonArray>

@@ -5,7 +5,7 @@
 #include "support/suite.h"
 #include "support/webdriver.h"
 
-#include "preview/previewreport.h"
+#include "preview/preview.h"
 
 #include <QDir>
 #include <QJsonArray>

@@ -6,7 +6,7 @@
 #include "support/suite.h"
 
 #include "machine/compare/machinediff.h"
-#include "preview/undo.h"
+#include "preview/preview.h"
 
 #include <QTest>
 

@@ -7,7 +7,7 @@
 
 #include "machine/compare/machinediff.h"
 #include "machine/machine.h"
-#include "preview/undo.h"
+#include "preview/preview.h"
 
 #include <QDir>
 #include <QJsonArray>

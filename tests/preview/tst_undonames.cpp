@@ -8,7 +8,7 @@
 
 #include "console/printable.h"
 #include "platform/windowsfacts.h"
-#include "preview/undo.h"
+#include "preview/preview.h"
 
 #include <QDir>
 #include <QStringDecoder>

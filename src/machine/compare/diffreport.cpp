@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "diffreport.h"
+#include "machinediff.h"
 
 #include "console/printable.h"
-#include "machinediff.h"
 #include "webpage.h"
 
 #include <QJsonArray>

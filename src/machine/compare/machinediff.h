@@ -48,3 +48,10 @@ void eachRegistryDifference(const RegistryStore &before, const RegistryStore &af
 void compareFiles(const Machine &before, const Machine &after, QList<DiffRow> &rows);
 /** Rows of the registries; a key has one only where it is empty. */
 void compareRegistries(const RegistryStore &before, const RegistryStore &after, QList<DiffRow> &rows);
+
+/** A line for each row, in columns, with control characters written out; empty where nothing differs. */
+QString diffText(const QList<DiffRow> &rows);
+/** An array of objects with kind, path, name, before and after; null where there is nothing. */
+QByteArray diffJson(const QList<DiffRow> &rows);
+/** One page that needs nothing besides itself. */
+QString diffHtml(const QList<DiffRow> &rows, const QString &before, const QString &after);

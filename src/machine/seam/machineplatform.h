@@ -53,7 +53,7 @@ public:
     void setFileAttributes(const QString &file, quint32 word) const override;
     void setAllFileAttributes(const QList<FileAttributes> &files) const override;
     QString programFile(const QString &program) const override;
-    QString takeFailure() const override { return takeMachineFailure(); }
+    QString takeFailure() const override { return MachineFailures::take(); }
     std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &arguments) const override;
     int exitCode(qint64 processId, int reported) const override;
     bool isElevated() const override;

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A key of the real registry.
+// A key of the real registry; and keys and values as they are stored, by the registry's own functions.
 
 #pragma once
 
 #include "platform/registrykey.h"
+#include "systemobjects.h"
 
 #include <QSettings>
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 /** QSettings in native format, whose manners are the contract of RegistryKey. */
 class NativeKey final : public RegistryKey
@@ -49,3 +52,13 @@ private:
     QString path_;
     QSettings settings_;
 };
+
+// Looking makes nothing.
+
+/** Opens a key that is there, by its full path; in the view of 64 bits. The key is null where that fails. */
+std::pair<Key, LSTATUS> openExisting(const QString &path, REGSAM rights);
+
+/** A value with type and bytes; nothing where there is none. */
+std::optional<RegistryValue> storedValue(HKEY key, const QString &name);
+/** Stores a value as it is; says whether it was done. */
+bool storeValue(HKEY key, const RegistryValue &value);

@@ -3,7 +3,7 @@
 
 #include "windowsplatform.h"
 
-#include "nativeregistry.h"
+#include "nativekey.h"
 #include "processtoken.h"
 
 #include <span>

@@ -2,7 +2,7 @@
 
 #include "windowssystem.h"
 
-#include "nativeregistry.h"
+#include "nativekey.h"
 #include "platform/taskdocument.h"
 #include "systemfolders.h"
 

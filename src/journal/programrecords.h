@@ -1,7 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a session that was broken off has left half done.
+// What the journal has to do with the program's own settings and records.
 
 #pragma once
+
+#include "journal.h"
+
+/** For JournalOptions::ownPlace. */
+OwnPlace placeInProgram(const QString &key, const QString &name);
+
+/**
+ * How many days the user wants sessions to be kept, by the setting JournalDays; 0: for ever. Any program of the user
+ * can write that, so it is never less than 90 days.
+ */
+int keptDays(const SystemState &system);
 
 /**
  * A record follows its change, so a program that was ended between the two has left a service, a task or a package
