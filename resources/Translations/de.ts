@@ -208,7 +208,7 @@
 &lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ mit Qt 6, lizenziert unter der GNU LGPL Version 3&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Entwickelt für Windows 10 und Windows 11&lt;/p&gt;
 &lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Zweck:&lt;/span&gt;&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Diese App soll die allgemeine Leistung verbessern, ohne Windows zu verfälschen. Sie hilft Ihnen, alle Funktionen, Programme, Dienste und geplanten Aufgaben zu deaktivieren, die überflüssig sind und die Leistung beeinträchtigen können. Außerdem konfiguriert sie einige interne Systemfeatures, die über keine Oberfläche zugänglich sind, und weitere Optionen verringern den Platz, den Windows auf der Festplatte belegt. (Deinstallieren unnötiger Windows-Anwendungen, Bereinigen des Ordners WinSxS, ...)&lt;br /&gt;Alles mit wenigen Klicks und mit der Möglichkeit, die ursprünglichen Werte wiederherzustellen. &lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Diese App soll die allgemeine Leistung verbessern, ohne Windows zu verfälschen. Sie hilft Ihnen, alle Funktionen, Programme, Dienste und geplanten Aufgaben zu deaktivieren, die überflüssig sind und die Leistung beeinträchtigen können. Außerdem konfiguriert sie einige interne Systemfunktionen, die über keine Oberfläche zugänglich sind, und weitere Optionen verringern den Platz, den Windows auf der Festplatte belegt. (Deinstallieren unnötiger Windows-Anwendungen, Bereinigen des Ordners WinSxS, ...)&lt;br /&gt;Alles mit wenigen Klicks und mit der Möglichkeit, die ursprünglichen Werte wiederherzustellen. &lt;/p&gt;
 &lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Wichtige Informationen:&lt;/span&gt;&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;Alle Optionen dieser App lassen sich rückgängig machen.&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Seien Sie vorsichtig im Bereich Dienste. Deaktivieren Sie keine Dienste, wenn Sie nicht wirklich wissen, was sie tun, welche Abhängigkeiten sie haben usw. VERWENDEN SIE DIE SCHALTFLÄCHE „ASSISTENT“!!!&lt;/p&gt;
@@ -336,7 +336,7 @@ Onlineversion: %2</translation>
 <source>Analyze and optimize Windows to improve overall performance by disabling unnecessary features and configuring some that are inaccessible through an interface.
 Optimizations come from the Services, Scheduled Tasks, Programs, and Features pages.</source>
 <translation>Analysieren und optimieren Sie Windows, um die Gesamtleistung zu verbessern: Unnötige Funktionen werden deaktiviert und solche konfiguriert, die über keine Oberfläche zugänglich sind.
-Die Optimierungen stammen von den Seiten Dienste, Geplante Aufgaben, Programme und Features.</translation>
+Die Optimierungen stammen von den Seiten Dienste, Geplante Aufgaben, Programme und Funktionen.</translation>
 </message>
 <message>
 <source>Application to play PC games if you have a Gamepass account (paid)</source>
@@ -348,25 +348,25 @@ Die Optimierungen stammen von den Seiten Dienste, Geplante Aufgaben, Programme u
 </message>
 <message>
 <source>Apply features</source>
-<translation>Features anwenden</translation>
+<translation>Funktionen anwenden</translation>
 </message>
 <message>
 <source>Apply features finished successfully.</source>
-<translation>Anwenden der Features erfolgreich abgeschlossen.</translation>
+<translation>Funktionen erfolgreich angewendet.</translation>
 </message>
 <message>
 <source>Are you sure to disable all checked services?</source>
-<translation>Möchten Sie wirklich alle markierten Dienste deaktivieren?</translation>
+<translation>Möchten Sie wirklich alle angehakten Dienste deaktivieren?</translation>
 </message>
 <message>
 <source>Are you sure to disable all checked tasks?</source>
-<translation>Möchten Sie wirklich alle markierten Aufgaben deaktivieren?</translation>
+<translation>Möchten Sie wirklich alle angehakten Aufgaben deaktivieren?</translation>
 </message>
 <message>
 <source>Are you sure you want to restore the original values?<byte value="xd"/>
 All features, applications, services and tasks will be restored.</source>
 <translation>Möchten Sie wirklich die ursprünglichen Werte wiederherstellen?<byte value="xd"/>
-Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</translation>
+Alle Funktionen, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</translation>
 </message>
 <message>
 <source>Are you sure you want to restore the startup of all scheduled tasks?</source>
@@ -426,11 +426,11 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 </message>
 <message>
 <source>Autorun program: disable %1 done</source>
-<translation>Autostartprogramm: %1 deaktivieren fertig</translation>
+<translation>Autostartprogramm: %1 deaktiviert</translation>
 </message>
 <message>
 <source>Autorun program: enable %1 done</source>
-<translation>Autostartprogramm: %1 aktivieren fertig</translation>
+<translation>Autostartprogramm: %1 aktiviert</translation>
 </message>
 <message>
 <source>Autorun:</source>
@@ -502,7 +502,7 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 </message>
 <message>
 <source>Check all</source>
-<translation>Alle markieren</translation>
+<translation>Alle anhaken</translation>
 </message>
 <message>
 <source>Check update of Kestrune version</source>
@@ -566,23 +566,23 @@ Alle Features, Anwendungen, Dienste und Aufgaben werden wiederhergestellt.</tran
 </message>
 <message>
 <source>Disable checked programs</source>
-<translation>Markierte Programme deaktivieren</translation>
+<translation>Angehakte Programme deaktivieren</translation>
 </message>
 <message>
 <source>DISABLE checked services</source>
-<translation>Markierte Dienste DEAKTIVIEREN</translation>
+<translation>Angehakte Dienste DEAKTIVIEREN</translation>
 </message>
 <message>
 <source>Disable checked services</source>
-<translation>Markierte Dienste deaktivieren</translation>
+<translation>Angehakte Dienste deaktivieren</translation>
 </message>
 <message>
 <source>Disable checked services finished</source>
-<translation>Deaktivieren der markierten Dienste abgeschlossen</translation>
+<translation>Deaktivieren der angehakten Dienste abgeschlossen</translation>
 </message>
 <message>
 <source>DISABLE checked tasks</source>
-<translation>Markierte Aufgaben DEAKTIVIEREN</translation>
+<translation>Angehakte Aufgaben DEAKTIVIEREN</translation>
 </message>
 <message>
 <source>Disable clearing of virtual memory swap file on every shutdown</source>
@@ -729,6 +729,11 @@ vor allem bei Apps zur Videowiedergabe)</translation>
 <translation>deaktiviert:</translation>
 </message>
 <message>
+<source>disabled:</source>
+<comment>tasks</comment>
+<translation>deaktiviert:</translation>
+</message>
+<message>
 <source>DISK</source>
 <translation>DATENTRÄGER</translation>
 </message>
@@ -764,15 +769,15 @@ werden nur die von Ihnen deaktivierten Dienste wiederhergestellt</translation>
 </message>
 <message>
 <source>Enable checked programs</source>
-<translation>Markierte Programme aktivieren</translation>
+<translation>Angehakte Programme aktivieren</translation>
 </message>
 <message>
 <source>ENABLE checked services</source>
-<translation>Markierte Dienste AKTIVIEREN</translation>
+<translation>Angehakte Dienste AKTIVIEREN</translation>
 </message>
 <message>
 <source>Enable checked services finished</source>
-<translation>Aktivieren der markierten Dienste abgeschlossen</translation>
+<translation>Aktivieren der angehakten Dienste abgeschlossen</translation>
 </message>
 <message>
 <source>Enable game mode  (enabled by default)</source>
@@ -808,47 +813,47 @@ werden nur die von Ihnen deaktivierten Dienste wiederhergestellt</translation>
 </message>
 <message>
 <source>Features</source>
-<translation>Features</translation>
+<translation>Funktionen</translation>
 </message>
 <message>
 <source>Features applied successfully. Restart your PC!</source>
-<translation>Features erfolgreich angewendet. Starten Sie Ihren PC neu!</translation>
+<translation>Funktionen erfolgreich angewendet. Starten Sie Ihren PC neu!</translation>
 </message>
 <message>
 <source>Features: %1 improvements can be applied</source>
-<translation>Features: %1 Verbesserungen können angewendet werden</translation>
+<translation>Funktionen: %1 Verbesserungen können angewendet werden</translation>
 </message>
 <message>
 <source>Features: applied successfully. Restart your PC!</source>
-<translation>Features: erfolgreich angewendet. Starten Sie Ihren PC neu!</translation>
+<translation>Funktionen: erfolgreich angewendet. Starten Sie Ihren PC neu!</translation>
 </message>
 <message>
 <source>Features: applies Gaming optimizations</source>
-<translation>Features: Spieleoptimierungen werden angewendet</translation>
+<translation>Funktionen: Spieleoptimierungen werden angewendet</translation>
 </message>
 <message>
 <source>Features: applies SSD optimizations</source>
-<translation>Features: SSD-Optimierungen werden angewendet</translation>
+<translation>Funktionen: SSD-Optimierungen werden angewendet</translation>
 </message>
 <message>
 <source>Features: applies Windows optimizations</source>
-<translation>Features: Windows-Optimierungen werden angewendet</translation>
+<translation>Funktionen: Windows-Optimierungen werden angewendet</translation>
 </message>
 <message>
 <source>Features: Battery detected! Some optimizations will not be applied to maintain battery life</source>
-<translation>Features: Akku erkannt! Einige Optimierungen werden nicht angewendet, um die Akkulaufzeit zu erhalten</translation>
+<translation>Funktionen: Akku erkannt! Einige Optimierungen werden nicht angewendet, um die Akkulaufzeit zu erhalten</translation>
 </message>
 <message>
 <source>Features: reset Gaming optimizations</source>
-<translation>Features: Spieleoptimierungen werden zurückgesetzt</translation>
+<translation>Funktionen: Spieleoptimierungen werden zurückgesetzt</translation>
 </message>
 <message>
 <source>Features: reset SSD optimizations</source>
-<translation>Features: SSD-Optimierungen werden zurückgesetzt</translation>
+<translation>Funktionen: SSD-Optimierungen werden zurückgesetzt</translation>
 </message>
 <message>
 <source>Features: reset Windows optimizations</source>
-<translation>Features: Windows-Optimierungen werden zurückgesetzt</translation>
+<translation>Funktionen: Windows-Optimierungen werden zurückgesetzt</translation>
 </message>
 <message>
 <source>File %1</source>
@@ -888,7 +893,7 @@ werden nur die von Ihnen deaktivierten Dienste wiederhergestellt</translation>
 </message>
 <message>
 <source>Get WinSxS folder size in features page</source>
-<translation>Größe des WinSxS-Ordners auf der Seite „Features“ ermitteln</translation>
+<translation>Größe des WinSxS-Ordners auf der Seite „Funktionen“ ermitteln</translation>
 </message>
 <message>
 <source>GPU</source>
@@ -949,8 +954,8 @@ werden nur die von Ihnen deaktivierten Dienste wiederhergestellt</translation>
 <message>
 <source>Internal system features that can slow down your PC unnecessarily.
 Check them to optimize or uncheck them to restore defaults.</source>
-<translation>Interne Systemfeatures, die Ihren PC unnötig verlangsamen können.
-Markieren Sie sie zum Optimieren, oder heben Sie die Markierung auf, um die Standardwerte wiederherzustellen.</translation>
+<translation>Interne Systemfunktionen, die Ihren PC unnötig verlangsamen können.
+Haken Sie sie zum Optimieren an, oder entfernen Sie das Häkchen, um die Standardwerte wiederherzustellen.</translation>
 </message>
 <message>
 <source>interval in seconds:</source>
@@ -992,7 +997,7 @@ Geplante Aufgaben sind Programme, die aus verschiedenen Gründen zu einem bestim
 <source>List of programs started automatically each time Windows starts.
 Like services and scheduled tasks, automatically started programs can slow down your system. Uncheck those you don't use on every startup.</source>
 <translation>Liste der Programme, die bei jedem Start von Windows automatisch gestartet werden.
-Wie Dienste und geplante Aufgaben können sie Ihr System verlangsamen. Heben Sie die Markierung derer auf, die Sie nicht bei jedem Start verwenden.</translation>
+Wie Dienste und geplante Aufgaben können sie Ihr System verlangsamen. Entfernen Sie das Häkchen bei denen, die Sie nicht bei jedem Start verwenden.</translation>
 </message>
 <message>
 <source>List of Windows packages can be uninstalled without problems.
@@ -1022,7 +1027,7 @@ Mit „Deinstallierte Pakete anzeigen“ unter der Liste können Sie sie direkt 
 </message>
 <message>
 <source>Manage features  (included in the page &quot;Features&quot;)</source>
-<translation>Features verwalten  (auf der Seite „Features“ enthalten)</translation>
+<translation>Funktionen verwalten  (auf der Seite „Funktionen“ enthalten)</translation>
 </message>
 <message>
 <source>Manage programs and packages  (included in the page &quot;Programs&quot;)</source>
@@ -1222,7 +1227,7 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 </message>
 <message>
 <source>Process: disable EncoderServer done</source>
-<translation>Prozess: EncoderServer deaktivieren fertig</translation>
+<translation>Prozess: EncoderServer deaktiviert</translation>
 </message>
 <message>
 <source>processes</source>
@@ -1390,7 +1395,7 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 </message>
 <message>
 <source>Service: enable %1 done</source>
-<translation>Dienst: %1 aktivieren fertig</translation>
+<translation>Dienst: %1 aktiviert</translation>
 </message>
 <message>
 <source>Service: enable and start %1</source>
@@ -1398,7 +1403,7 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 </message>
 <message>
 <source>Service: enable and start %1 done</source>
-<translation>Dienst: %1 aktivieren und starten fertig</translation>
+<translation>Dienst: %1 aktiviert und gestartet</translation>
 </message>
 <message>
 <source>Service: enable and start %1, already running!</source>
@@ -1522,7 +1527,7 @@ info</translation>
 </message>
 <message>
 <source>Task: Enable and start %1 done</source>
-<translation>Aufgabe: %1 aktivieren und starten fertig</translation>
+<translation>Aufgabe: %1 aktiviert und gestartet</translation>
 </message>
 <message>
 <source>Tasks</source>
@@ -1562,7 +1567,7 @@ info</translation>
 </message>
 <message>
 <source>Uncheck all</source>
-<translation>Alle Markierungen aufheben</translation>
+<translation>Alle Häkchen entfernen</translation>
 </message>
 <message>
 <source>under way</source>
@@ -1684,11 +1689,11 @@ info</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
-<translation>Möchten Sie die Indizierungsattribute aller Dateien der Windows-Partition festlegen?</translation>
+<translation>Soll der Inhaltsindex für alle Dateien der Windows-Partition abgeschaltet werden? Das kann lange dauern.</translation>
 </message>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
-<translation>Möchten Sie die Indizierungsattribute aller Dateien der Windows-Partition festlegen?</translation>
+<translation>Soll die Einstellung zum Inhaltsindex jetzt auf alle Dateien der Windows-Partition angewendet werden? Das kann lange dauern.</translation>
 </message>
 <message>
 <source>Written: %1</source>

@@ -322,11 +322,11 @@ Versión en línea: %2</translation>
 </message>
 <message>
 <source>Add indexing attribute of %1 finished</source>
-<translation>Atributo de indexación de %1 agregado</translation>
+<translation>Atributo de indexación de %1 añadido</translation>
 </message>
 <message>
 <source>Add indexing attribute of Windows partition %1</source>
-<translation>Agregando el atributo de indexación de la partición de Windows %1</translation>
+<translation>Añadiendo el atributo de indexación de la partición de Windows %1</translation>
 </message>
 <message>
 <source>Analyze</source>
@@ -386,11 +386,11 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 </message>
 <message>
 <source>Assistant - no services to deactivate</source>
-<translation>Asistente: no hay servicios que desactivar</translation>
+<translation>Asistente: no hay servicios que deshabilitar</translation>
 </message>
 <message>
 <source>Assistant - no tasks to deactivate</source>
-<translation>Asistente: no hay tareas que desactivar</translation>
+<translation>Asistente: no hay tareas que deshabilitar</translation>
 </message>
 <message>
 <source>at boot</source>
@@ -426,11 +426,11 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 </message>
 <message>
 <source>Autorun program: disable %1 done</source>
-<translation>Programa de inicio: deshabilitar %1 listo</translation>
+<translation>Programa de inicio: %1 deshabilitado</translation>
 </message>
 <message>
 <source>Autorun program: enable %1 done</source>
-<translation>Programa de inicio: habilitar %1 listo</translation>
+<translation>Programa de inicio: %1 habilitado</translation>
 </message>
 <message>
 <source>Autorun:</source>
@@ -530,7 +530,7 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 </message>
 <message>
 <source>Content indexing off</source>
-<translation>Indexación de contenido desactivada</translation>
+<translation>Indexación de contenido deshabilitada</translation>
 </message>
 <message>
 <source>Content indexing on</source>
@@ -727,6 +727,11 @@ de pantalla completa, sobre todo en aplicaciones de vídeo)</translation>
 <message>
 <source>disabled:</source>
 <translation>deshabilitados:</translation>
+</message>
+<message>
+<source>disabled:</source>
+<comment>tasks</comment>
+<translation>deshabilitadas:</translation>
 </message>
 <message>
 <source>DISK</source>
@@ -1114,7 +1119,7 @@ Puede volver a instalarlos directamente haciendo clic en «Ver paquetes desinsta
 </message>
 <message>
 <source>off</source>
-<translation>desactivado</translation>
+<translation>deshabilitado</translation>
 </message>
 <message>
 <source>Old Xbox App, no longer supported!</source>
@@ -1222,7 +1227,7 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 </message>
 <message>
 <source>Process: disable EncoderServer done</source>
-<translation>Proceso: deshabilitar EncoderServer listo</translation>
+<translation>Proceso: EncoderServer deshabilitado</translation>
 </message>
 <message>
 <source>processes</source>
@@ -1390,7 +1395,7 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 </message>
 <message>
 <source>Service: enable %1 done</source>
-<translation>Servicio: habilitar %1 listo</translation>
+<translation>Servicio: %1 habilitado</translation>
 </message>
 <message>
 <source>Service: enable and start %1</source>
@@ -1398,7 +1403,7 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 </message>
 <message>
 <source>Service: enable and start %1 done</source>
-<translation>Servicio: habilitar e iniciar %1 listo</translation>
+<translation>Servicio: %1 habilitado e iniciado</translation>
 </message>
 <message>
 <source>Service: enable and start %1, already running!</source>
@@ -1522,7 +1527,7 @@ del sistema</translation>
 </message>
 <message>
 <source>Task: Enable and start %1 done</source>
-<translation>Tarea: habilitar e iniciar %1 listo</translation>
+<translation>Tarea: %1 habilitada e iniciada</translation>
 </message>
 <message>
 <source>Tasks</source>
@@ -1684,11 +1689,11 @@ del sistema</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
-<translation>¿Desea establecer los atributos de indexación de todos los archivos de la partición de Windows?</translation>
+<translation>¿Desea deshabilitar la indexación del contenido de todos los archivos de la partición de Windows? Puede tardar mucho.</translation>
 </message>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
-<translation>¿Desea establecer los atributos de indexación de todos los archivos de la partición de Windows?</translation>
+<translation>¿Desea aplicar ahora este ajuste de indexación a todos los archivos de la partición de Windows? Puede tardar mucho.</translation>
 </message>
 <message>
 <source>Written: %1</source>

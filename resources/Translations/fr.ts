@@ -729,6 +729,11 @@ du plein écran, surtout dans les applications de lecture vidéo)</translation>
 <translation>désactivés :</translation>
 </message>
 <message>
+<source>disabled:</source>
+<comment>tasks</comment>
+<translation>désactivées :</translation>
+</message>
+<message>
 <source>DISK</source>
 <translation>DISQUE</translation>
 </message>
@@ -1684,11 +1689,11 @@ système</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
-<translation>Voulez-vous définir les attributs d’indexation de tous les fichiers de la partition Windows ?</translation>
+<translation>Faut-il désactiver l’indexation du contenu de tous les fichiers de la partition Windows ? Cela peut prendre longtemps.</translation>
 </message>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
-<translation>Voulez-vous définir les attributs d’indexation de tous les fichiers de la partition Windows ?</translation>
+<translation>Faut-il appliquer maintenant ce réglage d’indexation à tous les fichiers de la partition Windows ? Cela peut prendre longtemps.</translation>
 </message>
 <message>
 <source>Written: %1</source>

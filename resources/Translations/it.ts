@@ -356,11 +356,11 @@ Le ottimizzazioni provengono dalle pagine Servizi, Attività pianificate, Progra
 </message>
 <message>
 <source>Are you sure to disable all checked services?</source>
-<translation>Disabilitare tutti i servizi selezionati?</translation>
+<translation>Disabilitare tutti i servizi spuntati?</translation>
 </message>
 <message>
 <source>Are you sure to disable all checked tasks?</source>
-<translation>Disabilitare tutte le attività selezionate?</translation>
+<translation>Disabilitare tutte le attività spuntate?</translation>
 </message>
 <message>
 <source>Are you sure you want to restore the original values?<byte value="xd"/>
@@ -386,11 +386,11 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 </message>
 <message>
 <source>Assistant - no services to deactivate</source>
-<translation>Assistente - nessun servizio da disattivare</translation>
+<translation>Assistente - nessun servizio da disabilitare</translation>
 </message>
 <message>
 <source>Assistant - no tasks to deactivate</source>
-<translation>Assistente - nessuna attività da disattivare</translation>
+<translation>Assistente - nessuna attività da disabilitare</translation>
 </message>
 <message>
 <source>at boot</source>
@@ -426,11 +426,11 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 </message>
 <message>
 <source>Autorun program: disable %1 done</source>
-<translation>Programma di avvio: disabilita %1 completato</translation>
+<translation>Programma di avvio: %1 disabilitato</translation>
 </message>
 <message>
 <source>Autorun program: enable %1 done</source>
-<translation>Programma di avvio: abilita %1 completato</translation>
+<translation>Programma di avvio: %1 abilitato</translation>
 </message>
 <message>
 <source>Autorun:</source>
@@ -502,7 +502,7 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 </message>
 <message>
 <source>Check all</source>
-<translation>Seleziona tutto</translation>
+<translation>Spunta tutto</translation>
 </message>
 <message>
 <source>Check update of Kestrune version</source>
@@ -530,7 +530,7 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 </message>
 <message>
 <source>Content indexing off</source>
-<translation>Indicizzazione dei contenuti disattivata</translation>
+<translation>Indicizzazione dei contenuti disabilitata</translation>
 </message>
 <message>
 <source>Content indexing on</source>
@@ -566,23 +566,23 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 </message>
 <message>
 <source>Disable checked programs</source>
-<translation>Disabilita i programmi selezionati</translation>
+<translation>Disabilita i programmi spuntati</translation>
 </message>
 <message>
 <source>DISABLE checked services</source>
-<translation>DISABILITA i servizi selezionati</translation>
+<translation>DISABILITA i servizi spuntati</translation>
 </message>
 <message>
 <source>Disable checked services</source>
-<translation>Disabilita i servizi selezionati</translation>
+<translation>Disabilita i servizi spuntati</translation>
 </message>
 <message>
 <source>Disable checked services finished</source>
-<translation>Disabilitazione dei servizi selezionati completata</translation>
+<translation>Disabilitazione dei servizi spuntati completata</translation>
 </message>
 <message>
 <source>DISABLE checked tasks</source>
-<translation>DISABILITA le attività selezionate</translation>
+<translation>DISABILITA le attività spuntate</translation>
 </message>
 <message>
 <source>Disable clearing of virtual memory swap file on every shutdown</source>
@@ -729,6 +729,11 @@ a schermo intero, soprattutto nelle app di riproduzione video)</translation>
 <translation>disabilitati:</translation>
 </message>
 <message>
+<source>disabled:</source>
+<comment>tasks</comment>
+<translation>disabilitate:</translation>
+</message>
+<message>
 <source>DISK</source>
 <translation>DISCO</translation>
 </message>
@@ -764,15 +769,15 @@ verranno ripristinati solo i servizi disabilitati dall'utente</translation>
 </message>
 <message>
 <source>Enable checked programs</source>
-<translation>Abilita i programmi selezionati</translation>
+<translation>Abilita i programmi spuntati</translation>
 </message>
 <message>
 <source>ENABLE checked services</source>
-<translation>ABILITA i servizi selezionati</translation>
+<translation>ABILITA i servizi spuntati</translation>
 </message>
 <message>
 <source>Enable checked services finished</source>
-<translation>Abilitazione dei servizi selezionati completata</translation>
+<translation>Abilitazione dei servizi spuntati completata</translation>
 </message>
 <message>
 <source>Enable game mode  (enabled by default)</source>
@@ -912,11 +917,11 @@ verranno ripristinati solo i servizi disabilitati dall'utente</translation>
 </message>
 <message>
 <source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
-<translation>Se non si usano cuffie o dispositivi audio collegati tramite Bluetooth, è possibile deselezionare questa voce</translation>
+<translation>Se non si usano cuffie o dispositivi audio collegati tramite Bluetooth, è possibile togliere la spunta</translation>
 </message>
 <message>
 <source>If you don't have any printers, you can uncheck this</source>
-<translation>Se non si dispone di stampanti, è possibile deselezionare questa voce</translation>
+<translation>Se non si dispone di stampanti, è possibile togliere la spunta</translation>
 </message>
 <message>
 <source>Increase maximum amount of physical memory that can be locked for I/O operations</source>
@@ -950,7 +955,7 @@ verranno ripristinati solo i servizi disabilitati dall'utente</translation>
 <source>Internal system features that can slow down your PC unnecessarily.
 Check them to optimize or uncheck them to restore defaults.</source>
 <translation>Funzionalità interne del sistema che possono rallentare inutilmente il PC.
-Selezionarle per ottimizzare o deselezionarle per ripristinare i valori predefiniti.</translation>
+Spuntarle per ottimizzare o togliere la spunta per ripristinare i valori predefiniti.</translation>
 </message>
 <message>
 <source>interval in seconds:</source>
@@ -992,7 +997,7 @@ Le attività pianificate sono programmi eseguiti in background in un momento spe
 <source>List of programs started automatically each time Windows starts.
 Like services and scheduled tasks, automatically started programs can slow down your system. Uncheck those you don't use on every startup.</source>
 <translation>Elenco dei programmi avviati automaticamente a ogni avvio di Windows.
-Come i servizi e le attività pianificate, possono rallentare il sistema. Deselezionare quelli che non si usano a ogni avvio.</translation>
+Come i servizi e le attività pianificate, possono rallentare il sistema. Togliere la spunta a quelli che non si usano a ogni avvio.</translation>
 </message>
 <message>
 <source>List of Windows packages can be uninstalled without problems.
@@ -1054,7 +1059,7 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>Microsoft codecs for video encoding/decoding. If you are not using Windows internal features for streaming,encoding or playing videos, uncheck this box</source>
-<translation>Codec Microsoft per la codifica e decodifica video. Se non si usano le funzionalità interne di Windows per lo streaming, la codifica o la riproduzione di video, deselezionare questa casella</translation>
+<translation>Codec Microsoft per la codifica e decodifica video. Se non si usano le funzionalità interne di Windows per lo streaming, la codifica o la riproduzione di video, togliere la spunta</translation>
 </message>
 <message>
 <source>Microsoft video editor</source>
@@ -1222,7 +1227,7 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 </message>
 <message>
 <source>Process: disable EncoderServer done</source>
-<translation>Processo: disabilita EncoderServer completato</translation>
+<translation>Processo: EncoderServer disabilitato</translation>
 </message>
 <message>
 <source>processes</source>
@@ -1390,7 +1395,7 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 </message>
 <message>
 <source>Service: enable %1 done</source>
-<translation>Servizio: abilita %1 completato</translation>
+<translation>Servizio: %1 abilitato</translation>
 </message>
 <message>
 <source>Service: enable and start %1</source>
@@ -1398,7 +1403,7 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 </message>
 <message>
 <source>Service: enable and start %1 done</source>
-<translation>Servizio: abilita e avvia %1 completato</translation>
+<translation>Servizio: %1 abilitato e avviato</translation>
 </message>
 <message>
 <source>Service: enable and start %1, already running!</source>
@@ -1522,7 +1527,7 @@ sul sistema</translation>
 </message>
 <message>
 <source>Task: Enable and start %1 done</source>
-<translation>Attività: abilita e avvia %1 completato</translation>
+<translation>Attività: %1 abilitata e avviata</translation>
 </message>
 <message>
 <source>Tasks</source>
@@ -1562,7 +1567,7 @@ sul sistema</translation>
 </message>
 <message>
 <source>Uncheck all</source>
-<translation>Deseleziona tutto</translation>
+<translation>Togli tutte le spunte</translation>
 </message>
 <message>
 <source>under way</source>
@@ -1684,11 +1689,11 @@ sul sistema</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
-<translation>Impostare gli attributi di indicizzazione di tutti i file della partizione di Windows?</translation>
+<translation>Disabilitare l'indicizzazione del contenuto di tutti i file della partizione di Windows? Può richiedere molto tempo.</translation>
 </message>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
-<translation>Impostare gli attributi di indicizzazione di tutti i file della partizione di Windows?</translation>
+<translation>Applicare ora questa impostazione di indicizzazione a tutti i file della partizione di Windows? Può richiedere molto tempo.</translation>
 </message>
 <message>
 <source>Written: %1</source>
@@ -1704,7 +1709,7 @@ sul sistema</translation>
 </message>
 <message>
 <source>XBOX Game Bar that appears at the top of the screen, above a game. If you don't use it, uncheck this box</source>
-<translation>Xbox Game Bar che appare nella parte superiore dello schermo, sopra il gioco. Se non la si usa, deselezionare questa casella</translation>
+<translation>Xbox Game Bar che appare nella parte superiore dello schermo, sopra il gioco. Se non la si usa, togliere la spunta</translation>
 </message>
 <message>
 <source>Yes</source>

@@ -314,7 +314,7 @@ Web サイトを開いてダウンロードしますか?<byte value="xd"/>
 </message>
 <message>
 <source>About</source>
-<translation>情報</translation>
+<translation>製品情報</translation>
 </message>
 <message>
 <source>absent</source>
@@ -726,6 +726,11 @@ especially for video playback apps)</source>
 </message>
 <message>
 <source>disabled:</source>
+<translation>無効:</translation>
+</message>
+<message>
+<source>disabled:</source>
+<comment>tasks</comment>
 <translation>無効:</translation>
 </message>
 <message>
@@ -1684,11 +1689,11 @@ Information</source>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
-<translation>Windows パーティションのすべてのファイルのインデックス属性を設定しますか?</translation>
+<translation>Windows パーティションのすべてのファイルで内容のインデックス作成を無効にしますか? 時間がかかることがあります。</translation>
 </message>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
-<translation>Windows パーティションのすべてのファイルのインデックス属性を設定しますか?</translation>
+<translation>このインデックスの設定を Windows パーティションのすべてのファイルに適用しますか? 時間がかかることがあります。</translation>
 </message>
 <message>
 <source>Written: %1</source>

@@ -426,11 +426,11 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 </message>
 <message>
 <source>Autorun program: disable %1 done</source>
-<translation>Opstartprogramma: %1 uitschakelen klaar</translation>
+<translation>Opstartprogramma: %1 uitgeschakeld</translation>
 </message>
 <message>
 <source>Autorun program: enable %1 done</source>
-<translation>Opstartprogramma: %1 inschakelen klaar</translation>
+<translation>Opstartprogramma: %1 ingeschakeld</translation>
 </message>
 <message>
 <source>Autorun:</source>
@@ -726,6 +726,11 @@ volledig scherm, vooral in apps voor videoweergave)</translation>
 </message>
 <message>
 <source>disabled:</source>
+<translation>uitgeschakeld:</translation>
+</message>
+<message>
+<source>disabled:</source>
+<comment>tasks</comment>
 <translation>uitgeschakeld:</translation>
 </message>
 <message>
@@ -1222,7 +1227,7 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 </message>
 <message>
 <source>Process: disable EncoderServer done</source>
-<translation>Proces: EncoderServer uitschakelen klaar</translation>
+<translation>Proces: EncoderServer uitgeschakeld</translation>
 </message>
 <message>
 <source>processes</source>
@@ -1390,7 +1395,7 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 </message>
 <message>
 <source>Service: enable %1 done</source>
-<translation>Service: %1 inschakelen klaar</translation>
+<translation>Service: %1 ingeschakeld</translation>
 </message>
 <message>
 <source>Service: enable and start %1</source>
@@ -1398,7 +1403,7 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 </message>
 <message>
 <source>Service: enable and start %1 done</source>
-<translation>Service: %1 inschakelen en starten klaar</translation>
+<translation>Service: %1 ingeschakeld en gestart</translation>
 </message>
 <message>
 <source>Service: enable and start %1, already running!</source>
@@ -1522,7 +1527,7 @@ informatie</translation>
 </message>
 <message>
 <source>Task: Enable and start %1 done</source>
-<translation>Taak: %1 inschakelen en starten klaar</translation>
+<translation>Taak: %1 ingeschakeld en gestart</translation>
 </message>
 <message>
 <source>Tasks</source>
@@ -1684,11 +1689,11 @@ informatie</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
-<translation>Wilt u de indexeringskenmerken van alle bestanden in de Windows-partitie instellen?</translation>
+<translation>Wilt u de inhoudsindexering van alle bestanden op de Windows-partitie uitschakelen? Dit kan lang duren.</translation>
 </message>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
-<translation>Wilt u de indexeringskenmerken van alle bestanden in de Windows-partitie instellen?</translation>
+<translation>Wilt u deze indexeringsinstelling nu toepassen op alle bestanden op de Windows-partitie? Dit kan lang duren.</translation>
 </message>
 <message>
 <source>Written: %1</source>

@@ -314,7 +314,7 @@ Wersja online: %2</translation>
 </message>
 <message>
 <source>About</source>
-<translation>Informacje</translation>
+<translation>O programie</translation>
 </message>
 <message>
 <source>absent</source>
@@ -726,6 +726,11 @@ pełnego ekranu, zwłaszcza w aplikacjach do odtwarzania wideo)</translation>
 </message>
 <message>
 <source>disabled:</source>
+<translation>wyłączone:</translation>
+</message>
+<message>
+<source>disabled:</source>
+<comment>tasks</comment>
 <translation>wyłączone:</translation>
 </message>
 <message>
@@ -1684,11 +1689,11 @@ o systemie</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
-<translation>Czy chcesz ustawić atrybuty indeksowania wszystkich plików na partycji Windows?</translation>
+<translation>Czy wyłączyć indeksowanie zawartości wszystkich plików na partycji Windows? Może to długo potrwać.</translation>
 </message>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
-<translation>Czy chcesz ustawić atrybuty indeksowania wszystkich plików na partycji Windows?</translation>
+<translation>Czy zastosować teraz to ustawienie indeksowania do wszystkich plików na partycji Windows? Może to długo potrwać.</translation>
 </message>
 <message>
 <source>Written: %1</source>

@@ -340,7 +340,7 @@ As otimizações vêm das páginas Serviços, Tarefas agendadas, Programas e Rec
 </message>
 <message>
 <source>Application to play PC games if you have a Gamepass account (paid)</source>
-<translation>Aplicativo para jogar jogos de PC com uma assinatura do Game Pass (paga)</translation>
+<translation>Aplicativo para jogar no PC com uma assinatura do Game Pass (paga)</translation>
 </message>
 <message>
 <source>Apply</source>
@@ -386,11 +386,11 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 </message>
 <message>
 <source>Assistant - no services to deactivate</source>
-<translation>Assistente - nenhum serviço a desativar</translation>
+<translation>Assistente - nenhum serviço a desabilitar</translation>
 </message>
 <message>
 <source>Assistant - no tasks to deactivate</source>
-<translation>Assistente - nenhuma tarefa a desativar</translation>
+<translation>Assistente - nenhuma tarefa a desabilitar</translation>
 </message>
 <message>
 <source>at boot</source>
@@ -426,11 +426,11 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 </message>
 <message>
 <source>Autorun program: disable %1 done</source>
-<translation>Programa de inicialização: desabilitar %1 concluído</translation>
+<translation>Programa de inicialização: %1 desabilitado</translation>
 </message>
 <message>
 <source>Autorun program: enable %1 done</source>
-<translation>Programa de inicialização: habilitar %1 concluído</translation>
+<translation>Programa de inicialização: %1 habilitado</translation>
 </message>
 <message>
 <source>Autorun:</source>
@@ -530,7 +530,7 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 </message>
 <message>
 <source>Content indexing off</source>
-<translation>Indexação de conteúdo desativada</translation>
+<translation>Indexação de conteúdo desabilitada</translation>
 </message>
 <message>
 <source>Content indexing on</source>
@@ -600,7 +600,7 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 </message>
 <message>
 <source>Disable distribution optimization of Windows updates</source>
-<translation>Desabilitar a otimização da distribuição de atualizações do Windows</translation>
+<translation>Desabilitar a Otimização de Entrega das atualizações do Windows</translation>
 </message>
 <message>
 <source>Disable dynamic tick of system timers
@@ -727,6 +727,11 @@ de tela inteira, principalmente em aplicativos de vídeo)</translation>
 <message>
 <source>disabled:</source>
 <translation>desabilitados:</translation>
+</message>
+<message>
+<source>disabled:</source>
+<comment>tasks</comment>
+<translation>desabilitadas:</translation>
 </message>
 <message>
 <source>DISK</source>
@@ -1222,7 +1227,7 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 </message>
 <message>
 <source>Process: disable EncoderServer done</source>
-<translation>Processo: desabilitar EncoderServer concluído</translation>
+<translation>Processo: EncoderServer desabilitado</translation>
 </message>
 <message>
 <source>processes</source>
@@ -1390,7 +1395,7 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 </message>
 <message>
 <source>Service: enable %1 done</source>
-<translation>Serviço: habilitar %1 concluído</translation>
+<translation>Serviço: %1 habilitado</translation>
 </message>
 <message>
 <source>Service: enable and start %1</source>
@@ -1398,7 +1403,7 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 </message>
 <message>
 <source>Service: enable and start %1 done</source>
-<translation>Serviço: habilitar e iniciar %1 concluído</translation>
+<translation>Serviço: %1 habilitado e iniciado</translation>
 </message>
 <message>
 <source>Service: enable and start %1, already running!</source>
@@ -1522,7 +1527,7 @@ do sistema</translation>
 </message>
 <message>
 <source>Task: Enable and start %1 done</source>
-<translation>Tarefa: habilitar e iniciar %1 concluído</translation>
+<translation>Tarefa: %1 habilitada e iniciada</translation>
 </message>
 <message>
 <source>Tasks</source>
@@ -1684,11 +1689,11 @@ do sistema</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
-<translation>Deseja definir os atributos de indexação de todos os arquivos da partição do Windows?</translation>
+<translation>Deseja desabilitar a indexação do conteúdo de todos os arquivos da partição do Windows? Isso pode demorar.</translation>
 </message>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
-<translation>Deseja definir os atributos de indexação de todos os arquivos da partição do Windows?</translation>
+<translation>Deseja aplicar agora esta configuração de indexação a todos os arquivos da partição do Windows? Isso pode demorar.</translation>
 </message>
 <message>
 <source>Written: %1</source>

@@ -6,35 +6,35 @@
 <name>texts</name>
 <message>
 <source>  20   (variable and long quantum, foreground boost X1)</source>
-<translation>  20   (可变长时间片，前台提升 X1)</translation>
+<translation>  20   （可变长时间片，前台提升 X1）</translation>
 </message>
 <message>
 <source>  21   (variable and long quantum, foreground boost X2)</source>
-<translation>  21   (可变长时间片，前台提升 X2)</translation>
+<translation>  21   （可变长时间片，前台提升 X2）</translation>
 </message>
 <message>
 <source>  22   (variable and long quantum, foreground boost X3)</source>
-<translation>  22   (可变长时间片，前台提升 X3)</translation>
+<translation>  22   （可变长时间片，前台提升 X3）</translation>
 </message>
 <message>
 <source>  24   (fixed and long quantum, foreground boost X1) (not recommended)</source>
-<translation>  24   (固定长时间片，前台提升 X1) (不推荐)</translation>
+<translation>  24   （固定长时间片，前台提升 X1）（不推荐）</translation>
 </message>
 <message>
 <source>  36   (variable and short quantum, foreground boost X1)</source>
-<translation>  36   (可变短时间片，前台提升 X1)</translation>
+<translation>  36   （可变短时间片，前台提升 X1）</translation>
 </message>
 <message>
 <source>  37   (variable and short quantum, foreground boost X2)</source>
-<translation>  37   (可变短时间片，前台提升 X2)</translation>
+<translation>  37   （可变短时间片，前台提升 X2）</translation>
 </message>
 <message>
 <source>  38   (variable and short quantum, foreground boost X3) (recommended)</source>
-<translation>  38   (可变短时间片，前台提升 X3) (推荐)</translation>
+<translation>  38   （可变短时间片，前台提升 X3）（推荐）</translation>
 </message>
 <message>
 <source>  40   (fixed and short quantum, foreground boost X1) (not recommended)</source>
-<translation>  40   (固定短时间片，前台提升 X1) (不推荐)</translation>
+<translation>  40   （固定短时间片，前台提升 X1）（不推荐）</translation>
 </message>
 <message>
 <source>1</source>
@@ -131,52 +131,52 @@
 &lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;%winName&lt;/span&gt;&lt;/p&gt;
 &lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;版本:   %winEdition&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;内部版本:   %winBuild&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;显示版本:   %winVersion&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;安装在 SSD 上:   %winOnSsd&lt;/p&gt;&lt;/td&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;版本：   %winEdition&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;内部版本：   %winBuild&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;显示版本：   %winVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;安装在 SSD 上：   %winOnSsd&lt;/p&gt;&lt;/td&gt;
 &lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;主板:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;主板：&lt;/span&gt;&lt;/p&gt;
 &lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%mbManufacturer&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;型号:   %mbModel&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;BIOS 版本:   %mbBiosVersion&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;BIOS 日期:   %mbBiosDate&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;型号：   %mbModel&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;BIOS 版本：   %mbBiosVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;BIOS 日期：   %mbBiosDate&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
 &lt;tr&gt;
 &lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;处理器:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;处理器：&lt;/span&gt;&lt;/p&gt;
 &lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%cpuName&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;默认频率:   %cpuFreq MHz&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;内核 / 线程:   %cpuCore  / %cpuThread&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L2 缓存大小:   %cpuL2Size&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L3 缓存大小:   %cpuL3Size&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;插槽:   %cpuSocket&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;默认频率：   %cpuFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;内核 / 线程：   %cpuCore  / %cpuThread&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L2 缓存大小：   %cpuL2Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;L3 缓存大小：   %cpuL3Size&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;插槽：   %cpuSocket&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HyperThreading:   %cpuHt&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;虚拟化:   %cpuV&lt;/p&gt;&lt;/td&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;虚拟化：   %cpuV&lt;/p&gt;&lt;/td&gt;
 &lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;内存:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;内存：&lt;/span&gt;&lt;/p&gt;
 &lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;容量:   %memTotal&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;可用:   %memFree&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;频率:   %memFreq MHz&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;外形规格:   %memFormFactor&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;虚拟内存:   %memVSize&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;容量：   %memTotal&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;可用：   %memFree&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;频率：   %memFreq MHz&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;外形规格：   %memFormFactor&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;虚拟内存：   %memVSize&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;
 &lt;tr&gt;
 &lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;显卡和屏幕:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;显卡和屏幕：&lt;/span&gt;&lt;/p&gt;
 &lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;%gpuName&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;驱动程序版本:   %gpuDriverVersion&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;驱动程序日期:   %gpuDriverDate&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;屏幕:   正在加载屏幕信息...&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;分辨率:   %gpuDesktopSize&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;最大分辨率:   %gpuDesktopMaxSize&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;刷新率:   %gpuRefreshRate&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;最大刷新率:   %screenMaxRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;驱动程序版本：   %gpuDriverVersion&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;驱动程序日期：   %gpuDriverDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;屏幕：   正在加载屏幕信息...&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;分辨率：   %gpuDesktopSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;最大分辨率：   %gpuDesktopMaxSize&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;刷新率：   %gpuRefreshRate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;最大刷新率：   %screenMaxRefreshRate&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;HDR:   %screenHdr&lt;/p&gt;&lt;/td&gt;
 &lt;td width=&quot;50%&quot; style=&quot;vertical-align:top&quot;&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;磁盘:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;span style=&quot;font-weight:700; color:#000000;&quot;&gt;磁盘：&lt;/span&gt;&lt;/p&gt;
 &lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;正在加载磁盘信息...&lt;/p&gt;
 &lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;br /&gt;&lt;/p&gt;&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;
@@ -199,19 +199,19 @@
 &lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Be careful with the Services section. Do not disable services if you are not really aware of what they are, dependencies etc... USE THE ASSISTANT BUTTON!!!&lt;/p&gt;
 &lt;/body&gt;&lt;/html&gt;</source>
 <translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body style=&quot;font-family:'Segoe UI'; font-size:10pt; font-weight:400; font-style:normal;&quot;&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;版本:&lt;/span&gt;   测试版 %version&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;日期:&lt;/span&gt;    %buildDate&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;作者:&lt;/span&gt;   Ondrevale&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;联系方式:&lt;/span&gt;   &lt;a href=&quot;mailto:contact@kestrune.example&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;contact@kestrune.example&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;网站:&lt;/span&gt;   &lt;a href=&quot;https://kestrune.example/&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;https://kestrune.example/&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;编程语言和框架:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;版本：&lt;/span&gt;   测试版 %version&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;日期：&lt;/span&gt;    %buildDate&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;作者：&lt;/span&gt;   Ondrevale&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;联系方式：&lt;/span&gt;   &lt;a href=&quot;mailto:contact@kestrune.example&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;contact@kestrune.example&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;网站：&lt;/span&gt;   &lt;a href=&quot;https://kestrune.example/&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;https://kestrune.example/&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;&lt;span style=&quot;font-size:9pt; font-weight:700;&quot;&gt;编程语言和框架：&lt;/span&gt;&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ 与 Qt 6，采用 GNU LGPL 第 3 版许可&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;为 Windows 10 和 Windows 11 开发&lt;/p&gt;
-&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;目的:&lt;/span&gt;&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;此应用旨在提高整体性能而不改变 Windows 的本质，帮助你禁用所有可能多余且影响性能的功能、程序、服务和计划任务。它还会配置一些无法通过界面访问的系统内部功能，其他选项可减少 Windows 在硬盘上占用的空间。(卸载不必要的 Windows 应用、清理 WinSxS 文件夹等)&lt;br /&gt;只需单击几下即可完成，并且可以还原为原始值。 &lt;/p&gt;
-&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;重要信息:&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;目的：&lt;/span&gt;&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;此应用旨在提高整体性能而不改变 Windows 的本质，帮助你禁用所有可能多余且影响性能的功能、程序、服务和计划任务。它还会配置一些无法通过界面访问的系统内部功能，其他选项可减少 Windows 在硬盘上占用的空间。（卸载不必要的 Windows 应用、清理 WinSxS 文件夹等）&lt;br /&gt;只需单击几下即可完成，并且可以还原为原始值。 &lt;/p&gt;
+&lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;重要信息：&lt;/span&gt;&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;此应用中的所有选项都是可逆的。&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;请谨慎使用“服务”部分。如果你不清楚服务的用途、依赖关系等，请勿禁用。请使用“助手”按钮!!!&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;请谨慎使用“服务”部分。如果你不清楚服务的用途、依赖关系等，请勿禁用。请使用“助手”按钮！！！&lt;/p&gt;
 &lt;/body&gt;&lt;/html&gt;</translation>
 </message>
 <message>
@@ -228,15 +228,15 @@
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;a href=&quot;https://learn.microsoft.com/windows/win32/procthread/priority-boosts&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;read more here&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
 &lt;/body&gt;&lt;/html&gt;</source>
 <translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- 固定时间片: 处理器时间在应用程序之间平均分配，&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- 固定时间片：处理器时间在应用程序之间平均分配，&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;而可变时间片允许应用程序在需要时占用处理器更长时间。&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- 短时间片: 处理器时间在任务之间切换更快，&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- 短时间片：处理器时间在任务之间切换更快，&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;而长时间片则为应用程序分配更多处理器时间。&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- 前台提升 X 倍: 时间片增加 X 倍，&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- 前台提升 X 倍：时间片增加 X 倍，&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;有利于前台应用程序。&lt;/p&gt;
 &lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; font-size:4pt;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;在纯游戏场景中，根据所选的值，可提高 FPS (22, 21)、&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS 和响应能力 (38, 37)，或降低键盘/鼠标或手柄的延迟 (36, 24, 40)。&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;在纯游戏场景中，根据所选的值，可提高 FPS（22, 21）、&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS 和响应能力（38, 37），或降低键盘/鼠标或手柄的延迟（36, 24, 40）。&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;&lt;a href=&quot;https://learn.microsoft.com/windows/win32/procthread/priority-boosts&quot;&gt;&lt;span style=&quot;text-decoration: underline; color:#000000;&quot;&gt;了解更多&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;
 &lt;/body&gt;&lt;/html&gt;</translation>
 </message>
@@ -306,11 +306,11 @@ Would you like to visit the website for download?<byte value="xd"/>
 <byte value="xd"/>
 Current version: %1<byte value="xd"/>
 Online version: %2</source>
-<translation>Kestrune 有新版本可用!<byte value="xd"/>
-是否访问网站进行下载?<byte value="xd"/>
+<translation>Kestrune 有新版本可用！<byte value="xd"/>
+是否访问网站进行下载？<byte value="xd"/>
 <byte value="xd"/>
-当前版本: %1<byte value="xd"/>
-在线版本: %2</translation>
+当前版本：%1<byte value="xd"/>
+在线版本：%2</translation>
 </message>
 <message>
 <source>About</source>
@@ -340,7 +340,7 @@ Optimizations come from the Services, Scheduled Tasks, Programs, and Features pa
 </message>
 <message>
 <source>Application to play PC games if you have a Gamepass account (paid)</source>
-<translation>使用 Game Pass 订阅(付费)玩电脑游戏的应用</translation>
+<translation>使用 Game Pass 订阅（付费）玩电脑游戏的应用</translation>
 </message>
 <message>
 <source>Apply</source>
@@ -356,21 +356,21 @@ Optimizations come from the Services, Scheduled Tasks, Programs, and Features pa
 </message>
 <message>
 <source>Are you sure to disable all checked services?</source>
-<translation>确定要禁用所有选中的服务吗?</translation>
+<translation>确定要禁用所有选中的服务吗？</translation>
 </message>
 <message>
 <source>Are you sure to disable all checked tasks?</source>
-<translation>确定要禁用所有选中的任务吗?</translation>
+<translation>确定要禁用所有选中的任务吗？</translation>
 </message>
 <message>
 <source>Are you sure you want to restore the original values?<byte value="xd"/>
 All features, applications, services and tasks will be restored.</source>
-<translation>确定要还原原始值吗?<byte value="xd"/>
+<translation>确定要还原原始值吗？<byte value="xd"/>
 所有功能、应用程序、服务和任务都将还原。</translation>
 </message>
 <message>
 <source>Are you sure you want to restore the startup of all scheduled tasks?</source>
-<translation>确定要还原所有计划任务的启动吗?</translation>
+<translation>确定要还原所有计划任务的启动吗？</translation>
 </message>
 <message>
 <source>as it was</source>
@@ -406,7 +406,7 @@ All features, applications, services and tasks will be restored.</source>
 </message>
 <message>
 <source>Auto started programs disabled:</source>
-<translation>已禁用的自启动程序:</translation>
+<translation>已禁用的自启动程序：</translation>
 </message>
 <message>
 <source>automatic</source>
@@ -426,19 +426,19 @@ All features, applications, services and tasks will be restored.</source>
 </message>
 <message>
 <source>Autorun program: disable %1 done</source>
-<translation>自启动程序: 禁用 %1 完成</translation>
+<translation>自启动程序：已禁用 %1</translation>
 </message>
 <message>
 <source>Autorun program: enable %1 done</source>
-<translation>自启动程序: 启用 %1 完成</translation>
+<translation>自启动程序：已启用 %1</translation>
 </message>
 <message>
 <source>Autorun:</source>
-<translation>启动项:</translation>
+<translation>启动项：</translation>
 </message>
 <message>
 <source>Autorun: can be disabled: </source>
-<translation>启动项: 可以禁用: </translation>
+<translation>启动项：可以禁用： </translation>
 </message>
 <message>
 <source>Backup file exists</source>
@@ -474,7 +474,7 @@ All features, applications, services and tasks will be restored.</source>
 </message>
 <message>
 <source>Cannot restore if you have not yet optimized!</source>
-<translation>尚未进行优化，无法还原!</translation>
+<translation>尚未进行优化，无法还原！</translation>
 </message>
 <message>
 <source>Another instance of the program is changing this PC. Try again when it has finished.</source>
@@ -482,7 +482,7 @@ All features, applications, services and tasks will be restored.</source>
 </message>
 <message>
 <source>Capacity:</source>
-<translation>容量:</translation>
+<translation>容量：</translation>
 </message>
 <message>
 <source>Change</source>
@@ -514,7 +514,7 @@ All features, applications, services and tasks will be restored.</source>
 </message>
 <message>
 <source>Clean WinSxS folder with Microsoft DISM tool  (current size: %1 GB)</source>
-<translation>使用 Microsoft DISM 工具清理 WinSxS 文件夹  (当前大小: %1 GB)</translation>
+<translation>使用 Microsoft DISM 工具清理 WinSxS 文件夹  （当前大小：%1 GB）</translation>
 </message>
 <message>
 <source>Close</source>
@@ -526,7 +526,7 @@ All features, applications, services and tasks will be restored.</source>
 </message>
 <message>
 <source>Configure auto started programs done!</source>
-<translation>自启动程序配置完成!</translation>
+<translation>自启动程序配置完成！</translation>
 </message>
 <message>
 <source>Content indexing off</source>
@@ -596,7 +596,7 @@ All features, applications, services and tasks will be restored.</source>
 <source>Disable CPU power throttling
 (power-saving feature, optimization not recommended for laptop)</source>
 <translation>禁用 CPU 电源限制
-(节能功能，不建议在笔记本电脑上优化)</translation>
+（节能功能，不建议在笔记本电脑上优化）</translation>
 </message>
 <message>
 <source>Disable distribution optimization of Windows updates</source>
@@ -606,21 +606,21 @@ All features, applications, services and tasks will be restored.</source>
 <source>Disable dynamic tick of system timers
 (power-saving feature, optimization not recommended for laptop)</source>
 <translation>禁用系统计时器的动态时钟周期
-(节能功能，不建议在笔记本电脑上优化)</translation>
+（节能功能，不建议在笔记本电脑上优化）</translation>
 </message>
 <message>
 <source>Disable enhance pointer precision
 (to achieve precise mouse control and muscle memory)</source>
 <translation>禁用提高指针精确度
-(实现精确的鼠标控制和肌肉记忆)</translation>
+（实现精确的鼠标控制和肌肉记忆）</translation>
 </message>
 <message>
 <source>Disable fast start-up  (Windows function designed for HDD and not SSD)</source>
-<translation>禁用快速启动  (为 HDD 而非 SSD 设计的 Windows 功能)</translation>
+<translation>禁用快速启动  （为 HDD 而非 SSD 设计的 Windows 功能）</translation>
 </message>
 <message>
 <source>Disable files history (even in explorer)</source>
-<translation>禁用文件历史记录(包括在资源管理器中)</translation>
+<translation>禁用文件历史记录（包括在资源管理器中）</translation>
 </message>
 <message>
 <source>Disable game recording and broadcasting</source>
@@ -636,37 +636,37 @@ All features, applications, services and tasks will be restored.</source>
 </message>
 <message>
 <source>Disable hibernation mode  (gain %1 GB of storage space)</source>
-<translation>禁用休眠模式  (节省 %1 GB 存储空间)</translation>
+<translation>禁用休眠模式  （节省 %1 GB 存储空间）</translation>
 </message>
 <message>
 <source>Disable HPET  (High Precision Event Timer)
 (use invariant TSC instead which may be faster for gaming)
 (important: do not disable HPET in BIOS settings)</source>
-<translation>禁用 HPET  (High Precision Event Timer)
-(使用不变 TSC，对游戏来说可能更快)
-(重要: 请勿在 BIOS 设置中禁用 HPET)</translation>
+<translation>禁用 HPET  （High Precision Event Timer）
+（使用不变 TSC，对游戏来说可能更快）
+（重要：请勿在 BIOS 设置中禁用 HPET）</translation>
 </message>
 <message>
 <source>Disable last access time stamps  (NTFS drive only)</source>
-<translation>禁用上次访问时间戳  (仅限 NTFS 驱动器)</translation>
+<translation>禁用上次访问时间戳  （仅限 NTFS 驱动器）</translation>
 </message>
 <message>
 <source>Disable LockApp.exe  (lockapp.exe allows additional information on the lock screen)</source>
-<translation>禁用 LockApp.exe  (lockapp.exe 可在锁屏上显示更多信息)</translation>
+<translation>禁用 LockApp.exe  （lockapp.exe 可在锁屏上显示更多信息）</translation>
 </message>
 <message>
 <source>Disable Multiplane Overlay (MPO)
 (may fix some screen flickering / stuttering issues BUT loose some fullscreen optimizations,
 especially for video playback apps)</source>
-<translation>禁用 Multiplane Overlay (MPO)
-(可能解决某些屏幕闪烁/卡顿问题，但会失去部分全屏优化，
-对视频播放应用尤其如此)</translation>
+<translation>禁用 Multiplane Overlay（MPO）
+（可能解决某些屏幕闪烁/卡顿问题，但会失去部分全屏优化，
+对视频播放应用尤其如此）</translation>
 </message>
 <message>
 <source>Disable Nagle’s Algorithm
 (may improve the real-time responsiveness of your network connection, but may increase traffic)</source>
 <translation>禁用 Nagle 算法
-(可能提高网络连接的实时响应能力，但可能增加流量)</translation>
+（可能提高网络连接的实时响应能力，但可能增加流量）</translation>
 </message>
 <message>
 <source>Disable periodic registry backup</source>
@@ -674,7 +674,7 @@ especially for video playback apps)</source>
 </message>
 <message>
 <source>Disable Prefetcher  (prevents preloading of applications)</source>
-<translation>禁用 Prefetcher  (阻止预加载应用程序)</translation>
+<translation>禁用 Prefetcher  （阻止预加载应用程序）</translation>
 </message>
 <message>
 <source>Disable programs</source>
@@ -690,7 +690,7 @@ especially for video playback apps)</source>
 </message>
 <message>
 <source>Disable SearchHost.exe  (process for searching files. If disabled, advanced search may malfunction)</source>
-<translation>禁用 SearchHost.exe  (搜索文件的进程。禁用后高级搜索可能无法正常工作)</translation>
+<translation>禁用 SearchHost.exe  （搜索文件的进程。禁用后高级搜索可能无法正常工作）</translation>
 </message>
 <message>
 <source>Disable services</source>
@@ -698,19 +698,19 @@ especially for video playback apps)</source>
 </message>
 <message>
 <source>Disable SvcHost splitting  (reduce the number of svchost.exe process)</source>
-<translation>禁用 SvcHost 拆分  (减少 svchost.exe 进程数)</translation>
+<translation>禁用 SvcHost 拆分  （减少 svchost.exe 进程数）</translation>
 </message>
 <message>
 <source>Disable telemetry (data collection for Microsoft)
 (Other telemetry is disabled in the Services and Scheduled Tasks, or the Optimizer page)</source>
-<translation>禁用遥测(为 Microsoft 收集数据)
-(其他遥测在“服务”、“计划任务”或“优化器”页面中禁用)</translation>
+<translation>禁用遥测（为 Microsoft 收集数据）
+（其他遥测在“服务”、“计划任务”或“优化器”页面中禁用）</translation>
 </message>
 <message>
 <source>Disable ULPS  (Ultra Low Power State, only for AMD graphics cards)
 (power-saving feature, optimization not recommended for laptop)</source>
-<translation>禁用 ULPS  (Ultra Low Power State，仅适用于 AMD 显卡)
-(节能功能，不建议在笔记本电脑上优化)</translation>
+<translation>禁用 ULPS  （Ultra Low Power State，仅适用于 AMD 显卡）
+（节能功能，不建议在笔记本电脑上优化）</translation>
 </message>
 <message>
 <source>Disable Windows write-cache buffer flushing</source>
@@ -726,7 +726,12 @@ especially for video playback apps)</source>
 </message>
 <message>
 <source>disabled:</source>
-<translation>已禁用:</translation>
+<translation>已禁用：</translation>
+</message>
+<message>
+<source>disabled:</source>
+<comment>tasks</comment>
+<translation>已禁用：</translation>
 </message>
 <message>
 <source>DISK</source>
@@ -745,14 +750,14 @@ especially for video playback apps)</source>
 <byte value="xd"/>
 If you click No (recommended),<byte value="xd"/>
 then restore only the services you have disabled</source>
-<translation>是否还原所有服务的启动类型?<byte value="xd"/>
+<translation>是否还原所有服务的启动类型？<byte value="xd"/>
 <byte value="xd"/>
-如果单击“否”(推荐)，<byte value="xd"/>
+如果单击“否”（推荐），<byte value="xd"/>
 则仅还原你禁用的服务</translation>
 </message>
 <message>
 <source>Do you want to start this app with Admin rights?</source>
-<translation>是否以管理员身份重新启动此应用?</translation>
+<translation>是否以管理员身份重新启动此应用？</translation>
 </message>
 <message>
 <source>done</source>
@@ -760,7 +765,7 @@ then restore only the services you have disabled</source>
 </message>
 <message>
 <source>Enable Auto HDR  (forces HDR mode on SDR content)</source>
-<translation>启用自动 HDR  (对 SDR 内容强制使用 HDR 模式)</translation>
+<translation>启用自动 HDR  （对 SDR 内容强制使用 HDR 模式）</translation>
 </message>
 <message>
 <source>Enable checked programs</source>
@@ -776,7 +781,7 @@ then restore only the services you have disabled</source>
 </message>
 <message>
 <source>Enable game mode  (enabled by default)</source>
-<translation>启用游戏模式  (默认启用)</translation>
+<translation>启用游戏模式  （默认启用）</translation>
 </message>
 <message>
 <source>Enable programs</source>
@@ -788,7 +793,7 @@ then restore only the services you have disabled</source>
 </message>
 <message>
 <source>Enable the context menu like Windows 10  (all entries in the context menu are displayed)</source>
-<translation>启用 Windows 10 样式的上下文菜单  (显示所有菜单项)</translation>
+<translation>启用 Windows 10 样式的上下文菜单  （显示所有菜单项）</translation>
 </message>
 <message>
 <source>enabled</source>
@@ -796,7 +801,7 @@ then restore only the services you have disabled</source>
 </message>
 <message>
 <source>enabled:</source>
-<translation>已启用:</translation>
+<translation>已启用：</translation>
 </message>
 <message>
 <source>English</source>
@@ -812,43 +817,43 @@ then restore only the services you have disabled</source>
 </message>
 <message>
 <source>Features applied successfully. Restart your PC!</source>
-<translation>功能应用成功。请重新启动电脑!</translation>
+<translation>功能应用成功。请重新启动电脑！</translation>
 </message>
 <message>
 <source>Features: %1 improvements can be applied</source>
-<translation>功能: 可应用 %1 项改进</translation>
+<translation>功能：可应用 %1 项改进</translation>
 </message>
 <message>
 <source>Features: applied successfully. Restart your PC!</source>
-<translation>功能: 应用成功。请重新启动电脑!</translation>
+<translation>功能：应用成功。请重新启动电脑！</translation>
 </message>
 <message>
 <source>Features: applies Gaming optimizations</source>
-<translation>功能: 应用游戏优化</translation>
+<translation>功能：应用游戏优化</translation>
 </message>
 <message>
 <source>Features: applies SSD optimizations</source>
-<translation>功能: 应用 SSD 优化</translation>
+<translation>功能：应用 SSD 优化</translation>
 </message>
 <message>
 <source>Features: applies Windows optimizations</source>
-<translation>功能: 应用 Windows 优化</translation>
+<translation>功能：应用 Windows 优化</translation>
 </message>
 <message>
 <source>Features: Battery detected! Some optimizations will not be applied to maintain battery life</source>
-<translation>功能: 检测到电池! 为保持电池续航，某些优化将不会应用</translation>
+<translation>功能：检测到电池！为保持电池续航，某些优化将不会应用</translation>
 </message>
 <message>
 <source>Features: reset Gaming optimizations</source>
-<translation>功能: 重置游戏优化</translation>
+<translation>功能：重置游戏优化</translation>
 </message>
 <message>
 <source>Features: reset SSD optimizations</source>
-<translation>功能: 重置 SSD 优化</translation>
+<translation>功能：重置 SSD 优化</translation>
 </message>
 <message>
 <source>Features: reset Windows optimizations</source>
-<translation>功能: 重置 Windows 优化</translation>
+<translation>功能：重置 Windows 优化</translation>
 </message>
 <message>
 <source>File %1</source>
@@ -884,7 +889,7 @@ then restore only the services you have disabled</source>
 </message>
 <message>
 <source>Get system info:</source>
-<translation>获取系统信息:</translation>
+<translation>获取系统信息：</translation>
 </message>
 <message>
 <source>Get WinSxS folder size in features page</source>
@@ -940,11 +945,11 @@ then restore only the services you have disabled</source>
 </message>
 <message>
 <source>Interface language:</source>
-<translation>界面语言:</translation>
+<translation>界面语言：</translation>
 </message>
 <message>
 <source>Interface type:</source>
-<translation>接口类型:</translation>
+<translation>接口类型：</translation>
 </message>
 <message>
 <source>Internal system features that can slow down your PC unnecessarily.
@@ -954,7 +959,7 @@ Check them to optimize or uncheck them to restore defaults.</source>
 </message>
 <message>
 <source>interval in seconds:</source>
-<translation>间隔(秒):</translation>
+<translation>间隔（秒）：</translation>
 </message>
 <message>
 <source>it didn't come back</source>
@@ -986,7 +991,7 @@ Services are programs that run in the background for various reasons and purpose
 <source>List of enabled scheduled tasks.
 Scheduled tasks are programs that run in the background at a specific time (or event) for various reasons. Some of them may be unnecessary and consume CPU, memory, and disk resources unnecessarily.</source>
 <translation>已启用的计划任务列表。
-计划任务是出于各种原因在特定时间(或事件)在后台运行的程序。其中一些可能是不必要的，会无谓地消耗 CPU、内存和磁盘资源。</translation>
+计划任务是出于各种原因在特定时间（或事件）在后台运行的程序。其中一些可能是不必要的，会无谓地消耗 CPU、内存和磁盘资源。</translation>
 </message>
 <message>
 <source>List of programs started automatically each time Windows starts.
@@ -1002,7 +1007,7 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>Load system info:</source>
-<translation>加载系统信息:</translation>
+<translation>加载系统信息：</translation>
 </message>
 <message>
 <source>loading disk info...</source>
@@ -1022,11 +1027,11 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>Manage features  (included in the page &quot;Features&quot;)</source>
-<translation>管理功能  (包含在“功能”页面中)</translation>
+<translation>管理功能  （包含在“功能”页面中）</translation>
 </message>
 <message>
 <source>Manage programs and packages  (included in the page &quot;Programs&quot;)</source>
-<translation>管理程序和程序包  (包含在“程序”页面中)</translation>
+<translation>管理程序和程序包  （包含在“程序”页面中）</translation>
 </message>
 <message>
 <source>Manual</source>
@@ -1078,11 +1083,11 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>Name:</source>
-<translation>名称:</translation>
+<translation>名称：</translation>
 </message>
 <message>
 <source>Need reboot!</source>
-<translation>需要重新启动!</translation>
+<translation>需要重新启动！</translation>
 </message>
 <message>
 <source>NFC</source>
@@ -1102,7 +1107,7 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>No optimizations found!</source>
-<translation>未找到可优化项目!</translation>
+<translation>未找到可优化项目！</translation>
 </message>
 <message>
 <source>not possible</source>
@@ -1118,7 +1123,7 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>Old Xbox App, no longer supported!</source>
-<translation>旧版 Xbox 应用，已不再受支持!</translation>
+<translation>旧版 Xbox 应用，已不再受支持！</translation>
 </message>
 <message>
 <source>on</source>
@@ -1147,12 +1152,12 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <message>
 <source>Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)<byte value="xd"/>
 (by default it is not used but activated!)</source>
-<translation>局域网专用的另一种协议(例如: 某些视频播放器用它连接网络硬盘)<byte value="xd"/>
-(默认未使用但已激活!)</translation>
+<translation>局域网专用的另一种协议（例如：某些视频播放器用它连接网络硬盘）<byte value="xd"/>
+（默认未使用但已激活！）</translation>
 </message>
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
-<translation>否则某些计划任务将无法检测到!</translation>
+<translation>否则某些计划任务将无法检测到！</translation>
 </message>
 <message>
 <source>Owner and rights of %1</source>
@@ -1164,15 +1169,15 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>package: </source>
-<translation>程序包: </translation>
+<translation>程序包： </translation>
 </message>
 <message>
 <source>Package: can be installed: </source>
-<translation>程序包: 可以安装: </translation>
+<translation>程序包：可以安装： </translation>
 </message>
 <message>
 <source>Package: can be uninstalled: </source>
-<translation>程序包: 可以卸载: </translation>
+<translation>程序包：可以卸载： </translation>
 </message>
 <message>
 <source>Packages</source>
@@ -1184,15 +1189,15 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>Packages installed:</source>
-<translation>已安装的程序包:</translation>
+<translation>已安装的程序包：</translation>
 </message>
 <message>
 <source>Packages uninstalled:</source>
-<translation>已卸载的程序包:</translation>
+<translation>已卸载的程序包：</translation>
 </message>
 <message>
 <source>Packages:</source>
-<translation>程序包:</translation>
+<translation>程序包：</translation>
 </message>
 <message>
 <source>Path</source>
@@ -1212,17 +1217,17 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>Prioritize games  (GPU Priority, SFIO Priority, Scheduling category, Affinity)</source>
-<translation>游戏优先  (GPU Priority, SFIO Priority, Scheduling category, Affinity)</translation>
+<translation>游戏优先  （GPU Priority, SFIO Priority, Scheduling category, Affinity）</translation>
 </message>
 <message>
 <source>Process: can be disable: %1 from Riva Tuner Statistic Server app!<byte value="xd"/>
 This process only allows screen video capture.Does not affect the monitoring display in any way</source>
-<translation>进程: 可以禁用: Riva Tuner Statistic Server 应用的 %1!<byte value="xd"/>
+<translation>进程：可以禁用：Riva Tuner Statistic Server 应用的 %1！<byte value="xd"/>
 此进程仅用于屏幕视频捕获，完全不影响监视信息的显示</translation>
 </message>
 <message>
 <source>Process: disable EncoderServer done</source>
-<translation>进程: 禁用 EncoderServer 完成</translation>
+<translation>进程：已禁用 EncoderServer</translation>
 </message>
 <message>
 <source>processes</source>
@@ -1248,13 +1253,13 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <source>Proxy or VPN functionality to improve the security of your network traffic<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>用于提高网络通信安全性的代理或 VPN 功能<byte value="xd"/>
-(默认未使用但已激活!)</translation>
+（默认未使用但已激活！）</translation>
 </message>
 <message>
 <source>Quick setup of some bluetooth headsets<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>快速设置某些蓝牙耳机<byte value="xd"/>
-(默认未使用但已激活!)</translation>
+（默认未使用但已激活！）</translation>
 </message>
 <message>
 <source>Reading what has become of it…</source>
@@ -1264,7 +1269,7 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <source>Reduces certain delays
 (menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
 <translation>缩短某些延迟
-(菜单显示、等待结束应用/服务、自动结束任务、无响应应用)</translation>
+（菜单显示、等待结束应用/服务、自动结束任务、无响应应用）</translation>
 </message>
 <message>
 <source>Refresh</source>
@@ -1294,7 +1299,7 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <source>Remove the indexed attribute from all files in the Windows partition
 (this operation may take some time)</source>
 <translation>从 Windows 分区的所有文件中移除索引属性
-(此操作可能需要一些时间)</translation>
+（此操作可能需要一些时间）</translation>
 </message>
 <message>
 <source>Restoration finished</source>
@@ -1302,7 +1307,7 @@ This process only allows screen video capture.Does not affect the monitoring dis
 </message>
 <message>
 <source>Restoration finished: Restart your PC!</source>
-<translation>还原完成: 请重新启动电脑!</translation>
+<translation>还原完成：请重新启动电脑！</translation>
 </message>
 <message>
 <source>Restore</source>
@@ -1366,47 +1371,47 @@ This process only allows screen video capture.Does not affect the monitoring dis
 </message>
 <message>
 <source>Service: can be disable: </source>
-<translation>服务: 可以禁用: </translation>
+<translation>服务：可以禁用： </translation>
 </message>
 <message>
 <source>Service: can be enable: </source>
-<translation>服务: 可以启用: </translation>
+<translation>服务：可以启用： </translation>
 </message>
 <message>
 <source>Service: can be set to manual:</source>
-<translation>服务: 可以设置为手动:</translation>
+<translation>服务：可以设置为手动：</translation>
 </message>
 <message>
 <source>Service: disable %1</source>
-<translation>服务: 禁用 %1</translation>
+<translation>服务：禁用 %1</translation>
 </message>
 <message>
 <source>Service: disable and stop %1</source>
-<translation>服务: 禁用并停止 %1</translation>
+<translation>服务：禁用并停止 %1</translation>
 </message>
 <message>
 <source>Service: enable %1</source>
-<translation>服务: 启用 %1</translation>
+<translation>服务：启用 %1</translation>
 </message>
 <message>
 <source>Service: enable %1 done</source>
-<translation>服务: 启用 %1 完成</translation>
+<translation>服务：已启用 %1</translation>
 </message>
 <message>
 <source>Service: enable and start %1</source>
-<translation>服务: 启用并启动 %1</translation>
+<translation>服务：启用并启动 %1</translation>
 </message>
 <message>
 <source>Service: enable and start %1 done</source>
-<translation>服务: 启用并启动 %1 完成</translation>
+<translation>服务：已启用并启动 %1</translation>
 </message>
 <message>
 <source>Service: enable and start %1, already running!</source>
-<translation>服务: 启用并启动 %1，已在运行!</translation>
+<translation>服务：启用并启动 %1，已在运行！</translation>
 </message>
 <message>
 <source>Service: set to manual:</source>
-<translation>服务: 设置为手动:</translation>
+<translation>服务：设置为手动：</translation>
 </message>
 <message>
 <source>Services</source>
@@ -1414,11 +1419,11 @@ This process only allows screen video capture.Does not affect the monitoring dis
 </message>
 <message>
 <source>Services  (Experienced users)</source>
-<translation>服务  (有经验的用户)</translation>
+<translation>服务  （有经验的用户）</translation>
 </message>
 <message>
 <source>Services:</source>
-<translation>服务:</translation>
+<translation>服务：</translation>
 </message>
 <message>
 <source>Sessions</source>
@@ -1428,7 +1433,7 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <source>Set the maximum number of GPU pre-rendered frames to 1
 (if you have a good CPU, this reduces latency)</source>
 <translation>将 GPU 预渲染的最大帧数设置为 1
-(如果 CPU 性能较好，可降低延迟)</translation>
+（如果 CPU 性能较好，可降低延迟）</translation>
 </message>
 <message>
 <source>something else has changed it since</source>
@@ -1448,7 +1453,7 @@ This process only allows screen video capture.Does not affect the monitoring dis
 </message>
 <message>
 <source>Start service:</source>
-<translation>启动服务:</translation>
+<translation>启动服务：</translation>
 </message>
 <message>
 <source>Start with adminstrator rights</source>
@@ -1456,7 +1461,7 @@ This process only allows screen video capture.Does not affect the monitoring dis
 </message>
 <message>
 <source>started:</source>
-<translation>已启动:</translation>
+<translation>已启动：</translation>
 </message>
 <message>
 <source>State</source>
@@ -1464,15 +1469,15 @@ This process only allows screen video capture.Does not affect the monitoring dis
 </message>
 <message>
 <source>Status: Getting WinSxS folder size finished!</source>
-<translation>状态: 已获取 WinSxS 文件夹大小!</translation>
+<translation>状态：已获取 WinSxS 文件夹大小!</translation>
 </message>
 <message>
 <source>Status: Getting WinSxS folder size...</source>
-<translation>状态: 正在获取 WinSxS 文件夹大小...</translation>
+<translation>状态：正在获取 WinSxS 文件夹大小...</translation>
 </message>
 <message>
 <source>Stop service:</source>
-<translation>停止服务:</translation>
+<translation>停止服务：</translation>
 </message>
 <message>
 <source>stopped</source>
@@ -1480,7 +1485,7 @@ This process only allows screen video capture.Does not affect the monitoring dis
 </message>
 <message>
 <source>stopped:</source>
-<translation>已停止:</translation>
+<translation>已停止：</translation>
 </message>
 <message>
 <source>System</source>
@@ -1506,23 +1511,23 @@ Information</source>
 </message>
 <message>
 <source>Task:</source>
-<translation>任务:</translation>
+<translation>任务：</translation>
 </message>
 <message>
 <source>Task: can be disable: </source>
-<translation>任务: 可以禁用: </translation>
+<translation>任务：可以禁用： </translation>
 </message>
 <message>
 <source>Task: can be enable: </source>
-<translation>任务: 可以启用: </translation>
+<translation>任务：可以启用： </translation>
 </message>
 <message>
 <source>Task: disable and stop %1</source>
-<translation>任务: 禁用并停止 %1</translation>
+<translation>任务：禁用并停止 %1</translation>
 </message>
 <message>
 <source>Task: Enable and start %1 done</source>
-<translation>任务: 启用并启动 %1 完成</translation>
+<translation>任务：已启用并启动 %1</translation>
 </message>
 <message>
 <source>Tasks</source>
@@ -1530,7 +1535,7 @@ Information</source>
 </message>
 <message>
 <source>Tasks:</source>
-<translation>任务:</translation>
+<translation>任务：</translation>
 </message>
 <message>
 <source>the file is at neither place</source>
@@ -1546,7 +1551,7 @@ Information</source>
 </message>
 <message>
 <source>Theme:</source>
-<translation>主题:</translation>
+<translation>主题：</translation>
 </message>
 <message>
 <source>there</source>
@@ -1578,7 +1583,7 @@ Information</source>
 </message>
 <message>
 <source>uninstalled:</source>
-<translation>已卸载:</translation>
+<translation>已卸载：</translation>
 </message>
 <message>
 <source>unknown</source>
@@ -1638,7 +1643,7 @@ Information</source>
 </message>
 <message>
 <source>Win32PrioritySeparation:   Processor time allocated to applications.</source>
-<translation>Win32PrioritySeparation:   分配给应用程序的处理器时间。</translation>
+<translation>Win32PrioritySeparation：   分配给应用程序的处理器时间。</translation>
 </message>
 <message>
 <source>WINDOWS</source>
@@ -1650,19 +1655,19 @@ Information</source>
 </message>
 <message>
 <source>Windows application: ERROR install %1: </source>
-<translation>Windows 应用: 安装 %1 时出错: </translation>
+<translation>Windows 应用：安装 %1 时出错： </translation>
 </message>
 <message>
 <source>Windows application: ERROR uninstall %1: </source>
-<translation>Windows 应用: 卸载 %1 时出错: </translation>
+<translation>Windows 应用：卸载 %1 时出错： </translation>
 </message>
 <message>
 <source>Windows application: install %1 done</source>
-<translation>Windows 应用: 安装 %1 完成</translation>
+<translation>Windows 应用：安装 %1 完成</translation>
 </message>
 <message>
 <source>Windows application: uninstall %1 done</source>
-<translation>Windows 应用: 卸载 %1 完成</translation>
+<translation>Windows 应用：卸载 %1 完成</translation>
 </message>
 <message>
 <source>Windows applications</source>
@@ -1675,8 +1680,8 @@ Information</source>
 <message>
 <source>Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)<byte value="xd"/>
 (by default it is not used but activated!)</source>
-<translation>局域网中的 Windows 共享功能(SMB 协议)(例如: 连接局域网中的硬盘、打印机)<byte value="xd"/>
-(默认未使用但已激活!)</translation>
+<translation>局域网中的 Windows 共享功能（SMB 协议）（例如：连接局域网中的硬盘、打印机）<byte value="xd"/>
+（默认未使用但已激活！）</translation>
 </message>
 <message>
 <source>With all &amp;later changes</source>
@@ -1684,11 +1689,11 @@ Information</source>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
-<translation>是否为 Windows 分区中的所有文件设置索引属性?</translation>
+<translation>是否关闭 Windows 分区中所有文件的内容索引？这可能需要很长时间。</translation>
 </message>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
-<translation>是否为 Windows 分区中的所有文件设置索引属性?</translation>
+<translation>是否立即将此索引设置应用于 Windows 分区中的所有文件？这可能需要很长时间。</translation>
 </message>
 <message>
 <source>Written: %1</source>
@@ -1712,11 +1717,11 @@ Information</source>
 </message>
 <message>
 <source>You must launch this app with Admin rights!</source>
-<translation>必须以管理员身份运行此应用!</translation>
+<translation>必须以管理员身份运行此应用！</translation>
 </message>
 <message>
 <source>You should launch this app with Admin rights!</source>
-<translation>建议以管理员身份运行此应用!</translation>
+<translation>建议以管理员身份运行此应用！</translation>
 </message>
 </context>
 </TS>

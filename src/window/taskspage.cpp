@@ -56,7 +56,7 @@ void Kestrune::fillTaskTable()
     header->setSortIndicator(section, order);
     ui.lblStatus->setText(countText(tr("Tasks:"), workThread->tasks.size()) + summarySeparator
                           + countText(tr("enabled:"), taskEnabledCount) + summarySeparator
-                          + countText(tr("disabled:"), taskDisabledCount) + u"  "_s);
+                          + countText(tr("disabled:", "tasks"), taskDisabledCount) + u"  "_s);
 }
 
 void Kestrune::addTaskRow(const TaskRow &row)

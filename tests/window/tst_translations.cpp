@@ -22,6 +22,7 @@ struct SourceText
 {
     QString context;
     QString text;
+    QString comment{}; // what tells two equal texts apart
 };
 
 /** Text of an element, with the control characters that XML can't hold. */
@@ -51,6 +52,8 @@ QList<SourceText> readSourceTexts(QIODevice &file)
             context = readText(xml);
         else if (xml.name() == "source"_L1)
             texts.append({context, readText(xml)});
+        else if (xml.name() == "comment"_L1)
+            texts.last().comment = readText(xml);
     }
     return texts;
 }
@@ -97,6 +100,11 @@ private Q_SLOTS:
     void sameTextIsTheSameInEveryContext();
     void textsThatAreToldApartStayApart_data() { addLanguages(); }
     void textsThatAreToldApartStayApart();
+    void countsOfTasksAgreeWithEachOther_data();
+    void countsOfTasksAgreeWithEachOther();
+    void aTextNamesOnlyWhatTheWindowNames_data();
+    void aTextNamesOnlyWhatTheWindowNames();
+    void chineseHasItsOwnPunctuation();
     void marksThatTheCodeLooksForAreThere_data() { addLanguages(); }
     void marksThatTheCodeLooksForAreThere();
     void englishIsAFileWithoutTexts();
@@ -110,7 +118,8 @@ private:
     void load();
     QString translated(const SourceText &source) const
     {
-        return translator_.translate(source.context.toUtf8().constData(), source.text.toUtf8().constData());
+        return translator_.translate(source.context.toUtf8().constData(), source.text.toUtf8().constData(),
+                                     source.comment.toUtf8().constData());
     }
     QString translated(const char *text) const { return translator_.translate("Kestrune", text); }
 
@@ -176,9 +185,11 @@ void TestTranslations::fileHoldsEachTextOfTheSourcesOnce()
     QVERIFY(file.open(QIODevice::ReadOnly));
     QSet<QString> used;
     for (const SourceText &source : sources_)
-        used.insert(source.text);
-    for (const SourceText &held : readSourceTexts(file))
-        QVERIFY2(used.remove(held.text), qPrintable(u"superfluous, or there twice: "_s + held.text));
+        used.insert(source.text + u'|' + source.comment);
+    for (const SourceText &held : readSourceTexts(file)) {
+        QVERIFY2(used.remove(held.text + u'|' + held.comment),
+                 qPrintable(u"superfluous, or there twice: "_s + held.text));
+    }
     QVERIFY2(used.isEmpty(), qPrintable(u"missing: "_s + QStringList(used.values()).join(u'\n')));
 }
 
@@ -208,8 +219,9 @@ void TestTranslations::sameTextIsTheSameInEveryContext()
     QHash<QString, QString> translations;
     for (const SourceText &source : sources_) {
         const QString text = translated(source);
-        QCOMPARE(text, translations.value(source.text, text));
-        translations.insert(source.text, text);
+        const QString key = source.text + u'|' + source.comment;
+        QCOMPARE(text, translations.value(key, text));
+        translations.insert(key, text);
     }
 }
 
@@ -234,6 +246,59 @@ void TestTranslations::textsThatAreToldApartStayApart()
         QVERIFY2(translated(one) != translated(other), one);
     const QString done = translator_.translate("WorkThread", "done");
     QVERIFY(!QString(translator_.translate("WorkThread", "error")).endsWith(done));
+}
+
+void TestTranslations::countsOfTasksAgreeWithEachOther_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char *language : {"es", "fr", "it", "pt"})
+        QTest::newRow(language) << QString::fromLatin1(language);
+}
+
+/** A task is feminine in these languages, and a service and a program are not. */
+void TestTranslations::countsOfTasksAgreeWithEachOther()
+{
+    load();
+    const auto ending = [](QString text) { return text.remove(QRegularExpression(u"[ \\x{a0}]*:$"_s)).last(2); };
+    QCOMPARE(ending(translator_.translate("Kestrune", "disabled:", "tasks")), ending(translated("enabled:")));
+    QVERIFY(ending(translated("disabled:")) != ending(translated("enabled:")));
+}
+
+void TestTranslations::aTextNamesOnlyWhatTheWindowNames_data()
+{
+    addColumns<QString, QString>("language", "other");
+    // One word for a thing: a row can be highlighted without being checked, and the page has one name.
+    QTest::newRow("de: checked") << u"de"_s << u"[Mm]arkier"_s;
+    QTest::newRow("de: features") << u"de"_s << u"[Ff]eatures"_s;
+    QTest::newRow("de: done") << u"de"_s << u"(aktivieren|starten) fertig"_s;
+    QTest::newRow("es: done") << u"es"_s << u"abilitar .* listo|iniciar .* listo"_s;
+    QTest::newRow("es: add") << u"es"_s << u"[Aa]grega"_s;
+    QTest::newRow("es: disable") << u"es"_s << u"[Dd]esactivar"_s;
+    QTest::newRow("it: checked") << u"it"_s << u"[Ss]eleziona"_s;
+    QTest::newRow("it: done") << u"it"_s << u"bilita .* completato"_s;
+    QTest::newRow("it: disable") << u"it"_s << u"disattivare"_s;
+    QTest::newRow("pt: disable") << u"pt"_s << u"desativar"_s;
+    QTest::newRow("nl: done") << u"nl"_s << u"(inschakelen|uitschakelen|starten) klaar"_s;
+    QTest::newRow("ja: about") << u"ja"_s << u"^情報$"_s;
+    QTest::newRow("pl: about") << u"pl"_s << u"^Informacje$"_s;
+    QTest::newRow("zh: done") << u"zh_CN"_s << u"用 (%1|EncoderServer) 完成"_s;
+}
+
+void TestTranslations::aTextNamesOnlyWhatTheWindowNames()
+{
+    load();
+    QFETCH(QString, other);
+    for (const SourceText &source : sources_)
+        QVERIFY2(!translated(source).contains(QRegularExpression(other)), qPrintable(translated(source)));
+}
+
+/** Its marks are as wide as its words, but for the keys in a button's text and the mark that the code looks for. */
+void TestTranslations::chineseHasItsOwnPunctuation()
+{
+    QVERIFY(translator_.load(folder() + u"lang_zh_CN.qm"_s));
+    const QRegularExpression narrow(u"[\\x{3400}-\\x{9fff}]([?:]|!(?!$)| ?\\((?!&))"_s);
+    for (const SourceText &source : sources_)
+        QVERIFY2(!translated(source).contains(narrow), qPrintable(translated(source)));
 }
 
 void TestTranslations::marksThatTheCodeLooksForAreThere()
