@@ -121,13 +121,13 @@ void Database::fail(const char *what) const
     const QString reason = handle_ ? QString::fromUtf8(sqlite3_errmsg(handle_)) : u"out of memory"_s;
     const int code = handle_ ? sqlite3_errcode(handle_) & 0xff : SQLITE_NOMEM; // the rest tells details
     if (code == SQLITE_INTERRUPT) {
-        const QString end = takesTooLong() ? u"is damaged: a query doesn't end"_s : u"was broken off"_s;
+        const QString end = takesTooLong() ? u"damaged: a query doesn't end"_s : u"interrupted"_s;
         throw MachineError{u"%1: %2"_s.arg(QDir::toNativeSeparators(file_), end), takesTooLong()};
     }
     const bool damaged = code == SQLITE_CORRUPT || code == SQLITE_NOTADB;
-    throw MachineError{u"%1: %2: %3"_s.arg(QDir::toNativeSeparators(file_),
-                                           damaged ? u"is damaged"_s : QString::fromUtf8(what), reason),
-                       damaged};
+    throw MachineError{
+        u"%1: %2: %3"_s.arg(QDir::toNativeSeparators(file_), damaged ? u"damaged"_s : QString::fromUtf8(what), reason),
+        damaged};
 }
 
 void Database::execute(const char *statements)

@@ -59,28 +59,27 @@ void checkHeader(const QString &path)
 {
     QFile file(path);
     if (!file.exists())
-        fail(QFileInfo(path).path(), u"is no rehearsal machine"_s);
+        fail(QFileInfo(path).path(), u"not a rehearsal machine"_s);
     if (!file.open(QIODevice::ReadOnly))
         fail(path, file.errorString());
     if (file.size() < smallestDatabase || !file.read(16).startsWith("SQLite format 3"))
-        fail(path, u"is damaged"_s);
+        fail(path, u"damaged"_s);
 }
 
 void checkVersion(Database &database, const QString &path)
 {
     auto table = database.query("SELECT 1 FROM sqlite_schema WHERE name = 'meta'");
     if (!table.next())
-        fail(path, u"is no rehearsal machine"_s);
+        fail(path, u"not a rehearsal machine"_s);
     auto query = database.query("SELECT value FROM meta WHERE name = 'version'");
     if (!query.next())
-        fail(path, u"is no rehearsal machine"_s);
+        fail(path, u"not a rehearsal machine"_s);
     const qint64 version = query.integer(0);
     if (version > Machine::formatVersion) {
-        fail(path,
-             u"is of version %1, and this program knows those up to %2"_s.arg(version).arg(Machine::formatVersion));
+        fail(path, u"version %1, and this program knows those up to %2"_s.arg(version).arg(Machine::formatVersion));
     }
     if (version < 1)
-        fail(path, u"is damaged"_s);
+        fail(path, u"damaged"_s);
 }
 
 /** What the machine has of its own is no link, which could lead out of it. The tools are made anew. */
@@ -98,13 +97,13 @@ void checkOwnFiles(const QString &folder)
     }
     for (const QFileInfo &entry : std::as_const(entries)) {
         if (entry.isSymbolicLink() || entry.isJunction())
-            fail(entry.filePath(), u"is a link, and a machine has none there"_s);
+            fail(entry.filePath(), u"a link, where a machine has none"_s);
     }
 }
 
 [[noreturn]] void failAsDamaged(const QString &path, const QString &reason)
 {
-    throw MachineError{u"%1: is damaged: %2"_s.arg(QDir::toNativeSeparators(path), printable(reason)), true};
+    throw MachineError{u"%1: damaged: %2"_s.arg(QDir::toNativeSeparators(path), printable(reason)), true};
 }
 
 /** What a schema is made of. */
@@ -263,9 +262,9 @@ std::unique_ptr<Machine> Machine::create(const QString &folder)
 {
     const QString path = cleanFolder(folder);
     if (QFileInfo::exists(path) && !QFileInfo(path).isDir())
-        fail(path, u"is no folder"_s);
+        fail(path, u"not a folder"_s);
     if (!QDir(path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
-        fail(path, u"isn't empty"_s);
+        fail(path, u"not empty"_s);
     makeFolders(path);
     auto database = std::make_unique<Database>(databaseFile(path));
     database->execute("PRAGMA journal_mode = WAL");
@@ -324,7 +323,7 @@ void Machine::placeTools(const QString &stockTool) const
         if (missing.contains(entry.fileName()) && !isFolder && isStockTool(entry, source))
             missing.removeAll(entry.fileName());
         else if (!(isFolder ? QDir(entry.filePath()).removeRecursively() : QFile::remove(entry.filePath())))
-            fail(entry.filePath(), u"is no tool of a rehearsal machine, and can't be removed"_s);
+            fail(entry.filePath(), u"not a tool of a rehearsal machine, and it can't be removed"_s);
     }
     for (const QString &name : std::as_const(missing)) {
         const QString place = toolsFolder() + u'/' + name;

@@ -16,11 +16,11 @@ namespace {
 constexpr auto introduction =
     "<p>Optimize and then Restore were run on copies of this PC; on the PC itself nothing has changed. Each line below "
     "is "
-    "one thing that would change: what it is, how it is now, what Optimize makes of it, and what is left when Restore "
-    "has run afterwards. Open a line to see every single value and where it stands.</p>\n"
+    "one thing that would change: what it is, its current state, its state after Optimize, and after Restore. "
+    "Open a line to see every single value and where it is stored.</p>\n"
     "<p><em>Not there</em> means that a value, key or file doesn't exist. Words before a value, such as "
     "<em>dword</em>, are "
-    "the registry's types. With the option <code>--undo</code> this preview also writes a file that brings back "
+    "registry types. With the option <code>--undo</code> this preview also writes a file that brings back "
     "everything exactly, whatever Restore leaves.</p>\n"_L1;
 
 QString button(QLatin1StringView filter, QLatin1StringView value, const QString &content)

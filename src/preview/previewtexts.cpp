@@ -14,18 +14,18 @@ namespace {
 constexpr RestorabilityTexts restorabilityRows[] = {
     {Restorability::Exactly,   "exactly"_L1,    "comes back exactly"_L1,     "come back exactly"_L1,
      "After Restore they are as they were, to the last value."_L1},
-    {Restorability::Otherwise, "otherwise"_L1,  "comes back as a default"_L1, "come back as a default"_L1,
-     "Restore takes these changes back, but what it leaves isn't what you had."_L1},
+    {Restorability::Otherwise, "otherwise"_L1,  "comes back differently"_L1, "come back differently"_L1,
+     "Restore undoes these changes, but sets a fixed value, not the one you had."_L1},
     {Restorability::NotAtAll,  "not-at-all"_L1, "doesn't come back"_L1,      "don't come back"_L1,
-     "Restore leaves these changes, or a part of them, as Optimize made them."_L1},
-    {Restorability::Unasked,   "unasked"_L1,    "changed by Restore alone"_L1, "are changed by Restore alone"_L1,
-     "Optimize leaves these alone, and Restore sets a default all the same."_L1},
+     "Restore leaves these changes, or some of them, as Optimize made them."_L1},
+    {Restorability::Unasked,   "unasked"_L1,    "changed by Restore only"_L1, "are changed by Restore only"_L1,
+     "Optimize doesn't touch these, but Restore sets them to a default anyway."_L1},
 };
 
 constexpr GroupTexts groupRows[] = {
     {PreviewGroup::Services, "services"_L1, "Services"_L1,
-     "Programs that work in the background. Optimize stops and disables those that a home PC can do without, and lets "
-     "some others start only when something needs them."_L1},
+     "Programs that work in the background. Optimize stops and disables those that a home PC can do without, and sets "
+     "some others to start only when something needs them."_L1},
     {PreviewGroup::Tasks,    "tasks"_L1,    "Scheduled tasks"_L1,
      "What Windows or a program does at set times. Optimize disables them; they are not removed."_L1},
     {PreviewGroup::Packages, "packages"_L1, "Windows applications"_L1,
@@ -38,10 +38,10 @@ constexpr GroupTexts groupRows[] = {
     {PreviewGroup::Files,    "files"_L1,    "Files"_L1,
      "Files and folders that come, go or change."_L1},
     {PreviewGroup::Registry, "registry"_L1, "Other registry values"_L1,
-     "What belongs to nothing above, by its name in the registry, where Windows keeps its settings."_L1},
-    {PreviewGroup::Records,  "records"_L1,  "Kestrune's own notes"_L1,
-     "What Kestrune writes down for itself: the notes that Restore goes by, its log and its backups. This changes "
-     "nothing in Windows and isn't counted above."_L1},
+     "Registry values not covered above, by their names in the registry, where Windows keeps its settings."_L1},
+    {PreviewGroup::Records,  "records"_L1,  "Kestrune's own records"_L1,
+     "What Kestrune writes for itself: the records that Restore works from, its log and its backups. They change "
+     "nothing in Windows and aren't counted above."_L1},
 };
 
 struct WhyRow
@@ -52,28 +52,28 @@ struct WhyRow
 };
 constexpr WhyRow whyRows[] = {
     {PreviewGroup::Services, Restorability::Otherwise,
-     "Restore starts every service that Optimize has disabled, and lets it start with Windows, at once and by itself: "
-     "a service that started only on demand, or with a delay, keeps its new way."_L1},
+     "Restore starts every service that Optimize has disabled and sets it to automatic: a service that used to start on "
+     "demand or with a delay now starts automatically."_L1},
     {PreviewGroup::Services, Restorability::NotAtAll,
-     "Optimize makes no note of a service that it sets to start on demand (manual), so Restore doesn't know of it."_L1},
+     "Optimize does not record services that it sets to manual, so Restore doesn't know of them."_L1},
     {PreviewGroup::Tasks,    Restorability::NotAtAll,
-     "Restore enables only those tasks that Optimize has noted."_L1},
+     "Restore enables only the tasks that Optimize has recorded."_L1},
     {PreviewGroup::Packages, Restorability::Exactly,
-     "Restore registers the application again from its files, as Windows itself does for a new user."_L1},
+     "Restore re-registers the app from its files, as Windows itself does for a new user."_L1},
     {PreviewGroup::Packages, Restorability::Otherwise,
-     "The application comes back from its files as newly installed, which isn't all that was there."_L1},
+     "The app comes back as newly installed, without what it had stored."_L1},
     {PreviewGroup::Packages, Restorability::NotAtAll,
-     "Restore registers an application again from its files, and these were not to be found."_L1},
+     "Restore re-registers an app from its files, which could not be found."_L1},
     {PreviewGroup::Autorun,  Restorability::Otherwise,
-     "The note of the command ends at its first \"=\", so the program starts without what stood behind that."_L1},
+     "The saved command is cut at its first \"=\", so the program starts without the rest of its arguments."_L1},
     {PreviewGroup::Autorun,  Restorability::NotAtAll,
-     "Restore brings back only a command whose program stands in quotation marks and is on the disk."_L1},
+     "Restore brings back only a command whose program is in quotation marks and exists on the disk."_L1},
     {PreviewGroup::Tweaks,   Restorability::Otherwise,
-     "Restore doesn't know what you had: it writes a fixed default of Windows, or takes the value away."_L1},
+     "Restore doesn't know what you had: it writes a fixed value, mostly Windows' default, or deletes it."_L1},
     {PreviewGroup::Tweaks,   Restorability::NotAtAll,
      "Restore doesn't reset this option, or not all of its values."_L1},
     {PreviewGroup::Tweaks,   Restorability::Unasked,
-     "The option was already as Optimize wants it, or isn't one of its own; Restore resets it all the same."_L1},
+     "The option was already as Optimize wants it, or isn't one that Optimize uses; Restore resets it anyway."_L1},
     {PreviewGroup::Files,    Restorability::NotAtAll,
      "Restore doesn't touch this file."_L1},
     {PreviewGroup::Registry, Restorability::NotAtAll,

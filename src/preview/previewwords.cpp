@@ -136,7 +136,7 @@ PreviewWords packagedTaskWords(const DiffRow &row)
     PreviewWords words{.group = PreviewGroup::Autorun,
                        .item = foldName(row.path),
                        .title = task,
-                       .about = u"A start that an application of Windows has registered: "_s
+                       .about = u"Registered by a Windows application: "_s
                                 + row.path.section(u'\\', -2, -2).section(u'_', 0, 0)};
     putValue(words, row);
     return words;
@@ -146,7 +146,7 @@ PreviewWords registryWords(Machine &before, Machine &optimized, const DiffRow &r
 {
     const QString &path = row.path;
     if (path.startsWith(recordsPrefix, Qt::CaseInsensitive)) {
-        PreviewWords words{.group = PreviewGroup::Records, .item = u"notes"_s, .title = u"Notes of what was done"_s};
+        PreviewWords words{.group = PreviewGroup::Records, .item = u"notes"_s, .title = u"Records of what was done"_s};
         putValue(words, row);
         return words;
     }
@@ -175,7 +175,7 @@ struct FileAbout
 constexpr FileAbout fileAbouts[] = {
     {"\\RIVATUNER STATISTICS SERVER\\PROFILES\\CONFIG"_L1,
      "The settings of RivaTuner Statistics Server, which shows figures over games: its video encoder is switched off"_L1},
-    {"\\TASKS.XML"_L1, "The list of scheduled tasks as Kestrune has asked for it"_L1},
+    {"\\TASKS.XML"_L1, "The list of scheduled tasks that Kestrune asked Windows for"_L1},
 };
 // clang-format on
 
@@ -192,7 +192,7 @@ PreviewWords fileWords(const DiffRow &row)
 {
     static const QMap<DiffKind, QString> details{{DiffKind::File, u"the file"_s},
                                                  {DiffKind::Attribute, u"its attributes"_s},
-                                                 {DiffKind::Security, u"its owner and who may do what"_s}};
+                                                 {DiffKind::Security, u"its owner and permissions"_s}};
     const QString detail = details.value(row.kind);
     if (row.path.startsWith("program\\"_L1)) {
         return {.group = PreviewGroup::Records,

@@ -65,7 +65,7 @@ constexpr TweakRow tweakRows[] = {
     {"chkGaming12"_L1, "Set the maximum number of GPU pre-rendered frames to 1"_L1,
      "Less delay between the mouse and the picture"_L1},
     {"chkGaming13"_L1, "Disable Multiplane Overlay (MPO)"_L1,
-     "May mend flicker and stutter; some videos and full-screen games may run worse"_L1},
+     "May fix flicker and stutter; some videos and full-screen games may run worse"_L1},
     {"chkGaming14"_L1, "Disable ULPS"_L1,
      "Ultra Low Power State of AMD graphics cards: they stay awake"_L1},
     {"chkWindows1"_L1, "Disable SvcHost splitting"_L1,

@@ -73,16 +73,15 @@ int runCapture(const Arguments &arguments)
 
 QString moreHelp()
 {
-    return u"The PC is read and not changed. What is taken is what the program looks at: its registry keys, services,\n"
+    return u"The PC is read and not changed. It copies only what the program looks at: its registry keys, services,\n"
            "of scheduled tasks the description, the state, the kinds of triggers and the rights, packages, programs "
            "at\n"
            "logon without their arguments, names of processes, hardware, and the sizes of some files. The PC is "
            "called\n"
-           "PC, its user User and others Other, wherever they are named. In the end the machine is searched for those\n"
-           "names, and where one is left, as part of another word for example, is told.\n"
-           "A way back ('preview --undo') needs the real names and all that there is: capture the PC for one with\n"
-           "--with-names and as an administrator.\n"
-           "Administrator rights aren't needed; without them a few things can't be read, which is told in the end.\n"_s;
+           "PC, its user User and others Other, wherever they are named. At the end the machine is searched for those\n"
+           "names, and each place where one is left, as part of another word for example, is listed.\n"
+           "To use 'preview --undo', capture with --with-names and as administrator.\n"
+           "Administrator rights aren't needed; what can't be read without them is listed at the end.\n"_s;
 }
 
 // clang-format off

@@ -157,16 +157,16 @@ constexpr JobRow rows[] = {
     {"tweak"_L1,             "GROUP ID on|off"_L1, "apply a tweak of ssd, gaming or windows, or take it back"_L1,
      jobTweak,                                                                              3,  3, {}, {}, {}, {}, {},
      "Applies a tweak of the group\n.BR ssd ,\n.B gaming\nor\n.BR windows ,\nor takes it back.\n"
-     ".B run \\-\\-help\ntells them all."_L1},
+     ".B run \\-\\-help\nlists them all."_L1},
     {"analyze"_L1,           {},           "look for what could be optimized"_L1, JobAutomatizerAnalyze,  0, 0, {}, {}, {}, {}, {},
      "Looks for what could be optimized, and changes nothing."_L1},
     {"optimize"_L1,          {},           "analyze and optimize"_L1,           JobAutomatizerOptimize, 0,  0, {}},
     {"restore"_L1,           {},           "take an optimization back"_L1,      JobAutomatizerRestore,  0,  0, {}, {}, {}, {}, {},
      "Takes back what an optimization has recorded.\nPrograms that it can't bring back are named at the end."_L1},
     {"winsxs"_L1,            {},           "measure the component store"_L1,    JobWinSxsSize,      0,  0, {}},
-    {"sysinfo"_L1,           {},           "collect what the system report tells"_L1, JobGetSystemInfo, 0, 0,
+    {"sysinfo"_L1,           {},           "print the system report"_L1, JobGetSystemInfo, 0, 0,
      "pgr:value:7"_L1, {}, {}, {}, systemReport},
-    {"monitor"_L1,           {},           "tell once how busy the machine is"_L1, JobMonitor,      0,  0, anyLine},
+    {"monitor"_L1,           {},           "print the machine's load once"_L1, JobMonitor,      0,  0, anyLine},
 };
 // clang-format on
 

@@ -65,8 +65,8 @@ void printHelp()
           "  %1 gui pc\n"
           "      try whatever you like in the window\n\n"
           "Exit status: 0 done, 1 the job reported a failure, 2 bad arguments, 3 the machine can't be read,\n"
-          "130 broken off by Ctrl-C.\n"
-          "'%1 COMMAND --help' tells more of a command, with examples.\n"_s.arg(program));
+          "130 interrupted by Ctrl-C.\n"
+          "'%1 COMMAND --help' explains a command, with examples.\n"_s.arg(program));
 }
 
 const Subcommand &findSubcommand(const QStringList &words)

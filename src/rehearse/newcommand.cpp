@@ -54,7 +54,7 @@ constexpr OptionRow options[] = {
      "or from a folder of sources: all its\n.I .reg\nfiles in the order of their names, then its\n"
      ".I tasks.xml\nand its\n.IR machine.json ."_L1},
     {"force"_L1, {},          "replace the machine that is there"_L1,
-     "Replaces the machine that is there.\nNothing but a machine is ever replaced."_L1},
+     "Replaces the machine that is there.\nOnly a rehearsal machine is ever replaced."_L1},
 };
 // clang-format on
 

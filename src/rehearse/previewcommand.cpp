@@ -80,7 +80,7 @@ void checkNames(const QString &folder)
 {
     if (openMachine(folder)->hasReplacedNames()) {
         throw Failure{ExitBadArguments,
-                      u"%1: the names of this PC and its user were replaced, and a way back would bring back these; "
+                      u"%1: this machine was captured without real names, so --undo would write placeholders; "
                       "capture it with --with-names"_s.arg(folder)};
     }
 }
@@ -161,8 +161,8 @@ constexpr OptionRow options[] = {
      "It can be applied in Safe Mode with nothing but the system's own tools.\n"
      "What has a name that would say something else in a script or a command, by a control character, a quotation mark or "
      "a percent\nsign, is left out, and the output names it.\n"
-     "A captured PC must bear its own names for that, and should have been captured by an administrator: what could not "
-     "be read is\ntaken for not there."_L1},
+     "The PC must have been captured with its real names, and should have been captured by an administrator: anything that "
+     "could not\nbe read is treated as absent."_L1},
 };
 // clang-format on
 

@@ -161,8 +161,8 @@ QString moreHelp()
 constexpr OptionRow options[] = {
     {"not-elevated"_L1, {},                   "run it as a user without administrator rights"_L1,
      "Runs the job as a user without administrator rights."_L1},
-    {"pace"_L1,         "FACTOR"_L1,          "sleep this many times each pause of the job (default 0)"_L1,
-     "Sleeps this many times each deliberate pause of the job.\nThe default is 0: no pauses."_L1},
+    {"pace"_L1,         "FACTOR"_L1,          "multiply the job's pauses by FACTOR (default 0: no pauses)"_L1,
+     "Multiplies the job's deliberate pauses by FACTOR.\nThe default is 0: no pauses."_L1},
     {"keep"_L1,         "FEATURE=STATE,..."_L1, "keep or give up features, for this run alone"_L1,
      "Keeps a feature (2) or gives it up (0), for this run alone; see\n.BR \"FEATURES TO KEEP\" ."_L1},
     {"no-programs"_L1,  {},                   "let the Automatizer leave packages and programs at logon alone"_L1},

@@ -117,7 +117,7 @@ void checkReportFile(const QString &path)
 void checkReportFiles(const QString &path)
 {
     if (isDevice(path))
-        fail(path, u"is no file"_s);
+        fail(path, u"not a file"_s);
     checkReportFile(path);
 }
 

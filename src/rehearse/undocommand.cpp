@@ -31,7 +31,7 @@ QDateTime parseTime(const QString &text)
 {
     const QDateTime time = QDateTime::fromString(QString(text).replace(u' ', u'T'), Qt::ISODate);
     if (!time.isValid())
-        throw UsageError{u"'%1' is no time, such as 2026-11-22T09:30"_s.arg(text)};
+        throw UsageError{u"'%1' isn't a time, such as 2026-11-22T09:30"_s.arg(text)};
     return time;
 }
 

@@ -39,7 +39,7 @@ int runVerify(const Arguments &arguments)
     const std::unique_ptr<Machine> before = openMachine(arguments.operand(0));
     const std::unique_ptr<Machine> now = openMachine(arguments.operand(1));
     if (const QString difference = differentPcs(*before, *now); !difference.isEmpty())
-        throw Failure{ExitBadArguments, u"these can't be held against each other: "_s + difference};
+        throw Failure{ExitBadArguments, u"these two can't be compared: "_s + difference};
 
     Progress progress;
     const QTemporaryDir work;

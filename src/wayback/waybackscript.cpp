@@ -84,7 +84,7 @@ QByteArray commandText(const QStringList &commands, const QString &script, const
                    + script
                    + u"\"). This can be done in Safe Mode.\n"
                      "rem 2. Restart, so that services start as they did.\n"
-                     "rem 3. Give these commands in a command prompt of an administrator, in this folder.\n"
+                     "rem 3. Run these commands in this folder, in a command prompt opened as administrator.\n"
                      "rem\n"_s;
     for (const QString &command : commands)
         text += command + u'\n';

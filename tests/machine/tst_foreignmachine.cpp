@@ -122,7 +122,7 @@ void TestForeignMachine::anEndlessQueryHeedsInterruption()
     }));
     thread->start();
     QVERIFY(thread->wait());
-    QVERIFY2(problem.contains(u"broken off"_s), qPrintable(problem));
+    QVERIFY2(problem.contains(u"interrupted"_s), qPrintable(problem));
 }
 
 void TestForeignMachine::openRefuses_data()
@@ -190,7 +190,7 @@ void TestForeignMachine::damageIsFoundAtOpening()
         damaged.replace(at, 100, QByteArray(100, '\xA5'));
         writeFile(file, damaged);
         const QString problem = errorOf([this] { Machine::open(folder()); });
-        QVERIFY2(problem.contains(u"is damaged"_s), qPrintable(u"page %1: %2"_s.arg(at / page).arg(problem)));
+        QVERIFY2(problem.contains(u"damaged"_s), qPrintable(u"page %1: %2"_s.arg(at / page).arg(problem)));
     }
 }
 

@@ -187,8 +187,8 @@ void TestMachine::openRefuses_data()
                                    << u"version 2"_s;
     QTest::newRow("version is no number")
         << QByteArray("UPDATE meta SET value = 'x' WHERE name = 'version'") << -1 << none << u"damaged"_s;
-    QTest::newRow("no version") << QByteArray("DELETE FROM meta") << -1 << none << u"no rehearsal machine"_s;
-    QTest::newRow("another database") << QByteArray("DROP TABLE meta") << -1 << none << u"no rehearsal machine"_s;
+    QTest::newRow("no version") << QByteArray("DELETE FROM meta") << -1 << none << u"not a rehearsal machine"_s;
+    QTest::newRow("another database") << QByteArray("DROP TABLE meta") << -1 << none << u"not a rehearsal machine"_s;
     QTest::newRow("empty file") << none << 0 << none << u"damaged"_s;
     QTest::newRow("tiny file") << none << 100 << none << u"damaged"_s;
     QTest::newRow("cut in the first page") << none << 3000 << none << u"malformed"_s;
@@ -219,9 +219,9 @@ void TestMachine::openRefuses()
     QVERIFY2(problem.contains(reason), qUtf8Printable(problem));
     QVERIFY2(problem.contains(u"machine.sqlite"_s) && !problem.contains(u'\n'), qUtf8Printable(problem));
     QCOMPARE(contents(folder()), before);
-    QVERIFY(problemOfOpening(temporary_->filePath(u"nowhere"_s)).contains(u"no rehearsal machine"_s));
+    QVERIFY(problemOfOpening(temporary_->filePath(u"nowhere"_s)).contains(u"not a rehearsal machine"_s));
     QVERIFY(!QFileInfo::exists(temporary_->filePath(u"nowhere"_s)));
-    QVERIFY(problemOfOpening(temporary_->path()).contains(u"no rehearsal machine"_s));
+    QVERIFY(problemOfOpening(temporary_->path()).contains(u"not a rehearsal machine"_s));
     QVERIFY(!QFileInfo::exists(temporary_->filePath(u"machine.sqlite"_s)));
 }
 
@@ -418,7 +418,7 @@ void TestMachine::ownFilesAreNoLinks()
     QVERIFY(QFile::link(elsewhere, file));
     const QMap<QString, QByteArray> before = contents(temporary_->path());
     const QString problem = problemOfOpening(folder());
-    QVERIFY2(problem.contains(name + u": is a link"_s) && !problem.contains(u'\n'), qUtf8Printable(problem));
+    QVERIFY2(problem.contains(name + u": a link"_s) && !problem.contains(u'\n'), qUtf8Printable(problem));
     QCOMPARE(contents(temporary_->path()), before);
 }
 

@@ -445,7 +445,7 @@ void TestMachineSource::unknownFilesAreRefused()
              file
                  + u": neither a registry script, nor scheduled tasks, nor a machine.json, nor a list of services by "
                    "sc"_s);
-    QCOMPARE(errorOf([&] { importFile(*machine, machine.folder()); }), machine.folder() + u": is a folder"_s);
+    QCOMPARE(errorOf([&] { importFile(*machine, machine.folder()); }), machine.folder() + u": a folder, not a file"_s);
 }
 
 KESTRUNE_SUITE(TestMachineSource)

@@ -207,12 +207,12 @@ void TestRegFile::readsVersion4()
 void TestRegFile::tellsWhatIsWrong_data()
 {
     addColumns<QByteArray, int, QString>("script", "line", "reason");
-    QTest::newRow("empty") << QByteArray() << 1 << u"no registry script"_s;
-    QTest::newRow("other text") << QByteArray("\n\nHello\n") << 3 << u"no registry script"_s;
-    QTest::newRow("no script") << QByteArray("[HKEY_CURRENT_USER\\a]\n") << 1 << u"no registry script"_s;
-    QTest::newRow("garbage line") << oneKey + "hello\n" << 4 << u"no key, no value"_s;
+    QTest::newRow("empty") << QByteArray() << 1 << u"not a registry script"_s;
+    QTest::newRow("other text") << QByteArray("\n\nHello\n") << 3 << u"not a registry script"_s;
+    QTest::newRow("no script") << QByteArray("[HKEY_CURRENT_USER\\a]\n") << 1 << u"not a registry script"_s;
+    QTest::newRow("garbage line") << oneKey + "hello\n" << 4 << u"not a key"_s;
     QTest::newRow("open bracket") << header + "[HKEY_CURRENT_USER\\a\n\"x\"=\"]\"\n" << 3 << u"closing bracket"_s;
-    QTest::newRow("behind the bracket") << header + "[HKEY_CURRENT_USER\\a] b\n" << 3 << u"behind the key"_s;
+    QTest::newRow("behind the bracket") << header + "[HKEY_CURRENT_USER\\a] b\n" << 3 << u"after the key"_s;
     QTest::newRow("no key") << header + "[]\n" << 3 << u"hives"_s;
     QTest::newRow("removing nothing") << header + "[-]\n" << 3 << u"hives"_s;
     QTest::newRow("other hive") << header + "[HKEY_NOWHERE\\a]\n" << 3 << u"hives"_s;
@@ -225,10 +225,10 @@ void TestRegFile::tellsWhatIsWrong_data()
     QTest::newRow("unknown data") << oneKey + "\"a\"=qword:1\n" << 4 << u"data"_s;
     QTest::newRow("open text") << oneKey + "\n\"a\"=\"b\n" << 5 << u"quotation mark"_s;
     QTest::newRow("open name") << oneKey + "\"a\n" << 4 << u"quotation mark"_s;
-    QTest::newRow("behind the text") << oneKey + "\"a\"=\"b\"c\n" << 4 << u"behind the value"_s;
+    QTest::newRow("behind the text") << oneKey + "\"a\"=\"b\"c\n" << 4 << u"after the value"_s;
     QTest::newRow("long dword") << oneKey + "\"a\"=dword:000000001\n" << 4 << u"eight digits"_s;
-    QTest::newRow("bad dword") << oneKey + "\"a\"=dword:12x\n" << 4 << u"behind the value"_s;
-    QTest::newRow("bad byte") << oneKey + "\"a\"=hex:00,\\\n  0g\n" << 5 << u"behind the value"_s;
+    QTest::newRow("bad dword") << oneKey + "\"a\"=dword:12x\n" << 4 << u"after the value"_s;
+    QTest::newRow("bad byte") << oneKey + "\"a\"=hex:00,\\\n  0g\n" << 5 << u"after the value"_s;
     QTest::newRow("long byte") << oneKey + "\"a\"=hex:000\n" << 4 << u"two digits"_s;
     QTest::newRow("open type") << oneKey + "\"a\"=hex(7:00\n" << 4 << u"type"_s;
     QTest::newRow("no type") << oneKey + "\"a\"=hex():00\n" << 4 << u"type"_s;

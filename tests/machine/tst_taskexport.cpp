@@ -115,8 +115,8 @@ void TestTaskExport::mistakesAreToldWithTheirLine_data()
 {
     addColumns<QString, QString>("text", "message");
     // clang-format off
-    QTest::newRow("empty")              << u""_s                                         << u"f:1: holds no task"_s;
-    QTest::newRow("list without tasks") << u"<Tasks>\n</Tasks>"_s                        << u"f:1: holds no task"_s;
+    QTest::newRow("empty")              << u""_s                                         << u"f:1: no task in it"_s;
+    QTest::newRow("list without tasks") << u"<Tasks>\n</Tasks>"_s                        << u"f:1: no task in it"_s;
     QTest::newRow("other text")         << u"\n\nERROR: Access is denied."_s             << u"f:3: neither a task nor a comment"_s;
     QTest::newRow("comment")            << u"<!-- \\a --\n"_s                            << u"f:1: the comment doesn't end"_s;
     QTest::newRow("declaration")        << u"<!-- \\a -->\n<?xml version"_s              << u"f:2: the declaration doesn't end"_s;

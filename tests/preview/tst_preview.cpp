@@ -311,7 +311,7 @@ void TestPreview::textTellsCountsAndSides()
     setNumber(*three.restored, otherKey, u"x"_s, 3);
 
     const QString text = previewText(three.items());
-    QVERIFY2(text.contains(u"    1 come back as a default\n"_s), qPrintable(text));
+    QVERIFY2(text.contains(u"    1 come back differently\n"_s), qPrintable(text));
     QVERIFY2(text.contains(u"    x: dword 1 -> dword 2 -> dword 3\n"_s), qPrintable(text));
 }
 

@@ -261,7 +261,7 @@ void TestPreviewPage::itemOpensToItsValues()
     QVERIFY2(text.contains(servicesKey + u"MapsBroker\\Start"_s), qPrintable(text));
     QVERIFY2(text.contains(u"automatic"_s) && text.contains(u"manual"_s), qPrintable(text));
     const QString page = browser_.run(u"return document.body.innerText"_s).toString();
-    QVERIFY(page.contains(u"Optimize makes no note of a service that it sets to start on demand"_s));
+    QVERIFY(page.contains(u"Optimize does not record services that it sets to manual"_s));
     keep(u"opened"_s);
 
     browser_.click(u"#again, #open"_s);

@@ -81,7 +81,7 @@ void TestUndo::previewTellsOfEveryGroup()
             unexplainedFiles.append(titles.last());
     }
     for (const QString &group : {u"Services"_s, u"Scheduled tasks"_s, u"Windows applications"_s,
-                                 u"Programs started at logon"_s, u"System options"_s, u"Kestrune's own notes"_s})
+                                 u"Programs started at logon"_s, u"System options"_s, u"Kestrune's own records"_s})
         QVERIFY2(groups.value(group) > 0, qPrintable(group));
     QVERIFY2(titles.contains(u"Print Spooler"_s), qPrintable(titles.join(u'\n')));
     QVERIFY2(titles.contains(u"Disable telemetry"_s), qPrintable(titles.join(u'\n')));

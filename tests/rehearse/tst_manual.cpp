@@ -88,6 +88,8 @@ class TestManual : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void speaksPlainly_data();
+    void speaksPlainly();
     void theManualHasEachCommandOfTheHelpAndNoOther();
     void optionsAreThoseOfTheHelp_data();
     void optionsAreThoseOfTheHelp();
@@ -178,6 +180,30 @@ void TestManual::eachCommandHasAnExample()
 {
     for (const QString &command : commandsOfHelp())
         QVERIFY2(help({command}).contains(u"Examples:\n  kestrune-rehearse %1 "_s.arg(command)), qPrintable(command));
+}
+
+void TestManual::speaksPlainly_data()
+{
+    QTest::addColumn<QString>("text");
+    const QDir root(QFileInfo(QStringLiteral(KESTRUNE_MANUAL)).path() + u"/.."_s);
+    for (const char *file : {"README.md", "SECURITY.md", "CHANGELOG.md", "docs/kestrune-rehearse.1"})
+        QTest::newRow(file) << QString::fromUtf8(readFile(root.filePath(QLatin1StringView(file))));
+    QTest::newRow("help") << help();
+    for (const QString &command : commandsOfHelp())
+        QTest::newRow(qPrintable(u"help of "_s + command)) << help({command});
+}
+
+/** Words that are English and that nobody says of a program. */
+void TestManual::speaksPlainly()
+{
+    QFETCH(QString, text);
+    static const QRegularExpression odd(
+        u"\\b(behind (?!the seam)|mend|mends|mended|bears?|comes to be|hold(s)? against|"
+        "held against|can't be told|is told|once more|what there is|all that there is|"
+        "the answer is|in the end)\\b"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = odd.match(text.simplified());
+    QVERIFY2(!match.hasMatch(), qPrintable(text.simplified().mid(match.capturedStart() - 60, 120)));
 }
 
 KESTRUNE_SUITE(TestManual)

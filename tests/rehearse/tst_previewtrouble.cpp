@@ -149,30 +149,30 @@ void TestPreviewTrouble::damagedMachineIsTold_data()
     };
     QTest::newRow("cut off") << Damage([=](const QString &machine) {
         QVERIFY(QFile::resize(databaseOf(machine), QFileInfo(databaseOf(machine)).size() / 2));
-    }) << u"is damaged"_s;
+    }) << u"damaged"_s;
     QTest::newRow("empty") << Damage([=](const QString &machine) { QVERIFY(QFile::resize(databaseOf(machine), 0)); })
-                           << u"is damaged"_s;
+                           << u"damaged"_s;
     QTest::newRow("overwritten from its start")
-        << Damage([=](const QString &machine) { inDatabase(machine, 0, QByteArray(4096, 'x')); }) << u"is damaged"_s;
+        << Damage([=](const QString &machine) { inDatabase(machine, 0, QByteArray(4096, 'x')); }) << u"damaged"_s;
     QTest::newRow("overwritten in its middle")
         << Damage([=](const QString &machine) { inDatabase(machine, 16384, QByteArray(262144, '\xe5')); })
-        << u"is damaged"_s;
+        << u"damaged"_s;
     QTest::newRow("a table is missing") << Damage([](const QString &machine) {
         executeIn(machine, "DROP TABLE bootoption");
     }) << u"'bootoption'"_s;
     QTest::newRow("database of something else") << Damage([=](const QString &machine) {
         QVERIFY(QFile::remove(databaseOf(machine)));
         executeIn(machine, "CREATE TABLE bookmarks (name)");
-    }) << u"is no rehearsal machine"_s;
+    }) << u"not a rehearsal machine"_s;
     QTest::newRow("of a later version") << Damage([](const QString &machine) {
         executeIn(machine, "UPDATE meta SET value = 99 WHERE name = 'version'");
-    }) << u"is of version 99"_s;
+    }) << u": version 99"_s;
     QTest::newRow("without its files") << Damage([](const QString &machine) {
         QVERIFY(QDir(machine + u"/drive_c"_s).removeRecursively());
     }) << u"drive_c"_s;
     QTest::newRow("without its database")
         << Damage([=](const QString &machine) { QVERIFY(QFile::remove(databaseOf(machine))); })
-        << u"is no rehearsal machine"_s;
+        << u"not a rehearsal machine"_s;
 }
 
 void TestPreviewTrouble::damagedMachineIsTold()

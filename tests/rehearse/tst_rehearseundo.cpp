@@ -285,7 +285,7 @@ void TestRehearseUndo::refusals_data()
 {
     addColumns<QStringList, QString>("arguments", "message");
     QTest::newRow("time") << QStringList{u"--since"_s, u"yesterday"_s}
-                          << u"'yesterday' is no time, such as 2026-11-22T09:30"_s;
+                          << u"'yesterday' isn't a time, such as 2026-11-22T09:30"_s;
     QTest::newRow("number") << QStringList{u"--session"_s, u"0"_s} << u"invalid argument '0' for '--session'"_s;
     QTest::newRow("item") << QStringList{u"--item"_s, u"1,x"_s} << u"invalid argument 'x' for '--item'"_s;
     QTest::newRow("both") << QStringList{u"--since"_s, u"2000-01-01"_s, u"--session"_s, u"1"_s}

@@ -33,7 +33,7 @@ void FileChanges::makeFolder(const QString &folder)
     QStringList missing;
     for (QString path = QDir::cleanPath(folder); !QFileInfo(path).isDir(); path = QFileInfo(path).path()) {
         if (QFileInfo::exists(path))
-            throw MachineError{u"%1: is a file, not a folder"_s.arg(path)};
+            throw MachineError{u"%1: a file, not a folder"_s.arg(path)};
         missing.prepend(path);
     }
     for (const QString &path : missing) {
@@ -47,7 +47,7 @@ void FileChanges::write(const QString &file, const QByteArray &content, qint64 s
 {
     makeFolder(QFileInfo(file).path());
     if (QFileInfo(file).isDir())
-        throw MachineError{u"%1: is a folder, not a file"_s.arg(file)};
+        throw MachineError{u"%1: a folder, not a file"_s.arg(file)};
     if (QFileInfo::exists(file) && !made_.contains(file)) {
         const QString aside = file + u".before-import"_s;
         QFile::remove(aside);

@@ -21,7 +21,7 @@ QByteArray readFile(const QString &path)
 {
     QFile file(absolutePath(path));
     if (QFileInfo(file).isDir())
-        throw MachineError{u"%1: is a folder"_s.arg(path)};
+        throw MachineError{u"%1: a folder, not a file"_s.arg(path)};
     if (!file.open(QIODevice::ReadOnly))
         throw MachineError{u"%1: %2"_s.arg(path, file.errorString())};
     return file.readAll();
@@ -203,7 +203,7 @@ QStringList sourceFiles(const QString &sources)
             files.append(named.filePath(name));
     }
     if (files.isEmpty())
-        throw MachineError{u"%1: holds neither .reg files nor a tasks.xml nor a machine.json"_s.arg(sources)};
+        throw MachineError{u"%1: has neither .reg files nor a tasks.xml nor a machine.json"_s.arg(sources)};
     return files;
 }
 
@@ -219,7 +219,7 @@ void checkPlace(const QString &folder, Existing existing)
     if (!place.exists())
         return;
     if (!place.isDir())
-        throw MachineError{u"%1: is not a folder"_s.arg(folder)};
+        throw MachineError{u"%1: not a folder"_s.arg(folder)};
     if (isMachine(folder)) {
         if (existing == Existing::Keep)
             throw MachineError{u"%1: there is a machine already"_s.arg(folder)};

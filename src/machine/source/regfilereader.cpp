@@ -182,7 +182,7 @@ void ScriptReader::endLine()
     if (peek() == u';')
         restOfLine();
     if (peek() != u'\n')
-        fail(u"there is more behind the value than a comment"_s);
+        fail(u"unexpected text after the value"_s);
     takeIf(u'\n');
 }
 
@@ -204,7 +204,7 @@ QList<RegistryEdit> ScriptReader::read()
         else if (peek() == u'"' || peek() == u'@')
             readValue();
         else
-            fail(u"this is no key, no value and no comment"_s);
+            fail(u"not a key, a value or a comment"_s);
     }
     return edits_;
 }
@@ -216,7 +216,7 @@ void ScriptReader::readHeader()
     const QString header = restOfLine().trimmed();
     narrow_ = header == u"REGEDIT4";
     if (!narrow_ && header.compare(u"Windows Registry Editor Version 5.00", Qt::CaseInsensitive) != 0)
-        fail(u"this is no registry script: \"Windows Registry Editor Version 5.00\" is missing"_s);
+        fail(u"not a registry script: \"Windows Registry Editor Version 5.00\" is missing"_s);
 }
 
 void ScriptReader::readKey()
@@ -227,7 +227,7 @@ void ScriptReader::readKey()
         fail(u"the key's closing bracket is missing"_s);
     const QString rest = line.mid(end + 1).trimmed();
     if (!rest.isEmpty() && !rest.startsWith(u';'))
-        fail(u"there is more behind the key than a comment"_s);
+        fail(u"unexpected text after the key"_s);
     removing_ = line.startsWith(u'-');
     key_ = line.sliced(removing_ ? 1 : 0, end - (removing_ ? 1 : 0));
     if (!RegistryStore::isHivePath(key_))
@@ -250,7 +250,7 @@ void ScriptReader::readValue()
         edit.value.name = readQuoted();
     skipBlanks();
     if (!takeIf(u'='))
-        fail(u"the \"=\" behind the value's name is missing"_s);
+        fail(u"missing \"=\" after the value's name"_s);
     skipBlanks();
     readData(edit);
     endLine();
@@ -270,7 +270,7 @@ void ScriptReader::readData(RegistryEdit &edit)
         edit.value.type = readHexType();
         edit.value.data = widened(edit.value.type, readBytes());
     } else {
-        fail(u"the value's data is no text, dword: or hex:"_s);
+        fail(u"the value's data must be a text, dword: or hex:"_s);
     }
 }
 
@@ -312,7 +312,7 @@ RegistryType ScriptReader::readHexType()
         type = digits.toUInt(nullptr, 16);
     }
     if (!takeIf(u':'))
-        fail(u"the \":\" behind hex is missing"_s);
+        fail(u"missing \":\" after hex"_s);
     return RegistryType(type);
 }
 

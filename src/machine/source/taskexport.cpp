@@ -47,7 +47,7 @@ public:
                 fail(place_, u"neither a task nor a comment"_s);
         }
         if (tasks_.isEmpty())
-            fail(0, u"holds no task"_s);
+            fail(0, u"no task in it"_s);
         return tasks_;
     }
 
