@@ -152,9 +152,11 @@ PreviewWords registryWords(Machine &before, Machine &optimized, const DiffRow &r
     }
     if (path.contains(packagesPart, Qt::CaseInsensitive))
         return packageWords(before.registry().find(path) ? before : optimized, row);
-    if (path.endsWith(WindowsKey::runPart, Qt::CaseInsensitive))
+    // A key that listing has made starts nothing.
+    const bool ofValue = !row.name.isEmpty();
+    if (ofValue && path.endsWith(WindowsKey::runPart, Qt::CaseInsensitive))
         return runValueWords(row);
-    if (path.contains(packagedTasksPart, Qt::CaseInsensitive))
+    if (ofValue && path.contains(packagedTasksPart, Qt::CaseInsensitive))
         return packagedTaskWords(row);
     if (const QString service = partAfter(path, servicePrefix); path.size() == servicePrefix.size() + service.size())
         return serviceValueWords(before, service, row);

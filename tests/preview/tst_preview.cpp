@@ -5,6 +5,7 @@
 #include "support/smallmachine.h"
 #include "support/suite.h"
 
+#include "platform/windowsfacts.h"
 #include "preview/preview.h"
 #include "preview/previewtexts.h"
 
@@ -61,6 +62,9 @@ private Q_SLOTS:
     void optionAsAWholeIsAppliedOrNot();
     void manyValuesAreCounted();
     void programAtLogonIsCalledByItsValue();
+    void keyThatListingMakesStartsNothing_data();
+    void keyThatListingMakesStartsNothing();
+    void startWithoutAStateIsOff();
     void ownRecordsStandApartAndDoNotCount();
     void sortedByGroupAndTitle();
     void textTellsCountsAndSides();
@@ -278,6 +282,44 @@ void TestPreview::programAtLogonIsCalledByItsValue()
     QCOMPARE(item.group, PreviewGroup::Autorun);
     QCOMPARE(item.title, u"Chat"_s);
     QCOMPARE(item.comesBack(), Restorability::Exactly);
+}
+
+void TestPreview::keyThatListingMakesStartsNothing_data()
+{
+    addColumns<QString>("key");
+    for (const QString &run : WindowsKey::runKeys)
+        QTest::newRow(qPrintable(run)) << run;
+    for (const QString &task : {WindowsKey::terminalTask, WindowsKey::xboxTask})
+        QTest::newRow(qPrintable(task.section(u'\\', -1))) << task;
+}
+
+void TestPreview::keyThatListingMakesStartsNothing()
+{
+    QFETCH(const QString, key);
+    Three three;
+    three.optimized->registry().make(key);
+    three.restored->registry().make(key);
+
+    const PreviewItem item = onlyItem(three.items());
+    QCOMPARE(item.group, PreviewGroup::Registry);
+    QCOMPARE(item.title, key);
+    QCOMPARE(item.about, QString());
+    const PreviewSides sides = sidesOf(item);
+    QCOMPARE(QStringList({sides.before, sides.optimized, sides.restored}),
+             QStringList({u"not there"_s, u"an empty key"_s, u"an empty key"_s}));
+}
+
+void TestPreview::startWithoutAStateIsOff()
+{
+    Three three;
+    three.everywhere([](Machine &machine) { machine.registry().make(WindowsKey::xboxTask); });
+    setNumber(*three.restored, WindowsKey::xboxTask, u"State"_s, 2);
+
+    const PreviewItem item = onlyItem(three.items());
+    QCOMPARE(item.group, PreviewGroup::Autorun);
+    const PreviewSides sides = sidesOf(item);
+    QCOMPARE(QStringList({sides.before, sides.optimized, sides.restored}),
+             QStringList({u"doesn't start"_s, u"doesn't start"_s, u"starts"_s}));
 }
 
 void TestPreview::ownRecordsStandApartAndDoNotCount()
