@@ -47,7 +47,7 @@ void disableAutoruns(WorkThread &, const QStringList &names)
     const QList<AutorunRow> rows = autorunRows();
     for (const QString &name : names) {
         for (const AutorunRow &row : rows) {
-            if (const AutorunEntry entry = autorunEntry(row); areSame(entry.name, name))
+            if (const AutorunEntry entry = shownAutorunEntry(row); areSame(entry.name, name))
                 disableAutorun(entry);
         }
     }
@@ -67,7 +67,7 @@ void enableAutoruns(WorkThread &, const QStringList &names)
     }
 }
 
-QStringList autorunsNotDisabled(const QStringList &names)
+QStringList autorunsNotDisabled(const WorkThread &, const QStringList &names)
 {
     QStringList records;
     for (const QString &recorded : recordedNames(group))
@@ -80,7 +80,7 @@ QStringList autorunsNotDisabled(const QStringList &names)
     return left;
 }
 
-QStringList autorunsNotEnabled(const QStringList &names)
+QStringList autorunsNotEnabled(const WorkThread &, const QStringList &names)
 {
     QStringList left;
     for (const QString &name : names) {

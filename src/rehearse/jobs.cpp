@@ -39,21 +39,26 @@ bool isRecorded(const QString &service)
     return openSettings()->contains(u"SVC/"_s + service);
 }
 
-QStringList servicesNotDisabled(const QStringList &names)
+bool isRefused(const WorkThread &worker, const QString &name)
+{
+    return !isService(name) || worker.servicesRefused.contains(name);
+}
+
+QStringList servicesNotDisabled(const WorkThread &worker, const QStringList &names)
 {
     QStringList left;
     for (const QString &name : names) {
-        if (!isService(name) || startModeOf(name) != StartDisabled || !isRecorded(name))
+        if (isRefused(worker, name) || startModeOf(name) != StartDisabled || !isRecorded(name))
             left.append(name);
     }
     return left;
 }
 
-QStringList servicesNotEnabled(const QStringList &names)
+QStringList servicesNotEnabled(const WorkThread &worker, const QStringList &names)
 {
     QStringList left;
     for (const QString &name : names) {
-        if (!isService(name) || startModeOf(name) != StartAutomatic || isRecorded(name))
+        if (isRefused(worker, name) || startModeOf(name) != StartAutomatic || isRecorded(name))
             left.append(name);
     }
     return left;
@@ -132,22 +137,22 @@ constexpr JobRow rows[] = {
     {"task-disable"_L1,      "PATH..."_L1, "disable scheduled tasks"_L1,        JobTaskStopOrStart, 1, -1,
      StatusLine::tasksChanged,
      [](WorkThread &worker, const QStringList &paths) { takeTasks(worker, paths, 1); },
-     [](const QStringList &paths) { return tasksUnlike(paths, false); }},
+     [](const WorkThread &, const QStringList &paths) { return tasksUnlike(paths, false); }},
     {"task-enable"_L1,       "PATH..."_L1, "enable scheduled tasks"_L1,         JobTaskStopOrStart, 1, -1,
      StatusLine::tasksChanged,
      [](WorkThread &worker, const QStringList &paths) { takeTasks(worker, paths, 0); },
-     [](const QStringList &paths) { return tasksUnlike(paths, true); }},
+     [](const WorkThread &, const QStringList &paths) { return tasksUnlike(paths, true); }},
     {"packages"_L1,          {},           "list the packaged applications"_L1, JobPackageGetList,  0,  0,
      StatusLine::packagesListed},
     {"package-uninstall"_L1, "NAME..."_L1, "remove packaged applications"_L1,   JobPackageSetState, 1, -1,
      "   Uninstall   packages finished  "_L1,
      [](WorkThread &worker, const QStringList &names) { takePackages(worker, names, false); },
-     [](const QStringList &names) { return packagesUnlike(names, false); },
+     [](const WorkThread &, const QStringList &names) { return packagesUnlike(names, false); },
      [](const QString &line) { recordPackageLine(line, false); }},
     {"package-install"_L1,   "NAME..."_L1, "bring packaged applications back"_L1, JobPackageSetState, 1, -1,
      "   Install   packages finished  "_L1,
      [](WorkThread &worker, const QStringList &names) { takePackages(worker, names, true); },
-     [](const QStringList &names) { return packagesUnlike(names, true); },
+     [](const WorkThread &, const QStringList &names) { return packagesUnlike(names, true); },
      [](const QString &line) { recordPackageLine(line, true); }},
     {"autorun"_L1,           {},           "list what starts at logon"_L1,      jobAutorun,         0,  0, {}},
     {"autorun-disable"_L1,   "NAME..."_L1, "keep programs from starting at logon"_L1, jobAutorun,   1, -1,

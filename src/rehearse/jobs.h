@@ -28,7 +28,7 @@ struct JobRow
     /** Writes the job's input into the worker; of jobAutorun, does the work. */
     void (*prepare)(WorkThread &worker, const QStringList &operands) = nullptr;
     /** The operands for which the job, now over, didn't do what was asked. */
-    QStringList (*unreached)(const QStringList &operands) = nullptr;
+    QStringList (*unreached)(const WorkThread &worker, const QStringList &operands) = nullptr;
     /** Takes each line of valueChanged, as the window does for its records. */
     void (*record)(const QString &line) = nullptr;
     /** What is printed after the lines. */
@@ -92,9 +92,9 @@ void disableAutoruns(WorkThread &worker, const QStringList &names);
 void enableAutoruns(WorkThread &worker, const QStringList &names);
 
 /** Names that are still listed, or aren't recorded. */
-QStringList autorunsNotDisabled(const QStringList &names);
+QStringList autorunsNotDisabled(const WorkThread &worker, const QStringList &names);
 /** Names that aren't listed. */
-QStringList autorunsNotEnabled(const QStringList &names);
+QStringList autorunsNotEnabled(const WorkThread &worker, const QStringList &names);
 
 // Which features a job keeps: what the machine's Keep list has stored, and the option --keep on top of it.
 

@@ -139,7 +139,7 @@ int runJob(const Arguments &arguments)
     if (const QString failure = platform().takeFailure(); !failure.isEmpty())
         throw Failure{ExitJobFailed, u"not everything was done: "_s + failure};
     if (row.unreached != nullptr) {
-        if (const QStringList left = row.unreached(operands); !left.isEmpty())
+        if (const QStringList left = row.unreached(worker, operands); !left.isEmpty())
             throw Failure{ExitJobFailed, u"%1 failed for %2"_s.arg(row.name, left.join(", "_L1))};
     }
     return ExitDone;

@@ -50,12 +50,8 @@ void Kestrune::showAutorunPage()
 void Kestrune::fillAutorunTable()
 {
     ui.tblAutorun->setRowCount(0);
-    for (const AutorunRow &row : std::as_const(workThread->autoruns)) {
-        AutorunEntry entry = autorunEntry(row);
-        if (entry.command.isEmpty())
-            entry.command = entry.path;
-        addRow(ui.tblAutorun, entry);
-    }
+    for (const AutorunRow &row : std::as_const(workThread->autoruns))
+        addRow(ui.tblAutorun, shownAutorunEntry(row));
 }
 
 void Kestrune::on_btnAutorun_clicked()

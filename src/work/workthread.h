@@ -59,6 +59,7 @@ public:
 
     QList<ServiceRow> services;   ///< result of SvcMakeList
     QStringList servicesToChange; ///< input of jobs 9, 10 and 14
+    QStringList servicesRefused;  ///< result of SvcStopOrStart: those that sc's last step failed for
 
     // Check states of the Keep list: 2 keeps a feature, 0 gives it up.
     std::atomic<int> keepPrinter = 2;

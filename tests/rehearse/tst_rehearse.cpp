@@ -123,6 +123,7 @@ private Q_SLOTS:
     void runMonitor();
     void runReportsServicesThatFailed_data();
     void runReportsServicesThatFailed();
+    void runReportsAServiceThatWasRefused();
     void runReportsAServiceThatDoesNotExistOnWindows10_data();
     void runReportsAServiceThatDoesNotExistOnWindows10();
     void runRefusesAnEmptyName_data();
@@ -540,6 +541,21 @@ void TestRehearse::runReportsServicesThatFailed()
     QCOMPARE(ended.exitCode, jobFailed);
     QCOMPARE(ended.errors, "kestrune-rehearse: " + message + '\n');
     QVERIFY(ended.output.endsWith("valueChanged\tpgr:SvcStopOrStart=finished\n"));
+}
+
+void TestRehearse::runReportsAServiceThatWasRefused()
+{
+    const Workplace work;
+    constexpr int refused = 1053;
+    const QString command = u"sc start DiagTrack"_s;
+    Machine::open(work.b)->setFault(command, {.exitCode = refused});
+    const Ended ended = rehearse({u"run"_s, work.b, u"svc-enable"_s, u"DiagTrack"_s, u"RpcSs"_s});
+    QCOMPARE(ended.exitCode, jobFailed);
+    QCOMPARE(ended.errors, "kestrune-rehearse: svc-enable failed for DiagTrack\n");
+    Machine::open(work.b)->clearFault(command);
+    // One that runs already is as it was asked to be.
+    QCOMPARE(rehearse({u"run"_s, work.b, u"svc-enable"_s, u"DiagTrack"_s}).exitCode, done);
+    QCOMPARE(rehearse({u"run"_s, work.b, u"svc-enable"_s, u"DiagTrack"_s}).exitCode, done);
 }
 
 void TestRehearse::runReportsAServiceThatDoesNotExistOnWindows10_data()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Lists and jobs of kestrune-rehearse for scheduled tasks, packaged applications and programs started at logon.
 
+#include "support/registryvalues.h"
 #include "support/rehearsing.h"
 #include "support/smallmachine.h"
 #include "support/suite.h"
@@ -95,6 +96,7 @@ private Q_SLOTS:
     void packageReportsWhatFailed();
     void autorunJob();
     void autorunDisableAndEnable();
+    void autorunRecordsAnEmptyCommandAsThePageDoes();
     void autorunReportsWhatFailed_data();
     void autorunReportsWhatFailed();
     void autorunWithoutRightsChangesNothing();
@@ -291,6 +293,16 @@ void TestRehearseSoftware::autorunDisableAndEnable()
     QCOMPARE(work.differences(),
              QList<QByteArray>(
                  {"registry HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale\\Autorun (none) -> key", backup}));
+}
+
+void TestRehearseSoftware::autorunRecordsAnEmptyCommandAsThePageDoes()
+{
+    const Workplace work(u"windows11"_s);
+    const QString run = u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
+    setText(*Machine::open(work.b), run, u"Empty"_s, QString());
+    QCOMPARE(work.run({u"autorun-disable"_s, u"Empty"_s}).exitCode, done);
+    const QByteArray path = (run + u"\\Empty"_s).toUtf8();
+    QVERIFY(hasLine(work.differences(), "registry " + autorunGroup + "Empty (none) -> \"" + path + '=' + path + '"'));
 }
 
 void TestRehearseSoftware::autorunReportsWhatFailed_data()

@@ -66,6 +66,14 @@ AutorunEntry autorunEntry(const AutorunRow &row)
     return {shownAutorun(path), path, parts.value(1)};
 }
 
+AutorunEntry shownAutorunEntry(const AutorunRow &row)
+{
+    AutorunEntry entry = autorunEntry(row);
+    if (entry.command.isEmpty())
+        entry.command = entry.path;
+    return entry;
+}
+
 AutorunEntry recordedAutorun(const QString &recordName)
 {
     const QStringList parts = openRecords(u"Autorun"_s)->ownValue(recordName).toString().split(u'=');

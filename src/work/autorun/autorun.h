@@ -20,6 +20,8 @@ struct AutorunEntry
 
 /** The entry of a row of the list. What follows a second "=" is lost, and with it the rest of such a command. */
 AutorunEntry autorunEntry(const AutorunRow &row);
+/** The same as it is shown, and switched off by hand: its path stands in place of a command that is empty. */
+AutorunEntry shownAutorunEntry(const AutorunRow &row);
 
 /** The entry of a record; shown by the same name as the entry that was recorded. */
 AutorunEntry recordedAutorun(const QString &recordName);

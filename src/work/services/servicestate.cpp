@@ -118,6 +118,7 @@ int WorkThread::SvcStopOrStart(QStringList list, bool enable)
         report(StatusLine::maximum(list.size()));
     const ChangePolicy policy = policyFor(winName);
 
+    servicesRefused.clear();
     int counter = 1;
     for (const QString &name : list) {
         ServiceChange change(name, policy);
@@ -136,6 +137,9 @@ int WorkThread::SvcStopOrStart(QStringList list, bool enable)
             reportToAutomatizer(progress);
         }
         if (exitCode != 0) {
+            // One that runs is what it was asked to be.
+            if (exitCode != errorAlreadyRunning)
+                servicesRefused.append(name);
             LogError(u"SvcStopOrStart: "_s + name + u", sc process error! exit code : "_s + QString::number(exitCode));
         }
         ++counter;
