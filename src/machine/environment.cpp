@@ -63,3 +63,10 @@ void enterEnvironment(const QMap<QString, QString> &variables)
         }
     }
 }
+
+bool isOfWindows(const QString &windowsPath)
+{
+    const QString folder = qEnvironmentVariable("windir");
+    return !folder.isEmpty()
+           && QString(windowsPath).replace(u'/', u'\\').startsWith(folder + u'\\', Qt::CaseInsensitive);
+}

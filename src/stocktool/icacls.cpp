@@ -2,6 +2,7 @@
 // icacls: grants a user rights to a file, takes all that was granted back, and gives a file to an owner.
 
 #include "console/console.h"
+#include "machine/environment.h"
 #include "machine/machine.h"
 #include "tools.h"
 
@@ -67,6 +68,9 @@ ToolResult runIcacls(ToolHost &host, const QStringList &arguments)
     if (!host.isElevated())
         return summary(exitAccessDenied, request->file + u": Access is denied.\r\n"_s);
     FileSecurity security = host.security(request->file);
+    // Rights are the owner's to give; the owner himself is changed by a privilege of administrators.
+    if (request->owner.isEmpty() && security.owner.isEmpty() && isOfWindows(request->file))
+        return summary(exitAccessDenied, request->file + u": Access is denied.\r\n"_s);
     if (request->owner.isEmpty())
         security.rights = request->grant;
     else

@@ -2,6 +2,7 @@
 // The contract of writing into folders where others can put links.
 
 #include "contractplatform.h"
+#include "platform/windowsfacts.h"
 #include "support/suite.h"
 
 #include <QDir>
@@ -98,6 +99,7 @@ private Q_SLOTS:
     void leftoversDoNotMatter_data() { addLinks(); }
     void leftoversDoNotMatter();
 
+    void readOnlyFileStays();
     void linesAreAppended();
     void lineIsAddedToNoLink_data() { addLinks(); }
     void lineIsAddedToNoLink();
@@ -300,6 +302,20 @@ void TestFileBelow::leftoversDoNotMatter()
     QCOMPARE(read(at(u"file"_s)), QByteArray("ours"));
     QCOMPARE(names(), QStringList(u"file"_s));
     QVERIFY(outsideIsUntouched());
+}
+
+void TestFileBelow::readOnlyFileStays()
+{
+    write(at(u"file"_s), "former");
+    const quint32 word = platform().fileAttributes(at(u"file"_s));
+    platform().setFileAttributes(at(u"file"_s), word | AttributeReadOnly);
+    for (const IfThere ifThere : {IfThere::Replace, IfThere::Exchange, IfThere::Keep})
+        QVERIFY(!writeFile(u"file"_s, "ours", ifThere));
+    QVERIFY(!appendLine(u"ours"_s));
+    QCOMPARE(read(at(u"file"_s)), QByteArray("former"));
+    QCOMPARE(names(), QStringList(u"file"_s));
+    platform().setFileAttributes(at(u"file"_s), word);
+    QVERIFY(writeFile(u"file"_s, "ours"));
 }
 
 void TestFileBelow::linesAreAppended()

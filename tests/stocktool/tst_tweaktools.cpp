@@ -47,6 +47,7 @@ private Q_SLOTS:
     void bcdeditRefuses_data();
     void bcdeditRefuses();
     void ownerAndRights();
+    void rightsAreTheOwnersToGive();
     void takeownRefuses_data();
     void takeownRefuses();
     void icaclsRefuses_data();
@@ -160,6 +161,22 @@ void TestTweakTools::ownerAndRights()
     QCOMPARE(runTool(machine, u"icacls"_s, {explorer, u"/reset"_s}, user).exitCode, 0);
     // The owner stays.
     QCOMPARE(machine->security(explorer), (FileSecurity{u"PC\\Kim"_s, {}}));
+}
+
+void TestTweakTools::rightsAreTheOwnersToGive()
+{
+    SmallMachine machine;
+    for (const QStringList &arguments : {QStringList{explorer, u"/grant:r"_s, u"PC\\Kim:F"_s, u"/L"_s},
+                                         QStringList{explorer.toUpper(), u"/reset"_s}}) {
+        const Ended refused = runTool(machine, u"icacls"_s, arguments, user);
+        QCOMPARE(refused.exitCode, 5);
+        QVERIFY(refused.errors.endsWith(": Access is denied.\r\n"));
+    }
+    QVERIFY(machine->changedSecurity().isEmpty());
+    // Who is given a file of the system needn't have asked for it, and what isn't the system's is anybody's.
+    QCOMPARE(runTool(machine, u"icacls"_s, {explorer, u"/setowner"_s, u"PC\\Kim"_s}, user).exitCode, 0);
+    writeFile(machine->hostPath(u"C:\\x"_s), "x");
+    QCOMPARE(runTool(machine, u"icacls"_s, {u"C:\\x"_s, u"/reset"_s}, user).exitCode, 0);
 }
 
 void TestTweakTools::takeownRefuses_data()

@@ -2,6 +2,7 @@
 // Tests of Optimize: its phases, their lines, pauses, commands and records.
 
 #include "joblines.h"
+#include "platform/windowsfacts.h"
 #include "support/files.h"
 #include "support/suite.h"
 #include "tweakruns.h"
@@ -71,6 +72,7 @@ private Q_SLOTS:
     void encoderFile_data();
     void encoderFile();
     void encoderFileIsReplacedAsAWhole();
+    void encoderFileThatIsReadOnlyIsLeftAlone();
     void theEncoderGoesWithBothBoxesOff();
     void anEncoderFileThatIsGoneSaysNothing();
 
@@ -578,6 +580,20 @@ void TestAutomatizerOptimize::encoderFileIsReplacedAsAWhole()
     QCOMPARE(QFile::permissions(file) & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther),
              QFile::Permissions(QFile::ReadGroup));
     QCOMPARE(QFileInfo(file).dir().entryList(QDir::Files), QStringList{u"config"_s});
+}
+
+void TestAutomatizerOptimize::encoderFileThatIsReadOnlyIsLeftAlone()
+{
+    TestMachine machine;
+    const QByteArray config = "EnableEncoderServer=1\r\n";
+    const QString file = machine.addFile(encoderConfig, config);
+    machine.machine().setAttributes(encoderConfig, AttributeReadOnly | AttributeArchive);
+    WorkThread worker;
+    findNothing(worker);
+    encoderServerFound = 1;
+    QCOMPARE(linesOf(worker, JobAutomatizerOptimize), QStringList{u"automatizerEnd"_s});
+    QCOMPARE(ToolRuns(machine).next(), QStringList());
+    QCOMPARE(readFile(file), config);
 }
 
 void TestAutomatizerOptimize::theEncoderGoesWithBothBoxesOff()

@@ -221,30 +221,45 @@ void TestTweakWindows::searchThatCantBeRenamedKeepsItsName()
 
 void TestTweakWindows::failingRightsDontStopTheSteps_data()
 {
-    QTest::addColumn<ToolFault>("fault");
-    QTest::newRow("missing") << ToolFault{.missing = true};
-    QTest::newRow("failing") << ToolFault{.exitCode = 5};
-    QTest::newRow("hanging") << ToolFault{.hang = true};
+    addColumns<QStringList, ToolFault, QString>("failing", "fault", "rights");
+    const QStringList both{u"takeown"_s, u"icacls"_s};
+    QTest::newRow("both missing") << both << ToolFault{.missing = true} << QString();
+    QTest::newRow("both failing") << both << ToolFault{.exitCode = 5} << QString();
+    QTest::newRow("both hanging") << both << ToolFault{.hang = true} << QString();
+    // Rights are the owner's to give.
+    QTest::newRow("takeown failing") << QStringList{u"takeown"_s} << ToolFault{.exitCode = 5} << QString();
+    QTest::newRow("icacls failing") << QStringList{u"icacls"_s} << ToolFault{.exitCode = 5} << u"owner TESTPC\\Test"_s;
 }
 
 void TestTweakWindows::failingRightsDontStopTheSteps()
 {
+    QFETCH(const QStringList, failing);
     QFETCH(const ToolFault, fault);
+    QFETCH(const QString, rights);
     Command::timeLimit = 300;
     TweakTrial trial(TestMachine::Windows::Eleven);
     prepare(trial.machine);
-    for (const QString &tool : {u"takeown"_s, u"icacls"_s})
+    for (const QString &tool : failing)
         trial.machine.machine().setFault(tool, fault);
     trial.begin();
     trial.run(&WorkThread::TweakWindows, 10, applyAlone);
-    Command::timeLimit = 30000;
-    Outcome expected{.changes = {changeLine(u"file"_s, searchHost, u"700 bytes"_s, {}),
-                                 changeLine(u"file"_s, disabledName(searchHost), {}, u"700 bytes"_s)}};
+    Outcome expected;
+    if (!rights.isEmpty())
+        expected.changes = {changeLine(u"rights"_s, searchHost, u"as installed"_s, rights)};
     if (fault.exitCode)
         expected.commands = {u"takeown /f "_s + searchHost,
                              u"icacls "_s + searchHost + u" /grant:r TESTPC\\Test:F /L"_s};
     expected.commands.append(u"taskkill /im SearchHost.exe /f /t"_s);
     COMPARE_OUTCOMES(trial.outcome(), expected);
+    // There is nothing to take back, and the next time starts over.
+    trial.run(&WorkThread::TweakWindows, 10, resetAlone);
+    COMPARE_OUTCOMES(trial.outcome(), expected);
+    for (const QString &tool : failing)
+        trial.machine.machine().clearFault(tool);
+    Command::timeLimit = 30000;
+    trial.run(&WorkThread::TweakWindows, 10, applyAlone);
+    QVERIFY(!QFile::exists(trial.machine.machine().hostPath(searchHost)));
+    QVERIFY(QFile::exists(trial.machine.machine().hostPath(disabledName(searchHost))));
 }
 
 void TestTweakWindows::otherGenerationsHaveNoSearch()

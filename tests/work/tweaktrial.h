@@ -10,7 +10,6 @@
 #include "support/tweakrows.h"
 #include "work/workthread.h"
 
-#include <QDirIterator>
 #include <QTest>
 
 /** What the tests do with a tweak. */
@@ -100,21 +99,10 @@ public:
     /** From here on changes count. */
     void begin()
     {
-        const QString folder = machine.folder();
-        QDirIterator entries(folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::NoSymLinks,
-                             QDirIterator::Subdirectories);
-        while (entries.hasNext()) {
-            const QString from = entries.next();
-            const QString to = former_.path() + from.mid(folder.size());
-            if (!entries.fileInfo().isDir() && !from.endsWith(QStringLiteral("-shm"))) {
-                QDir().mkpath(QFileInfo(to).path());
-                if (!QFile::copy(from, to))
-                    qFatal("%s can't be copied", qPrintable(from));
-            } else if (entries.fileInfo().isDir()) {
-                QDir().mkpath(to);
-            }
-        }
-        before_ = Machine::open(former_.path());
+        // Never by reading its file here, which would let go of the locks that this process has on it.
+        const QString former = former_.filePath(QStringLiteral("machine"));
+        copyMachine(machine.machine(), former);
+        before_ = Machine::open(former);
         machine.platform().takePauses();
     }
 

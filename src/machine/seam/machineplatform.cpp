@@ -142,12 +142,18 @@ QString MachinePlatform::resourceFolder() const
 bool MachinePlatform::writeFile(const QString &folder, const QString &name, const QByteArray &content,
                                 IfThere ifThere) const
 {
-    return writeFileBelow(folder, name, content, ifThere);
+    return !isReadOnly(folder + u'/' + name) && writeFileBelow(folder, name, content, ifThere);
 }
 
 bool MachinePlatform::appendLine(const QString &folder, const QString &name, const QString &line) const
 {
-    return appendLineBelow(folder, name, line);
+    return !isReadOnly(folder + u'/' + name) && appendLineBelow(folder, name, line);
+}
+
+bool MachinePlatform::isReadOnly(const QString &file) const
+{
+    const quint32 word = fileAttributes(file);
+    return word != invalidAttributes && (word & AttributeReadOnly) != 0;
 }
 
 void MachinePlatform::walk(const QString &windowsPath, const std::function<bool(const WalkEntry &)> &visit) const
@@ -173,6 +179,18 @@ void MachinePlatform::setAllFileAttributes(const QList<FileAttributes> &files) c
 {
     const AttributeWords::Walk together(attributes_);
     Platform::setAllFileAttributes(files);
+}
+
+bool MachinePlatform::renameFile(const QString &from, const QString &to) const
+{
+    // What was granted stays with a file of the system, and is noted by the name that it was granted under.
+    const bool isGranted = guarded(false, [&] {
+        const QStringList names{machine_->windowsPath(from), machine_->windowsPath(to)};
+        return !isOfWindows(names.first()) || std::any_of(names.begin(), names.end(), [this](const QString &name) {
+            return !machine_->security(name).rights.isEmpty();
+        });
+    });
+    return isGranted && Platform::renameFile(from, to);
 }
 
 QString MachinePlatform::programFile(const QString &program) const

@@ -52,6 +52,7 @@ public:
     quint32 fileAttributes(const QString &file) const override;
     void setFileAttributes(const QString &file, quint32 word) const override;
     void setAllFileAttributes(const QList<FileAttributes> &files) const override;
+    bool renameFile(const QString &from, const QString &to) const override;
     QString programFile(const QString &program) const override;
     QString takeFailure() const override { return MachineFailures::take(); }
     std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &arguments) const override;
@@ -73,6 +74,7 @@ public:
     void pause(int milliseconds) const override;
 
 private:
+    bool isReadOnly(const QString &file) const;
     QString resolvedProgram(const QString &program) const;
     QJsonObject hardware() const;
     /** What the machine says of the volume that a Windows path lies on. */

@@ -4,6 +4,7 @@
 
 #include "automatizer.h"
 #include "platform/platform.h"
+#include "platform/windowsfacts.h"
 #include "work/command.h"
 #include "work/settings.h"
 
@@ -26,6 +27,12 @@ QString configFile()
 bool isEncoder(const QString &process)
 {
     return process == "EncoderServer.exe"_L1 || process == "EncoderServer64.exe"_L1;
+}
+
+/** A file with the attribute readonly can't. */
+bool canBeChanged(const QString &file)
+{
+    return QFile::exists(file) && (platform().fileAttributes(file) & AttributeReadOnly) == 0;
 }
 
 /** Handled as bytes, since the file's code page is unknown. */
@@ -59,7 +66,7 @@ void Automatizer::analyzeProcesses()
 void Automatizer::optimizeEncoder()
 {
     QFile file(configFile());
-    if (!file.exists() || !file.open(QIODevice::ReadWrite))
+    if (!canBeChanged(file.fileName()) || !file.open(QIODevice::ReadWrite))
         return;
     runTool(u"taskkill"_s, {u"/im"_s, u"RTSS.exe"_s, u"/f"_s, u"/t"_s});
 
