@@ -6,6 +6,11 @@
 
 void prepareProcess() {}
 
+std::optional<int> runWithoutRights()
+{
+    return std::nullopt;
+}
+
 QString absolutePath(const QString &path)
 {
     return QFileInfo(path).absoluteFilePath();

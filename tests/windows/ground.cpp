@@ -22,6 +22,23 @@ void print(const QString &line)
     std::printf("%s\n", QDir::toNativeSeparators(line).toUtf8().constData());
 }
 
+/** Whether an administrator's rights are in force, and what came in; whoever asks for it gets the code 42. */
+int tellRights()
+{
+    constexpr int asked = 42;
+
+    BYTE sid[SECURITY_MAX_SID_SIZE];
+    DWORD size = sizeof(sid);
+    BOOL isMember = TRUE;
+    CreateWellKnownSid(WinBuiltinAdministratorsSid, nullptr, sid, &size);
+    CheckTokenMembership(nullptr, sid, &isMember);
+    print(isMember ? u"administrator"_s : u"user"_s);
+    char line[100] = "";
+    if (std::fgets(line, sizeof(line), stdin) != nullptr)
+        print(QString::fromUtf8(line).trimmed());
+    return asked;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -34,6 +51,11 @@ int main(int argc, char **argv)
     }
     prepareProcess();
     const QCoreApplication application(argc, argv);
+    if (QCoreApplication::arguments().contains("--without-rights"_L1)) {
+        if (const auto code = runWithoutRights())
+            return *code;
+        return tellRights();
+    }
     for (const QString &operand : QCoreApplication::arguments().sliced(1))
         print(absolutePath(operand));
     print(LoadLibraryW(L"planted.dll") != nullptr ? u"loaded"_s : u"not loaded"_s);

@@ -67,6 +67,7 @@ private Q_SLOTS:
     void variables();
     void allOthersStay();
     void dllsComeFromTheSystemAlone();
+    void rightsAreGivenUp();
 
 private:
     const QTemporaryDir folder_;
@@ -182,6 +183,21 @@ void TestProcessGround::dllsComeFromTheSystemAlone()
         QVERIFY(QFile::remove(planted));
         QCOMPARE(ground.planted, u"not loaded"_s);
     }
+}
+
+/** Once more as the user, with the same streams and the same end; who has no rights goes on itself. */
+void TestProcessGround::rightsAreGivenUp()
+{
+    constexpr int asked = 42;
+
+    QProcess process;
+    process.start(QCoreApplication::applicationDirPath() + u"/ground.exe"_s, {u"--without-rights"_s});
+    process.write("what came in\n");
+    process.closeWriteChannel();
+    QVERIFY2(process.waitForFinished(), qPrintable(process.errorString()));
+    const QByteArray errors = process.readAllStandardError();
+    QVERIFY2(process.exitCode() == asked, errors.constData());
+    QCOMPARE(process.readAllStandardOutput().replace("\r", ""), "user\nwhat came in\n");
 }
 
 KESTRUNE_SUITE(TestProcessGround)

@@ -9,6 +9,10 @@
 #include <QDir>
 #include <QStringList>
 
+#include <sddl.h>
+
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -95,7 +99,128 @@ void dropForeignCode()
     setVariable(u"PSExecutionPolicyPreference"_s, u"Restricted"_s);
 }
 
+const QString administratorsSid = u"S-1-5-32-544"_s;
+
+LocalMemory sidFrom(const QString &text)
+{
+    PSID sid = nullptr;
+    return LocalMemory(ConvertStringSidToSidW(wide(text), &sid) ? sid : nullptr);
+}
+
+/** By what decides about access: a token without rights may still come from an elevated one. */
+bool hasAdministratorsRights()
+{
+    const LocalMemory administrators = sidFrom(administratorsSid);
+    BOOL isMember = TRUE;
+    return !administrators || !CheckTokenMembership(nullptr, administrators.get(), &isMember) || isMember;
+}
+
+/** What the process makes belongs to its user then, who may open it, too. */
+bool setOwnerAndRights(HANDLE token)
+{
+    const QString user = sidOfUser();
+    const LocalMemory sid = sidFrom(user);
+    TOKEN_OWNER owner{sid.get()};
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    const QString rights = u"D:(A;;GA;;;SY)(A;;GA;;;%1)"_s.arg(user);
+    if (!sid
+        || !ConvertStringSecurityDescriptorToSecurityDescriptorW(wide(rights), SDDL_REVISION_1, &descriptor, nullptr))
+        return false;
+    const LocalMemory memory(descriptor);
+    BOOL isPresent = FALSE;
+    BOOL isDefault = FALSE;
+    TOKEN_DEFAULT_DACL list{};
+    return GetSecurityDescriptorDacl(descriptor, &isPresent, &list.DefaultDacl, &isDefault) && isPresent
+           && SetTokenInformation(token, TokenOwner, &owner, sizeof(owner))
+           && SetTokenInformation(token, TokenDefaultDacl, &list, sizeof(list));
+}
+
+/** As high as programs are that nobody has confirmed. */
+bool setMediumIntegrity(HANDLE token)
+{
+    const LocalMemory sid = sidFrom(u"S-1-16-8192"_s);
+    TOKEN_MANDATORY_LABEL label{{sid.get(), SE_GROUP_INTEGRITY}};
+    return sid
+           && SetTokenInformation(token, TokenIntegrityLevel, &label,
+                                  static_cast<DWORD>(sizeof(label)) + GetLengthSid(sid.get()));
+}
+
+/** That of the user without the administrators' group and their privileges; null where Windows gives none. */
+Handle tokenWithoutRights()
+{
+    HANDLE full = nullptr;
+    if (!OpenProcessToken(GetCurrentProcess(), TOKEN_ALL_ACCESS, &full))
+        return nullptr;
+    const Handle owned(full);
+    const LocalMemory administrators = sidFrom(administratorsSid);
+    SID_AND_ATTRIBUTES disabled{administrators.get(), 0};
+    HANDLE token = nullptr;
+    if (!administrators
+        || !CreateRestrictedToken(full, LUA_TOKEN | DISABLE_MAX_PRIVILEGE, 1, &disabled, 0, nullptr, 0, nullptr,
+                                  &token))
+        return nullptr;
+    Handle restricted(token);
+    return setOwnerAndRights(token) && setMediumIntegrity(token) ? std::move(restricted) : nullptr;
+}
+
+/** Ends what is in it when this process ends, however it does. */
+Handle jobOfThisProcess()
+{
+    Handle job(CreateJobObjectW(nullptr, nullptr));
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    if (job && SetInformationJobObject(job.get(), JobObjectExtendedLimitInformation, &limits, sizeof(limits)))
+        return job;
+    return nullptr;
+}
+
+/** Null where Windows doesn't start it. */
+Handle startAgain(HANDLE token, HANDLE job)
+{
+    wchar_t program[32767];
+    if (GetModuleFileNameW(nullptr, program, static_cast<DWORD>(std::size(program))) == 0)
+        return nullptr;
+    STARTUPINFOW start{};
+    start.cb = sizeof(start);
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdInput = GetStdHandle(STD_INPUT_HANDLE);
+    start.hStdOutput = GetStdHandle(STD_OUTPUT_HANDLE);
+    start.hStdError = GetStdHandle(STD_ERROR_HANDLE);
+    const QString line = QString::fromWCharArray(GetCommandLineW());
+    std::vector<wchar_t> writable(static_cast<std::size_t>(line.size()) + 1);
+    line.toWCharArray(writable.data());
+    PROCESS_INFORMATION started{};
+    // It begins in the folder that this process was started in, by which paths of its arguments go.
+    if (!CreateProcessAsUserW(token, program, writable.data(), nullptr, nullptr, TRUE, CREATE_SUSPENDED, nullptr,
+                              wide(QDir::toNativeSeparators(startFolder)), &start, &started))
+        return nullptr;
+    const Handle thread(started.hThread);
+    Handle process(started.hProcess);
+    // Unless it is in the job it would outlive this process.
+    if (!AssignProcessToJobObject(job, process.get()) || ResumeThread(thread.get()) == static_cast<DWORD>(-1)) {
+        TerminateProcess(process.get(), 1);
+        return nullptr;
+    }
+    return process;
+}
+
 } // namespace
+
+std::optional<int> runWithoutRights()
+{
+    if (!hasAdministratorsRights())
+        return std::nullopt;
+    const Handle token = tokenWithoutRights();
+    const Handle job = jobOfThisProcess();
+    const Handle process = token && job ? startAgain(token.get(), job.get()) : nullptr;
+    DWORD code = 1;
+    if (!process) {
+        qCritical("Windows doesn't start it without administrator rights (error %lu)", GetLastError());
+        return 1;
+    }
+    WaitForSingleObject(process.get(), INFINITE);
+    return GetExitCodeProcess(process.get(), &code) ? static_cast<int>(code) : 1;
+}
 
 void prepareProcess()
 {
