@@ -15,7 +15,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // What is made in it has the same rights.
-constexpr wchar_t folderRights[] = L"O:BAG:BAD:P(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)";
+const QString folderRights = u"O:BAG:BAD:P(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)"_s;
+// The administrators and the system; and the installer of Windows, who gives nothing that he owns to others.
+const QStringList trustedAccounts{u"S-1-5-32-544"_s, u"S-1-5-18"_s,
+                                  u"S-1-5-80-956008885-3418522649-1831038044-1853292631-2271478464"_s};
+const QString readerRights = u"(A;OICI;FRFX;;;%1)"_s;
 
 /** The file or folder itself, whatever it leads to. */
 Handle openItself(const QString &path, DWORD access)
@@ -34,6 +38,15 @@ bool isLink(HANDLE file)
     return (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 && found.nNumberOfLinks != 1;
 }
 
+QString textOf(PSID sid)
+{
+    LPWSTR text = nullptr;
+    if (!ConvertSidToStringSidW(sid, &text))
+        return {};
+    const LocalMemory memory(text);
+    return QString::fromWCharArray(text);
+}
+
 QString ownerOf(HANDLE object, SE_OBJECT_TYPE type)
 {
     PSID owner = nullptr;
@@ -42,11 +55,7 @@ QString ownerOf(HANDLE object, SE_OBJECT_TYPE type)
         != ERROR_SUCCESS)
         return {};
     const LocalMemory memory(descriptor);
-    LPWSTR text = nullptr;
-    if (!ConvertSidToStringSidW(owner, &text))
-        return {};
-    const LocalMemory textMemory(text);
-    return QString::fromWCharArray(text);
+    return textOf(owner);
 }
 
 /** Of a user who is neither the system nor all administrators, but runs this process. */
@@ -61,6 +70,39 @@ bool isForeign(HANDLE file, const QString &path)
 {
     return isLink(file)
            || (!isOfAdministrators(file, SE_FILE_OBJECT) && !isUsersOwn(path.left(path.lastIndexOf(u'\\'))));
+}
+
+/** Whether an entry of a list of rights gives one of them to somebody who isn't trusted. */
+bool givesOthers(void *entry, ACCESS_MASK rights)
+{
+    const auto *header = static_cast<ACE_HEADER *>(entry);
+    if (header->AceType == ACCESS_DENIED_ACE_TYPE || (header->AceFlags & INHERIT_ONLY_ACE) != 0)
+        return false;
+    if (header->AceType != ACCESS_ALLOWED_ACE_TYPE)
+        return true; // a kind that isn't known here
+    auto *allowed = static_cast<ACCESS_ALLOWED_ACE *>(entry);
+    return (allowed->Mask & rights) != 0 && !trustedAccounts.contains(textOf(&allowed->SidStart));
+}
+
+/** Whether an account that isn't trusted owns a file or folder, or has one of these rights to it; true where unknown.
+ */
+bool othersMay(const QString &path, ACCESS_MASK rights)
+{
+    const Handle file = openItself(path, 0);
+    PACL list = nullptr;
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    if (!file || !trustedAccounts.contains(ownerOf(file.get(), SE_FILE_OBJECT))
+        || GetSecurityInfo(file.get(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, &list, nullptr,
+                           &descriptor)
+               != ERROR_SUCCESS)
+        return true;
+    const LocalMemory memory(descriptor);
+    bool may = list == nullptr; // without a list everybody may do everything
+    for (DWORD i = 0; list != nullptr && i < list->AceCount; ++i) {
+        void *entry = nullptr;
+        may = may || !GetAce(list, i, &entry) || givesOthers(entry, rights);
+    }
+    return may;
 }
 
 /** Gives what is open the rights of the descriptor, and what is in it those that come from there. */
@@ -79,8 +121,25 @@ bool setRights(HANDLE folder, PSECURITY_DESCRIPTOR descriptor)
 
 bool isOfAdministrators(HANDLE object, SE_OBJECT_TYPE type)
 {
-    static const QStringList trusted{u"S-1-5-32-544"_s, u"S-1-5-18"_s};
-    return trusted.contains(ownerOf(object, type));
+    return trustedAccounts.first(2).contains(ownerOf(object, type));
+}
+
+bool isForAdministratorsAlone(const QString &program)
+{
+    // Folders above may get new entries by others, as that of a drive does, but none of theirs is on the way.
+    constexpr ACCESS_MASK replacing = DELETE | FILE_DELETE_CHILD | WRITE_DAC | WRITE_OWNER | GENERIC_ALL;
+    constexpr ACCESS_MASK changing =
+        replacing | FILE_WRITE_DATA | FILE_APPEND_DATA | FILE_WRITE_ATTRIBUTES | FILE_WRITE_EA | GENERIC_WRITE;
+
+    QString path = QDir::toNativeSeparators(program);
+    const QString folder = path.left(path.lastIndexOf(u'\\'));
+    while (path.contains(u'\\')) {
+        const bool isOfProgram = path == QDir::toNativeSeparators(program) || path == folder;
+        if (othersMay(path, isOfProgram ? changing : replacing))
+            return false;
+        path.truncate(path.lastIndexOf(u'\\'));
+    }
+    return !othersMay(path + u'\\', replacing);
 }
 
 bool isForeign(const QString &path)
@@ -90,10 +149,11 @@ bool isForeign(const QString &path)
     return !file || isForeign(file.get(), native);
 }
 
-std::shared_ptr<void> holdAdminFolder(const QString &path)
+std::shared_ptr<void> holdAdminFolder(const QString &path, const QString &reader)
 {
+    const QString rights = reader.isEmpty() ? folderRights : folderRights + readerRights.arg(reader);
     PSECURITY_DESCRIPTOR descriptor = nullptr;
-    if (!ConvertStringSecurityDescriptorToSecurityDescriptorW(folderRights, SDDL_REVISION_1, &descriptor, nullptr))
+    if (!ConvertStringSecurityDescriptorToSecurityDescriptorW(wide(rights), SDDL_REVISION_1, &descriptor, nullptr))
         return nullptr;
     const LocalMemory memory(descriptor);
     SECURITY_ATTRIBUTES attributes{sizeof(attributes), descriptor, FALSE};

@@ -20,9 +20,17 @@ bool isForeign(const QString &path);
 /**
  * Makes a folder whose owner are the administrators, and in which nobody has any right but them and the system; one
  * that is there and not foreign gets these rights again.
+ * @param reader the SID of somebody who may read what is in it; empty: nobody
  * @return while there is it, nobody moves the folder; null where it is foreign or can't be made
  */
-std::shared_ptr<void> holdAdminFolder(const QString &path);
+std::shared_ptr<void> holdAdminFolder(const QString &path, const QString &reader = {});
+
+/**
+ * Whether nobody but administrators and the system can change a program, or put another one in its place: no other
+ * account has a right to write to it or to the folder that it is in, and none owns or may rename a folder above. False
+ * where that is unknown.
+ */
+bool isForAdministratorsAlone(const QString &program);
 
 /** "C:\ProgramData", by the system's own answer; empty where there is none. */
 QString programDataFolder();
