@@ -7,6 +7,7 @@
 #include "machineerror.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QThread>
 #include <QUrl>
@@ -28,12 +29,23 @@ constexpr int stepsOfALook = 10000;
 constexpr int looksOfALongQuery = 100; // some hundredths of a second
 constexpr int mostLooks = 25000;       // some seconds; the longest of an honest machine takes a hundredth of that
 
+bool mayWrite(const QString &file)
+{
+#ifdef Q_OS_WIN
+    // Qt knows of the attribute alone there. Elsewhere closing the file would set free what SQLite has locked of it.
+    QFile probe(file);
+    return !probe.exists() || probe.open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
+#else
+    return QFileInfo(file).isWritable();
+#endif
+}
+
 /** Whether the file can only be read. What others have still to write into it must be in it, though. */
 bool isReadOnly(const QString &file)
 {
     const QFileInfo info(file);
-    const bool writable = info.isWritable() && QFileInfo(info.path()).isWritable();
-    return info.exists() && !writable && !QFileInfo::exists(file + u"-wal"_s);
+    return info.exists() && !(mayWrite(file) && QFileInfo(info.path()).isWritable())
+           && !QFileInfo::exists(file + u"-wal"_s);
 }
 
 } // namespace
