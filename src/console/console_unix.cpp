@@ -4,6 +4,7 @@
 #include "programinterruption.h"
 
 #include <atomic>
+#include <thread>
 
 #include <signal.h>
 #include <unistd.h>
@@ -53,6 +54,14 @@ void watchForInterruption()
         if (former.sa_handler != SIG_IGN)
             sigaction(number, &action, nullptr);
     }
+}
+
+void watchStandardInput()
+{
+    std::thread([] {
+        waitForEndOfInput();
+        received = SIGINT;
+    }).detach();
 }
 
 bool isInterrupted()

@@ -10,6 +10,7 @@
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
+#include <thread>
 
 namespace {
 
@@ -70,6 +71,14 @@ QString consoleText(const QByteArray &bytes)
 void watchForInterruption()
 {
     SetConsoleCtrlHandler(noteEvent, TRUE);
+}
+
+void watchStandardInput()
+{
+    std::thread([] {
+        waitForEndOfInput();
+        received = true;
+    }).detach();
 }
 
 bool isInterrupted()

@@ -16,6 +16,11 @@ struct Interrupted
  * those that whoever started the process has it ignore. To be called once, first of all.
  */
 void watchForInterruption();
+/**
+ * From now on the end of standard input asks the process to end, too, as Ctrl-C does: a program that has started this
+ * one can do so on every system, and it comes by itself where that program is gone.
+ */
+void watchStandardInput();
 /** Whether the process has been asked to end; false forever in one that doesn't watch for it. */
 bool isInterrupted();
 /** Throws Interrupted if so. Long work of the main thread calls it again and again. */

@@ -62,7 +62,7 @@ int runCapture(const Arguments &arguments)
     auto reading = std::make_unique<ReadingPlatform>(std::move(pc->platform));
     const ReadingPlatform &platform = *reading;
     setPlatform(std::move(reading));
-    Progress progress;
+    Progress progress(isSteered(arguments));
     const CaptureReport report =
         capturePc(folder, arguments.has("force"_L1) ? Existing::Replace : Existing::Keep, platform, *pc->reader,
                   arguments.has("with-names"_L1) ? Names::Keep : Names::Replace, progress.callback());
@@ -89,6 +89,7 @@ constexpr OptionRow options[] = {
     {"with-names"_L1, {}, "keep the names of the PC, its users and networks, and whole commands, as a way back needs them"_L1,
      "Keeps the names of the PC, its users and its networks, and whole commands.\nA way back\n.RB ( \"preview \\-\\-undo\" )\nneeds them."_L1},
     {"force"_L1,      {}, "replace the machine that is there"_L1},
+    steeredOption,
 };
 // clang-format on
 

@@ -3,6 +3,7 @@
 
 #include "console/programinterruption.h"
 #include "machine/machine.h"
+#include "platform/processground.h"
 #include "preview/preview.h"
 #include "progress.h"
 #include "subcommands.h"
@@ -115,6 +116,9 @@ QString describedPc(const Machine &machine, const QStringList &options)
 
 int runPreview(const Arguments &arguments)
 {
+    // Nothing that lies in a machine, which may come from anybody, is handled with an administrator's rights.
+    if (const auto code = runWithoutRights())
+        return *code;
     const QStringList choice = automatizerOptions(arguments);
     for (const QLatin1StringView report : {"html"_L1, "json"_L1}) {
         if (arguments.has(report))
@@ -125,7 +129,7 @@ int runPreview(const Arguments &arguments)
         checkReportFiles(arguments.value("undo"_L1));
         checkNames(arguments.operand(0));
     }
-    Progress progress;
+    Progress progress(isSteered(arguments));
     Copies copies;
     makeCopies(copies, arguments.operand(0), choice, progress);
     const QList<PreviewItem> items = previewItems(*copies.before, *copies.optimized, *copies.restored);
@@ -163,6 +167,7 @@ constexpr OptionRow options[] = {
      "a percent\nsign, is left out, and the output names it.\n"
      "The PC must have been captured with its real names, and should have been captured by an administrator: anything that "
      "could not\nbe read is treated as absent."_L1},
+    steeredOption,
 };
 // clang-format on
 

@@ -5,12 +5,14 @@
 
 #include "console/progresscallback.h"
 
-/** One line on standard error that is written over and over and is gone in the end; nothing where that is no terminal.
+/**
+ * One line on standard error that is written over and over and is gone in the end; nothing where that is no terminal.
+ * For a program that steers this one, each step is a line of its own: "DONE<Tab>TOTAL<Tab>STEP".
  */
 class Progress
 {
 public:
-    Progress();
+    explicit Progress(bool steered = false);
     ~Progress();
     Q_DISABLE_COPY_MOVE(Progress)
 
@@ -21,6 +23,9 @@ public:
     ProgressCallback callback();
 
 private:
+    void write(const QString &step, int done, int total);
+
+    bool steered_;
     bool terminal_;
     bool shown_ = false;
     qint64 lastShown_ = 0;

@@ -24,6 +24,8 @@ constexpr const Subcommand *subcommands[] = {
     &verifySubcommand, &diffSubcommand,    &guiSubcommand,  &tourSubcommand, &exportSubcommand, &importSubcommand,
 };
 
+constexpr QLatin1StringView standardOutput("-");
+
 /** Lets it end what it runs itself; a console's Ctrl-C has reached it anyway. */
 void end(QProcess &process)
 {
@@ -81,6 +83,14 @@ QString absoluteFolder(const QString &folder)
     return QDir::cleanPath(absolutePath(folder));
 }
 
+bool isSteered(const Arguments &arguments)
+{
+    const bool steered = arguments.has(steeredOption.name);
+    if (steered)
+        watchStandardInput();
+    return steered;
+}
+
 void print(const QString &text)
 {
     print(text.toUtf8());
@@ -107,7 +117,7 @@ void checkReportFile(const QString &path)
     if (path.isEmpty())
         throw UsageError{u"a report needs a file's name"_s};
     // What waits for a reader would wait here already.
-    if (isDevice(path))
+    if (path == standardOutput || isDevice(path))
         return;
     QSaveFile file(absolutePath(path));
     open(file, path);
@@ -116,13 +126,17 @@ void checkReportFile(const QString &path)
 
 void checkReportFiles(const QString &path)
 {
-    if (isDevice(path))
+    if (path == standardOutput || isDevice(path))
         fail(path, u"not a file"_s);
     checkReportFile(path);
 }
 
 void writeReportFile(const QString &path, const QByteArray &report)
 {
+    if (path == standardOutput) {
+        print(report);
+        return;
+    }
     if (isDevice(path)) {
         QFile device(absolutePath(path));
         open(device, path);

@@ -54,6 +54,17 @@ std::unique_ptr<Machine> openMachine(const QString &folder);
 /** The folder as an absolute path, since other processes are told of it. */
 QString absoluteFolder(const QString &folder);
 
+/** What a program that steers this one gives beside the rest; both commands of a preview take it. */
+inline constexpr OptionRow steeredOption{
+    QLatin1StringView("steered"),
+    {},
+    QLatin1StringView("for a program: tell each step in a line, and end when standard input ends"),
+    QLatin1StringView("Tells each step in a line on standard error, as\n.IR DONE , TOTAL\nand\n.I STEP\nwith tabs "
+                      "between them, and ends when standard input does: for a program that starts this one."),
+};
+/** Whether it is steered; then the end of standard input is watched from now on. */
+bool isSteered(const Arguments &arguments);
+
 /** Writes to standard output. */
 void print(const QString &text);
 void print(const QByteArray &utf8);
@@ -73,7 +84,7 @@ void checkReportFile(const QString &path);
 /** The same for a report of several files, which no device or pipe can take. */
 void checkReportFiles(const QString &path);
 /**
- * Writes a report as a whole, or leaves what was there. A device or a pipe is written to, and never replaced. Throws
- * Failure.
+ * Writes a report as a whole, or leaves what was there. A device or a pipe is written to, and never replaced; "-" is
+ * standard output. Throws Failure.
  */
 void writeReportFile(const QString &path, const QByteArray &report);

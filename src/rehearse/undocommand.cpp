@@ -130,6 +130,7 @@ QJsonArray sessionsJson(const QList<Session> &sessions)
                                  {u"what"_s, each.what},
                                  {u"user"_s, each.user},
                                  {u"version"_s, each.version},
+                                 {u"windows"_s, each.windows},
                                  {u"state"_s, sessionStateText(each.state)},
                                  {u"changes"_s, each.changes}});
     }
