@@ -59,6 +59,12 @@ QString fullNameOfPackage(const SystemState &system, const QString &name)
 
 } // namespace
 
+QString windowsBuild(const SystemState &system)
+{
+    const auto build = system.value(WindowsKey::currentVersion, u"CurrentBuild"_s);
+    return build ? textOf(build->data) : QString();
+}
+
 /** Gathers the words that are set while a walk is under way, and sets them some thousands at a time. */
 class Journal::Walk
 {
@@ -224,7 +230,12 @@ void Journal::openSession(bool own) const
     endSession(SessionState::Finished);
     if (depth_ == 0)
         what_ = lookingAround;
-    session_ = store().beginSession(what_, options_.user, options_.version);
+    Session session;
+    session.what = what_;
+    session.user = options_.user;
+    session.version = options_.version;
+    session.windows = windowsBuild(*system_);
+    session_ = store().beginSession(session);
     ended_ = false;
 }
 

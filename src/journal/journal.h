@@ -38,6 +38,9 @@ struct JournalOptions
     void (*afterSession)(const Journal &journal, qint64 session) = nullptr;
 };
 
+/** The build number of Windows, "26100"; empty where that is unknown. */
+QString windowsBuild(const SystemState &system);
+
 /**
  * A note without its change is harmless; a change without its note isn't made: where the journal can't be written, the
  * registry takes nothing, no tool is admitted and no file is changed, and takeFailure() says why. Any thread.

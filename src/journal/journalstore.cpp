@@ -28,6 +28,7 @@ CREATE TABLE session (
     what TEXT NOT NULL,
     user TEXT NOT NULL,
     version TEXT NOT NULL,
+    windows TEXT NOT NULL,
     state INTEGER NOT NULL,
     settled INTEGER NOT NULL DEFAULT 0);
 CREATE TABLE note (
@@ -58,14 +59,14 @@ qint64 now()
     return QDateTime::currentMSecsSinceEpoch();
 }
 
-/** Whether it has the tables, and SQLite finds nothing wrong with it. */
+/** Whether it has the columns, and SQLite finds nothing wrong with it. */
 bool isSound(Database &database, qint64 size)
 {
     constexpr qint64 mostToLookThrough = qint64(16) << 20; // what is larger would hold up each start
 
-    auto tables =
-        database.query("SELECT count(*) FROM sqlite_schema WHERE type = 'table' AND name IN ('session', 'note')");
-    if (!tables.next() || tables.integer(0) != 2)
+    auto columns = database.query("SELECT (SELECT count(*) FROM pragma_table_info('session')), "
+                                  "(SELECT count(*) FROM pragma_table_info('note'))");
+    if (!columns.next() || columns.integer(0) != 9 || columns.integer(1) != 13)
         return false;
     if (size > mostToLookThrough)
         return true;
@@ -90,7 +91,7 @@ QList<Session> sessionsIn(Database &database)
 {
     QList<Session> sessions;
     auto rows = database.query("SELECT id, begun, ended, what, user, version, state, (SELECT count(*) FROM note "
-                               "WHERE session = session.id AND own = 0), settled FROM session ORDER BY id");
+                               "WHERE session = session.id AND own = 0), settled, windows FROM session ORDER BY id");
     while (rows.next()) {
         Session session;
         session.id = rows.integer(0);
@@ -103,6 +104,7 @@ QList<Session> sessionsIn(Database &database)
         session.state = static_cast<SessionState>(rows.integer(6));
         session.changes = static_cast<int>(rows.integer(7));
         session.settled = rows.integer(8) != 0;
+        session.windows = rows.text(9);
         sessions.append(session);
     }
     return sessions;
@@ -161,14 +163,15 @@ JournalStore::JournalStore(const QString &file, Durability durability)
 
 JournalStore::~JournalStore() = default;
 
-qint64 JournalStore::beginSession(const QString &what, const QString &user, const QString &version)
+qint64 JournalStore::beginSession(const Session &session)
 {
     Database::Transaction together(*database_);
-    database_->query("INSERT INTO session (begun, what, user, version, state) VALUES (?, ?, ?, ?, 0)")
+    database_->query("INSERT INTO session (begun, what, user, version, windows, state) VALUES (?, ?, ?, ?, ?, 0)")
         .bind(now())
-        .bind(what)
-        .bind(user)
-        .bind(version)
+        .bind(session.what)
+        .bind(session.user)
+        .bind(session.version)
+        .bind(session.windows)
         .run();
     auto last = database_->query("SELECT last_insert_rowid()");
     last.next();

@@ -34,6 +34,7 @@ struct Session
     QString what{};    ///< "Optimize", "Disable services"
     QString user{};    ///< who ran it: a SID on Windows
     QString version{}; ///< of the program
+    QString windows{}; ///< the build number of Windows, "26100"; empty where that was unknown
     SessionState state = SessionState::UnderWay;
     bool settled = false; ///< of one that was broken off: what it had left undone was looked after
     int changes = 0;      ///< notes that aren't of the program's own records
@@ -65,7 +66,8 @@ public:
     /** The host path of the file. */
     QString file() const { return file_; }
 
-    qint64 beginSession(const QString &what, const QString &user, const QString &version);
+    /** Begins one that is under way, now; of @p session what, user, version and windows count. */
+    qint64 beginSession(const Session &session);
     void endSession(qint64 session, SessionState state);
     void setSettled(qint64 session);
     /** Removes the sessions that are older, with their notes. @param days 0: none */

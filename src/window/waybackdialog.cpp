@@ -31,6 +31,7 @@ namespace {
 
 enum SessionColumn { When, What, Changes, State, SessionColumnCount };
 constexpr int idRole = Qt::UserRole;
+constexpr int windowsRole = Qt::UserRole + 1; // the build number
 
 QTreeWidgetItem *rowOf(const Session &session)
 {
@@ -41,6 +42,7 @@ QTreeWidgetItem *rowOf(const Session &session)
     row->setTextAlignment(Changes, Qt::AlignRight | Qt::AlignVCenter);
     row->setText(State, sessionStateText(session.state));
     row->setData(When, idRole, session.id);
+    row->setData(When, windowsRole, session.windows);
     return row;
 }
 
@@ -366,7 +368,24 @@ void WayBackDialog::showVerdicts()
     const QList<TakenItem> &items = model_->items();
     const auto back = std::count_if(items.cbegin(), items.cend(),
                                     [](const TakenItem &item) { return item.verdict == WayBack::AsItWas; });
-    status_->setText(Kestrune::tr("%1 of %2 are as they were.").arg(back).arg(items.size()));
+    status_->setText(Kestrune::tr("%1 of %2 are as they were.").arg(back).arg(items.size()) + newWindowsText());
+}
+
+QString WayBackDialog::newWindowsText() const
+{
+    const QString now = windowsBuild(journal_.system());
+    const QTreeWidgetItem *row = sessions_->currentItem();
+    const QString then = row != nullptr ? row->data(When, windowsRole).toString() : QString();
+    if (then.isEmpty() || now.isEmpty() || then == now)
+        return {};
+    const QList<TakenItem> &items = model_->items();
+    const auto lost = std::count_if(items.cbegin(), items.cend(), [](const TakenItem &item) {
+        return item.verdict == WayBack::AsItWas || item.verdict == WayBack::Changed;
+    });
+    return u' '
+           + Kestrune::tr("Windows was updated from build %1 to %2 since: %3 changes are no longer in force.")
+                 .arg(then, now)
+                 .arg(lost);
 }
 
 void WayBackDialog::allowTaking()

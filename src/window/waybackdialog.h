@@ -56,6 +56,8 @@ private:
     void checkAll(bool on);
     void showDoing(Doing doing);
     void showVerdicts();
+    /** What a newer Windows has done to the changes of the session; empty where it is the same Windows. */
+    QString newWindowsText() const;
     void allowTaking();
 
     const Journal &journal_;

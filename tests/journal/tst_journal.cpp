@@ -331,7 +331,7 @@ void TestJournal::aForeignJournalLeadsNowhere()
     TestMachine pc;
     const Journaled journaled(pc);
     JournalStore &store = journaled.journal().store();
-    const qint64 session = store.beginSession(u"Foreign"_s, {}, {});
+    const qint64 session = store.beginSession({.what = u"Foreign"_s});
     QList<Note> notes;
     for (const QString &path : {host, u"..\\..\\..\\.."_s + host, u"C:\\..\\..\\.."_s + host}) {
         Note note;

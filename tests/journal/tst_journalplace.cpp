@@ -38,7 +38,7 @@ struct Place
 
 void addSession(JournalStore &store)
 {
-    store.endSession(store.beginSession(u"Test"_s, {}, {}), SessionState::Finished);
+    store.endSession(store.beginSession({.what = u"Test"_s}), SessionState::Finished);
 }
 
 /** One sentence alone, with the new name in it. */
@@ -112,7 +112,7 @@ void TestJournalPlace::damageOnALaterPageIsFound()
     Place place;
     {
         const auto store = place.open();
-        const qint64 session = store->beginSession(u"Test"_s, {}, {});
+        const qint64 session = store->beginSession({.what = u"Test"_s});
         QList<Note> notes;
         for (int i = 0; i < 2000; ++i) {
             Note note;

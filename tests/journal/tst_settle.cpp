@@ -246,7 +246,7 @@ void TestSettle::sessionsAreKeptAsLongAsTheUserWants()
         JournalStore store(file, Durability::ProcessEnd);
         Note note;
         note.item = {ItemKind::Task, u"\\X"_s};
-        const qint64 session = store.beginSession(u"Tasks"_s, {}, {});
+        const qint64 session = store.beginSession({.what = u"Tasks"_s});
         store.add(session, {note});
         store.endSession(session, SessionState::Finished);
         Database(file)

@@ -545,7 +545,7 @@ void TestWayBack::lookingAroundIsNoBrokenOffJob()
 {
     const TestMachine machine;
     const Journaled pc(machine);
-    pc.journal().store().beginSession(lookingAround, {}, {});
+    pc.journal().store().beginSession({.what = lookingAround});
     const qint64 session = pc.journal().store().sessions().last().id;
     Note note;
     note.item = {ItemKind::Key, u"HKEY_CURRENT_USER\\Software\\Looked"_s};
