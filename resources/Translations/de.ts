@@ -277,6 +277,158 @@
 <translation>&amp;Sitzungen:</translation>
 </message>
 <message>
+<source>Preview…</source>
+<translation>Vorschau …</translation>
+</message>
+<message>
+<source>Preview of Optimize</source>
+<translation>Vorschau auf „Optimieren“</translation>
+</message>
+<message>
+<source>After Optimize</source>
+<translation>Nach dem Optimieren</translation>
+</message>
+<message>
+<source>After Restore</source>
+<translation>Nach dem Wiederherstellen</translation>
+</message>
+<message>
+<source>Comes back</source>
+<translation>Kommt zurück</translation>
+</message>
+<message>
+<source>exactly</source>
+<translation>genau</translation>
+</message>
+<message>
+<source>as a default</source>
+<translation>als Standardwert</translation>
+</message>
+<message>
+<source>not at all</source>
+<translation>gar nicht</translation>
+</message>
+<message>
+<source>by Restore only</source>
+<translation>nur durch Wiederherstellen</translation>
+</message>
+<message>
+<source>%1 come back exactly</source>
+<translation>%1 kommen genau zurück</translation>
+</message>
+<message>
+<source>%1 as a default</source>
+<translation>%1 als Standardwert</translation>
+</message>
+<message>
+<source>%1 not at all</source>
+<translation>%1 gar nicht</translation>
+</message>
+<message>
+<source>%1 are changed by Restore only</source>
+<translation>%1 ändert nur das Wiederherstellen</translation>
+</message>
+<message>
+<source>Programs started at logon</source>
+<translation>Programme, die bei der Anmeldung starten</translation>
+</message>
+<message>
+<source>System options</source>
+<translation>Systemoptionen</translation>
+</message>
+<message>
+<source>Files</source>
+<translation>Dateien</translation>
+</message>
+<message>
+<source>Other registry values</source>
+<translation>Andere Registrierungswerte</translation>
+</message>
+<message>
+<source>Kestrune's own notes</source>
+<translation>Kestrunes eigene Notizen</translation>
+</message>
+<message>
+<source>Copying this PC…</source>
+<translation>Dieser PC wird kopiert …</translation>
+</message>
+<message>
+<source>Trying it on a copy…</source>
+<translation>Wird an einer Kopie ausprobiert …</translation>
+</message>
+<message>
+<source>Trying it on the copy…</source>
+<translation>Wird an der Kopie ausprobiert …</translation>
+</message>
+<message>
+<source>There is no preview: %1</source>
+<translation>Es gibt keine Vorschau: %1</translation>
+</message>
+<message>
+<source>What the next Optimize would change, and what the Restore button would bring back:</source>
+<translation>Was das nächste Optimieren ändern würde, und was die Schaltfläche „Wiederherstellen“ zurückbrächte:</translation>
+</message>
+<message>
+<source>“Way back…” brings back more than Restore: what was noted before each change.</source>
+<translation>„Weg zurück …“ bringt mehr zurück als das Wiederherstellen: was vor jeder Änderung notiert wurde.</translation>
+</message>
+<message>
+<source>This PC was looked at without Admin rights: what needs them is missing here.</source>
+<translation>Dieser PC wurde ohne Administratorrechte betrachtet: was sie braucht, fehlt hier.</translation>
+</message>
+<message>
+<source>With Admin rights a preview needs a copy of this app that nobody else can change, such as the installer makes in the folder for programs. Without Admin rights it works from any folder.</source>
+<translation>Mit Administratorrechten braucht eine Vorschau eine Kopie dieser App, die sonst niemand ändern kann, wie sie das Installationsprogramm im Programmordner anlegt. Ohne Administratorrechte geht es aus jedem Ordner.</translation>
+</message>
+<message>
+<source>A preview needs the folder “rehearse” of this app, which isn't there.</source>
+<translation>Eine Vorschau braucht den Ordner „rehearse“ dieser App, und den gibt es hier nicht.</translation>
+</message>
+<message>
+<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
+<translation>Windows wurde seither von Build %1 auf %2 aktualisiert: %3 Änderungen gelten nicht mehr.</translation>
+</message>
+<message>
+<source>automatic (delayed)</source>
+<translation>automatisch (verzögert)</translation>
+</message>
+<message>
+<source>not installed</source>
+<translation>nicht installiert</translation>
+</message>
+<message>
+<source>starts</source>
+<translation>startet</translation>
+</message>
+<message>
+<source>doesn't start</source>
+<translation>startet nicht</translation>
+</message>
+<message>
+<source>your setting</source>
+<translation>Ihre Einstellung</translation>
+</message>
+<message>
+<source>applied</source>
+<translation>angewendet</translation>
+</message>
+<message>
+<source>applied in part</source>
+<translation>teilweise angewendet</translation>
+</message>
+<message>
+<source>a default</source>
+<translation>ein Standardwert</translation>
+</message>
+<message>
+<source>not there</source>
+<translation>nicht vorhanden</translation>
+</message>
+<message>
+<source>but not as before</source>
+<translation>aber nicht wie zuvor</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>&amp;Zurücknehmen</translation>
 </message>

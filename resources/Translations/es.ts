@@ -277,6 +277,158 @@
 <translation>&amp;Sesiones:</translation>
 </message>
 <message>
+<source>Preview…</source>
+<translation>Vista previa…</translation>
+</message>
+<message>
+<source>Preview of Optimize</source>
+<translation>Vista previa de la optimización</translation>
+</message>
+<message>
+<source>After Optimize</source>
+<translation>Tras optimizar</translation>
+</message>
+<message>
+<source>After Restore</source>
+<translation>Tras restaurar</translation>
+</message>
+<message>
+<source>Comes back</source>
+<translation>Vuelve</translation>
+</message>
+<message>
+<source>exactly</source>
+<translation>exactamente</translation>
+</message>
+<message>
+<source>as a default</source>
+<translation>como valor predeterminado</translation>
+</message>
+<message>
+<source>not at all</source>
+<translation>de ningún modo</translation>
+</message>
+<message>
+<source>by Restore only</source>
+<translation>solo al restaurar</translation>
+</message>
+<message>
+<source>%1 come back exactly</source>
+<translation>%1 vuelven exactamente</translation>
+</message>
+<message>
+<source>%1 as a default</source>
+<translation>%1 con un valor predeterminado</translation>
+</message>
+<message>
+<source>%1 not at all</source>
+<translation>%1 de ningún modo</translation>
+</message>
+<message>
+<source>%1 are changed by Restore only</source>
+<translation>%1 solo cambian al restaurar</translation>
+</message>
+<message>
+<source>Programs started at logon</source>
+<translation>Programas que se inician con la sesión</translation>
+</message>
+<message>
+<source>System options</source>
+<translation>Opciones del sistema</translation>
+</message>
+<message>
+<source>Files</source>
+<translation>Archivos</translation>
+</message>
+<message>
+<source>Other registry values</source>
+<translation>Otros valores del registro</translation>
+</message>
+<message>
+<source>Kestrune's own notes</source>
+<translation>Notas propias de Kestrune</translation>
+</message>
+<message>
+<source>Copying this PC…</source>
+<translation>Copiando este PC…</translation>
+</message>
+<message>
+<source>Trying it on a copy…</source>
+<translation>Probando en una copia…</translation>
+</message>
+<message>
+<source>Trying it on the copy…</source>
+<translation>Probando en la copia…</translation>
+</message>
+<message>
+<source>There is no preview: %1</source>
+<translation>No hay vista previa: %1</translation>
+</message>
+<message>
+<source>What the next Optimize would change, and what the Restore button would bring back:</source>
+<translation>Lo que cambiaría la próxima optimización y lo que recuperaría el botón de restaurar:</translation>
+</message>
+<message>
+<source>“Way back…” brings back more than Restore: what was noted before each change.</source>
+<translation>«Vuelta atrás…» recupera más que restaurar: lo que se anotó antes de cada cambio.</translation>
+</message>
+<message>
+<source>This PC was looked at without Admin rights: what needs them is missing here.</source>
+<translation>Este PC se examinó sin derechos de administrador: falta lo que los necesita.</translation>
+</message>
+<message>
+<source>With Admin rights a preview needs a copy of this app that nobody else can change, such as the installer makes in the folder for programs. Without Admin rights it works from any folder.</source>
+<translation>Con derechos de administrador, la vista previa necesita una copia de esta aplicación que nadie más pueda cambiar, como la que el instalador pone en la carpeta de programas. Sin ellos funciona desde cualquier carpeta.</translation>
+</message>
+<message>
+<source>A preview needs the folder “rehearse” of this app, which isn't there.</source>
+<translation>La vista previa necesita la carpeta «rehearse» de esta aplicación, que no está.</translation>
+</message>
+<message>
+<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
+<translation>Windows se ha actualizado desde entonces de la compilación %1 a la %2: %3 cambios ya no están en vigor.</translation>
+</message>
+<message>
+<source>automatic (delayed)</source>
+<translation>automático (retrasado)</translation>
+</message>
+<message>
+<source>not installed</source>
+<translation>no instalada</translation>
+</message>
+<message>
+<source>starts</source>
+<translation>se inicia</translation>
+</message>
+<message>
+<source>doesn't start</source>
+<translation>no se inicia</translation>
+</message>
+<message>
+<source>your setting</source>
+<translation>su configuración</translation>
+</message>
+<message>
+<source>applied</source>
+<translation>aplicada</translation>
+</message>
+<message>
+<source>applied in part</source>
+<translation>aplicada en parte</translation>
+</message>
+<message>
+<source>a default</source>
+<translation>un valor predeterminado</translation>
+</message>
+<message>
+<source>not there</source>
+<translation>no existe</translation>
+</message>
+<message>
+<source>but not as before</source>
+<translation>pero no como antes</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>&amp;Deshacer</translation>
 </message>

@@ -277,6 +277,158 @@
 <translation>&amp;Sessions :</translation>
 </message>
 <message>
+<source>Preview…</source>
+<translation>Aperçu…</translation>
+</message>
+<message>
+<source>Preview of Optimize</source>
+<translation>Aperçu de l’optimisation</translation>
+</message>
+<message>
+<source>After Optimize</source>
+<translation>Après l’optimisation</translation>
+</message>
+<message>
+<source>After Restore</source>
+<translation>Après la restauration</translation>
+</message>
+<message>
+<source>Comes back</source>
+<translation>Revient</translation>
+</message>
+<message>
+<source>exactly</source>
+<translation>exactement</translation>
+</message>
+<message>
+<source>as a default</source>
+<translation>par défaut</translation>
+</message>
+<message>
+<source>not at all</source>
+<translation>pas du tout</translation>
+</message>
+<message>
+<source>by Restore only</source>
+<translation>par la restauration seule</translation>
+</message>
+<message>
+<source>%1 come back exactly</source>
+<translation>%1 reviennent exactement</translation>
+</message>
+<message>
+<source>%1 as a default</source>
+<translation>%1 avec une valeur par défaut</translation>
+</message>
+<message>
+<source>%1 not at all</source>
+<translation>%1 pas du tout</translation>
+</message>
+<message>
+<source>%1 are changed by Restore only</source>
+<translation>%1 modifiés par la restauration seule</translation>
+</message>
+<message>
+<source>Programs started at logon</source>
+<translation>Programmes lancés à l’ouverture de session</translation>
+</message>
+<message>
+<source>System options</source>
+<translation>Options du système</translation>
+</message>
+<message>
+<source>Files</source>
+<translation>Fichiers</translation>
+</message>
+<message>
+<source>Other registry values</source>
+<translation>Autres valeurs du registre</translation>
+</message>
+<message>
+<source>Kestrune's own notes</source>
+<translation>Notes de Kestrune</translation>
+</message>
+<message>
+<source>Copying this PC…</source>
+<translation>Copie de ce PC…</translation>
+</message>
+<message>
+<source>Trying it on a copy…</source>
+<translation>Essai sur une copie…</translation>
+</message>
+<message>
+<source>Trying it on the copy…</source>
+<translation>Essai sur la copie…</translation>
+</message>
+<message>
+<source>There is no preview: %1</source>
+<translation>Pas d’aperçu : %1</translation>
+</message>
+<message>
+<source>What the next Optimize would change, and what the Restore button would bring back:</source>
+<translation>Ce que la prochaine optimisation changerait, et ce que le bouton de restauration rétablirait :</translation>
+</message>
+<message>
+<source>“Way back…” brings back more than Restore: what was noted before each change.</source>
+<translation>« Retour en arrière… » rétablit plus que la restauration : ce qui a été noté avant chaque modification.</translation>
+</message>
+<message>
+<source>This PC was looked at without Admin rights: what needs them is missing here.</source>
+<translation>Ce PC a été examiné sans droits d’administrateur : ce qui les exige manque ici.</translation>
+</message>
+<message>
+<source>With Admin rights a preview needs a copy of this app that nobody else can change, such as the installer makes in the folder for programs. Without Admin rights it works from any folder.</source>
+<translation>Avec les droits d’administrateur, un aperçu exige une copie de cette application que personne d’autre ne peut modifier, comme celle que le programme d’installation place dans le dossier des programmes. Sans ces droits, il fonctionne depuis n’importe quel dossier.</translation>
+</message>
+<message>
+<source>A preview needs the folder “rehearse” of this app, which isn't there.</source>
+<translation>Un aperçu exige le dossier « rehearse » de cette application, qui est absent.</translation>
+</message>
+<message>
+<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
+<translation>Windows est passé depuis de la build %1 à la %2 : %3 modifications ne sont plus en vigueur.</translation>
+</message>
+<message>
+<source>automatic (delayed)</source>
+<translation>automatique (différé)</translation>
+</message>
+<message>
+<source>not installed</source>
+<translation>non installée</translation>
+</message>
+<message>
+<source>starts</source>
+<translation>démarre</translation>
+</message>
+<message>
+<source>doesn't start</source>
+<translation>ne démarre pas</translation>
+</message>
+<message>
+<source>your setting</source>
+<translation>votre réglage</translation>
+</message>
+<message>
+<source>applied</source>
+<translation>appliquée</translation>
+</message>
+<message>
+<source>applied in part</source>
+<translation>appliquée en partie</translation>
+</message>
+<message>
+<source>a default</source>
+<translation>une valeur par défaut</translation>
+</message>
+<message>
+<source>not there</source>
+<translation>absent</translation>
+</message>
+<message>
+<source>but not as before</source>
+<translation>mais pas comme avant</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>A&amp;nnuler ces modifications</translation>
 </message>

@@ -277,6 +277,158 @@
 <translation>&amp;Sessioni:</translation>
 </message>
 <message>
+<source>Preview…</source>
+<translation>Anteprima…</translation>
+</message>
+<message>
+<source>Preview of Optimize</source>
+<translation>Anteprima dell’ottimizzazione</translation>
+</message>
+<message>
+<source>After Optimize</source>
+<translation>Dopo l’ottimizzazione</translation>
+</message>
+<message>
+<source>After Restore</source>
+<translation>Dopo il ripristino</translation>
+</message>
+<message>
+<source>Comes back</source>
+<translation>Torna</translation>
+</message>
+<message>
+<source>exactly</source>
+<translation>esattamente</translation>
+</message>
+<message>
+<source>as a default</source>
+<translation>come valore predefinito</translation>
+</message>
+<message>
+<source>not at all</source>
+<translation>per niente</translation>
+</message>
+<message>
+<source>by Restore only</source>
+<translation>solo dal ripristino</translation>
+</message>
+<message>
+<source>%1 come back exactly</source>
+<translation>%1 tornano esattamente</translation>
+</message>
+<message>
+<source>%1 as a default</source>
+<translation>%1 con un valore predefinito</translation>
+</message>
+<message>
+<source>%1 not at all</source>
+<translation>%1 per niente</translation>
+</message>
+<message>
+<source>%1 are changed by Restore only</source>
+<translation>%1 cambiano solo con il ripristino</translation>
+</message>
+<message>
+<source>Programs started at logon</source>
+<translation>Programmi avviati all’accesso</translation>
+</message>
+<message>
+<source>System options</source>
+<translation>Opzioni di sistema</translation>
+</message>
+<message>
+<source>Files</source>
+<translation>File</translation>
+</message>
+<message>
+<source>Other registry values</source>
+<translation>Altri valori del registro</translation>
+</message>
+<message>
+<source>Kestrune's own notes</source>
+<translation>Note di Kestrune</translation>
+</message>
+<message>
+<source>Copying this PC…</source>
+<translation>Copia di questo PC…</translation>
+</message>
+<message>
+<source>Trying it on a copy…</source>
+<translation>Prova su una copia…</translation>
+</message>
+<message>
+<source>Trying it on the copy…</source>
+<translation>Prova sulla copia…</translation>
+</message>
+<message>
+<source>There is no preview: %1</source>
+<translation>Nessuna anteprima: %1</translation>
+</message>
+<message>
+<source>What the next Optimize would change, and what the Restore button would bring back:</source>
+<translation>Che cosa cambierebbe la prossima ottimizzazione e che cosa riporterebbe il pulsante di ripristino:</translation>
+</message>
+<message>
+<source>“Way back…” brings back more than Restore: what was noted before each change.</source>
+<translation>«Ritorno…» riporta più del ripristino: ciò che è stato annotato prima di ogni modifica.</translation>
+</message>
+<message>
+<source>This PC was looked at without Admin rights: what needs them is missing here.</source>
+<translation>Questo PC è stato esaminato senza diritti di amministratore: ciò che li richiede manca qui.</translation>
+</message>
+<message>
+<source>With Admin rights a preview needs a copy of this app that nobody else can change, such as the installer makes in the folder for programs. Without Admin rights it works from any folder.</source>
+<translation>Con i diritti di amministratore un’anteprima richiede una copia di questa app che nessun altro possa modificare, come quella che l’installatore mette nella cartella dei programmi. Senza funziona da qualsiasi cartella.</translation>
+</message>
+<message>
+<source>A preview needs the folder “rehearse” of this app, which isn't there.</source>
+<translation>Un’anteprima richiede la cartella «rehearse» di questa app, che manca.</translation>
+</message>
+<message>
+<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
+<translation>Da allora Windows è passato dalla build %1 alla %2: %3 modifiche non sono più in vigore.</translation>
+</message>
+<message>
+<source>automatic (delayed)</source>
+<translation>automatico (ritardato)</translation>
+</message>
+<message>
+<source>not installed</source>
+<translation>non installata</translation>
+</message>
+<message>
+<source>starts</source>
+<translation>si avvia</translation>
+</message>
+<message>
+<source>doesn't start</source>
+<translation>non si avvia</translation>
+</message>
+<message>
+<source>your setting</source>
+<translation>la sua impostazione</translation>
+</message>
+<message>
+<source>applied</source>
+<translation>applicata</translation>
+</message>
+<message>
+<source>applied in part</source>
+<translation>applicata in parte</translation>
+</message>
+<message>
+<source>a default</source>
+<translation>un valore predefinito</translation>
+</message>
+<message>
+<source>not there</source>
+<translation>assente</translation>
+</message>
+<message>
+<source>but not as before</source>
+<translation>ma non come prima</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>&amp;Annulla modifiche</translation>
 </message>

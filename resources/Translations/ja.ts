@@ -277,6 +277,158 @@
 <translation>セッション(&amp;S):</translation>
 </message>
 <message>
+<source>Preview…</source>
+<translation>プレビュー…</translation>
+</message>
+<message>
+<source>Preview of Optimize</source>
+<translation>最適化のプレビュー</translation>
+</message>
+<message>
+<source>After Optimize</source>
+<translation>最適化後</translation>
+</message>
+<message>
+<source>After Restore</source>
+<translation>復元後</translation>
+</message>
+<message>
+<source>Comes back</source>
+<translation>元に戻るか</translation>
+</message>
+<message>
+<source>exactly</source>
+<translation>完全に戻る</translation>
+</message>
+<message>
+<source>as a default</source>
+<translation>既定値に戻る</translation>
+</message>
+<message>
+<source>not at all</source>
+<translation>戻らない</translation>
+</message>
+<message>
+<source>by Restore only</source>
+<translation>復元でのみ変更</translation>
+</message>
+<message>
+<source>%1 come back exactly</source>
+<translation>%1 件は完全に戻る</translation>
+</message>
+<message>
+<source>%1 as a default</source>
+<translation>%1 件は既定値に戻る</translation>
+</message>
+<message>
+<source>%1 not at all</source>
+<translation>%1 件は戻らない</translation>
+</message>
+<message>
+<source>%1 are changed by Restore only</source>
+<translation>%1 件は復元でのみ変更</translation>
+</message>
+<message>
+<source>Programs started at logon</source>
+<translation>サインイン時に起動するプログラム</translation>
+</message>
+<message>
+<source>System options</source>
+<translation>システム オプション</translation>
+</message>
+<message>
+<source>Files</source>
+<translation>ファイル</translation>
+</message>
+<message>
+<source>Other registry values</source>
+<translation>その他のレジストリ値</translation>
+</message>
+<message>
+<source>Kestrune's own notes</source>
+<translation>Kestrune 自身の記録</translation>
+</message>
+<message>
+<source>Copying this PC…</source>
+<translation>この PC をコピーしています…</translation>
+</message>
+<message>
+<source>Trying it on a copy…</source>
+<translation>コピーで試しています…</translation>
+</message>
+<message>
+<source>Trying it on the copy…</source>
+<translation>そのコピーで試しています…</translation>
+</message>
+<message>
+<source>There is no preview: %1</source>
+<translation>プレビューできません: %1</translation>
+</message>
+<message>
+<source>What the next Optimize would change, and what the Restore button would bring back:</source>
+<translation>次の最適化で変わる項目と、復元ボタンで元に戻る項目:</translation>
+</message>
+<message>
+<source>“Way back…” brings back more than Restore: what was noted before each change.</source>
+<translation>「元に戻す…」は、各変更の前に記録した内容を戻すので、復元より多くのものが戻ります。</translation>
+</message>
+<message>
+<source>This PC was looked at without Admin rights: what needs them is missing here.</source>
+<translation>管理者権限なしで調べたため、権限が必要なものはここに含まれていません。</translation>
+</message>
+<message>
+<source>With Admin rights a preview needs a copy of this app that nobody else can change, such as the installer makes in the folder for programs. Without Admin rights it works from any folder.</source>
+<translation>管理者権限でのプレビューには、インストーラーがプログラムのフォルダーに置くような、他の誰も変更できないこのアプリのコピーが必要です。管理者権限なしなら、どのフォルダーからでも使えます。</translation>
+</message>
+<message>
+<source>A preview needs the folder “rehearse” of this app, which isn't there.</source>
+<translation>プレビューにはこのアプリの「rehearse」フォルダーが必要ですが、見つかりません。</translation>
+</message>
+<message>
+<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
+<translation>その後 Windows はビルド %1 から %2 に更新され、%3 件の変更が無効になりました。</translation>
+</message>
+<message>
+<source>automatic (delayed)</source>
+<translation>自動 (遅延開始)</translation>
+</message>
+<message>
+<source>not installed</source>
+<translation>未インストール</translation>
+</message>
+<message>
+<source>starts</source>
+<translation>起動する</translation>
+</message>
+<message>
+<source>doesn't start</source>
+<translation>起動しない</translation>
+</message>
+<message>
+<source>your setting</source>
+<translation>現在の設定</translation>
+</message>
+<message>
+<source>applied</source>
+<translation>適用済み</translation>
+</message>
+<message>
+<source>applied in part</source>
+<translation>一部適用</translation>
+</message>
+<message>
+<source>a default</source>
+<translation>既定値</translation>
+</message>
+<message>
+<source>not there</source>
+<translation>なし</translation>
+</message>
+<message>
+<source>but not as before</source>
+<translation>ただし元どおりではない</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>元に戻す(&amp;T)</translation>
 </message>

@@ -277,6 +277,158 @@
 <translation>&amp;Sessies:</translation>
 </message>
 <message>
+<source>Preview…</source>
+<translation>Voorbeeld…</translation>
+</message>
+<message>
+<source>Preview of Optimize</source>
+<translation>Voorbeeld van de optimalisatie</translation>
+</message>
+<message>
+<source>After Optimize</source>
+<translation>Na optimaliseren</translation>
+</message>
+<message>
+<source>After Restore</source>
+<translation>Na herstellen</translation>
+</message>
+<message>
+<source>Comes back</source>
+<translation>Komt terug</translation>
+</message>
+<message>
+<source>exactly</source>
+<translation>precies</translation>
+</message>
+<message>
+<source>as a default</source>
+<translation>als standaardwaarde</translation>
+</message>
+<message>
+<source>not at all</source>
+<translation>helemaal niet</translation>
+</message>
+<message>
+<source>by Restore only</source>
+<translation>alleen door herstellen</translation>
+</message>
+<message>
+<source>%1 come back exactly</source>
+<translation>%1 komen precies terug</translation>
+</message>
+<message>
+<source>%1 as a default</source>
+<translation>%1 als standaardwaarde</translation>
+</message>
+<message>
+<source>%1 not at all</source>
+<translation>%1 helemaal niet</translation>
+</message>
+<message>
+<source>%1 are changed by Restore only</source>
+<translation>%1 worden alleen door herstellen gewijzigd</translation>
+</message>
+<message>
+<source>Programs started at logon</source>
+<translation>Programma’s die bij aanmelden starten</translation>
+</message>
+<message>
+<source>System options</source>
+<translation>Systeemopties</translation>
+</message>
+<message>
+<source>Files</source>
+<translation>Bestanden</translation>
+</message>
+<message>
+<source>Other registry values</source>
+<translation>Andere registerwaarden</translation>
+</message>
+<message>
+<source>Kestrune's own notes</source>
+<translation>Notities van Kestrune</translation>
+</message>
+<message>
+<source>Copying this PC…</source>
+<translation>Deze pc wordt gekopieerd…</translation>
+</message>
+<message>
+<source>Trying it on a copy…</source>
+<translation>Wordt op een kopie geprobeerd…</translation>
+</message>
+<message>
+<source>Trying it on the copy…</source>
+<translation>Wordt op de kopie geprobeerd…</translation>
+</message>
+<message>
+<source>There is no preview: %1</source>
+<translation>Er is geen voorbeeld: %1</translation>
+</message>
+<message>
+<source>What the next Optimize would change, and what the Restore button would bring back:</source>
+<translation>Wat de volgende optimalisatie zou wijzigen en wat de knop Herstellen zou terugbrengen:</translation>
+</message>
+<message>
+<source>“Way back…” brings back more than Restore: what was noted before each change.</source>
+<translation>“Weg terug…” brengt meer terug dan herstellen: wat vóór elke wijziging is genoteerd.</translation>
+</message>
+<message>
+<source>This PC was looked at without Admin rights: what needs them is missing here.</source>
+<translation>Deze pc is zonder beheerdersrechten bekeken: wat die nodig heeft, ontbreekt hier.</translation>
+</message>
+<message>
+<source>With Admin rights a preview needs a copy of this app that nobody else can change, such as the installer makes in the folder for programs. Without Admin rights it works from any folder.</source>
+<translation>Met beheerdersrechten heeft een voorbeeld een kopie van deze app nodig die niemand anders kan wijzigen, zoals het installatieprogramma die in de programmamap zet. Zonder die rechten werkt het vanuit elke map.</translation>
+</message>
+<message>
+<source>A preview needs the folder “rehearse” of this app, which isn't there.</source>
+<translation>Een voorbeeld heeft de map “rehearse” van deze app nodig, en die is er niet.</translation>
+</message>
+<message>
+<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
+<translation>Windows is sindsdien van build %1 naar %2 bijgewerkt: %3 wijzigingen zijn niet meer van kracht.</translation>
+</message>
+<message>
+<source>automatic (delayed)</source>
+<translation>automatisch (vertraagd)</translation>
+</message>
+<message>
+<source>not installed</source>
+<translation>niet geïnstalleerd</translation>
+</message>
+<message>
+<source>starts</source>
+<translation>start</translation>
+</message>
+<message>
+<source>doesn't start</source>
+<translation>start niet</translation>
+</message>
+<message>
+<source>your setting</source>
+<translation>uw instelling</translation>
+</message>
+<message>
+<source>applied</source>
+<translation>toegepast</translation>
+</message>
+<message>
+<source>applied in part</source>
+<translation>deels toegepast</translation>
+</message>
+<message>
+<source>a default</source>
+<translation>een standaardwaarde</translation>
+</message>
+<message>
+<source>not there</source>
+<translation>niet aanwezig</translation>
+</message>
+<message>
+<source>but not as before</source>
+<translation>maar niet zoals eerst</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>&amp;Terugdraaien</translation>
 </message>

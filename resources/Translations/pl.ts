@@ -277,6 +277,158 @@
 <translation>&amp;Sesje:</translation>
 </message>
 <message>
+<source>Preview…</source>
+<translation>Podgląd…</translation>
+</message>
+<message>
+<source>Preview of Optimize</source>
+<translation>Podgląd optymalizacji</translation>
+</message>
+<message>
+<source>After Optimize</source>
+<translation>Po optymalizacji</translation>
+</message>
+<message>
+<source>After Restore</source>
+<translation>Po przywróceniu</translation>
+</message>
+<message>
+<source>Comes back</source>
+<translation>Wraca</translation>
+</message>
+<message>
+<source>exactly</source>
+<translation>dokładnie</translation>
+</message>
+<message>
+<source>as a default</source>
+<translation>jako wartość domyślna</translation>
+</message>
+<message>
+<source>not at all</source>
+<translation>wcale</translation>
+</message>
+<message>
+<source>by Restore only</source>
+<translation>tylko przez przywrócenie</translation>
+</message>
+<message>
+<source>%1 come back exactly</source>
+<translation>%1 wraca dokładnie</translation>
+</message>
+<message>
+<source>%1 as a default</source>
+<translation>%1 jako wartość domyślna</translation>
+</message>
+<message>
+<source>%1 not at all</source>
+<translation>%1 wcale</translation>
+</message>
+<message>
+<source>%1 are changed by Restore only</source>
+<translation>%1 zmienia tylko przywrócenie</translation>
+</message>
+<message>
+<source>Programs started at logon</source>
+<translation>Programy uruchamiane przy logowaniu</translation>
+</message>
+<message>
+<source>System options</source>
+<translation>Opcje systemu</translation>
+</message>
+<message>
+<source>Files</source>
+<translation>Pliki</translation>
+</message>
+<message>
+<source>Other registry values</source>
+<translation>Inne wartości rejestru</translation>
+</message>
+<message>
+<source>Kestrune's own notes</source>
+<translation>Własne notatki Kestrune</translation>
+</message>
+<message>
+<source>Copying this PC…</source>
+<translation>Kopiowanie tego komputera…</translation>
+</message>
+<message>
+<source>Trying it on a copy…</source>
+<translation>Próba na kopii…</translation>
+</message>
+<message>
+<source>Trying it on the copy…</source>
+<translation>Próba na tej kopii…</translation>
+</message>
+<message>
+<source>There is no preview: %1</source>
+<translation>Nie ma podglądu: %1</translation>
+</message>
+<message>
+<source>What the next Optimize would change, and what the Restore button would bring back:</source>
+<translation>Co zmieniłaby następna optymalizacja i co cofnąłby przycisk przywracania:</translation>
+</message>
+<message>
+<source>“Way back…” brings back more than Restore: what was noted before each change.</source>
+<translation>„Droga powrotna…” cofa więcej niż przywracanie: to, co zanotowano przed każdą zmianą.</translation>
+</message>
+<message>
+<source>This PC was looked at without Admin rights: what needs them is missing here.</source>
+<translation>Ten komputer sprawdzono bez praw administratora: brakuje tu tego, co ich wymaga.</translation>
+</message>
+<message>
+<source>With Admin rights a preview needs a copy of this app that nobody else can change, such as the installer makes in the folder for programs. Without Admin rights it works from any folder.</source>
+<translation>Z prawami administratora podgląd wymaga kopii tej aplikacji, której nikt inny nie może zmienić, takiej jak ta, którą instalator umieszcza w folderze programów. Bez nich działa z dowolnego folderu.</translation>
+</message>
+<message>
+<source>A preview needs the folder “rehearse” of this app, which isn't there.</source>
+<translation>Podgląd wymaga folderu „rehearse” tej aplikacji, którego tu nie ma.</translation>
+</message>
+<message>
+<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
+<translation>Od tego czasu system Windows zaktualizowano z kompilacji %1 do %2: %3 zmian już nie obowiązuje.</translation>
+</message>
+<message>
+<source>automatic (delayed)</source>
+<translation>automatyczny (opóźniony)</translation>
+</message>
+<message>
+<source>not installed</source>
+<translation>nie zainstalowano</translation>
+</message>
+<message>
+<source>starts</source>
+<translation>uruchamia się</translation>
+</message>
+<message>
+<source>doesn't start</source>
+<translation>nie uruchamia się</translation>
+</message>
+<message>
+<source>your setting</source>
+<translation>obecne ustawienie</translation>
+</message>
+<message>
+<source>applied</source>
+<translation>zastosowano</translation>
+</message>
+<message>
+<source>applied in part</source>
+<translation>zastosowano częściowo</translation>
+</message>
+<message>
+<source>a default</source>
+<translation>wartość domyślna</translation>
+</message>
+<message>
+<source>not there</source>
+<translation>brak</translation>
+</message>
+<message>
+<source>but not as before</source>
+<translation>ale nie jak przedtem</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>&amp;Cofnij</translation>
 </message>

@@ -277,6 +277,158 @@
 <translation>&amp;Sessões:</translation>
 </message>
 <message>
+<source>Preview…</source>
+<translation>Prévia…</translation>
+</message>
+<message>
+<source>Preview of Optimize</source>
+<translation>Prévia da otimização</translation>
+</message>
+<message>
+<source>After Optimize</source>
+<translation>Após otimizar</translation>
+</message>
+<message>
+<source>After Restore</source>
+<translation>Após restaurar</translation>
+</message>
+<message>
+<source>Comes back</source>
+<translation>Volta</translation>
+</message>
+<message>
+<source>exactly</source>
+<translation>exatamente</translation>
+</message>
+<message>
+<source>as a default</source>
+<translation>como valor padrão</translation>
+</message>
+<message>
+<source>not at all</source>
+<translation>de modo algum</translation>
+</message>
+<message>
+<source>by Restore only</source>
+<translation>só ao restaurar</translation>
+</message>
+<message>
+<source>%1 come back exactly</source>
+<translation>%1 voltam exatamente</translation>
+</message>
+<message>
+<source>%1 as a default</source>
+<translation>%1 com um valor padrão</translation>
+</message>
+<message>
+<source>%1 not at all</source>
+<translation>%1 de modo algum</translation>
+</message>
+<message>
+<source>%1 are changed by Restore only</source>
+<translation>%1 mudam só ao restaurar</translation>
+</message>
+<message>
+<source>Programs started at logon</source>
+<translation>Programas iniciados no logon</translation>
+</message>
+<message>
+<source>System options</source>
+<translation>Opções do sistema</translation>
+</message>
+<message>
+<source>Files</source>
+<translation>Arquivos</translation>
+</message>
+<message>
+<source>Other registry values</source>
+<translation>Outros valores do registro</translation>
+</message>
+<message>
+<source>Kestrune's own notes</source>
+<translation>Notas do Kestrune</translation>
+</message>
+<message>
+<source>Copying this PC…</source>
+<translation>Copiando este PC…</translation>
+</message>
+<message>
+<source>Trying it on a copy…</source>
+<translation>Testando em uma cópia…</translation>
+</message>
+<message>
+<source>Trying it on the copy…</source>
+<translation>Testando na cópia…</translation>
+</message>
+<message>
+<source>There is no preview: %1</source>
+<translation>Não há prévia: %1</translation>
+</message>
+<message>
+<source>What the next Optimize would change, and what the Restore button would bring back:</source>
+<translation>O que a próxima otimização mudaria e o que o botão de restaurar traria de volta:</translation>
+</message>
+<message>
+<source>“Way back…” brings back more than Restore: what was noted before each change.</source>
+<translation>“Caminho de volta…” traz de volta mais do que restaurar: o que foi anotado antes de cada mudança.</translation>
+</message>
+<message>
+<source>This PC was looked at without Admin rights: what needs them is missing here.</source>
+<translation>Este PC foi examinado sem direitos de administrador: o que precisa deles falta aqui.</translation>
+</message>
+<message>
+<source>With Admin rights a preview needs a copy of this app that nobody else can change, such as the installer makes in the folder for programs. Without Admin rights it works from any folder.</source>
+<translation>Com direitos de administrador, a prévia precisa de uma cópia deste aplicativo que ninguém mais possa mudar, como a que o instalador põe na pasta de programas. Sem eles funciona de qualquer pasta.</translation>
+</message>
+<message>
+<source>A preview needs the folder “rehearse” of this app, which isn't there.</source>
+<translation>A prévia precisa da pasta “rehearse” deste aplicativo, que não está aqui.</translation>
+</message>
+<message>
+<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
+<translation>Desde então o Windows foi atualizado da compilação %1 para a %2: %3 mudanças não estão mais em vigor.</translation>
+</message>
+<message>
+<source>automatic (delayed)</source>
+<translation>automático (atrasado)</translation>
+</message>
+<message>
+<source>not installed</source>
+<translation>não instalado</translation>
+</message>
+<message>
+<source>starts</source>
+<translation>inicia</translation>
+</message>
+<message>
+<source>doesn't start</source>
+<translation>não inicia</translation>
+</message>
+<message>
+<source>your setting</source>
+<translation>sua configuração</translation>
+</message>
+<message>
+<source>applied</source>
+<translation>aplicada</translation>
+</message>
+<message>
+<source>applied in part</source>
+<translation>aplicada em parte</translation>
+</message>
+<message>
+<source>a default</source>
+<translation>um valor padrão</translation>
+</message>
+<message>
+<source>not there</source>
+<translation>inexistente</translation>
+</message>
+<message>
+<source>but not as before</source>
+<translation>mas não como antes</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>&amp;Desfazer</translation>
 </message>

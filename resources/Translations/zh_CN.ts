@@ -277,6 +277,158 @@
 <translation>会话(&amp;S)：</translation>
 </message>
 <message>
+<source>Preview…</source>
+<translation>预览…</translation>
+</message>
+<message>
+<source>Preview of Optimize</source>
+<translation>优化预览</translation>
+</message>
+<message>
+<source>After Optimize</source>
+<translation>优化后</translation>
+</message>
+<message>
+<source>After Restore</source>
+<translation>还原后</translation>
+</message>
+<message>
+<source>Comes back</source>
+<translation>能否还原</translation>
+</message>
+<message>
+<source>exactly</source>
+<translation>完全还原</translation>
+</message>
+<message>
+<source>as a default</source>
+<translation>还原为默认值</translation>
+</message>
+<message>
+<source>not at all</source>
+<translation>不能还原</translation>
+</message>
+<message>
+<source>by Restore only</source>
+<translation>仅由还原更改</translation>
+</message>
+<message>
+<source>%1 come back exactly</source>
+<translation>%1 项完全还原</translation>
+</message>
+<message>
+<source>%1 as a default</source>
+<translation>%1 项还原为默认值</translation>
+</message>
+<message>
+<source>%1 not at all</source>
+<translation>%1 项不能还原</translation>
+</message>
+<message>
+<source>%1 are changed by Restore only</source>
+<translation>%1 项仅由还原更改</translation>
+</message>
+<message>
+<source>Programs started at logon</source>
+<translation>登录时启动的程序</translation>
+</message>
+<message>
+<source>System options</source>
+<translation>系统选项</translation>
+</message>
+<message>
+<source>Files</source>
+<translation>文件</translation>
+</message>
+<message>
+<source>Other registry values</source>
+<translation>其他注册表值</translation>
+</message>
+<message>
+<source>Kestrune's own notes</source>
+<translation>Kestrune 自己的记录</translation>
+</message>
+<message>
+<source>Copying this PC…</source>
+<translation>正在复制此电脑…</translation>
+</message>
+<message>
+<source>Trying it on a copy…</source>
+<translation>正在副本上试运行…</translation>
+</message>
+<message>
+<source>Trying it on the copy…</source>
+<translation>正在该副本上试运行…</translation>
+</message>
+<message>
+<source>There is no preview: %1</source>
+<translation>无法预览：%1</translation>
+</message>
+<message>
+<source>What the next Optimize would change, and what the Restore button would bring back:</source>
+<translation>下次优化会更改的内容，以及“还原”按钮会恢复的内容：</translation>
+</message>
+<message>
+<source>“Way back…” brings back more than Restore: what was noted before each change.</source>
+<translation>“撤回更改…”比还原恢复得更多：每次更改前记录的内容。</translation>
+</message>
+<message>
+<source>This PC was looked at without Admin rights: what needs them is missing here.</source>
+<translation>此电脑是在没有管理员权限的情况下检查的：此处缺少需要该权限的内容。</translation>
+</message>
+<message>
+<source>With Admin rights a preview needs a copy of this app that nobody else can change, such as the installer makes in the folder for programs. Without Admin rights it works from any folder.</source>
+<translation>使用管理员权限预览时，需要一份其他人无法更改的本应用副本，例如安装程序放在程序文件夹中的副本。没有管理员权限时，可在任何文件夹中预览。</translation>
+</message>
+<message>
+<source>A preview needs the folder “rehearse” of this app, which isn't there.</source>
+<translation>预览需要本应用的“rehearse”文件夹，但此处没有。</translation>
+</message>
+<message>
+<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
+<translation>此后 Windows 已从内部版本 %1 更新到 %2：%3 项更改不再有效。</translation>
+</message>
+<message>
+<source>automatic (delayed)</source>
+<translation>自动（延迟启动）</translation>
+</message>
+<message>
+<source>not installed</source>
+<translation>未安装</translation>
+</message>
+<message>
+<source>starts</source>
+<translation>启动</translation>
+</message>
+<message>
+<source>doesn't start</source>
+<translation>不启动</translation>
+</message>
+<message>
+<source>your setting</source>
+<translation>您的设置</translation>
+</message>
+<message>
+<source>applied</source>
+<translation>已应用</translation>
+</message>
+<message>
+<source>applied in part</source>
+<translation>部分应用</translation>
+</message>
+<message>
+<source>a default</source>
+<translation>默认值</translation>
+</message>
+<message>
+<source>not there</source>
+<translation>不存在</translation>
+</message>
+<message>
+<source>but not as before</source>
+<translation>但与之前不同</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>撤回(&amp;T)</translation>
 </message>

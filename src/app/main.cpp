@@ -10,6 +10,7 @@
 #include "journal/programrecords.h"
 #include "journal/realjournal.h"
 #include "linkopener.h"
+#include "realpreview.h"
 #else
 #include "journal/machinejournal.h"
 #include "journal/programrecords.h"
@@ -21,6 +22,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -67,6 +69,17 @@ bool choosePlatform()
     return true;
 }
 
+/** The machine that the window works on: a preview makes copies of it. */
+PreviewPlace previewPlace()
+{
+    const QString name = u"kestrune-rehearse"_s;
+    const QString program = QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()});
+    PreviewPlace place{.program = program, .machine = qEnvironmentVariable("KESTRUNE_MACHINE")};
+    if (program.isEmpty())
+        place.failure = Kestrune::tr("There is no preview: %1").arg(u"the program %1 is missing"_s.arg(name));
+    return place;
+}
+
 #endif
 
 /** Said once, before the window: it opens all the same, to look at the PC and its settings. */
@@ -105,6 +118,7 @@ int main(int argc, char **argv)
         return 0;
     window.appVersion = QCoreApplication::applicationVersion();
     window.screenName = window.screen()->name();
+    window.previewPlace = previewPlace;
     window.show();
     return QApplication::exec();
 }

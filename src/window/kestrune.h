@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "previewrun.h"
 #include "ui_kestrune.h"
 #include "work/workthread.h"
 
@@ -31,6 +32,7 @@ public:
 
     QString appVersion;                         ///< set once the window stands
     QString screenName;                         ///< likewise
+    PreviewPlace (*previewPlace)() = nullptr;   ///< likewise; what a preview of Optimize is made of
     QString currentLang = QStringLiteral("en"); ///< tag of the language in force
 
     /** Number of the page that is shown, 0 to 8. */
@@ -118,8 +120,9 @@ private Q_SLOTS:
     void onChkOptionsGetWinSxsSizeStateChanged(int state);
     void onCheckUpdateResult(QNetworkReply *reply);
 
-    // The way back
+    // The way back, and the look ahead
     void on_btnOptionsWayBack_clicked() { openWayBack(0); }
+    void on_btnOptionsPreview_clicked();
     void on_btnBrokenOff_clicked();
 
     /** The closed lists show their title, which the wheel and the keys would leave for a feature. */

@@ -156,6 +156,7 @@ constexpr WidgetRow widgetRows[] = {
     {"cbOptionsMonitorInterval",         "QComboBox",    "wgtOptions"},
     {"chkOptionsMonitorThreadAndHandle", "QCheckBox",    "wgtOptions"},
     {"btnOptionsWayBack",                "QPushButton",  "wgtOptions"},
+    {"btnOptionsPreview",                "QPushButton",  "wgtOptions"},
 
     {"tabAbout",                         "QWidget",      "qt_tabwidget_stackedwidget"},
     {"wgtAbout",                         "QWidget",      "tabAbout"},
@@ -378,6 +379,7 @@ constexpr RectangleRow rectangleRows[] = {
     {"cbOptionsMonitorInterval",         200, 410,  41,  24},
     {"chkOptionsMonitorThreadAndHandle", 290, 410, 271,  22},
     {"btnOptionsWayBack",                 10, 490, 301,  28},
+    {"btnOptionsPreview",                 10, 525, 301,  28},
 };
 
 struct SettingRow
@@ -753,6 +755,7 @@ constexpr TextRow textRows[] = {
     {"label_9",                          "interval in seconds:"},
     {"chkOptionsMonitorThreadAndHandle", "display threads and handles count"},
     {"btnOptionsWayBack",                "Way back…"},
+    {"btnOptionsPreview",                "Preview…"},
 
     {"lblAboutTop", "About"},
 };

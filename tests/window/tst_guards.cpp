@@ -74,6 +74,16 @@ const State restoreGivenUp{{u"restores tasks"_s, u"0"_s}};
 const State needlessTaskChecked{{u"tblTasks"_s, u"Mine, WinSAT checked"_s}, {u"restores tasks"_s, u"0"_s}};
 const State noPackages{{u"packages to change"_s, QString()}};
 
+/** With what is told in a box. */
+void preparePreview(const WindowDriver &driver)
+{
+    driver.window().previewPlace = [] {
+        PreviewPlace place;
+        place.failure = u"none"_s;
+        return place;
+    };
+}
+
 // clang-format off
 const QList<Guard> guards{
     {"btnAutomatizerAnalyze",   0, prepareNothing},
@@ -93,6 +103,7 @@ const QList<Guard> guards{
     {"btnSsd8",                 5, prepareNothing, false},
     {"btnTweakApply",           5, touchFeatures},
     {"btnOptionsWayBack",       7, prepareNothing, true, false}, // says what it needs the rights for
+    {"btnOptionsPreview",       7, preparePreview, true, false},
 };
 // clang-format on
 

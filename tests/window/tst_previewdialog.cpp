@@ -1,0 +1,292 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The preview of Optimize in the window: what its dialog shows, and how it ends.
+
+#include "machine/source/regfile.h"
+#include "support/boxes.h"
+#include "support/suite.h"
+#include "support/windowdriver.h"
+#include "window/previewdialog.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int optionsPage = 7;
+
+/** What the next click on the button is given. */
+PreviewPlace nextPlace;
+
+PreviewPlace placeOf(const TestMachine &machine)
+{
+    return {.program = QCoreApplication::applicationDirPath() + u"/kestrune-rehearse"_s, .machine = machine.folder()};
+}
+
+/** A machine with a service that Optimize disables, and one that it leaves alone. */
+class PreviewedPc : public TestMachine
+{
+public:
+    PreviewedPc()
+    {
+        add({.name = u"FontCache"_s, .start = StartAutomatic, .running = true, .displayName = u"Fonts of this PC"_s});
+        add({.name = u"Other"_s, .start = StartAutomatic, .running = true});
+    }
+};
+
+/** The dialog, driven by the names of its widgets. */
+class Preview
+{
+public:
+    Preview(const WindowDriver &driver, const PreviewPlace &place)
+    {
+        nextPlace = place;
+        driver.window().previewPlace = [] { return nextPlace; };
+        driver.window().showPage(optionsPage);
+        driver.click(u"btnOptionsPreview"_s);
+        nextPlace.hold.reset();
+        dialog_ = driver.window().findChild<PreviewDialog *>();
+    }
+
+    bool isOpen() const { return dialog_ != nullptr && dialog_->isVisible(); }
+    PreviewDialog &operator*() const { return *dialog_; }
+    /** Waits until it has ended in one way or another. */
+    bool isIdle() const
+    {
+        return QTest::qWaitFor([this] { return dialog_ == nullptr || get<QProgressBar>(u"pgrPreview"_s)->isHidden(); },
+                               patience);
+    }
+    template<typename Widget>
+    Widget *get(const QString &name) const
+    {
+        auto *widget = dialog_->findChild<Widget *>(name);
+        if (widget == nullptr)
+            qFatal("the dialog has no %s", qUtf8Printable(name));
+        return widget;
+    }
+    QString text(const QString &label) const { return get<QLabel>(label)->text(); }
+    QTreeWidget *items() const { return get<QTreeWidget>(u"lstPreview"_s); }
+    void close() const { QTest::mouseClick(get<QPushButton>(u"btnClose"_s), Qt::LeftButton); }
+
+    QStringList groups() const
+    {
+        QStringList titles;
+        for (int i = 0; i < items()->topLevelItemCount(); ++i)
+            titles.append(items()->topLevelItem(i)->text(0));
+        return titles;
+    }
+    /** The row of that text; null where there is none. */
+    QTreeWidgetItem *row(const QString &text) const
+    {
+        return items()->findItems(text, Qt::MatchExactly | Qt::MatchRecursive).value(0);
+    }
+
+private:
+    QPointer<PreviewDialog> dialog_;
+};
+
+/** All columns. */
+QStringList textsOf(const QTreeWidgetItem *row)
+{
+    QStringList texts;
+    for (int column = 0; row != nullptr && column < row->columnCount(); ++column)
+        texts.append(row->text(column));
+    return texts;
+}
+
+QString registryOf(const TestMachine &machine)
+{
+    return writeRegistryScript(machine.machine().registry(), u"HKEY_CURRENT_USER"_s)
+           + writeRegistryScript(machine.machine().registry(), u"HKEY_LOCAL_MACHINE"_s);
+}
+
+} // namespace
+
+class TestPreviewDialog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void changesAreListedAndNothingIsChanged();
+    void searchShowsWhatHasTheText();
+    void whatTheAutomatizerLeavesOutIsLeftOut();
+    void cancelEndsIt();
+    void theEndOfTheDialogEndsIt();
+    void failuresAreTold_data();
+    void failuresAreTold();
+    void whatStandsAgainstItIsTold();
+    void aCaptureComesFirst();
+    void theFolderIsHeldUntilTheDialogIsClosed();
+};
+
+void TestPreviewDialog::changesAreListedAndNothingIsChanged()
+{
+    const PreviewedPc machine;
+    const WindowDriver driver;
+    driver.window().showPage(optionsPage);
+    const QString before = registryOf(machine);
+    const Preview preview(driver, placeOf(machine));
+    QVERIFY(preview.isOpen());
+    QVERIFY(preview.isIdle());
+    QCOMPARE(preview.text(u"lblPreview"_s),
+             u"“Way back…” brings back more than Restore: what was noted before each change."_s);
+    QVERIFY(preview.groups().contains(u"Services"_s));
+    const QTreeWidgetItem *fonts = preview.row(u"Fonts of this PC"_s);
+    QVERIFY(fonts != nullptr);
+    QCOMPARE(textsOf(fonts), (QStringList{u"Fonts of this PC"_s, u"automatic, running"_s, u"disabled, stopped"_s,
+                                          u"automatic, running"_s, u"exactly"_s}));
+    QVERIFY(fonts->childCount() > 0);
+    QVERIFY(preview.row(u"Other"_s) == nullptr);
+    preview.items()->setCurrentItem(preview.row(u"Fonts of this PC"_s));
+    QVERIFY2(preview.text(u"lblExplanation"_s).startsWith(u"FontCache"_s),
+             qPrintable(preview.text(u"lblExplanation"_s)));
+    QVERIFY(preview.text(u"lblCounts"_s).contains(u" come back exactly, "_s));
+    QCOMPARE(registryOf(machine), before);
+    QVERIFY(machine.commands().isEmpty());
+    preview.close();
+    QVERIFY(!preview.isOpen());
+}
+
+void TestPreviewDialog::searchShowsWhatHasTheText()
+{
+    const PreviewedPc machine;
+    const WindowDriver driver;
+    const Preview preview(driver, placeOf(machine));
+    QVERIFY(preview.isIdle());
+    auto *search = preview.get<QLineEdit>(u"edtSearch"_s);
+    QTreeWidgetItem *services = preview.items()->findItems(u"Services"_s, Qt::MatchExactly).value(0);
+    QTreeWidgetItem *options = preview.items()->findItems(u"System options"_s, Qt::MatchExactly).value(0);
+    QVERIFY(services != nullptr && options != nullptr);
+    QTest::keyClicks(search, u"fONTS of"_s);
+    QVERIFY(!services->isHidden());
+    QVERIFY(!preview.row(u"Fonts of this PC"_s)->isHidden());
+    // What belongs to it is there to be opened.
+    QVERIFY(!preview.row(u"Fonts of this PC"_s)->child(0)->isHidden());
+    QVERIFY(options->isHidden());
+    search->clear();
+    QVERIFY(!options->isHidden());
+}
+
+void TestPreviewDialog::whatTheAutomatizerLeavesOutIsLeftOut()
+{
+    const PreviewedPc machine;
+    const WindowDriver driver;
+    const auto optimizedOptions = [&](bool wanted) {
+        driver.get<QCheckBox>(u"chkAutomatizerTweak"_s)->setChecked(wanted);
+        const Preview preview(driver, placeOf(machine));
+        if (!preview.isIdle() || !preview.groups().contains(u"Services"_s))
+            qFatal("there is no preview");
+        const QTreeWidgetItem *options = preview.items()->findItems(u"System options"_s, Qt::MatchExactly).value(0);
+        int count = 0;
+        for (int i = 0; options != nullptr && i < options->childCount(); ++i)
+            count += options->child(i)->text(1) == options->child(i)->text(2) ? 0 : 1;
+        delete &*preview;
+        return count;
+    };
+    const int with = optimizedOptions(true);
+    const int without = optimizedOptions(false);
+    QVERIFY2(without < with, qPrintable(u"%1, %2"_s.arg(without).arg(with)));
+}
+
+/** Whoever cancels sees the dialog go when nothing runs any more. */
+void TestPreviewDialog::cancelEndsIt()
+{
+    const PreviewedPc machine;
+    const WindowDriver driver;
+    const Preview preview(driver, placeOf(machine));
+    QTRY_VERIFY_WITH_TIMEOUT(preview.get<QProgressBar>(u"pgrPreview"_s)->maximum() > 0, patience); // it has begun
+    const auto *process = (*preview).findChild<PreviewRun *>();
+    QSignalSpy ended(process, &PreviewRun::finished);
+    preview.close();
+    QVERIFY(ended.count() == 1 || ended.wait(patience));
+    QTRY_VERIFY(!preview.isOpen());
+}
+
+void TestPreviewDialog::theEndOfTheDialogEndsIt()
+{
+    const PreviewedPc machine;
+    PreviewRun *const run = new PreviewRun(placeOf(machine), nullptr);
+    QSignalSpy begun(run, &PreviewRun::stepped);
+    run->start({});
+    QVERIFY(begun.wait(patience));
+    const auto *process = run->findChild<QProcess *>();
+    QSignalSpy ended(process, &QProcess::finished);
+    delete run;
+    QCOMPARE(ended.count(), 1);
+}
+
+void TestPreviewDialog::failuresAreTold_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QString>("machine");
+    QTest::addColumn<QString>("told");
+    const QString rehearse = QCoreApplication::applicationDirPath() + u"/kestrune-rehearse"_s;
+    QTest::newRow("no program") << rehearse + u"-none"_s << u"/"_s << u"kestrune-rehearse-none"_s;
+    QTest::newRow("no machine") << rehearse << QDir::tempPath() + u"/no such machine"_s << u"no such machine"_s;
+}
+
+void TestPreviewDialog::failuresAreTold()
+{
+    QFETCH(const QString, program);
+    QFETCH(const QString, machine);
+    QFETCH(const QString, told);
+    const PreviewedPc pc;
+    const WindowDriver driver;
+    const Preview preview(driver, {.program = program, .machine = machine});
+    QVERIFY(preview.isIdle());
+    const QString status = preview.text(u"lblPreview"_s);
+    QVERIFY2(status.startsWith(u"There is no preview: "_s) && status.contains(told), qPrintable(status));
+    QVERIFY(preview.isOpen());
+    preview.close();
+    QVERIFY(!preview.isOpen());
+}
+
+void TestPreviewDialog::whatStandsAgainstItIsTold()
+{
+    const PreviewedPc machine;
+    const WindowDriver driver;
+    Boxes boxes({QMessageBox::NoButton});
+    PreviewPlace place;
+    place.failure = u"There is none."_s;
+    const Preview preview(driver, place);
+    QCOMPARE(boxes.shown().size(), 1);
+    QCOMPARE(boxes.shown().first().text, u"There is none."_s);
+    QVERIFY(!preview.isOpen());
+}
+
+/** Here there is no Windows that could be captured, which is told as any failure. */
+void TestPreviewDialog::aCaptureComesFirst()
+{
+    const PreviewedPc machine;
+    const WindowDriver driver;
+    PreviewPlace place = placeOf(machine);
+    place.isCaptured = true;
+    const Preview preview(driver, place);
+    QCOMPARE(preview.text(u"lblPreview"_s), u"Copying this PC…"_s);
+    QVERIFY(preview.isIdle());
+    QCOMPARE(preview.text(u"lblPreview"_s),
+             u"There is no preview: capture reads the Windows that it runs on, and this is none"_s);
+}
+
+void TestPreviewDialog::theFolderIsHeldUntilTheDialogIsClosed()
+{
+    const PreviewedPc machine;
+    const WindowDriver driver;
+    PreviewPlace place = placeOf(machine);
+    place.hold = std::make_shared<int>(0);
+    const std::weak_ptr<void> held = place.hold;
+    const Preview preview(driver, place);
+    place.hold.reset();
+    QVERIFY(preview.isIdle());
+    QVERIFY(!held.expired());
+    preview.close();
+    QTRY_VERIFY(held.expired());
+}
+
+KESTRUNE_WINDOW_SUITE(TestPreviewDialog)
+#include "tst_previewdialog.moc"
