@@ -22,6 +22,12 @@ struct UsageError
     QString message;
 };
 
+/**
+ * What may follow the complaint about a word that is none of the names: lines with the one that was probably meant, and
+ * with all of them after @p all, such as "Commands".
+ */
+QString choicesText(const QString &word, const QString &all, const QStringList &names);
+
 /** The operands and options after a subcommand's name. */
 class Arguments
 {

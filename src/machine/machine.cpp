@@ -5,6 +5,7 @@
 
 #include "console/printable.h"
 #include "database.h"
+#include "folderlock.h"
 #include "machineschema.h"
 #include "platform/processground.h"
 
@@ -58,8 +59,11 @@ void makeFolders(const QString &folder)
 void checkHeader(const QString &path)
 {
     QFile file(path);
+    const QString folder = QFileInfo(path).path();
+    if (!QFileInfo::exists(folder))
+        fail(folder, u"there is no such folder"_s);
     if (!file.exists())
-        fail(QFileInfo(path).path(), u"not a rehearsal machine"_s);
+        fail(folder, u"not a rehearsal machine"_s);
     if (!file.open(QIODevice::ReadOnly))
         fail(path, file.errorString());
     if (file.size() < smallestDatabase || !file.read(16).startsWith("SQLite format 3"))
@@ -251,6 +255,7 @@ bool placeTool(const QFileInfo &stockTool, const QString &place)
 
 Machine::Machine(const QString &folder, std::unique_ptr<Database> database)
     : folder_(folder)
+    , held_(holdFolder(driveFolder()))
     , database_(std::move(database))
     , registry_(*database_)
 {

@@ -208,6 +208,7 @@ private:
     quint32 attributeWord(const QString &path, bool isFolder) const;
 
     QString folder_;
+    std::shared_ptr<void> held_; ///< says that the folder is in use
     std::unique_ptr<Database> database_;
     RegistryStore registry_;
 };

@@ -7,6 +7,8 @@
 #include "work/autorun/autorun.h"
 #include "work/settings.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -35,6 +37,13 @@ QStringList listedNames()
 bool isListed(const QString &name)
 {
     return listedNames().contains(name, Qt::CaseInsensitive);
+}
+
+bool isShownAsRecorded(const QString &name)
+{
+    const QStringList recorded = recordedNames(group);
+    return std::any_of(recorded.cbegin(), recorded.cend(),
+                       [&name](const QString &each) { return areSame(shownAutorun(each), name); });
 }
 
 } // namespace
@@ -69,15 +78,17 @@ void enableAutoruns(WorkThread &, const QStringList &names)
 
 QStringList autorunsNotDisabled(const WorkThread &, const QStringList &names)
 {
-    QStringList records;
-    for (const QString &recorded : recordedNames(group))
-        records.append(shownAutorun(recorded));
     QStringList left;
     for (const QString &name : names) {
-        if (isListed(name) || !records.contains(name, Qt::CaseInsensitive))
+        if (isListed(name) || !isShownAsRecorded(name))
             left.append(name);
     }
     return left;
+}
+
+bool isKnownAutorun(const QString &name)
+{
+    return isListed(name) || isShownAsRecorded(name);
 }
 
 QStringList autorunsNotEnabled(const WorkThread &, const QStringList &names)

@@ -33,6 +33,9 @@ struct JobRow
     void (*record)(const QString &line) = nullptr;
     /** What is printed after the lines. */
     JobResults (*results)(const WorkThread &worker) = nullptr;
+    /** What the operands name, such as "service", and whether there is one of that name. */
+    QLatin1StringView thing{};
+    bool (*isThere)(const QString &operand) = nullptr;
     QLatin1StringView manual{}; ///< in the markup of the manual page, where that says more than the help
 };
 
@@ -95,6 +98,8 @@ void enableAutoruns(WorkThread &worker, const QStringList &names);
 QStringList autorunsNotDisabled(const WorkThread &worker, const QStringList &names);
 /** Names that aren't listed. */
 QStringList autorunsNotEnabled(const WorkThread &worker, const QStringList &names);
+/** Whether an entry of that name starts at logon, or is recorded as one that did. */
+bool isKnownAutorun(const QString &name);
 
 // Which features a job keeps: what the machine's Keep list has stored, and the option --keep on top of it.
 

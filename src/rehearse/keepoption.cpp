@@ -19,8 +19,11 @@ KeepChoice parseEntry(const QString &entry)
     const QString state = entry.section(u'=', 1);
     const auto feature = std::find_if(keepFeatures.begin(), keepFeatures.end(),
                                       [&name](const KeepFeature &each) { return each.name == name; });
-    if (feature == keepFeatures.end() || (state != "0"_L1 && state != "2"_L1))
-        throw UsageError{u"invalid argument '%1' for '--keep'"_s.arg(entry)};
+    if (feature == keepFeatures.end())
+        throw UsageError{u"unknown feature '%1' for '--keep'"_s.arg(name)
+                         + choicesText(name, u"Features"_s, keepNames().split(u", "_s))};
+    if (state != "0"_L1 && state != "2"_L1)
+        throw UsageError{u"invalid state '%1' of '%2' for '--keep': 2 keeps it, 0 gives it up"_s.arg(state, name)};
     return {feature->keep, state.toInt()};
 }
 

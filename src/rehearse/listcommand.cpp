@@ -205,13 +205,11 @@ void listProcesses(Machine &machine, const QString &, bool json)
 void listRegistry(Machine &machine, const QString &path, bool json)
 {
     const RegistryStore &store = machine.registry();
-    const auto key = store.find(path);
-    if (!key)
-        throw Failure{ExitBadArguments, u"there is no key '%1'"_s.arg(path)};
-    const QStringList subkeys = store.subkeys(*key);
+    const KeyId key = requireKey(store, path);
+    const QStringList subkeys = store.subkeys(key);
     QJsonArray values;
     QList<QStringList> rows;
-    for (const RegistryValue &value : store.values(*key)) {
+    for (const RegistryValue &value : store.values(key)) {
         rows.append({valueName(value), typeName(value.type), dataText(value)});
         values.append(
             QJsonObject{{u"name"_s, value.name}, {u"type"_s, typeName(value.type)}, {u"data"_s, dataText(value)}});
@@ -250,8 +248,12 @@ int runList(const Arguments &arguments)
     const QString what = arguments.operand(1);
     const auto row =
         std::find_if(std::begin(lists), std::end(lists), [&](const ListRow &list) { return list.name == what; });
-    if (row == std::end(lists))
-        throw UsageError{u"'%1' can't be listed"_s.arg(what)};
+    if (row == std::end(lists)) {
+        QStringList names;
+        for (const ListRow &list : lists)
+            names.append(list.name);
+        throw UsageError{u"'%1' can't be listed"_s.arg(what) + choicesText(what, u"Lists"_s, names)};
+    }
     if (row->takesKey && arguments.operands().size() < 3)
         throw UsageError{u"missing operand after '%1'"_s.arg(what)};
     if (!row->takesKey && arguments.operands().size() > 2)

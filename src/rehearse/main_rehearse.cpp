@@ -79,7 +79,10 @@ const Subcommand &findSubcommand(const QStringList &words)
     }
     if (words.first().startsWith(u'-'))
         throw UsageError{u"unrecognized option '%1'"_s.arg(words.first())};
-    throw UsageError{u"unknown command '%1'"_s.arg(words.first())};
+    QStringList names;
+    for (const Subcommand *subcommand : allSubcommands())
+        names.append(subcommand->name);
+    throw UsageError{u"unknown command '%1'"_s.arg(words.first()) + choicesText(words.first(), u"Commands"_s, names)};
 }
 
 /** Whether help is asked for, before the words that are no options any more. */

@@ -7,7 +7,13 @@
 #include "journal/programrecords.h"
 #include "progress.h"
 #include "subcommands.h"
+#include "verify/past.h"
 #include "work/windowsname.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -28,7 +34,46 @@ const JobRow &findJob(const Arguments &arguments)
             throw UsageError{u"empty operand for '%1'"_s.arg(name)};
         return row;
     }
-    throw UsageError{u"unknown job '%1'"_s.arg(name)};
+    QStringList names;
+    for (const JobRow &row : jobRows())
+        names.append(row.name);
+    throw UsageError{u"unknown job '%1'"_s.arg(name) + choicesText(name, u"Jobs"_s, names)};
+}
+
+bool isAbout(const ToolRun &run, const QString &operand)
+{
+    return std::any_of(run.arguments.cbegin(), run.arguments.cend(),
+                       [&operand](const QString &argument) { return argument.contains(operand, Qt::CaseInsensitive); });
+}
+
+/** Why a job didn't do what was asked for one of its operands; empty where nobody knows. */
+QString reasonFor(const JobRow &row, const QString &operand, const QList<ToolRun> &runs)
+{
+    constexpr int accessDenied = 5;
+
+    const auto failed = std::find_if(runs.crbegin(), runs.crend(), [&operand](const ToolRun &run) {
+        return run.exitCode != 0 && isAbout(run, operand);
+    });
+    const bool isRefused = failed != runs.crend();
+    const QString code = isRefused ? u" (%1: %2)"_s.arg(failed->program).arg(failed->exitCode) : QString();
+    if (row.isThere != nullptr && !row.isThere(operand))
+        return u"there is no such %1"_s.arg(row.thing) + code;
+    if (isRefused && failed->exitCode == accessDenied)
+        return u"access denied"_s + code;
+    if (isRefused)
+        return u"refused"_s + code;
+    return platform().isElevated() ? QString() : u"administrator rights are needed"_s;
+}
+
+/** The operands that a job left as they were, each with the reason, from the tools that it has run. */
+QString leftUndone(const JobRow &row, const QStringList &left, const QList<ToolRun> &runs)
+{
+    QStringList texts;
+    for (const QString &operand : left) {
+        const QString reason = reasonFor(row, operand, runs);
+        texts.append(reason.isEmpty() ? operand : operand + u": "_s + reason);
+    }
+    return texts.join("; "_L1);
 }
 
 double parsePace(const Arguments &arguments)
@@ -115,20 +160,29 @@ void runRow(WorkThread &worker, const JobRow &row, const Arguments &arguments)
         runOrdinaryJob(worker, row, printer);
 }
 
+bool isWritable(const QString &folder)
+{
+    return QFileInfo(folder).isWritable() && QFileInfo(folder + u"/machine.sqlite"_s).isWritable();
+}
+
 int runJob(const Arguments &arguments)
 {
     const JobRow &row = findJob(arguments);
     const QStringList operands = arguments.operands().mid(2);
-    if (row.job == jobTweak)
-        parseTweak(operands); // before anything is opened
+    if (row.job == jobTweak && parseTweak(operands).job() && !automatizerChoice(arguments).walk)
+        throw UsageError{
+            u"'%1' walks over all files of the partition: say --yes to that"_s.arg(operands.first(2).join(u' '))};
     MachineOptions machineOptions;
     machineOptions.elevated = !arguments.has("not-elevated"_L1);
     machineOptions.pace = parsePace(arguments);
     const QList<KeepChoice> keep = parseKeep(arguments.value("keep"_L1));
 
     const QString folder = openMachine(arguments.operand(0))->folder();
+    if (!isWritable(folder))
+        throw Failure{ExitJobFailed, u"%1: the machine is read-only"_s.arg(QDir::toNativeSeparators(folder))};
     setPlatform(openMachinePlatform(folder, machineOptions));
     settleBrokenOff();
+    const qsizetype earlierRuns = readToolLog(machineInForce()).size();
     WorkThread worker;
     applyKeep(worker, keep);
     setWindowsName(worker);
@@ -140,7 +194,9 @@ int runJob(const Arguments &arguments)
         throw Failure{ExitJobFailed, u"not everything was done: "_s + failure};
     if (row.unreached != nullptr) {
         if (const QStringList left = row.unreached(worker, operands); !left.isEmpty())
-            throw Failure{ExitJobFailed, u"%1 failed for %2"_s.arg(row.name, left.join(", "_L1))};
+            throw Failure{ExitJobFailed,
+                          u"%1 failed for %2"_s.arg(
+                              row.name, leftUndone(row, left, readToolLog(machineInForce()).mid(earlierRuns)))};
     }
     return ExitDone;
 }

@@ -78,6 +78,18 @@ std::unique_ptr<Machine> openMachine(const QString &folder)
     }
 }
 
+qint64 requireKey(const RegistryStore &store, const QString &path)
+{
+    if (!RegistryStore::isHivePath(path))
+        throw Failure{
+            ExitBadArguments,
+            u"'%1' has no root: a key begins with HKLM, HKCU, HKCR or HKU, such as HKCU\\Software"_s.arg(path)};
+    const std::optional<qint64> key = store.find(path);
+    if (!key)
+        throw Failure{ExitBadArguments, u"there is no key '%1'"_s.arg(path)};
+    return *key;
+}
+
 QString absoluteFolder(const QString &folder)
 {
     return QDir::cleanPath(absolutePath(folder));

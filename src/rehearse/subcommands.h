@@ -8,6 +8,7 @@
 #include <memory>
 
 class Machine;
+class RegistryStore;
 class QProcess;
 
 enum ExitCode : int { ExitDone = 0, ExitJobFailed = 1, ExitBadArguments = 2, ExitMachineUnreadable = 3 };
@@ -51,6 +52,8 @@ extern const Subcommand undoSubcommand;
 
 /** Opens a machine; a Failure of code 3 where that can't be done. */
 std::unique_ptr<Machine> openMachine(const QString &folder);
+/** The key of that path; a Failure of code 2 where there is none, or the path names no root. */
+qint64 requireKey(const RegistryStore &store, const QString &path);
 /** The folder as an absolute path, since other processes are told of it. */
 QString absoluteFolder(const QString &folder);
 

@@ -23,8 +23,7 @@ int runExport(const Arguments &arguments)
 {
     const std::unique_ptr<Machine> machine = openMachine(arguments.operand(0));
     const QString key = arguments.operand(1);
-    if (!machine->registry().find(key))
-        throw Failure{ExitBadArguments, u"there is no key '%1'"_s.arg(key)};
+    requireKey(machine->registry(), key);
     print(writeRegistryScript(machine->registry(), key));
     return ExitDone;
 }

@@ -44,10 +44,12 @@ TweakRequest parseTweak(const QStringList &operands)
     const auto group = std::find_if(std::begin(groups), std::end(groups),
                                     [&operands](const GroupRow &row) { return row.name == operands.at(0); });
     if (group == std::end(groups))
-        throw UsageError{u"unknown group of tweaks '%1'"_s.arg(operands.at(0))};
+        throw UsageError{u"unknown group of tweaks '%1'"_s.arg(operands.at(0))
+                         + choicesText(operands.at(0), u"Groups"_s, {u"ssd"_s, u"gaming"_s, u"windows"_s})};
     const quint32 id = operands.at(1).toUInt();
     if (id == 0 || id > group->lastId || id == group->noId)
-        throw UsageError{u"there is no tweak '%1' in %2"_s.arg(operands.at(1), operands.at(0))};
+        throw UsageError{
+            u"there is no tweak '%1' in %2; 'run --help' lists them"_s.arg(operands.at(1), operands.at(0))};
     const QString state = operands.at(2);
     if (state != "on"_L1 && state != "off"_L1)
         throw UsageError{u"'%1' is neither on nor off"_s.arg(state)};

@@ -14,6 +14,8 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -40,9 +42,21 @@ QProcessEnvironment windowEnvironment(const QString &machine, bool elevated)
     return environment;
 }
 
+/** Whether a window can be shown. */
+bool hasDisplay()
+{
+    if (QStringLiteral(KESTRUNE_PICTURE_PLATFORM) == "windows"_L1)
+        return true;
+    const char *const names[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    return std::any_of(std::begin(names), std::end(names),
+                       [](const char *name) { return !qEnvironmentVariableIsEmpty(name); });
+}
+
 int runGui(const Arguments &arguments)
 {
     const QString folder = openMachine(arguments.operand(0))->folder();
+    if (!hasDisplay())
+        throw Failure{ExitJobFailed, u"there is no display to open the window on; 'tour' takes pictures without one"_s};
     const QString program = windowProgram();
     QProcess window;
     window.setProcessEnvironment(windowEnvironment(folder, !arguments.has("not-elevated"_L1)));

@@ -50,6 +50,12 @@ bool writes(const ToolRun &run, const DiffRow &row)
            && run.arguments.contains("-h"_L1);
 }
 
+/** Whether Optimize records the tweak also where it leaves it out. */
+bool isRecordedWithoutARun(const TweakBox &box)
+{
+    return box.optimize != When::Always && (box.record == When::Always || box.inOptimize != nullptr);
+}
+
 /** The exit code of the last run that was to write it, where there was one and it failed. */
 std::optional<ToolRun> refusal(const QList<ToolRun> &runs, const DiffRow &row)
 {
@@ -127,6 +133,8 @@ QList<VerifiedItem> verifyTweaks(Machine &before, Machine &now, Machine &again)
         VerifiedItem item{PreviewGroup::Tweaks, box.name, tweakWords(box.name).title};
         for (const DiffRow &row : rowsOf.value(box.name))
             judgement.judge(item, row);
+        if (item.verdict == Verdict::AsBefore && isRecordedWithoutARun(box))
+            item.why = u"recorded by Optimize, which doesn't apply it on this PC"_s;
         items.append(item);
     }
     return items;

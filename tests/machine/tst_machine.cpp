@@ -219,7 +219,7 @@ void TestMachine::openRefuses()
     QVERIFY2(problem.contains(reason), qUtf8Printable(problem));
     QVERIFY2(problem.contains(u"machine.sqlite"_s) && !problem.contains(u'\n'), qUtf8Printable(problem));
     QCOMPARE(contents(folder()), before);
-    QVERIFY(problemOfOpening(temporary_->filePath(u"nowhere"_s)).contains(u"not a rehearsal machine"_s));
+    QVERIFY(problemOfOpening(temporary_->filePath(u"nowhere"_s)).contains(u"there is no such folder"_s));
     QVERIFY(!QFileInfo::exists(temporary_->filePath(u"nowhere"_s)));
     QVERIFY(problemOfOpening(temporary_->path()).contains(u"not a rehearsal machine"_s));
     QVERIFY(!QFileInfo::exists(temporary_->filePath(u"machine.sqlite"_s)));

@@ -331,8 +331,8 @@ void TestMachineDiff::textIsInColumns()
         {DiffKind::Registry, u"HKEY_USERS"_s, u"x"_s, u"dword 2"_s, {}},
     };
     QCOMPARE(diffText(rows), u"service   DiagTrack  running -> stopped\n"
-                             "registry  HKEY_CURRENT_USER\\Long\\Name  (none) -> dword 1\n"
-                             "registry  HKEY_USERS\\x                 dword 2 -> (none)\n"_s);
+                             "registry  HKEY_CURRENT_USER\\Long\\Name  not there -> dword 1\n"
+                             "registry  HKEY_USERS\\x                 dword 2 -> not there\n"_s);
 }
 
 void TestMachineDiff::jsonHoldsEachRow()

@@ -113,6 +113,11 @@ private Q_SLOTS:
     void controlCharactersAreShownEscaped();
     void readingChangesNothing();
     void runServices();
+    void runListsWhatIsThere();
+    void aKeyHasARoot();
+    void aFolderThatIsNotThere();
+    void aReadOnlyMachineIsToldBeforeTheJob();
+    void aMachineInUseIsNotReplaced();
     void runDisablesOnWindows11();
     void runDisablesOnWindows10();
     void runEnablesAgain();
@@ -135,6 +140,7 @@ private Q_SLOTS:
     void relativeOperandsMeanTheFolderOfTheStart();
     void diffAsJsonAndPage();
     void guiStartsTheWindowOnTheMachine();
+    void guiWithoutADisplay();
     void guiWithoutTheProgram();
     void pipesGetNoProgress();
     void outputThatCantBeWrittenIsAFailure();
@@ -210,7 +216,8 @@ void TestRehearse::badArgumentsAreToldInOneManner_data()
     addColumns<QString, QString>("arguments", "message");
     // clang-format off
     QTest::newRow("nothing")            << "" << "missing command";
-    QTest::newRow("command")            << "frobnicate" << "unknown command 'frobnicate'";
+    QTest::newRow("command")            << "frobnicate" << "unknown command 'frobnicate'\nCommands: new, capture, list, run, undo, preview, verify, diff, gui, tour, export, import";
+    QTest::newRow("misspelt command")   << "preveiw" << "unknown command 'preveiw'\nDid you mean 'preview'?\nCommands: new, capture, list, run, undo, preview, verify, diff, gui, tour, export, import";
     QTest::newRow("option first")       << "--frob" << "unrecognized option '--frob'";
     QTest::newRow("option")             << "new|m|--frob" << "unrecognized option '--frob'";
     QTest::newRow("short option")       << "new|m|-f" << "invalid option -- 'f'";
@@ -219,16 +226,20 @@ void TestRehearse::badArgumentsAreToldInOneManner_data()
     QTest::newRow("no operand")         << "new" << "missing operand";
     QTest::newRow("few operands")       << "diff|A" << "missing operand after 'A'";
     QTest::newRow("many operands")      << "diff|A|B|C" << "extra operand 'C'";
-    QTest::newRow("what to list")       << "list|A|toys" << "'toys' can't be listed";
+    QTest::newRow("what to list")       << "list|A|toys" << "'toys' can't be listed\nLists: services, tasks, packages, autorun, processes, registry";
+    QTest::newRow("misspelt list")      << "list|A|service" << "'service' can't be listed\nDid you mean 'services'?\nLists: services, tasks, packages, autorun, processes, registry";
     QTest::newRow("key to list")        << "list|A|registry" << "missing operand after 'registry'";
     QTest::newRow("too much to list")   << "list|A|services|x" << "extra operand 'x'";
-    QTest::newRow("job")                << "run|A|dance" << "unknown job 'dance'";
+    QTest::newRow("job")                << "run|A|dance" << "unknown job 'dance'\nJobs: services, svc-disable, svc-enable, tasks, task-disable, task-enable, packages, package-uninstall, package-install, autorun, autorun-disable, autorun-enable, tweak, analyze, optimize, restore, winsxs, sysinfo, monitor";
+    QTest::newRow("misspelt job")       << "run|A|optimise" << "unknown job 'optimise'\nDid you mean 'optimize'?\nJobs: services, svc-disable, svc-enable, tasks, task-disable, task-enable, packages, package-uninstall, package-install, autorun, autorun-disable, autorun-enable, tweak, analyze, optimize, restore, winsxs, sysinfo, monitor";
     QTest::newRow("job's operand")      << "run|A|svc-disable" << "missing operand after 'svc-disable'";
     QTest::newRow("job's operands")     << "run|A|services|x" << "extra operand 'x'";
     QTest::newRow("pace")               << "run|A|services|--pace|fast" << "invalid argument 'fast' for '--pace'";
     QTest::newRow("negative pace")      << "run|A|services|--pace=-1" << "invalid argument '-1' for '--pace'";
-    QTest::newRow("feature")            << "run|A|services|--keep|cat=0" << "invalid argument 'cat=0' for '--keep'";
-    QTest::newRow("feature's state")    << "run|A|services|--keep|nfc=0,upnp=1" << "invalid argument 'upnp=1' for '--keep'";
+    QTest::newRow("feature")            << "run|A|services|--keep|cat=0" << "unknown feature 'cat' for '--keep'\nFeatures: printer, bluetooth-audio, files-sharing, xbox-app, upnp, proxy-vpn, nfc, xbox-game-bar, codecs";
+    QTest::newRow("misspelt feature")   << "run|A|services|--keep|nfcc=0" << "unknown feature 'nfcc' for '--keep'\nDid you mean 'nfc'?\nFeatures: printer, bluetooth-audio, files-sharing, xbox-app, upnp, proxy-vpn, nfc, xbox-game-bar, codecs";
+    QTest::newRow("walk")               << "run|A|tweak|ssd|8|on" << "'ssd 8' walks over all files of the partition: say --yes to that";
+    QTest::newRow("feature's state")    << "run|A|services|--keep|nfc=0,upnp=1" << "invalid state '1' of 'upnp' for '--keep': 2 keeps it, 0 gives it up";
     QTest::newRow("two forms")          << "diff|A|B|--json|--html|x" << "--json and --html can't be given together";
     // clang-format on
 }
@@ -405,10 +416,73 @@ void TestRehearse::runServices()
     const Workplace work;
     const Ended ended = rehearse({u"run"_s, work.b, u"services"_s});
     QCOMPARE(ended.exitCode, done);
-    QCOMPARE(ended.output, QByteArray("valueChanged\tWorkThread::SvcMakeList\n"));
+    QVERIFY(ended.output.startsWith("valueChanged\tWorkThread::SvcMakeList\nservice\t"));
+    QVERIFY2(ended.output.contains("\nservice\tDiagTrack (running, automatic): "), ended.output.constData());
     const QByteArray difference = work.difference();
     QCOMPARE(difference.count('\n'), 1);
-    QVERIFY(difference.startsWith("file      program\\backup_svc\\StartMode.reg  (none) -> "));
+    QVERIFY(difference.startsWith("file      program\\backup_svc\\StartMode.reg  not there -> "));
+}
+
+void TestRehearse::runListsWhatIsThere()
+{
+    const QTemporaryDir folder;
+    const QString machine = folder.filePath(u"pc"_s);
+    QCOMPARE(rehearse({u"new"_s, machine, u"--from"_s, u"windows11"_s}).exitCode, done);
+    const QByteArray tasks = rehearse({u"run"_s, machine, u"tasks"_s}).output;
+    QVERIFY2(tasks.contains("\ntask\tMicrosoft\\\\Windows\\\\Defrag\\\\ScheduledDefrag (enabled): ")
+                 || tasks.contains("\ntask\tMicrosoft\\Windows\\Defrag\\ScheduledDefrag (enabled): "),
+             tasks.constData());
+    const QByteArray packages = rehearse({u"run"_s, machine, u"packages"_s, u"--json"_s}).output;
+    QVERIFY2(packages.contains("{\"name\":\"package\",\"text\":\"Microsoft.BingNews: "), packages.constData());
+}
+
+void TestRehearse::aKeyHasARoot()
+{
+    const Workplace work;
+    for (const QStringList &command :
+         {QStringList{u"list"_s, work.a, u"registry"_s}, QStringList{u"export"_s, work.a}}) {
+        const Ended ended = rehearse(command + QStringList{u"Software\\Types"_s});
+        QCOMPARE(ended.exitCode, badArguments);
+        QCOMPARE(ended.errors, QByteArray("kestrune-rehearse: 'Software\\Types' has no root: a key begins with HKLM, "
+                                          "HKCU, HKCR or HKU, such as HKCU\\Software\n"));
+    }
+}
+
+void TestRehearse::aFolderThatIsNotThere()
+{
+    const QTemporaryDir folder;
+    const Ended ended = rehearse({u"run"_s, folder.filePath(u"nowhere"_s), u"services"_s});
+    QCOMPARE(ended.exitCode, machineUnreadable);
+    QCOMPARE(ended.errors,
+             "kestrune-rehearse: " + folder.filePath(u"nowhere"_s).toUtf8() + ": there is no such folder\n");
+}
+
+void TestRehearse::aReadOnlyMachineIsToldBeforeTheJob()
+{
+    const Workplace work;
+    QVERIFY(QFile(work.b + u"/machine.sqlite"_s).setPermissions(QFile::ReadOwner));
+    if (QFileInfo(work.b + u"/machine.sqlite"_s).isWritable())
+        QSKIP("this user may write into read-only files");
+    const Ended ended = rehearse({u"run"_s, work.b, u"services"_s});
+    QCOMPARE(ended.exitCode, jobFailed);
+    QCOMPARE(ended.output, QByteArray());
+    QCOMPARE(ended.errors, "kestrune-rehearse: " + work.b.toUtf8() + ": the machine is read-only\n");
+}
+
+/** It would go on working on a machine that nobody finds any more. */
+void TestRehearse::aMachineInUseIsNotReplaced()
+{
+    const Workplace work;
+    {
+        const std::unique_ptr<Machine> opened = Machine::open(work.b);
+        opened->setName(u"in use"_s);
+        const Ended ended = rehearse({u"new"_s, work.b, u"--force"_s});
+        QCOMPARE(ended.exitCode, jobFailed);
+        QVERIFY2(ended.errors.startsWith("kestrune-rehearse: " + work.b.toUtf8() + ": "), ended.errors.constData());
+        QCOMPARE(Machine::open(work.b)->name(), u"in use"_s);
+    }
+    QCOMPARE(work.others(), QStringList());
+    QCOMPARE(rehearse({u"new"_s, work.b, u"--force"_s}).exitCode, done);
 }
 
 void TestRehearse::runDisablesOnWindows11()
@@ -423,7 +497,7 @@ void TestRehearse::runDisablesOnWindows11()
     const QList<QByteArray> rows = work.difference().split('\n');
     QCOMPARE(rows.size(), 4);
     QCOMPARE(rows.at(0), QByteArray("service   DiagTrack  running -> stopped"));
-    QVERIFY(rows.at(1).simplified().endsWith("\\SVC\\DiagTrack (none) -> dword 1"));
+    QVERIFY(rows.at(1).simplified().endsWith("\\SVC\\DiagTrack not there -> dword 1"));
     QVERIFY(rows.at(2).simplified().endsWith("\\Services\\DiagTrack\\Start dword 2 -> dword 4"));
 }
 
@@ -525,11 +599,16 @@ void TestRehearse::runReportsServicesThatFailed_data()
 {
     addColumns<QStringList, QByteArray>("arguments", "message");
     QTest::newRow("no such service") << QStringList{u"svc-disable"_s, u"Nope"_s, u"DiagTrack"_s}
-                                     << QByteArray("svc-disable failed for Nope");
+                                     << QByteArray("svc-disable failed for Nope: there is no such service (sc: 1060)");
     QTest::newRow("not elevated") << QStringList{u"svc-disable"_s, u"DiagTrack"_s, u"--not-elevated"_s}
-                                  << QByteArray("svc-disable failed for DiagTrack");
-    QTest::newRow("enable, not elevated")
-        << QStringList{u"svc-enable"_s, u"Off"_s, u"--not-elevated"_s} << QByteArray("svc-enable failed for Off");
+                                  << QByteArray("svc-disable failed for DiagTrack: access denied (sc: 5)");
+    QTest::newRow("enable, not elevated") << QStringList{u"svc-enable"_s, u"Off"_s, u"--not-elevated"_s}
+                                          << QByteArray("svc-enable failed for Off: access denied (sc: 5)");
+    QTest::newRow("no such task") << QStringList{u"task-disable"_s, u"\\Nope"_s}
+                                  << QByteArray("task-disable failed for \\Nope: there is no such scheduled task");
+    QTest::newRow("no such program") << QStringList{u"autorun-disable"_s, u"Nope"_s}
+                                     << QByteArray(
+                                            "autorun-disable failed for Nope: there is no such program at logon");
 }
 
 void TestRehearse::runReportsServicesThatFailed()
@@ -540,7 +619,8 @@ void TestRehearse::runReportsServicesThatFailed()
     const Ended ended = rehearse(QStringList{u"run"_s, work.b} + arguments);
     QCOMPARE(ended.exitCode, jobFailed);
     QCOMPARE(ended.errors, "kestrune-rehearse: " + message + '\n');
-    QVERIFY(ended.output.endsWith("valueChanged\tpgr:SvcStopOrStart=finished\n"));
+    if (message.startsWith("svc"))
+        QVERIFY(ended.output.endsWith("valueChanged\tpgr:SvcStopOrStart=finished\n"));
 }
 
 void TestRehearse::runReportsAServiceThatWasRefused()
@@ -551,7 +631,7 @@ void TestRehearse::runReportsAServiceThatWasRefused()
     Machine::open(work.b)->setFault(command, {.exitCode = refused});
     const Ended ended = rehearse({u"run"_s, work.b, u"svc-enable"_s, u"DiagTrack"_s, u"RpcSs"_s});
     QCOMPARE(ended.exitCode, jobFailed);
-    QCOMPARE(ended.errors, "kestrune-rehearse: svc-enable failed for DiagTrack\n");
+    QCOMPARE(ended.errors, "kestrune-rehearse: svc-enable failed for DiagTrack: refused (sc: 1053)\n");
     Machine::open(work.b)->clearFault(command);
     // One that runs already is as it was asked to be.
     QCOMPARE(rehearse({u"run"_s, work.b, u"svc-enable"_s, u"DiagTrack"_s}).exitCode, done);
@@ -574,7 +654,8 @@ void TestRehearse::runReportsAServiceThatDoesNotExistOnWindows10()
     QCOMPARE(rehearse({u"new"_s, machine, u"--from"_s, u"windows10"_s}).exitCode, done);
     const Ended ended = rehearse({u"run"_s, machine, job, u"Nope"_s});
     QCOMPARE(ended.exitCode, jobFailed);
-    QCOMPARE(ended.errors, QByteArray("kestrune-rehearse: " + job.toUtf8() + " failed for Nope\n"));
+    QCOMPARE(ended.errors,
+             QByteArray("kestrune-rehearse: " + job.toUtf8() + " failed for Nope: there is no such service\n"));
     // The job itself asks nobody: it writes the start mode.
     const QByteArray key = rehearse({u"list"_s, machine, u"registry"_s,
                                      u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\Nope"_s})
@@ -705,6 +786,25 @@ void TestRehearse::guiStartsTheWindowOnTheMachine()
     QCOMPARE(ended.output.trimmed(), work.a.toUtf8() + " 1");
     QCOMPARE(runProgram(rehearseCopy, {u"gui"_s, u"--not-elevated"_s, work.a}).output.trimmed(),
              work.a.toUtf8() + " 0");
+}
+
+void TestRehearse::guiWithoutADisplay()
+{
+#ifdef Q_OS_WIN
+    QSKIP("Windows always has a display");
+#endif
+    const Workplace work;
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(QLatin1StringView(name));
+    process.setProcessEnvironment(environment);
+    process.start(builtProgram(u"kestrune-rehearse"_s), {u"gui"_s, work.a});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), jobFailed);
+    QCOMPARE(process.readAllStandardError(),
+             QByteArray(
+                 "kestrune-rehearse: there is no display to open the window on; 'tour' takes pictures without one\n"));
 }
 
 void TestRehearse::guiWithoutTheProgram()

@@ -137,12 +137,12 @@ void TestRehearseSoftware::tasksJob()
     const Workplace work(u"windows11"_s);
     const Ended ended = work.run({u"tasks"_s});
     QCOMPARE(ended.exitCode, done);
-    QCOMPARE(ended.output, QByteArray("valueChanged\tWorkThread::TaskMakeList\n"));
+    QVERIFY(ended.output.startsWith("valueChanged\tWorkThread::TaskMakeList\ntask\t"));
     // The export and its backup, and nothing else.
     const QList<QByteArray> differences = work.differences();
     QCOMPARE(differences.size(), 2);
-    QVERIFY(hasLine(differences, "file C:\\Users\\Alex\\AppData\\Local\\Temp\\tasks.xml (none) -> "));
-    QVERIFY(hasLine(differences, "file program\\backup_tasks\\tasks.xml (none) -> "));
+    QVERIFY(hasLine(differences, "file C:\\Users\\Alex\\AppData\\Local\\Temp\\tasks.xml not there -> "));
+    QVERIFY(hasLine(differences, "file program\\backup_tasks\\tasks.xml not there -> "));
 }
 
 void TestRehearseSoftware::tasksJobWithoutTheTool()
@@ -170,23 +170,26 @@ void TestRehearseSoftware::taskDisableAndEnable()
     QCOMPARE(differences.size(), 4);
     QVERIFY(hasLine(differences, "task " + defrag.toUtf8() + " enabled -> disabled"));
     QVERIFY(hasLine(differences, "task \\" + other.toUtf8() + " enabled -> disabled"));
-    QVERIFY(
-        hasLine(differences, "registry " + taskGroup + "Microsoft/Windows/Defrag/ScheduledDefrag (none) -> dword 1"));
+    QVERIFY(hasLine(differences,
+                    "registry " + taskGroup + "Microsoft/Windows/Defrag/ScheduledDefrag not there -> dword 1"));
 
     QCOMPARE(work.run({u"task-enable"_s, defrag, other}).exitCode, done);
     differences = work.differences();
     QCOMPARE(differences.size(), 2);
-    QVERIFY(
-        hasLine(differences, "registry " + taskGroup + "Microsoft/Windows/Defrag/ScheduledDefrag (none) -> dword 0"));
+    QVERIFY(hasLine(differences,
+                    "registry " + taskGroup + "Microsoft/Windows/Defrag/ScheduledDefrag not there -> dword 0"));
 }
 
 void TestRehearseSoftware::taskReportsWhatFailed_data()
 {
     addColumns<QStringList, QByteArray>("arguments", "errors");
-    QTest::newRow("no such task") << QStringList{u"task-disable"_s, u"none"_s, defrag}
-                                  << QByteArray("kestrune-rehearse: task-disable failed for none\n");
+    QTest::newRow("no such task")
+        << QStringList{u"task-disable"_s, u"none"_s, defrag}
+        << QByteArray(
+               "kestrune-rehearse: task-disable failed for none: there is no such scheduled task (schtasks: 1)\n");
     QTest::newRow("not elevated") << QStringList{u"--not-elevated"_s, u"task-enable"_s, defrag}
-                                  << QByteArray("kestrune-rehearse: task-enable failed for " + defrag.toUtf8() + "\n");
+                                  << QByteArray("kestrune-rehearse: task-enable failed for " + defrag.toUtf8()
+                                                + ": administrator rights are needed\n");
 }
 
 void TestRehearseSoftware::taskReportsWhatFailed()
@@ -204,7 +207,7 @@ void TestRehearseSoftware::packagesJob()
     const Workplace work(u"windows10"_s);
     const Ended ended = work.run({u"packages"_s});
     QCOMPARE(ended.exitCode, done);
-    QCOMPARE(ended.output, QByteArray("valueChanged\tWorkThread::PackageGetList\n"));
+    QVERIFY(ended.output.startsWith("valueChanged\tWorkThread::PackageGetList\npackage\t"));
     QCOMPARE(work.differences(), QList<QByteArray>());
 }
 
@@ -226,8 +229,8 @@ void TestRehearseSoftware::packageUninstallAndInstall()
                                       "valueChanged\t   Uninstall   package: MS OneDrive: done\n"
                                       "valueChanged\t   Uninstall   packages finished  \n"));
     const QList<QByteArray> differences = work.differences();
-    QVERIFY(hasLine(differences, "registry " + packageGroup + "Microsoft.WindowsCalculator (none) -> dword 1"));
-    QVERIFY(hasLine(differences, "registry " + packageGroup + "MS OneDrive (none) -> dword 1"));
+    QVERIFY(hasLine(differences, "registry " + packageGroup + "Microsoft.WindowsCalculator not there -> dword 1"));
+    QVERIFY(hasLine(differences, "registry " + packageGroup + "MS OneDrive not there -> dword 1"));
     // Two full names of three values, five values of OneDrive and its start, its file, and the records.
     QCOMPARE(differences.size(), 6 + 6 + 1 + 2);
 
@@ -235,7 +238,7 @@ void TestRehearseSoftware::packageUninstallAndInstall()
     QCOMPARE(ended.exitCode, done);
     QVERIFY(ended.output.endsWith("valueChanged\t   Install   packages finished  \n"));
     QCOMPARE(work.differences(), QList<QByteArray>({"registry HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale\\"
-                                                    "Packages (none) -> key"}));
+                                                    "Packages not there -> key"}));
 }
 
 void TestRehearseSoftware::packageReportsWhatFailed()
@@ -247,7 +250,8 @@ void TestRehearseSoftware::packageReportsWhatFailed()
     Ended ended = work.run({u"package-uninstall"_s, u"Microsoft.Todos"_s});
     QCOMPARE(ended.exitCode, jobFailed);
     QVERIFY(ended.output.contains("package: Microsoft.Todos: error\n"));
-    QCOMPARE(ended.errors, QByteArray("kestrune-rehearse: package-uninstall failed for Microsoft.Todos\n"));
+    QCOMPARE(ended.errors,
+             QByteArray("kestrune-rehearse: package-uninstall failed for Microsoft.Todos: refused (powershell: 1)\n"));
     QCOMPARE(work.differences(), QList<QByteArray>());
 
     Machine::open(work.b)->clearFault(u"powershell"_s);
@@ -279,12 +283,12 @@ void TestRehearseSoftware::autorunDisableAndEnable()
     QVERIFY(ended.output.startsWith("autorun\tHKEY_CURRENT_USER\\"));
     QVERIFY(!ended.output.contains("Steam") && !ended.output.contains("StartTerminalOnLoginTask"));
     const QList<QByteArray> differences = work.differences();
-    const QByteArray backup = "file program\\backup_autorun\\Run.reg (none) -> 346 bytes";
+    const QByteArray backup = "file program\\backup_autorun\\Run.reg not there -> 346 bytes";
     QCOMPARE(differences.size(), 5);
     QVERIFY(hasLine(differences, backup));
     QVERIFY(
         hasLine(differences, "registry " + autorunGroup
-                                 + "Steam (none) -> \"\"C:\\Program Files (x86)\\Steam\\steam.exe\" -silent="
+                                 + "Steam not there -> \"\"C:\\Program Files (x86)\\Steam\\steam.exe\" -silent="
                                    "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run\\Steam\""));
 
     ended = work.run(QStringList{u"autorun-enable"_s} + names);
@@ -292,7 +296,7 @@ void TestRehearseSoftware::autorunDisableAndEnable()
     QVERIFY(ended.output.contains("\\Run\\Steam=\"C:\\Program Files (x86)\\Steam\\steam.exe\" -silent\n"));
     QCOMPARE(work.differences(),
              QList<QByteArray>(
-                 {"registry HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale\\Autorun (none) -> key", backup}));
+                 {"registry HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale\\Autorun not there -> key", backup}));
 }
 
 void TestRehearseSoftware::autorunRecordsAnEmptyCommandAsThePageDoes()
@@ -302,7 +306,8 @@ void TestRehearseSoftware::autorunRecordsAnEmptyCommandAsThePageDoes()
     setText(*Machine::open(work.b), run, u"Empty"_s, QString());
     QCOMPARE(work.run({u"autorun-disable"_s, u"Empty"_s}).exitCode, done);
     const QByteArray path = (run + u"\\Empty"_s).toUtf8();
-    QVERIFY(hasLine(work.differences(), "registry " + autorunGroup + "Empty (none) -> \"" + path + '=' + path + '"'));
+    QVERIFY(
+        hasLine(work.differences(), "registry " + autorunGroup + "Empty not there -> \"" + path + '=' + path + '"'));
 }
 
 void TestRehearseSoftware::autorunReportsWhatFailed_data()
@@ -323,7 +328,8 @@ void TestRehearseSoftware::autorunReportsWhatFailed()
     QCOMPARE(work.run({u"autorun-disable"_s, name}).exitCode, done);
     Ended ended = work.run({u"autorun-disable"_s, u"None"_s});
     QCOMPARE(ended.exitCode, jobFailed);
-    QCOMPARE(ended.errors, QByteArray("kestrune-rehearse: autorun-disable failed for None\n"));
+    QCOMPARE(ended.errors,
+             QByteArray("kestrune-rehearse: autorun-disable failed for None: there is no such program at logon\n"));
     ended = work.run({u"autorun-enable"_s, name});
     QCOMPARE(ended.exitCode, jobFailed);
     QCOMPARE(ended.errors, second);
@@ -358,12 +364,12 @@ void TestRehearseSoftware::tweakJob()
 void TestRehearseSoftware::tweakOfTheWalkIsAJob()
 {
     const Workplace work(u"windows11"_s);
-    const Ended on = work.run({u"tweak"_s, u"ssd"_s, u"8"_s, u"on"_s});
+    const Ended on = work.run({u"tweak"_s, u"ssd"_s, u"8"_s, u"on"_s, u"--yes"_s});
     QCOMPARE(on.exitCode, done);
     QCOMPARE(on.output, QByteArray("valueChanged\tWorkThread::TweakSSD::RemoveIndexedAttrib\ntweak\tssd 8 on\n"));
     QVERIFY(hasLine(work.differences(), "attribute C:\\Windows\\explorer.exe archive -> archive not-indexed"));
     QVERIFY(!hasLine(work.differences(), "attribute C:\\hiberfil.sys"));
-    QCOMPARE(work.run({u"tweak"_s, u"ssd"_s, u"8"_s, u"off"_s}).exitCode, done);
+    QCOMPARE(work.run({u"tweak"_s, u"ssd"_s, u"8"_s, u"off"_s, u"--yes"_s}).exitCode, done);
     QCOMPARE(work.differences(), QList<QByteArray>());
 }
 

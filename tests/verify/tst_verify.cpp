@@ -198,6 +198,8 @@ void TestVerify::optimizedPcIsInForceButForWhatIsOnlyRecorded()
 
     const QJsonObject json = later.verified();
     QCOMPARE(namesOf(json, u"as-before"_s), onlyRecorded);
+    const QByteArray text = rehearse({u"verify"_s, later.before->folder(), later.folder()}).output;
+    QCOMPARE(text.count(" -- recorded by Optimize, which doesn't apply it on this PC\n"), onlyRecorded.size());
     QCOMPARE(namesOf(json, u"refused"_s), QStringList());
     QCOMPARE(namesOf(json, u"changed-back"_s), QStringList());
     QCOMPARE(namesOf(json, u"gone"_s), QStringList());

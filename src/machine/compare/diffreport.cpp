@@ -40,7 +40,7 @@ constexpr KindRow kindRows[] = {
 
 QString shown(const QString &side)
 {
-    return side.isEmpty() ? u"(none)"_s : side;
+    return side.isEmpty() ? u"not there"_s : side;
 }
 
 QString cell(const QString &side, QLatin1StringView style)

@@ -3,9 +3,9 @@
 
 #include "machineplatform.h"
 
-#include "folderlock.h"
 #include "folderwalk.h"
 #include "machine/environment.h"
+#include "machine/folderlock.h"
 #include "machine/machineerror.h"
 #include "machine/machinekey.h"
 #include "platform/filebelow.h"

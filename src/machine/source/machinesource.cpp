@@ -5,6 +5,7 @@
 #include "console/programinterruption.h"
 #include "filechanges.h"
 #include "machine/database.h"
+#include "machine/folderlock.h"
 #include "platform/processground.h"
 #include "toolreport.h"
 
@@ -233,6 +234,8 @@ void moveIntoPlace(const QString &made, const QString &folder, const QString &st
 {
     const QString former = staging + u"/former"_s;
     const bool replaces = QFileInfo::exists(folder);
+    if (replaces && !lockFolder(folder + u"/drive_c"_s))
+        throw MachineError{u"%1: in use, by an open window for example"_s.arg(folder)};
     if (replaces && !QDir().rename(folder, former))
         throw MachineError{u"%1: can't be replaced"_s.arg(folder)};
     if (!QDir().rename(made, folder)) {

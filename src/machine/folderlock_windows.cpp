@@ -20,3 +20,8 @@ std::shared_ptr<void> lockFolder(const QString &folder)
         return nullptr;
     return std::make_shared<char>();
 }
+
+std::shared_ptr<void> holdFolder(const QString &)
+{
+    return std::make_shared<char>();
+}

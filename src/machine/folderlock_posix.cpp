@@ -27,14 +27,24 @@ struct Descriptor
     int number;
 };
 
+/** Locks the folder itself: nothing is left in it, and nothing that lies in it can be in the way. */
+std::shared_ptr<void> locked(const QString &folder, int operation)
+{
+    const auto opened =
+        std::make_shared<Descriptor>(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened->number >= 0 && flock(opened->number, operation | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+        return nullptr;
+    return opened;
+}
+
 } // namespace
 
 std::shared_ptr<void> lockFolder(const QString &folder)
 {
-    // The folder itself: nothing is left in it, and nothing that lies in it can be in the way.
-    const auto opened =
-        std::make_shared<Descriptor>(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (opened->number >= 0 && flock(opened->number, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
-        return nullptr;
-    return opened;
+    return locked(folder, LOCK_EX);
+}
+
+std::shared_ptr<void> holdFolder(const QString &folder)
+{
+    return locked(folder, LOCK_SH);
 }
