@@ -1875,5 +1875,141 @@ info</translation>
 <source>You should launch this app with Admin rights!</source>
 <translation>Sie sollten diese App als Administrator ausführen!</translation>
 </message>
+<message>
+<source>No known effect on today's Windows: write caching is set for each drive elsewhere.</source>
+<translation>Keine bekannte Wirkung im heutigen Windows: Der Schreibcache wird anderswo für jedes Laufwerk eingestellt.</translation>
+</message>
+<message>
+<source>No known effect: Windows doesn't read this value.</source>
+<translation>Keine bekannte Wirkung: Windows liest diesen Wert nicht.</translation>
+</message>
+<message>
+<source>Saves small writes: Windows no longer records when a file was last read. Needs a restart.</source>
+<translation>Spart kleine Schreibvorgänge: Windows merkt sich nicht mehr, wann eine Datei zuletzt gelesen wurde. Braucht einen Neustart.</translation>
+</message>
+<message>
+<source>Windows no longer preloads programs: they start more slowly at first, and an SSD gains nothing. Needs a restart.</source>
+<translation>Windows lädt Programme nicht mehr voraus: Sie starten anfangs langsamer, und eine SSD gewinnt nichts. Braucht einen Neustart.</translation>
+</message>
+<message>
+<source>Windows' default: nothing changes. Taking it back clears the page file at each shutdown, which takes minutes.</source>
+<translation>Der Standard von Windows: Es ändert sich nichts. Das Zurücknehmen leert die Auslagerungsdatei bei jedem Herunterfahren, was Minuten dauert.</translation>
+</message>
+<message>
+<source>Each start is a full one: it takes a little longer, and drivers start afresh.</source>
+<translation>Jeder Start ist ein vollständiger: Er dauert etwas länger, und die Treiber beginnen neu.</translation>
+</message>
+<message>
+<source>Frees the space of hiberfil.sys. The PC can't hibernate any more, and fast startup goes too.</source>
+<translation>Gibt den Platz von hiberfil.sys frei. Der PC kann nicht mehr in den Ruhezustand, und auch der Schnellstart entfällt.</translation>
+</message>
+<message>
+<source>Takes all files out of the content index: search gets slower and finds less.</source>
+<translation>Nimmt alle Dateien aus dem Inhaltsindex: Die Suche wird langsamer und findet weniger.</translation>
+</message>
+<message>
+<source>No known effect since Windows XP.</source>
+<translation>Seit Windows XP keine bekannte Wirkung.</translation>
+</message>
+<message>
+<source>Small effect: only for games that register with Windows' multimedia scheduler.</source>
+<translation>Geringe Wirkung: nur für Spiele, die sich beim Multimedia-Planer von Windows anmelden.</translation>
+</message>
+<message>
+<source>No known effect: Windows reads this setting elsewhere.</source>
+<translation>Keine bekannte Wirkung: Windows liest diese Einstellung an anderer Stelle.</translation>
+</message>
+<message>
+<source>Windows' default: game mode is on already. Taking it back switches it off.</source>
+<translation>Der Standard von Windows: Der Spielmodus ist schon ein. Das Zurücknehmen schaltet ihn aus.</translation>
+</message>
+<message>
+<source>Windows no longer records or broadcasts games. Settings shows this as managed by your organization.</source>
+<translation>Windows zeichnet keine Spiele mehr auf und überträgt keine. Die Einstellungen zeigen das als von der Organisation verwaltet.</translation>
+</message>
+<message>
+<source>Windows 11: the default already, and taking it back forces the slower platform timer. Windows 10: no known effect.</source>
+<translation>Windows 11: schon der Standard, und das Zurücknehmen erzwingt den langsameren Plattformzeitgeber. Windows 10: keine bekannte Wirkung.</translation>
+</message>
+<message>
+<source>Partly effective: the Game Bar's tips and the Xbox button are off, but Win+G still opens it.</source>
+<translation>Wirkt zum Teil: Tipps der Game Bar und Xbox-Taste sind aus, aber Win+G öffnet sie weiterhin.</translation>
+</message>
+<message>
+<source>Windows 11: the system timer never pauses, which costs power; needs a restart. Windows 10: nothing changes.</source>
+<translation>Windows 11: Der Systemzeitgeber pausiert nie, was Strom kostet; braucht einen Neustart. Windows 10: Es ändert sich nichts.</translation>
+</message>
+<message>
+<source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
+<translation>Zeigt Spiele ohne HDR in HDR. Setzt andere Grafikeinstellungen wie die variable Bildfrequenz zurück.</translation>
+</message>
+<message>
+<source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>
+<translation>Der Zeiger folgt der Maus gleichmäßig. Wirkt ab der nächsten Anmeldung.</translation>
+</message>
+<message>
+<source>Partly effective: packets are acknowledged at once, not on connections with a fixed address. Needs a restart.</source>
+<translation>Wirkt zum Teil: Pakete werden sofort bestätigt, nicht auf Verbindungen mit fester Adresse. Braucht einen Neustart.</translation>
+</message>
+<message>
+<source>38 is what Windows does by default; other choices change it. Taking it back deletes the value.</source>
+<translation>38 ist, was Windows von sich aus tut; die anderen Werte ändern es. Das Zurücknehmen löscht den Wert.</translation>
+</message>
+<message>
+<source>No known effect: neither Direct3D nor drivers read this value today.</source>
+<translation>Keine bekannte Wirkung: Weder Direct3D noch Treiber lesen diesen Wert heute.</translation>
+</message>
+<message>
+<source>May fix flickering and stutter; some videos may run worse. Said to have no effect since Windows 11 24H2. Needs a restart.</source>
+<translation>Kann Flackern und Ruckeln beheben; manche Videos laufen schlechter. Seit Windows 11 24H2 angeblich ohne Wirkung. Braucht einen Neustart.</translation>
+</message>
+<message>
+<source>Of use with several AMD graphics cards only; its effect is uncertain. Needs a restart.</source>
+<translation>Nur mit mehreren AMD-Grafikkarten von Nutzen; die Wirkung ist unsicher. Braucht einen Neustart.</translation>
+</message>
+<message>
+<source>Fewer svchost.exe processes, but services are less isolated from each other. Needs a restart.</source>
+<translation>Weniger svchost.exe-Prozesse, aber Dienste sind weniger voneinander getrennt. Braucht einen Neustart.</translation>
+</message>
+<message>
+<source>Windows' default since version 1803: nothing changes. Taking it back switches the backup on.</source>
+<translation>Seit Version 1803 der Standard von Windows: Es ändert sich nichts. Das Zurücknehmen schaltet die Sicherung ein.</translation>
+</message>
+<message>
+<source>Hides the button for advanced options only; indexing goes on.</source>
+<translation>Blendet nur die Schaltfläche für erweiterte Optionen aus; indiziert wird weiterhin.</translation>
+</message>
+<message>
+<source>File History keeps no older versions of files any more. Recent files are still listed.</source>
+<translation>Der Dateiversionsverlauf bewahrt keine älteren Versionen mehr auf. Zuletzt verwendete Dateien werden weiterhin angezeigt.</translation>
+</message>
+<message>
+<source>A right-click shows all entries, once Explorer has been restarted. Taking it back leaves the old menu.</source>
+<translation>Ein Rechtsklick zeigt alle Einträge, sobald der Explorer neu gestartet ist. Nach dem Zurücknehmen bleibt das alte Menü.</translation>
+</message>
+<message>
+<source>Updates are no longer exchanged with other PCs.</source>
+<translation>Updates werden nicht mehr mit anderen PCs ausgetauscht.</translation>
+</message>
+<message>
+<source>Less data goes to Microsoft. Clipboard history (Win+V), location and error reports stop working too.</source>
+<translation>Weniger Daten gehen an Microsoft. Auch Zwischenablageverlauf (Win+V), Standort und Fehlerberichte funktionieren nicht mehr.</translation>
+</message>
+<message>
+<source>Menus open faster. At sign-out programs may be closed with unsaved work. Takes effect at the next sign-in.</source>
+<translation>Menüs öffnen sich schneller. Beim Abmelden können Programme mit ungespeicherter Arbeit geschlossen werden. Wirkt ab der nächsten Anmeldung.</translation>
+</message>
+<message>
+<source>Windows 11: removes the whole lock screen; some editions ignore it. Windows 10: nothing changes.</source>
+<translation>Windows 11: entfernt den ganzen Sperrbildschirm; manche Editionen beachten es nicht. Windows 10: Es ändert sich nichts.</translation>
+</message>
+<message>
+<source>Search in Start and on the taskbar stops working. An update may bring it back while this box stays checked.</source>
+<translation>Die Suche in Startmenü und Taskleiste funktioniert nicht mehr. Ein Update kann sie zurückbringen, während dieses Kästchen angehakt bleibt.</translation>
+</message>
+<message>
+<source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
+<translation>Wirkt zum Teil: Zwei Aufgaben bleiben aus, aber der Dienst kommt bei der nächsten Anmeldung zurück.</translation>
+</message>
 </context>
 </TS>

@@ -1875,5 +1875,141 @@ del sistema</translation>
 <source>You should launch this app with Admin rights!</source>
 <translation>¡Debería ejecutar esta aplicación como administrador!</translation>
 </message>
+<message>
+<source>No known effect on today's Windows: write caching is set for each drive elsewhere.</source>
+<translation>Sin efecto conocido en el Windows actual: la caché de escritura se configura en otro lugar para cada unidad.</translation>
+</message>
+<message>
+<source>No known effect: Windows doesn't read this value.</source>
+<translation>Sin efecto conocido: Windows no lee este valor.</translation>
+</message>
+<message>
+<source>Saves small writes: Windows no longer records when a file was last read. Needs a restart.</source>
+<translation>Ahorra pequeñas escrituras: Windows ya no anota cuándo se leyó un archivo por última vez. Requiere reiniciar.</translation>
+</message>
+<message>
+<source>Windows no longer preloads programs: they start more slowly at first, and an SSD gains nothing. Needs a restart.</source>
+<translation>Windows ya no precarga programas: al principio se inician más despacio y un SSD no gana nada. Requiere reiniciar.</translation>
+</message>
+<message>
+<source>Windows' default: nothing changes. Taking it back clears the page file at each shutdown, which takes minutes.</source>
+<translation>Valor predeterminado de Windows: nada cambia. Al revertirlo, el archivo de paginación se borra en cada apagado, lo que tarda minutos.</translation>
+</message>
+<message>
+<source>Each start is a full one: it takes a little longer, and drivers start afresh.</source>
+<translation>Cada inicio es completo: tarda algo más y los controladores empiezan de nuevo.</translation>
+</message>
+<message>
+<source>Frees the space of hiberfil.sys. The PC can't hibernate any more, and fast startup goes too.</source>
+<translation>Libera el espacio de hiberfil.sys. El equipo ya no puede hibernar y se pierde el inicio rápido.</translation>
+</message>
+<message>
+<source>Takes all files out of the content index: search gets slower and finds less.</source>
+<translation>Quita todos los archivos del índice de contenido: la búsqueda es más lenta y encuentra menos.</translation>
+</message>
+<message>
+<source>No known effect since Windows XP.</source>
+<translation>Sin efecto conocido desde Windows XP.</translation>
+</message>
+<message>
+<source>Small effect: only for games that register with Windows' multimedia scheduler.</source>
+<translation>Efecto pequeño: solo para juegos que se registran en el planificador multimedia de Windows.</translation>
+</message>
+<message>
+<source>No known effect: Windows reads this setting elsewhere.</source>
+<translation>Sin efecto conocido: Windows lee este ajuste en otro lugar.</translation>
+</message>
+<message>
+<source>Windows' default: game mode is on already. Taking it back switches it off.</source>
+<translation>Valor predeterminado: el modo de juego ya está habilitado. Al revertirlo se deshabilita.</translation>
+</message>
+<message>
+<source>Windows no longer records or broadcasts games. Settings shows this as managed by your organization.</source>
+<translation>Windows ya no graba ni transmite juegos. Configuración lo muestra como administrado por la organización.</translation>
+</message>
+<message>
+<source>Windows 11: the default already, and taking it back forces the slower platform timer. Windows 10: no known effect.</source>
+<translation>Windows 11: ya es lo predeterminado, y revertirlo fuerza el temporizador de plataforma, más lento. Windows 10: sin efecto conocido.</translation>
+</message>
+<message>
+<source>Partly effective: the Game Bar's tips and the Xbox button are off, but Win+G still opens it.</source>
+<translation>Efecto parcial: se deshabilitan los consejos de la Game Bar y el botón Xbox, pero Win+G aún la abre.</translation>
+</message>
+<message>
+<source>Windows 11: the system timer never pauses, which costs power; needs a restart. Windows 10: nothing changes.</source>
+<translation>Windows 11: el temporizador del sistema nunca se detiene, lo que gasta energía; requiere reiniciar. Windows 10: nada cambia.</translation>
+</message>
+<message>
+<source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
+<translation>Muestra en HDR los juegos sin HDR. Restablece otros ajustes gráficos, como la frecuencia variable.</translation>
+</message>
+<message>
+<source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>
+<translation>El puntero sigue al ratón de forma uniforme. Efecto en el próximo inicio de sesión.</translation>
+</message>
+<message>
+<source>Partly effective: packets are acknowledged at once, not on connections with a fixed address. Needs a restart.</source>
+<translation>Efecto parcial: los paquetes se confirman al instante, salvo con dirección fija. Requiere reiniciar.</translation>
+</message>
+<message>
+<source>38 is what Windows does by default; other choices change it. Taking it back deletes the value.</source>
+<translation>38 es lo que Windows hace de forma predeterminada; los demás valores lo cambian. Revertirlo borra el valor.</translation>
+</message>
+<message>
+<source>No known effect: neither Direct3D nor drivers read this value today.</source>
+<translation>Sin efecto conocido: ni Direct3D ni los controladores leen hoy este valor.</translation>
+</message>
+<message>
+<source>May fix flickering and stutter; some videos may run worse. Said to have no effect since Windows 11 24H2. Needs a restart.</source>
+<translation>Puede corregir parpadeos y tirones; algunos vídeos irán peor. Se dice que no tiene efecto desde Windows 11 24H2. Requiere reiniciar.</translation>
+</message>
+<message>
+<source>Of use with several AMD graphics cards only; its effect is uncertain. Needs a restart.</source>
+<translation>Útil solo con varias tarjetas AMD; su efecto es incierto. Requiere reiniciar.</translation>
+</message>
+<message>
+<source>Fewer svchost.exe processes, but services are less isolated from each other. Needs a restart.</source>
+<translation>Menos procesos svchost.exe, pero servicios menos aislados entre sí. Requiere reiniciar.</translation>
+</message>
+<message>
+<source>Windows' default since version 1803: nothing changes. Taking it back switches the backup on.</source>
+<translation>Valor predeterminado desde la versión 1803: nada cambia. Revertirlo habilita la copia.</translation>
+</message>
+<message>
+<source>Hides the button for advanced options only; indexing goes on.</source>
+<translation>Solo oculta el botón de opciones avanzadas; la indexación continúa.</translation>
+</message>
+<message>
+<source>File History keeps no older versions of files any more. Recent files are still listed.</source>
+<translation>El historial de archivos ya no guarda versiones antiguas. Los archivos recientes se siguen mostrando.</translation>
+</message>
+<message>
+<source>A right-click shows all entries, once Explorer has been restarted. Taking it back leaves the old menu.</source>
+<translation>El clic derecho muestra todas las opciones, tras reiniciar el Explorador. Al revertirlo queda el menú antiguo.</translation>
+</message>
+<message>
+<source>Updates are no longer exchanged with other PCs.</source>
+<translation>Las actualizaciones ya no se intercambian con otros equipos.</translation>
+</message>
+<message>
+<source>Less data goes to Microsoft. Clipboard history (Win+V), location and error reports stop working too.</source>
+<translation>Se envían menos datos a Microsoft. También dejan de funcionar el historial del portapapeles (Win+V), la ubicación y los informes de errores.</translation>
+</message>
+<message>
+<source>Menus open faster. At sign-out programs may be closed with unsaved work. Takes effect at the next sign-in.</source>
+<translation>Los menús se abren antes. Al cerrar sesión pueden cerrarse programas con trabajo sin guardar. Efecto en el próximo inicio de sesión.</translation>
+</message>
+<message>
+<source>Windows 11: removes the whole lock screen; some editions ignore it. Windows 10: nothing changes.</source>
+<translation>Windows 11: quita toda la pantalla de bloqueo; algunas ediciones lo ignoran. Windows 10: nada cambia.</translation>
+</message>
+<message>
+<source>Search in Start and on the taskbar stops working. An update may bring it back while this box stays checked.</source>
+<translation>La búsqueda de Inicio y de la barra de tareas deja de funcionar. Una actualización puede devolverla aunque esta casilla siga marcada.</translation>
+</message>
+<message>
+<source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
+<translation>Efecto parcial: dos tareas quedan deshabilitadas, pero el servicio vuelve en el próximo inicio de sesión.</translation>
+</message>
 </context>
 </TS>

@@ -1875,5 +1875,141 @@ système</translation>
 <source>You should launch this app with Admin rights!</source>
 <translation>Il est conseillé d’exécuter cette application en tant qu’administrateur !</translation>
 </message>
+<message>
+<source>No known effect on today's Windows: write caching is set for each drive elsewhere.</source>
+<translation>Sans effet connu sur Windows actuel : le cache d’écriture se règle ailleurs, pour chaque lecteur.</translation>
+</message>
+<message>
+<source>No known effect: Windows doesn't read this value.</source>
+<translation>Sans effet connu : Windows ne lit pas cette valeur.</translation>
+</message>
+<message>
+<source>Saves small writes: Windows no longer records when a file was last read. Needs a restart.</source>
+<translation>Évite de petites écritures : Windows ne note plus la dernière lecture d’un fichier. Redémarrage nécessaire.</translation>
+</message>
+<message>
+<source>Windows no longer preloads programs: they start more slowly at first, and an SSD gains nothing. Needs a restart.</source>
+<translation>Windows ne précharge plus les programmes : leur premier démarrage ralentit, sans gain sur un SSD. Redémarrage nécessaire.</translation>
+</message>
+<message>
+<source>Windows' default: nothing changes. Taking it back clears the page file at each shutdown, which takes minutes.</source>
+<translation>Réglage par défaut de Windows : rien ne change. L’annuler vide le fichier d’échange à chaque arrêt, ce qui prend des minutes.</translation>
+</message>
+<message>
+<source>Each start is a full one: it takes a little longer, and drivers start afresh.</source>
+<translation>Chaque démarrage est complet : un peu plus long, avec des pilotes rechargés.</translation>
+</message>
+<message>
+<source>Frees the space of hiberfil.sys. The PC can't hibernate any more, and fast startup goes too.</source>
+<translation>Libère la place de hiberfil.sys. Plus de mise en veille prolongée ni de démarrage rapide.</translation>
+</message>
+<message>
+<source>Takes all files out of the content index: search gets slower and finds less.</source>
+<translation>Retire tous les fichiers de l’index de contenu : la recherche ralentit et trouve moins.</translation>
+</message>
+<message>
+<source>No known effect since Windows XP.</source>
+<translation>Sans effet connu depuis Windows XP.</translation>
+</message>
+<message>
+<source>Small effect: only for games that register with Windows' multimedia scheduler.</source>
+<translation>Effet faible : seulement pour les jeux inscrits au planificateur multimédia de Windows.</translation>
+</message>
+<message>
+<source>No known effect: Windows reads this setting elsewhere.</source>
+<translation>Sans effet connu : Windows lit ce réglage ailleurs.</translation>
+</message>
+<message>
+<source>Windows' default: game mode is on already. Taking it back switches it off.</source>
+<translation>Réglage par défaut : le mode Jeu est déjà activé. L’annuler le désactive.</translation>
+</message>
+<message>
+<source>Windows no longer records or broadcasts games. Settings shows this as managed by your organization.</source>
+<translation>Windows n’enregistre et ne diffuse plus les jeux. Paramètres indique « géré par votre organisation ».</translation>
+</message>
+<message>
+<source>Windows 11: the default already, and taking it back forces the slower platform timer. Windows 10: no known effect.</source>
+<translation>Windows 11 : déjà par défaut, et l’annuler impose l’horloge de plateforme, plus lente. Windows 10 : sans effet connu.</translation>
+</message>
+<message>
+<source>Partly effective: the Game Bar's tips and the Xbox button are off, but Win+G still opens it.</source>
+<translation>Effet partiel : les conseils de la Game Bar et la touche Xbox sont désactivés, mais Win+G l’ouvre encore.</translation>
+</message>
+<message>
+<source>Windows 11: the system timer never pauses, which costs power; needs a restart. Windows 10: nothing changes.</source>
+<translation>Windows 11 : l’horloge système ne s’arrête jamais, ce qui consomme ; redémarrage nécessaire. Windows 10 : rien ne change.</translation>
+</message>
+<message>
+<source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
+<translation>Affiche en HDR les jeux sans HDR. Réinitialise d’autres réglages graphiques, dont la fréquence variable.</translation>
+</message>
+<message>
+<source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>
+<translation>Le pointeur suit la souris de façon régulière. Effet à la prochaine ouverture de session.</translation>
+</message>
+<message>
+<source>Partly effective: packets are acknowledged at once, not on connections with a fixed address. Needs a restart.</source>
+<translation>Effet partiel : accusé de réception immédiat, sauf avec une adresse fixe. Redémarrage nécessaire.</translation>
+</message>
+<message>
+<source>38 is what Windows does by default; other choices change it. Taking it back deletes the value.</source>
+<translation>38 correspond au comportement par défaut ; les autres valeurs le changent. L’annuler supprime la valeur.</translation>
+</message>
+<message>
+<source>No known effect: neither Direct3D nor drivers read this value today.</source>
+<translation>Sans effet connu : ni Direct3D ni les pilotes ne lisent cette valeur aujourd’hui.</translation>
+</message>
+<message>
+<source>May fix flickering and stutter; some videos may run worse. Said to have no effect since Windows 11 24H2. Needs a restart.</source>
+<translation>Peut corriger scintillements et saccades ; certaines vidéos en souffrent. Serait sans effet depuis Windows 11 24H2. Redémarrage nécessaire.</translation>
+</message>
+<message>
+<source>Of use with several AMD graphics cards only; its effect is uncertain. Needs a restart.</source>
+<translation>Utile seulement avec plusieurs cartes AMD ; effet incertain. Redémarrage nécessaire.</translation>
+</message>
+<message>
+<source>Fewer svchost.exe processes, but services are less isolated from each other. Needs a restart.</source>
+<translation>Moins de processus svchost.exe, mais des services moins isolés. Redémarrage nécessaire.</translation>
+</message>
+<message>
+<source>Windows' default since version 1803: nothing changes. Taking it back switches the backup on.</source>
+<translation>Réglage par défaut depuis la version 1803 : rien ne change. L’annuler active la sauvegarde.</translation>
+</message>
+<message>
+<source>Hides the button for advanced options only; indexing goes on.</source>
+<translation>Masque seulement le bouton des options avancées ; l’indexation continue.</translation>
+</message>
+<message>
+<source>File History keeps no older versions of files any more. Recent files are still listed.</source>
+<translation>L’historique des fichiers ne garde plus d’anciennes versions. Les fichiers récents restent affichés.</translation>
+</message>
+<message>
+<source>A right-click shows all entries, once Explorer has been restarted. Taking it back leaves the old menu.</source>
+<translation>Un clic droit montre toutes les entrées, après redémarrage de l’Explorateur. L’ancien menu reste même après annulation.</translation>
+</message>
+<message>
+<source>Updates are no longer exchanged with other PCs.</source>
+<translation>Les mises à jour ne sont plus échangées avec d’autres PC.</translation>
+</message>
+<message>
+<source>Less data goes to Microsoft. Clipboard history (Win+V), location and error reports stop working too.</source>
+<translation>Moins de données envoyées à Microsoft. L’historique du Presse-papiers (Win+V), la localisation et les rapports d’erreurs cessent aussi.</translation>
+</message>
+<message>
+<source>Menus open faster. At sign-out programs may be closed with unsaved work. Takes effect at the next sign-in.</source>
+<translation>Les menus s’ouvrent plus vite. À la fermeture de session, un travail non enregistré peut être perdu. Effet à la prochaine session.</translation>
+</message>
+<message>
+<source>Windows 11: removes the whole lock screen; some editions ignore it. Windows 10: nothing changes.</source>
+<translation>Windows 11 : supprime tout l’écran de verrouillage ; certaines éditions l’ignorent. Windows 10 : rien ne change.</translation>
+</message>
+<message>
+<source>Search in Start and on the taskbar stops working. An update may bring it back while this box stays checked.</source>
+<translation>La recherche du menu Démarrer et de la barre des tâches ne marche plus. Une mise à jour peut la rétablir sans que cette case change.</translation>
+</message>
+<message>
+<source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
+<translation>Effet partiel : deux tâches restent désactivées, mais le service revient à la prochaine session.</translation>
+</message>
 </context>
 </TS>

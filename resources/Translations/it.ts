@@ -1875,5 +1875,141 @@ sul sistema</translation>
 <source>You should launch this app with Admin rights!</source>
 <translation>È consigliabile eseguire questa app come amministratore!</translation>
 </message>
+<message>
+<source>No known effect on today's Windows: write caching is set for each drive elsewhere.</source>
+<translation>Nessun effetto noto su Windows attuale: la cache di scrittura si imposta altrove, per ogni unità.</translation>
+</message>
+<message>
+<source>No known effect: Windows doesn't read this value.</source>
+<translation>Nessun effetto noto: Windows non legge questo valore.</translation>
+</message>
+<message>
+<source>Saves small writes: Windows no longer records when a file was last read. Needs a restart.</source>
+<translation>Evita piccole scritture: Windows non registra più l'ultima lettura di un file. Richiede un riavvio.</translation>
+</message>
+<message>
+<source>Windows no longer preloads programs: they start more slowly at first, and an SSD gains nothing. Needs a restart.</source>
+<translation>Windows non precarica più i programmi: il primo avvio rallenta e un SSD non ci guadagna. Richiede un riavvio.</translation>
+</message>
+<message>
+<source>Windows' default: nothing changes. Taking it back clears the page file at each shutdown, which takes minutes.</source>
+<translation>Impostazione predefinita di Windows: non cambia nulla. Annullandola, il file di paging viene svuotato a ogni arresto, il che richiede minuti.</translation>
+</message>
+<message>
+<source>Each start is a full one: it takes a little longer, and drivers start afresh.</source>
+<translation>Ogni avvio è completo: dura un po' di più e i driver ripartono da zero.</translation>
+</message>
+<message>
+<source>Frees the space of hiberfil.sys. The PC can't hibernate any more, and fast startup goes too.</source>
+<translation>Libera lo spazio di hiberfil.sys. Il PC non può più ibernarsi e si perde l'avvio rapido.</translation>
+</message>
+<message>
+<source>Takes all files out of the content index: search gets slower and finds less.</source>
+<translation>Toglie tutti i file dall'indice dei contenuti: la ricerca rallenta e trova meno.</translation>
+</message>
+<message>
+<source>No known effect since Windows XP.</source>
+<translation>Nessun effetto noto da Windows XP in poi.</translation>
+</message>
+<message>
+<source>Small effect: only for games that register with Windows' multimedia scheduler.</source>
+<translation>Effetto limitato: solo per i giochi registrati nell'utilità di pianificazione multimediale di Windows.</translation>
+</message>
+<message>
+<source>No known effect: Windows reads this setting elsewhere.</source>
+<translation>Nessun effetto noto: Windows legge questa impostazione altrove.</translation>
+</message>
+<message>
+<source>Windows' default: game mode is on already. Taking it back switches it off.</source>
+<translation>Impostazione predefinita: la modalità gioco è già attiva. Annullandola si disabilita.</translation>
+</message>
+<message>
+<source>Windows no longer records or broadcasts games. Settings shows this as managed by your organization.</source>
+<translation>Windows non registra né trasmette più i giochi. Impostazioni lo indica come gestito dall'organizzazione.</translation>
+</message>
+<message>
+<source>Windows 11: the default already, and taking it back forces the slower platform timer. Windows 10: no known effect.</source>
+<translation>Windows 11: già predefinito, e annullarlo impone il timer di piattaforma, più lento. Windows 10: nessun effetto noto.</translation>
+</message>
+<message>
+<source>Partly effective: the Game Bar's tips and the Xbox button are off, but Win+G still opens it.</source>
+<translation>Effetto parziale: suggerimenti della Game Bar e pulsante Xbox disabilitati, ma Win+G la apre ancora.</translation>
+</message>
+<message>
+<source>Windows 11: the system timer never pauses, which costs power; needs a restart. Windows 10: nothing changes.</source>
+<translation>Windows 11: il timer di sistema non si ferma mai, il che consuma energia; richiede un riavvio. Windows 10: non cambia nulla.</translation>
+</message>
+<message>
+<source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
+<translation>Mostra in HDR i giochi senza HDR. Reimposta altre impostazioni grafiche, come la frequenza variabile.</translation>
+</message>
+<message>
+<source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>
+<translation>Il puntatore segue il mouse in modo uniforme. Effetto dal prossimo accesso.</translation>
+</message>
+<message>
+<source>Partly effective: packets are acknowledged at once, not on connections with a fixed address. Needs a restart.</source>
+<translation>Effetto parziale: i pacchetti vengono confermati subito, non con indirizzo fisso. Richiede un riavvio.</translation>
+</message>
+<message>
+<source>38 is what Windows does by default; other choices change it. Taking it back deletes the value.</source>
+<translation>38 è il comportamento predefinito; gli altri valori lo cambiano. Annullandolo il valore viene eliminato.</translation>
+</message>
+<message>
+<source>No known effect: neither Direct3D nor drivers read this value today.</source>
+<translation>Nessun effetto noto: né Direct3D né i driver leggono oggi questo valore.</translation>
+</message>
+<message>
+<source>May fix flickering and stutter; some videos may run worse. Said to have no effect since Windows 11 24H2. Needs a restart.</source>
+<translation>Può correggere sfarfallii e scatti; alcuni video peggiorano. Pare senza effetto da Windows 11 24H2. Richiede un riavvio.</translation>
+</message>
+<message>
+<source>Of use with several AMD graphics cards only; its effect is uncertain. Needs a restart.</source>
+<translation>Utile solo con più schede AMD; l'effetto è incerto. Richiede un riavvio.</translation>
+</message>
+<message>
+<source>Fewer svchost.exe processes, but services are less isolated from each other. Needs a restart.</source>
+<translation>Meno processi svchost.exe, ma servizi meno isolati tra loro. Richiede un riavvio.</translation>
+</message>
+<message>
+<source>Windows' default since version 1803: nothing changes. Taking it back switches the backup on.</source>
+<translation>Predefinito dalla versione 1803: non cambia nulla. Annullandolo si abilita il backup.</translation>
+</message>
+<message>
+<source>Hides the button for advanced options only; indexing goes on.</source>
+<translation>Nasconde solo il pulsante delle opzioni avanzate; l'indicizzazione continua.</translation>
+</message>
+<message>
+<source>File History keeps no older versions of files any more. Recent files are still listed.</source>
+<translation>Cronologia file non conserva più versioni precedenti. I file recenti restano elencati.</translation>
+</message>
+<message>
+<source>A right-click shows all entries, once Explorer has been restarted. Taking it back leaves the old menu.</source>
+<translation>Il clic destro mostra tutte le voci, dopo il riavvio di Esplora file. Annullandolo resta il vecchio menu.</translation>
+</message>
+<message>
+<source>Updates are no longer exchanged with other PCs.</source>
+<translation>Gli aggiornamenti non vengono più scambiati con altri PC.</translation>
+</message>
+<message>
+<source>Less data goes to Microsoft. Clipboard history (Win+V), location and error reports stop working too.</source>
+<translation>Meno dati a Microsoft. Non funzionano più nemmeno cronologia degli Appunti (Win+V), posizione e segnalazioni di errori.</translation>
+</message>
+<message>
+<source>Menus open faster. At sign-out programs may be closed with unsaved work. Takes effect at the next sign-in.</source>
+<translation>I menu si aprono prima. Alla disconnessione si può perdere il lavoro non salvato. Effetto dal prossimo accesso.</translation>
+</message>
+<message>
+<source>Windows 11: removes the whole lock screen; some editions ignore it. Windows 10: nothing changes.</source>
+<translation>Windows 11: rimuove l'intera schermata di blocco; alcune edizioni lo ignorano. Windows 10: non cambia nulla.</translation>
+</message>
+<message>
+<source>Search in Start and on the taskbar stops working. An update may bring it back while this box stays checked.</source>
+<translation>La ricerca in Start e sulla barra delle applicazioni smette di funzionare. Un aggiornamento può ripristinarla anche se la casella resta spuntata.</translation>
+</message>
+<message>
+<source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
+<translation>Effetto parziale: due attività restano disabilitate, ma il servizio torna al prossimo accesso.</translation>
+</message>
 </context>
 </TS>

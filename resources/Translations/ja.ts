@@ -1875,5 +1875,141 @@ Information</source>
 <source>You should launch this app with Admin rights!</source>
 <translation>このアプリは管理者として実行することをお勧めします!</translation>
 </message>
+<message>
+<source>No known effect on today's Windows: write caching is set for each drive elsewhere.</source>
+<translation>現在の Windows では効果が知られていません。書き込みキャッシュはドライブごとに別の場所で設定されます。</translation>
+</message>
+<message>
+<source>No known effect: Windows doesn't read this value.</source>
+<translation>効果は知られていません。Windows はこの値を読み取りません。</translation>
+</message>
+<message>
+<source>Saves small writes: Windows no longer records when a file was last read. Needs a restart.</source>
+<translation>小さな書き込みを減らします。Windows はファイルを最後に読み取った日時を記録しなくなります。再起動が必要です。</translation>
+</message>
+<message>
+<source>Windows no longer preloads programs: they start more slowly at first, and an SSD gains nothing. Needs a restart.</source>
+<translation>Windows はプログラムを事前に読み込まなくなります。最初の起動が遅くなり、SSD では利点がありません。再起動が必要です。</translation>
+</message>
+<message>
+<source>Windows' default: nothing changes. Taking it back clears the page file at each shutdown, which takes minutes.</source>
+<translation>Windows の既定値なので何も変わりません。元に戻すと、シャットダウンのたびにページ ファイルが消去され、数分かかります。</translation>
+</message>
+<message>
+<source>Each start is a full one: it takes a little longer, and drivers start afresh.</source>
+<translation>毎回完全に起動します。少し時間がかかり、ドライバーは最初から読み込まれます。</translation>
+</message>
+<message>
+<source>Frees the space of hiberfil.sys. The PC can't hibernate any more, and fast startup goes too.</source>
+<translation>hiberfil.sys の領域を解放します。休止状態と高速スタートアップは使えなくなります。</translation>
+</message>
+<message>
+<source>Takes all files out of the content index: search gets slower and finds less.</source>
+<translation>すべてのファイルを内容のインデックスから外します。検索は遅くなり、見つかるものが減ります。</translation>
+</message>
+<message>
+<source>No known effect since Windows XP.</source>
+<translation>Windows XP 以降、効果は知られていません。</translation>
+</message>
+<message>
+<source>Small effect: only for games that register with Windows' multimedia scheduler.</source>
+<translation>効果はわずかです。Windows のマルチメディア スケジューラに登録するゲームだけに効きます。</translation>
+</message>
+<message>
+<source>No known effect: Windows reads this setting elsewhere.</source>
+<translation>効果は知られていません。Windows はこの設定を別の場所から読み取ります。</translation>
+</message>
+<message>
+<source>Windows' default: game mode is on already. Taking it back switches it off.</source>
+<translation>Windows の既定値で、ゲーム モードはすでに有効です。元に戻すと無効になります。</translation>
+</message>
+<message>
+<source>Windows no longer records or broadcasts games. Settings shows this as managed by your organization.</source>
+<translation>Windows はゲームを録画も配信もしなくなります。設定では組織が管理していると表示されます。</translation>
+</message>
+<message>
+<source>Windows 11: the default already, and taking it back forces the slower platform timer. Windows 10: no known effect.</source>
+<translation>Windows 11: すでに既定で、元に戻すと遅いプラットフォーム タイマーが強制されます。Windows 10: 効果は知られていません。</translation>
+</message>
+<message>
+<source>Partly effective: the Game Bar's tips and the Xbox button are off, but Win+G still opens it.</source>
+<translation>一部だけ有効です。Game Bar のヒントと Xbox ボタンは無効になりますが、Win+G では開きます。</translation>
+</message>
+<message>
+<source>Windows 11: the system timer never pauses, which costs power; needs a restart. Windows 10: nothing changes.</source>
+<translation>Windows 11: システム タイマーが止まらなくなり、電力を消費します。再起動が必要です。Windows 10: 何も変わりません。</translation>
+</message>
+<message>
+<source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
+<translation>HDR 非対応のゲームを HDR で表示します。可変リフレッシュ レートなど他のグラフィック設定は初期化されます。</translation>
+</message>
+<message>
+<source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>
+<translation>ポインターがマウスに一定の割合で追従します。次回のサインインから有効です。</translation>
+</message>
+<message>
+<source>Partly effective: packets are acknowledged at once, not on connections with a fixed address. Needs a restart.</source>
+<translation>一部だけ有効です。固定アドレスの接続を除き、パケットに直ちに応答します。再起動が必要です。</translation>
+</message>
+<message>
+<source>38 is what Windows does by default; other choices change it. Taking it back deletes the value.</source>
+<translation>38 は Windows の既定の動作です。他の値では変わります。元に戻すと値が削除されます。</translation>
+</message>
+<message>
+<source>No known effect: neither Direct3D nor drivers read this value today.</source>
+<translation>効果は知られていません。Direct3D もドライバーも現在この値を読み取りません。</translation>
+</message>
+<message>
+<source>May fix flickering and stutter; some videos may run worse. Said to have no effect since Windows 11 24H2. Needs a restart.</source>
+<translation>ちらつきやカクつきが直ることがありますが、一部の動画は悪化します。Windows 11 24H2 以降は効果がないとされています。再起動が必要です。</translation>
+</message>
+<message>
+<source>Of use with several AMD graphics cards only; its effect is uncertain. Needs a restart.</source>
+<translation>複数の AMD グラフィックス カードがある場合だけ役立ちます。効果は不確かです。再起動が必要です。</translation>
+</message>
+<message>
+<source>Fewer svchost.exe processes, but services are less isolated from each other. Needs a restart.</source>
+<translation>svchost.exe プロセスは減りますが、サービス同士の分離が弱まります。再起動が必要です。</translation>
+</message>
+<message>
+<source>Windows' default since version 1803: nothing changes. Taking it back switches the backup on.</source>
+<translation>バージョン 1803 以降の既定値なので何も変わりません。元に戻すとバックアップが有効になります。</translation>
+</message>
+<message>
+<source>Hides the button for advanced options only; indexing goes on.</source>
+<translation>詳細オプションのボタンを隠すだけで、インデックス作成は続きます。</translation>
+</message>
+<message>
+<source>File History keeps no older versions of files any more. Recent files are still listed.</source>
+<translation>ファイル履歴は古いバージョンを保存しなくなります。最近使ったファイルは引き続き表示されます。</translation>
+</message>
+<message>
+<source>A right-click shows all entries, once Explorer has been restarted. Taking it back leaves the old menu.</source>
+<translation>エクスプローラーの再起動後、右クリックですべての項目が表示されます。元に戻しても古いメニューのままです。</translation>
+</message>
+<message>
+<source>Updates are no longer exchanged with other PCs.</source>
+<translation>更新プログラムを他の PC とやり取りしなくなります。</translation>
+</message>
+<message>
+<source>Less data goes to Microsoft. Clipboard history (Win+V), location and error reports stop working too.</source>
+<translation>Microsoft に送られるデータが減ります。クリップボードの履歴 (Win+V)、位置情報、エラー報告も使えなくなります。</translation>
+</message>
+<message>
+<source>Menus open faster. At sign-out programs may be closed with unsaved work. Takes effect at the next sign-in.</source>
+<translation>メニューが速く開きます。サインアウト時に、保存していない作業があってもプログラムが閉じられることがあります。次回のサインインから有効です。</translation>
+</message>
+<message>
+<source>Windows 11: removes the whole lock screen; some editions ignore it. Windows 10: nothing changes.</source>
+<translation>Windows 11: ロック画面全体がなくなりますが、無視するエディションもあります。Windows 10: 何も変わりません。</translation>
+</message>
+<message>
+<source>Search in Start and on the taskbar stops working. An update may bring it back while this box stays checked.</source>
+<translation>スタートとタスク バーの検索が使えなくなります。このチェックが付いたままでも、更新プログラムで元に戻ることがあります。</translation>
+</message>
+<message>
+<source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
+<translation>一部だけ有効です。2 つのタスクは無効のままですが、サービスは次回のサインインで戻ります。</translation>
+</message>
 </context>
 </TS>

@@ -1875,5 +1875,141 @@ informatie</translation>
 <source>You should launch this app with Admin rights!</source>
 <translation>U kunt deze app het beste als administrator uitvoeren!</translation>
 </message>
+<message>
+<source>No known effect on today's Windows: write caching is set for each drive elsewhere.</source>
+<translation>Geen bekend effect in het huidige Windows: de schrijfcache wordt elders per station ingesteld.</translation>
+</message>
+<message>
+<source>No known effect: Windows doesn't read this value.</source>
+<translation>Geen bekend effect: Windows leest deze waarde niet.</translation>
+</message>
+<message>
+<source>Saves small writes: Windows no longer records when a file was last read. Needs a restart.</source>
+<translation>Bespaart kleine schrijfacties: Windows noteert niet meer wanneer een bestand voor het laatst is gelezen. Vereist een herstart.</translation>
+</message>
+<message>
+<source>Windows no longer preloads programs: they start more slowly at first, and an SSD gains nothing. Needs a restart.</source>
+<translation>Windows laadt programma's niet meer vooraf: ze starten eerst trager en een SSD wint niets. Vereist een herstart.</translation>
+</message>
+<message>
+<source>Windows' default: nothing changes. Taking it back clears the page file at each shutdown, which takes minutes.</source>
+<translation>De standaard van Windows: er verandert niets. Ongedaan maken wist het wisselbestand bij elke afsluiting, wat minuten duurt.</translation>
+</message>
+<message>
+<source>Each start is a full one: it takes a little longer, and drivers start afresh.</source>
+<translation>Elke start is volledig: die duurt iets langer en stuurprogramma's beginnen opnieuw.</translation>
+</message>
+<message>
+<source>Frees the space of hiberfil.sys. The PC can't hibernate any more, and fast startup goes too.</source>
+<translation>Maakt de ruimte van hiberfil.sys vrij. De pc kan niet meer in sluimerstand en snel opstarten vervalt.</translation>
+</message>
+<message>
+<source>Takes all files out of the content index: search gets slower and finds less.</source>
+<translation>Haalt alle bestanden uit de inhoudsindex: zoeken wordt trager en vindt minder.</translation>
+</message>
+<message>
+<source>No known effect since Windows XP.</source>
+<translation>Geen bekend effect sinds Windows XP.</translation>
+</message>
+<message>
+<source>Small effect: only for games that register with Windows' multimedia scheduler.</source>
+<translation>Klein effect: alleen voor games die zich aanmelden bij de multimediaplanner van Windows.</translation>
+</message>
+<message>
+<source>No known effect: Windows reads this setting elsewhere.</source>
+<translation>Geen bekend effect: Windows leest deze instelling elders.</translation>
+</message>
+<message>
+<source>Windows' default: game mode is on already. Taking it back switches it off.</source>
+<translation>De standaard van Windows: de gamemodus staat al aan. Ongedaan maken zet die uit.</translation>
+</message>
+<message>
+<source>Windows no longer records or broadcasts games. Settings shows this as managed by your organization.</source>
+<translation>Windows neemt geen games meer op en zendt ze niet uit. Instellingen toont dit als beheerd door uw organisatie.</translation>
+</message>
+<message>
+<source>Windows 11: the default already, and taking it back forces the slower platform timer. Windows 10: no known effect.</source>
+<translation>Windows 11: al de standaard, en ongedaan maken dwingt de tragere platformtimer af. Windows 10: geen bekend effect.</translation>
+</message>
+<message>
+<source>Partly effective: the Game Bar's tips and the Xbox button are off, but Win+G still opens it.</source>
+<translation>Werkt deels: tips van de Game Bar en de Xbox-knop zijn uit, maar Win+G opent hem nog.</translation>
+</message>
+<message>
+<source>Windows 11: the system timer never pauses, which costs power; needs a restart. Windows 10: nothing changes.</source>
+<translation>Windows 11: de systeemtimer pauzeert nooit, wat stroom kost; vereist een herstart. Windows 10: er verandert niets.</translation>
+</message>
+<message>
+<source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
+<translation>Toont games zonder HDR in HDR. Zet andere grafische instellingen terug, zoals variabele verversing.</translation>
+</message>
+<message>
+<source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>
+<translation>De aanwijzer volgt de muis gelijkmatig. Werkt vanaf de volgende aanmelding.</translation>
+</message>
+<message>
+<source>Partly effective: packets are acknowledged at once, not on connections with a fixed address. Needs a restart.</source>
+<translation>Werkt deels: pakketten worden direct bevestigd, niet bij een vast adres. Vereist een herstart.</translation>
+</message>
+<message>
+<source>38 is what Windows does by default; other choices change it. Taking it back deletes the value.</source>
+<translation>38 is wat Windows standaard doet; andere keuzes veranderen dat. Ongedaan maken verwijdert de waarde.</translation>
+</message>
+<message>
+<source>No known effect: neither Direct3D nor drivers read this value today.</source>
+<translation>Geen bekend effect: Direct3D noch stuurprogramma's lezen deze waarde nu.</translation>
+</message>
+<message>
+<source>May fix flickering and stutter; some videos may run worse. Said to have no effect since Windows 11 24H2. Needs a restart.</source>
+<translation>Kan flikkeren en haperen verhelpen; sommige video's worden slechter. Zou sinds Windows 11 24H2 niet werken. Vereist een herstart.</translation>
+</message>
+<message>
+<source>Of use with several AMD graphics cards only; its effect is uncertain. Needs a restart.</source>
+<translation>Alleen nuttig met meerdere AMD-kaarten; het effect is onzeker. Vereist een herstart.</translation>
+</message>
+<message>
+<source>Fewer svchost.exe processes, but services are less isolated from each other. Needs a restart.</source>
+<translation>Minder svchost.exe-processen, maar services zijn minder van elkaar gescheiden. Vereist een herstart.</translation>
+</message>
+<message>
+<source>Windows' default since version 1803: nothing changes. Taking it back switches the backup on.</source>
+<translation>De standaard sinds versie 1803: er verandert niets. Ongedaan maken zet de back-up aan.</translation>
+</message>
+<message>
+<source>Hides the button for advanced options only; indexing goes on.</source>
+<translation>Verbergt alleen de knop voor geavanceerde opties; het indexeren gaat door.</translation>
+</message>
+<message>
+<source>File History keeps no older versions of files any more. Recent files are still listed.</source>
+<translation>Bestandsgeschiedenis bewaart geen oudere versies meer. Recente bestanden blijven zichtbaar.</translation>
+</message>
+<message>
+<source>A right-click shows all entries, once Explorer has been restarted. Taking it back leaves the old menu.</source>
+<translation>Rechtsklikken toont alle items, zodra Verkenner opnieuw is gestart. Bij ongedaan maken blijft het oude menu.</translation>
+</message>
+<message>
+<source>Updates are no longer exchanged with other PCs.</source>
+<translation>Updates worden niet meer met andere pc's uitgewisseld.</translation>
+</message>
+<message>
+<source>Less data goes to Microsoft. Clipboard history (Win+V), location and error reports stop working too.</source>
+<translation>Er gaan minder gegevens naar Microsoft. Ook klembordgeschiedenis (Win+V), locatie en foutrapporten werken niet meer.</translation>
+</message>
+<message>
+<source>Menus open faster. At sign-out programs may be closed with unsaved work. Takes effect at the next sign-in.</source>
+<translation>Menu's openen sneller. Bij afmelden kunnen programma's met niet-opgeslagen werk worden gesloten. Werkt vanaf de volgende aanmelding.</translation>
+</message>
+<message>
+<source>Windows 11: removes the whole lock screen; some editions ignore it. Windows 10: nothing changes.</source>
+<translation>Windows 11: verwijdert het hele vergrendelingsscherm; sommige edities negeren dit. Windows 10: er verandert niets.</translation>
+</message>
+<message>
+<source>Search in Start and on the taskbar stops working. An update may bring it back while this box stays checked.</source>
+<translation>Zoeken in Start en op de taakbalk werkt niet meer. Een update kan het terugbrengen terwijl dit vakje aangevinkt blijft.</translation>
+</message>
+<message>
+<source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
+<translation>Werkt deels: twee taken blijven uit, maar de service komt bij de volgende aanmelding terug.</translation>
+</message>
 </context>
 </TS>

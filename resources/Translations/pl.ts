@@ -1875,5 +1875,141 @@ o systemie</translation>
 <source>You should launch this app with Admin rights!</source>
 <translation>Zaleca się uruchomienie tej aplikacji jako administrator!</translation>
 </message>
+<message>
+<source>No known effect on today's Windows: write caching is set for each drive elsewhere.</source>
+<translation>Brak znanego działania w obecnym systemie Windows: pamięć podręczną zapisu ustawia się gdzie indziej, dla każdego dysku.</translation>
+</message>
+<message>
+<source>No known effect: Windows doesn't read this value.</source>
+<translation>Brak znanego działania: system Windows nie odczytuje tej wartości.</translation>
+</message>
+<message>
+<source>Saves small writes: Windows no longer records when a file was last read. Needs a restart.</source>
+<translation>Oszczędza drobne zapisy: system Windows nie zapisuje już czasu ostatniego odczytu pliku. Wymaga ponownego uruchomienia.</translation>
+</message>
+<message>
+<source>Windows no longer preloads programs: they start more slowly at first, and an SSD gains nothing. Needs a restart.</source>
+<translation>System Windows nie ładuje już programów z wyprzedzeniem: pierwsze uruchomienia są wolniejsze, a SSD nic nie zyskuje. Wymaga ponownego uruchomienia.</translation>
+</message>
+<message>
+<source>Windows' default: nothing changes. Taking it back clears the page file at each shutdown, which takes minutes.</source>
+<translation>Ustawienie domyślne systemu Windows: nic się nie zmienia. Cofnięcie powoduje czyszczenie pliku stronicowania przy każdym zamknięciu, co trwa minuty.</translation>
+</message>
+<message>
+<source>Each start is a full one: it takes a little longer, and drivers start afresh.</source>
+<translation>Każde uruchomienie jest pełne: trwa nieco dłużej, a sterowniki startują od nowa.</translation>
+</message>
+<message>
+<source>Frees the space of hiberfil.sys. The PC can't hibernate any more, and fast startup goes too.</source>
+<translation>Zwalnia miejsce pliku hiberfil.sys. Komputer nie może już hibernować, znika też szybkie uruchamianie.</translation>
+</message>
+<message>
+<source>Takes all files out of the content index: search gets slower and finds less.</source>
+<translation>Usuwa wszystkie pliki z indeksu zawartości: wyszukiwanie jest wolniejsze i znajduje mniej.</translation>
+</message>
+<message>
+<source>No known effect since Windows XP.</source>
+<translation>Brak znanego działania od czasu Windows XP.</translation>
+</message>
+<message>
+<source>Small effect: only for games that register with Windows' multimedia scheduler.</source>
+<translation>Niewielki wpływ: tylko na gry zarejestrowane w harmonogramie multimediów systemu Windows.</translation>
+</message>
+<message>
+<source>No known effect: Windows reads this setting elsewhere.</source>
+<translation>Brak znanego działania: system Windows odczytuje to ustawienie gdzie indziej.</translation>
+</message>
+<message>
+<source>Windows' default: game mode is on already. Taking it back switches it off.</source>
+<translation>Ustawienie domyślne: tryb gry jest już włączony. Cofnięcie go wyłącza.</translation>
+</message>
+<message>
+<source>Windows no longer records or broadcasts games. Settings shows this as managed by your organization.</source>
+<translation>System Windows nie nagrywa już ani nie transmituje gier. Ustawienia pokazują to jako zarządzane przez organizację.</translation>
+</message>
+<message>
+<source>Windows 11: the default already, and taking it back forces the slower platform timer. Windows 10: no known effect.</source>
+<translation>Windows 11: już domyślne, a cofnięcie wymusza wolniejszy zegar platformy. Windows 10: brak znanego działania.</translation>
+</message>
+<message>
+<source>Partly effective: the Game Bar's tips and the Xbox button are off, but Win+G still opens it.</source>
+<translation>Działa częściowo: wskazówki Game Bar i przycisk Xbox są wyłączone, ale Win+G nadal ją otwiera.</translation>
+</message>
+<message>
+<source>Windows 11: the system timer never pauses, which costs power; needs a restart. Windows 10: nothing changes.</source>
+<translation>Windows 11: zegar systemowy nigdy się nie zatrzymuje, co zużywa energię; wymaga ponownego uruchomienia. Windows 10: nic się nie zmienia.</translation>
+</message>
+<message>
+<source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
+<translation>Wyświetla gry bez HDR w HDR. Resetuje inne ustawienia grafiki, np. zmienną częstotliwość odświeżania.</translation>
+</message>
+<message>
+<source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>
+<translation>Wskaźnik porusza się równomiernie z myszą. Działa od następnego logowania.</translation>
+</message>
+<message>
+<source>Partly effective: packets are acknowledged at once, not on connections with a fixed address. Needs a restart.</source>
+<translation>Działa częściowo: pakiety są potwierdzane od razu, nie przy stałym adresie. Wymaga ponownego uruchomienia.</translation>
+</message>
+<message>
+<source>38 is what Windows does by default; other choices change it. Taking it back deletes the value.</source>
+<translation>38 to domyślne działanie systemu Windows; inne wartości je zmieniają. Cofnięcie usuwa wartość.</translation>
+</message>
+<message>
+<source>No known effect: neither Direct3D nor drivers read this value today.</source>
+<translation>Brak znanego działania: ani Direct3D, ani sterowniki nie odczytują dziś tej wartości.</translation>
+</message>
+<message>
+<source>May fix flickering and stutter; some videos may run worse. Said to have no effect since Windows 11 24H2. Needs a restart.</source>
+<translation>Może usunąć migotanie i zacięcia; niektóre filmy mogą działać gorzej. Podobno nie działa od Windows 11 24H2. Wymaga ponownego uruchomienia.</translation>
+</message>
+<message>
+<source>Of use with several AMD graphics cards only; its effect is uncertain. Needs a restart.</source>
+<translation>Przydatne tylko przy kilku kartach AMD; działanie jest niepewne. Wymaga ponownego uruchomienia.</translation>
+</message>
+<message>
+<source>Fewer svchost.exe processes, but services are less isolated from each other. Needs a restart.</source>
+<translation>Mniej procesów svchost.exe, ale usługi są słabiej od siebie odizolowane. Wymaga ponownego uruchomienia.</translation>
+</message>
+<message>
+<source>Windows' default since version 1803: nothing changes. Taking it back switches the backup on.</source>
+<translation>Domyślne od wersji 1803: nic się nie zmienia. Cofnięcie włącza kopię zapasową.</translation>
+</message>
+<message>
+<source>Hides the button for advanced options only; indexing goes on.</source>
+<translation>Ukrywa tylko przycisk opcji zaawansowanych; indeksowanie trwa.</translation>
+</message>
+<message>
+<source>File History keeps no older versions of files any more. Recent files are still listed.</source>
+<translation>Historia plików nie przechowuje już starszych wersji. Ostatnie pliki są nadal wyświetlane.</translation>
+</message>
+<message>
+<source>A right-click shows all entries, once Explorer has been restarted. Taking it back leaves the old menu.</source>
+<translation>Kliknięcie prawym przyciskiem pokazuje wszystko, po ponownym uruchomieniu Eksploratora. Po cofnięciu stare menu zostaje.</translation>
+</message>
+<message>
+<source>Updates are no longer exchanged with other PCs.</source>
+<translation>Aktualizacje nie są już wymieniane z innymi komputerami.</translation>
+</message>
+<message>
+<source>Less data goes to Microsoft. Clipboard history (Win+V), location and error reports stop working too.</source>
+<translation>Mniej danych trafia do firmy Microsoft. Przestają też działać historia schowka (Win+V), lokalizacja i raporty o błędach.</translation>
+</message>
+<message>
+<source>Menus open faster. At sign-out programs may be closed with unsaved work. Takes effect at the next sign-in.</source>
+<translation>Menu otwierają się szybciej. Przy wylogowaniu programy mogą zostać zamknięte bez zapisania pracy. Działa od następnego logowania.</translation>
+</message>
+<message>
+<source>Windows 11: removes the whole lock screen; some editions ignore it. Windows 10: nothing changes.</source>
+<translation>Windows 11: usuwa cały ekran blokady; niektóre edycje to ignorują. Windows 10: nic się nie zmienia.</translation>
+</message>
+<message>
+<source>Search in Start and on the taskbar stops working. An update may bring it back while this box stays checked.</source>
+<translation>Wyszukiwanie w menu Start i na pasku zadań przestaje działać. Aktualizacja może je przywrócić, choć pole pozostanie zaznaczone.</translation>
+</message>
+<message>
+<source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
+<translation>Działa częściowo: dwa zadania pozostają wyłączone, ale usługa wraca przy następnym logowaniu.</translation>
+</message>
 </context>
 </TS>

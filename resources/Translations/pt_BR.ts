@@ -1875,5 +1875,141 @@ do sistema</translation>
 <source>You should launch this app with Admin rights!</source>
 <translation>É recomendável executar este aplicativo como administrador!</translation>
 </message>
+<message>
+<source>No known effect on today's Windows: write caching is set for each drive elsewhere.</source>
+<translation>Sem efeito conhecido no Windows atual: o cache de gravação é definido em outro lugar, por unidade.</translation>
+</message>
+<message>
+<source>No known effect: Windows doesn't read this value.</source>
+<translation>Sem efeito conhecido: o Windows não lê este valor.</translation>
+</message>
+<message>
+<source>Saves small writes: Windows no longer records when a file was last read. Needs a restart.</source>
+<translation>Evita pequenas gravações: o Windows não registra mais quando um arquivo foi lido pela última vez. Exige reinicialização.</translation>
+</message>
+<message>
+<source>Windows no longer preloads programs: they start more slowly at first, and an SSD gains nothing. Needs a restart.</source>
+<translation>O Windows não pré-carrega mais programas: a primeira inicialização fica mais lenta e um SSD não ganha nada. Exige reinicialização.</translation>
+</message>
+<message>
+<source>Windows' default: nothing changes. Taking it back clears the page file at each shutdown, which takes minutes.</source>
+<translation>Padrão do Windows: nada muda. Ao desfazer, o arquivo de paginação é limpo a cada desligamento, o que leva minutos.</translation>
+</message>
+<message>
+<source>Each start is a full one: it takes a little longer, and drivers start afresh.</source>
+<translation>Cada inicialização é completa: demora um pouco mais e os drivers recomeçam do zero.</translation>
+</message>
+<message>
+<source>Frees the space of hiberfil.sys. The PC can't hibernate any more, and fast startup goes too.</source>
+<translation>Libera o espaço de hiberfil.sys. O PC não pode mais hibernar, e a inicialização rápida também se perde.</translation>
+</message>
+<message>
+<source>Takes all files out of the content index: search gets slower and finds less.</source>
+<translation>Retira todos os arquivos do índice de conteúdo: a busca fica mais lenta e encontra menos.</translation>
+</message>
+<message>
+<source>No known effect since Windows XP.</source>
+<translation>Sem efeito conhecido desde o Windows XP.</translation>
+</message>
+<message>
+<source>Small effect: only for games that register with Windows' multimedia scheduler.</source>
+<translation>Efeito pequeno: só para jogos que se registram no agendador multimídia do Windows.</translation>
+</message>
+<message>
+<source>No known effect: Windows reads this setting elsewhere.</source>
+<translation>Sem efeito conhecido: o Windows lê esta configuração em outro lugar.</translation>
+</message>
+<message>
+<source>Windows' default: game mode is on already. Taking it back switches it off.</source>
+<translation>Padrão do Windows: o modo de jogo já está habilitado. Desfazer o desabilita.</translation>
+</message>
+<message>
+<source>Windows no longer records or broadcasts games. Settings shows this as managed by your organization.</source>
+<translation>O Windows não grava nem transmite mais jogos. Configurações mostra isso como gerenciado pela organização.</translation>
+</message>
+<message>
+<source>Windows 11: the default already, and taking it back forces the slower platform timer. Windows 10: no known effect.</source>
+<translation>Windows 11: já é o padrão, e desfazer força o temporizador da plataforma, mais lento. Windows 10: sem efeito conhecido.</translation>
+</message>
+<message>
+<source>Partly effective: the Game Bar's tips and the Xbox button are off, but Win+G still opens it.</source>
+<translation>Efeito parcial: as dicas da Game Bar e o botão Xbox ficam desabilitados, mas Win+G ainda a abre.</translation>
+</message>
+<message>
+<source>Windows 11: the system timer never pauses, which costs power; needs a restart. Windows 10: nothing changes.</source>
+<translation>Windows 11: o temporizador do sistema nunca para, o que gasta energia; exige reinicialização. Windows 10: nada muda.</translation>
+</message>
+<message>
+<source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
+<translation>Mostra em HDR jogos sem HDR. Redefine outras configurações gráficas, como a taxa variável.</translation>
+</message>
+<message>
+<source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>
+<translation>O ponteiro segue o mouse de modo uniforme. Efeito a partir do próximo logon.</translation>
+</message>
+<message>
+<source>Partly effective: packets are acknowledged at once, not on connections with a fixed address. Needs a restart.</source>
+<translation>Efeito parcial: os pacotes são confirmados na hora, exceto com endereço fixo. Exige reinicialização.</translation>
+</message>
+<message>
+<source>38 is what Windows does by default; other choices change it. Taking it back deletes the value.</source>
+<translation>38 é o que o Windows faz por padrão; os outros valores mudam isso. Desfazer exclui o valor.</translation>
+</message>
+<message>
+<source>No known effect: neither Direct3D nor drivers read this value today.</source>
+<translation>Sem efeito conhecido: nem o Direct3D nem os drivers leem este valor hoje.</translation>
+</message>
+<message>
+<source>May fix flickering and stutter; some videos may run worse. Said to have no effect since Windows 11 24H2. Needs a restart.</source>
+<translation>Pode corrigir cintilação e travamentos; alguns vídeos podem piorar. Dizem não ter efeito desde o Windows 11 24H2. Exige reinicialização.</translation>
+</message>
+<message>
+<source>Of use with several AMD graphics cards only; its effect is uncertain. Needs a restart.</source>
+<translation>Útil só com várias placas AMD; o efeito é incerto. Exige reinicialização.</translation>
+</message>
+<message>
+<source>Fewer svchost.exe processes, but services are less isolated from each other. Needs a restart.</source>
+<translation>Menos processos svchost.exe, mas serviços menos isolados entre si. Exige reinicialização.</translation>
+</message>
+<message>
+<source>Windows' default since version 1803: nothing changes. Taking it back switches the backup on.</source>
+<translation>Padrão do Windows desde a versão 1803: nada muda. Desfazer habilita o backup.</translation>
+</message>
+<message>
+<source>Hides the button for advanced options only; indexing goes on.</source>
+<translation>Só oculta o botão de opções avançadas; a indexação continua.</translation>
+</message>
+<message>
+<source>File History keeps no older versions of files any more. Recent files are still listed.</source>
+<translation>O Histórico de Arquivos não guarda mais versões antigas. Os arquivos recentes continuam listados.</translation>
+</message>
+<message>
+<source>A right-click shows all entries, once Explorer has been restarted. Taking it back leaves the old menu.</source>
+<translation>O clique direito mostra todos os itens, após reiniciar o Explorador. Ao desfazer, o menu antigo permanece.</translation>
+</message>
+<message>
+<source>Updates are no longer exchanged with other PCs.</source>
+<translation>As atualizações não são mais trocadas com outros PCs.</translation>
+</message>
+<message>
+<source>Less data goes to Microsoft. Clipboard history (Win+V), location and error reports stop working too.</source>
+<translation>Menos dados vão para a Microsoft. Também param o histórico da área de transferência (Win+V), a localização e os relatórios de erros.</translation>
+</message>
+<message>
+<source>Menus open faster. At sign-out programs may be closed with unsaved work. Takes effect at the next sign-in.</source>
+<translation>Os menus abrem mais rápido. Ao sair, programas com trabalho não salvo podem ser fechados. Efeito a partir do próximo logon.</translation>
+</message>
+<message>
+<source>Windows 11: removes the whole lock screen; some editions ignore it. Windows 10: nothing changes.</source>
+<translation>Windows 11: remove toda a tela de bloqueio; algumas edições ignoram isso. Windows 10: nada muda.</translation>
+</message>
+<message>
+<source>Search in Start and on the taskbar stops working. An update may bring it back while this box stays checked.</source>
+<translation>A busca no Iniciar e na barra de tarefas para de funcionar. Uma atualização pode trazê-la de volta com esta caixa ainda marcada.</translation>
+</message>
+<message>
+<source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
+<translation>Efeito parcial: duas tarefas ficam desabilitadas, mas o serviço volta no próximo logon.</translation>
+</message>
 </context>
 </TS>

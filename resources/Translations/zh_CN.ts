@@ -1875,5 +1875,141 @@ Information</source>
 <source>You should launch this app with Admin rights!</source>
 <translation>建议以管理员身份运行此应用！</translation>
 </message>
+<message>
+<source>No known effect on today's Windows: write caching is set for each drive elsewhere.</source>
+<translation>在当前的 Windows 上没有已知效果：写入缓存在别处按驱动器设置。</translation>
+</message>
+<message>
+<source>No known effect: Windows doesn't read this value.</source>
+<translation>没有已知效果：Windows 不读取此值。</translation>
+</message>
+<message>
+<source>Saves small writes: Windows no longer records when a file was last read. Needs a restart.</source>
+<translation>减少零碎写入：Windows 不再记录文件上次读取的时间。需要重新启动。</translation>
+</message>
+<message>
+<source>Windows no longer preloads programs: they start more slowly at first, and an SSD gains nothing. Needs a restart.</source>
+<translation>Windows 不再预加载程序：首次启动变慢，对 SSD 没有好处。需要重新启动。</translation>
+</message>
+<message>
+<source>Windows' default: nothing changes. Taking it back clears the page file at each shutdown, which takes minutes.</source>
+<translation>Windows 的默认设置：没有变化。撤销后，每次关机都会清除页面文件，需要数分钟。</translation>
+</message>
+<message>
+<source>Each start is a full one: it takes a little longer, and drivers start afresh.</source>
+<translation>每次都是完整启动：耗时稍长，驱动程序重新加载。</translation>
+</message>
+<message>
+<source>Frees the space of hiberfil.sys. The PC can't hibernate any more, and fast startup goes too.</source>
+<translation>释放 hiberfil.sys 占用的空间。电脑无法再休眠，快速启动也随之关闭。</translation>
+</message>
+<message>
+<source>Takes all files out of the content index: search gets slower and finds less.</source>
+<translation>将所有文件移出内容索引：搜索变慢，结果变少。</translation>
+</message>
+<message>
+<source>No known effect since Windows XP.</source>
+<translation>自 Windows XP 起没有已知效果。</translation>
+</message>
+<message>
+<source>Small effect: only for games that register with Windows' multimedia scheduler.</source>
+<translation>效果有限：仅对在 Windows 多媒体调度程序中注册的游戏有效。</translation>
+</message>
+<message>
+<source>No known effect: Windows reads this setting elsewhere.</source>
+<translation>没有已知效果：Windows 从别处读取此设置。</translation>
+</message>
+<message>
+<source>Windows' default: game mode is on already. Taking it back switches it off.</source>
+<translation>Windows 的默认设置：游戏模式已开启。撤销会将其关闭。</translation>
+</message>
+<message>
+<source>Windows no longer records or broadcasts games. Settings shows this as managed by your organization.</source>
+<translation>Windows 不再录制或广播游戏。“设置”会显示由组织管理。</translation>
+</message>
+<message>
+<source>Windows 11: the default already, and taking it back forces the slower platform timer. Windows 10: no known effect.</source>
+<translation>Windows 11：已是默认设置，撤销会强制使用较慢的平台计时器。Windows 10：没有已知效果。</translation>
+</message>
+<message>
+<source>Partly effective: the Game Bar's tips and the Xbox button are off, but Win+G still opens it.</source>
+<translation>部分有效：Game Bar 提示和 Xbox 按钮被禁用，但 Win+G 仍可打开它。</translation>
+</message>
+<message>
+<source>Windows 11: the system timer never pauses, which costs power; needs a restart. Windows 10: nothing changes.</source>
+<translation>Windows 11：系统计时器从不暂停，会增加耗电；需要重新启动。Windows 10：没有变化。</translation>
+</message>
+<message>
+<source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
+<translation>以 HDR 显示不支持 HDR 的游戏。会重置可变刷新率等其他图形设置。</translation>
+</message>
+<message>
+<source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>
+<translation>指针随鼠标匀速移动。下次登录后生效。</translation>
+</message>
+<message>
+<source>Partly effective: packets are acknowledged at once, not on connections with a fixed address. Needs a restart.</source>
+<translation>部分有效：立即确认数据包，固定地址的连接除外。需要重新启动。</translation>
+</message>
+<message>
+<source>38 is what Windows does by default; other choices change it. Taking it back deletes the value.</source>
+<translation>38 是 Windows 的默认行为；其他选项会改变它。撤销会删除该值。</translation>
+</message>
+<message>
+<source>No known effect: neither Direct3D nor drivers read this value today.</source>
+<translation>没有已知效果：如今 Direct3D 和驱动程序都不读取此值。</translation>
+</message>
+<message>
+<source>May fix flickering and stutter; some videos may run worse. Said to have no effect since Windows 11 24H2. Needs a restart.</source>
+<translation>可能解决闪烁和卡顿；部分视频可能变差。据称自 Windows 11 24H2 起无效。需要重新启动。</translation>
+</message>
+<message>
+<source>Of use with several AMD graphics cards only; its effect is uncertain. Needs a restart.</source>
+<translation>仅对多块 AMD 显卡有用；效果不确定。需要重新启动。</translation>
+</message>
+<message>
+<source>Fewer svchost.exe processes, but services are less isolated from each other. Needs a restart.</source>
+<translation>svchost.exe 进程减少，但服务之间的隔离减弱。需要重新启动。</translation>
+</message>
+<message>
+<source>Windows' default since version 1803: nothing changes. Taking it back switches the backup on.</source>
+<translation>自 1803 版起为默认设置：没有变化。撤销会开启备份。</translation>
+</message>
+<message>
+<source>Hides the button for advanced options only; indexing goes on.</source>
+<translation>仅隐藏高级选项按钮；索引仍会继续。</translation>
+</message>
+<message>
+<source>File History keeps no older versions of files any more. Recent files are still listed.</source>
+<translation>文件历史记录不再保留旧版本。最近使用的文件仍会列出。</translation>
+</message>
+<message>
+<source>A right-click shows all entries, once Explorer has been restarted. Taking it back leaves the old menu.</source>
+<translation>重启资源管理器后，右键显示所有条目。撤销后仍保留旧菜单。</translation>
+</message>
+<message>
+<source>Updates are no longer exchanged with other PCs.</source>
+<translation>不再与其他电脑交换更新。</translation>
+</message>
+<message>
+<source>Less data goes to Microsoft. Clipboard history (Win+V), location and error reports stop working too.</source>
+<translation>发送给 Microsoft 的数据减少。剪贴板历史记录（Win+V）、定位和错误报告也将停用。</translation>
+</message>
+<message>
+<source>Menus open faster. At sign-out programs may be closed with unsaved work. Takes effect at the next sign-in.</source>
+<translation>菜单打开更快。注销时，未保存工作的程序可能被关闭。下次登录后生效。</translation>
+</message>
+<message>
+<source>Windows 11: removes the whole lock screen; some editions ignore it. Windows 10: nothing changes.</source>
+<translation>Windows 11：移除整个锁屏界面；某些版本会忽略。Windows 10：没有变化。</translation>
+</message>
+<message>
+<source>Search in Start and on the taskbar stops working. An update may bring it back while this box stays checked.</source>
+<translation>“开始”菜单和任务栏中的搜索将无法使用。更新可能会恢复它，而此框仍保持选中。</translation>
+</message>
+<message>
+<source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
+<translation>部分有效：两个任务保持禁用，但服务会在下次登录时恢复。</translation>
+</message>
 </context>
 </TS>

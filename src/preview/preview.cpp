@@ -89,6 +89,7 @@ QList<PreviewItem> previewItems(Machine &before, Machine &optimized, Machine &re
         item.group = words.group;
         item.title = words.title;
         item.about = words.about;
+        item.after = words.after;
         item.name = words.name;
         item.details.append({words.detail, words.place, sideInWords(words, three.row.before),
                              sideInWords(words, three.row.after), sideInWords(words, three.restored),

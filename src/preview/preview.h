@@ -40,6 +40,7 @@ struct PreviewItem
     QString about; ///< what it is there for; often empty
     QString name;  ///< what the system calls it; empty where the title says it
     QList<PreviewDetail> details;
+    QString after{}; ///< what is known of what Restore leaves; often empty
 
     /** The least favourable of its details. */
     Restorability comesBack() const;

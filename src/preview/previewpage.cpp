@@ -103,7 +103,7 @@ QString itemHtml(const PreviewItem &item)
             + sideHtml("After Restore"_L1, sides.restored)
             + u"<span class=\"badge\">%1</span></summary>\n<div class=\"body\">\n"_s.arg(counted ? verdict.one
                                                                                                  : "not counted"_L1);
-    if (const QString why = whyOf(item.group, verdict.value); counted && !why.isEmpty())
+    if (const QString why = whyOf(item); counted && !why.isEmpty())
         html += u"<p class=\"why\">%1</p>\n"_s.arg(why.toHtmlEscaped());
     html += u"<table><thead><tr><th>What</th><th>Before</th><th>After Optimize</th><th>After Restore</th>"
             "<th>Verdict</th></tr></thead><tbody>\n"_s;

@@ -66,7 +66,7 @@ QJsonObject itemJson(const PreviewItem &item)
             {u"optimized"_s, sides.optimized},
             {u"restored"_s, sides.restored},
             {u"comesBack"_s, textsOf(item.comesBack()).word},
-            {u"why"_s, whyOf(item.group, item.comesBack())},
+            {u"why"_s, whyOf(item)},
             {u"details"_s, details}};
 }
 

@@ -88,6 +88,11 @@ QString joined(const QStringList &parts)
     return said.join(u", "_s);
 }
 
+QString joinedWords(const QString &sentence, const QString &more)
+{
+    return sentence.isEmpty() || more.isEmpty() ? sentence + more : sentence + u' ' + more;
+}
+
 /** One side of all details, by a pointer to the member that holds it. */
 using Side = QString PreviewDetail::*;
 
@@ -201,13 +206,16 @@ const GroupTexts &textsOf(PreviewGroup group)
                          [group](const GroupTexts &row) { return row.group == group; });
 }
 
-QString whyOf(PreviewGroup group, Restorability value)
+QString whyOf(const PreviewItem &item)
 {
+    const Restorability value = item.comesBack();
+    QString why;
     for (const WhyRow &row : whyRows) {
-        if (row.group == group && row.value == value)
-            return row.why;
+        if (row.group == item.group && row.value == value)
+            why = row.why;
     }
-    return QString();
+    // What comes back exactly has no more to say for itself.
+    return value == Restorability::Exactly ? why : joinedWords(why, item.after);
 }
 
 bool countsAsChange(const PreviewItem &item)

@@ -34,8 +34,8 @@ struct GroupTexts
 std::span<const GroupTexts> allGroups();
 const GroupTexts &textsOf(PreviewGroup group);
 
-/** Why an item of the group comes back so; empty where the verdict says it all. */
-QString whyOf(PreviewGroup group, Restorability value);
+/** Why an item comes back so, and what is known of that; empty where the verdict says it all. */
+QString whyOf(const PreviewItem &item);
 
 /** Kestrune's own records are no change of the PC and count for nothing. */
 bool countsAsChange(const PreviewItem &item);

@@ -215,7 +215,11 @@ PreviewWords fileWords(const DiffRow &row)
 
 PreviewWords tweakValueWords(const TweakWords &tweak, const DiffRow &row)
 {
-    PreviewWords words{.group = PreviewGroup::Tweaks, .item = tweak.title, .title = tweak.title, .about = tweak.about};
+    PreviewWords words{.group = PreviewGroup::Tweaks,
+                       .item = tweak.title,
+                       .title = tweak.title,
+                       .about = tweak.about,
+                       .after = tweak.takingBack};
     putValue(words, row);
     if (row.kind == DiffKind::Registry)
         return words;

@@ -14,6 +14,7 @@ struct PreviewWords
     QString item{};   ///< tells items of a group apart
     QString title{};  ///< of the item
     QString about{};  ///< of the item: what it is there for
+    QString after{};  ///< of the item: what is known of its state after Restore
     QString name{};   ///< of the item, as the system has it
     QString detail{}; ///< which of the item's values this is
     QString place{};  ///< the exact key or path of the value
@@ -36,8 +37,9 @@ QString startModeInWords(const QString &value);
 
 struct TweakWords
 {
-    QString title; ///< its text on the Features page, shortened to its first sentence
-    QString about; ///< what that is good for, or costs
+    QString title;      ///< its text on the Features page, shortened to its first sentence
+    QString about;      ///< what that does today, and what it costs
+    QString takingBack; ///< what taking it back leaves
 };
 
 /** The tweak's box on the Features page ("chkSsd1"); empty where the row is of none. */

@@ -4,6 +4,7 @@
 
 #include "machine/compare/diffrow.h"
 #include "machine/registrystore.h"
+#include "work/tweaks/tweakcatalogue.h"
 #include "work/tweaks/tweakvalues.h"
 
 #include <algorithm>
@@ -17,79 +18,44 @@ struct TweakRow
 {
     QLatin1StringView box;
     QLatin1StringView title;
-    QLatin1StringView about;
 };
 
 // clang-format off
 constexpr TweakRow tweakRows[] = {
-    {"chkSsd1"_L1, "Disable Windows write-cache buffer flushing"_L1,
-     "The drive keeps data in its own memory a little longer instead of writing it at once"_L1},
-    {"chkSsd2"_L1, "Disable automatic boot disk optimization"_L1,
-     "Windows no longer sorts the files that it needs to start"_L1},
-    {"chkSsd3"_L1, "Disable last access time stamps"_L1,
-     "Windows no longer notes when a file was last read"_L1},
-    {"chkSsd4"_L1, "Disable Prefetcher"_L1,
-     "Windows no longer loads programs before they are started"_L1},
-    {"chkSsd5"_L1, "Disable clearing of virtual memory swap file on every shutdown"_L1,
-     "The PC shuts down faster, and the swap file keeps what was in it"_L1},
-    {"chkSsd6"_L1, "Disable fast start-up"_L1,
-     "The PC starts from scratch, which a fast drive does quickly"_L1},
-    {"chkSsd7"_L1, "Disable hibernation mode"_L1,
-     "Frees the space of hiberfil.sys; the PC can't hibernate any more"_L1},
-    {"chkSsd8"_L1, "Remove the indexed attribute from all files in the Windows partition"_L1,
-     "The search reads the drive instead of an index of it"_L1},
-    {"chkSsd9"_L1, "Increase maximum amount of physical memory that can be locked for I/O operations"_L1,
-     "More memory for reading and writing at once"_L1},
-    {"chkGaming1"_L1, "Prioritize games"_L1,
-     "Games get more of the processor, the graphics card and the drive than other programs"_L1},
-    {"chkGaming2"_L1, "Disable CPU power throttling"_L1,
-     "Background programs run at full speed too; costs battery on a laptop"_L1},
-    {"chkGaming3"_L1, "Enable game mode"_L1,
-     "Windows favours the game that is in front"_L1},
-    {"chkGaming4"_L1, "Disable game recording and broadcasting"_L1,
-     "No recording in the background while a game runs"_L1},
-    {"chkGaming5"_L1, "Disable HPET"_L1,
-     "High Precision Event Timer: the processor's own counter is used, which may be faster in games"_L1},
-    {"chkGaming6"_L1, "Disable Gamebar"_L1,
-     "The overlay that Win+G opens"_L1},
-    {"chkGaming7"_L1, "Disable dynamic tick of system timers"_L1,
-     "The timer ticks on while the PC idles; costs battery on a laptop"_L1},
-    {"chkGaming8"_L1, "Enable Auto HDR"_L1,
-     "Shows games without HDR in HDR"_L1},
-    {"chkGaming9"_L1, "Disable enhance pointer precision"_L1,
-     "The pointer follows the mouse at one speed"_L1},
-    {"chkGaming10"_L1, "Disable Nagle’s Algorithm"_L1,
-     "Small network packets are sent at once"_L1},
-    {"chkGaming11"_L1, "Processor time allocated to applications"_L1,
-     "Win32PrioritySeparation: how long a program may run before the next one's turn"_L1},
-    {"chkGaming12"_L1, "Set the maximum number of GPU pre-rendered frames to 1"_L1,
-     "Less delay between the mouse and the picture"_L1},
-    {"chkGaming13"_L1, "Disable Multiplane Overlay (MPO)"_L1,
-     "May fix flicker and stutter; some videos and full-screen games may run worse"_L1},
-    {"chkGaming14"_L1, "Disable ULPS"_L1,
-     "Ultra Low Power State of AMD graphics cards: they stay awake"_L1},
-    {"chkWindows1"_L1, "Disable SvcHost splitting"_L1,
-     "Services share fewer svchost.exe processes"_L1},
-    {"chkWindows2"_L1, "Disable periodic registry backup"_L1,
-     "Windows no longer copies the registry at intervals"_L1},
-    {"chkWindows3"_L1, "Disable advanced indexing options"_L1,
-     "Takes the advanced page out of the indexing options"_L1},
-    {"chkWindows4"_L1, "Disable files history"_L1,
-     "No older versions of files are kept, and recent files aren't listed"_L1},
-    {"chkWindows5"_L1, "Enable the context menu like Windows 10"_L1,
-     "A right click shows all entries at once"_L1},
-    {"chkWindows6"_L1, "Disable distribution optimization of Windows updates"_L1,
-     "Windows no longer fetches updates from other PCs, nor sends them there"_L1},
-    {"chkWindows7"_L1, "Disable telemetry"_L1,
-     "Less data about the PC and its use goes to Microsoft"_L1},
-    {"chkWindows8"_L1, "Reduces certain delays"_L1,
-     "Menus open faster, and programs that hang are closed sooner"_L1},
-    {"chkWindows9"_L1, "Disable LockApp.exe"_L1,
-     "The screen with picture and clock before signing in"_L1},
-    {"chkWindows10"_L1, "Disable the search program"_L1,
-     "SearchHost.exe, the process behind the search field"_L1},
-    {"chkWindows12"_L1, "Disable cloud backup and restore functionalities"_L1,
-     "Settings and lists of applications are no longer kept in the cloud"_L1},
+    {"chkSsd1"_L1, "Disable Windows write-cache buffer flushing"_L1},
+    {"chkSsd2"_L1, "Disable automatic boot disk optimization"_L1},
+    {"chkSsd3"_L1, "Disable last access time stamps"_L1},
+    {"chkSsd4"_L1, "Disable Prefetcher"_L1},
+    {"chkSsd5"_L1, "Disable clearing of virtual memory swap file on every shutdown"_L1},
+    {"chkSsd6"_L1, "Disable fast start-up"_L1},
+    {"chkSsd7"_L1, "Disable hibernation mode"_L1},
+    {"chkSsd8"_L1, "Remove the indexed attribute from all files in the Windows partition"_L1},
+    {"chkSsd9"_L1, "Increase maximum amount of physical memory that can be locked for I/O operations"_L1},
+    {"chkGaming1"_L1, "Prioritize games"_L1},
+    {"chkGaming2"_L1, "Disable CPU power throttling"_L1},
+    {"chkGaming3"_L1, "Enable game mode"_L1},
+    {"chkGaming4"_L1, "Disable game recording and broadcasting"_L1},
+    {"chkGaming5"_L1, "Disable HPET"_L1},
+    {"chkGaming6"_L1, "Disable Gamebar"_L1},
+    {"chkGaming7"_L1, "Disable dynamic tick of system timers"_L1},
+    {"chkGaming8"_L1, "Enable Auto HDR"_L1},
+    {"chkGaming9"_L1, "Disable enhance pointer precision"_L1},
+    {"chkGaming10"_L1, "Disable Nagle’s Algorithm"_L1},
+    {"chkGaming11"_L1, "Processor time allocated to applications"_L1},
+    {"chkGaming12"_L1, "Set the maximum number of GPU pre-rendered frames to 1"_L1},
+    {"chkGaming13"_L1, "Disable Multiplane Overlay (MPO)"_L1},
+    {"chkGaming14"_L1, "Disable ULPS"_L1},
+    {"chkWindows1"_L1, "Disable SvcHost splitting"_L1},
+    {"chkWindows2"_L1, "Disable periodic registry backup"_L1},
+    {"chkWindows3"_L1, "Disable advanced indexing options"_L1},
+    {"chkWindows4"_L1, "Disable files history"_L1},
+    {"chkWindows5"_L1, "Enable the context menu like Windows 10"_L1},
+    {"chkWindows6"_L1, "Disable distribution optimization of Windows updates"_L1},
+    {"chkWindows7"_L1, "Disable telemetry"_L1},
+    {"chkWindows8"_L1, "Reduces certain delays"_L1},
+    {"chkWindows9"_L1, "Disable LockApp.exe"_L1},
+    {"chkWindows10"_L1, "Disable the search program"_L1},
+    {"chkWindows12"_L1, "Disable cloud backup and restore functionalities"_L1},
 };
 
 /** What tweaks change besides the values of their tables. */
@@ -181,5 +147,6 @@ TweakWords tweakWords(const QString &box)
     const auto text = [](QLatin1StringView utf8) { return QString::fromUtf8(utf8.data(), utf8.size()); };
     const auto tweak = std::find_if(std::begin(tweakRows), std::end(tweakRows),
                                     [&box](const TweakRow &row) { return row.box == box; });
-    return tweak == std::end(tweakRows) ? TweakWords() : TweakWords{text(tweak->title), text(tweak->about)};
+    const TweakKnowledge known = knowledgeOf(box);
+    return tweak == std::end(tweakRows) ? TweakWords() : TweakWords{text(tweak->title), known.tip, known.takingBack};
 }

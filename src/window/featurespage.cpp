@@ -6,6 +6,7 @@
 #include "elevation.h"
 #include "messagebox.h"
 #include "platform/platform.h"
+#include "rowtext.h"
 #include "work/settings.h"
 #include "work/tweaks/tweakcatalogue.h"
 #include "work/windowsname.h"
@@ -40,6 +41,7 @@ void Kestrune::showFeaturesPage()
         }
         ui.chkWindows10->setText(ui.chkWindows10->text().replace("SearchHost.exe"_L1, "SearchApp.exe"_L1));
     }
+    explainTweaks();
     // In this order: the first showing marks nothing. A later one finds the marks connected, so that from then on all
     // boxes stored as checked count as touched.
     loadTweakState();
@@ -47,6 +49,13 @@ void Kestrune::showFeaturesPage()
     if (openSettings()->value(u"GetWinSxsSize"_s, 1).toInt() != 0)
         workThreadWinSxs->startJob(JobWinSxsSize);
     showHibernationGain();
+}
+
+/** Tool tips with what is known of each option, before anybody clicks. */
+void Kestrune::explainTweaks()
+{
+    for (const TweakBox &box : tweakBoxes())
+        checkBoxOf(box)->setToolTip(wrappedText(tr(knowledgeOf(box.name).tip.toUtf8().constData())));
 }
 
 void Kestrune::showHibernationGain()

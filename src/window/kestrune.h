@@ -226,6 +226,7 @@ private:
 
     // Features page
     void showFeaturesPage();
+    void explainTweaks();
     void showHibernationGain();
     QCheckBox *checkBoxOf(const TweakBox &box) const;
     void loadTweakState();

@@ -60,6 +60,7 @@ public:
     }
     QComboBox *languages() const { return get<QComboBox>(u"cbOptionsLang"_s); }
     QString tasksButton() const { return button(u"btnMenuTask"_s)->text(); }
+    QString toolTip(const QString &box) const { return get<QWidget>(box)->toolTip(); }
     bool isIdle() const { return !worker().isRunning(); }
 };
 
@@ -94,6 +95,7 @@ private Q_SLOTS:
     void languageChangesOnEveryPage_data();
     void languageChangesOnEveryPage();
     void textsSetByAPageComeBackWhenItIsShown();
+    void optionsExplainThemselvesInTheNewLanguage();
     void keepListSpeaksTheNewLanguageWithItsStates();
     void buildDateIsWrittenInTheLanguage();
 
@@ -241,6 +243,21 @@ void TestLanguage::textsSetByAPageComeBackWhenItIsShown()
     driver.window().showPage(4);
     QTRY_VERIFY_WITH_TIMEOUT(driver.isIdle(), patience);
     QCOMPARE(driver.button(u"btnPackagesUninst"_s)->text(), u"Désinstaller les packages"_s);
+}
+
+void TestLanguage::optionsExplainThemselvesInTheNewLanguage()
+{
+    const TestMachine pc(TestMachine::Windows::Eleven);
+    const LanguageDriver driver;
+    driver.choose(English);
+    driver.window().showPage(5);
+    QCOMPARE(driver.toolTip(u"chkSsd9"_s), u"No known effect since Windows XP."_s);
+    driver.choose(French);
+    QCOMPARE(driver.toolTip(u"chkSsd9"_s), u"Sans effet connu depuis Windows XP."_s);
+    // A long one wraps.
+    QVERIFY(driver.toolTip(u"chkWindows10"_s).startsWith(u"<span>"_s));
+    driver.choose(Auto);
+    QCOMPARE(driver.toolTip(u"chkSsd9"_s), u"Seit Windows XP keine bekannte Wirkung."_s);
 }
 
 void TestLanguage::keepListSpeaksTheNewLanguageWithItsStates()

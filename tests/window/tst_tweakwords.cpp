@@ -7,6 +7,9 @@
 #include "work/tweaks/tweakcatalogue.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -31,6 +34,7 @@ private Q_SLOTS:
     void formBeginsWithTheWords_data();
     void formBeginsWithTheWords();
     void otherNamesHaveNoWords();
+    void eachOptionIsKnown();
 };
 
 void TestTweakWords::formBeginsWithTheWords_data()
@@ -63,6 +67,37 @@ void TestTweakWords::otherNamesHaveNoWords()
 {
     for (const QString &name : {u"chkSsd"_s, u"chkSsd10"_s, u"chkWindows11"_s, QString()})
         QVERIFY2(tweakWords(name).title.isEmpty(), qPrintable(name));
+}
+
+/** The table has all boxes once, and says all that it must of each, in words that can be told apart. */
+void TestTweakWords::eachOptionIsKnown()
+{
+    QFile file(QStringLiteral(KESTRUNE_KNOWLEDGE));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonArray options = QJsonDocument::fromJson(file.readAll())[u"options"_s].toArray();
+    QStringList boxes;
+    for (const TweakBox &box : tweakBoxes())
+        boxes.append(box.name);
+    QStringList known;
+    const QStringList effects{u"works"_s, u"partly"_s, u"default"_s, u"none"_s, u"unsure"_s};
+    const QStringList needs{u"none"_s, u"restart"_s, u"sign-out"_s, u"explorer"_s};
+    for (const QJsonValue option : options) {
+        const QString box = option[u"box"_s].toString();
+        known.append(box);
+        for (const char *text : {"writes", "tip", "takingBack"})
+            QVERIFY2(!option[QLatin1StringView(text)].toString().isEmpty(), qPrintable(box));
+        QVERIFY2(effects.contains(option[u"effect"_s].toString()), qPrintable(box));
+        QVERIFY2(needs.contains(option[u"needs"_s].toString()), qPrintable(box));
+        QVERIFY2(!option[u"sources"_s].toArray().isEmpty(), qPrintable(box));
+        // A restart that an effect needs is said where people look.
+        const QString tip = option[u"tip"_s].toString();
+        const bool says = tip.contains(u"restart"_s);
+        const bool takesEffect = option[u"effect"_s] == "works"_L1 || option[u"effect"_s] == "partly"_L1;
+        QVERIFY2(!takesEffect || says == (option[u"needs"_s] == "restart"_L1 || option[u"needs"_s] == "explorer"_L1),
+                 qPrintable(box));
+        QCOMPARE(knowledgeOf(box).tip, tip);
+    }
+    QCOMPARE(known, boxes);
 }
 
 KESTRUNE_WINDOW_SUITE(TestTweakWords)
