@@ -245,6 +245,65 @@ void doSomething(WorkThread &worker, QRandomGenerator &random)
     }
 }
 
+/** The values that Optimize and all tweaks touch, by their keys. */
+const QList<std::pair<QString, QString>> &touchedValues()
+{
+    static const QList<std::pair<QString, QString>> places = [] {
+        const AutomatizerMachine pc;
+        const QTemporaryDir beside;
+        copyMachine(pc.machine(), beside.filePath(u"before"_s));
+        WorkerOn worker(onEleven);
+        optimizeAll(worker);
+        for (const TweakBox &box : tweakBoxes())
+            (worker.*box.tweak)(1, box.id);
+        QList<std::pair<QString, QString>> found;
+        const auto before = Machine::open(beside.filePath(u"before"_s));
+        eachRegistryDifference(before->registry(), pc.machine().registry(), [&found](const RegistryDifference &each) {
+            const bool isOwn = each.key.startsWith(settingsKey);
+            const bool isTold = each.before || each.after;
+            if (isTold && !isOwn)
+                found.append({each.key, each.before ? each.before->name : each.after->name});
+        });
+        return found;
+    }();
+    return places;
+}
+
+/** A value of any type, with bytes that needn't fit it. */
+RegistryValue anyValue(const QString &name, QRandomGenerator &random)
+{
+    constexpr RegistryType types[] = {RegistryType::String, RegistryType::ExpandString, RegistryType::Binary,
+                                      RegistryType::DWord,  RegistryType::MultiString,  RegistryType::QWord};
+    QByteArray bytes(random.bounded(12), 0);
+    for (char &byte : bytes)
+        byte = static_cast<char>(random.bounded(256));
+    return {name, types[random.bounded(static_cast<int>(std::size(types)))], bytes};
+}
+
+/** Makes a PC of it that nobody has thought of: what will be changed is there or not, and of any kind. */
+void disarrange(Machine &machine, QRandomGenerator &random)
+{
+    RegistryStore &registry = machine.registry();
+    for (const auto &[key, name] : touchedValues()) {
+        // What a service or a package is made of decides what the tools say; that has tests of its own.
+        const bool isOfTool = key.contains("\\Services\\"_L1) || key.contains("\\Packages\\"_L1);
+        if (isOfTool || random.bounded(3) == 0)
+            continue;
+        if (random.bounded(3) == 0) {
+            if (const auto found = registry.find(key))
+                registry.removeValue(*found, name);
+        } else {
+            registry.setValue(*registry.make(key), anyValue(name, random));
+        }
+    }
+    for (const QString &service : registry.subkeys(*registry.find(servicesKey))) {
+        const quint32 start = StartAutomatic + static_cast<quint32>(random.bounded(3));
+        registry.setValue(*registry.find(servicesKey + u'\\' + service),
+                          {u"Start"_s, RegistryType::DWord, registryDWord(start)});
+        machine.setRunning(service, random.bounded(2) == 1);
+    }
+}
+
 } // namespace
 
 class TestTakeBack : public QObject
@@ -259,6 +318,8 @@ private Q_SLOTS:
     void aRestoreComesBackToo();
     void whateverWasDoneComesBack_data();
     void whateverWasDoneComesBack();
+    void onWhateverMachine_data();
+    void onWhateverMachine();
     void anEarlierSessionComesBackOnceTheLaterOneIsBack();
     void atWhateverMomentItEnds();
 };
@@ -338,6 +399,32 @@ void TestTakeBack::whateverWasDoneComesBack()
     constexpr int deeds = 12;
     QRandomGenerator random(seed);
     const AutomatizerMachine pc;
+    Journaled journaled(pc);
+    for (int deed = 0; deed < deeds; ++deed) {
+        WorkerOn worker(onEleven);
+        doSomething(worker, random);
+        if (random.bounded(4) == 0)
+            journaled.open();
+    }
+    QCOMPARE(journaled.takeAllBack().join(u'\n'), QString());
+    QCOMPARE(journaled.differences().join(u'\n'), QString());
+}
+
+void TestTakeBack::onWhateverMachine_data()
+{
+    addColumns<quint32>("seed");
+    for (quint32 seed = 1; seed <= (isThorough() ? 100U : 4U); ++seed)
+        QTest::addRow("%u", seed) << seed;
+}
+
+void TestTakeBack::onWhateverMachine()
+{
+    QFETCH(const quint32, seed);
+    constexpr int deeds = 8;
+    QVERIFY(touchedValues().size() > 100);
+    QRandomGenerator random(seed);
+    const AutomatizerMachine pc;
+    disarrange(pc.machine(), random);
     Journaled journaled(pc);
     for (int deed = 0; deed < deeds; ++deed) {
         WorkerOn worker(onEleven);
