@@ -385,8 +385,8 @@
 <translation>Eine Vorschau braucht den Ordner „rehearse“ dieser App, und den gibt es hier nicht.</translation>
 </message>
 <message>
-<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
-<translation>Windows wurde seither von Build %1 auf %2 aktualisiert: %3 Änderungen gelten nicht mehr.</translation>
+<source>Windows was updated from build %1 to %2 since. No longer in force: %3.</source>
+<translation>Windows wurde seither von Build %1 auf %2 aktualisiert. Nicht mehr in Kraft: %3.</translation>
 </message>
 <message>
 <source>automatic (delayed)</source>
@@ -427,6 +427,10 @@
 <message>
 <source>but not as before</source>
 <translation>aber nicht wie zuvor</translation>
+</message>
+<message>
+<source>Before the journal, not exact</source>
+<translation>Vor dem Journal, nicht genau</translation>
 </message>
 <message>
 <source>&amp;Take back</source>

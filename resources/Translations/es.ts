@@ -385,8 +385,8 @@
 <translation>La vista previa necesita la carpeta «rehearse» de esta aplicación, que no está.</translation>
 </message>
 <message>
-<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
-<translation>Windows se ha actualizado desde entonces de la compilación %1 a la %2: %3 cambios ya no están en vigor.</translation>
+<source>Windows was updated from build %1 to %2 since. No longer in force: %3.</source>
+<translation>Desde entonces Windows pasó de la compilación %1 a la %2. Ya no en vigor: %3.</translation>
 </message>
 <message>
 <source>automatic (delayed)</source>
@@ -427,6 +427,10 @@
 <message>
 <source>but not as before</source>
 <translation>pero no como antes</translation>
+</message>
+<message>
+<source>Before the journal, not exact</source>
+<translation>Antes del diario, no exacto</translation>
 </message>
 <message>
 <source>&amp;Take back</source>

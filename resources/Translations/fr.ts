@@ -385,8 +385,8 @@
 <translation>Un aperçu exige le dossier « rehearse » de cette application, qui est absent.</translation>
 </message>
 <message>
-<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
-<translation>Windows est passé depuis de la build %1 à la %2 : %3 modifications ne sont plus en vigueur.</translation>
+<source>Windows was updated from build %1 to %2 since. No longer in force: %3.</source>
+<translation>Windows est passé depuis de la build %1 à la %2. Plus en vigueur : %3.</translation>
 </message>
 <message>
 <source>automatic (delayed)</source>
@@ -427,6 +427,10 @@
 <message>
 <source>but not as before</source>
 <translation>mais pas comme avant</translation>
+</message>
+<message>
+<source>Before the journal, not exact</source>
+<translation>Avant le journal, pas exact</translation>
 </message>
 <message>
 <source>&amp;Take back</source>

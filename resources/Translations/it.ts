@@ -385,8 +385,8 @@
 <translation>Un’anteprima richiede la cartella «rehearse» di questa app, che manca.</translation>
 </message>
 <message>
-<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
-<translation>Da allora Windows è passato dalla build %1 alla %2: %3 modifiche non sono più in vigore.</translation>
+<source>Windows was updated from build %1 to %2 since. No longer in force: %3.</source>
+<translation>Da allora Windows è passato dalla build %1 alla %2. Non più in vigore: %3.</translation>
 </message>
 <message>
 <source>automatic (delayed)</source>
@@ -427,6 +427,10 @@
 <message>
 <source>but not as before</source>
 <translation>ma non come prima</translation>
+</message>
+<message>
+<source>Before the journal, not exact</source>
+<translation>Prima del registro, non esatto</translation>
 </message>
 <message>
 <source>&amp;Take back</source>

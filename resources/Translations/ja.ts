@@ -385,8 +385,8 @@
 <translation>プレビューにはこのアプリの「rehearse」フォルダーが必要ですが、見つかりません。</translation>
 </message>
 <message>
-<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
-<translation>その後 Windows はビルド %1 から %2 に更新され、%3 件の変更が無効になりました。</translation>
+<source>Windows was updated from build %1 to %2 since. No longer in force: %3.</source>
+<translation>その後 Windows はビルド %1 から %2 に更新されました。無効になった変更: %3。</translation>
 </message>
 <message>
 <source>automatic (delayed)</source>
@@ -427,6 +427,10 @@
 <message>
 <source>but not as before</source>
 <translation>ただし元どおりではない</translation>
+</message>
+<message>
+<source>Before the journal, not exact</source>
+<translation>記録を始める前 (正確ではない)</translation>
 </message>
 <message>
 <source>&amp;Take back</source>

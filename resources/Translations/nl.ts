@@ -385,8 +385,8 @@
 <translation>Een voorbeeld heeft de map “rehearse” van deze app nodig, en die is er niet.</translation>
 </message>
 <message>
-<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
-<translation>Windows is sindsdien van build %1 naar %2 bijgewerkt: %3 wijzigingen zijn niet meer van kracht.</translation>
+<source>Windows was updated from build %1 to %2 since. No longer in force: %3.</source>
+<translation>Windows is sindsdien van build %1 naar %2 bijgewerkt. Niet meer van kracht: %3.</translation>
 </message>
 <message>
 <source>automatic (delayed)</source>
@@ -427,6 +427,10 @@
 <message>
 <source>but not as before</source>
 <translation>maar niet zoals eerst</translation>
+</message>
+<message>
+<source>Before the journal, not exact</source>
+<translation>Vóór het logboek, niet precies</translation>
 </message>
 <message>
 <source>&amp;Take back</source>

@@ -385,8 +385,8 @@
 <translation>Podgląd wymaga folderu „rehearse” tej aplikacji, którego tu nie ma.</translation>
 </message>
 <message>
-<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
-<translation>Od tego czasu system Windows zaktualizowano z kompilacji %1 do %2: %3 zmian już nie obowiązuje.</translation>
+<source>Windows was updated from build %1 to %2 since. No longer in force: %3.</source>
+<translation>Od tego czasu system Windows przeszedł z kompilacji %1 na %2. Już nie obowiązuje: %3.</translation>
 </message>
 <message>
 <source>automatic (delayed)</source>
@@ -427,6 +427,10 @@
 <message>
 <source>but not as before</source>
 <translation>ale nie jak przedtem</translation>
+</message>
+<message>
+<source>Before the journal, not exact</source>
+<translation>Przed dziennikiem, niedokładnie</translation>
 </message>
 <message>
 <source>&amp;Take back</source>

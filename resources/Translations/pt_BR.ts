@@ -385,8 +385,8 @@
 <translation>A prévia precisa da pasta “rehearse” deste aplicativo, que não está aqui.</translation>
 </message>
 <message>
-<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
-<translation>Desde então o Windows foi atualizado da compilação %1 para a %2: %3 mudanças não estão mais em vigor.</translation>
+<source>Windows was updated from build %1 to %2 since. No longer in force: %3.</source>
+<translation>Desde então o Windows passou da compilação %1 para a %2. Não mais em vigor: %3.</translation>
 </message>
 <message>
 <source>automatic (delayed)</source>
@@ -427,6 +427,10 @@
 <message>
 <source>but not as before</source>
 <translation>mas não como antes</translation>
+</message>
+<message>
+<source>Before the journal, not exact</source>
+<translation>Antes do diário, não exato</translation>
 </message>
 <message>
 <source>&amp;Take back</source>

@@ -385,8 +385,8 @@
 <translation>预览需要本应用的“rehearse”文件夹，但此处没有。</translation>
 </message>
 <message>
-<source>Windows was updated from build %1 to %2 since: %3 changes are no longer in force.</source>
-<translation>此后 Windows 已从内部版本 %1 更新到 %2：%3 项更改不再有效。</translation>
+<source>Windows was updated from build %1 to %2 since. No longer in force: %3.</source>
+<translation>此后 Windows 已从内部版本 %1 更新到 %2。不再有效：%3。</translation>
 </message>
 <message>
 <source>automatic (delayed)</source>
@@ -427,6 +427,10 @@
 <message>
 <source>but not as before</source>
 <translation>但与之前不同</translation>
+</message>
+<message>
+<source>Before the journal, not exact</source>
+<translation>日志开始之前，不精确</translation>
 </message>
 <message>
 <source>&amp;Take back</source>

@@ -23,6 +23,7 @@ class Words
     // What sessions are called
     QT_TRANSLATE_NOOP("Kestrune", "Analyze"),
     QT_TRANSLATE_NOOP("Kestrune", "Apply features"),
+    QT_TRANSLATE_NOOP("Kestrune", "Before the journal, not exact"),
     QT_TRANSLATE_NOOP("Kestrune", "Clean-up of the WinSxS folder"),
     QT_TRANSLATE_NOOP("Kestrune", "Content indexing off"),
     QT_TRANSLATE_NOOP("Kestrune", "Content indexing on"),

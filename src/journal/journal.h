@@ -59,6 +59,8 @@ public:
     SystemState &system() const { return *system_; }
     /** A noted key as the programs of this user call it. */
     QString ownPath(const QString &key) const;
+    /** A key of the programs of this user as it is noted: by the name of the user's keys that others see too. */
+    QString commonPath(const QString &key) const;
 
     /** What the item is like now. */
     ItemState stateOf(const Item &item) const;
@@ -93,8 +95,6 @@ public:
 private:
     class Walk;
 
-    /** By the name of the user's keys that others see too. */
-    QString commonPath(const QString &key) const;
     OwnPlace placeOf(const Item &item) const;
     /** With what a note needs beyond stateOf(). */
     ItemState stateToNote(const Item &item) const;

@@ -4,6 +4,8 @@
 
 #include "machine/machineerror.h"
 #include "platform/windowsfacts.h"
+#include "work/automatizer/records.h"
+#include "work/autorun/autorun.h"
 #include "work/settings.h"
 #include "work/workthread.h"
 
@@ -80,6 +82,139 @@ void settle(const Journal &journal, const Session &session)
     journal.store().setSettled(session.id);
 }
 
+// What the records tell of times without a journal. They know that something was switched off, and not what it was like
+// before: that is taken to be what a restoration makes of it.
+
+ItemState numberState(quint32 number)
+{
+    return {true, static_cast<quint32>(RegistryType::DWord), registryDWord(number)};
+}
+
+QList<Note> notesOfService(const Journal &, const QString &name)
+{
+    const QString key = WindowsKey::services + u'\\' + name;
+    Note start;
+    start.item = {ItemKind::Value, key, u"Start"_s};
+    start.before = numberState(StartAutomatic);
+    Note run;
+    run.item = {ItemKind::RunState, name};
+    run.before.there = true;
+    return {start, run};
+}
+
+QList<Note> notesOfTask(const Journal &, const QString &name)
+{
+    Note note;
+    note.item = {ItemKind::Task, u'\\' + name};
+    note.before.there = true;
+    return {note};
+}
+
+/** Nothing of one whose full name is gone with its files: the Store is asked for it by that. */
+QList<Note> notesOfPackage(const Journal &journal, const QString &name)
+{
+    Note note;
+    note.item = {ItemKind::Package, name};
+    note.before.there = true;
+    for (const QString &fullName : journal.system().key(WindowsKey::machinePackages).subkeys) {
+        if (packageNameOf(fullName).compare(name, Qt::CaseInsensitive) == 0)
+            note.before.data = fullName.toUtf8();
+    }
+    return name == oneDriveName || !note.before.data.isEmpty() ? QList{note} : QList<Note>();
+}
+
+QList<Note> notesOfProgram(const Journal &journal, const QString &name)
+{
+    constexpr quint32 isEnabled = 2; // the state of a packaged application's start
+
+    const AutorunEntry entry = recordedAutorun(name);
+    Note note;
+    if (isPackagedTaskExactly(name)) {
+        note.item = {ItemKind::Value, journal.commonPath(entry.path), u"State"_s};
+        note.before = numberState(isEnabled);
+    } else {
+        const RunValue value = runValueAt(entry.path);
+        note.item = {ItemKind::Value, journal.commonPath(value.key), value.name};
+        note.before = {true, static_cast<quint32>(RegistryType::String), registryText(entry.command)};
+    }
+    return {note};
+}
+
+struct RecordGroup
+{
+    QString name;
+    QStringList (*names)();
+    QList<Note> (*notes)(const Journal &journal, const QString &name);
+};
+
+QStringList recordedTasks()
+{
+    return recordedNames(u"Task"_s);
+}
+
+/** Only what is there and not as it would have been. */
+bool isOfToday(const Journal &journal, const Note &note)
+{
+    if (note.item.kind == ItemKind::Task && !journal.system().isTaskEnabled(note.item.subject))
+        return false;
+    if (serviceOfKey(note.item.subject) && !journal.system().hasKey(note.item.subject))
+        return false;
+    if (note.item.kind == ItemKind::RunState
+        && !journal.system().hasKey(WindowsKey::services + u'\\' + note.item.subject))
+        return false;
+    return *note.after != note.before;
+}
+
+/** What a record of something that is off tells, and the record itself, which goes with it. */
+QList<Note> notesOfRecord(const Journal &journal, const RecordGroup &group, const QString &name)
+{
+    QList<Note> notes = group.notes(journal, name);
+    for (Note &note : notes)
+        note.after = journal.stateOf(note.item);
+    notes.removeIf([&journal](const Note &note) { return !isOfToday(journal, note); });
+    if (notes.isEmpty())
+        return {};
+    Note record;
+    record.item = {ItemKind::Value, journal.commonPath(recordKey(group.name)), registryName(name)};
+    record.own = true;
+    record.after = journal.stateOf(record.item);
+    return notes << record;
+}
+
+bool isRecordedAsOff(const QString &group, const QString &name)
+{
+    return group == "Autorun"_L1 || openRecords(group)->value(name).toInt() == isOff;
+}
+
+/** A journal that has just begun knows nothing of what was done before. */
+void takeOverRecords(const Journal &journal)
+{
+    static const RecordGroup groups[] = {{u"SVC"_s, trustedServices, notesOfService},
+                                         {u"Task"_s, recordedTasks, notesOfTask},
+                                         {u"Packages"_s, trustedPackages, notesOfPackage},
+                                         {u"Autorun"_s, trustedAutoruns, notesOfProgram}};
+
+    if (!journal.store().sessions().isEmpty())
+        return;
+    QList<Note> notes;
+    for (const RecordGroup &group : groups) {
+        for (const QString &name : group.names()) {
+            if (isRecordedAsOff(group.name, name))
+                notes += notesOfRecord(journal, group, name);
+        }
+    }
+    if (notes.isEmpty())
+        return;
+    JournalStore &store = journal.store();
+    const qint64 session = store.beginSession({.what = beforeTheJournal}); // by whom and when is unknown
+    store.add(session, notes);
+    QList<Note> added = store.notes(session);
+    for (Note &note : added)
+        note.after = journal.stateOf(note.item);
+    store.setAfter(added);
+    store.endSession(session, SessionState::Finished);
+}
+
 } // namespace
 
 void settleBrokenOff()
@@ -88,6 +223,7 @@ void settleBrokenOff()
     if (journal == nullptr)
         return;
     try {
+        takeOverRecords(*journal);
         for (const Session &session : journal->store().sessions()) {
             if (session.state == SessionState::BrokenOff && !session.settled)
                 settle(*journal, session);

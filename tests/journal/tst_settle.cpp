@@ -39,6 +39,7 @@ public:
     }
 
     Journaled &journaled() { return *journaled_; }
+    QString folder() const { return machine_.folder(); }
 
     /** Lets the next start find a session in which a tool ran and nothing was recorded. */
     void breakOff(const QString &session, const QString &program, const QStringList &arguments)
@@ -77,6 +78,10 @@ private Q_SLOTS:
     void aChangeThatNeverCameGetsNone();
     void aSessionIsLookedAtOnce();
     void whatWasLeftIsWrittenDown();
+
+    void recordsOfEarlierTimesAreTakenOver();
+    void onlyWhatTheyTellOfTodayIs();
+    void theyAreTakenOverOnce();
 
     void aPackageWithoutFilesIsNamed();
     void anotherUserHoldsThem();
@@ -171,6 +176,73 @@ void TestSettle::whatWasLeftIsWrittenDown()
         std::find_if(items.cbegin(), items.cend(), [](const TakenItem &item) { return item.item.name == "Start"_L1; });
     QVERIFY(start != items.cend());
     QCOMPARE(start->verdict, WayBack::Changed);
+}
+
+/** As an older program left them, with no journal beside them. */
+void TestSettle::recordsOfEarlierTimesAreTakenOver()
+{
+    const QString run = WindowsKey::runKeys.first();
+    Pc pc;
+    pc.journaled().close();
+    {
+        // The same machine without a journal, on which things are switched off and recorded.
+        setPlatform(std::make_unique<MachinePlatform>(pc.folder(), MachineOptions()));
+        runTool(u"sc"_s, disableService);
+        runTool(u"sc"_s, {u"stop"_s, u"Svc"_s});
+        runTool(u"schtasks"_s, disableTask);
+        runTool(powerShell, removePackage);
+        record(u"SVC"_s, u"Svc"_s, 1);
+        record(u"Task"_s, taskPath, 1);
+        record(u"Packages"_s, packageName, 1);
+        record(u"Autorun"_s, u"Player"_s, u"C:\\player.exe="_s + run + u"\\Player"_s);
+        setPlatform(nullptr);
+    }
+    pc.journaled().open();
+
+    settleBrokenOff();
+
+    const Journal &journal = pc.journaled().journal();
+    QCOMPARE(journal.store().sessions().size(), 1);
+    QCOMPARE(journal.store().sessions().first().what, beforeTheJournal);
+    QCOMPARE(journal.store().sessions().first().changes, 5); // two of the service
+    QCOMPARE(pc.journaled().takeAllBack(), QStringList());
+    QStringList left = pc.journaled().differences();
+    left.removeIf([](const QString &line) { return line.contains(packageFullName); }); // as the tool registers it
+    QCOMPARE(left.size(), 1);
+    QVERIFY2(left.first().contains(u" Player:  -> "_s), qPrintable(left.first()));
+    for (const QString &group : {u"SVC"_s, u"Task"_s, u"Packages"_s, u"Autorun"_s})
+        QCOMPARE(recordedNames(group), QStringList());
+}
+
+/** What isn't there any more, or is on again, is nothing to take back. */
+void TestSettle::onlyWhatTheyTellOfTodayIs()
+{
+    Pc pc;
+    pc.journaled().close();
+    setPlatform(std::make_unique<MachinePlatform>(pc.folder(), MachineOptions()));
+    record(u"SVC"_s, u"Svc"_s, 1);   // on again
+    record(u"SVC"_s, u"Gone"_s, 1);  // not there
+    record(u"Task"_s, u"Gone"_s, 1); // not there
+    record(u"Task"_s, taskPath, 0);  // switched on
+    record(u"Packages"_s, u"Gone"_s, 1);
+    record(u"Autorun"_s, u"Evil"_s, u"C:\\evil.exe=HKEY_LOCAL_MACHINE\\SOFTWARE\\Evil"_s);
+    setPlatform(nullptr);
+    pc.journaled().open();
+    settleBrokenOff();
+    QCOMPARE(pc.journaled().journal().store().sessions().size(), 0);
+    QCOMPARE(pc.journaled().differences(), QStringList());
+}
+
+void TestSettle::theyAreTakenOverOnce()
+{
+    Pc pc;
+    pc.breakOff(u"Something"_s, u"sc"_s, disableService);
+    record(u"Task"_s, taskPath, 1);
+    runTool(u"schtasks"_s, disableTask);
+    pc.journaled().open();
+    settleBrokenOff();
+    for (const Session &session : pc.journaled().journal().store().sessions())
+        QVERIFY(session.what != beforeTheJournal);
 }
 
 void TestSettle::aPackageWithoutFilesIsNamed()
