@@ -107,6 +107,38 @@ Function .onInit
     ${EndIf}
 FunctionEnd
 
+LangString STILL_IN_FORCE ${LANG_ENGLISH} "Kestrune has changed this PC, and its changes are still in force. Do you want \
+to take them back first?"
+LangString STILL_IN_FORCE ${LANG_FRENCH} "Kestrune a modifié ce PC, et ses modifications sont encore en vigueur. \
+Voulez-vous d'abord les annuler ?"
+LangString MAYBE_IN_FORCE ${LANG_ENGLISH} "Changes that Kestrune has made to this PC may still be in force. Do you want \
+to look, and take them back first?"
+LangString MAYBE_IN_FORCE ${LANG_FRENCH} "Des modifications faites par Kestrune sur ce PC sont peut-être encore en \
+vigueur. Voulez-vous vérifier et les annuler d'abord ?"
+
+; Asks while the program is still there; without its journal there is nothing to ask.
+Function un.OfferWayBack
+    ReadEnvStr $0 "ProgramData"
+    ${IfNot} ${FileExists} "$0\Kestrune"
+        Return
+    ${EndIf}
+    ClearErrors
+    ExecWait '"$INSTDIR\kestrune.exe" --changes-in-force' $1
+    ${If} ${Errors}
+    ${OrIf} $1 = 0
+        Return
+    ${EndIf}
+    StrCpy $2 $(STILL_IN_FORCE)
+    ${If} $1 <> 1
+        StrCpy $2 $(MAYBE_IN_FORCE)
+    ${EndIf}
+    MessageBox MB_YESNOCANCEL|MB_ICONQUESTION "$2" IDYES back IDNO go
+    Abort
+back:
+    ExecShellWait "runas" "$INSTDIR\kestrune.exe" "--way-back"
+go:
+FunctionEnd
+
 Section "un.Kestrune"
     SectionIn RO
     !include "${REMOVAL}"
@@ -139,5 +171,8 @@ Function un.onInit
     ${GetOptions} $0 "/PURGE" $1
     ${IfNot} ${Errors}
         !insertmacro SelectSection ${SECTION_PURGE}
+    ${EndIf}
+    ${IfNot} ${Silent}
+        Call un.OfferWayBack
     ${EndIf}
 FunctionEnd

@@ -4,6 +4,7 @@
 #include "window/kestrune.h"
 
 #include "journal/takeback.h"
+#include "machine/machineerror.h"
 #include "platform/processground.h"
 #include "window/messagebox.h"
 #ifdef KESTRUNE_REAL_MACHINE
@@ -23,6 +24,8 @@
 #include <QApplication>
 #include <QScreen>
 #include <QStandardPaths>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -94,6 +97,31 @@ void tellOfJournal()
         tell(u"What is changed can't be noted, so nothing is changed.\n\n"_s + why);
 }
 
+/**
+ * The answer to whoever removes the program: 0 where nothing is in force that could be taken back, 1 where something
+ * is, 2 where that is unknown for want of rights, or of a journal that can be read.
+ */
+int changesInForce()
+{
+    constexpr int none = 0;
+    constexpr int some = 1;
+    constexpr int unknown = 2;
+
+    const Journal *journal = journalInForce();
+    if (journal == nullptr)
+        return unknown;
+    return guarded(unknown, [journal] {
+        const QList<TakenItem> items = planWayBack(*journal, {});
+        return std::any_of(items.cbegin(), items.cend(),
+                           [](const TakenItem &item) {
+                               // Keys without anything in them come by looking at them, too.
+                               return item.verdict == WayBack::Open && item.item.kind != ItemKind::Key;
+                           })
+                   ? some
+                   : none;
+    });
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -112,6 +140,8 @@ int main(int argc, char **argv)
     const auto links = platform().isElevated() ? std::make_unique<LinkOpener>() : nullptr;
 #endif
 
+    if (QCoreApplication::arguments().contains("--changes-in-force"_L1))
+        return changesInForce();
     tellOfJournal();
     Kestrune window;
     if (window.hasLeft())
@@ -120,5 +150,7 @@ int main(int argc, char **argv)
     window.screenName = window.screen()->name();
     window.previewPlace = previewPlace;
     window.show();
+    if (QCoreApplication::arguments().contains("--way-back"_L1))
+        window.showWayBack();
     return QApplication::exec();
 }

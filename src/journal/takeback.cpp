@@ -312,6 +312,7 @@ TakenItem judged(const Journal &journal, const Thing &thing, const Moves &moves)
     const Note &note = thing.first;
     const ItemState now = journal.stateOf(moves.followed(journal, note.item));
     TakenItem item{note.id, note.item, note.before, now, WayBack::Open, {}, note.own};
+    item.wasChanged = !thing.lastOwn || *thing.lastOwn != note.before;
     if (item.item.kind == ItemKind::Package) // its full name is no part of the state
         item.before.data.clear();
     // As it was left, whatever has become of it in between, such as a change that was taken back.

@@ -26,7 +26,8 @@ struct TakenItem
     WayBack verdict = WayBack::Open;
     QString why{}; ///< of Changed and Impossible, in English; empty where it speaks for itself
     bool own = false;
-    QString storeLink{}; ///< of a package whose files are gone: where it can be had again
+    bool wasChanged = true; ///< false: noted before something that then left it as it was
+    QString storeLink{};    ///< of a package whose files are gone: where it can be had again
 };
 
 /** What is to be taken back. */

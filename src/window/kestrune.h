@@ -48,6 +48,9 @@ public:
     /** Does both, and puts the stored theme in force. */
     void applyPalette();
 
+    /** Opens the dialog of the way back for all that was ever noted. */
+    void showWayBack();
+
     /** Ends the program in favour of an elevated instance, also while the window is still being built. */
     void leave();
     /** True when the program has ended itself: the window isn't to be shown any more. */
@@ -252,8 +255,11 @@ private:
     void checkUpdate();
 
     // The way back
-    /** Opens the dialog at a session of the journal, by its number; at the last one with 0. */
-    void openWayBack(qint64 session);
+    /**
+     * Opens the dialog at a session of the journal, by its number; at the last one with 0.
+     * @param withLater all sessions after it are chosen, too
+     */
+    void openWayBack(qint64 session, bool withLater = false);
     /** Shows the button of the status strip where a session was broken off that nobody has looked at. */
     void showBrokenOff();
     /** Says once why changes weren't made that the system itself wouldn't have refused; nothing where all were. */

@@ -52,7 +52,16 @@ void Kestrune::on_btnBrokenOff_clicked()
     openWayBack(session ? session->id : 0);
 }
 
-void Kestrune::openWayBack(qint64 session)
+void Kestrune::showWayBack()
+{
+    const Journal *journal = journalInForce();
+    const auto sessions = journal != nullptr
+                              ? guarded(QList<Session>(), [journal] { return journal->store().sessions(); })
+                              : QList<Session>();
+    openWayBack(sessions.isEmpty() ? 0 : sessions.first().id, true);
+}
+
+void Kestrune::openWayBack(qint64 session, bool withLater)
 {
     if (workThread->isRunning())
         return;
@@ -69,7 +78,7 @@ void Kestrune::openWayBack(qint64 session)
         tell(tr("What was changed on this PC isn't noted, so there is no way back by notes."));
         return;
     }
-    auto *dialog = new WayBackDialog(*journal, session, this);
+    auto *dialog = new WayBackDialog(*journal, session, withLater, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::finished, this, [this, journal] {
         // All that was broken off has stood in the dialog's list.

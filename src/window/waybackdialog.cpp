@@ -73,7 +73,7 @@ void prepareList(QTreeView *list, const QString &name)
 
 } // namespace
 
-WayBackDialog::WayBackDialog(const Journal &journal, qint64 session, QWidget *parent)
+WayBackDialog::WayBackDialog(const Journal &journal, qint64 session, bool withLater, QWidget *parent)
     : QDialog(parent)
     , journal_(journal)
     , model_(new WayBackModel(this))
@@ -85,6 +85,7 @@ WayBackDialog::WayBackDialog(const Journal &journal, qint64 session, QWidget *pa
     shown_->setFilterKeyColumn(-1); // in all columns
     makeWidgets();
     layOut();
+    later_->setChecked(withLater);
     connectWidgets();
     listSessions(session);
     look();
@@ -380,10 +381,10 @@ QString WayBackDialog::newWindowsText() const
         return {};
     const QList<TakenItem> &items = model_->items();
     const auto lost = std::count_if(items.cbegin(), items.cend(), [](const TakenItem &item) {
-        return item.verdict == WayBack::AsItWas || item.verdict == WayBack::Changed;
+        return item.wasChanged && (item.verdict == WayBack::AsItWas || item.verdict == WayBack::Changed);
     });
     return u' '
-           + Kestrune::tr("Windows was updated from build %1 to %2 since: %3 changes are no longer in force.")
+           + Kestrune::tr("Windows was updated from build %1 to %2 since. No longer in force: %3.")
                  .arg(then, now)
                  .arg(lost);
 }

@@ -27,8 +27,9 @@ public:
     /**
      * @param journal the platform in force
      * @param session the session that is shown first; the last one where there is none of that number
+     * @param withLater all sessions after it are chosen, too
      */
-    WayBackDialog(const Journal &journal, qint64 session, QWidget *parent);
+    WayBackDialog(const Journal &journal, qint64 session, bool withLater, QWidget *parent);
     ~WayBackDialog() override;
 
     /** Asks what is under way to end; closes where nothing is taken back. */

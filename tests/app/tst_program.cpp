@@ -2,7 +2,8 @@
 // The program itself, as a process of its own: how it starts, what it refuses, and how it gives way to an elevated one.
 
 #include "machine/database.h"
-#include "support/files.h"
+#include "machine/source/machinesource.h"
+#include "support/processes.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
 
@@ -33,7 +34,7 @@ QString program()
 class Run
 {
 public:
-    explicit Run(const QString &machine, const QString &elevated = QString())
+    explicit Run(const QString &machine, const QString &elevated = QString(), const QStringList &arguments = {})
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.remove(u"KESTRUNE_MACHINE"_s);
@@ -46,7 +47,7 @@ public:
         if (!elevated.isEmpty())
             environment.insert(u"KESTRUNE_ELEVATED"_s, elevated);
         process.setProcessEnvironment(environment);
-        process.start(program(), QStringList());
+        process.start(program(), arguments);
     }
     ~Run()
     {
@@ -132,6 +133,7 @@ private Q_SLOTS:
     void folderThatIsNoMachineIsToldAndLeftAlone();
     void elevatedProgramStaysThoughStartAsAdminIsSet();
     void unelevatedProgramGivesWayToAnElevatedOne();
+    void changesInForceAreToldByTheExitCode();
 };
 
 void TestProgram::withoutAMachineItSaysWhatItNeeds()
@@ -180,6 +182,26 @@ void TestProgram::folderThatIsNoMachineIsToldAndLeftAlone()
         QVERIFY(run.errors().contains(machine));
     }
     QVERIFY(QDir(folder.path()).isEmpty());
+}
+
+/** Without a window, for whoever removes the program. */
+void TestProgram::changesInForceAreToldByTheExitCode()
+{
+    const auto answer = [](const QString &machine, const QString &elevated) {
+        Run run(machine, elevated, {u"--changes-in-force"_s});
+        return run.ends() ? run.process.exitCode() : -1;
+    };
+    const QTemporaryDir folder;
+    const QString machine = folder.filePath(u"machine"_s);
+    makeMachine(machine, QCoreApplication::applicationDirPath() + u"/machines/windows11"_s, Existing::Keep);
+    QCOMPARE(answer(machine, u"1"_s), 0);
+    QCOMPARE(runProgram(builtProgram(u"kestrune-rehearse"_s), {u"run"_s, machine, u"svc-disable"_s, u"DiagTrack"_s})
+                 .exitCode,
+             0);
+    QCOMPARE(answer(machine, u"1"_s), 1);
+    QCOMPARE(answer(machine, u"0"_s), 2); // the journal is the administrators'
+    QCOMPARE(runProgram(builtProgram(u"kestrune-rehearse"_s), {u"undo"_s, machine}).exitCode, 0);
+    QCOMPARE(answer(machine, u"1"_s), 0);
 }
 
 void TestProgram::elevatedProgramStaysThoughStartAsAdminIsSet()

@@ -3,8 +3,10 @@
 
 #include "journal/journaling.h"
 #include "machine/database.h"
+#include "platform/windowsfacts.h"
 #include "support/boxes.h"
 #include "support/featuresview.h"
+#include "support/registryvalues.h"
 #include "support/suite.h"
 #include "window/waybackdialog.h"
 #include "work/settings.h"
@@ -212,6 +214,8 @@ private Q_SLOTS:
     void theFilesAreWrittenWhereOneSays();
     void nothingIsTakenBackBesideAnotherInstance();
     void withoutChangesItSaysSo();
+    void allOfItCanBeAskedFor();
+    void aNewerWindowsIsTold();
     void withoutRightsTheyAreOffered_data();
     void withoutRightsTheyAreOffered();
     void withoutAJournalItSaysSo();
@@ -453,6 +457,49 @@ void TestWayBack::withoutChangesItSaysSo()
     const Dialog dialog(driver);
     QCOMPARE(dialog.status(), u"No changes have been noted on this PC so far."_s);
     QVERIFY(!dialog.takeButton()->isEnabled());
+}
+
+/** As the uninstaller opens it. */
+void TestWayBack::allOfItCanBeAskedFor()
+{
+    const ServicesPc machine;
+    const Journaled pc(machine);
+    const WindowDriver driver;
+    QVERIFY(disable(driver, {u"Alpha"_s}));
+    QVERIFY(disable(driver, {u"Beta"_s}));
+    driver.window().showWayBack();
+    const auto *dialog = driver.window().findChild<WayBackDialog *>();
+    QVERIFY(dialog != nullptr);
+    QVERIFY(dialog->findChild<QCheckBox *>(u"chkLater"_s)->isChecked());
+    const QAbstractItemModel &changes = *dialog->findChild<QTreeView *>(u"lstChanges"_s)->model();
+    QStringList listed;
+    QTRY_VERIFY_WITH_TIMEOUT(changes.rowCount() >= 4, patience);
+    for (int row = 0; row < changes.rowCount(); ++row)
+        listed.append(changes.index(row, 0).data().toString());
+    QVERIFY2(listed.contains(alphaStart) && listed.contains(betaStart), qPrintable(listed.join(u'\n')));
+}
+
+/** What was changed before an update of Windows may be as Windows wants it. */
+void TestWayBack::aNewerWindowsIsTold()
+{
+    const ServicesPc machine;
+    Journaled pc(machine);
+    const QString build = WindowsKey::currentVersion;
+    setText(pc.machine(), build, u"CurrentBuild"_s, u"26100"_s);
+    {
+        const WindowDriver driver;
+        QVERIFY(disable(driver, {u"Alpha"_s}));
+        const Dialog dialog(driver);
+        QVERIFY2(!dialog.status().contains(u"26100"_s), qPrintable(dialog.status()));
+    }
+    pc.open();
+    setText(pc.machine(), build, u"CurrentBuild"_s, u"26200"_s);
+    setNumber(pc.machine(), servicesKey + u"\\Alpha"_s, u"Start"_s, StartAutomatic);
+    const WindowDriver driver;
+    const Dialog dialog(driver);
+    dialog.choose(u"Disable services"_s);
+    QVERIFY2(dialog.status().endsWith(u"Windows was updated from build 26100 to 26200 since. No longer in force: 1."_s),
+             qPrintable(dialog.status()));
 }
 
 void TestWayBack::withoutRightsTheyAreOffered_data()
