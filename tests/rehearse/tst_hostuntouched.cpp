@@ -215,7 +215,7 @@ void TestHostUntouched::runTweaks(const QString &machine) const
         for (int id = 1; id <= last; ++id) {
             for (const QString &state : {u"on"_s, u"off"_s}) {
                 if (id != none)
-                    run(machine, {u"tweak"_s, group, QString::number(id), state});
+                    run(machine, {u"tweak"_s, group, QString::number(id), state, u"--yes"_s});
             }
         }
     }
