@@ -229,7 +229,8 @@ private:
 
     void verifyPackages()
     {
-        each(recorded("Packages"_L1), last_.packages, [this](const QString &name) {
+        each(recorded("Packages"_L1), last_.packages, [this](const QString &record) {
+            const QString name = recordedPackage(record);
             return judged({PreviewGroup::Packages, name, name},
                           {u"installed"_s, installed(before_, name), installed(now_, name), QString()},
                           lastOf(last_.packages, name),

@@ -60,7 +60,7 @@ void Kestrune::on_btnPackagesUninst_clicked()
     QList<PackageRow> checked;
     for (const QTableWidgetItem *item : firstCells(ui.tblPackages)) {
         if (item->checkState() == Qt::Checked)
-            checked.append({item->text(), QString(), ui.tblPackages->item(item->row(), 2)->text()});
+            checked.append({recordedPackage(item->text()), QString(), ui.tblPackages->item(item->row(), 2)->text()});
     }
     workThread->packagesToChange.clear();
     if (checked.isEmpty())

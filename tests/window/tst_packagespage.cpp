@@ -135,6 +135,7 @@ private Q_SLOTS:
 
     // Installing
     void installTakesTheRecordsAway();
+    void oldXboxAppComesBackByItsName();
     void installOfNothingIsSilent();
     void failedInstallKeepsTheRecord();
     void directionIsReadFromTheButton_data();
@@ -506,6 +507,20 @@ void TestPackagesPage::installTakesTheRecordsAway()
     // Not redrawn either.
     QCOMPARE(driver.column(table, 0), (QStringList{u"A"_s, u"B"_s, u"C"_s}));
     QCOMPARE(texts(driver), uninstalledView);
+}
+
+void TestPackagesPage::oldXboxAppComesBackByItsName()
+{
+    PowerShellMachine machine;
+    record(machine, {u"Microsoft.XboxApp (Old Xbox App, no longer supported!) "_s});
+    const PackagesPage driver;
+    driver.click(viewButton);
+    QCOMPARE(driver.column(table, 0), QStringList{u"Microsoft.XboxApp (Old Xbox App, no longer supported!) "_s});
+    driver.table(table)->item(0, 0)->setCheckState(Qt::Checked);
+    driver.click(actionButton);
+    QVERIFY(waitForEnd(driver));
+    QCOMPARE(changes(machine), QStringList{u"install Microsoft.XboxApp"_s});
+    QCOMPARE(machine.names(packageRecordsKey), QStringList());
 }
 
 void TestPackagesPage::installOfNothingIsSilent()

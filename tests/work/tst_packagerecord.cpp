@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of the record of removed packages, as it is kept from the lines of a job.
 
+#include "support/markingtranslator.h"
 #include "support/packageplaces.h"
 #include "support/suite.h"
 #include "work/packages/packages.h"
 
 #include <QTest>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +24,9 @@ private Q_SLOTS:
     void removalIsRecordedOnce();
     void installationTakesTheRecordOfThatPackageAlone();
     void lineOfTheOldXboxAppIsRecordedAsItReads();
+    void installedOldXboxAppLosesItsRecords_data();
+    void installedOldXboxAppLosesItsRecords();
+    void remarkIsNoPartOfTheName();
 };
 
 void TestPackageRecord::doneLineNamesThePackage_data()
@@ -105,6 +111,46 @@ void TestPackageRecord::lineOfTheOldXboxAppIsRecordedAsItReads()
     recordPackageLine(line, false);
     QCOMPARE(machine.names(packageRecordsKey),
              QStringList{u"Microsoft.XboxApp (Old Xbox App, no longer supported!) "_s});
+}
+
+void TestPackageRecord::installedOldXboxAppLosesItsRecords_data()
+{
+    QTest::addColumn<bool>("translated");
+    QTest::newRow("in English") << false;
+    QTest::newRow("in another language") << true;
+}
+
+void TestPackageRecord::installedOldXboxAppLosesItsRecords()
+{
+    QFETCH(const bool, translated);
+    std::optional<MarkingTranslator> language;
+    if (translated)
+        language.emplace("WorkThread");
+    TestMachine machine;
+    const QString recorded = u"Microsoft.XboxApp (Old Xbox App, no longer supported!) "_s;
+    // The page's own, the Automatizer's, and another package's.
+    for (const QString &name : {recorded, u"Microsoft.XboxApp"_s, u"Microsoft.XboxApp2"_s})
+        machine.write(packageRecordsKey, name, 1);
+    const QString line =
+        translated ? u"   «Install»   package: Microsoft.XboxApp («Old Xbox App, no longer supported!») : «done»"_s
+                   : u"   Install   package: "_s + recorded + u": done"_s;
+    recordPackageLine(line, true);
+    QCOMPARE(machine.names(packageRecordsKey), QStringList{u"Microsoft.XboxApp2"_s});
+    // No record of it is made in another language.
+    if (translated)
+        recordPackageLine(line, false);
+    QCOMPARE(machine.names(packageRecordsKey), QStringList{u"Microsoft.XboxApp2"_s});
+}
+
+void TestPackageRecord::remarkIsNoPartOfTheName()
+{
+    QCOMPARE(recordedPackage(u"Microsoft.XboxApp (Old Xbox App, no longer supported!) "_s), u"Microsoft.XboxApp"_s);
+    for (const QString &name : {u"Microsoft.XboxApp"_s, u"Microsoft.XboxApp (calc.exe) "_s, u"Microsoft.Todos"_s})
+        QCOMPARE(recordedPackage(name), name);
+    const MarkingTranslator language("WorkThread");
+    // What was recorded before the language changed is known.
+    QCOMPARE(recordedPackage(u"Microsoft.XboxApp (Old Xbox App, no longer supported!) "_s), u"Microsoft.XboxApp"_s);
+    QCOMPARE(recordedPackage(u"Microsoft.XboxApp («Old Xbox App, no longer supported!») "_s), u"Microsoft.XboxApp"_s);
 }
 
 KESTRUNE_SUITE(TestPackageRecord)

@@ -51,7 +51,7 @@ bool isProgram(const QString &name, const QString &record)
 bool isPackage(const QString &name, const QString &)
 {
     static const QRegularExpression plain(u"\\A[A-Za-z0-9._-]+\\z"_s);
-    return name == oneDriveName || name == oldXboxAppRecord() || plain.match(name).hasMatch();
+    return name == oneDriveName || plain.match(recordedPackage(name)).hasMatch();
 }
 
 struct Group

@@ -6,6 +6,7 @@
 #include "platform/windowsfacts.h"
 #include "records.h"
 #include "work/autorun/autorun.h"
+#include "work/packages/packages.h"
 #include "work/settings.h"
 #include "work/statusline.h"
 #include "work/tweaks/tweakcatalogue.h"
@@ -149,7 +150,7 @@ void Automatizer::restorePackages()
     QList<PackageRow> &packages = worker_.packagesToChange;
     packages.clear();
     for (const QString &name : trustedPackages())
-        packages.append({name, {}, u""_s});
+        packages.append({recordedPackage(name), {}, u""_s});
     if (packages.isEmpty())
         return;
     reportPhase(WorkThread::tr("Windows applications"));

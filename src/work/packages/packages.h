@@ -10,6 +10,9 @@
 
 /** The name under which the page records the old Xbox app: with its remark, in the user's language. */
 QString oldXboxAppRecord();
+/** The package that a record is of: the old Xbox app's may have a remark after its name, of before a change of
+ * language. */
+QString recordedPackage(const QString &record);
 
 /** Packages that can be removed. Compared with case; a leading "!" switches an entry off. */
 QStringList removablePackageNames();

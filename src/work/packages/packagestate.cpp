@@ -20,6 +20,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int settleDelay = 300;
+const QString oldXboxApp = u"Microsoft.XboxApp"_s;
+const char oldXboxAppRemark[] = QT_TRANSLATE_NOOP("WorkThread", "Old Xbox App, no longer supported!");
 
 QString quoted(const QString &path)
 {
@@ -72,9 +74,14 @@ QString automatizerText(const Command &command, const QString &name, bool instal
     return text.replace(u"%1"_s, name);
 }
 
+QString withRemark(const QString &remark)
+{
+    return oldXboxApp + u" ("_s + remark + u") "_s;
+}
+
 QString pageText(const QString &header, const QString &name, int exitCode)
 {
-    if (name == "Microsoft.XboxApp"_L1 && exitCode == 0) {
+    if (name == oldXboxApp && exitCode == 0) {
         // The word is the same in every language here, so that the page takes no record of it in some.
         return header + u"   package: "_s + oldXboxAppRecord() + u": "_s + WorkThread::tr("done");
     }
@@ -86,7 +93,13 @@ QString pageText(const QString &header, const QString &name, int exitCode)
 
 QString oldXboxAppRecord()
 {
-    return u"Microsoft.XboxApp ("_s + WorkThread::tr("Old Xbox App, no longer supported!") + u") "_s;
+    return withRemark(WorkThread::tr(oldXboxAppRemark));
+}
+
+QString recordedPackage(const QString &record)
+{
+    const bool isRemarked = record == oldXboxAppRecord() || record == withRemark(QLatin1StringView(oldXboxAppRemark));
+    return isRemarked ? oldXboxApp : record;
 }
 
 bool isPackageInstalled(const QString &name)
@@ -105,7 +118,17 @@ void recordPackageLine(const QString &line, bool install)
 {
     const QString mark = WorkThread::tr("package: ");
     const QString done = WorkThread::tr("done");
-    if (!line.contains(mark) || !line.endsWith(done))
+    if (!line.endsWith(done))
+        return;
+    if (install && line.contains(u"package: "_s + oldXboxAppRecord())) {
+        // By whatever name it is recorded
+        for (const QString &name : recordedNames(u"Packages"_s)) {
+            if (recordedPackage(name) == oldXboxApp)
+                openRecords(u"Packages"_s)->remove(name);
+        }
+        return;
+    }
+    if (!line.contains(mark))
         return;
     const QString name = line.split(mark).at(1).split(u": "_s + done).first();
     if (name.isEmpty())
