@@ -25,6 +25,8 @@ struct ServiceReport
     QString name;
     bool running = false;
     bool everRan = true; ///< false for one that was never started since the PC was
+    quint32 type = 0;    ///< as its value Type has it; 0 where that isn't told
+    QString displayName{};
 };
 
 /** Changes nothing, unlike RegistryKey, whose keys are made when they are opened. */

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse import and export
 
+#include "console/printable.h"
 #include "machine/machine.h"
 #include "machine/source/machinesource.h"
 #include "machine/source/regfile.h"
@@ -15,7 +16,10 @@ int runImport(const Arguments &arguments)
 {
     const std::unique_ptr<Machine> machine = openMachine(arguments.operand(0));
     Progress progress;
-    importFiles(*machine, arguments.operands().mid(1), progress.callback());
+    const QStringList made = importFiles(*machine, arguments.operands().mid(1), progress.callback());
+    progress.clear();
+    for (const QString &line : made)
+        print(printable(line) + u'\n');
     return ExitDone;
 }
 

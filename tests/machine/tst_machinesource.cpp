@@ -99,6 +99,7 @@ private Q_SLOTS:
     void scReportInAnotherLanguage();
     void scReportInUtf16();
     void scReportOfAllStates();
+    void scReportMakesTheServicesThatAreMissing();
     void ownReportComesBack();
     void unknownFilesAreRefused();
 };
@@ -423,6 +424,47 @@ void TestMachineSource::scReportOfAllStates()
     for (const ServiceReport &report : parseServiceReport(text, u"f"_s))
         running.append(report.running);
     QCOMPARE(running, QList<bool>({false, true, false, true, true, true, true}));
+}
+
+void TestMachineSource::scReportMakesTheServicesThatAreMissing()
+{
+    SmallMachine machine;
+    const auto record = [](const QByteArray &name, const QByteArray &type, int state) {
+        return "\r\nSERVICE_NAME: " + name + "\r\nDISPLAY_NAME: D\x82mon: " + name + "\r\n" + type
+               + (state == 4 ? "        STATUS             : 4  RUNNING \r\n"
+                             : "        STATUS             : 1  STOPPED \r\n");
+    };
+    const QByteArray shared = "        TYP                : e0  USER_SHARE_PROCESS INSTANCE  \r\n";
+    writeFile(machine.beside(u"sc.txt"_s), record("New_1", shared, 4) + record("new 2", shared, 1)
+                                               + record("Later", shared, 4) + record("DiagTrack", shared, 4)
+                                               + record("No type", {}, 4) + record("..\\Up", shared, 4));
+    writeFile(machine.beside(u"later.reg"_s),
+              "Windows Registry Editor Version 5.00\r\n\r\n"
+              "[HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\Later]\r\n\"Type\"=dword:00000010\r\n");
+    // Whatever comes first
+    const QStringList told = importFiles(*machine, {machine.beside(u"sc.txt"_s), machine.beside(u"later.reg"_s)});
+    QCOMPARE(told, (QStringList{u"New_1, new 2: made from what sc says. What they start by, need and say of themselves "
+                                "isn't in that; they are taken to start on demand."_s}));
+
+    const RegistryStore &registry = machine->registry();
+    const QString services = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s;
+    for (const QString &name : {u"New_1"_s, u"new 2"_s}) {
+        const auto key = registry.find(services + name);
+        QVERIFY(key);
+        QCOMPARE(registry.value(*key, u"Type"_s)->data, registryDWord(0xe0));
+        QCOMPARE(registry.value(*key, u"Start"_s)->data, registryDWord(3));
+        QCOMPARE(textOf(registry.value(*key, u"DisplayName"_s)->data), u"D\u00e9mon: "_s + name);
+        QCOMPARE(registry.valueNames(*key).size(), 3);
+    }
+    QCOMPARE(machine->isRunning(u"New_1"_s), std::optional(true));
+    QCOMPARE(machine->isRunning(u"new 2"_s), std::optional(false));
+    // One that has its key is as that says, and what is no service's name makes none.
+    QCOMPARE(registry.value(*registry.find(services + u"DiagTrack"_s), u"Type"_s)->data, registryDWord(0x10));
+    QCOMPARE(registry.valueNames(*registry.find(services + u"Later"_s)), QStringList{u"Type"_s});
+    QVERIFY(!registry.find(services + u"No type"_s));
+    QVERIFY(!registry.find(services + u".."_s));
+    const Ended ended = runProgram(machine->toolsFolder() + u"/sc"_s, {u"query"_s, u"New_1"_s});
+    QVERIFY2(ended.output.contains("STATE              : 4  RUNNING"), ended.output);
 }
 
 void TestMachineSource::ownReportComesBack()

@@ -2,11 +2,13 @@
 
 #include "machinesource.h"
 
+#include "console/console.h"
 #include "console/programinterruption.h"
 #include "filechanges.h"
 #include "machine/database.h"
 #include "machine/folderlock.h"
 #include "platform/processground.h"
+#include "platform/windowsfacts.h"
 #include "toolreport.h"
 
 #include <QDir>
@@ -28,12 +30,12 @@ QByteArray readFile(const QString &path)
     return file.readAll();
 }
 
-/** Text in UTF-16 with its mark, in UTF-8, or in some code page of a console, whose ASCII part is all that matters. */
+/** Text in UTF-16 with its mark, in UTF-8, or else as consoles of Western Europe have it. */
 QString decoded(const QByteArray &bytes)
 {
     QStringDecoder decoder(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8));
     const QString text = decoder(bytes);
-    return decoder.hasError() ? QString::fromLatin1(bytes) : text;
+    return decoder.hasError() ? fromConsoleBytes(bytes) : text;
 }
 
 bool isRegistryScript(const QString &file, const QString &text)
@@ -61,10 +63,13 @@ public:
         apply(contents.tasks);
         apply(contents.description);
     }
-    void commit()
+    /** @return what was made up, a line each */
+    QStringList commit()
     {
+        const QStringList told = makeReported();
         transaction_.commit();
         files_.commit();
+        return told;
     }
 
 private:
@@ -72,6 +77,7 @@ private:
     void apply(const QList<FileDescription> &files);
     void apply(const QList<ServiceReport> &services);
     void apply(const QList<ScheduledTask> &tasks);
+    QStringList makeReported();
     void addVariables(const QMap<QString, QString> &added);
     void addDll(const QString &path, const QMap<uint, QString> &strings);
 
@@ -79,6 +85,7 @@ private:
     const ProgressCallback &progress_;
     Database::Transaction transaction_;
     FileChanges files_;
+    QList<ServiceReport> reported_; ///< by all files
 };
 
 void Import::file(const QString &path)
@@ -173,6 +180,31 @@ void Import::apply(const QList<ServiceReport> &services)
         if (service.everRan || machine_.isRunning(service.name))
             machine_.setRunning(service.name, service.running);
     }
+    reported_.append(services);
+}
+
+/** Without a key nothing would know of a service. */
+QStringList Import::makeReported()
+{
+    constexpr qsizetype longestKeyName = 255;
+
+    QStringList made;
+    for (const ServiceReport &service : std::as_const(reported_)) {
+        const bool isName = !service.name.contains(u'\\') && service.name.size() <= longestKeyName;
+        const QString path = WindowsKey::services + u'\\' + service.name;
+        if (!isName || service.type == 0 || machine_.registry().find(path))
+            continue;
+        const auto key = machine_.registry().make(path);
+        machine_.registry().setValue(*key, {u"Type"_s, RegistryType::DWord, registryDWord(service.type)});
+        machine_.registry().setValue(*key, {u"Start"_s, RegistryType::DWord, registryDWord(StartOnDemand)});
+        machine_.registry().setValue(*key, {u"DisplayName"_s, RegistryType::String, registryText(service.displayName)});
+        made.append(service.name);
+    }
+    if (made.isEmpty())
+        return {};
+    return {made.join(u", "_s)
+            + u": made from what sc says. What they start by, need and say of themselves isn't in that; they are taken "
+              "to start on demand."_s};
 }
 
 void Import::apply(const QList<ScheduledTask> &tasks)
@@ -278,7 +310,7 @@ void importFile(Machine &machine, const QString &file, const ProgressCallback &p
     importFiles(machine, {file}, progress);
 }
 
-void importFiles(Machine &machine, const QStringList &files, const ProgressCallback &progress)
+QStringList importFiles(Machine &machine, const QStringList &files, const ProgressCallback &progress)
 {
     Import import(machine, progress);
     int done = 0;
@@ -288,7 +320,7 @@ void importFiles(Machine &machine, const QStringList &files, const ProgressCallb
             progress(file, done++, static_cast<int>(files.size()));
         import.file(file);
     }
-    import.commit();
+    return import.commit();
 }
 
 void importContents(Machine &machine, const MachineContents &contents, const ProgressCallback &progress)

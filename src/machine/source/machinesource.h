@@ -41,7 +41,10 @@ void makeMachine(const QString &folder, const QString &sources, Existing existin
  * the machine as it was then.
  */
 void importFile(Machine &machine, const QString &file, const ProgressCallback &progress = {});
-/** Imports several, together or not at all. */
-void importFiles(Machine &machine, const QStringList &files, const ProgressCallback &progress = {});
+/**
+ * Imports several, together or not at all. A service of sc's that has no key then gets one, with what sc says of it.
+ * @return what was made up for that, a line each
+ */
+QStringList importFiles(Machine &machine, const QStringList &files, const ProgressCallback &progress = {});
 /** Takes over what was read, together or not at all. */
 void importContents(Machine &machine, const MachineContents &contents, const ProgressCallback &progress = {});

@@ -22,6 +22,13 @@ const QRegularExpression &stateLine()
     return expression;
 }
 
+/** "        TYPE               : 20  WIN32_SHARE_PROCESS  ", a hexadecimal number */
+const QRegularExpression &typeLine()
+{
+    static const QRegularExpression expression(u"^\\s+\\S[^:]*:\\s+([0-9a-f]{1,4})\\s+[A-Z]"_s);
+    return expression;
+}
+
 /** "        WIN32_EXIT_CODE    : 1077  (0x435)" */
 const QRegularExpression &exitCodeLine()
 {
@@ -48,8 +55,12 @@ public:
         const bool blank = line.trimmed().isEmpty();
         if (!blank && !line.at(0).isSpace() && afterBlank_)
             beginRecord(line);
+        else if (!blank && !line.at(0).isSpace() && record_ && record_->displayName.isEmpty())
+            record_->displayName = valueOf(line);
         else if (const auto state = stateLine().match(line); record_ && !hasState_ && state.hasMatch())
             takeState(state.capturedView(1).toInt());
+        else if (const auto type = typeLine().match(line); record_ && !hasState_ && type.hasMatch())
+            record_->type = type.capturedView(1).toUInt(nullptr, 16);
         else if (const auto code = exitCodeLine().match(line); hasState_ && !hasExitCode_ && code.hasMatch())
             takeExitCode(code.capturedView(1).toInt());
         afterBlank_ = blank;
@@ -62,13 +73,15 @@ public:
     }
 
 private:
+    /** What stands after the label, which has no colon. */
+    static QString valueOf(const QString &line) { return line.section(u": "_s, 1).trimmed(); }
+
     void beginRecord(const QString &line)
     {
         endRecord();
-        const qsizetype colon = line.indexOf(": "_L1);
-        if (colon < 0)
+        if (!line.contains(": "_L1))
             return;
-        record_ = ServiceReport{line.mid(colon + 2).trimmed()};
+        record_ = ServiceReport{valueOf(line)};
         recordLine_ = line_;
         if (record_->name.isEmpty())
             throw MachineError{u"%1:%2: a service without a name"_s.arg(fileName_).arg(line_)};
