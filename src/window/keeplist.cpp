@@ -5,6 +5,7 @@
 #include "work/keepfeatures.h"
 #include "work/settings.h"
 
+#include <QAbstractItemView>
 #include <QMouseEvent>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
@@ -134,6 +135,14 @@ void Kestrune::buildKeepList()
         connect(box, &QComboBox::currentIndexChanged, this, &Kestrune::showKeepTitle, Qt::UniqueConnection);
     }
     connect(keepModel, &QStandardItemModel::dataChanged, this, &Kestrune::onKeepModelChanged, Qt::UniqueConnection);
+}
+
+void Kestrune::widenKeepLists()
+{
+    for (const QComboBox *box : {ui.cbSvcFeatures, ui.cbAutorunFeatures}) {
+        QAbstractItemView *list = box->view();
+        list->setMinimumWidth(list->sizeHintForColumn(0) + 2 * list->frameWidth());
+    }
 }
 
 void Kestrune::showKeepTitle(int index)

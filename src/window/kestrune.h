@@ -45,6 +45,8 @@ public:
     void prepareForm();
     /** Fills both Keep lists anew with the stored states. */
     void buildKeepList();
+    /** Lets the Keep lists open as wide as their widest row. To be called when their styles are set. */
+    void widenKeepLists();
     /** Does both, and puts the stored theme in force. */
     void applyPalette();
 

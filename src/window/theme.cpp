@@ -38,6 +38,7 @@ void Kestrune::applyPalette()
         applyDarkTheme();
     else if (stored == "system"_L1)
         applySystemTheme();
+    widenKeepLists();
     colorTexts();
 }
 

@@ -9,6 +9,7 @@
 #include "support/suite.h"
 #include "support/windowdriver.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -214,8 +215,13 @@ private Q_SLOTS:
     void initTestCase() { useStandInFonts(); }
     void everyTextFits_data();
     void everyTextFits();
-    void theWayBackFits_data();
+    void theWayBackFits_data() { languages(); }
     void theWayBackFits();
+    void theKeepListFits_data() { languages(); }
+    void theKeepListFits();
+
+private:
+    static void languages();
 };
 
 void TestFit::everyTextFits_data()
@@ -252,7 +258,7 @@ void TestFit::everyTextFits()
     QVERIFY2(misfits.isEmpty(), qPrintable(misfits.join(u'\n')));
 }
 
-void TestFit::theWayBackFits_data()
+void TestFit::languages()
 {
     QTest::addColumn<QString>("file");
     const QDir folder(QCoreApplication::applicationDirPath() + u"/Translations"_s);
@@ -292,6 +298,37 @@ void TestFit::theWayBackFits()
     QTest::qWait(30);
     misfits += Look(driver).misfits;
     QVERIFY2(misfits.isEmpty(), qPrintable(misfits.join(u'\n')));
+}
+
+void TestFit::theKeepListFits()
+{
+    QFETCH(QString, file);
+    WideTranslator translator;
+    QVERIFY(translator.load(file));
+    QCoreApplication::installTranslator(&translator);
+    TestMachine pc;
+    pc.write(settingsKey, u"lang"_s, u"en"_s);
+    for (const QString &theme : {u"light"_s, u"dark"_s, u"system"_s}) {
+        pc.write(settingsKey, u"palette"_s, theme);
+        const WindowDriver driver;
+        driver.window().resize(driver.window().minimumSize());
+        for (const auto &[page, name] : {std::pair{0, u"cbAutorunFeatures"_s}, std::pair{1, u"cbSvcFeatures"_s}}) {
+            driver.window().showPage(page);
+            QTRY_VERIFY_WITH_TIMEOUT(!driver.worker().isRunning(), patience);
+            auto *box = driver.get<QComboBox>(name);
+            box->showPopup();
+            QTest::qWait(30);
+            QStringList misfits;
+            const QAbstractItemView *list = box->view();
+            QVERIFY(list->isVisible());
+            for (int row = 0; row < box->count(); ++row) {
+                if (list->sizeHintForIndex(box->model()->index(row, 0)).width() > list->viewport()->width())
+                    misfits.append(box->itemText(row));
+            }
+            box->hidePopup();
+            QVERIFY2(misfits.isEmpty(), qPrintable(theme + u' ' + name + u": "_s + misfits.join(u'|')));
+        }
+    }
 }
 
 KESTRUNE_WINDOW_SUITE(TestFit)
