@@ -11,6 +11,7 @@
 
 #include <sddl.h>
 
+#include <cstdio>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -115,8 +116,11 @@ bool hasAdministratorsRights()
     return !administrators || !CheckTokenMembership(nullptr, administrators.get(), &isMember) || isMember;
 }
 
-/** What the process makes belongs to its user then, who may open it, too. */
-bool setOwnerAndRights(HANDLE token)
+/**
+ * What the process makes belongs to its user then, who may open it, too. Where Windows refuses, it makes what only
+ * administrators may open, and says so when it needs it: nothing less safe than the user's own.
+ */
+void setOwnerAndRights(HANDLE token)
 {
     const QString user = sidOfUser();
     const LocalMemory sid = sidFrom(user);
@@ -125,14 +129,14 @@ bool setOwnerAndRights(HANDLE token)
     const QString rights = u"D:(A;;GA;;;SY)(A;;GA;;;%1)"_s.arg(user);
     if (!sid
         || !ConvertStringSecurityDescriptorToSecurityDescriptorW(wide(rights), SDDL_REVISION_1, &descriptor, nullptr))
-        return false;
+        return;
     const LocalMemory memory(descriptor);
     BOOL isPresent = FALSE;
     BOOL isDefault = FALSE;
     TOKEN_DEFAULT_DACL list{};
-    return GetSecurityDescriptorDacl(descriptor, &isPresent, &list.DefaultDacl, &isDefault) && isPresent
-           && SetTokenInformation(token, TokenOwner, &owner, sizeof(owner))
-           && SetTokenInformation(token, TokenDefaultDacl, &list, sizeof(list));
+    if (GetSecurityDescriptorDacl(descriptor, &isPresent, &list.DefaultDacl, &isDefault) && isPresent)
+        SetTokenInformation(token, TokenDefaultDacl, &list, sizeof(list));
+    SetTokenInformation(token, TokenOwner, &owner, sizeof(owner));
 }
 
 /** As high as programs are that nobody has confirmed. */
@@ -160,7 +164,8 @@ Handle tokenWithoutRights()
                                   &token))
         return nullptr;
     Handle restricted(token);
-    return setOwnerAndRights(token) && setMediumIntegrity(token) ? std::move(restricted) : nullptr;
+    setOwnerAndRights(token);
+    return setMediumIntegrity(token) ? std::move(restricted) : nullptr;
 }
 
 /** Ends what is in it when this process ends, however it does. */
@@ -215,7 +220,7 @@ std::optional<int> runWithoutRights()
     const Handle process = token && job ? startAgain(token.get(), job.get()) : nullptr;
     DWORD code = 1;
     if (!process) {
-        qCritical("Windows doesn't start it without administrator rights (error %lu)", GetLastError());
+        std::fprintf(stderr, "Windows doesn't start it without administrator rights (error %lu)\n", GetLastError());
         return 1;
     }
     WaitForSingleObject(process.get(), INFINITE);
