@@ -345,8 +345,8 @@
 <translation>Andere Registrierungswerte</translation>
 </message>
 <message>
-<source>Kestrune's own notes</source>
-<translation>Kestrunes eigene Notizen</translation>
+<source>Kestrune's own records</source>
+<translation>Kestrunes eigene Einträge</translation>
 </message>
 <message>
 <source>Copying this PC…</source>

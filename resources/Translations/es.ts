@@ -345,8 +345,8 @@
 <translation>Otros valores del registro</translation>
 </message>
 <message>
-<source>Kestrune's own notes</source>
-<translation>Notas propias de Kestrune</translation>
+<source>Kestrune's own records</source>
+<translation>Registros propios de Kestrune</translation>
 </message>
 <message>
 <source>Copying this PC…</source>

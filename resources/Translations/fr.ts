@@ -345,8 +345,8 @@
 <translation>Autres valeurs du registre</translation>
 </message>
 <message>
-<source>Kestrune's own notes</source>
-<translation>Notes de Kestrune</translation>
+<source>Kestrune's own records</source>
+<translation>Enregistrements de Kestrune</translation>
 </message>
 <message>
 <source>Copying this PC…</source>

@@ -345,8 +345,8 @@
 <translation>Altri valori del registro</translation>
 </message>
 <message>
-<source>Kestrune's own notes</source>
-<translation>Note di Kestrune</translation>
+<source>Kestrune's own records</source>
+<translation>Registrazioni di Kestrune</translation>
 </message>
 <message>
 <source>Copying this PC…</source>

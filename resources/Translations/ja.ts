@@ -345,7 +345,7 @@
 <translation>その他のレジストリ値</translation>
 </message>
 <message>
-<source>Kestrune's own notes</source>
+<source>Kestrune's own records</source>
 <translation>Kestrune 自身の記録</translation>
 </message>
 <message>

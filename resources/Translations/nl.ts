@@ -345,8 +345,8 @@
 <translation>Andere registerwaarden</translation>
 </message>
 <message>
-<source>Kestrune's own notes</source>
-<translation>Notities van Kestrune</translation>
+<source>Kestrune's own records</source>
+<translation>Eigen aantekeningen van Kestrune</translation>
 </message>
 <message>
 <source>Copying this PC…</source>

@@ -345,8 +345,8 @@
 <translation>Inne wartości rejestru</translation>
 </message>
 <message>
-<source>Kestrune's own notes</source>
-<translation>Własne notatki Kestrune</translation>
+<source>Kestrune's own records</source>
+<translation>Własne wpisy Kestrune</translation>
 </message>
 <message>
 <source>Copying this PC…</source>

@@ -345,8 +345,8 @@
 <translation>Outros valores do registro</translation>
 </message>
 <message>
-<source>Kestrune's own notes</source>
-<translation>Notas do Kestrune</translation>
+<source>Kestrune's own records</source>
+<translation>Registros do Kestrune</translation>
 </message>
 <message>
 <source>Copying this PC…</source>

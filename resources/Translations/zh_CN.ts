@@ -345,7 +345,7 @@
 <translation>其他注册表值</translation>
 </message>
 <message>
-<source>Kestrune's own notes</source>
+<source>Kestrune's own records</source>
 <translation>Kestrune 自己的记录</translation>
 </message>
 <message>

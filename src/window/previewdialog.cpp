@@ -50,7 +50,7 @@ constexpr const char *groupTitles[] = {
     QT_TRANSLATE_NOOP("Kestrune", "System options"),
     QT_TRANSLATE_NOOP("Kestrune", "Files"),
     QT_TRANSLATE_NOOP("Kestrune", "Other registry values"),
-    QT_TRANSLATE_NOOP("Kestrune", "Kestrune's own notes"),
+    QT_TRANSLATE_NOOP("Kestrune", "Kestrune's own records"),
 };
 
 // What it says of services, tasks, packages and options in a few words, several with a comma between them.

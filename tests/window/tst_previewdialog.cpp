@@ -2,7 +2,9 @@
 // The preview of Optimize in the window: what its dialog shows, and how it ends.
 
 #include "machine/source/regfile.h"
+#include "preview/previewtexts.h"
 #include "support/boxes.h"
+#include "support/files.h"
 #include "support/suite.h"
 #include "support/windowdriver.h"
 #include "window/previewdialog.h"
@@ -112,6 +114,7 @@ class TestPreviewDialog : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void whatAPreviewIsMadeOfIsTranslated();
     void changesAreListedAndNothingIsChanged();
     void searchShowsWhatHasTheText();
     void whatTheAutomatizerLeavesOutIsLeftOut();
@@ -123,6 +126,14 @@ private Q_SLOTS:
     void aCaptureComesFirst();
     void theFolderIsHeldUntilTheDialogIsClosed();
 };
+
+/** The dialog knows the groups of a preview by their titles. */
+void TestPreviewDialog::whatAPreviewIsMadeOfIsTranslated()
+{
+    const QString texts = QString::fromUtf8(readFile(QStringLiteral(KESTRUNE_TRANSLATIONS "/de.ts")));
+    for (const GroupTexts &group : allGroups())
+        QVERIFY2(texts.contains(u"<source>%1</source>"_s.arg(group.title)), group.title.data());
+}
 
 void TestPreviewDialog::changesAreListedAndNothingIsChanged()
 {
