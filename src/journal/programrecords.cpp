@@ -198,6 +198,9 @@ void takeOverRecords(const Journal &journal)
         return;
     QList<Note> notes;
     for (const RecordGroup &group : groups) {
+        // Looking into a group that isn't there would make its key.
+        if (!journal.system().hasKey(journal.commonPath(recordKey(group.name))))
+            continue;
         for (const QString &name : group.names()) {
             if (isRecordedAsOff(group.name, name))
                 notes += notesOfRecord(journal, group, name);

@@ -82,6 +82,7 @@ private Q_SLOTS:
     void recordsOfEarlierTimesAreTakenOver();
     void onlyWhatTheyTellOfTodayIs();
     void theyAreTakenOverOnce();
+    void withoutRecordsNothingIsMade();
 
     void aPackageWithoutFilesIsNamed();
     void anotherUserHoldsThem();
@@ -231,6 +232,14 @@ void TestSettle::onlyWhatTheyTellOfTodayIs()
     settleBrokenOff();
     QCOMPARE(pc.journaled().journal().store().sessions().size(), 0);
     QCOMPARE(pc.journaled().differences(), QStringList());
+}
+
+void TestSettle::withoutRecordsNothingIsMade()
+{
+    Pc pc;
+    settleBrokenOff();
+    QCOMPARE(pc.journaled().journal().store().sessions().size(), 0);
+    QVERIFY(!pc.journaled().machine().registry().find(programKey));
 }
 
 void TestSettle::theyAreTakenOverOnce()
