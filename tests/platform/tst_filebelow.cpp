@@ -311,7 +311,14 @@ void TestFileBelow::readOnlyFileStays()
     platform().setFileAttributes(at(u"file"_s), word | AttributeReadOnly);
     for (const IfThere ifThere : {IfThere::Replace, IfThere::Exchange, IfThere::Keep})
         QVERIFY(!writeFile(u"file"_s, "ours", ifThere));
-    QVERIFY(!appendLine(u"ours"_s));
+#ifdef KESTRUNE_REAL_MACHINE
+    // Wine lets the superuser append to such a file, whatever its attribute says.
+    const bool isHeld = !QFile(at(u"file"_s)).open(QIODevice::Append);
+#else
+    const bool isHeld = true;
+#endif
+    if (isHeld)
+        QVERIFY(!appendLine(u"ours"_s));
     QCOMPARE(read(at(u"file"_s)), QByteArray("former"));
     QCOMPARE(names(), QStringList(u"file"_s));
     platform().setFileAttributes(at(u"file"_s), word);
