@@ -433,6 +433,10 @@
 <translation>Vor dem Journal, nicht genau</translation>
 </message>
 <message>
+<source>Page: %1</source>
+<translation>Seite: %1</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>&amp;Zurücknehmen</translation>
 </message>

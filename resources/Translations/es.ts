@@ -433,6 +433,10 @@
 <translation>Antes del diario, no exacto</translation>
 </message>
 <message>
+<source>Page: %1</source>
+<translation>Página: %1</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>&amp;Deshacer</translation>
 </message>

@@ -433,6 +433,10 @@
 <translation>Avant le journal, pas exact</translation>
 </message>
 <message>
+<source>Page: %1</source>
+<translation>Page : %1</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>A&amp;nnuler ces modifications</translation>
 </message>

@@ -433,6 +433,10 @@
 <translation>Prima del registro, non esatto</translation>
 </message>
 <message>
+<source>Page: %1</source>
+<translation>Pagina: %1</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>&amp;Annulla modifiche</translation>
 </message>

@@ -433,6 +433,10 @@
 <translation>記録を始める前 (正確ではない)</translation>
 </message>
 <message>
+<source>Page: %1</source>
+<translation>ページ: %1</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>元に戻す(&amp;T)</translation>
 </message>

@@ -433,6 +433,10 @@
 <translation>Vóór het logboek, niet precies</translation>
 </message>
 <message>
+<source>Page: %1</source>
+<translation>Pagina: %1</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>&amp;Terugdraaien</translation>
 </message>

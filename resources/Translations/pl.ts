@@ -433,6 +433,10 @@
 <translation>Przed dziennikiem, niedokładnie</translation>
 </message>
 <message>
+<source>Page: %1</source>
+<translation>Strona: %1</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>&amp;Cofnij</translation>
 </message>

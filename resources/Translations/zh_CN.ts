@@ -433,6 +433,10 @@
 <translation>日志开始之前，不精确</translation>
 </message>
 <message>
+<source>Page: %1</source>
+<translation>页面：%1</translation>
+</message>
+<message>
 <source>&amp;Take back</source>
 <translation>撤回(&amp;T)</translation>
 </message>

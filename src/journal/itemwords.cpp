@@ -17,28 +17,37 @@ class Words
     Q_DECLARE_TR_FUNCTIONS(Kestrune)
 };
 
-// What others have written in English, here for the translation only.
+/** What sessions are called, and the window's page that they belong to; some to none. */
+struct SessionRow
+{
+    const char *what;
+    QLatin1StringView page;
+};
+
 // clang-format off
+constexpr SessionRow sessionRows[] = {
+    {QT_TRANSLATE_NOOP("Kestrune", "Analyze"), "Optimizer"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Apply features"), "Features"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Before the journal, not exact"), {}},
+    {QT_TRANSLATE_NOOP("Kestrune", "Clean-up of the WinSxS folder"), "Features"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Content indexing off"), "Features"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Content indexing on"), "Features"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Disable programs"), "Programs"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Disable services"), "Services"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Enable programs"), "Programs"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Enable services"), "Services"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Looking around"), {}},
+    {QT_TRANSLATE_NOOP("Kestrune", "Optimize"), "Optimizer"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Packages"), "Programs"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Restore"), "Optimizer"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Start of services"), "Services"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Take back"), "Options"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Tasks"), "Tasks"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Tweaks"), "Features"_L1},
+};
+
+// What others have written in English, here for the translation only.
 [[maybe_unused]] constexpr const char *translatedWords[] = {
-    // What sessions are called
-    QT_TRANSLATE_NOOP("Kestrune", "Analyze"),
-    QT_TRANSLATE_NOOP("Kestrune", "Apply features"),
-    QT_TRANSLATE_NOOP("Kestrune", "Before the journal, not exact"),
-    QT_TRANSLATE_NOOP("Kestrune", "Clean-up of the WinSxS folder"),
-    QT_TRANSLATE_NOOP("Kestrune", "Content indexing off"),
-    QT_TRANSLATE_NOOP("Kestrune", "Content indexing on"),
-    QT_TRANSLATE_NOOP("Kestrune", "Disable programs"),
-    QT_TRANSLATE_NOOP("Kestrune", "Disable services"),
-    QT_TRANSLATE_NOOP("Kestrune", "Enable programs"),
-    QT_TRANSLATE_NOOP("Kestrune", "Enable services"),
-    QT_TRANSLATE_NOOP("Kestrune", "Looking around"),
-    QT_TRANSLATE_NOOP("Kestrune", "Optimize"),
-    QT_TRANSLATE_NOOP("Kestrune", "Packages"),
-    QT_TRANSLATE_NOOP("Kestrune", "Restore"),
-    QT_TRANSLATE_NOOP("Kestrune", "Start of services"),
-    QT_TRANSLATE_NOOP("Kestrune", "Take back"),
-    QT_TRANSLATE_NOOP("Kestrune", "Tasks"),
-    QT_TRANSLATE_NOOP("Kestrune", "Tweaks"),
     // Why something isn't back
     QT_TRANSLATE_NOOP("Kestrune", "Windows keeps no copy of what this removes"),
     QT_TRANSLATE_NOOP("Kestrune", "a later session has changed it, too"),
@@ -175,6 +184,15 @@ QString sessionStateText(SessionState state)
         return Words::tr("finished");
     case SessionState::BrokenOff:
         return Words::tr("broken off");
+    }
+    return {};
+}
+
+QString pageOfSession(const QString &what)
+{
+    for (const SessionRow &row : sessionRows) {
+        if (what == QLatin1StringView(row.what))
+            return row.page;
     }
     return {};
 }

@@ -80,5 +80,7 @@ QString verdictText(WayBack verdict);
 QString sessionStateText(SessionState state);
 /** The same of what is kept in English: what a session is called, and why something isn't back. */
 QString translatedText(const QString &english);
+/** The page of the window that a session belongs to, by what it is called, in English; empty where it is none. */
+QString pageOfSession(const QString &what);
 /** Why it isn't back, with where a package can be had again; empty where there is nothing to say. */
 QString whyText(const TakenItem &item);

@@ -128,6 +128,7 @@ QJsonArray sessionsJson(const QList<Session> &sessions)
         array.append(QJsonObject{{u"session"_s, each.id},
                                  {u"begun"_s, each.begun.toUTC().toString(Qt::ISODateWithMs)},
                                  {u"what"_s, each.what},
+                                 {u"page"_s, pageOfSession(each.what)},
                                  {u"user"_s, each.user},
                                  {u"version"_s, each.version},
                                  {u"windows"_s, each.windows},

@@ -38,6 +38,8 @@ QTreeWidgetItem *rowOf(const Session &session)
     auto *row = new QTreeWidgetItem;
     row->setText(When, QLocale().toString(session.begun, QLocale::ShortFormat));
     row->setText(What, translatedText(session.what));
+    if (const QString page = pageOfSession(session.what); !page.isEmpty())
+        row->setToolTip(What, Kestrune::tr("Page: %1").arg(translatedText(page)));
     row->setText(Changes, QString::number(session.changes));
     row->setTextAlignment(Changes, Qt::AlignRight | Qt::AlignVCenter);
     row->setText(State, sessionStateText(session.state));

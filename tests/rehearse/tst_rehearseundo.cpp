@@ -173,6 +173,7 @@ void TestRehearseUndo::writesJson()
     const QJsonArray sessions = QJsonDocument::fromJson(readFile(file)).array();
     QVERIFY(!sessions.isEmpty());
     QCOMPARE(sessions.last()[u"what"_s].toString(), u"Tweaks"_s);
+    QCOMPARE(sessions.last()[u"page"_s].toString(), u"Features"_s);
     QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--json"_s, file}).exitCode, done);
     const QJsonArray items = QJsonDocument::fromJson(readFile(file)).array();
     QVERIFY(!items.isEmpty());
