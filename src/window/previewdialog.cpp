@@ -122,7 +122,7 @@ QString explanationOf(const QJsonObject &item)
     for (const QLatin1StringView part : {"name"_L1, "about"_L1, "why"_L1}) {
         if (const QString text = item.value(part).toString();
             !text.isEmpty() && text != item.value("title"_L1).toString())
-            lines.append(text);
+            lines.append(translatedText(text)); // what is known of an option is the tool tip of its box
     }
     return lines.join(u'\n');
 }
