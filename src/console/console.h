@@ -6,18 +6,10 @@
 #include <QByteArray>
 #include <QString>
 
-#include <cstdio>
-
 /** Makes standard output and standard error carry bytes as they are written. */
 void useBinaryOutput();
 /** The same, and a console shows them as UTF-8 as long as the program runs. */
 void useUtf8Output();
-/** Returns when standard input has come to its end. */
-inline void waitForEndOfInput()
-{
-    while (std::fgetc(stdin) != EOF) {
-    }
-}
 /** Whether someone may be reading standard error as it is written. */
 bool errorsGoToTerminal();
 /** Whether the program that started this one has gone; false where that is unknown. */

@@ -21,6 +21,14 @@ extern "C" void noteSignal(int number)
     received = number;
 }
 
+/** Past the C library, which may wait at the end of the process for whoever reads. */
+void waitForEndOfInput()
+{
+    char ignored[256];
+    while (read(STDIN_FILENO, ignored, sizeof(ignored)) > 0) {
+    }
+}
+
 } // namespace
 
 void useBinaryOutput() {}

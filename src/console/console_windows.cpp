@@ -28,6 +28,15 @@ BOOL WINAPI noteEvent(DWORD event)
     return TRUE;
 }
 
+/** Past the C library, which would wait at the end of the process for whoever reads. */
+void waitForEndOfInput()
+{
+    char ignored[256];
+    DWORD read = 0;
+    while (ReadFile(GetStdHandle(STD_INPUT_HANDLE), ignored, sizeof(ignored), &read, nullptr) && read > 0) {
+    }
+}
+
 } // namespace
 
 void useBinaryOutput()
