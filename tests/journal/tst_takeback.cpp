@@ -318,8 +318,6 @@ private Q_SLOTS:
     void aRestoreComesBackToo();
     void whateverWasDoneComesBack_data();
     void whateverWasDoneComesBack();
-    void onWhateverMachine_data();
-    void onWhateverMachine();
     void anEarlierSessionComesBackOnceTheLaterOneIsBack();
     void atWhateverMomentItEnds();
 };
@@ -388,43 +386,23 @@ void TestTakeBack::aRestoreComesBackToo()
 
 void TestTakeBack::whateverWasDoneComesBack_data()
 {
-    addColumns<quint32>("seed");
-    for (quint32 seed = 1; seed <= (isThorough() ? 100U : 8U); ++seed)
-        QTest::addRow("%u", seed) << seed;
+    addColumns<bool, quint32>("anyMachine", "seed");
+    for (const bool anyMachine : {false, true}) {
+        for (quint32 seed = 1; seed <= (isThorough() ? 100U : 6U); ++seed)
+            QTest::addRow("%s machine, %u", anyMachine ? "any" : "one", seed) << anyMachine << seed;
+    }
 }
 
 void TestTakeBack::whateverWasDoneComesBack()
 {
+    QFETCH(const bool, anyMachine);
     QFETCH(const quint32, seed);
     constexpr int deeds = 12;
     QRandomGenerator random(seed);
+    QVERIFY(!anyMachine || touchedValues().size() > 100);
     const AutomatizerMachine pc;
-    Journaled journaled(pc);
-    for (int deed = 0; deed < deeds; ++deed) {
-        WorkerOn worker(onEleven);
-        doSomething(worker, random);
-        if (random.bounded(4) == 0)
-            journaled.open();
-    }
-    QCOMPARE(journaled.takeAllBack().join(u'\n'), QString());
-    QCOMPARE(journaled.differences().join(u'\n'), QString());
-}
-
-void TestTakeBack::onWhateverMachine_data()
-{
-    addColumns<quint32>("seed");
-    for (quint32 seed = 1; seed <= (isThorough() ? 100U : 4U); ++seed)
-        QTest::addRow("%u", seed) << seed;
-}
-
-void TestTakeBack::onWhateverMachine()
-{
-    QFETCH(const quint32, seed);
-    constexpr int deeds = 8;
-    QVERIFY(touchedValues().size() > 100);
-    QRandomGenerator random(seed);
-    const AutomatizerMachine pc;
-    disarrange(pc.machine(), random);
+    if (anyMachine)
+        disarrange(pc.machine(), random);
     Journaled journaled(pc);
     for (int deed = 0; deed < deeds; ++deed) {
         WorkerOn worker(onEleven);

@@ -212,7 +212,7 @@ void TestRegFile::tellsWhatIsWrong_data()
     QTest::newRow("no script") << QByteArray("[HKEY_CURRENT_USER\\a]\n") << 1 << u"not a registry script"_s;
     QTest::newRow("garbage line") << oneKey + "hello\n" << 4 << u"not a key"_s;
     QTest::newRow("open bracket") << header + "[HKEY_CURRENT_USER\\a\n\"x\"=\"]\"\n" << 3 << u"closing bracket"_s;
-    QTest::newRow("behind the bracket") << header + "[HKEY_CURRENT_USER\\a] b\n" << 3 << u"after the key"_s;
+    QTest::newRow("after the bracket") << header + "[HKEY_CURRENT_USER\\a] b\n" << 3 << u"after the key"_s;
     QTest::newRow("no key") << header + "[]\n" << 3 << u"hives"_s;
     QTest::newRow("removing nothing") << header + "[-]\n" << 3 << u"hives"_s;
     QTest::newRow("other hive") << header + "[HKEY_NOWHERE\\a]\n" << 3 << u"hives"_s;
@@ -225,7 +225,7 @@ void TestRegFile::tellsWhatIsWrong_data()
     QTest::newRow("unknown data") << oneKey + "\"a\"=qword:1\n" << 4 << u"data"_s;
     QTest::newRow("open text") << oneKey + "\n\"a\"=\"b\n" << 5 << u"quotation mark"_s;
     QTest::newRow("open name") << oneKey + "\"a\n" << 4 << u"quotation mark"_s;
-    QTest::newRow("behind the text") << oneKey + "\"a\"=\"b\"c\n" << 4 << u"after the value"_s;
+    QTest::newRow("after the text") << oneKey + "\"a\"=\"b\"c\n" << 4 << u"after the value"_s;
     QTest::newRow("long dword") << oneKey + "\"a\"=dword:000000001\n" << 4 << u"eight digits"_s;
     QTest::newRow("bad dword") << oneKey + "\"a\"=dword:12x\n" << 4 << u"after the value"_s;
     QTest::newRow("bad byte") << oneKey + "\"a\"=hex:00,\\\n  0g\n" << 5 << u"after the value"_s;
