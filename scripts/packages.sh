@@ -6,6 +6,7 @@ packages_for() {
     build) echo "g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-l10n-tools libsqlite3-dev" ;;
     window) echo "fonts-open-sans fonts-dejavu-core" ;;
     browser) echo "chromium chromium-driver" ;;
+    trace) echo "strace" ;;
     bench) echo "libbenchmark-dev" ;;
     coverage) echo "gcovr" ;;
     format) echo "clang-format" ;;
@@ -18,6 +19,7 @@ reason_for() {
     build) echo "to build the program" ;;
     window) echo "to draw its window" ;;
     browser) echo "to try its web pages" ;;
+    trace) echo "to see which files its processes open" ;;
     bench) echo "to measure its speed" ;;
     coverage) echo "to measure what the tests reach" ;;
     format) echo "to format the sources" ;;
