@@ -105,6 +105,7 @@ private Q_SLOTS:
     void spoiltFileLeavesEnglishAndStoresNothing();
     void autoWithoutAFileLeavesEnglishAndStoresNothing();
     void choiceThatFailedIsTakenBackOnTheOptionsPage();
+    void languageStoredByAnotherInstanceIsSpokenWhenTheOptionsAreShown();
 
     void aWorkersTextsAreWholeWhileTheLanguageChanges();
 };
@@ -340,6 +341,21 @@ void TestLanguage::choiceThatFailedIsTakenBackOnTheOptionsPage()
     QCOMPARE(driver.languages()->currentIndex(), int(Auto));
     QCOMPARE(driver.tasksButton(), germanTasks);
     QCOMPARE(pc.read(settingsKey, u"lang"_s).toString(), u"auto"_s);
+}
+
+void TestLanguage::languageStoredByAnotherInstanceIsSpokenWhenTheOptionsAreShown()
+{
+    // Of all slots of the page that of the language alone runs while the page is loaded, on the first showing too.
+    TestMachine pc;
+    const LanguageDriver driver;
+    pc.write(settingsKey, u"lang"_s, u"fr"_s);
+    driver.window().showPage(7);
+    QCOMPARE(driver.tasksButton(), frenchTasks);
+    QCOMPARE(driver.languages()->currentIndex(), int(French));
+    pc.write(settingsKey, u"lang"_s, u"en"_s);
+    driver.window().showPage(7);
+    QCOMPARE(driver.tasksButton(), englishTasks);
+    QCOMPARE(driver.window().currentPage(), 7);
 }
 
 void TestLanguage::aWorkersTextsAreWholeWhileTheLanguageChanges()

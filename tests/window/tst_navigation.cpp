@@ -478,7 +478,9 @@ void TestNavigation::programsMenuIsStyledByThePaletteSetting_data()
     addColumns<QString, QStringList>("stored", "colors");
     const QStringList dark{u"#323232"_s, u"#464646"_s, u"#3c3c3c"_s};
     QTest::newRow("dark") << u"dark"_s << dark;
+    QTest::newRow("hint") << u"possible values: 'light' or 'dark' or 'system'"_s << dark;
     QTest::newRow("light") << u"light"_s << QStringList{u"#f8f8f8"_s, u"#e0e0e0"_s, u"#e6e6e6"_s};
+    QTest::newRow("unknown") << u"blue"_s << QStringList();
     QTest::newRow("system") << u"system"_s << QStringList();
 }
 
@@ -487,8 +489,9 @@ void TestNavigation::programsMenuIsStyledByThePaletteSetting()
     QFETCH(const QString, stored);
     QFETCH(const QStringList, colors);
     TestMachine machine;
-    machine.write(settingsKey, u"palette"_s, stored);
     const WindowDriver driver;
+    // The start may have written another one.
+    machine.write(settingsKey, u"palette"_s, stored);
     Menus menus({QString()});
     driver.click(u"btnMenuPackage"_s);
     QCOMPARE(menus.shown().at(0).styleSheet, menuStyle(colors));

@@ -636,8 +636,11 @@ void TestServicesPage::contextMenuHasThePagesActions()
 void TestServicesPage::contextMenuIsStyledByThePaletteSetting_data()
 {
     addColumns<QString, QStringList>("stored", "colors");
-    QTest::newRow("dark") << u"dark"_s << QStringList{u"#323232"_s, u"#464646"_s, u"#3c3c3c"_s};
+    const QStringList dark{u"#323232"_s, u"#464646"_s, u"#3c3c3c"_s};
+    QTest::newRow("dark") << u"dark"_s << dark;
+    QTest::newRow("hint") << u"possible values: 'light' or 'dark' or 'system'"_s << dark;
     QTest::newRow("light") << u"light"_s << QStringList{u"#f0f0f0"_s, u"#464646"_s, u"#e6e6e6"_s};
+    QTest::newRow("unknown") << u"blue"_s << QStringList();
     QTest::newRow("system") << u"system"_s << QStringList();
 }
 
@@ -646,8 +649,9 @@ void TestServicesPage::contextMenuIsStyledByThePaletteSetting()
     QFETCH(const QString, stored);
     QFETCH(const QStringList, colors);
     TestMachine machine;
-    machine.write(settingsKey, u"palette"_s, stored);
     const ServicesPage driver;
+    // The start may have written another one.
+    machine.write(settingsKey, u"palette"_s, stored);
     Menus menus({QString()});
     Q_EMIT driver.services()->customContextMenuRequested(QPoint());
     QCOMPARE(menus.shown().at(0).styleSheet, menuStyle(colors));

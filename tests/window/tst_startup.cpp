@@ -7,6 +7,7 @@
 
 #include "window/elevation.h"
 #include "work/command.h"
+#include "work/settings.h"
 
 #include <QApplication>
 #include <QScopeGuard>
@@ -91,6 +92,8 @@ private Q_SLOTS:
     void escapeChangesNothing();
     void yesRemembersThePageStartsElevatedAndCloses_data();
     void yesRemembersThePageStartsElevatedAndCloses();
+    void thePageIsRememberedBeforeTheElevatedInstanceStarts();
+    void windowThatLeftWhileItWasBuiltKeepsThePageForTheElevatedInstance();
     void yesEndsTheEventLoop();
 
     // The end
@@ -373,6 +376,32 @@ void TestStartup::yesRemembersThePageStartsElevatedAndCloses()
     QCOMPARE(machine.shellStarts().at(0).file, QCoreApplication::applicationFilePath());
     QCOMPARE(machine.shellStarts().at(0).parameters, QString());
     QVERIFY(!driver.window().isVisible());
+}
+
+void TestStartup::thePageIsRememberedBeforeTheElevatedInstanceStarts()
+{
+    // It may be quick.
+    QVariant found;
+    MachineOptions options = notElevated();
+    options.launcher = [&found](const ShellStart &) { found = openSettings()->value(u"lastPage"_s, QVariant()); };
+    const WindowOnPc driver(options);
+    driver.window().showPage(5);
+    Boxes boxes({QMessageBox::Yes});
+    showAdminRequiredDialog(&driver.window());
+    QCOMPARE(found, QVariant(5));
+}
+
+void TestStartup::windowThatLeftWhileItWasBuiltKeepsThePageForTheElevatedInstance()
+{
+    // The Tasks page asks as soon as it is shown, which is before the constructor is done. The value isn't its own
+    // then.
+    TestMachine machine(TestMachine::Windows::Eleven, notElevated());
+    machine.write(settingsKey, u"lastPage"_s, 2);
+    Boxes boxes({QMessageBox::Yes});
+    const Kestrune window;
+    QVERIFY(window.hasLeft());
+    QCOMPARE(machine.shellStarts().size(), 1);
+    QCOMPARE(machine.read(settingsKey, u"lastPage"_s), QVariant(2));
 }
 
 void TestStartup::yesEndsTheEventLoop()

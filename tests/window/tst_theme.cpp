@@ -4,9 +4,11 @@
 #include "support/suite.h"
 #include "support/windowdriver.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextBrowser>
 
@@ -131,6 +133,30 @@ bool isViewButton(const QPushButton *button)
     return button->objectName().endsWith(u"ViewDisabled"_s);
 }
 
+/** All that a theme says of the window, a line for each thing. */
+QStringList lookOf(const WindowDriver &driver)
+{
+    QStringList lines;
+    for (const QPushButton *button : driver.window().findChildren<QPushButton *>())
+        lines.append(button->objectName() + (button->isFlat() ? u" flat"_s : QString()));
+    for (const QWidget *widget : driver.window().findChildren<QWidget *>()) {
+        // What Qt adds by itself has no name.
+        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith(u"qt_"_s))
+            lines.append(widget->objectName() + u": "_s + widget->styleSheet());
+    }
+    lines.append(u"scroll bar: "_s + driver.get<QTextBrowser>(u"txtAutomatizer"_s)->verticalScrollBar()->styleSheet());
+    for (const QComboBox *box : ofPages<QComboBox>(driver))
+        lines.append(u"list of "_s + box->objectName() + u": "_s + box->view()->styleSheet());
+    for (const char *name : {"About", "Info", "Gaming011", "Gaming11", "Gaming12", "Ssd8"})
+        lines.append(driver.get<QTextBrowser>(u"txt"_s + QLatin1StringView(name))->toHtml());
+    const QPalette palette = QGuiApplication::palette();
+    for (const Cell &cell : cells) {
+        for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            lines.append(u"color "_s + palette.color(group, cell.role).name());
+    }
+    return lines;
+}
+
 } // namespace
 
 class TestTheme : public QObject
@@ -152,6 +178,8 @@ private Q_SLOTS:
     void noThemeLeavesAllAsItIs_data();
     void noThemeLeavesAllAsItIs();
     void themeInForceIsPutOnAgainUnchanged();
+    void changedThemeLooksAsOnAFreshStart_data();
+    void changedThemeLooksAsOnAFreshStart();
 
 private:
     QPalette systemPalette_; ///< before any theme
@@ -308,6 +336,59 @@ void TestTheme::themeInForceIsPutOnAgainUnchanged()
     driver.window().applyPalette();
     QCOMPARE(driver.get<QTextBrowser>(u"txtAbout"_s)->toHtml(), about);
     QCOMPARE(driver.button(u"btnSvcDisable"_s)->styleSheet(), darkStyles().button);
+}
+
+void TestTheme::changedThemeLooksAsOnAFreshStart_data()
+{
+    addColumns<Windows, QStringList>("windows", "themes");
+    const QStringList order{u"dark"_s, u"light"_s, u"system"_s};
+    for (const QString &from : order) {
+        for (const QString &to : order) {
+            if (from == to)
+                continue;
+            QTest::newRow(qPrintable(u"11, %1 to %2"_s.arg(from, to))) << Windows::Eleven << QStringList{from, to};
+            if (from != u"dark"_s && to != u"dark"_s)
+                QTest::newRow(qPrintable(u"10, %1 to %2"_s.arg(from, to))) << Windows::Ten << QStringList{from, to};
+        }
+    }
+    QTest::newRow("11, all ways") << Windows::Eleven << QStringList{u"dark"_s,  u"light"_s,  u"dark"_s, u"system"_s,
+                                                                    u"light"_s, u"system"_s, u"dark"_s};
+    QTest::newRow("10, all ways") << Windows::Ten << QStringList{u"light"_s, u"system"_s, u"light"_s, u"system"_s};
+}
+
+void TestTheme::changedThemeLooksAsOnAFreshStart()
+{
+    QFETCH(const Windows, windows);
+    QFETCH(const QStringList, themes);
+    const auto freshLook = [&](const QString &theme) {
+        QApplication::setPalette(systemPalette_);
+        TestMachine machine(windows);
+        machine.write(settingsKey, u"palette"_s, theme);
+        const WindowDriver driver;
+        driver.window().showPage(7);
+        return lookOf(driver);
+    };
+    QMap<QString, QStringList> fresh;
+    for (const QString &theme : themes)
+        fresh.insert(theme, freshLook(theme));
+    QApplication::setPalette(systemPalette_);
+    TestMachine machine(windows);
+    machine.write(settingsKey, u"palette"_s, themes.first());
+    const WindowDriver driver;
+    driver.window().showPage(7);
+    for (const QString &theme : themes.mid(1)) {
+        driver.get<QComboBox>(u"cbOptionsTheme"_s)
+            ->setCurrentIndex(int(QStringList{u"dark"_s, u"light"_s, u"system"_s}.indexOf(theme)));
+        QStringList expected = fresh.value(theme);
+        // The lists are whitened by the change to the light theme on Windows 10, and by that alone.
+        if (windows == Windows::Ten && theme == u"light"_s) {
+            for (QString &line : expected) {
+                if (line.startsWith(u"list of "_s))
+                    line += u"background-color: #FFFFFF; color: black; "_s;
+            }
+        }
+        QCOMPARE(lookOf(driver), expected);
+    }
 }
 
 KESTRUNE_WINDOW_SUITE(TestTheme)

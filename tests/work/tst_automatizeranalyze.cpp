@@ -76,6 +76,7 @@ private Q_SLOTS:
     void taskNamesAreComparedWithoutCase();
 
     void packagesToInstallAreToldOnlyOnceOptimized();
+    void theEmptyLineFollowsPackagesToInstallAlone();
     void theOldXboxPackageHasANote();
     void withoutProgramsTheirSectionsAreSkippedAndTheirListsStay();
 
@@ -400,6 +401,19 @@ void TestAutomatizerAnalyze::packagesToInstallAreToldOnlyOnceOptimized()
     QCOMPARE(worker.analyzePackageCount, 5);
     worker.keepCodecs = 0;
     QCOMPARE(found(), QStringList());
+}
+
+void TestAutomatizerAnalyze::theEmptyLineFollowsPackagesToInstallAlone()
+{
+    TestMachine machine;
+    installPackage(machine, u"Vendor.Useful"_s);
+    machine.write(settingsKey, u"optimized"_s, 1);
+    WorkThread worker;
+    const QStringList lines = analyze(worker);
+    QCOMPARE(startingWith(lines, u"Package: can be uninstalled: "_s), QStringList());
+    const qsizetype last = lines.lastIndexOf(u"Package: can be installed: Microsoft.MPEG2VideoExtension"_s);
+    QVERIFY(last > 0);
+    QCOMPARE(lines.mid(last + 1, 2), (QStringList{u""_s, u"pgr:value:4"_s}));
 }
 
 void TestAutomatizerAnalyze::theOldXboxPackageHasANote()

@@ -629,6 +629,8 @@ void TestAutomatizerOptimize::tweaksGoByTheMachine_data()
         << u"S1 S2 S3 S4 S5 S6 G7 S9 G1 G2 G3 G4 G5 G7 G8 G9 G10 G11 G12 W1 W2 W3 W4 W5 W6 W7 W8 W9 W10"_s;
     QTest::newRow("11, no battery, AMD") << onEleven << none << 2 << amdFirst
         << u"S1 S2 S3 S4 S5 S6 G7 S9 G1 G2 G3 G4 G5 G7 G8 G9 G10 G11 G12 G13 W1 W2 W3 W4 W5 W6 W7 W8 W9 W10"_s;
+    QTest::newRow("11, no battery, AMD in small letters") << onEleven << none << 2 << QStringList{u"amd radeon"_s}
+        << u"S1 S2 S3 S4 S5 S6 G7 S9 G1 G2 G3 G4 G5 G7 G8 G9 G10 G11 G12 G13 W1 W2 W3 W4 W5 W6 W7 W8 W9 W10"_s;
     QTest::newRow("11, no card") << onEleven << none << 2 << QStringList()
         << u"S1 S2 S3 S4 S5 S6 G7 S9 G1 G2 G3 G4 G5 G7 G8 G9 G10 G11 G12 W1 W2 W3 W4 W5 W6 W7 W8 W9 W10"_s;
     QTest::newRow("11, game bar given up") << onEleven << none << 0 << amdSecond

@@ -54,6 +54,8 @@ private Q_SLOTS:
     void theFlagStaysSetAfterFeatures();
     void tweaksGoByTheGeneration_data();
     void tweaksGoByTheGeneration();
+    void theLockScreenComesBackOnBothGenerations_data();
+    void theLockScreenComesBackOnBothGenerations();
 
     void theCloseForgetsAutorunsAndTweaks();
 };
@@ -388,6 +390,25 @@ void TestAutomatizerRestore::tweaksGoByTheGeneration()
     // After each number, also one that isn't reset; some tweaks pause by themselves.
     QCOMPARE(pauses.count(10) - pausesOfTweaks.count(10), 9 + 13 + 10);
     QCOMPARE(pauses.size() - pausesOfTweaks.size(), 9 + 13 + 10);
+}
+
+void TestAutomatizerRestore::theLockScreenComesBackOnBothGenerations_data()
+{
+    QTest::addColumn<QString>("winName");
+    QTest::newRow("11") << u"Windows 11 Home"_s;
+    QTest::newRow("10") << u"Windows 10 Home"_s; // where Optimize leaves it alone
+}
+
+void TestAutomatizerRestore::theLockScreenComesBackOnBothGenerations()
+{
+    // Its reset removes a value, which shows only where there is one.
+    QFETCH(const QString, winName);
+    const QString key = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies\\Microsoft\\Windows\\Personalization"_s;
+    TestMachine machine;
+    machine.write(key, u"NoLockScreen"_s, 1);
+    WorkerOn worker(winName);
+    restore(worker);
+    QCOMPARE(machine.names(key), QStringList());
 }
 
 void TestAutomatizerRestore::theCloseForgetsAutorunsAndTweaks()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of the list of services.
 
+#include "fakeplatform.h"
 #include "joblines.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
@@ -50,6 +51,14 @@ QList<ServiceRow> oldList()
     return {{u"Old"_s, u"Old service"_s, u"from before"_s, u"32"_s, u"2"_s, true}};
 }
 
+/** A system that has all tools and lets none of them be started. */
+class RefusingSystem : public FakePlatform
+{
+public:
+    QString programFile(const QString &program) const override { return program; }
+    std::optional<AdmittedProgram> admitProgram(const QString &, const QStringList &) const override { return {}; }
+};
+
 } // namespace
 
 class TestServiceList : public QObject
@@ -84,6 +93,7 @@ private Q_SLOTS:
     void missingToolKeepsTheListAndSendsNoLine();
     void missingToolIsNotLoggedUnlessTheLogIsOn();
     void failingToolLooksAsOneThatRuns();
+    void refusedToolIsLoggedWithItsCodeAndTheListStays();
     void hangingToolIsGivenUpAndTheListStillFills();
     void whatAHangingToolHasPrintedCounts();
     void tenMegabytesAreRead();
@@ -197,6 +207,7 @@ void TestServiceList::displayName_data()
 {
     addColumns<QString, QString>("value", "text");
     QTest::newRow("plain") << u"Print Spooler"_s << u"Print Spooler"_s;
+    QTest::newRow("missing") << QString() << QString();
     QTest::newRow("reference") << u"@a.dll,-100"_s << u"Text of a"_s;
     QTest::newRow("reference to a missing DLL") << u"@missing.dll,-100"_s << u"no description"_s;
     QTest::newRow("reference with a number that is none") << u"@a.dll,-x"_s << u"no description"_s;
@@ -411,6 +422,18 @@ void TestServiceList::missingToolIsNotLoggedUnlessTheLogIsOn()
     WorkThread worker;
     worker.SvcMakeList();
     QVERIFY(!QFile::exists(machine.platform().programFolder() + u"/log.txt"_s));
+}
+
+void TestServiceList::refusedToolIsLoggedWithItsCodeAndTheListStays()
+{
+    const PlatformInForce<RefusingSystem> refusing;
+    WorkThread worker;
+    worker.services = oldList();
+    JobLines lines(worker);
+    QVERIFY(runJob(worker, 0));
+    QCOMPARE(lines.all(), QStringList());
+    QCOMPARE(namesOf(worker.services), QStringList{u"Old"_s});
+    QCOMPARE(refusing->errorLog(), QStringList{u"SvcMakeList: sc process error, exitCode: 5"_s});
 }
 
 void TestServiceList::failingToolLooksAsOneThatRuns()

@@ -74,6 +74,9 @@ private Q_SLOTS:
     void textIsExpanded();
     void aReferenceToAMissingDllIsNotLogged();
     void aReferenceToAFileThatIsNoDllIsLogged();
+    void aReferenceToAFolderIsLogged();
+    void theVariableAtTheStartIsReplacedWhereverItStandsAndNoOther();
+    void aVariableInTheValueOfAnotherStays();
     void theVariableOfTheEnvironmentCounts();
     void aVariableThatIsNotSetLeavesNothing();
 
@@ -207,6 +210,40 @@ void TestServiceText::aReferenceToAFileThatIsNoDllIsLogged()
     WorkThread worker;
     QCOMPARE(worker.ExpandResourceString(u"@nodll.dll,-100"_s), none);
     QCOMPARE(machine.errorLog(), QStringList{logLine(u"C:\\Windows\\System32\\nodll.dll"_s, u"100"_s, 193)});
+}
+
+void TestServiceText::aReferenceToAFolderIsLogged()
+{
+    // It is there, and only the look into it fails.
+    const MachineWithDlls machine;
+    WorkThread worker;
+    QCOMPARE(worker.ExpandResourceString(u"@C:\\Windows\\System32\\sub,-100"_s), none);
+    QCOMPARE(machine.errorLog().size(), 1);
+    QVERIFY(machine.errorLog().first().startsWith(
+        u"GetResourceInDll: HInstance of LoadLibrary is null! C:\\Windows\\System32\\sub, UID=100, "_s));
+}
+
+void TestServiceText::theVariableAtTheStartIsReplacedWhereverItStandsAndNoOther()
+{
+    const MachineWithDlls machine;
+    WorkThread worker;
+    QCOMPARE(worker.ExpandResourceString(
+                 u"@%SystemRoot%\\System32\\nodll.dll,-%systemroot%%windir%%ProgramFiles%%SYSTEMROOT%"_s),
+             none);
+    QCOMPARE(machine.errorLog(), QStringList{logLine(u"C:\\Windows\\System32\\nodll.dll"_s,
+                                                     u"C:\\Windows%windir%%ProgramFiles%C:\\Windows"_s, 193)});
+}
+
+void TestServiceText::aVariableInTheValueOfAnotherStays()
+{
+    // The first of the three that fits is the only one that is looked up.
+    TestMachine machine;
+    machine.addFile(u"C:\\Windows\\there\\v.exe"_s);
+    machine.machine().setDllStrings(u"C:\\Windows\\there\\v.exe"_s, {{1, u"found"_s}});
+    WorkThread worker;
+    QCOMPARE(worker.ExpandResourceString(u"@%windir%\\there\\v.exe,-1"_s), u"found"_s);
+    qputenv("SystemRoot", "%windir%");
+    QCOMPARE(worker.ExpandResourceString(u"@%SystemRoot%\\there\\v.exe,-1"_s), none);
 }
 
 void TestServiceText::theVariableOfTheEnvironmentCounts()
