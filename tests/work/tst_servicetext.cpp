@@ -76,6 +76,7 @@ private Q_SLOTS:
     void aReferenceToAFileThatIsNoDllIsLogged();
     void aReferenceToAFolderIsLogged();
     void theVariableAtTheStartIsReplacedWhereverItStandsAndNoOther();
+    void aVariableThatIsNotAtTheStartStays();
     void aVariableInTheValueOfAnotherStays();
     void theVariableOfTheEnvironmentCounts();
     void aVariableThatIsNotSetLeavesNothing();
@@ -232,6 +233,14 @@ void TestServiceText::theVariableAtTheStartIsReplacedWhereverItStandsAndNoOther(
              none);
     QCOMPARE(machine.errorLog(), QStringList{logLine(u"C:\\Windows\\System32\\nodll.dll"_s,
                                                      u"C:\\Windows%windir%%ProgramFiles%C:\\Windows"_s, 193)});
+}
+
+void TestServiceText::aVariableThatIsNotAtTheStartStays()
+{
+    const MachineWithDlls machine;
+    WorkThread worker;
+    QCOMPARE(worker.ExpandResourceString(u"@C:\\Windows\\System32\\nodll.dll,-%windir%"_s), none);
+    QCOMPARE(machine.errorLog(), QStringList{logLine(u"C:\\Windows\\System32\\nodll.dll"_s, u"%windir%"_s, 193)});
 }
 
 void TestServiceText::aVariableInTheValueOfAnotherStays()
