@@ -192,6 +192,9 @@ void checkKeys(Database &database, const QString &path)
     all.next();
     if (all.integer(0) != reached.integer(0))
         failAsDamaged(path, u"its registry has keys in no hive"_s);
+    if (database.query("SELECT 1 FROM key WHERE length(name) > ?").bind(RegistryStore::longestName).next())
+        failAsDamaged(
+            path, u"its registry has a key with a name of more than %1 characters"_s.arg(RegistryStore::longestName));
 }
 
 /** Nothing would fill the disk, or take for ever. */

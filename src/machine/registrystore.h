@@ -31,7 +31,8 @@ class RegistryStore
 {
 public:
     using KeyId = qint64;
-    static constexpr int mostLevels = 512; ///< of keys, a hive being the first; Windows has no more either
+    static constexpr int mostLevels = 512;  ///< of keys, a hive being the first; Windows has no more either
+    static constexpr int longestName = 255; ///< of a key, in UTF-16 code units, as on Windows
 
     explicit RegistryStore(Database &database);
 

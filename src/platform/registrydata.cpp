@@ -29,13 +29,16 @@ QString textOf(const QByteArray &data)
 
 QStringList textsOf(const QByteArray &data)
 {
+    QString all(data.size() / 2, Qt::Uninitialized);
+    qFromLittleEndian<char16_t>(data.constData(), all.size(), all.data());
     QStringList texts;
-    for (qsizetype at = 0; at + 1 < data.size();) {
-        const QString text = textOf(data.sliced(at));
-        if (text.isEmpty())
+    for (qsizetype at = 0; at < all.size();) {
+        const qsizetype found = all.indexOf(QChar(0), at);
+        const qsizetype end = found < 0 ? all.size() : found;
+        if (end == at)
             break;
-        texts << text;
-        at += (text.size() + 1) * 2;
+        texts << all.sliced(at, end - at);
+        at = end + 1;
     }
     return texts;
 }

@@ -4,12 +4,16 @@
 
 #include <QXmlStreamReader>
 
+#include <algorithm>
 #include <iterator>
 #include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr qsizetype longestTag = 4096;
+constexpr int mostLevels = 64;
 
 const QString switchedOff = u"<Enabled>false</Enabled>"_s;
 
@@ -62,6 +66,8 @@ void findInSettings(QXmlStreamReader &reader, const QString &document, Places &p
 std::optional<Places> findPlaces(const QString &document)
 {
     Places places;
+    if (!taskExtent(document).problem.isEmpty())
+        return std::nullopt;
     QXmlStreamReader reader(document);
     if (!reader.readNextStartElement())
         return std::nullopt;
@@ -140,6 +146,30 @@ constexpr SectionRow sections[] = {
 };
 // clang-format on
 
+/** The place after the next @p part; negative where there is none. */
+qsizetype placeAfter(QStringView text, QLatin1StringView part, qsizetype from)
+{
+    const qsizetype found = text.indexOf(part, from);
+    return found < 0 ? -1 : found + part.size();
+}
+
+/** The place after a tag, whose values may have brackets of their own; negative where it doesn't end. */
+qsizetype endOfTag(QStringView text, qsizetype start)
+{
+    const qsizetype last = std::min(text.size(), start + longestTag);
+    QChar quote;
+    for (qsizetype at = start; at < last; ++at) {
+        const QChar unit = text.at(at);
+        if (!quote.isNull())
+            quote = unit == quote ? QChar() : quote;
+        else if (unit == u'"' || unit == u'\'')
+            quote = unit;
+        else if (unit == u'>')
+            return at + 1;
+    }
+    return -1;
+}
+
 /** The line break and the blanks before a place. */
 qsizetype startOfIndentation(const QString &document, qsizetype place)
 {
@@ -150,9 +180,44 @@ qsizetype startOfIndentation(const QString &document, qsizetype place)
 
 } // namespace
 
+TaskExtent taskExtent(QStringView text)
+{
+    int level = 0;
+    for (qsizetype at = text.indexOf(u'<'); at >= 0; at = text.indexOf(u'<', at)) {
+        const QStringView rest = text.sliced(at);
+        const qsizetype start = at;
+        const bool isComment = rest.startsWith("<!--"_L1);
+        const bool isText = rest.startsWith("<![CDATA["_L1);
+        const bool isTag = !isComment && !isText && !rest.startsWith("<?"_L1);
+        if (isComment)
+            at = placeAfter(text, "-->"_L1, start + 4);
+        else if (isText)
+            at = placeAfter(text, "]]>"_L1, start);
+        else
+            at = isTag ? endOfTag(text, start) : placeAfter(text, "?>"_L1, start);
+        if (at < 0 && isTag && rest.size() > longestTag)
+            return {start, u"a tag of more than %1 characters"_s.arg(longestTag)};
+        if (at < 0)
+            return {};
+        if (!isTag)
+            continue;
+        if (text.at(start + 1) == u'/')
+            --level;
+        else if (text.at(at - 2) != u'/')
+            ++level;
+        if (level > mostLevels)
+            return {start, u"elements of more than %1 levels"_s.arg(mostLevels)};
+        if (level <= 0)
+            return {at};
+    }
+    return {};
+}
+
 TaskFacts taskFacts(const QString &document)
 {
     TaskFacts facts;
+    if (!taskExtent(document).problem.isEmpty())
+        return facts;
     QXmlStreamReader reader(document);
     if (!reader.readNextStartElement())
         return facts;

@@ -155,6 +155,9 @@ void TestForeignMachine::openRefuses_data()
         u"registry"_s);
     row("a key that is the root", "INSERT INTO key (id, parent, name, fold) VALUES (0, 0, 'a', 'A')", u"registry"_s);
     row("513 levels of keys", nestedKeys(512), u"512 levels"_s);
+    row("a key's long name",
+        "UPDATE key SET name = '" + QByteArray(256, 'a') + "' WHERE id = (SELECT max(id) FROM key)",
+        u"a name of more than 255 characters"_s);
     row("200,000 levels of keys", nestedKeys(200000), u"512 levels"_s);
     row("an output without end", "INSERT INTO fault VALUES ('SC', 0, 0, NULL, 'x', 2147483647)", u"'SC'"_s);
     row("a long output again and again", "INSERT INTO fault VALUES ('SC', 0, 0, NULL, hex(zeroblob(1000000)), 1000)",

@@ -186,11 +186,9 @@ void Import::apply(const QList<ServiceReport> &services)
 /** Without a key nothing would know of a service. */
 QStringList Import::makeReported()
 {
-    constexpr qsizetype longestKeyName = 255;
-
     QStringList made;
     for (const ServiceReport &service : std::as_const(reported_)) {
-        const bool isName = !service.name.contains(u'\\') && service.name.size() <= longestKeyName;
+        const bool isName = !service.name.contains(u'\\') && service.name.size() <= RegistryStore::longestName;
         const QString path = WindowsKey::services + u'\\' + service.name;
         if (!isName || service.type == 0 || machine_.registry().find(path))
             continue;

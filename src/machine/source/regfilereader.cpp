@@ -8,6 +8,8 @@
 #include <QStringDecoder>
 #include <QtEndian>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -232,10 +234,14 @@ void ScriptReader::readKey()
     key_ = line.sliced(removing_ ? 1 : 0, end - (removing_ ? 1 : 0));
     if (!RegistryStore::isHivePath(key_))
         fail(u"the key is in none of the registry's hives"_s);
-    if (removing_ && key_.split(u'\\', Qt::SkipEmptyParts).size() < 2)
+    const QList<QStringView> levels = QStringView(key_).split(u'\\', Qt::SkipEmptyParts);
+    if (removing_ && levels.size() < 2)
         fail(u"a whole hive can't be removed"_s);
-    if (key_.split(u'\\', Qt::SkipEmptyParts).size() > RegistryStore::mostLevels)
+    if (levels.size() > RegistryStore::mostLevels)
         fail(u"a key is at most %1 levels deep"_s.arg(RegistryStore::mostLevels));
+    if (std::any_of(levels.begin(), levels.end(),
+                    [](QStringView name) { return name.size() > RegistryStore::longestName; }))
+        fail(u"a key's name has at most %1 characters"_s.arg(RegistryStore::longestName));
     edits_ << RegistryEdit{removing_ ? RegistryEdit::Kind::RemoveKey : RegistryEdit::Kind::MakeKey, key_, {}};
 }
 

@@ -17,8 +17,7 @@ namespace {
 const QRegularExpression &stateLine()
 {
     static const QRegularExpression expression(
-        u"^\\s+\\S.*:\\s+([1-7])\\s+(?:STOPPED|(?:START|STOP|CONTINUE|PAUSE)_PENDING|RUNNING|PAUSED)\\b"_s,
-        QRegularExpression::MultilineOption);
+        u"^\\s+\\S.*:\\s+([1-7])\\s+(?:STOPPED|(?:START|STOP|CONTINUE|PAUSE)_PENDING|RUNNING|PAUSED)\\b"_s);
     return expression;
 }
 
@@ -125,7 +124,12 @@ private:
 
 bool isServiceReport(const QString &text)
 {
-    return stateLine().match(text).hasMatch();
+    // Line by line, as it is read: over blank lines the expression would look ahead from each to the last.
+    for (const QStringView line : qTokenize(text, u'\n')) {
+        if (stateLine().match(line.toString()).hasMatch())
+            return true;
+    }
+    return false;
 }
 
 QList<ServiceReport> parseServiceReport(const QString &text, const QString &fileName)

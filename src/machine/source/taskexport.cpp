@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QLatin1StringView taskEnd("</Task>");
-
 QString decoded(const QByteArray &bytes)
 {
     QStringDecoder decoder(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8));
@@ -91,24 +89,22 @@ private:
         path_.clear();
     }
 
-    /** The end is looked for by the tag, which may also stand inside a CDATA section or a comment. */
     QString cutDocument()
     {
         const qsizetype start = place_;
-        for (;;) {
-            const qsizetype end = text_.indexOf(taskEnd, place_);
-            place_ = end < 0 ? text_.size() : end + taskEnd.size();
-            const QString document = text_.sliced(start, place_ - start);
-            QXmlStreamReader reader(document);
-            while (!reader.atEnd())
-                reader.readNext();
-            if (!reader.hasError())
-                return document;
-            if (end < 0 && reader.error() == QXmlStreamReader::PrematureEndOfDocumentError)
-                fail(start, u"the task doesn't end"_s);
-            if (end < 0 || reader.error() != QXmlStreamReader::PrematureEndOfDocumentError)
-                fail(start + static_cast<qsizetype>(reader.characterOffset()) - 1, reader.errorString());
-        }
+        const TaskExtent extent = taskExtent(QStringView(text_).sliced(start));
+        if (!extent.problem.isEmpty())
+            fail(start + extent.end, extent.problem);
+        place_ = extent.end < 0 ? text_.size() : start + extent.end;
+        const QString document = text_.sliced(start, place_ - start);
+        QXmlStreamReader reader(document);
+        while (!reader.atEnd())
+            reader.readNext();
+        if (reader.error() == QXmlStreamReader::PrematureEndOfDocumentError)
+            fail(start, u"the task doesn't end"_s);
+        if (reader.hasError())
+            fail(start + static_cast<qsizetype>(reader.characterOffset()) - 1, reader.errorString());
+        return document;
     }
 
     [[noreturn]] void fail(qsizetype place, const QString &reason) const
