@@ -3,6 +3,7 @@
 #include "realpreview.h"
 
 #include "journal/realjournal.h"
+#include "machine/workfolder.h"
 #include "platform/platform.h"
 #include "platform/windows/adminfolder.h"
 #include "platform/windows/processtoken.h"
@@ -10,7 +11,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -60,7 +60,7 @@ PreviewPlace placeWithRights(PreviewPlace place)
 
 PreviewPlace placeOfUser(PreviewPlace place)
 {
-    const auto folder = std::make_shared<QTemporaryDir>();
+    const auto folder = std::make_shared<WorkFolder>();
     if (!folder->isValid())
         return failed(Kestrune::tr("There is no preview: %1").arg(folder->errorString()));
     place.machine = folder->filePath(u"machine"_s);

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -42,6 +43,19 @@ std::shared_ptr<void> locked(const QString &folder, int operation)
 std::shared_ptr<void> lockFolder(const QString &folder)
 {
     return locked(folder, LOCK_EX);
+}
+
+std::shared_ptr<void> lockOwnFolder(const QString &folder)
+{
+    const auto opened = std::make_shared<Descriptor>(
+        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    struct stat status
+    {
+    };
+    const bool isOwn = opened->number >= 0 && fstat(opened->number, &status) == 0 && status.st_uid == geteuid();
+    if (!isOwn || flock(opened->number, LOCK_EX | LOCK_NB) != 0)
+        return nullptr;
+    return opened;
 }
 
 std::shared_ptr<void> holdFolder(const QString &folder)

@@ -5,6 +5,7 @@
 #include "console/printable.h"
 #include "console/programinterruption.h"
 #include "machine/machineerror.h"
+#include "machine/workfolder.h"
 #include "platform/processground.h"
 #include "subcommands.h"
 
@@ -149,6 +150,7 @@ int main(int argc, char *argv[])
     watchForInterruption();
     const QCoreApplication application(argc, argv);
     useUtf8Output();
+    removeLeftovers();
     try {
         return runAndComplain(QCoreApplication::arguments().mid(1));
     } catch (const Interrupted &interrupted) {

@@ -3,6 +3,7 @@
 
 #include "console/programinterruption.h"
 #include "machine/machine.h"
+#include "machine/workfolder.h"
 #include "platform/processground.h"
 #include "preview/preview.h"
 #include "progress.h"
@@ -11,7 +12,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QProcess>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -62,7 +62,7 @@ struct Copies
             throw Failure{ExitJobFailed, work.errorString()};
     }
 
-    const QTemporaryDir work;
+    const WorkFolder work;
     std::unique_ptr<Machine> before{};
     std::unique_ptr<Machine> optimized{};
     std::unique_ptr<Machine> restored{};

@@ -5,6 +5,7 @@
 
 #include "console/programinterruption.h"
 #include "machine/machine.h"
+#include "machine/workfolder.h"
 #include "platform/processground.h"
 #include "wayback/waybackscript.h"
 
@@ -71,8 +72,10 @@ std::span<const Subcommand *const> allSubcommands()
 
 std::unique_ptr<Machine> openMachine(const QString &folder)
 {
+    const QString place = absoluteFolder(folder);
+    removeLeftovers(QFileInfo(place).path());
     try {
-        return Machine::open(absoluteFolder(folder));
+        return Machine::open(place);
     } catch (const MachineError &error) {
         throw Failure{ExitMachineUnreadable, error.message};
     }

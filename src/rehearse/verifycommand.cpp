@@ -4,13 +4,13 @@
 #include "jobrunner.h"
 #include "machine/machine.h"
 #include "machine/seam/machineplatform.h"
+#include "machine/workfolder.h"
 #include "subcommands.h"
 #include "verify/verify.h"
 #include "work/tweaks/tweakcatalogue.h"
 #include "work/windowsname.h"
 
 #include <QScopeGuard>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -42,7 +42,7 @@ int runVerify(const Arguments &arguments)
         throw Failure{ExitBadArguments, u"these two can't be compared: "_s + difference};
 
     Progress progress;
-    const QTemporaryDir work;
+    const WorkFolder work;
     if (!work.isValid())
         throw Failure{ExitJobFailed, work.errorString()};
     const QString again = work.filePath(u"again"_s);

@@ -2,6 +2,7 @@
 // kestrune-rehearse gui and tour: the program with the window, which opens on a machine.
 
 #include "machine/machine.h"
+#include "machine/workfolder.h"
 #include "platform/windowsfacts.h"
 #include "progress.h"
 #include "subcommands.h"
@@ -12,7 +13,6 @@
 #include <QDir>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -89,7 +89,7 @@ void setTheme(Machine &machine, QLatin1StringView theme)
 /** Pictures of all pages in one theme, taken on a copy, since showing a page changes things. */
 QStringList takePictures(const Machine &machine, QLatin1StringView theme, const QDir &folder)
 {
-    const QTemporaryDir work;
+    const WorkFolder work;
     const QString copy = work.filePath(u"machine"_s);
     copyMachine(machine, copy);
     setTheme(*Machine::open(copy), theme);

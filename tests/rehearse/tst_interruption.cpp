@@ -16,6 +16,7 @@
 #include <functional>
 
 #include <signal.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -171,6 +172,26 @@ void breakOff(const QTemporaryDir &place, const QStringList &arguments, int mome
     }
 }
 
+/** Kills a preview as soon as it has its folder with a copy in it, and gives that folder. */
+QString leftByAKilledPreview(const QTemporaryDir &place, const QString &machine)
+{
+    Machine::open(machine)->setFault(u"schtasks"_s, {.hang = true});
+    Rehearsal run(place, {u"preview"_s, machine});
+    QString folder;
+    while (folder.isEmpty() && !run.hasEnded(5)) {
+        for (const QString &name : leftIn(temporaryFolder(place))) {
+            const QString path = temporaryFolder(place) + u'/' + name;
+            if (QFileInfo::exists(path + u"/optimized/tools"_s))
+                folder = path;
+        }
+    }
+    run.signalGroup(SIGKILL);
+    run.exitCode();
+    run.isAnyoneLeft();
+    Machine::open(machine)->clearFault(u"schtasks"_s);
+    return folder;
+}
+
 } // namespace
 
 class TestInterruption : public QObject
@@ -192,6 +213,10 @@ private Q_SLOTS:
     void tourAtAnyMoment();
     void ignoredSignalStaysIgnored();
     void readerThatGoesAwayLeavesNothingTemporary();
+    void leftoverOfAKilledPreviewGoesAtTheNextStart();
+    void leftoverOfAKilledNewGoesAtTheNextStart();
+    void folderOfARunningPreviewStays();
+    void whatOnlyLooksLikeALeftoverStays();
 };
 
 void TestInterruption::previewAtAnyMoment_data()
@@ -379,6 +404,82 @@ void TestInterruption::readerThatGoesAwayLeavesNothingTemporary()
     QCOMPARE(readFile(code).trimmed().toInt(), 128 + SIGPIPE);
     QCOMPARE(ended.errors, QByteArray());
     QCOMPARE(leftIn(temporaryFolder(place)), QStringList());
+}
+
+void TestInterruption::leftoverOfAKilledPreviewGoesAtTheNextStart()
+{
+    const QTemporaryDir place;
+    const QString machine = newMachine(place);
+    const QString folder = leftByAKilledPreview(place, machine);
+    QVERIFY(QFileInfo(folder).isDir());
+    QCOMPARE(Rehearsal(place, {u"list"_s, machine, u"services"_s}).exitCode(), done);
+    QCOMPARE(leftIn(temporaryFolder(place)), QStringList());
+}
+
+void TestInterruption::leftoverOfAKilledNewGoesAtTheNextStart()
+{
+    const QTemporaryDir place;
+    const QStringList making{u"new"_s, place.filePath(u"pc"_s), u"--from"_s, makeLargeSources(place)};
+    QDir().mkpath(temporaryFolder(place));
+    const auto beside = [&] { return QDir(place.path()).entryList({u".kestrune-*"_s}, everything); };
+    {
+        Rehearsal run(place, making);
+        while (beside().isEmpty() || !QFileInfo::exists(place.filePath(beside().constFirst() + u"/machine"_s)))
+            QVERIFY(!run.hasEnded(5));
+        run.signalProcess(SIGKILL);
+        run.exitCode();
+    }
+    QCOMPARE(beside().size(), 1);
+    QCOMPARE(Rehearsal(place, {u"new"_s, place.filePath(u"other"_s)}).exitCode(), done);
+    QCOMPARE(beside(), QStringList());
+}
+
+void TestInterruption::folderOfARunningPreviewStays()
+{
+    const QTemporaryDir place;
+    const QString machine = newMachine(place);
+    const QString other = place.filePath(u"other"_s);
+    Machine::create(other);
+    Machine::open(machine)->setFault(u"schtasks"_s, {.hang = true});
+    Rehearsal run(place, {u"preview"_s, machine});
+    while (leftIn(temporaryFolder(place)).isEmpty())
+        QVERIFY(!run.hasEnded(5));
+    const QStringList held = leftIn(temporaryFolder(place));
+    for (int i = 0; i < 10; ++i) {
+        QCOMPARE(Rehearsal(place, {u"list"_s, other, u"services"_s}).exitCode(), done);
+        QCOMPARE(leftIn(temporaryFolder(place)), held);
+    }
+    run.signalProcess(SIGINT);
+    QCOMPARE(run.exitCode(), brokenOff);
+    QCOMPARE(leftIn(temporaryFolder(place)), QStringList());
+}
+
+void TestInterruption::whatOnlyLooksLikeALeftoverStays()
+{
+    const QTemporaryDir place;
+    const QString machine = newMachine(place);
+    const QString folder = leftByAKilledPreview(place, machine);
+    const QString temporary = temporaryFolder(place);
+
+    // Somebody's own folder, and a link to a folder that would be removed if it were one.
+    const QString aside = place.filePath(u"aside"_s);
+    QVERIFY(QDir().rename(folder, aside));
+    QVERIFY(QFile::link(aside, temporary + u"/kestrune-rehearse-abcdef"_s));
+    writeFile(temporary + u"/kestrune-rehearse-backup/my.reg"_s, "mine");
+    writeFile(temporary + u"/kestrune-rehearse-marked/work-in-progress"_s, "notes");
+    // One of another user's, to whom only root can give it
+    const QString foreign = temporary + u"/kestrune-rehearse-others"_s;
+    writeFile(foreign + u"/work-in-progress"_s, {});
+    const bool given = chown(QFile::encodeName(foreign).constData(), 1, 1) == 0;
+    const QByteArray before = fingerprint(place.path());
+
+    QCOMPARE(Rehearsal(place, {u"--version"_s}).exitCode(), done);
+
+    if (given)
+        QCOMPARE(fingerprint(place.path()), before);
+    QVERIFY(QFileInfo::exists(aside + u"/before/machine.sqlite"_s));
+    QVERIFY(QFileInfo::exists(temporary + u"/kestrune-rehearse-backup/my.reg"_s));
+    QVERIFY(QFileInfo(temporary + u"/kestrune-rehearse-abcdef"_s).isSymbolicLink());
 }
 
 KESTRUNE_SUITE(TestInterruption)

@@ -7,6 +7,7 @@
 #include "filechanges.h"
 #include "machine/database.h"
 #include "machine/folderlock.h"
+#include "machine/workfolder.h"
 #include "platform/processground.h"
 #include "platform/windowsfacts.h"
 #include "toolreport.h"
@@ -14,7 +15,6 @@
 #include <QDir>
 #include <QFile>
 #include <QStringDecoder>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -285,7 +285,8 @@ void makeMachine(const QString &folder, Existing existing, const std::function<v
     if (!QFileInfo(parent).isDir())
         throw MachineError{u"%1: there is no such folder"_s.arg(parent)};
     // Made beside its place, so that nobody ever sees half a machine.
-    const QTemporaryDir staging(parent + u"/.kestrune-XXXXXX"_s);
+    removeLeftovers(parent);
+    const WorkFolder staging(parent);
     if (!staging.isValid())
         throw MachineError{u"%1: %2"_s.arg(parent, staging.errorString())};
     const QString made = staging.filePath(u"machine"_s);
