@@ -137,9 +137,19 @@ void Database::fail(const char *what) const
         throw MachineError{u"%1: %2"_s.arg(QDir::toNativeSeparators(file_), end), takesTooLong()};
     }
     const bool damaged = code == SQLITE_CORRUPT || code == SQLITE_NOTADB;
-    throw MachineError{
-        u"%1: %2: %3"_s.arg(QDir::toNativeSeparators(file_), damaged ? u"damaged"_s : QString::fromUtf8(what), reason),
-        damaged};
+    const QString cause = code == SQLITE_IOERR ? u": "_s + causeOfDiskError() : QString();
+    throw MachineError{u"%1: %2: %3"_s.arg(QDir::toNativeSeparators(file_),
+                                           damaged ? u"damaged"_s : QString::fromUtf8(what), reason + cause),
+                       damaged};
+}
+
+/** SQLite itself says no more than that something went wrong with the disk. */
+QString Database::causeOfDiskError() const
+{
+    // What is written when a transaction ends has lost the system's code.
+    if (const int systemCode = sqlite3_system_errno(handle_); systemCode != 0)
+        return qt_error_string(systemCode);
+    return sqlite3_extended_errcode(handle_) == SQLITE_IOERR_READ ? u"it can't be read"_s : u"the disk may be full"_s;
 }
 
 void Database::execute(const char *statements)

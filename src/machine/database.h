@@ -115,6 +115,7 @@ private:
     static int heed(void *database);
     bool takesTooLong() const;
     [[noreturn]] void fail(const char *what) const;
+    QString causeOfDiskError() const;
     sqlite3_stmt *prepare(const char *sql);
 
     QString file_;

@@ -160,11 +160,6 @@ void runRow(WorkThread &worker, const JobRow &row, const Arguments &arguments)
         runOrdinaryJob(worker, row, printer);
 }
 
-bool isWritable(const QString &folder)
-{
-    return QFileInfo(folder).isWritable() && QFileInfo(folder + u"/machine.sqlite"_s).isWritable();
-}
-
 int runJob(const Arguments &arguments)
 {
     const JobRow &row = findJob(arguments);
@@ -177,9 +172,7 @@ int runJob(const Arguments &arguments)
     machineOptions.pace = parsePace(arguments);
     const QList<KeepChoice> keep = parseKeep(arguments.value("keep"_L1));
 
-    const QString folder = openMachine(arguments.operand(0))->folder();
-    if (!isWritable(folder))
-        throw Failure{ExitJobFailed, u"%1: the machine is read-only"_s.arg(QDir::toNativeSeparators(folder))};
+    const QString folder = openMachineToChange(arguments.operand(0))->folder();
     setPlatform(openMachinePlatform(folder, machineOptions));
     settleBrokenOff();
     const qsizetype earlierRuns = readToolLog(machineInForce()).size();

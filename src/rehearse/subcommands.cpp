@@ -81,6 +81,15 @@ std::unique_ptr<Machine> openMachine(const QString &folder)
     }
 }
 
+std::unique_ptr<Machine> openMachineToChange(const QString &folder)
+{
+    const QString place = absoluteFolder(folder);
+    const QFileInfo database(place + u"/machine.sqlite"_s);
+    if (database.exists() && !(database.isWritable() && QFileInfo(place).isWritable()))
+        throw Failure{ExitJobFailed, u"%1: the machine is read-only"_s.arg(QDir::toNativeSeparators(place))};
+    return openMachine(folder);
+}
+
 qint64 requireKey(const RegistryStore &store, const QString &path)
 {
     if (!RegistryStore::isHivePath(path))

@@ -52,6 +52,8 @@ extern const Subcommand undoSubcommand;
 
 /** Opens a machine; a Failure of code 3 where that can't be done. */
 std::unique_ptr<Machine> openMachine(const QString &folder);
+/** The same of one that will be changed; a Failure of code 1 where it is read-only. */
+std::unique_ptr<Machine> openMachineToChange(const QString &folder);
 /** The key of that path; a Failure of code 2 where there is none, or the path names no root. */
 qint64 requireKey(const RegistryStore &store, const QString &path);
 /** The folder as an absolute path, since other processes are told of it. */

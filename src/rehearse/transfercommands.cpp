@@ -8,13 +8,15 @@
 #include "progress.h"
 #include "subcommands.h"
 
+#include <cstdio>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 int runImport(const Arguments &arguments)
 {
-    const std::unique_ptr<Machine> machine = openMachine(arguments.operand(0));
+    const std::unique_ptr<Machine> machine = openMachineToChange(arguments.operand(0));
     Progress progress;
     const QStringList made = importFiles(*machine, arguments.operands().mid(1), progress.callback());
     progress.clear();
@@ -28,7 +30,11 @@ int runExport(const Arguments &arguments)
     const std::unique_ptr<Machine> machine = openMachine(arguments.operand(0));
     const QString key = arguments.operand(1);
     requireKey(machine->registry(), key);
-    print(writeRegistryScript(machine->registry(), key));
+    QStringList leftOut;
+    print(writeRegistryScript(machine->registry(), key, &leftOut));
+    for (const QString &name : std::as_const(leftOut))
+        std::fprintf(stderr, "kestrune-rehearse: left out, since no script can say its name: %s\n",
+                     printable(name).toUtf8().constData());
     return ExitDone;
 }
 

@@ -54,7 +54,7 @@ bool hasDisplay()
 
 int runGui(const Arguments &arguments)
 {
-    const QString folder = openMachine(arguments.operand(0))->folder();
+    const QString folder = openMachineToChange(arguments.operand(0))->folder();
     if (!hasDisplay())
         throw Failure{ExitJobFailed, u"there is no display to open the window on; 'tour' takes pictures without one"_s};
     const QString program = windowProgram();

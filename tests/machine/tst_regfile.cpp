@@ -65,6 +65,7 @@ private Q_SLOTS:
     void comesBackExactly();
     void breaksLongLines();
     void comesBackAsAWhole();
+    void leavesOutWhatNoScriptCanSay();
     void readsMany();
 
 private:
@@ -398,6 +399,28 @@ void TestRegFile::comesBackAsAWhole()
     import("\xFF\xFE" + littleEndian(QString(script).replace(u"\n"_s, u"\r\n"_s)));
     QCOMPARE(written(), script);
     QCOMPARE(platform().openKey(testKey)->allKeys().size(), 300);
+}
+
+/** A line break would begin another line. */
+void TestRegFile::leavesOutWhatNoScriptCanSay()
+{
+    RegistryStore &registry = contract_->machine().registry();
+    const auto text = [](const QString &name) {
+        return RegistryValue{name, RegistryType::String, registryText(u"a text"_s)};
+    };
+    const auto kept = *registry.make(testKey + u"\\kept"_s);
+    registry.setValue(kept, text(u"kept"_s));
+    const QString good = written();
+    for (const QString &name : {u"a\nb"_s, u"a]\r\n[HKEY_USERS\r"_s, u"\0x"_s}) {
+        registry.setValue(kept, text(name));
+        registry.setValue(*registry.make(testKey + u'\\' + name + u"\\below"_s), text(u"lost"_s));
+    }
+    QCOMPARE(written(), good);
+    QStringList leftOut;
+    writeRegistryScript(registry, testKey, &leftOut);
+    QCOMPARE(leftOut.size(), 6);
+    QVERIFY(leftOut.contains(testKey + u"\\a\nb"_s));
+    QVERIFY(leftOut.contains(testKey + u"\\kept: a\nb"_s));
 }
 
 void TestRegFile::readsMany()

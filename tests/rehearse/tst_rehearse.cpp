@@ -136,6 +136,7 @@ private Q_SLOTS:
     void runReportsALineThatDidNotCome();
     void keepsAreChecked();
     void importAndExport();
+    void exportNamesWhatItLeavesOut();
     void failedImportIsReportedAndChangesNothing();
     void relativeOperandsMeanTheFolderOfTheStart();
     void diffAsJsonAndPage();
@@ -714,6 +715,18 @@ void TestRehearse::importAndExport()
     QCOMPARE(rehearse({u"export"_s, work.b, u"HKEY_CURRENT_USER\\Software"_s}).output, exported.output);
     QVERIFY(!work.difference().contains("HKEY_CURRENT_USER"));
     QCOMPARE(rehearse({u"export"_s, work.a, u"HKEY_CURRENT_USER\\Nope"_s}).exitCode, badArguments);
+}
+
+void TestRehearse::exportNamesWhatItLeavesOut()
+{
+    const Workplace work;
+    Machine::open(work.a)->registry().make(u"HKEY_CURRENT_USER\\Software\\two\nlines"_s);
+    const Ended exported = rehearse({u"export"_s, work.a, u"HKEY_CURRENT_USER\\Software"_s});
+    QCOMPARE(exported.exitCode, done);
+    QCOMPARE(exported.errors, QByteArray("kestrune-rehearse: left out, since no script can say its name: "
+                                         "HKEY_CURRENT_USER\\Software\\two\\nlines\n"));
+    writeFile(work.path(u"export.reg"_s), exported.output);
+    QCOMPARE(rehearse({u"import"_s, work.b, work.path(u"export.reg"_s)}).exitCode, done);
 }
 
 void TestRehearse::failedImportIsReportedAndChangesNothing()

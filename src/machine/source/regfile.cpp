@@ -11,16 +11,39 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void writeKey(const RegistryStore &store, RegistryStore::KeyId key, const QString &path, QString &script)
+/** A script of a key and all below it that it can name; the rest is listed. */
+class ScriptWriter
 {
-    script += u"\n["_s + path + u"]\n"_s;
-    for (const RegistryValue &value : store.values(key))
-        script += registryScriptValue(value) + u'\n';
-    for (const QString &name : store.subkeys(key)) {
-        if (const std::optional<RegistryStore::KeyId> subkey = store.find(key, name))
-            writeKey(store, *subkey, path + u'\\' + name, script);
+public:
+    explicit ScriptWriter(const RegistryStore &store)
+        : store_(store)
+    {
     }
-}
+
+    void writeKey(RegistryStore::KeyId key, const QString &path)
+    {
+        script += u"\n["_s + path + u"]\n"_s;
+        for (const RegistryValue &value : store_.values(key)) {
+            if (fitsRegistryScript(value.name))
+                script += registryScriptValue(value) + u'\n';
+            else
+                leftOut.append(path + u": "_s + value.name);
+        }
+        for (const QString &name : store_.subkeys(key)) {
+            const QString below = path + u'\\' + name;
+            if (!fitsRegistryScript(name))
+                leftOut.append(below);
+            else if (const std::optional<RegistryStore::KeyId> subkey = store_.find(key, name))
+                writeKey(*subkey, below);
+        }
+    }
+
+    QString script = registryScriptHead + u'\n';
+    QStringList leftOut{};
+
+private:
+    const RegistryStore &store_;
+};
 
 } // namespace
 
@@ -81,10 +104,12 @@ QString writeRegistryEdits(const QList<RegistryEdit> &edits)
     return script;
 }
 
-QString writeRegistryScript(const RegistryStore &store, const QString &keyPath)
+QString writeRegistryScript(const RegistryStore &store, const QString &keyPath, QStringList *leftOut)
 {
-    QString script = registryScriptHead + u'\n';
+    ScriptWriter writer(store);
     if (const std::optional<RegistryStore::KeyId> key = store.find(keyPath))
-        writeKey(store, *key, store.path(*key), script);
-    return script;
+        writer.writeKey(*key, store.path(*key));
+    if (leftOut != nullptr)
+        *leftOut = writer.leftOut;
+    return writer.script;
 }

@@ -29,9 +29,10 @@ void applyRegistryScript(Database &database, RegistryStore &store, const QList<R
                          void (*eachStep)() = nullptr);
 /**
  * The key and all below it as a script of version 5.00: UTF-8 text with LF line ends, sorted. A key that isn't there
- * gives a script without keys.
+ * gives a script without keys. What a script can't name, see fitsRegistryScript(), is left out with all below it.
+ * @param leftOut gets a line for each: a key's path, and the value's name after it
  */
-QString writeRegistryScript(const RegistryStore &store, const QString &keyPath);
+QString writeRegistryScript(const RegistryStore &store, const QString &keyPath, QStringList *leftOut = nullptr);
 /**
  * Whether a script can say the edit, see fitsRegistryScript().
  */
