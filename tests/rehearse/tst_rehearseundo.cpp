@@ -75,6 +75,7 @@ private Q_SLOTS:
     void takesOneItemBack();
     void takesBackSinceAMoment();
     void writesJson();
+    void namesOfNeighboursAreShownAsTheyAreAndComeBack();
     void filesBringEverythingBack_data();
     void filesBringEverythingBack();
     void keepsTheFilesOfTheLastSessions();
@@ -302,6 +303,59 @@ void TestRehearseUndo::refusals()
     const Ended ended = rehearse(QStringList{u"undo"_s, machine.folder()} + arguments);
     QCOMPARE(ended.exitCode, badArguments);
     QVERIFY2(ended.errors.contains(message.toUtf8()), ended.errors);
+}
+
+/** Names that the registry's own functions take for others: the unnamed value, a key below, or a part of a command. */
+void TestRehearseUndo::namesOfNeighboursAreShownAsTheyAreAndComeBack()
+{
+    const QString run = u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
+    const QString services = u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s;
+    const QStringList names{u"."_s, u"Default"_s, u"a/b"_s, u"a\\b"_s, u"a=b"_s, u"a"_s, u"b"_s};
+
+    SmallMachine machine;
+    RegistryStore &registry = machine->registry();
+    const auto key = *registry.make(run);
+    for (const QString &name : names + QStringList{QString()})
+        registry.setValue(key, {name, RegistryType::String, registryText(u"\"C:\\Windows\\explorer.exe\" "_s + name)});
+    QStringList disable{u"run"_s, machine.folder(), u"svc-disable"_s};
+    for (const QString &name : names) {
+        if (name.contains(u'\\') || name.contains(u'/'))
+            continue;
+        const auto service = *registry.make(services + name);
+        registry.setValue(service, {u"Type"_s, RegistryType::DWord, registryDWord(16)});
+        registry.setValue(service, {u"Start"_s, RegistryType::DWord, registryDWord(2)});
+        disable.append(name);
+    }
+    copyMachine(*machine, machine.beside(u"before"_s));
+    const auto before = Machine::open(machine.beside(u"before"_s));
+
+    QStringList shown;
+    const QByteArray preview = rehearse({u"preview"_s, machine.folder(), u"--json"_s, u"-"_s}).output;
+    for (const QJsonValue item : QJsonDocument::fromJson(preview)[u"items"_s].toArray()) {
+        for (const QJsonValue detail : item[u"details"_s].toArray()) {
+            if (detail[u"place"_s] == run && detail[u"optimized"_s].isNull())
+                shown.append(detail[u"what"_s].toString());
+        }
+    }
+    QCOMPARE(rehearse({u"run"_s, machine.folder(), u"optimize"_s}).exitCode, done);
+    QStringList gone;
+    for (const DiffRow &row : compareMachines(*before, *machine)) {
+        if (row.path == run)
+            gone.append(row.name);
+    }
+    shown.sort();
+    gone.sort();
+    QVERIFY(gone.size() >= 4);
+    QCOMPARE(shown, gone);
+
+    QCOMPARE(rehearse(disable).exitCode, done);
+    const QString told =
+        linesOf(rehearse({u"undo"_s, machine.folder(), u"--list"_s, u"--session"_s, u"2"_s})).join(u'\n');
+    for (const QString &service : disable.mid(3))
+        QVERIFY2(told.contains(u"Service "_s + service + u':'), qPrintable(told));
+    QCOMPARE(rehearse({u"undo"_s, machine.folder()}).exitCode, done);
+    // The export of tasks that Optimize leaves for the user stays.
+    QCOMPARE(differences(*before, machine.folder()), QStringList(u"file C:\\tasks.xml "_s));
 }
 
 KESTRUNE_SUITE(TestRehearseUndo)
