@@ -52,6 +52,31 @@ private:
     std::unique_ptr<RegistryKey> key_;
 };
 
+/** What a name comes to in a command that is text: words are parted by blanks, and some characters mean something. */
+struct NameInCommand
+{
+    QString pattern;      ///< of names
+    bool matches = true;  ///< false where a second word asks for a publisher, of whom a machine knows nothing
+    QByteArray failure{}; ///< what is said where the text is no such command
+};
+
+NameInCommand readName(const QString &name)
+{
+    static const QRegularExpression meansSomething(u"[(){};$`|&<>,]|(?:^|\\s)[@-]"_s);
+
+    if (meansSomething.match(name).hasMatch())
+        return {
+            {}, false, "A rehearsal machine doesn't evaluate expressions; what isn't a name fails on a PC, too.\r\n"};
+    const QStringList words = name.split(QRegularExpression(u"\\s+"_s), Qt::SkipEmptyParts);
+    if (words.size() > 2)
+        return {{},
+                false,
+                "Get-AppxPackage : A positional parameter cannot be found that accepts argument '"
+                    + words.at(2).toUtf8() + "'.\r\n"};
+    // Without a name all packages are meant.
+    return {words.isEmpty() ? u"*"_s : words.first(), words.size() < 2};
+}
+
 ToolResult removePackages(ToolHost &host, const QString &pattern)
 {
     PackageList packages(host, userRoot, WindowsKey::userPackages);
@@ -74,8 +99,6 @@ void registerPackage(ToolHost &host, PackageList &machine, const QString &fullNa
 
 ToolResult registerPackages(ToolHost &host, const QString &pattern)
 {
-    if (!host.isElevated())
-        return {exitFailed, {}, "Get-AppxPackage : Access is denied.\r\n"};
     PackageList machine(host, machineRoot, WindowsKey::machinePackages);
     PackageList user(host, userRoot, WindowsKey::userPackages);
     const QStringList registered = user.key().childGroups();
@@ -92,10 +115,19 @@ ToolResult runPowerShell(ToolHost &host, const QStringList &arguments)
 {
     const bool lists = arguments.size() >= 4 && arguments.at(0).compare("-Command"_L1, Qt::CaseInsensitive) == 0
                        && arguments.at(1).compare("Get-AppxPackage"_L1, Qt::CaseInsensitive) == 0;
-    if (lists && arguments.size() == 4 && arguments.at(3) == removal)
-        return removePackages(host, arguments.at(2));
-    if (lists && arguments.size() == 5 && arguments.at(2).compare("-allusers"_L1, Qt::CaseInsensitive) == 0
-        && arguments.at(4) == registration)
-        return registerPackages(host, arguments.at(3));
-    return {exitFailed, {}, "A rehearsal machine has no such command.\r\n"};
+    const bool removes = lists && arguments.size() == 4 && arguments.at(3) == removal;
+    const bool registers = lists && arguments.size() == 5
+                           && arguments.at(2).compare("-allusers"_L1, Qt::CaseInsensitive) == 0
+                           && arguments.at(4) == registration;
+    if (!removes && !registers)
+        return {exitFailed, {}, "A rehearsal machine has no such command.\r\n"};
+    // The arguments are joined by blanks and read as one text.
+    const NameInCommand name = readName(arguments.at(arguments.size() - 2));
+    if (!name.failure.isEmpty())
+        return {exitFailed, {}, name.failure};
+    if (registers && !host.isElevated())
+        return {exitFailed, {}, "Get-AppxPackage : Access is denied.\r\n"};
+    if (!name.matches)
+        return {};
+    return removes ? removePackages(host, name.pattern) : registerPackages(host, name.pattern);
 }

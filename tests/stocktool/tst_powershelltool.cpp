@@ -80,6 +80,10 @@ private Q_SLOTS:
     void bringingBackNeedsElevation();
     void unknownNamesChangeNothing_data();
     void unknownNamesChangeNothing();
+    void whatIsNoNameFails_data();
+    void whatIsNoNameFails();
+    void blanksAroundANameAreNone();
+    void noNameMeansAllPackages();
     void machineWithoutPackages();
     void otherCommandsAreRefused_data();
     void otherCommandsAreRefused();
@@ -159,9 +163,9 @@ void TestPowerShellTool::bringingBackNeedsElevation()
 void TestPowerShellTool::unknownNamesChangeNothing_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"Microsoft.None", "", "with blanks", "\"quoted\"", "a;b", "$(calc)", "(Microsoft.+)",
-                             "[M]*", "Microsoft.Windows\\Camera", "Gr\u00f6\u00dfe"})
-        QTest::newRow(*name == 0 ? "empty" : name) << QString::fromUtf8(name);
+    for (const char *name : {"Microsoft.None", "with blanks", "Microsoft.WindowsCamera Vendor", "\"quoted\"", "[M]*",
+                             "Microsoft.Windows\\Camera", "Gr\u00f6\u00dfe"})
+        QTest::newRow(name) << QString::fromUtf8(name);
 }
 
 void TestPowerShellTool::unknownNamesChangeNothing()
@@ -178,6 +182,49 @@ void TestPowerShellTool::unknownNamesChangeNothing()
         QCOMPARE(line.value("arguments"_L1).toArray(), QJsonArray::fromStringList(arguments));
     }
     QCOMPARE(compareMachines(*before, *machine), QList<DiffRow>());
+}
+
+void TestPowerShellTool::whatIsNoNameFails_data()
+{
+    QTest::addColumn<QString>("name");
+    // Joined with the rest of the command and read as one text
+    for (const char *name : {"three words here", "a;b", "Microsoft.WindowsCamera; Remove-Item", "$(calc)",
+                             "(Microsoft.+)", "Microsoft.XboxApp (Old Xbox App, no longer supported!) ", "a,b", "a|b",
+                             "{a}", "a&b", "a>b", "-Publisher", "a -b", "@a", "`a"})
+        QTest::newRow(name) << QString::fromUtf8(name);
+}
+
+void TestPowerShellTool::whatIsNoNameFails()
+{
+    QFETCH(QString, name);
+    SmallMachine before;
+    SmallMachine machine;
+    addPackages(before);
+    addPackages(machine);
+    for (const QStringList &arguments : {removal(name), registration(name)}) {
+        const Ended ended = runTool(machine, u"powershell"_s, arguments);
+        QCOMPARE(ended.exitCode, 1);
+        QVERIFY(!ended.errors.isEmpty());
+    }
+    QCOMPARE(compareMachines(*before, *machine), QList<DiffRow>());
+}
+
+void TestPowerShellTool::blanksAroundANameAreNone()
+{
+    SmallMachine machine;
+    addPackages(machine);
+    QCOMPARE(runTool(machine, u"powershell"_s, removal(u" Microsoft.WindowsCamera  "_s)).exitCode, 0);
+    QVERIFY(!installed(machine).contains(camera));
+    QCOMPARE(runTool(machine, u"powershell"_s, registration(u" Microsoft.WindowsCamera  "_s)).exitCode, 0);
+    QVERIFY(installed(machine).contains(camera));
+}
+
+void TestPowerShellTool::noNameMeansAllPackages()
+{
+    SmallMachine machine;
+    addPackages(machine);
+    QCOMPARE(runTool(machine, u"powershell"_s, removal(QString())).exitCode, 0);
+    QCOMPARE(installed(machine), QStringList());
 }
 
 void TestPowerShellTool::machineWithoutPackages()
