@@ -3,9 +3,12 @@
 #include "console.h"
 #include "programinterruption.h"
 
+#include <array>
 #include <atomic>
+#include <cerrno>
 #include <thread>
 
+#include <iconv.h>
 #include <signal.h>
 #include <unistd.h>
 
@@ -48,6 +51,32 @@ bool starterIsGone()
 QString consoleText(const QByteArray &bytes)
 {
     return fromConsoleBytes(bytes);
+}
+
+std::optional<QString> textOfCodePage(const QByteArray &bytes, uint codePage)
+{
+    const QByteArray name = "CP" + QByteArray::number(codePage);
+    const iconv_t converter = iconv_open("UTF-16LE", name.constData());
+    if (converter == iconv_t(-1))
+        return {};
+    QByteArray source = bytes; // iconv wants it to be writable, and writes nothing
+    char *from = source.data();
+    std::size_t left = static_cast<std::size_t>(source.size());
+    QString text;
+    while (left > 0) {
+        std::array<char16_t, 1024> units;
+        char *to = reinterpret_cast<char *>(units.data());
+        std::size_t room = sizeof units;
+        const std::size_t result = iconv(converter, &from, &left, &to, &room);
+        text.append(QStringView(units.data(), static_cast<qsizetype>((sizeof units - room) / sizeof units[0])));
+        if (result == std::size_t(-1) && errno != E2BIG) {
+            text.append(QChar(QChar::ReplacementCharacter));
+            ++from;
+            --left;
+        }
+    }
+    iconv_close(converter);
+    return text;
 }
 
 void watchForInterruption()

@@ -69,7 +69,13 @@ bool starterIsGone()
 QString consoleText(const QByteArray &bytes)
 {
     const UINT ofConsole = GetConsoleOutputCP(); // 0 without a console
-    const UINT codePage = ofConsole == 0 ? GetOEMCP() : ofConsole;
+    return textOfCodePage(bytes, ofConsole == 0 ? GetOEMCP() : ofConsole).value_or(QString());
+}
+
+std::optional<QString> textOfCodePage(const QByteArray &bytes, uint codePage)
+{
+    if (!IsValidCodePage(codePage))
+        return {};
     const int size = static_cast<int>(bytes.size());
     QString text(MultiByteToWideChar(codePage, 0, bytes.constData(), size, nullptr, 0), Qt::Uninitialized);
     MultiByteToWideChar(codePage, 0, bytes.constData(), size, reinterpret_cast<wchar_t *>(text.data()),

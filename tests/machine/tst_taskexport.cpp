@@ -58,6 +58,8 @@ private Q_SLOTS:
     void knownByItsContent_data();
     void knownByItsContent();
     void codePage();
+    void codePagesByTheirNumbers_data();
+    void codePagesByTheirNumbers();
     void largeExport();
 };
 
@@ -194,6 +196,28 @@ void TestTaskExport::codePage()
         all.append(static_cast<char>(byte));
     QCOMPARE(fromConsoleBytes(all).size(), 256);
     QCOMPARE(toConsoleBytes(fromConsoleBytes(all)), all);
+}
+
+void TestTaskExport::codePagesByTheirNumbers_data()
+{
+    addColumns<uint, QByteArray, QString>("number", "bytes", "text");
+    QTest::newRow("simplified Chinese") << 936U << QByteArray("a\xc3\xfb\xb3\xc6z") << u"a名称z"_s;
+    QTest::newRow("Russian console") << 866U << QByteArray("\x88\xac\xef z") << u"Имя z"_s;
+    QTest::newRow("Russian window") << 1251U << QByteArray("\xc8\xec\xff z") << u"Имя z"_s;
+    QTest::newRow("Western Europe") << 850U << QByteArray("Gr\x94\xe1\x65") << u"Größe"_s;
+    QTest::newRow("nothing") << 936U << QByteArray() << QString();
+    QTest::newRow("cut off") << 936U << QByteArray("a\xc3") << u"a\ufffd"_s;
+    // More than is read in one go
+    QTest::newRow("long") << 936U << QByteArray("\xc3\xfb").repeated(5000) << u"名"_s.repeated(5000);
+}
+
+void TestTaskExport::codePagesByTheirNumbers()
+{
+    QFETCH(uint, number);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, text);
+    QCOMPARE(textOfCodePage(bytes, number), std::optional(text));
+    QCOMPARE(textOfCodePage(bytes, 99999), std::optional<QString>());
 }
 
 void TestTaskExport::largeExport()

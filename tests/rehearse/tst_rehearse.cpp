@@ -135,6 +135,7 @@ private Q_SLOTS:
     void runRefusesAnEmptyName();
     void runReportsALineThatDidNotCome();
     void keepsAreChecked();
+    void importTellsOfAGuess();
     void importAndExport();
     void exportNamesWhatItLeavesOut();
     void failedImportIsReportedAndChangesNothing();
@@ -231,6 +232,9 @@ void TestRehearse::badArgumentsAreToldInOneManner_data()
     QTest::newRow("misspelt list")      << "list|A|service" << "'service' can't be listed\nDid you mean 'services'?\nLists: services, tasks, packages, autorun, processes, registry";
     QTest::newRow("key to list")        << "list|A|registry" << "missing operand after 'registry'";
     QTest::newRow("too much to list")   << "list|A|services|x" << "extra operand 'x'";
+    QTest::newRow("code page")          << "import|--code-page|x|A|f" << "'x' isn't the number of a code page";
+    QTest::newRow("no code page")       << "import|--code-page|0|A|f" << "'0' isn't the number of a code page";
+    QTest::newRow("unknown code page")  << "import|--code-page|99999|A|f" << "there is no code page 99999 here";
     QTest::newRow("job")                << "run|A|dance" << "unknown job 'dance'\nJobs: services, svc-disable, svc-enable, tasks, task-disable, task-enable, packages, package-uninstall, package-install, autorun, autorun-disable, autorun-enable, tweak, analyze, optimize, restore, winsxs, sysinfo, monitor";
     QTest::newRow("misspelt job")       << "run|A|optimise" << "unknown job 'optimise'\nDid you mean 'optimize'?\nJobs: services, svc-disable, svc-enable, tasks, task-disable, task-enable, packages, package-uninstall, package-install, autorun, autorun-disable, autorun-enable, tweak, analyze, optimize, restore, winsxs, sysinfo, monitor";
     QTest::newRow("job's operand")      << "run|A|svc-disable" << "missing operand after 'svc-disable'";
@@ -701,6 +705,20 @@ void TestRehearse::keepsAreChecked()
 {
     const Workplace work;
     QCOMPARE(rehearse({u"run"_s, work.b, u"services"_s, u"--keep"_s, u"printer=0,nfc=2,codecs=0"_s}).exitCode, done);
+}
+
+void TestRehearse::importTellsOfAGuess()
+{
+    const Workplace work;
+    writeFile(work.path(u"sc.txt"_s), "\r\nSERVICE_NAME: Neu\r\nDISPLAY_NAME: Gr\x94\xe1\x65\r\n"
+                                      "        TYP                : 10  WIN32_OWN_PROCESS  \r\n"
+                                      "        STATUS             : 4  RUNNING \r\n");
+    Ended ended = rehearse({u"import"_s, work.b, work.path(u"sc.txt"_s)});
+    QCOMPARE(ended.exitCode, done);
+    QVERIFY2(ended.output.contains("code page 850, which is a guess"), ended.output);
+    ended = rehearse({u"import"_s, u"--code-page"_s, u"850"_s, work.b, work.path(u"sc.txt"_s)});
+    QCOMPARE(ended.exitCode, done);
+    QCOMPARE(ended.output, QByteArray());
 }
 
 void TestRehearse::importAndExport()

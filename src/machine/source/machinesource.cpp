@@ -2,7 +2,6 @@
 
 #include "machinesource.h"
 
-#include "console/console.h"
 #include "console/programinterruption.h"
 #include "filechanges.h"
 #include "machine/database.h"
@@ -14,7 +13,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QStringDecoder>
 
 using namespace Qt::StringLiterals;
 
@@ -30,14 +28,6 @@ QByteArray readFile(const QString &path)
     return file.readAll();
 }
 
-/** Text in UTF-16 with its mark, in UTF-8, or else as consoles of Western Europe have it. */
-QString decoded(const QByteArray &bytes)
-{
-    QStringDecoder decoder(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8));
-    const QString text = decoder(bytes);
-    return decoder.hasError() ? fromConsoleBytes(bytes) : text;
-}
-
 bool isRegistryScript(const QString &file, const QString &text)
 {
     return file.endsWith(".reg"_L1, Qt::CaseInsensitive) || text.startsWith("Windows Registry Editor"_L1)
@@ -48,9 +38,10 @@ bool isRegistryScript(const QString &file, const QString &text)
 class Import
 {
 public:
-    Import(Machine &machine, const ProgressCallback &progress)
+    Import(Machine &machine, const ProgressCallback &progress, uint codePage = 0)
         : machine_(machine)
         , progress_(progress)
+        , codePage_(codePage)
         , transaction_(machine.database())
     {
     }
@@ -63,10 +54,10 @@ public:
         apply(contents.tasks);
         apply(contents.description);
     }
-    /** @return what was made up, a line each */
+    /** @return what was guessed and made up, a line each */
     QStringList commit()
     {
-        const QStringList told = makeReported();
+        const QStringList told = guesses_ + makeReported();
         transaction_.commit();
         files_.commit();
         return told;
@@ -83,28 +74,38 @@ private:
 
     Machine &machine_;
     const ProgressCallback &progress_;
+    uint codePage_; ///< of what tools have printed; 0 where nobody has named it
     Database::Transaction transaction_;
     FileChanges files_;
     QList<ServiceReport> reported_; ///< by all files
+    QStringList guesses_;           ///< a line each
 };
 
 void Import::file(const QString &path)
 {
     const QByteArray bytes = readFile(path);
-    const QString text = decoded(bytes);
-    if (isRegistryScript(path, text))
+    const ToolText printed = readToolText(bytes, codePage_);
+    const QString &text = printed.text;
+    const bool isTasks = isTaskExport(path, bytes);
+    if (isRegistryScript(path, text)) {
         applyRegistryScript(machine_.database(), machine_.registry(), parseRegistryScript(bytes, path),
                             stopIfInterrupted);
-    else if (isTaskExport(path, bytes))
-        apply(parseTaskExport(bytes, path));
-    else if (path.endsWith(".json"_L1, Qt::CaseInsensitive) || text.trimmed().startsWith(u'{'))
+    } else if (!isTasks && (path.endsWith(".json"_L1, Qt::CaseInsensitive) || text.trimmed().startsWith(u'{'))) {
         apply(parseMachineJson(bytes, path));
-    else if (isServiceReport(text))
-        apply(parseServiceReport(text, path));
-    else
+    } else if (isTasks || isServiceReport(text)) {
+        if (isTasks)
+            apply(parseTaskExport(text, path));
+        else
+            apply(parseServiceReport(text, path));
+        if (printed.isGuess)
+            guesses_.append(
+                u"%1: taken for code page 850, which is a guess. Where letters are wrong, import it once more "
+                "and name the page by --code-page."_s.arg(path));
+    } else {
         throw MachineError{
             u"%1: neither a registry script, nor scheduled tasks, nor a machine.json, nor a list of services by sc"_s
                 .arg(path)};
+    }
 }
 
 void Import::apply(const MachineDescription &description)
@@ -309,9 +310,9 @@ void importFile(Machine &machine, const QString &file, const ProgressCallback &p
     importFiles(machine, {file}, progress);
 }
 
-QStringList importFiles(Machine &machine, const QStringList &files, const ProgressCallback &progress)
+QStringList importFiles(Machine &machine, const QStringList &files, const ProgressCallback &progress, uint codePage)
 {
-    Import import(machine, progress);
+    Import import(machine, progress, codePage);
     int done = 0;
     for (const QString &file : files) {
         stopIfInterrupted();

@@ -43,8 +43,10 @@ void makeMachine(const QString &folder, const QString &sources, Existing existin
 void importFile(Machine &machine, const QString &file, const ProgressCallback &progress = {});
 /**
  * Imports several, together or not at all. A service of sc's that has no key then gets one, with what sc says of it.
- * @return what was made up for that, a line each
+ * @param codePage of what tools have printed, where it has no mark; 0: UTF-8, or else a guess
+ * @return what was guessed, and made up for the services, a line each
  */
-QStringList importFiles(Machine &machine, const QStringList &files, const ProgressCallback &progress = {});
+QStringList importFiles(Machine &machine, const QStringList &files, const ProgressCallback &progress = {},
+                        uint codePage = 0);
 /** Takes over what was read, together or not at all. */
 void importContents(Machine &machine, const MachineContents &contents, const ProgressCallback &progress = {});

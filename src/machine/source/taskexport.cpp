@@ -13,13 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString decoded(const QByteArray &bytes)
-{
-    QStringDecoder decoder(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8));
-    const QString text = decoder(bytes);
-    return decoder.hasError() ? fromConsoleBytes(bytes) : text;
-}
-
 /** Goes through the text from one document to the next. */
 class ExportParser
 {
@@ -129,18 +122,37 @@ QString withPlainLines(QString text)
 
 } // namespace
 
+ToolText readToolText(const QByteArray &bytes, uint codePage)
+{
+    const std::optional<QStringConverter::Encoding> marked = QStringConverter::encodingForData(bytes);
+    if (codePage != 0 && !marked) {
+        const std::optional<QString> text = textOfCodePage(bytes, codePage);
+        if (!text)
+            throw MachineError{u"there is no code page %1 here"_s.arg(codePage)};
+        return {*text};
+    }
+    QStringDecoder decoder(marked.value_or(QStringConverter::Utf8));
+    const QString text = decoder(bytes);
+    return decoder.hasError() ? ToolText{fromConsoleBytes(bytes), true} : ToolText{text};
+}
+
 bool isTaskExport(const QString &fileName, const QByteArray &bytes)
 {
     if (fileName.endsWith(".xml"_L1, Qt::CaseInsensitive))
         return true;
     constexpr qsizetype enough = 4096;
-    const QString start = decoded(bytes.first(std::min(bytes.size(), enough))).trimmed();
+    const QString start = readToolText(bytes.first(std::min(bytes.size(), enough))).text.trimmed();
     return start.startsWith("<!-- \\"_L1) || start.startsWith("<Task"_L1) || start.startsWith("<?xml"_L1);
 }
 
 QList<ScheduledTask> parseTaskExport(const QByteArray &bytes, const QString &fileName)
 {
-    return ExportParser(withPlainLines(decoded(bytes)), fileName).parse();
+    return parseTaskExport(readToolText(bytes).text, fileName);
+}
+
+QList<ScheduledTask> parseTaskExport(const QString &text, const QString &fileName)
+{
+    return ExportParser(withPlainLines(text), fileName).parse();
 }
 
 QString taskExportText(const ScheduledTask &task)
