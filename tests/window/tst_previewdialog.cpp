@@ -116,6 +116,7 @@ class TestPreviewDialog : public QObject
 private Q_SLOTS:
     void whatAPreviewIsMadeOfIsTranslated();
     void changesAreListedAndNothingIsChanged();
+    void noWordOfItStaysEnglish();
     void searchShowsWhatHasTheText();
     void whatTheAutomatizerLeavesOutIsLeftOut();
     void cancelEndsIt();
@@ -146,6 +147,7 @@ void TestPreviewDialog::changesAreListedAndNothingIsChanged()
     QVERIFY(preview.isIdle());
     QCOMPARE(preview.text(u"lblPreview"_s),
              u"“Way back…” brings back more than Restore: what was noted before each change."_s);
+    QCOMPARE((*preview).windowTitle(), u"Preview of Optimize"_s);
     QVERIFY(preview.groups().contains(u"Services"_s));
     const QTreeWidgetItem *fonts = preview.row(u"Fonts of this PC"_s);
     QVERIFY(fonts != nullptr);
@@ -161,6 +163,41 @@ void TestPreviewDialog::changesAreListedAndNothingIsChanged()
     QVERIFY(machine.commands().isEmpty());
     preview.close();
     QVERIFY(!preview.isOpen());
+}
+
+/** What the preview says of a thing in words of its own is looked up one by one. */
+void TestPreviewDialog::noWordOfItStaysEnglish()
+{
+    PreviewedPc machine;
+    const QString packages = u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\"
+                             "CurrentVersion\\AppModel\\Repository\\Packages\\"_s;
+    machine.write(packages + u"Microsoft.BingNews_1.0_x64__8wekyb3d8bbwe"_s, u"DisplayName"_s, u"News"_s);
+    machine.write(u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s, u"Tool"_s,
+                  u"\"C:\\Tools\\tool.exe\" -x"_s);
+    machine.addFile(u"C:\\Windows\\System32\\WindowsPowerShell\\v1.0\\powershell.exe"_s);
+    machine.write(settingsKey, u"lang"_s, u"fr"_s);
+    const WindowDriver driver;
+    const Preview preview(driver, placeOf(machine));
+    QVERIFY(preview.isIdle());
+    const QStringList english{u"automatic"_s, u"manual"_s,       u"disabled"_s,         u"running"_s,
+                              u"stopped"_s,   u"installed"_s,    u"not installed"_s,    u"starts"_s,
+                              u"applied"_s,   u"your setting"_s, u"applied in part"_s,  u"doesn't start"_s,
+                              u"a default"_s, u"not there"_s,    u"but not as before"_s};
+    QSet<QString> said;
+    for (int group = 0; group < preview.items()->topLevelItemCount(); ++group) {
+        const QTreeWidgetItem *title = preview.items()->topLevelItem(group);
+        for (int row = 0; row < title->childCount(); ++row) {
+            for (const QString &side : textsOf(title->child(row)).mid(1, 3)) {
+                for (const QString &word : side.split(u", "_s)) {
+                    QVERIFY2(!english.contains(word), qPrintable(side));
+                    said.insert(word);
+                }
+            }
+        }
+    }
+    // A service, a package, a program and options
+    for (const QString &word : {u"automatique"_s, u"désactivé"_s, u"arrêté"_s, u"installé"_s, u"démarre"_s})
+        QVERIFY2(said.contains(word), qPrintable(QStringList(said.cbegin(), said.cend()).join(u'|')));
 }
 
 void TestPreviewDialog::searchShowsWhatHasTheText()
@@ -225,6 +262,7 @@ void TestPreviewDialog::theEndOfTheDialogEndsIt()
     QSignalSpy begun(run, &PreviewRun::stepped);
     run->start({});
     QVERIFY(begun.wait(patience));
+    QVERIFY(begun.first().at(0).toInt() < begun.first().at(1).toInt()); // the first step of many
     const auto *process = run->findChild<QProcess *>();
     QSignalSpy ended(process, &QProcess::finished);
     delete run;

@@ -241,6 +241,7 @@ void TestWayBack::aTweakIsListedAndTakenBack()
     QVERIFY(pc.differences() != before);
 
     const Dialog dialog(driver);
+    QCOMPARE((*dialog).windowTitle(), u"Way back"_s);
     dialog.choose(u"Apply features"_s);
     QVERIFY(dialog.rowCount() > 0);
     QVERIFY(dialog.takeButton()->isEnabled());

@@ -234,12 +234,13 @@ void TestAutomatizerRestore::packagesStayRecorded()
 
 void TestAutomatizerRestore::aSingleAutorunStaysOffWithoutAWord()
 {
-    TestMachine machine;
+    LoggingMachine machine;
     machine.addFile(u"C:\\a.exe"_s);
     machine.write(autorunRecordsKey, u"A"_s, u"\"C:\\a.exe\"="_s + userRunKey + u"\\A"_s);
     WorkThread worker;
     withoutFeatures(worker);
     QCOMPARE(restore(worker), QStringList{finished});
+    QCOMPARE(machine.errorLog(), QStringList{u"restoreAutoruns: A isn't brought back"_s});
     QCOMPARE(machine.names(userRunKey), QStringList());
     QCOMPARE(machine.names(autorunRecordsKey), QStringList{u"A"_s});
 }

@@ -121,6 +121,9 @@ private Q_SLOTS:
     void theExitCodeStaysWhenItIsReadAgain();
     void argumentsArriveAsTheyAre_data();
     void argumentsArriveAsTheyAre();
+#ifndef Q_OS_WIN
+    void aProgramThatSomebodyElseEndsSaysSo();
+#endif
     void aHangingProgramReads0BeforeItIsClosedAndAFailureAfter();
     void closingEndsTheProgram();
     void destroyingEndsTheProgram();
@@ -291,6 +294,22 @@ void TestCommand::argumentsArriveAsTheyAre()
     QCOMPARE(exitCodeOf(command, u"sc"_s, arguments), 0);
     QCOMPARE(machine.commands(), (QList<LoggedCommand>{{u"sc"_s, arguments, 0}}));
 }
+
+#ifndef Q_OS_WIN
+void TestCommand::aProgramThatSomebodyElseEndsSaysSo()
+{
+    const TestMachine machine;
+    machine.machine().setFault(u"sc"_s, {.hang = true});
+    const Rescue rescue(machine);
+    Command command;
+    command.start(u"sc"_s, {u"query"_s});
+    QTRY_COMPARE(runningTools(machine), 1);
+    forceToEnd(programsOf(machine.machine().toolsFolder()).first());
+    command.waitForFinished();
+    QVERIFY(!command.hasEndedByItself());
+    QCOMPARE(command.errorString(), u"Process crashed"_s);
+}
+#endif
 
 void TestCommand::aHangingProgramReads0BeforeItIsClosedAndAFailureAfter()
 {
