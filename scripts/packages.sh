@@ -10,6 +10,7 @@ packages_for() {
     bench) echo "libbenchmark-dev" ;;
     coverage) echo "gcovr" ;;
     format) echo "clang-format" ;;
+    mutate) echo "python3" ;;
     tidy) echo "clang-tidy" ;;
     esac
 }
@@ -23,6 +24,7 @@ reason_for() {
     bench) echo "to measure its speed" ;;
     coverage) echo "to measure what the tests reach" ;;
     format) echo "to format the sources" ;;
+    mutate) echo "to try the tests by small faults" ;;
     tidy) echo "to check the sources" ;;
     esac
 }
