@@ -83,12 +83,16 @@ QStringList spellingsOf(const QString &name)
     return spellings;
 }
 
+enum class Found { Anywhere, AtOddPlaces };
+
 /** Overwrites what is found by as many signs that mean nothing, since lengths may stand beside it. */
-void overwrite(QByteArray &data, const QRegularExpression &names, const QByteArray &sign)
+void overwrite(QByteArray &data, const QRegularExpression &names, const QByteArray &sign, Found found = Found::Anywhere)
 {
     const QString text = QString::fromLatin1(data);
     for (auto matches = names.globalMatch(text); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
+        if (found == Found::AtOddPlaces && match.capturedStart() % 2 == 0)
+            continue;
         for (qsizetype i = 0; i < match.capturedLength(); ++i)
             data[match.capturedStart() + i] = sign.at(i % sign.size());
     }
@@ -304,8 +308,12 @@ QByteArray NeutralNames::withNeutralAccounts(const QByteArray &data)
     return result;
 }
 
-/** Names, and the numbers of accounts in texts, among bytes of whatever meaning. */
-QByteArray NeutralNames::withoutNames(QByteArray data) const
+/**
+ * Names, and the numbers of accounts in texts, among bytes of whatever meaning.
+ * @param isText the bytes are a wide text whose own names are replaced already: what else may be in there is a narrow
+ * one, or a wide one at an odd place
+ */
+QByteArray NeutralNames::withoutNames(QByteArray data, bool isText) const
 {
     static const QRegularExpression account(u"(?<=S-1-5-21-)\\d+-\\d+-\\d+"_s,
                                             QRegularExpression::CaseInsensitiveOption);
@@ -314,15 +322,16 @@ QByteArray NeutralNames::withoutNames(QByteArray data) const
         QRegularExpression::CaseInsensitiveOption);
 
     overwrite(data, inBytes_, "x");
-    overwrite(data, inUtf16_, QByteArray("x\0", 2));
     overwrite(data, account, "0");
-    overwrite(data, wideAccount, QByteArray("0\0", 2));
+    const Found wide = isText ? Found::AtOddPlaces : Found::Anywhere;
+    overwrite(data, inUtf16_, QByteArray("x\0", 2), wide);
+    overwrite(data, wideAccount, QByteArray("0\0", 2), wide);
     return data;
 }
 
 QByteArray NeutralNames::bytes(const QByteArray &data)
 {
-    return withoutNames(withNeutralAccounts(data));
+    return withoutNames(withNeutralAccounts(data), false);
 }
 
 RegistryValue NeutralNames::value(RegistryValue value)
@@ -334,6 +343,7 @@ RegistryValue NeutralNames::value(RegistryValue value)
         const QString before = textOf(value.data);
         if (const QString after = text(before); after != before || value.data.size() > (before.size() + 1) * 2)
             value.data = registryText(after);
+        value.data = withoutNames(value.data, true);
         break;
     }
     case RegistryType::MultiString: {
@@ -343,6 +353,7 @@ RegistryValue NeutralNames::value(RegistryValue value)
             each = text(each);
         if (after != before || value.data.size() > registryTexts(before).size())
             value.data = registryTexts(after);
+        value.data = withoutNames(value.data, true);
         break;
     }
     case RegistryType::DWord:

@@ -47,7 +47,7 @@ private:
     void addWord(const QString &name, const QString &neutral);
     QString withNeutralAccounts(const QString &text);
     QByteArray withNeutralAccounts(const QByteArray &data);
-    QByteArray withoutNames(QByteArray data) const;
+    QByteArray withoutNames(QByteArray data, bool isText) const;
     QString neutralAuthority(const QString &authority);
     QByteArray bytes(const QByteArray &data);
     RegistryValue value(RegistryValue value);

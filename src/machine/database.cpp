@@ -3,6 +3,7 @@
 
 #include "database.h"
 
+#include "console/printable.h"
 #include "console/programinterruption.h"
 #include "machineerror.h"
 
@@ -130,7 +131,8 @@ bool Database::takesTooLong() const
 
 void Database::fail(const char *what) const
 {
-    const QString reason = handle_ ? QString::fromUtf8(sqlite3_errmsg(handle_)) : u"out of memory"_s;
+    // It may tell names that whoever made the file has thought up.
+    const QString reason = handle_ ? printable(QString::fromUtf8(sqlite3_errmsg(handle_))) : u"out of memory"_s;
     const int code = handle_ ? sqlite3_errcode(handle_) & 0xff : SQLITE_NOMEM; // the rest tells details
     if (code == SQLITE_INTERRUPT) {
         const QString end = takesTooLong() ? u"damaged: a query doesn't end"_s : u"interrupted"_s;

@@ -82,6 +82,9 @@ std::optional<Places> findPlaces(const QString &document)
         const qsizetype end = document.lastIndexOf(u'<', offset(reader) - 1);
         places.settings = places.emptySettings ? Stretch{end, behindTag} : Stretch{behindTag, end};
     });
+    // After its end, too, nothing else stands.
+    while (!reader.atEnd())
+        reader.readNext();
     return reader.hasError() ? std::nullopt : std::optional(places);
 }
 

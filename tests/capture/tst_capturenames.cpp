@@ -209,6 +209,12 @@ QList<Place> placesOfBytes()
         bytes(
             u"after the end of a list"_s, servicesKey + u"\\More"_s, u"DependOnService"_s, MultiString,
             [](const QString &text) { return registryTexts({u"RPCSS"_s}) + registryText(text); }, Place::Goes),
+        bytes(u"narrow text for a wide one"_s, servicesKey + u"\\Narrow"_s, u"DisplayName"_s, String,
+              [](const QString &text) { return text.toUtf8(); }),
+        bytes(u"wide text at an odd place of one"_s, servicesKey + u"\\Narrow"_s, u"Description"_s, ExpandString,
+              [](const QString &text) { return '\x7f' + utf16(text) + '\x01'; }),
+        bytes(u"narrow text for a list"_s, servicesKey + u"\\Narrow"_s, u"DependOnService"_s, MultiString,
+              [](const QString &text) { return text.toUtf8(); }),
         bytes(u"approval of a program"_s, approvedKey, u"OneDrive"_s, Binary,
               [](const QString &text) { return QByteArray::fromHex("0300000000ff") + text.toUtf8(); }),
         bytes(u"bytes of the uninstaller"_s, uninstallKey, u"EstimatedSize"_s, None, utf16),

@@ -56,6 +56,7 @@ private Q_SLOTS:
     void init();
 
     void nothingOfADatabaseIsRun();
+    void whatIsSaidIsOneLine();
     void anEndlessQueryEnds();
     void anEndlessQueryHeedsInterruption();
     void openRefuses_data();
@@ -101,6 +102,14 @@ void TestForeignMachine::nothingOfADatabaseIsRun()
     QVERIFY(!errorOf([&] {
                  database.execute("PRAGMA writable_schema = ON; UPDATE sqlite_schema SET sql = 'x'");
              }).isEmpty());
+}
+
+/** Whoever made a file gives names to its tables, which SQLite tells. */
+void TestForeignMachine::whatIsSaidIsOneLine()
+{
+    Database database(beside(u"x.sqlite"_s));
+    const QString problem = errorOf([&] { database.execute("SELECT * FROM \"two\nlines\x1b[0m\""); });
+    QVERIFY2(problem.contains(u"two\\nlines\\x1b[0m"_s), qPrintable(problem));
 }
 
 void TestForeignMachine::anEndlessQueryEnds()

@@ -125,8 +125,8 @@ void TestTaskDocument::descriptionAndUri()
 
 void TestTaskDocument::malformedTextIsLeftAlone()
 {
-    for (const QString &document :
-         {u""_s, u"no task"_s, u"<Task><Settings><Enabled>"_s, u"<Task></Settings></Task>"_s}) {
+    for (const QString &document : {u""_s, u"no task"_s, u"<Task><Settings><Enabled>"_s, u"<Task></Settings></Task>"_s,
+                                    u"<tasks/></Task>"_s, u"<Task></Task></Task>"_s}) {
         QVERIFY(taskFacts(document).enabled);
         QCOMPARE(withTaskEnabled(document, true), document);
         QCOMPARE(withTaskEnabled(document, false), document);
