@@ -9,6 +9,7 @@ packages_for() {
     trace) echo "strace" ;;
     bench) echo "libbenchmark-dev" ;;
     coverage) echo "gcovr" ;;
+    fuzz) echo "clang libclang-rt-dev" ;;
     format) echo "clang-format" ;;
     mutate) echo "python3" ;;
     tidy) echo "clang-tidy" ;;
@@ -22,6 +23,7 @@ reason_for() {
     browser) echo "to try its web pages" ;;
     trace) echo "to see which files its processes open" ;;
     bench) echo "to measure its speed" ;;
+    fuzz) echo "to try its readers with any input" ;;
     coverage) echo "to measure what the tests reach" ;;
     format) echo "to format the sources" ;;
     mutate) echo "to try the tests by small faults" ;;
