@@ -18,7 +18,9 @@ std::size_t bytesAllocated()
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 
-#include <sanitizer/allocator_interface.h>
+// Not every compiler brings the header for it.
+extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*taken)(const volatile void *, std::size_t),
+                                                         void (*given)(const volatile void *));
 
 namespace {
 
