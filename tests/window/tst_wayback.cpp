@@ -242,6 +242,11 @@ void TestWayBack::aTweakIsListedAndTakenBack()
 
     const Dialog dialog(driver);
     QCOMPARE((*dialog).windowTitle(), u"Way back"_s);
+    QStringList buttons;
+    for (const char *name : {"btnCheckAll", "btnUncheckAll", "btnTakeBack", "btnSaveFiles", "btnClose"})
+        buttons.append(dialog.get<QPushButton>(QString::fromLatin1(name))->text());
+    QCOMPARE(buttons,
+             (QStringList{u"Check all"_s, u"Uncheck all"_s, u"&Take back"_s, u"Sa&ve as files…"_s, u"Close"_s}));
     dialog.choose(u"Apply features"_s);
     QVERIFY(dialog.rowCount() > 0);
     QVERIFY(dialog.takeButton()->isEnabled());
@@ -342,6 +347,7 @@ void TestWayBack::theSearchHidesTheOthers()
     QVERIFY(disable(driver, {u"Alpha"_s, u"Beta"_s}));
     const Dialog dialog(driver);
     dialog.choose(u"Disable services"_s);
+    QVERIFY(dialog.get<QLineEdit>(u"edtSearch"_s)->isClearButtonEnabled());
     QTest::keyClicks(dialog.get<QLineEdit>(u"edtSearch"_s), u"beta"_s);
     QVERIFY(dialog.row(betaStart).isValid());
     QVERIFY(!dialog.row(alphaStart).isValid());
