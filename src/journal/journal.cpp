@@ -366,21 +366,16 @@ void Journal::setAllFileAttributes(const QList<FileAttributes> &files) const
 bool Journal::setWords(const QList<FileAttributes> &words, const QList<quint32> &before) const
 {
     const std::lock_guard lock(lock_);
-    QList<Note> notes;
+    QList<WordNote> notes;
     for (qsizetype i = 0; i < words.size(); ++i) {
-        const quint32 present = before.at(i);
-        if (present == words.at(i).word || present == invalidAttributes)
-            continue;
-        Note note;
-        note.item = {ItemKind::Attributes, system_->windowsPath(words.at(i).file)};
-        note.before = {true, present};
-        note.after = ItemState{true, words.at(i).word};
-        notes.append(note);
+        const FileAttributes &each = words.at(i);
+        if (before.at(i) != each.word && before.at(i) != invalidAttributes)
+            notes.append({system_->windowsPath(each.file), before.at(i), each.word});
     }
     if (!notes.isEmpty()) {
         try {
             openSession(false);
-            store().add(session_, notes);
+            store().addWords(session_, notes);
         } catch (const MachineError &error) {
             return failed(error.message);
         }

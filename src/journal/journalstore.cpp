@@ -7,6 +7,7 @@
 #include "machine/registrystore.h"
 
 #include <QCoreApplication>
+#include <QDataStream>
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -17,9 +18,13 @@ namespace {
 
 constexpr int formatVersion = 1;
 
+/** Beside the kinds of items: a row that holds the words of many files. */
+constexpr int kindOfWords = 100;
+
 // "fold" names the item as foldedItem() does; a move has none, since it is a step, and one that comes again is another.
 // AUTOINCREMENT: a session that was removed never lends its number to another. Where it is unknown what became of the
-// item, the columns "after" are null.
+// item, the columns "after" are null. Words of attributes come in hundreds of thousands, so one row holds thousands of
+// them: its "type" is their number, "data" is what packed() makes of them, and its id is the last one of as many.
 constexpr const char *schema = R"(
 CREATE TABLE session (
     id INTEGER PRIMARY KEY AUTOINCREMENT,
@@ -74,6 +79,42 @@ bool isSound(Database &database, qint64 size)
     return check.next() && check.text(0) == "ok"_L1;
 }
 
+QByteArray packed(const QList<WordNote> &words)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_6_0);
+    for (const WordNote &word : words)
+        stream << word.file.toUtf8() << word.before << word.after;
+    return bytes;
+}
+
+/** The notes of a row that packed() has made, each with an id of its own. */
+QList<Note> unpacked(const Database::Query &row)
+{
+    const QByteArray bytes = row.bytes(8);
+    QDataStream stream(bytes);
+    stream.setVersion(QDataStream::Qt_6_0);
+    const qint64 count = row.integer(7);
+    QList<Note> notes;
+    while (stream.status() == QDataStream::Ok && !stream.atEnd()) {
+        QByteArray file;
+        quint32 before = 0;
+        quint32 after = 0;
+        stream >> file >> before >> after;
+        Note note;
+        note.id = row.integer(0) - count + notes.size() + 1;
+        note.session = row.integer(1);
+        note.item = {ItemKind::Attributes, QString::fromUtf8(file)};
+        note.before = {true, before};
+        note.after = ItemState{true, after};
+        notes.append(note);
+    }
+    if (stream.status() != QDataStream::Ok || notes.size() != count)
+        throw MachineError{u"the journal's note %1 is damaged"_s.arg(row.integer(0)), true};
+    return notes;
+}
+
 Note noteOf(const Database::Query &row)
 {
     Note note;
@@ -90,7 +131,8 @@ Note noteOf(const Database::Query &row)
 QList<Session> sessionsIn(Database &database)
 {
     QList<Session> sessions;
-    auto rows = database.query("SELECT id, begun, ended, what, user, version, state, (SELECT count(*) FROM note "
+    auto rows = database.query("SELECT id, begun, ended, what, user, version, state, (SELECT "
+                               "ifnull(sum(CASE WHEN kind = 100 THEN type ELSE 1 END), 0) FROM note "
                                "WHERE session = session.id AND own = 0), settled, windows FROM session ORDER BY id");
     while (rows.next()) {
         Session session;
@@ -120,8 +162,12 @@ QList<Note> notesIn(Database &database, const char *query, qint64 session)
     QList<Note> notes;
     auto rows = database.query(query);
     rows.bind(session);
-    while (rows.next())
-        notes.append(noteOf(rows));
+    while (rows.next()) {
+        if (rows.integer(2) == kindOfWords)
+            notes.append(unpacked(rows));
+        else
+            notes.append(noteOf(rows));
+    }
     return notes;
 }
 
@@ -224,6 +270,21 @@ void JournalStore::add(qint64 session, const QList<Note> &notes)
             .run();
     }
     together.commit();
+}
+
+void JournalStore::addWords(qint64 session, const QList<WordNote> &words)
+{
+    if (words.isEmpty())
+        return;
+    database_
+        ->query("INSERT INTO note (id, session, kind, subject, name, own, there, type, data) VALUES "
+                "(ifnull((SELECT seq FROM sqlite_sequence WHERE name = 'note'), 0) + ?, ?, ?, '', '', 0, 1, ?, ?)")
+        .bind(words.size())
+        .bind(session)
+        .bind(kindOfWords)
+        .bind(words.size())
+        .bind(packed(words))
+        .run();
 }
 
 void JournalStore::setAfter(const QList<Note> &notes)

@@ -51,6 +51,14 @@ struct Note
     bool own = false;                 ///< of the program's own records, which go with the change they are of
 };
 
+/** The attribute word of a file, by its Windows path, before and after a change. */
+struct WordNote
+{
+    QString file{};
+    quint32 before = 0;
+    quint32 after = 0;
+};
+
 /** One open journal. Any thread. All functions throw MachineError. */
 class JournalStore
 {
@@ -76,7 +84,12 @@ public:
     /** Notes items of one session together; on the disk when this returns. An item that it has already stays as it is.
      */
     void add(qint64 session, const QList<Note> &notes);
-    /** What became of items, by their notes. */
+    /**
+     * Notes the words of many files together, each of which is read as a note of its own. What became of them is what
+     * they are to be: a walk over a disk isn't made twice to see which file has refused.
+     */
+    void addWords(qint64 session, const QList<WordNote> &words);
+    /** What became of items, by notes without that. */
     void setAfter(const QList<Note> &notes);
 
     /** In the order of their begin. */

@@ -10,6 +10,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -34,6 +36,15 @@ void change(const QString &name, const QVariant &value, const QString &what = u"
     platform().openKey(key)->setValue(name, value);
 }
 
+/** As a walk does that sets a bit of all files below a folder. */
+void addBit(const QString &folder)
+{
+    platform().walk(folder, [](const WalkEntry &entry) {
+        platform().setFileAttributes(entry.path, platform().fileAttributes(entry.path) | 0x2000);
+        return true;
+    });
+}
+
 } // namespace
 
 class TestJournal : public QObject
@@ -56,6 +67,8 @@ private Q_SLOTS:
     void settingsAreNotNoted();
     void whatCannotBeNotedIsNotChanged();
     void filesThatHaveTheBitGetNoNote();
+    void wordsOfManyFilesAreNotesOfTheirOwn();
+    void wordsThatAreDamagedAreNotTakenForNotes();
     void aRenamedFileComesBackWithItsAttributes();
     void aForeignJournalLeadsNowhere();
     void takingBackCanBeTakenBack();
@@ -271,10 +284,7 @@ void TestJournal::whatCannotBeNotedIsNotChanged()
         QVERIFY(!platform().removeFile(file));
         QVERIFY(!platform().writeFile(QFileInfo(file).path(), QFileInfo(file).fileName(), "other", IfThere::Exchange));
         platform().setFileAttributes(file, 0x2000);
-        platform().walk(u"C:\\"_s, [](const WalkEntry &entry) {
-            platform().setFileAttributes(entry.path, platform().fileAttributes(entry.path) | 0x2000);
-            return true;
-        });
+        addBit(u"C:\\"_s);
     }
     QVERIFY(!journaled.journal().takeFailure().isEmpty());
     QCOMPARE(journaled.differences(), QStringList());
@@ -289,10 +299,7 @@ void TestJournal::filesThatHaveTheBitGetNoNote()
     const Journaled journaled(pc);
     {
         const ChangeSession session(u"Test"_s);
-        platform().walk(u"C:\\"_s, [](const WalkEntry &entry) {
-            platform().setFileAttributes(entry.path, platform().fileAttributes(entry.path) | 0x2000);
-            return true;
-        });
+        addBit(u"C:\\"_s);
     }
     QStringList noted;
     for (const Note &note : journaled.journal().store().notesSince(1))
@@ -302,6 +309,63 @@ void TestJournal::filesThatHaveTheBitGetNoNote()
     QCOMPARE(journaled.machine().attributes(u"C:\\without.txt"_s), 0x2020u);
     takeBack(journaled.journal(), {});
     QCOMPARE(journaled.differences(), QStringList());
+}
+
+void TestJournal::wordsOfManyFilesAreNotesOfTheirOwn()
+{
+    TestMachine pc;
+    for (int file = 0; file < 7; ++file)
+        pc.addFile(u"C:\\Folder\\ä%1.txt"_s.arg(file));
+    const Journaled journaled(pc);
+    const JournalStore &store = journaled.journal().store();
+    {
+        const ChangeSession session(u"Test"_s);
+        platform().openKey(key)->setValue(u"Value"_s, 1);
+        addBit(u"C:\\Folder"_s);
+        platform().openKey(key)->setValue(u"Other"_s, 1);
+    }
+    const QList<Note> notes = store.notesSince(1);
+    QSet<qint64> ids;
+    int words = 0;
+    for (const Note &note : notes) {
+        ids.insert(note.id);
+        words += note.item.kind == ItemKind::Attributes ? 1 : 0;
+    }
+    QVERIFY2(words >= 7, qPrintable(QString::number(words)));
+    QCOMPARE(ids.size(), notes.size());
+    QCOMPARE(qint64(store.sessions().constFirst().changes), notes.size());
+
+    const auto last = std::find_if(notes.cbegin(), notes.cend(),
+                                   [](const Note &note) { return note.item.subject == u"C:\\Folder\\ä6.txt"_s; });
+    QVERIFY(last != notes.cend());
+    QCOMPARE(last->before, (ItemState{true, 0x20}));
+    QCOMPARE(last->after, std::optional(ItemState{true, 0x2020}));
+    takeBack(journaled.journal(), {.items = {last->id}});
+    QCOMPARE(journaled.machine().attributes(u"C:\\Folder\\ä6.txt"_s), 0x20u);
+    QCOMPARE(journaled.machine().attributes(u"C:\\Folder\\ä5.txt"_s), 0x2020u);
+    takeBack(journaled.journal(), {});
+    QCOMPARE(journaled.differences(), QStringList());
+}
+
+void TestJournal::wordsThatAreDamagedAreNotTakenForNotes()
+{
+    TestMachine pc;
+    pc.addFile(u"C:\\some.txt"_s);
+    const Journaled journaled(pc);
+    {
+        const ChangeSession session(u"Test"_s);
+        addBit(u"C:\\"_s);
+    }
+    const JournalStore &store = journaled.journal().store();
+    QVERIFY(!store.notesSince(1).isEmpty());
+    for (const char *damage : {"UPDATE note SET data = substr(data, 1, length(data) - 1)",
+                               "UPDATE note SET data = x'7fffffff' || data", "UPDATE note SET type = type + 1"}) {
+        {
+            Database database(journalOptions(pc.folder()).file);
+            database.execute(damage);
+        }
+        QVERIFY_THROWS_EXCEPTION(MachineError, store.notesSince(1));
+    }
 }
 
 void TestJournal::aRenamedFileComesBackWithItsAttributes()
