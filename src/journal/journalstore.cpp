@@ -82,6 +82,7 @@ bool isSound(Database &database, qint64 size)
 QByteArray packed(const QList<WordNote> &words)
 {
     QByteArray bytes;
+    bytes.reserve(words.size() * 100);
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_6_0);
     for (const WordNote &word : words)
