@@ -7,13 +7,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct ExampleRow
-{
-    QLatin1StringView subcommand;
-    QLatin1StringView line; ///< after the program's name
-    QLatin1StringView meaning;
-};
-
 // They can be tried from the top to the bottom.
 // clang-format off
 constexpr ExampleRow examples[] = {
@@ -64,12 +57,7 @@ constexpr ExampleRow examples[] = {
 
 } // namespace
 
-QString examplesOf(QLatin1StringView subcommand)
+std::span<const ExampleRow> allExamples()
 {
-    QString text;
-    for (const ExampleRow &example : examples) {
-        if (example.subcommand == subcommand)
-            text += u"  kestrune-rehearse %1\n      %2\n"_s.arg(example.line, example.meaning);
-    }
-    return text.isEmpty() ? text : u"Examples:\n"_s + text;
+    return examples;
 }
