@@ -59,10 +59,17 @@ void write(QFileDevice &file, const QString &path, const QByteArray &report)
         fail(path, file.errorString());
 }
 
-QString optionsOf(const Subcommand &subcommand)
+QList<OptionRow> optionsOf(const Program &program, const Subcommand &subcommand)
+{
+    QList<OptionRow> options(subcommand.options.begin(), subcommand.options.end());
+    options.append(QList<OptionRow>(program.options.begin(), program.options.end()));
+    return options;
+}
+
+QString optionsText(const QList<OptionRow> &options)
 {
     QString text;
-    for (const OptionRow &option : subcommand.options) {
+    for (const OptionRow &option : options) {
         QString word = u"  --"_s + option.name;
         if (!option.value.isEmpty())
             word += u' ' + QString(option.value);
@@ -73,11 +80,12 @@ QString optionsOf(const Subcommand &subcommand)
 
 void printHelp(const Program &program, const Subcommand &subcommand)
 {
-    print(u"Usage: %1 %2 %3%4\n"_s.arg(program.name, subcommand.name, subcommand.operands,
-                                       subcommand.options.empty() ? ""_L1 : " [OPTION]..."_L1));
+    const QList<OptionRow> options = optionsOf(program, subcommand);
+    print((u"Usage: %1 %2 %3"_s.arg(program.name, subcommand.name, subcommand.operands).trimmed()
+           + (options.isEmpty() ? ""_L1 : " [OPTION]..."_L1) + u'\n'));
     QString summary = subcommand.summary;
     summary[0] = summary.at(0).toUpper();
-    print(summary + u".\n\n"_s + optionsOf(subcommand));
+    print(summary + u".\n\n"_s + optionsText(options));
     if (subcommand.moreHelp != nullptr) {
         if (const QString more = subcommand.moreHelp(); !more.isEmpty())
             print(u'\n' + more);
@@ -138,7 +146,7 @@ int run(const Program &program, const QStringList &words)
         return ExitDone;
     }
     return subcommand.run(
-        Arguments(words.mid(1), subcommand.options, subcommand.fewestOperands, subcommand.mostOperands));
+        Arguments(words.mid(1), optionsOf(program, subcommand), subcommand.fewestOperands, subcommand.mostOperands));
 }
 
 /** What fails after the program was broken off may fail because of that, and isn't reported. */

@@ -52,6 +52,7 @@ struct Program
     QLatin1StringView start;                        ///< what to begin with: "%1" is the program's name
     QLatin1StringView exitStatus;                   ///< with a full stop and line breaks
     void (*begin)() = nullptr;                      ///< is called before a command; may be null
+    std::span<const OptionRow> options{};           ///< that every command takes
 };
 
 /** What a main() is but for its tables: runs what the command line says, and tells what is wrong with it. */

@@ -60,7 +60,7 @@ std::optional<Record> recordOfPackage(const Note &note, const ItemState &now)
 /** The record that a change of a session asks for, where the change is in force. */
 std::optional<Record> recordOf(const Journal &journal, const QString &session, const Note &note)
 {
-    const bool ofOptimize = session == changesOf(JobAutomatizerOptimize);
+    const bool ofOptimize = session == changesOf(JobAutomatizerOptimize) || session == appliedProfile;
     const ItemState now = journal.stateOf(note.item);
     if (note.item.kind == ItemKind::Value && (ofOptimize || session == changesOf(JobSvcDisable)))
         return recordOfService(note, now);

@@ -8,6 +8,9 @@
 /** The session of what was done before there was a journal. */
 inline const QString beforeTheJournal = QStringLiteral("Before the journal, not exact");
 
+/** The session of a profile, which does what Optimize does, or a part of it. */
+inline const QString appliedProfile = QStringLiteral("Apply a profile");
+
 /** For JournalOptions::ownPlace. */
 OwnPlace placeInProgram(const QString &key, const QString &name);
 

@@ -62,6 +62,8 @@ WayBackScript wayBackScript(const Journal &journal, const Selection &selection);
 /** Writes that as way-back.reg and what belongs to it into a folder, which is made. Throws MachineError. */
 WrittenWayBack writeWayBack(const Journal &journal, const Selection &selection, const QString &folder);
 
+/** The folder of the files that are kept of a session; empty of one that has changed nothing. Throws MachineError. */
+QString wayBackFolder(const Journal &journal, qint64 session);
 /**
  * Writes a session's way back into a folder of its own beside the journal, where the last ten are kept. Nothing is
  * written of a session that has changed nothing. Throws MachineError.

@@ -195,15 +195,22 @@ WrittenWayBack writeWayBack(const Journal &journal, const Selection &selection, 
         .write(folder + u'/' + scriptName, u"The way back to what was there before Kestrune changed it."_s);
 }
 
-void keepWayBack(const Journal &journal, qint64 session)
+QString wayBackFolder(const Journal &journal, qint64 session)
 {
     const QList<Session> sessions = journal.store().sessions();
     const auto found =
         std::find_if(sessions.cbegin(), sessions.cend(), [session](const Session &each) { return each.id == session; });
     if (found == sessions.cend() || found->changes == 0)
+        return {};
+    return QFileInfo(journal.store().file()).path() + u"/files/"_s + folderName(*found);
+}
+
+void keepWayBack(const Journal &journal, qint64 session)
+{
+    const QString folder = wayBackFolder(journal, session);
+    if (folder.isEmpty())
         return;
-    const QString folder = QFileInfo(journal.store().file()).path() + u"/files"_s;
-    writeWayBack(journal, {.firstSession = session, .lastSession = session}, folder + u'/' + folderName(*found));
-    explain(folder);
-    keepLast(folder);
+    writeWayBack(journal, {.firstSession = session, .lastSession = session}, folder);
+    explain(QFileInfo(folder).path());
+    keepLast(QFileInfo(folder).path());
 }

@@ -79,6 +79,8 @@ public:
 
 protected:
     Platform &inner() const { return *inner_; }
+    /** Gives the other one back; nothing may be asked of this one then. */
+    std::unique_ptr<Platform> takeInner() { return std::move(inner_); }
 
 private:
     std::unique_ptr<Platform> inner_;

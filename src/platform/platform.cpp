@@ -30,6 +30,11 @@ void setPlatform(std::unique_ptr<Platform> newPlatform)
     current = std::move(newPlatform);
 }
 
+std::unique_ptr<Platform> takePlatform()
+{
+    return std::move(current);
+}
+
 quint32 lastSystemError()
 {
 #ifdef Q_OS_WIN

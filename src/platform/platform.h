@@ -257,6 +257,8 @@ private:
 /** The platform in force. main() sets it before anything else; without one the program ends. */
 Platform &platform();
 void setPlatform(std::unique_ptr<Platform> newPlatform);
+/** Takes the platform in force away, for one that is to stand around it. Nothing may be asked meanwhile. */
+std::unique_ptr<Platform> takePlatform();
 
 /** The number of the calling thread's last error in a call into the system, as the system counts them. */
 quint32 lastSystemError();

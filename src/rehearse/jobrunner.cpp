@@ -38,19 +38,19 @@ void LinePrinter::printPair(const QString &firstKey, const QString &first, const
     std::fflush(stdout);
 }
 
-std::optional<QString> runToEnd(WorkThread &worker, int job, LinePrinter &printer, void (*record)(const QString &line))
+std::optional<QString> runToEnd(WorkThread &worker, int job, LineTaker &lines, void (*record)(const QString &line))
 {
     std::optional<QString> last;
     QEventLoop loop;
     QObject::connect(&worker, &WorkThread::valueChanged, &loop, [&](const QString &line) {
         last = line;
-        printer.take("valueChanged"_L1, line);
+        lines.take("valueChanged"_L1, line);
         if (record != nullptr)
             record(line);
     });
     QObject::connect(&worker, &WorkThread::automatizerValueChanged, &loop, [&](const QString &line) {
         last = line;
-        printer.take("automatizerValueChanged"_L1, line);
+        lines.take("automatizerValueChanged"_L1, line);
     });
     // Queued after the lines that are under way.
     QObject::connect(&worker, &QThread::finished, &loop, &QEventLoop::quit, Qt::QueuedConnection);

@@ -9,7 +9,7 @@
 #include <span>
 #include <utility>
 
-class LinePrinter;
+class LineTaker;
 
 /** Texts that a job leaves in the worker, each with its name. */
 using JobResults = QList<std::pair<QString, QString>>;
@@ -66,7 +66,7 @@ bool isAutomatizerJob(int job);
  * Analyzes, optimizes what an earlier Analyze has found, or restores. A Failure where the window would refuse, and
  * where a job didn't come to its end.
  */
-void runAutomatizer(WorkThread &worker, int job, const AutomatizerChoice &choice, LinePrinter &printer);
+void runAutomatizer(WorkThread &worker, int job, const AutomatizerChoice &choice, LineTaker &lines);
 
 // Tweaks.
 

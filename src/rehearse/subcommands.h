@@ -33,6 +33,11 @@ std::unique_ptr<Machine> openMachine(const QString &folder);
 std::unique_ptr<Machine> openMachineToChange(const QString &folder);
 /** The key of that path; a Failure of code 2 where there is none, or the path names no root. */
 qint64 requireKey(const RegistryStore &store, const QString &path);
+class Journal;
+/** Takes changes back, or lists them, or writes the way back as files, as the options say. The exit code. */
+int undoBy(const Journal &journal, const Arguments &arguments);
+std::span<const OptionRow> undoOptions();
+
 struct WrittenWayBack;
 /** Prints the files, and what was left out. */
 void printWritten(const WrittenWayBack &wayBack);

@@ -184,37 +184,13 @@ QList<TakenItem> takeBackToEnd(const Journal &journal, const Selection &selectio
 
 int runUndo(const Arguments &arguments)
 {
-    const Request request = parseRequest(arguments);
-    if (arguments.has("json"_L1))
-        checkReportFile(arguments.value("json"_L1));
     const QString folder = openMachine(arguments.operand(0))->folder();
     auto opened = openMachineJournal(folder);
     const Journal &journal = *opened;
     setPlatform(std::move(opened));
     const auto close = qScopeGuard([] { setPlatform(nullptr); });
     settleBrokenOff();
-
-    const QList<Session> sessions = journal.store().sessions();
-    const Selection selection = selectionOf(request, sessions);
-    if (arguments.has("list"_L1)) {
-        if (request.session || request.since || !request.items.isEmpty()) {
-            const QList<TakenItem> items = planWayBack(journal, selection);
-            report(arguments, itemsText(items), itemsJson(items));
-        } else {
-            report(arguments, sessionsText(sessions), sessionsJson(sessions));
-        }
-        return ExitDone;
-    }
-    if (arguments.has("files"_L1)) {
-        const WrittenWayBack written = writeWayBack(journal, selection, absoluteFolder(arguments.value("files"_L1)));
-        printWritten(written);
-        return written.leftOut.isEmpty() ? ExitDone : ExitJobFailed;
-    }
-    const QList<TakenItem> items = takeBackToEnd(journal, selection);
-    report(arguments, itemsText(items), itemsJson(items));
-    if (const QString failure = journal.takeFailure(); !failure.isEmpty())
-        throw Failure{ExitJobFailed, u"not everything was taken back: "_s + failure};
-    return isBack(items) ? ExitDone : ExitJobFailed;
+    return undoBy(journal, arguments);
 }
 
 // clang-format off
@@ -244,6 +220,39 @@ QString moreHelp()
 }
 
 } // namespace
+
+int undoBy(const Journal &journal, const Arguments &arguments)
+{
+    const Request request = parseRequest(arguments);
+    if (arguments.has("json"_L1))
+        checkReportFile(arguments.value("json"_L1));
+    const QList<Session> sessions = journal.store().sessions();
+    const Selection selection = selectionOf(request, sessions);
+    if (arguments.has("list"_L1)) {
+        if (request.session || request.since || !request.items.isEmpty()) {
+            const QList<TakenItem> items = planWayBack(journal, selection);
+            report(arguments, itemsText(items), itemsJson(items));
+        } else {
+            report(arguments, sessionsText(sessions), sessionsJson(sessions));
+        }
+        return ExitDone;
+    }
+    if (arguments.has("files"_L1)) {
+        const WrittenWayBack written = writeWayBack(journal, selection, absoluteFolder(arguments.value("files"_L1)));
+        printWritten(written);
+        return written.leftOut.isEmpty() ? ExitDone : ExitJobFailed;
+    }
+    const QList<TakenItem> items = takeBackToEnd(journal, selection);
+    report(arguments, itemsText(items), itemsJson(items));
+    if (const QString failure = journal.takeFailure(); !failure.isEmpty())
+        throw Failure{ExitJobFailed, u"not everything was taken back: "_s + failure};
+    return isBack(items) ? ExitDone : ExitJobFailed;
+}
+
+std::span<const OptionRow> undoOptions()
+{
+    return options;
+}
 
 const Subcommand undoSubcommand{
     "undo"_L1, "DIR"_L1, "take changes back, exactly, by the machine's journal"_L1, options, 1, 1, runUndo, moreHelp,

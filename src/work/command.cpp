@@ -18,7 +18,35 @@ namespace {
 // Short enough for a worker that is asked to end to be gone before anyone loses patience with it.
 constexpr int slice = 10;
 
+std::mutex listening;
+std::optional<QList<ToolAnswer>> heard; ///< nothing where nobody listens
+
 } // namespace
+
+ToolListener::ToolListener()
+{
+    const std::lock_guard lock(listening);
+    heard.emplace();
+}
+
+ToolListener::~ToolListener()
+{
+    const std::lock_guard lock(listening);
+    heard.reset();
+}
+
+QList<ToolAnswer> ToolListener::answers() const
+{
+    const std::lock_guard lock(listening);
+    return heard.value_or(QList<ToolAnswer>());
+}
+
+void ToolListener::hear(const ToolAnswer &answer)
+{
+    const std::lock_guard lock(listening);
+    if (heard)
+        heard->append(answer);
+}
 
 Command::~Command()
 {
@@ -39,6 +67,8 @@ void Command::start(const QString &program, const QStringList &arguments)
     timedOut_ = false;
     refused_ = false;
     exitCode_.reset();
+    program_ = program;
+    arguments_ = arguments;
 
     const QString file = platform().programFile(program);
     if (file.isEmpty()) {
@@ -79,6 +109,7 @@ void Command::waitForFinished()
 {
     waitInSlices([this] { return process_->waitForFinished(slice); });
     timedOut_ = process_->state() != QProcess::NotRunning;
+    ToolListener::hear({program_, arguments_, timedOut_ ? endedByForce : exitCode()});
 }
 
 void Command::waitForReadyRead()

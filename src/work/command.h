@@ -67,6 +67,8 @@ private:
     void waitInSlices(Wait wait);
 
     std::unique_ptr<QProcess> process_ = std::make_unique<QProcess>();
+    QString program_;
+    QStringList arguments_;
     qint64 processId_ = 0;
     bool failedToStart_ = false;
     QString startError_; ///< why it failed to start
@@ -75,6 +77,29 @@ private:
     bool refused_ = false;
     std::shared_ptr<void> hold_; ///< of the program's file
     mutable std::optional<int> exitCode_;
+};
+
+/** What a tool has answered. */
+struct ToolAnswer
+{
+    QString program;
+    QStringList arguments;
+    int exitCode = 0;
+};
+
+/** Hears what tools answer that are waited for, as long as it lives; one at a time, on any thread. */
+class ToolListener
+{
+public:
+    ToolListener();
+    ~ToolListener();
+    Q_DISABLE_COPY_MOVE(ToolListener)
+
+    QList<ToolAnswer> answers() const;
+
+private:
+    friend class Command;
+    static void hear(const ToolAnswer &answer);
 };
 
 /** Runs a tool to its end, or ends it after the time limit. The exit code; of one that had to be ended endedByForce. */

@@ -66,6 +66,14 @@ QList<KeepFeature> keepFeaturesToBringBack()
     return ordered;
 }
 
+bool isOfKeptFeature(const WorkThread &worker, const QString &service)
+{
+    const auto isIn = [&service](const QString &name) { return service.contains(name, Qt::CaseInsensitive); };
+    return std::any_of(keepFeatures.begin(), keepFeatures.end(), [&](const KeepFeature &feature) {
+        return feature.isKept(worker) && std::any_of(feature.services.cbegin(), feature.services.cend(), isIn);
+    });
+}
+
 void addServicesOfFeaturesGivenUp(WorkThread &worker)
 {
     for (const KeepFeature &feature : keepFeatures) {

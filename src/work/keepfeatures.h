@@ -31,6 +31,9 @@ extern const std::array<KeepFeature, 9> keepFeatures;
 /** In the order in which what belongs to those that are kept is brought back. */
 QList<KeepFeature> keepFeaturesToBringBack();
 
+/** Whether a feature that is kept names the service; an instance of one user's is named by more than that. */
+bool isOfKeptFeature(const WorkThread &worker, const QString &service);
+
 /** Adds the services of every feature that is given up to the worker's non-vital services. */
 void addServicesOfFeaturesGivenUp(WorkThread &worker);
 

@@ -15,15 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/** Whether a feature that is kept names the service; an instance of one user's is named by more than that. */
-bool isOfKeptFeature(const WorkThread &worker, const QString &service)
-{
-    const auto isIn = [&service](const QString &name) { return service.contains(name, Qt::CaseInsensitive); };
-    return std::any_of(keepFeatures.begin(), keepFeatures.end(), [&](const KeepFeature &feature) {
-        return feature.isKept(worker) && std::any_of(feature.services.cbegin(), feature.services.cend(), isIn);
-    });
-}
-
 QString uninstallText(const QString &package)
 {
     const QString text = WorkThread::tr("Package: can be uninstalled: ") + package;

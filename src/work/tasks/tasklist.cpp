@@ -57,26 +57,37 @@ void backUp(const QByteArray &exported)
 
 } // namespace
 
+std::optional<TaskExport> exportedTasks()
+{
+    Command schtasks;
+    if (!startLogged(schtasks, u"TaskMakeList"_s, u"schtasks"_s, {u"/xml"_s}))
+        return std::nullopt;
+    schtasks.waitForFinished();
+    // From the tool itself: anybody can put something else in the place of the file.
+    const QByteArray bytes = schtasks.readAllStandardOutput();
+    if (const int code = schtasks.exitCode(); code != 0) {
+        LogError(u"TaskMakeList: schtasks process error: "_s + QString::number(code));
+        return std::nullopt;
+    }
+    return TaskExport{bytes, schtasks.hasEndedByItself()};
+}
+
+QList<TaskRow> tasksOf(const TaskExport &exported)
+{
+    QString text = textOfFile(exported.bytes);
+    return tasksOf(text.replace("\r\n"_L1, "\n"_L1));
+}
+
 void WorkThread::TaskMakeList()
 try {
     tasks.clear();
 
-    Command schtasks;
-    if (!startLogged(schtasks, u"TaskMakeList"_s, u"schtasks"_s, {u"/xml"_s}))
+    const std::optional<TaskExport> exported = exportedTasks();
+    if (!exported || !leaveBehind(exported->bytes))
         return;
-    schtasks.waitForFinished();
-    // From the tool itself: anybody can put something else in the place of the file.
-    const QByteArray exported = schtasks.readAllStandardOutput();
-    if (const int code = schtasks.exitCode(); code != 0) {
-        LogError(u"TaskMakeList: schtasks process error: "_s + QString::number(code));
-        return;
-    }
-    if (!leaveBehind(exported))
-        return;
-    if (platform().isElevated() && schtasks.hasEndedByItself())
-        backUp(exported);
-    QString text = textOfFile(exported);
-    tasks = tasksOf(text.replace("\r\n"_L1, "\n"_L1));
+    if (platform().isElevated() && exported->isWhole)
+        backUp(exported->bytes);
+    tasks = tasksOf(*exported);
     if (analyzeRunning == 0)
         report(StatusLine::tasksListed);
 } catch (const JobInterrupted &) {

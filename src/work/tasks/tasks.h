@@ -5,8 +5,11 @@
 
 #include "work/rows.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QStringList>
+
+#include <optional>
 
 class WorkThread;
 
@@ -22,5 +25,15 @@ QStringList nonVitalTaskPrefixes();
  */
 int reasonsAgainstTask(const WorkThread &worker, const QString &name);
 
+/** What schtasks prints of all tasks. */
+struct TaskExport
+{
+    QByteArray bytes;
+    bool isWhole = false; ///< it has ended by itself
+};
+
+/** Asks schtasks, and leaves nothing anywhere; nothing where it fails, which is in the log then. */
+std::optional<TaskExport> exportedTasks();
+QList<TaskRow> tasksOf(const TaskExport &exported);
 /** The tasks in the text that schtasks prints, in its order. Throws JobInterrupted on a worker that is asked to end. */
 QList<TaskRow> tasksOf(const QString &exported);

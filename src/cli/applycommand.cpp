@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// kestrune-cli apply
+
+#include "commands.h"
+#include "console/printable.h"
+#include "console/programinterruption.h"
+#include "journal/programrecords.h"
+#include "journal/takeback.h"
+#include "machine/machineerror.h"
+#include "rehearse/jobrunner.h"
+#include "rehearse/jobs.h"
+#include "report.h"
+#include "work/autorun/autorun.h"
+#include "work/packages/packages.h"
+#include "work/statusline.h"
+#include "work/tweaks/tweakcatalogue.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/** Keeps the lines of jobs, each with its time, and shows the last one to somebody at a terminal. */
+class LineLog final : public LineTaker
+{
+public:
+    explicit LineLog(Progress &progress)
+        : progress_(progress)
+    {
+    }
+
+    void take(QLatin1StringView, const QString &line) override
+    {
+        if (line.isEmpty() || StatusLine::isProgress(line))
+            return;
+        add(line);
+        progress_.show(line, 0, 0);
+    }
+    void takeResult(const QString &name, const QString &text) override { add(name + u": "_s + text); }
+
+    void add(const QString &line)
+    {
+        text_ += QDateTime::currentDateTime().toString(Qt::ISODateWithMs) + u' ' + printable(line) + u'\n';
+    }
+    QByteArray text() const { return text_.toUtf8(); }
+
+private:
+    Progress &progress_;
+    QString text_;
+};
+
+/** Carries out what is open, by the jobs that the window runs. */
+class ProfileRun
+{
+public:
+    ProfileRun(WorkThread &worker, const Profile &profile, const QList<Aim> &aims, LineLog &log)
+        : worker_(worker)
+        , profile_(profile)
+        , aims_(aims)
+        , log_(log)
+    {
+    }
+
+    void run()
+    {
+        if (goesByOptimize(profile_))
+            optimize();
+        disableServices();
+        disableTasks();
+        removePackages();
+        disablePrograms();
+        applyTweaks();
+    }
+
+    bool wantsRestart() const { return worker_.needReboot == 1; }
+
+private:
+    /** What Optimize does by itself; it takes nothing where its Analyze finds nothing, and options alone aren't that.
+     */
+    void optimize()
+    {
+        const bool isWorthIt = std::any_of(aims_.cbegin(), aims_.cend(), [this](const Aim &aim) {
+            return aim.state == AimState::Open && aim.group != PreviewGroup::Tweaks && !isNamed(aim);
+        });
+        if (!isWorthIt)
+            return;
+        const AutomatizerChoice choice{.programs = profile_.programs, .tweaks = profile_.features, .walk = false};
+        try {
+            runAutomatizer(worker_, JobAutomatizerOptimize, choice, log_);
+            isOptimized_ = true;
+        } catch (const Failure &failure) {
+            log_.add(failure.message);
+        }
+    }
+
+    /** Whether an aim is the profile's own, and none of Optimize. */
+    bool isNamed(const Aim &aim) const
+    {
+        const QStringList &names = aim.group == PreviewGroup::Services   ? profile_.services
+                                   : aim.group == PreviewGroup::Tasks    ? profile_.tasks
+                                   : aim.group == PreviewGroup::Packages ? profile_.packages
+                                                                         : profile_.startup;
+        return names.contains(aim.name, Qt::CaseInsensitive);
+    }
+
+    /** Of a group what is still to be switched off. */
+    QStringList openOf(PreviewGroup group) const
+    {
+        QStringList names;
+        for (const Aim &aim : aims_) {
+            const bool isOpen = aim.group == group && aim.state == AimState::Open;
+            if (isOpen && (!isOptimized_ || isNamed(aim)) && (aim.wish == "disabled"_L1 || aim.wish == "removed"_L1))
+                names.append(aim.name);
+        }
+        return names;
+    }
+
+    void disableServices()
+    {
+        worker_.servicesToChange = openOf(PreviewGroup::Services);
+        if (!worker_.servicesToChange.isEmpty())
+            runToEnd(worker_, JobSvcDisable, log_);
+    }
+
+    void disableTasks()
+    {
+        worker_.tasksToChange.clear();
+        for (const QString &path : openOf(PreviewGroup::Tasks))
+            worker_.tasksToChange.append({path, {}, path.section(u'\\', -1), {}, 1});
+        if (!worker_.tasksToChange.isEmpty())
+            runToEnd(worker_, JobTaskStopOrStart, log_);
+    }
+
+    void removePackages()
+    {
+        const QStringList names = openOf(PreviewGroup::Packages);
+        if (names.isEmpty())
+            return;
+        // The rows of the list say where OneDrive's uninstaller is.
+        worker_.PackageGetList();
+        worker_.packagesToChange.clear();
+        for (const QString &name : names) {
+            const auto listed = std::find_if(worker_.packages.cbegin(), worker_.packages.cend(),
+                                             [&name](const PackageRow &row) { return row.name == name; });
+            worker_.packagesToChange.append(listed == worker_.packages.cend() ? PackageRow{name, name, {}} : *listed);
+        }
+        worker_.packageInstall = false;
+        runToEnd(worker_, JobPackageSetState, log_, [](const QString &line) { recordPackageLine(line, false); });
+    }
+
+    void disablePrograms()
+    {
+        const QStringList names = openOf(PreviewGroup::Autorun);
+        if (names.isEmpty())
+            return;
+        disableAutoruns(worker_, names);
+        for (const QString &name : names)
+            log_.add(u"Autorun: disable "_s + name);
+    }
+
+    void applyTweaks()
+    {
+        TweakState done = storedTweaks();
+        done.boxes.clear();
+        const ChangeSession session(u"Apply features"_s);
+        for (const Aim &aim : aims_) {
+            const TweakBox *box = boxOf(aim);
+            const bool isNamed = box != nullptr && profile_.tweaks.value(aim.name);
+            if (box == nullptr || aim.state != (box->apply == When::AsJob ? AimState::Unknown : AimState::Open)
+                || (isOptimized_ && !isNamed))
+                continue;
+            log_.add(u"Feature: "_s + aim.title);
+            if (box->apply == When::AsJob)
+                runToEnd(worker_, JobTweakApply, log_);
+            else
+                runToEnd([&] { (worker_.*(box->tweak))(1, box->id); });
+            done.boxes.insert(box->name, true);
+        }
+        if (!done.boxes.isEmpty())
+            storeTweaks(done);
+    }
+
+    WorkThread &worker_;
+    const Profile &profile_;
+    const QList<Aim> &aims_;
+    LineLog &log_;
+    bool isOptimized_ = false;
+};
+
+void checkFiles(const Arguments &arguments)
+{
+    for (const QLatin1StringView file : {"json"_L1, "log"_L1}) {
+        if (arguments.has(file))
+            checkReportFile(arguments.value(file));
+    }
+}
+
+/** What belongs to a user can't be changed by the system. */
+void leaveOutUser(const Profile &profile, QList<Aim> &aims)
+{
+    for (Aim &aim : aims) {
+        if (!aim.ofUser || aim.state != AimState::Open)
+            continue;
+        if (profile.user == UserRule::Refuse) {
+            throw Failure{ExitBadArguments,
+                          u"%1 '%2' belongs to a user, and this runs as the system: run it as that user, or "
+                          "write \"user\": \"skip\" into the profile"_s.arg(thingText(aim.group), aim.name)};
+        }
+        aim.state = AimState::LeftAlone;
+        aim.why = u"it belongs to a user"_s;
+    }
+}
+
+/** The number of the newest session of a profile; 0 where there is none. */
+qint64 newestSession(const Journal &journal)
+{
+    qint64 newest = 0;
+    for (const Session &each : journal.store().sessions())
+        newest = each.what == appliedProfile ? each.id : newest;
+    return newest;
+}
+
+int runApply(const Arguments &arguments)
+{
+    checkFiles(arguments);
+    const Pc pc(arguments, PcUse::Change);
+    const Profile profile = profileOf(arguments, pc);
+    const Journal &journal = *journalInForce();
+    WorkThread worker;
+    applyProfile(worker, profile);
+    QList<Aim> before = aimsOf(worker, pc.system(), profile);
+    worker.needReboot = 0; // it was set by trying
+    if (pc.isOfSystem())
+        leaveOutUser(profile, before);
+    if (!arguments.has("yes"_L1) && std::any_of(before.cbegin(), before.cend(), [&](const Aim &aim) {
+            return aim.state == AimState::Unknown && profile.tweaks.value(aim.name);
+        }))
+        throw UsageError{u"'ssd8' walks over all files of the partition: say --yes to that"_s};
+
+    Progress progress;
+    LineLog log(progress);
+    const ToolListener listener;
+    const qint64 former = newestSession(journal);
+    ProfileRun run(worker, profile, before, log);
+    {
+        const ChangeSession session(appliedProfile);
+        run.run();
+    }
+    progress.clear();
+    const bool wantsRestart = run.wantsRestart();
+    const qint64 newest = newestSession(journal);
+    const qint64 session = newest == former ? 0 : newest;
+    const QList<Aim> after = judgedAims(before, aimsOf(worker, pc.system(), profile), listener.answers());
+
+    const QString folder = wayBackFolder(journal, session);
+    const QJsonObject more{{u"session"_s, session},
+                           {u"folder"_s, QDir::toNativeSeparators(folder)},
+                           {u"restartWanted"_s, wantsRestart}};
+    if (!folder.isEmpty()) {
+        writeReportFile(folder + u"/plan.json"_s, aimsDocument(u"plan"_s, arguments, before));
+        writeReportFile(folder + u"/result.json"_s, aimsDocument(u"apply"_s, arguments, after, more));
+        writeReportFile(folder + u"/log.txt"_s, log.text());
+    }
+    if (arguments.has("log"_L1))
+        writeReportFile(arguments.value("log"_L1), log.text());
+    reportAims(u"apply"_s, arguments, after, false, more);
+    const bool isSilent = arguments.has("quiet"_L1) || arguments.value(jsonOption.name) == "-"_L1;
+    if (!isSilent && session != 0)
+        print(u"session %1; 'kestrune-cli undo --session %1' takes it back; plan, result and log: %2\n"_s.arg(
+            QString::number(session), QDir::toNativeSeparators(folder)));
+    if (!isSilent && session == 0)
+        print(u"nothing was changed\n"_s);
+    if (const QString failure = platform().takeFailure(); !failure.isEmpty())
+        throw Failure{ExitJobFailed, u"not everything was done: "_s + failure};
+    if (!areInForce(after))
+        return ExitJobFailed;
+    return wantsRestart ? ExitRestartWanted : ExitDone;
+}
+
+constexpr OptionRow options[] = {
+    profileOption,
+    jsonOption,
+    {"log"_L1, "FILE"_L1, "write what the jobs said, line by line"_L1},
+    {"quiet"_L1, {}, "print nothing but errors"_L1},
+    {"yes"_L1, {}, "agree to a walk over all files, where the profile asks for 'ssd8'"_L1},
+};
+
+QString moreHelp()
+{
+    return u"Needs administrator rights. Everything is noted in the journal before it is changed, and 'undo' takes it\n"
+           "back. At the end all is read again. Columns: state, kind of thing, name, what was asked for, and why.\n"
+           "Exit status: 0 done, or nothing to do; 1 something was refused; 2 bad arguments or profile;\n"
+           "3 the PC can't be read; 5 administrator rights are needed; 3010 done, restart wanted.\n"_s;
+}
+
+} // namespace
+
+const Subcommand applySubcommand{
+    "apply"_L1, {}, "do what Optimize, or a profile, asks for"_L1, options, 0, 0, runApply, moreHelp,
+};

@@ -1,0 +1,442 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "profile.h"
+
+#include "jsonplaces.h"
+#include "work/keepfeatures.h"
+#include "work/packages/packages.h"
+#include "work/services/services.h"
+#include "work/tasks/tasks.h"
+#include "work/tweaks/tweakcatalogue.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int formatVersion = 1;
+
+bool isIn(const QStringList &names, const QString &name)
+{
+    return names.contains(name, Qt::CaseInsensitive);
+}
+
+const KeepFeature *featureOf(const QString &name)
+{
+    const auto found = std::find_if(keepFeatures.begin(), keepFeatures.end(),
+                                    [&name](const KeepFeature &each) { return each.name == name; });
+    return found == keepFeatures.end() ? nullptr : &*found;
+}
+
+bool isKnownService(const QString &name)
+{
+    return isIn(nonVitalServiceNames(), name) || isIn(manualStartServiceNames(), name) || isIn(criticalServices, name)
+           || std::any_of(keepFeatures.begin(), keepFeatures.end(),
+                          [&name](const KeepFeature &each) { return isIn(each.services, name); });
+}
+
+bool isKnownTask(const QString &path)
+{
+    const QString name = path.section(u'\\', -1);
+    const QStringList prefixes = nonVitalTaskPrefixes();
+    return isIn(nonVitalTaskNames(), name)
+           || std::any_of(prefixes.cbegin(), prefixes.cend(),
+                          [&name](const QString &each) { return name.startsWith(each, Qt::CaseInsensitive); })
+           || std::any_of(keepFeatures.begin(), keepFeatures.end(),
+                          [&name](const KeepFeature &each) { return each.hasTask(name); });
+}
+
+bool isKnownPackage(const QString &name)
+{
+    return isIn(removablePackageNames(), name)
+           || std::any_of(keepFeatures.begin(), keepFeatures.end(),
+                          [&name](const KeepFeature &each) { return isIn(each.packages, name); });
+}
+
+/** What starts at logon is in no catalogue: it comes with the programs of a PC. */
+bool isKnownStartup(const QString &)
+{
+    return true;
+}
+
+QString withoutBackslash(const QString &path)
+{
+    return path.startsWith(u'\\') ? path.sliced(1) : path;
+}
+
+struct NamesRow
+{
+    QLatin1StringView key;
+    QStringList Profile::*names;
+    bool (*isKnown)(const QString &name);
+    QLatin1StringView thing;
+};
+
+// clang-format off
+constexpr NamesRow namesRows[] = {
+    {"services"_L1, &Profile::services, isKnownService, "service"_L1},
+    {"tasks"_L1,    &Profile::tasks,    isKnownTask,    "scheduled task"_L1},
+    {"packages"_L1, &Profile::packages, isKnownPackage, "package"_L1},
+    {"startup"_L1,  &Profile::startup,  isKnownStartup, "program at logon"_L1},
+};
+
+constexpr QLatin1StringView otherKeys[] = {
+    "$schema"_L1, "$comment"_L1, "formatVersion"_L1, "description"_L1, "user"_L1, "keep"_L1, "programs"_L1, "features"_L1,
+    "tweaks"_L1, "never"_L1,
+};
+// clang-format on
+
+QStringList featureNames()
+{
+    QStringList names;
+    for (const KeepFeature &feature : keepFeatures)
+        names.append(feature.name);
+    return names;
+}
+
+QStringList tweakNames()
+{
+    QStringList names;
+    for (const TweakBox &box : tweakBoxes())
+        names.append(tweakName(box.name));
+    return names;
+}
+
+/** Takes a document apart and keeps what is wrong with it. */
+class ProfileReader
+{
+public:
+    ProfileReader(const QByteArray &json, const QString &fileName, ProfileMistakes &mistakes,
+                  bool (*isOnPc)(const QString &key, const QString &name))
+        : json_(json)
+        , fileName_(fileName)
+        , mistakes_(mistakes)
+        , isOnPc_(isOnPc)
+    {
+    }
+
+    Profile read()
+    {
+        QJsonParseError error;
+        const QJsonDocument document = QJsonDocument::fromJson(json_, &error);
+        if (error.error != QJsonParseError::NoError) {
+            add(jsonPlace(json_, error.offset), error.errorString());
+            return {};
+        }
+        places_.emplace(json_);
+        if (!document.isObject()) {
+            complain({}, u"must be an object"_s);
+            return {};
+        }
+        for (const QString &path : places_->twice())
+            complain(path, u"'%1' stands here for the second time"_s.arg(path.section(u'/', -1)));
+        root_ = document.object();
+        checkKeys();
+        readSettings();
+        readNames();
+        checkContradictions();
+        return profile_;
+    }
+
+private:
+    void add(const QString &place, const QString &what) { mistakes_.append(fileName_ + u':' + place + u": "_s + what); }
+    void complain(const QString &path, const QString &what) { add(places_->of(path), what); }
+
+    void checkKeys()
+    {
+        QStringList known(std::begin(otherKeys), std::end(otherKeys));
+        for (const NamesRow &row : namesRows)
+            known.append(row.key);
+        for (const QString &key : root_.keys()) {
+            if (!known.contains(key))
+                complain(u'/' + key, u"unknown key '%1'"_s.arg(key));
+        }
+    }
+
+    void readSettings()
+    {
+        if (!root_.contains("formatVersion"_L1))
+            complain({}, u"'formatVersion' is missing: it is %1"_s.arg(formatVersion));
+        else if (root_.value("formatVersion"_L1) != formatVersion)
+            complain(u"/formatVersion"_s, u"must be %1"_s.arg(formatVersion));
+        for (const QLatin1StringView key : {"$schema"_L1, "$comment"_L1, "description"_L1}) {
+            if (root_.contains(key) && !root_.value(key).isString())
+                complain(u'/' + key, u"must be a text"_s);
+        }
+        if (root_.contains("user"_L1)) {
+            const QString rule = root_.value("user"_L1).toString();
+            if (rule != "refuse"_L1 && rule != "skip"_L1)
+                complain(u"/user"_s, u"must be \"refuse\" or \"skip\""_s);
+            profile_.user = rule == "skip"_L1 ? UserRule::Skip : UserRule::Refuse;
+        }
+        readSwitch(u"programs"_s, profile_.programs);
+        readSwitch(u"features"_s, profile_.features);
+        profile_.keep = readSwitches(u"keep"_s, featureNames(), u"feature"_s);
+        profile_.tweaks = readSwitches(u"tweaks"_s, tweakNames(), u"option"_s);
+    }
+
+    void readSwitch(const QString &key, bool &into)
+    {
+        if (!root_.contains(key))
+            return;
+        if (root_.value(key).isBool())
+            into = root_.value(key).toBool();
+        else
+            complain(u'/' + key, u"must be true or false"_s);
+    }
+
+    QMap<QString, bool> readSwitches(const QString &key, const QStringList &known, const QString &thing)
+    {
+        QMap<QString, bool> switches;
+        if (!root_.contains(key))
+            return switches;
+        if (!root_.value(key).isObject()) {
+            complain(u'/' + key, u"must be an object"_s);
+            return switches;
+        }
+        const QJsonObject object = root_.value(key).toObject();
+        for (auto each = object.constBegin(); each != object.constEnd(); ++each) {
+            const QString path = u'/' + key + u'/' + each.key();
+            if (!known.contains(each.key()))
+                complain(path, u"there is no %1 '%2'; there are %3"_s.arg(thing, each.key(), known.join(", "_L1)));
+            else if (!each.value().isBool())
+                complain(path, u"must be true or false"_s);
+            else
+                switches.insert(each.key(), each.value().toBool());
+        }
+        return switches;
+    }
+
+    QStringList readTexts(const QString &key)
+    {
+        QStringList texts;
+        const QJsonValue value = root_.value(key);
+        if (value.isUndefined())
+            return texts;
+        if (!value.isArray())
+            complain(u'/' + key, u"must be an array of texts"_s);
+        const QJsonArray array = value.toArray();
+        for (qsizetype i = 0; i < array.size(); ++i) {
+            const QString path = u"/%1/%2"_s.arg(key).arg(i);
+            const QString text = array.at(i).toString();
+            if (text.isEmpty())
+                complain(path, u"must be a text that isn't empty"_s);
+            else if (isIn(texts, text))
+                complain(path, u"'%1' stands here for the second time"_s.arg(text));
+            else
+                texts.append(text);
+        }
+        return texts;
+    }
+
+    void readNames()
+    {
+        for (const NamesRow &row : namesRows) {
+            const QStringList names = readTexts(row.key);
+            const QJsonArray array = root_.value(row.key).toArray();
+            for (const QString &name : names) {
+                const bool isKnown = row.isKnown(name) || (isOnPc_ != nullptr && isOnPc_(row.key, name));
+                if (!isKnown)
+                    complain(pathOf(row.key, name),
+                             u"no catalogue knows the %1 '%2', and this PC doesn't have it"_s.arg(row.thing, name));
+                (profile_.*row.names).append(row.key == "tasks"_L1 ? withoutBackslash(name) : name);
+            }
+        }
+        profile_.never = readTexts(u"never"_s);
+    }
+
+    /** The place of a name in an array. */
+    QString pathOf(const QString &key, const QString &name) const
+    {
+        const QJsonArray array = root_.value(key).toArray();
+        qsizetype index = 0;
+        while (index < array.size() && array.at(index).toString() != name)
+            ++index;
+        return u"/%1/%2"_s.arg(key).arg(index);
+    }
+
+    void checkContradictions()
+    {
+        for (const NamesRow &row : namesRows) {
+            const QJsonArray array = root_.value(row.key).toArray();
+            for (qsizetype i = 0; i < array.size(); ++i) {
+                const QString name = array.at(i).toString();
+                if (!name.isEmpty() && profile_.isLeftAlone(name))
+                    complain(u"/%1/%2"_s.arg(row.key).arg(i), u"'%1' is in 'never', too"_s.arg(name));
+            }
+        }
+        for (const QString &name : std::as_const(profile_.services)) {
+            if (isIn(criticalServices, name))
+                complain(pathOf(u"services"_s, name), u"Windows can't do without the service '%1'"_s.arg(name));
+        }
+        for (auto each = profile_.tweaks.cbegin(); each != profile_.tweaks.cend(); ++each) {
+            const QString path = u"/tweaks/"_s + each.key();
+            if (each.value() && !profile_.features)
+                complain(path, u"'features' is false, so no option is put in force"_s);
+            if (each.value() && profile_.isLeftAlone(each.key()))
+                complain(path, u"'%1' is in 'never', too"_s.arg(each.key()));
+        }
+        for (const QLatin1StringView key : {"packages"_L1, "startup"_L1}) {
+            if (!profile_.programs && !root_.value(key).toArray().isEmpty())
+                complain(u'/' + key, u"'programs' is false, so none of these is switched off"_s);
+        }
+        for (auto each = profile_.keep.cbegin(); each != profile_.keep.cend(); ++each) {
+            if (each.value())
+                checkKept(*featureOf(each.key()));
+        }
+    }
+
+    /** Nothing of a feature that is kept may be named to be switched off. */
+    void checkKept(const KeepFeature &feature)
+    {
+        for (const QString &name : std::as_const(profile_.services)) {
+            if (isIn(feature.services, name))
+                complainKept(u"services"_s, name, feature);
+        }
+        for (const QString &name : std::as_const(profile_.packages)) {
+            if (isIn(feature.packages, name))
+                complainKept(u"packages"_s, name, feature);
+        }
+    }
+
+    void complainKept(const QString &key, const QString &name, const KeepFeature &feature)
+    {
+        complain(pathOf(key, name), u"'%1' belongs to '%2', which is kept"_s.arg(name, feature.name));
+    }
+
+    QByteArray json_;
+    QString fileName_;
+    ProfileMistakes &mistakes_;
+    bool (*isOnPc_)(const QString &key, const QString &name);
+    std::optional<JsonPlaces> places_;
+    QJsonObject root_;
+    Profile profile_;
+};
+
+QJsonObject textsSchema(const QString &description)
+{
+    return {{u"description"_s, description},
+            {u"type"_s, u"array"_s},
+            {u"uniqueItems"_s, true},
+            {u"items"_s, QJsonObject{{u"type"_s, u"string"_s}, {u"minLength"_s, 1}}}};
+}
+
+QJsonObject switchesSchema(const QStringList &names, const QString &description)
+{
+    QJsonObject properties;
+    for (const QString &name : names)
+        properties.insert(name, QJsonObject{{u"type"_s, u"boolean"_s}});
+    return {{u"description"_s, description},
+            {u"type"_s, u"object"_s},
+            {u"additionalProperties"_s, false},
+            {u"properties"_s, properties}};
+}
+
+QJsonObject switchSchema(const QString &description)
+{
+    return {{u"description"_s, description}, {u"type"_s, u"boolean"_s}, {u"default"_s, true}};
+}
+
+} // namespace
+
+bool Profile::leavesOut() const
+{
+    const auto isOff = [](bool on) { return !on; };
+    return !never.isEmpty() || std::any_of(tweaks.cbegin(), tweaks.cend(), isOff);
+}
+
+bool Profile::isLeftAlone(const QString &name) const
+{
+    return std::any_of(never.cbegin(), never.cend(), [&name](const QString &pattern) {
+        // A backslash parts nothing here: it is a letter like any other.
+        QString expression = QRegularExpression::escape(withoutBackslash(pattern));
+        expression.replace(u"\\*"_s, u".*"_s).replace(u"\\?"_s, u"."_s);
+        static constexpr auto options =
+            QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption;
+        return QRegularExpression(QRegularExpression::anchoredPattern(expression), options)
+            .match(withoutBackslash(name))
+            .hasMatch();
+    });
+}
+
+QString tweakName(const QString &box)
+{
+    return box.sliced(3).toLower();
+}
+
+QString boxOfTweak(const QString &name)
+{
+    for (const TweakBox &box : tweakBoxes()) {
+        if (tweakName(box.name) == name)
+            return box.name;
+    }
+    return {};
+}
+
+Profile parseProfile(const QByteArray &json, const QString &fileName, ProfileMistakes &mistakes,
+                     bool (*isOnPc)(const QString &key, const QString &name))
+{
+    return ProfileReader(json, fileName, mistakes, isOnPc).read();
+}
+
+QByteArray profileTemplate()
+{
+    QString keep;
+    for (const QString &name : featureNames())
+        keep += u"%1\n    \"%2\": true"_s.arg(keep.isEmpty() ? QString() : u","_s, name);
+    return (u"{\n"
+            "  \"$schema\": \"profile.schema.json\",\n"
+            "  \"formatVersion\": 1,\n"
+            "  \"description\": \"What this profile is for\",\n"
+            "  \"user\": \"refuse\",\n"
+            "  \"keep\": {"_s
+            + keep
+            + u"\n  },\n"
+              "  \"programs\": true,\n"
+              "  \"features\": true,\n"
+              "  \"tweaks\": {},\n"
+              "  \"services\": [],\n"
+              "  \"tasks\": [],\n"
+              "  \"packages\": [],\n"
+              "  \"startup\": [],\n"
+              "  \"never\": []\n"
+              "}\n"_s)
+        .toUtf8();
+}
+
+QByteArray profileSchema()
+{
+    const QJsonObject properties{
+        {u"$schema"_s, QJsonObject{{u"type"_s, u"string"_s}}},
+        {u"$comment"_s, QJsonObject{{u"type"_s, u"string"_s}}},
+        {u"formatVersion"_s, QJsonObject{{u"const"_s, formatVersion}}},
+        {u"description"_s,
+         QJsonObject{{u"description"_s, u"What the profile is for, for people"_s}, {u"type"_s, u"string"_s}}},
+        {u"user"_s,
+         QJsonObject{{u"description"_s, u"Run as the system: refuse, or leave out what belongs to the current user"_s},
+                     {u"enum"_s, QJsonArray{u"refuse"_s, u"skip"_s}},
+                     {u"default"_s, u"refuse"_s}}},
+        {u"keep"_s,
+         switchesSchema(featureNames(), u"Features to keep or give up; others as in the Keep list of the PC"_s)},
+        {u"programs"_s, switchSchema(u"Packaged applications and programs started at logon"_s)},
+        {u"features"_s, switchSchema(u"The options"_s)},
+        {u"tweaks"_s, switchesSchema(tweakNames(), u"Options: true puts in force, false leaves alone"_s)},
+        {u"services"_s, textsSchema(u"Services to disable besides, by their key names"_s)},
+        {u"tasks"_s, textsSchema(u"Scheduled tasks to disable besides, by their paths"_s)},
+        {u"packages"_s, textsSchema(u"Packages to remove besides, by their names"_s)},
+        {u"startup"_s, textsSchema(u"Programs to keep from starting at logon besides, by their names"_s)},
+        {u"never"_s, textsSchema(u"What is left alone, whatever else says; * and ? are wildcards"_s)},
+    };
+    return QJsonDocument(QJsonObject{{u"$schema"_s, u"https://json-schema.org/draft/2020-12/schema"_s},
+                                     {u"title"_s, u"Kestrune profile"_s},
+                                     {u"type"_s, u"object"_s},
+                                     {u"required"_s, QJsonArray{u"formatVersion"_s}},
+                                     {u"additionalProperties"_s, false},
+                                     {u"properties"_s, properties}})
+        .toJson();
+}
