@@ -146,8 +146,10 @@ private:
     void addManualServices()
     {
         for (const QString &name : manualStartServiceNames()) {
-            const auto row = std::find_if(worker_.services.cbegin(), worker_.services.cend(),
-                                          [&name](const ServiceRow &each) { return each.name == name; });
+            const auto row =
+                std::find_if(worker_.services.cbegin(), worker_.services.cend(), [&name](const ServiceRow &each) {
+                    return each.name.compare(name, Qt::CaseInsensitive) == 0;
+                });
             if (row != worker_.services.cend())
                 add(PreviewGroup::Services, name, row->displayName, u"started on demand"_s,
                     startsByItself(name) ? AimState::Open : AimState::InForce);
@@ -390,7 +392,8 @@ const TweakBox *boxOf(const Aim &aim)
 QList<Aim> judgedAims(const QList<Aim> &before, QList<Aim> now, const QList<ToolAnswer> &answers)
 {
     const auto isSame = [](const Aim &left, const Aim &right) {
-        return left.group == right.group && left.name.compare(right.name, Qt::CaseInsensitive) == 0;
+        return left.group == right.group && left.wish == right.wish
+               && left.name.compare(right.name, Qt::CaseInsensitive) == 0;
     };
     QList<Aim> judged;
     for (const Aim &former : before) {

@@ -259,9 +259,8 @@ int runApply(const Arguments &arguments)
     const QList<Aim> after = judgedAims(before, aimsOf(worker, pc.system(), profile), listener.answers());
 
     const QString folder = wayBackFolder(journal, session);
-    const QJsonObject more{{u"session"_s, session},
-                           {u"folder"_s, QDir::toNativeSeparators(folder)},
-                           {u"restartWanted"_s, wantsRestart}};
+    const QJsonObject more{
+        {u"session"_s, session}, {u"folder"_s, QDir::toNativeSeparators(folder)}, {u"restartWanted"_s, wantsRestart}};
     if (!folder.isEmpty()) {
         writeReportFile(folder + u"/plan.json"_s, aimsDocument(u"plan"_s, arguments, before));
         writeReportFile(folder + u"/result.json"_s, aimsDocument(u"apply"_s, arguments, after, more));

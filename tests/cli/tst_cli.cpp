@@ -1,0 +1,423 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// kestrune-cli as the process it is.
+
+#include "machine/compare/machinediff.h"
+#include "preview/preview.h"
+#include "support/processes.h"
+#include "support/smallmachine.h"
+#include "support/suite.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRandomGenerator>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int done = 0;
+constexpr int notAsWished = 1;
+constexpr int badArguments = 2;
+constexpr int unreadable = 3;
+constexpr int noRights = 5;
+#ifdef Q_OS_WIN
+constexpr int restartWanted = 3010;
+#else
+constexpr int restartWanted = 3010 & 0xff; // which is all that a process can say here
+#endif
+
+Ended cli(const QStringList &arguments)
+{
+    return runProgram(builtProgram(u"kestrune-cli"_s), arguments);
+}
+
+/** A copy of a built-in PC, beside a copy that nobody changes. */
+class Pc
+{
+public:
+    explicit Pc(const QString &builtIn)
+    {
+        makeMachine(folder(), QCoreApplication::applicationDirPath() + u"/machines/"_s + builtIn, Existing::Keep);
+        keep();
+    }
+
+    QString folder() const { return place_.filePath(u"pc"_s); }
+    QString beside(const QString &name) const { return place_.filePath(name); }
+    /** From now on this is what it was. */
+    void keep()
+    {
+        before_.reset();
+        QDir(beside(u"before"_s)).removeRecursively();
+        copyMachine(*Machine::open(folder()), beside(u"before"_s));
+        before_ = Machine::open(beside(u"before"_s));
+    }
+    Machine &before() { return *before_; }
+
+    Ended run(const QStringList &arguments) { return cli(arguments + QStringList{u"--machine"_s, folder()}); }
+    QJsonObject json(const QStringList &arguments)
+    {
+        const Ended ended = run(arguments + QStringList{u"--json"_s, u"-"_s});
+        const QJsonObject document = QJsonDocument::fromJson(ended.output).object();
+        if (document.isEmpty())
+            qWarning("%s", ended.errors.constData());
+        return document;
+    }
+
+    QString profile(const QJsonObject &profile) const
+    {
+        QJsonObject document = profile;
+        document.insert(u"formatVersion"_s, 1);
+        writeFile(beside(u"profile.json"_s), QJsonDocument(document).toJson());
+        return beside(u"profile.json"_s);
+    }
+
+    /** What isn't as on the copy; the program's own records and files are left out. */
+    QStringList differences()
+    {
+        QStringList texts;
+        for (const DiffRow &row : compareMachines(*before_, *Machine::open(folder()))) {
+            const bool isOwn = row.path.startsWith("HKEY_CURRENT_USER\\Software\\Kestrune"_L1)
+                               || row.path.startsWith("program\\"_L1) || row.path.endsWith("\\Temp\\tasks.xml"_L1);
+            if (!isOwn)
+                texts.append(kindName(row.kind) + u' ' + row.path + u' ' + row.name);
+        }
+        return texts;
+    }
+
+private:
+    QTemporaryDir place_;
+    std::unique_ptr<Machine> before_;
+};
+
+/** "services/diagtrack" of each item that a document says has changed, or would. */
+QSet<QString> changedItems(const QJsonObject &document)
+{
+    QSet<QString> names;
+    for (const QJsonValue &item : document.value("items"_L1).toArray()) {
+        if (item["changed"_L1].toBool() || item["state"_L1] == "would-change"_L1)
+            names.insert(item["group"_L1].toString() + u'/' + item["name"_L1].toString().toLower());
+    }
+    return names;
+}
+
+/** The same as two machines have it; options and programs at logon by their titles. */
+QSet<QString> changedThings(Machine &before, Machine &now)
+{
+    static const QMap<PreviewGroup, QString> groups{{PreviewGroup::Services, u"services/"_s},
+                                                    {PreviewGroup::Tasks, u"tasks/"_s},
+                                                    {PreviewGroup::Packages, u"packages/"_s},
+                                                    {PreviewGroup::Autorun, u"startup/"_s},
+                                                    {PreviewGroup::Tweaks, u"tweaks/"_s}};
+    QSet<QString> names;
+    for (const PreviewItem &item : previewItems(before, now, now)) {
+        if (!groups.contains(item.group))
+            continue;
+        QString name =
+            item.group == PreviewGroup::Autorun || item.group == PreviewGroup::Tweaks ? item.title : item.name;
+        if (name.startsWith(u'\\'))
+            name = name.sliced(1);
+        if (name == "OneDrive"_L1 && item.group == PreviewGroup::Packages)
+            name = u"MS OneDrive"_s;
+        names.insert(groups.value(item.group) + name.toLower());
+    }
+    return names;
+}
+
+/** By titles where the machines know no names. */
+QSet<QString> byTitles(const QJsonObject &document)
+{
+    QSet<QString> names;
+    for (const QJsonValue &item : document.value("items"_L1).toArray()) {
+        if (!item["changed"_L1].toBool())
+            continue;
+        const QString group = item["group"_L1].toString();
+        const bool byTitle = group == "tweaks"_L1 || group == "startup"_L1;
+        names.insert(group + u'/' + item[byTitle ? "title"_L1 : "name"_L1].toString().toLower());
+    }
+    return names;
+}
+
+QStringList sorted(const QSet<QString> &names)
+{
+    QStringList list(names.cbegin(), names.cend());
+    list.sort();
+    return list;
+}
+
+template<typename List>
+QString anyOf(const List &list, QRandomGenerator &random)
+{
+    return QString(list[random.bounded(static_cast<int>(std::size(list)))]);
+}
+
+/** A profile that leaves some things out and asks for others. */
+QJsonObject anyProfile(QRandomGenerator &random)
+{
+    static constexpr QLatin1StringView features[] = {
+        "printer"_L1, "bluetooth-audio"_L1, "files-sharing"_L1, "xbox-app"_L1, "upnp"_L1, "proxy-vpn"_L1,
+        "nfc"_L1,     "xbox-game-bar"_L1,   "codecs"_L1};
+    static constexpr QLatin1StringView patterns[] = {"*Xbox*"_L1,       "Microsoft.Bing*"_L1, "D*"_L1,       "ssd?"_L1,
+                                                     "*\\Customer*"_L1, "Steam"_L1,           "windows*"_L1, "W*"_L1};
+    static constexpr QLatin1StringView tweaks[] = {"ssd1"_L1,     "ssd7"_L1,     "gaming3"_L1,
+                                                   "gaming14"_L1, "windows7"_L1, "windows12"_L1};
+    QJsonObject keep;
+    QJsonObject options;
+    QJsonArray never;
+    for (int i = random.bounded(4); i > 0; --i)
+        keep.insert(anyOf(features, random), random.bounded(2) == 1);
+    for (int i = random.bounded(3); i > 0; --i) {
+        if (const QString pattern = anyOf(patterns, random); !never.contains(pattern))
+            never.append(pattern);
+    }
+    const bool withFeatures = random.bounded(4) > 0;
+    for (int i = random.bounded(3); i > 0 && withFeatures && never.isEmpty(); --i)
+        options.insert(anyOf(tweaks, random), random.bounded(2) == 1);
+    return {{u"keep"_s, keep},
+            {u"never"_s, never},
+            {u"tweaks"_s, options},
+            {u"programs"_s, random.bounded(4) > 0},
+            {u"features"_s, withFeatures}};
+}
+
+bool isThorough()
+{
+    return qEnvironmentVariableIsSet("KESTRUNE_THOROUGH");
+}
+
+} // namespace
+
+class TestCli : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void help_data();
+    void help();
+    void refusals_data();
+    void refusals();
+    void statusChangesNothing();
+    void planIsWhatApplyDoesAndDiffFinds_data();
+    void planIsWhatApplyDoesAndDiffFinds();
+    void applyWithoutRightsIsRefused();
+    void neverAndOffAreLeftAlone();
+    void namesAreSwitchedOffBesides();
+    void whatIsRefusedSaysWhy();
+    void filesOfASession();
+    void verifyTellsByItsExitCode();
+    void whyFindsServicesByWords();
+    void profilesAreMadeAndChecked();
+};
+
+void TestCli::help_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("program") << QStringList{u"--help"_s};
+    for (const char *command : {"status", "plan", "apply", "verify", "undo", "profile", "why"})
+        QTest::newRow(command) << QStringList{QString::fromLatin1(command), u"--help"_s};
+}
+
+void TestCli::help()
+{
+    QFETCH(QStringList, arguments);
+    const Ended ended = cli(arguments);
+    QCOMPARE(ended.exitCode, done);
+    QVERIFY(ended.output.startsWith("Usage: kestrune-cli "));
+    QVERIFY(
+        ended.output.contains("kestrune-cli " + (arguments.size() == 1 ? "status" : arguments.constFirst().toUtf8())));
+    for (const QByteArray &line : ended.output.split('\n'))
+        QVERIFY2(QString::fromUtf8(line).size() <= 120, line.constData());
+}
+
+void TestCli::refusals_data()
+{
+    addColumns<QStringList, int, QByteArray>("arguments", "exitCode", "error");
+    QTest::newRow("no command") << QStringList{} << badArguments << QByteArray("missing command");
+    QTest::newRow("unknown command") << QStringList{u"aply"_s} << badArguments << QByteArray("Did you mean 'apply'?");
+    QTest::newRow("no machine") << QStringList{u"status"_s, u"--machine"_s, u"/nowhere/at/all"_s} << unreadable
+                                << QByteArray("at/all");
+#ifndef Q_OS_WIN
+    QTest::newRow("no Windows") << QStringList{u"status"_s} << badArguments << QByteArray("this is no Windows");
+#endif
+    QTest::newRow("profile that isn't there")
+        << QStringList{u"profile"_s, u"check"_s, u"/nowhere.json"_s} << badArguments << QByteArray("/nowhere.json: ");
+    QTest::newRow("verb") << QStringList{u"profile"_s, u"mend"_s} << badArguments << QByteArray("'mend' is neither");
+}
+
+void TestCli::refusals()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+    QFETCH(QByteArray, error);
+    const Ended ended = cli(arguments);
+    QCOMPARE(ended.exitCode, exitCode);
+    QVERIFY2(QDir::fromNativeSeparators(QString::fromUtf8(ended.errors)).contains(QString::fromUtf8(error)),
+             ended.errors.constData());
+}
+
+void TestCli::statusChangesNothing()
+{
+    Pc pc(u"windows11"_s);
+    for (const QStringList &arguments : {QStringList{u"status"_s}, QStringList{u"status"_s, u"--not-elevated"_s},
+                                         QStringList{u"verify"_s}, QStringList{u"plan"_s}})
+        QVERIFY2(pc.run(arguments).exitCode <= notAsWished, qPrintable(arguments.constFirst()));
+    QCOMPARE(compareMachines(pc.before(), *Machine::open(pc.folder())).size(), 0);
+}
+
+void TestCli::planIsWhatApplyDoesAndDiffFinds_data()
+{
+    addColumns<QString, quint32>("builtIn", "seed");
+    const quint32 seeds = isThorough() ? 50 : 2;
+    for (const QString &builtIn : {u"windows10"_s, u"windows11"_s}) {
+        for (quint32 seed = 0; seed <= seeds; ++seed)
+            QTest::addRow("%s, %u", qPrintable(builtIn), seed) << builtIn << seed;
+    }
+}
+
+void TestCli::planIsWhatApplyDoesAndDiffFinds()
+{
+    QFETCH(QString, builtIn);
+    QFETCH(quint32, seed);
+    Pc pc(builtIn);
+    QStringList profile;
+    if (seed > 0) {
+        QRandomGenerator random(seed);
+        profile = {u"--profile"_s, pc.profile(anyProfile(random))};
+    }
+
+    const QJsonObject plan = pc.json(QStringList{u"plan"_s} + profile);
+    QVERIFY(!plan.isEmpty());
+    const QJsonObject applied = pc.json(QStringList{u"apply"_s} + profile);
+    QCOMPARE(sorted(changedItems(plan)), sorted(changedItems(applied)));
+    QVERIFY(!changedItems(applied).isEmpty());
+    const auto now = Machine::open(pc.folder());
+    QSet<QString> found = changedThings(pc.before(), *now);
+    found.remove(u"packages/microsoft.onedrivesync"_s); // it goes with OneDrive
+    QSet<QString> said = byTitles(applied);
+    said.remove(u"packages/microsoft.onedrivesync"_s);
+    QCOMPARE(sorted(found), sorted(said));
+    QCOMPARE(plan.value("notBack"_L1).toArray().size(), 0);
+
+    const Ended again = pc.run(QStringList{u"apply"_s} + profile);
+    QVERIFY2(again.output.contains("nothing was changed"), again.output.constData());
+    QCOMPARE(pc.run(QStringList{u"verify"_s, u"--quiet"_s} + profile).exitCode, done);
+    QCOMPARE(pc.run({u"undo"_s}).exitCode, done);
+    QCOMPARE(pc.differences(), QStringList());
+}
+
+void TestCli::applyWithoutRightsIsRefused()
+{
+    Pc pc(u"windows11"_s);
+    for (const QString &command : {u"apply"_s, u"undo"_s}) {
+        const Ended ended = pc.run({command, u"--not-elevated"_s});
+        QCOMPARE(ended.exitCode, noRights);
+        QVERIFY(ended.errors.contains("administrator rights are needed"));
+    }
+    QCOMPARE(compareMachines(pc.before(), *Machine::open(pc.folder())).size(), 0);
+}
+
+void TestCli::neverAndOffAreLeftAlone()
+{
+    Pc pc(u"windows11"_s);
+    const QString file = pc.profile({{u"never"_s, QJsonArray{u"Steam"_s, u"DiagTrack"_s, u"*"_s}}});
+    const Ended ended = pc.run({u"apply"_s, u"--profile"_s, file});
+    QCOMPARE(ended.exitCode, done);
+    QVERIFY(ended.output.contains("nothing was changed"));
+    QCOMPARE(pc.differences(), QStringList());
+
+    const QString other = pc.profile({{u"tweaks"_s, QJsonObject{{u"windows10"_s, false}}}, {u"programs"_s, false}});
+    QVERIFY(pc.run({u"apply"_s, u"--profile"_s, other}).exitCode != notAsWished);
+    const QStringList differences = pc.differences();
+    QVERIFY(!differences.isEmpty());
+    QVERIFY(differences.filter(u"SearchHost"_s).isEmpty());
+    QVERIFY(differences.filter(u"WindowsApps"_s).isEmpty());
+}
+
+void TestCli::namesAreSwitchedOffBesides()
+{
+    Pc pc(u"windows11"_s);
+    const QJsonObject profile{{u"never"_s, QJsonArray{u"ssd*"_s, u"gaming*"_s, u"windows*"_s, u"\\Microsoft*"_s}},
+                              {u"programs"_s, false},
+                              {u"services"_s, QJsonArray{u"Audiosrv"_s}}};
+    const QJsonObject applied = pc.json({u"apply"_s, u"--profile"_s, pc.profile(profile)});
+    QVERIFY(changedItems(applied).contains(u"services/audiosrv"_s));
+    QVERIFY(!pc.differences().filter(u"Audiosrv"_s, Qt::CaseInsensitive).isEmpty());
+}
+
+void TestCli::whatIsRefusedSaysWhy()
+{
+    Pc pc(u"windows11"_s);
+    {
+        const auto machine = Machine::open(pc.folder());
+        machine->setFault(u"sc DiagTrack"_s, {.exitCode = 5});
+    }
+    const QString file = pc.profile({{u"programs"_s, false}, {u"features"_s, false}});
+    const Ended ended = pc.run({u"apply"_s, u"--profile"_s, file});
+    QCOMPARE(ended.exitCode, notAsWished);
+    QVERIFY2(ended.output.contains("refused\tservice\tDiagTrack\tdisabled\taccess denied (sc: 5)\n"),
+             ended.output.constData());
+}
+
+void TestCli::filesOfASession()
+{
+    Pc pc(u"windows11"_s);
+    const Ended ended = pc.run({u"apply"_s, u"--log"_s, pc.beside(u"log.txt"_s)});
+    QCOMPARE(ended.exitCode, restartWanted);
+    const QString folder = pc.folder() + u"/journal/files/000001-Apply-a-profile/"_s;
+    QVERIFY(ended.output.contains("'kestrune-cli undo --session 1' takes it back"));
+    for (const QString &file : {u"plan.json"_s, u"result.json"_s, u"log.txt"_s, u"way-back.reg"_s})
+        QVERIFY2(QFile::exists(folder + file), qPrintable(file));
+    QCOMPARE(readFile(pc.beside(u"log.txt"_s)), readFile(folder + u"log.txt"_s));
+    QVERIFY(readFile(folder + u"log.txt"_s).contains("DiagTrack"));
+    const QJsonObject result = QJsonDocument::fromJson(readFile(folder + u"result.json"_s)).object();
+    QCOMPARE(result.value("session"_L1), QJsonValue(1));
+    QCOMPARE(result.value("restartWanted"_L1), QJsonValue(true));
+}
+
+void TestCli::verifyTellsByItsExitCode()
+{
+    Pc pc(u"windows11"_s);
+    const QString file = pc.profile({{u"programs"_s, false}, {u"features"_s, false}});
+    const Ended before = pc.run({u"verify"_s, u"--quiet"_s, u"--profile"_s, file});
+    QCOMPARE(before.exitCode, notAsWished);
+    QCOMPARE(before.output, QByteArray());
+    QVERIFY(pc.run({u"apply"_s, u"--profile"_s, file}).exitCode != notAsWished);
+    QCOMPARE(pc.run({u"verify"_s, u"--profile"_s, file}).exitCode, done);
+}
+
+void TestCli::whyFindsServicesByWords()
+{
+    Pc pc(u"windows11"_s);
+    QCOMPARE(pc.run({u"why"_s, u"printer"_s}).exitCode, notAsWished);
+    const QString file =
+        pc.profile({{u"keep"_s, QJsonObject{{u"printer"_s, false}}}, {u"programs"_s, false}, {u"features"_s, false}});
+    QVERIFY(pc.run({u"apply"_s, u"--profile"_s, file}).exitCode != notAsWished);
+    const Ended why = pc.run({u"why"_s, u"printer"_s});
+    QCOMPARE(why.exitCode, done);
+    QVERIFY2(why.output.contains("Spooler"), why.output.constData());
+    const QByteArray mark = "kestrune-cli undo --item ";
+    const qsizetype at = why.output.indexOf(mark, why.output.indexOf("Spooler"));
+    QVERIFY(at > 0);
+    const QByteArray number = why.output.sliced(at + mark.size()).split('\n').constFirst();
+    QCOMPARE(pc.run({u"undo"_s, u"--item"_s, QString::fromUtf8(number)}).exitCode, done);
+}
+
+void TestCli::profilesAreMadeAndChecked()
+{
+    const QTemporaryDir place;
+    const QString file = place.filePath(u"new.json"_s);
+    QCOMPARE(cli({u"profile"_s, u"new"_s, file}).exitCode, done);
+    QCOMPARE(cli({u"profile"_s, u"check"_s, file}).exitCode, done);
+    const Ended twice = cli({u"profile"_s, u"new"_s, file});
+    QCOMPARE(twice.exitCode, badArguments);
+    QVERIFY(twice.errors.contains("is there already"));
+    writeFile(file, "{\"formatVersion\": 1,\n \"servces\": []}");
+    const Ended bad = cli({u"profile"_s, u"check"_s, file});
+    QCOMPARE(bad.exitCode, badArguments);
+    QVERIFY2(bad.errors.contains("new.json:2:2: unknown key 'servces'"), bad.errors.constData());
+    QVERIFY(!QJsonDocument::fromJson(cli({u"profile"_s, u"schema"_s}).output).isEmpty());
+}
+
+KESTRUNE_SUITE(TestCli)
+#include "tst_cli.moc"
