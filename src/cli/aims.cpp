@@ -117,7 +117,8 @@ private:
 
     void addServices()
     {
-        worker_.SvcMakeList();
+        // Outside a trial the list leaves a backup of the start modes.
+        tryOut(system_, [this] { worker_.SvcMakeList(); });
         worker_.nonVitalServices = nonVitalServiceNames();
         addServicesOfFeaturesGivenUp(worker_);
         QStringList absent = profile_.services;
@@ -265,7 +266,8 @@ private:
         for (const TweakBox &box : tweakBoxes()) {
             const QString name = tweakName(box.name);
             const bool isNamed = profile_.tweaks.contains(name);
-            const bool isOfOptimize = holds(box.optimize, worker_);
+            // In the place of one of them Optimize runs another, which is in this list as well.
+            const bool isOfOptimize = box.inOptimize == nullptr && holds(box.optimize, worker_);
             if (isNamed ? !profile_.tweaks.value(name) && !isOfOptimize : !isOfOptimize)
                 continue;
             const QString title = tweakWords(box.name).title;
@@ -286,9 +288,7 @@ private:
             return AimState::Unknown;
         if (!isOfOptimize && !holds(box.apply, worker_))
             return AimState::Absent;
-        const bool isInOptimize = byOptimize_ && isOfOptimize && box.inOptimize != nullptr;
-        const TweakRoutine routine = isInOptimize ? box.inOptimize : box.tweak;
-        switch (tryOut(system_, [&] { (worker_.*routine)(1, box.id); })) {
+        switch (tryOut(system_, [&] { (worker_.*(box.tweak))(1, box.id); })) {
         case TrialResult::ChangesNothing:
             return AimState::InForce;
         case TrialResult::Changes:
@@ -407,7 +407,8 @@ QList<Aim> judgedAims(const QList<Aim> &before, QList<Aim> now, const QList<Tool
             aim.state = AimState::InForce; // nothing is asked for any more
         }
         aim.changed = former.state == AimState::Open && aim.state == AimState::InForce;
-        if (former.state == AimState::Open && aim.state == AimState::Open) {
+        // A service that was stopped and couldn't be disabled starts again.
+        if (former.state == AimState::Open && aim.state != AimState::InForce) {
             aim.state = AimState::Refused;
             aim.why = refusal(aim, answers);
         }

@@ -166,8 +166,7 @@ private:
 
     void applyTweaks()
     {
-        TweakState done = storedTweaks();
-        done.boxes.clear();
+        QMap<QString, bool> applied;
         const ChangeSession session(u"Apply features"_s);
         for (const Aim &aim : aims_) {
             const TweakBox *box = boxOf(aim);
@@ -180,10 +179,10 @@ private:
                 runToEnd(worker_, JobTweakApply, log_);
             else
                 runToEnd([&] { (worker_.*(box->tweak))(1, box->id); });
-            done.boxes.insert(box->name, true);
+            applied.insert(box->name, true);
         }
-        if (!done.boxes.isEmpty())
-            storeTweaks(done);
+        if (!applied.isEmpty())
+            storeTweaks({applied, storedTweaks().priorityIndex});
     }
 
     WorkThread &worker_;
@@ -255,10 +254,11 @@ int runApply(const Arguments &arguments)
     progress.clear();
     const bool wantsRestart = run.wantsRestart();
     const qint64 newest = newestSession(journal);
-    const qint64 session = newest == former ? 0 : newest;
     const QList<Aim> after = judgedAims(before, aimsOf(worker, pc.system(), profile), listener.answers());
 
-    const QString folder = wayBackFolder(journal, session);
+    // A session of nothing but the program's own records has none.
+    const QString folder = newest == former ? QString() : wayBackFolder(journal, newest);
+    const qint64 session = folder.isEmpty() ? 0 : newest;
     const QJsonObject more{
         {u"session"_s, session}, {u"folder"_s, QDir::toNativeSeparators(folder)}, {u"restartWanted"_s, wantsRestart}};
     if (!folder.isEmpty()) {

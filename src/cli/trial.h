@@ -16,7 +16,7 @@ enum class TrialResult {
 
 /**
  * Runs a routine that changes something on the platform in force, and lets it change nothing: no value is written, no
- * key is made, no tool is started, no file is touched, and no pause is made. The routine must not need what it has
- * written itself, or what a tool prints.
+ * key is made, no tool is started but to list the services, no file is touched, and no pause is made. The routine must
+ * not need what it has written itself, or what a tool prints.
  */
 TrialResult tryOut(SystemState &system, const std::function<void()> &routine);

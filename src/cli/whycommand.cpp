@@ -138,9 +138,13 @@ constexpr OptionRow options[] = {jsonOption};
 
 QString moreHelp()
 {
+    constexpr qsizetype width = 90;
+
     QString words;
-    for (const SymptomRow &row : symptoms)
-        words += (words.isEmpty() ? ""_L1 : ", "_L1) + row.word;
+    for (const SymptomRow &row : symptoms) {
+        const bool isFull = words.size() - words.lastIndexOf(u'\n') > width;
+        words += (words.isEmpty() ? ""_L1 : isFull ? ",\n  "_L1 : ", "_L1) + row.word;
+    }
     return u"Needs administrator rights, to read the journal. A word is a part of a name, or one of these, which "
            u"stand\n"
            "for several:\n  %1.\n"

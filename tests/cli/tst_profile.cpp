@@ -97,7 +97,7 @@ void TestProfile::namesMistakes_data()
         u"p.json:1:41: 'programs' is false"_s);
     row("service of a kept feature",
         "{\"formatVersion\": 1, \"keep\": {\"printer\": true}, \"services\": [\"Spooler\"]}",
-        u"p.json:1:63: 'Spooler' belongs to 'printer', which is kept"_s);
+        u"p.json:1:62: 'Spooler' belongs to 'printer', which is kept"_s);
     row("user", "{\"formatVersion\": 1, \"user\": \"me\"}", u"p.json:1:22: must be \"refuse\" or \"skip\""_s);
     row("escaped key", "{\"formatVersion\": 1, \"a\\\"b\": 1}", u"p.json:1:22: unknown key 'a\"b'"_s);
 }

@@ -60,17 +60,19 @@ void TestTrial::everyOptionIsSeenInForce()
     WorkThread worker;
     setWindowsName(worker);
     for (const TweakBox &box : tweakBoxes()) {
-        if (box.apply == When::AsJob || !holds(box.apply, worker))
+        // The last one writes to another place each time on Windows 10: below the one that it has made.
+        if (box.apply == When::AsJob || !holds(box.apply, worker)
+            || (isWindows10(worker.winName) && box.name == "chkWindows12"_L1))
             continue;
         const auto run = [&](int apply) {
             return [&, apply] { (worker.*box.tweak)(static_cast<quint8>(apply), box.id); };
         };
-        run(0)();
-        const bool isTheSame = tried(machine, run(1)) == TrialResult::ChangesNothing; // both forms are one then
         run(1)();
         QVERIFY2(tried(machine, run(1)) == TrialResult::ChangesNothing, box.name.data());
-        if (!isTheSame)
-            QVERIFY2(tried(machine, run(0)) == TrialResult::Changes, box.name.data());
+        // What setting it back does, if anything, has to be seen as well.
+        const bool goesBack = tried(machine, run(0)) == TrialResult::Changes;
+        run(0)();
+        QVERIFY2((tried(machine, run(1)) == TrialResult::Changes) == goesBack, box.name.data());
     }
 }
 
