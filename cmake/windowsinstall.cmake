@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# What is packed for Windows: the program, and in a folder that needs nothing else what makes and opens rehearsal PCs.
+# What is packed for Windows: the programs, and in a folder that needs nothing else what makes and opens rehearsal PCs.
 
 set(texts ${CMAKE_BINARY_DIR}/texts)
 # Texts for people on Windows, with its line ends
@@ -8,8 +8,9 @@ foreach(text IN ITEMS LICENSE packaging/windows/README.txt packaging/windows/REA
     configure_file(${CMAKE_SOURCE_DIR}/${text} ${texts}/${name}.txt NEWLINE_STYLE DOS @ONLY)
 endforeach()
 
-install(TARGETS kestrune RUNTIME DESTINATION . COMPONENT kestrune)
+install(TARGETS kestrune kestrune-cli RUNTIME DESTINATION . COMPONENT kestrune)
 install(FILES ${texts}/README.txt DESTINATION . COMPONENT kestrune)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/resources/profiles DESTINATION . COMPONENT kestrune)
 install(TARGETS kestrune-rehearse kestrune-rehearsal kestrune-stocktool RUNTIME DESTINATION rehearse COMPONENT kestrune)
 install(FILES ${texts}/README-rehearse.txt DESTINATION rehearse RENAME README.txt COMPONENT kestrune)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/resources/machines DESTINATION rehearse COMPONENT kestrune)

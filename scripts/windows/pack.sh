@@ -172,6 +172,7 @@ install_program() {
     ln -sfn "$(winepath -u "$place" 2>/dev/null)" "$inside_making/installed"
     [[ -e $inside_making/installed/kestrune.exe && -e $inside_making/installed/img/services.png ]] ||
         fail "the installer left no program in $place"
+    [[ -e $inside_making/installed/kestrune-cli.exe ]] || fail "the installer left no kestrune-cli.exe in $place"
     for program in kestrune-rehearse kestrune-rehearsal kestrune-stocktool; do
         [[ -e $inside_making/installed/rehearse/$program.exe ]] || fail "the installer left no $program.exe in $place"
     done

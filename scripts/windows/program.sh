@@ -4,7 +4,7 @@
 # The stages "build" and "bytes": the programs, and whether they come out the same again. Sourced by scripts/windows.sh.
 
 # What is packed; the tests are built beside them.
-readonly programs=(kestrune kestrune-rehearsal kestrune-rehearse kestrune-stocktool)
+readonly programs=(kestrune kestrune-cli kestrune-rehearsal kestrune-rehearse kestrune-stocktool)
 
 # --- build -----------------------------------------------------------------------------------------------------------
 

@@ -3,6 +3,7 @@
 
 #include "cli/profile.h"
 
+#include "support/files.h"
 #include "support/suite.h"
 
 #include <QJsonDocument>
@@ -34,6 +35,8 @@ private Q_SLOTS:
     void whatLeavesSomethingOut();
     void theTemplateHasNoMistake();
     void theSchemaKnowsTheKeysOfTheTemplate();
+    void theExamplesHaveNoMistake_data();
+    void theExamplesHaveNoMistake();
 };
 
 void TestProfile::readsEverything()
@@ -162,6 +165,23 @@ void TestProfile::theSchemaKnowsTheKeysOfTheTemplate()
         QVERIFY2(properties.contains(key), qPrintable(key));
     QCOMPARE(properties.value("tweaks"_L1).toObject().value("properties"_L1).toObject().size(), 34);
     QCOMPARE(schema.value("additionalProperties"_L1), QJsonValue(false));
+}
+
+void TestProfile::theExamplesHaveNoMistake_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char *name : {"careful", "games", "office"})
+        QTest::newRow(name) << QStringLiteral(KESTRUNE_PROFILES "/%1.json").arg(QLatin1StringView(name));
+}
+
+void TestProfile::theExamplesHaveNoMistake()
+{
+    QFETCH(QString, file);
+    const QByteArray json = readFile(file);
+    QVERIFY(json.contains("$comment"));
+    ProfileMistakes mistakes;
+    QVERIFY(parseProfile(json, file, mistakes).leavesOut());
+    QCOMPARE(mistakes, ProfileMistakes());
 }
 
 KESTRUNE_SUITE(TestProfile)
