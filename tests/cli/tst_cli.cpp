@@ -206,6 +206,8 @@ private Q_SLOTS:
     void statusChangesNothing();
     void planIsWhatApplyDoesAndDiffFinds_data();
     void planIsWhatApplyDoesAndDiffFinds();
+    void anEndInTheMiddleIsTakenBack_data();
+    void anEndInTheMiddleIsTakenBack();
     void applyWithoutRightsIsRefused();
     void neverAndOffAreLeftAlone();
     void namesAreSwitchedOffBesides();
@@ -311,6 +313,38 @@ void TestCli::planIsWhatApplyDoesAndDiffFinds()
     QCOMPARE(pc.run(QStringList{u"verify"_s, u"--quiet"_s} + profile).exitCode, done);
     QCOMPARE(pc.run({u"undo"_s}).exitCode, done);
     QCOMPARE(pc.differences(), QStringList());
+}
+
+void TestCli::anEndInTheMiddleIsTakenBack_data()
+{
+    QTest::addColumn<bool>("killed");
+    QTest::newRow("asked to end") << false;
+    QTest::newRow("killed") << true;
+}
+
+void TestCli::anEndInTheMiddleIsTakenBack()
+{
+    constexpr int interrupted = 130;
+    constexpr qsizetype someRuns = 20; // of tools, of more than a hundred
+
+    QFETCH(bool, killed);
+    Pc pc(u"windows11"_s);
+    QProcess process;
+    process.start(builtProgram(u"kestrune-cli"_s), {u"apply"_s, u"--machine"_s, pc.folder()});
+    QVERIFY(process.waitForStarted());
+    while (process.state() != QProcess::NotRunning
+           && readFile(pc.folder() + u"/commands.log"_s).count('\n') < someRuns)
+        process.waitForFinished(1);
+    killed ? process.kill() : process.terminate();
+    QVERIFY(process.waitForFinished(-1));
+    if (!killed)
+        QVERIFY2(process.exitCode() == interrupted || process.exitCode() == 128 + 15,
+                 qPrintable(QString::number(process.exitCode())));
+    QVERIFY(!pc.differences().isEmpty());
+    const Ended list = pc.run({u"undo"_s, u"--list"_s});
+    QVERIFY2(list.output.contains("Apply a profile\tbroken off"), list.output.constData());
+    QCOMPARE(pc.run({u"undo"_s}).exitCode, done);
+    QCOMPARE(pc.differences().join(u'\n'), QString());
 }
 
 void TestCli::applyWithoutRightsIsRefused()
