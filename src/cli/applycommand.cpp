@@ -40,7 +40,7 @@ public:
         if (line.isEmpty() || StatusLine::isProgress(line))
             return;
         add(line);
-        progress_.show(line, 0, 0);
+        progress_.say(line, 0, 0);
     }
     void takeResult(const QString &name, const QString &text) override { add(name + u": "_s + text); }
 

@@ -25,9 +25,14 @@ Progress::~Progress()
 
 void Progress::show(const QString &step, int done, int total)
 {
+    stopIfInterrupted();
+    say(step, done, total);
+}
+
+void Progress::say(const QString &step, int done, int total)
+{
     constexpr qint64 interval = 50;
 
-    stopIfInterrupted();
     if (!steered_ && !terminal_)
         return;
     // A terminal is slower than most steps.

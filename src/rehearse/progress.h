@@ -18,6 +18,8 @@ public:
 
     /** Also where the program stops if it is broken off: throws Interrupted. */
     void show(const QString &step, int done, int total);
+    /** The same and never throws, for what is called from an event loop. */
+    void say(const QString &step, int done, int total);
     /** Takes the line away, for other output to come. */
     void clear();
     ProgressCallback callback();
