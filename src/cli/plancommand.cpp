@@ -19,6 +19,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -47,6 +48,32 @@ std::unique_ptr<Machine> copyOf(const Machine &machine, const QString &folder)
 {
     copyMachine(machine, folder);
     return Machine::open(folder);
+}
+
+/** The program that captures lies beside this one, or in a folder of its own. */
+QString captureProgram()
+{
+    const QString place = QCoreApplication::applicationDirPath();
+    return QStandardPaths::findExecutable(u"kestrune-rehearse"_s, {place, place + u"/rehearse"_s});
+}
+
+/** A copy of the PC that this runs on, as far as its user may read it. */
+QString captured(const WorkFolder &work)
+{
+    const QString program = captureProgram();
+    if (program.isEmpty())
+        throw Failure{ExitJobFailed, u"the program kestrune-rehearse is missing, which makes the copy of this PC"_s};
+    const QString folder = work.filePath(u"captured"_s);
+    QProcess process;
+    process.start(program, {u"capture"_s, folder, u"--with-names"_s});
+    if (!waitForEnd(process))
+        throw Failure{ExitJobFailed, u"%1: %2"_s.arg(program, process.errorString())};
+    if (tellsInterruption(process.exitCode()))
+        throw Interrupted{process.exitCode()};
+    if (process.exitCode() != ExitDone)
+        throw Failure{static_cast<ExitCode>(process.exitCode()),
+                      QString::fromUtf8(process.readAllStandardError()).trimmed().section(u": "_s, 1)};
+    return folder;
 }
 
 /** The items of an apply, as they would be: what it has changed on the copy is open here. */
@@ -112,9 +139,6 @@ int runPlan(const Arguments &arguments)
     // Nothing that lies in a machine, which may come from anybody, is handled with an administrator's rights.
     if (const auto code = runWithoutRights())
         return *code;
-    if (!arguments.has("machine"_L1))
-        throw Failure{ExitBadArguments, u"a plan needs a rehearsal machine: 'kestrune-rehearse capture' makes one of "
-                                        "this PC; name it with --machine"_s};
     if (arguments.has(jsonOption.name))
         checkReportFile(arguments.value(jsonOption.name));
     QStringList words{u"apply"_s, u"--quiet"_s, u"--yes"_s};
@@ -127,7 +151,8 @@ int runPlan(const Arguments &arguments)
     if (!work.isValid())
         throw Failure{ExitJobFailed, work.errorString()};
     progress.show(u"copying the PC"_s, 0, steps);
-    const auto applied = copyOf(*openMachine(arguments.value("machine"_L1)), work.filePath(u"applied"_s));
+    const QString pc = arguments.has("machine"_L1) ? arguments.value("machine"_L1) : captured(work);
+    const auto applied = copyOf(*openMachine(pc), work.filePath(u"applied"_s));
     progress.show(u"apply"_s, 1, steps);
     const QByteArray result = runOnCopy(words, applied->folder(), work.filePath(u"applied.json"_s));
     progress.show(u"copying the PC"_s, 2, steps);

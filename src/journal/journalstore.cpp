@@ -5,12 +5,12 @@
 #include "machine/database.h"
 #include "machine/machineerror.h"
 #include "machine/registrystore.h"
+#include "machine/workfolder.h"
 
 #include <QCoreApplication>
 #include <QDataStream>
 #include <QDir>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -320,7 +320,7 @@ QList<Note> JournalStore::notesSince(qint64 firstSession) const
 JournalContent readJournal(const QString &file)
 {
     // SQLite puts files beside one that it reads.
-    const QTemporaryDir copies;
+    const WorkFolder copies;
     const QString copy = copies.filePath(u"changes.sqlite"_s);
     if (!QFile::copy(file, copy))
         throw MachineError{u"%1: can't be read"_s.arg(QDir::toNativeSeparators(file))};

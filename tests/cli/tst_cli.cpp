@@ -247,6 +247,7 @@ void TestCli::refusals_data()
                                 << QByteArray("at/all");
 #ifndef Q_OS_WIN
     QTest::newRow("no Windows") << QStringList{u"status"_s} << badArguments << QByteArray("this is no Windows");
+    QTest::newRow("nothing to copy") << QStringList{u"plan"_s} << badArguments << QByteArray("and this is none");
 #endif
     QTest::newRow("profile that isn't there")
         << QStringList{u"profile"_s, u"check"_s, u"/nowhere.json"_s} << badArguments << QByteArray("/nowhere.json: ");
@@ -332,8 +333,7 @@ void TestCli::anEndInTheMiddleIsTakenBack()
     QProcess process;
     process.start(builtProgram(u"kestrune-cli"_s), {u"apply"_s, u"--machine"_s, pc.folder()});
     QVERIFY(process.waitForStarted());
-    while (process.state() != QProcess::NotRunning
-           && readFile(pc.folder() + u"/commands.log"_s).count('\n') < someRuns)
+    while (process.state() != QProcess::NotRunning && readFile(pc.folder() + u"/commands.log"_s).count('\n') < someRuns)
         process.waitForFinished(1);
     killed ? process.kill() : process.terminate();
     QVERIFY(process.waitForFinished(-1));
