@@ -301,5 +301,5 @@ QString moreHelp()
 } // namespace
 
 const Subcommand applySubcommand{
-    "apply"_L1, {}, "do what Optimize, or a profile, asks for"_L1, options, 0, 0, runApply, moreHelp,
+    "apply"_L1, {}, "do what Optimize does, or what a profile asks for"_L1, options, 0, 0, runApply, moreHelp,
 };

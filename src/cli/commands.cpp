@@ -15,13 +15,13 @@ const Program &cliProgram()
     };
     // clang-format off
     static constexpr ExampleRow examples[] = {
-        {"status"_L1,  "status"_L1,                                  "how everything is, of what Optimize would change"_L1},
+        {"status"_L1,  "status"_L1,                                  "the state of everything that Optimize would change"_L1},
         {"profile"_L1, "profile new office.json"_L1,                 "a profile to change as you like"_L1},
         {"profile"_L1, "profile check office.json"_L1,               "find the mistakes in it"_L1},
         {"plan"_L1,    "plan --profile office.json"_L1,              "what it would do here, and what would come back"_L1},
-        {"apply"_L1,   "apply --profile office.json"_L1,             "do it"_L1},
-        {"verify"_L1,  "verify --profile office.json"_L1,            "is all of it in force? The exit status says so, too"_L1},
-        {"why"_L1,     "why bluetooth"_L1,                           "which changes have to do with Bluetooth, and how each goes back"_L1},
+        {"apply"_L1,   "apply --profile office.json"_L1,             "carry it out"_L1},
+        {"verify"_L1,  "verify --profile office.json"_L1,            "check whether all of it is in force; the exit status says so, too"_L1},
+        {"why"_L1,     "why bluetooth"_L1,                           "which changes have to do with Bluetooth, and how to take each back"_L1},
         {"undo"_L1,    "undo --list"_L1,                             "all that was done: when, what, how many changes"_L1},
         {"undo"_L1,    "undo"_L1,                                    "take all of it back, to the last value"_L1},
     };
@@ -34,11 +34,11 @@ const Program &cliProgram()
         .subcommands = subcommands,
         .examples = examples,
         .start = "  %1 status\n"
-                 "      see how everything is; nothing is changed\n"
+                 "      see the state of everything; nothing is changed\n"
                  "  %1 plan\n"
                  "      see what an apply would do; nothing is changed\n"
                  "  %1 apply\n"
-                 "      do it, as an administrator\n"
+                 "      carry it out, as an administrator\n"
                  "  %1 undo\n"
                  "      take all of it back\n"_L1,
         .exitStatus = "0 done, or as wished; 1 something isn't as wished; 2 bad arguments or profile; 3 the PC\n"

@@ -179,8 +179,9 @@ constexpr OptionRow options[] = {profileOption, jsonOption};
 
 QString moreHelp()
 {
-    return u"Does it all on a copy, and takes it back there. Nothing is changed, and no administrator rights are "
-           u"used.\n"
+    return u"Does it all on a copy of this PC, or of --machine, and takes it back there. Nothing is changed. It gives\n"
+           "administrator rights up first, so what only an administrator may read is missing on a copy of this PC;\n"
+           "'kestrune-rehearse capture', run by one, makes a copy that has it.\n"
            "Columns: what would become of it, kind of thing, name, what is asked for, and why.\n"_s;
 }
 

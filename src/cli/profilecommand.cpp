@@ -2,7 +2,10 @@
 // kestrune-cli profile
 
 #include "commands.h"
+#include "preview/previewwords.h"
+#include "rehearse/jobs.h"
 #include "report.h"
+#include "work/tweaks/tweakcatalogue.h"
 
 #include <QFileInfo>
 
@@ -54,6 +57,9 @@ int runProfile(const Arguments &arguments)
 
 QString moreHelp()
 {
+    QString options;
+    for (const TweakBox &box : tweakBoxes())
+        options += u"  %1 %2\n"_s.arg(tweakName(box.name), -10).arg(tweakWords(box.name).title);
     return u"  new [FILE]     write a profile with all keys (default: print it)\n"
            "  check FILE     find every mistake in a profile\n"
            "  schema [FILE]  write the JSON Schema of profiles\n\n"
@@ -65,7 +71,8 @@ QString moreHelp()
            "  services, tasks, packages, startup\n"
            "             names to switch off beside what Optimize finds\n"
            "  never      names to leave alone, whatever else says; * and ? are wildcards\n"
-           "  user       run as the system: refuse, or skip what belongs to a user\n"_s;
+           "  user       run as the system: refuse, or skip what belongs to a user\n\n"
+           "Features:\n  %1\n\nOptions:\n%2"_s.arg(keepNames(), options);
 }
 
 } // namespace

@@ -59,8 +59,9 @@ QString verifyHelp()
 } // namespace
 
 const Subcommand statusSubcommand{
-    "status"_L1, {},         "show how everything is that Optimize, or a profile, asks for"_L1, statusOptions, 0, 0,
-    runStatus,   statusHelp,
+    "status"_L1,   {},         "show the state of everything that Optimize, or a profile, would change"_L1,
+    statusOptions, 0,          0,
+    runStatus,     statusHelp,
 };
 
 const Subcommand verifyPcSubcommand{
