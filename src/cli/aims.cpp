@@ -110,9 +110,18 @@ private:
     void add(PreviewGroup group, const QString &name, const QString &title, const QString &wish, AimState state,
              bool ofUser = false)
     {
-        const bool isLeft = profile_.isLeftAlone(name);
-        aims_.append({group, name, title, wish, isLeft ? AimState::LeftAlone : state, false, ofUser,
-                      isLeft ? u"the profile says so"_s : QString()});
+        aims_.append({group, name, title, wish, state, false, ofUser, {}});
+        Aim &aim = aims_.last();
+        if (profile_.isLeftAlone(name))
+            leave(aim, u"the profile says so"_s);
+        else if (ofUser && state == AimState::Open && profile_.leavesOutUser && profile_.user == UserRule::Skip)
+            leave(aim, u"it belongs to a user"_s);
+    }
+
+    static void leave(Aim &aim, const QString &why)
+    {
+        aim.state = AimState::LeftAlone;
+        aim.why = why;
     }
 
     void addServices()
@@ -275,20 +284,23 @@ private:
                 aims_.append({PreviewGroup::Tweaks, name, title, on, AimState::LeftAlone, false, false,
                               u"the profile says so"_s});
             } else {
-                add(PreviewGroup::Tweaks, name, title, on, stateOf(box, isOfOptimize));
+                bool ofUser = false;
+                const AimState state = stateOf(box, isOfOptimize, ofUser);
+                add(PreviewGroup::Tweaks, name, title, on, state, ofUser);
                 if (box.optimize == When::AsJob || box.apply == When::AsJob)
                     aims_.last().why = u"to tell, all files would have to be read"_s;
             }
         }
     }
 
-    AimState stateOf(const TweakBox &box, bool isOfOptimize)
+    AimState stateOf(const TweakBox &box, bool isOfOptimize, bool &ofUser)
     {
         if (box.apply == When::AsJob)
             return AimState::Unknown;
         if (!isOfOptimize && !holds(box.apply, worker_))
             return AimState::Absent;
-        switch (tryOut(system_, [&] { (worker_.*(box.tweak))(1, box.id); })) {
+        switch (tryOut(
+            system_, [&] { (worker_.*(box.tweak))(1, box.id); }, &ofUser)) {
         case TrialResult::ChangesNothing:
             return AimState::InForce;
         case TrialResult::Changes:

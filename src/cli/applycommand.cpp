@@ -200,19 +200,15 @@ void checkFiles(const Arguments &arguments)
     }
 }
 
-/** What belongs to a user can't be changed by the system. */
-void leaveOutUser(const Profile &profile, QList<Aim> &aims)
+/** What belongs to a user isn't the system's to change. */
+void refuseUser(const QList<Aim> &aims)
 {
-    for (Aim &aim : aims) {
-        if (!aim.ofUser || aim.state != AimState::Open)
-            continue;
-        if (profile.user == UserRule::Refuse) {
-            throw Failure{ExitBadArguments,
-                          u"%1 '%2' belongs to a user, and this runs as the system: run it as that user, or "
-                          "write \"user\": \"skip\" into the profile"_s.arg(thingText(aim.group), aim.name)};
-        }
-        aim.state = AimState::LeftAlone;
-        aim.why = u"it belongs to a user"_s;
+    const auto aim = std::find_if(aims.cbegin(), aims.cend(),
+                                  [](const Aim &each) { return each.ofUser && each.state == AimState::Open; });
+    if (aim != aims.cend()) {
+        throw Failure{ExitBadArguments,
+                      u"%1 '%2' belongs to a user, and this runs as the system: run it as that user, or "
+                      "write \"user\": \"skip\" into the profile"_s.arg(thingText(aim->group), aim->name)};
     }
 }
 
@@ -233,10 +229,10 @@ int runApply(const Arguments &arguments)
     const Journal &journal = *journalInForce();
     WorkThread worker;
     applyProfile(worker, profile);
-    QList<Aim> before = aimsOf(worker, pc.system(), profile);
+    const QList<Aim> before = aimsOf(worker, pc.system(), profile);
     worker.needReboot = 0; // it was set by trying
     if (pc.isOfSystem())
-        leaveOutUser(profile, before);
+        refuseUser(before);
     if (!arguments.has("yes"_L1) && std::any_of(before.cbegin(), before.cend(), [&](const Aim &aim) {
             return aim.state == AimState::Unknown && profile.tweaks.value(aim.name);
         }))

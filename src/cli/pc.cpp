@@ -69,6 +69,7 @@ void Pc::open(const Arguments &arguments)
         if (machine.elevated && !QFileInfo(folder + u"/machine.sqlite"_s).isWritable())
             throw Failure{ExitJobFailed, u"%1: the machine is read-only"_s.arg(folder)};
         setPlatform(openMachinePlatform(folder, machine));
+        isOfSystem_ = qEnvironmentVariable("USERNAME") == "SYSTEM"_L1;
     } else {
         if (arguments.has("not-elevated"_L1))
             throw UsageError{u"--not-elevated is for --machine"_s};

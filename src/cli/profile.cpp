@@ -347,7 +347,7 @@ QJsonObject switchSchema(const QString &description)
 bool Profile::leavesOut() const
 {
     const auto isOff = [](bool on) { return !on; };
-    return !never.isEmpty() || std::any_of(tweaks.cbegin(), tweaks.cend(), isOff);
+    return leavesOutUser || !never.isEmpty() || std::any_of(tweaks.cbegin(), tweaks.cend(), isOff);
 }
 
 bool Profile::isLeftAlone(const QString &name) const

@@ -26,7 +26,8 @@ struct Profile
     QStringList tasks; ///< paths without a backslash before them
     QStringList packages;
     QStringList startup;
-    QStringList never; ///< what is left alone; "*" stands for any letters, "?" for one
+    QStringList never;          ///< what is left alone; "*" stands for any letters, "?" for one
+    bool leavesOutUser = false; ///< it is applied as the system, and what belongs to a user is left alone
 
     /** Whether something is left out that Optimize would do: then the jobs of the pages are run and not Optimize. */
     bool leavesOut() const;

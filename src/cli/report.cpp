@@ -64,7 +64,9 @@ Profile readProfile(const QString &name, SystemState *system)
 
 Profile profileOf(const Arguments &arguments, const Pc &pc)
 {
-    return arguments.has(profileOption.name) ? readProfile(profileFile(arguments), &pc.system()) : Profile();
+    Profile profile = arguments.has(profileOption.name) ? readProfile(profileFile(arguments), &pc.system()) : Profile();
+    profile.leavesOutUser = pc.isOfSystem();
+    return profile;
 }
 
 QByteArray aimsDocument(const QString &command, const Arguments &arguments, const QList<Aim> &aims, QJsonObject more)

@@ -48,6 +48,7 @@ public:
     {
         // What is written twice is as it was written last.
         const Item item{ItemKind::Value, key, name};
+        isOfUser_ = isOfUser_ || key.startsWith("HKEY_CURRENT_USER"_L1);
         values_.insert(foldedItem(item), {item, value});
     }
     void wantNoKey(const QString &key)
@@ -55,6 +56,7 @@ public:
         if (system_.hasKey(key))
             change();
     }
+    bool isOfUser() const { return isOfUser_; }
     void change() { changes_ = true; }
     void unknown() { isUnknown_ = true; }
 
@@ -81,6 +83,7 @@ private:
     QHash<QString, WantedValue> values_;
     bool changes_ = false;
     bool isUnknown_ = false;
+    bool isOfUser_ = false;
 };
 
 /** A boot option by one of its words: "Yes", "True" and "On" are the same. */
@@ -251,7 +254,7 @@ private:
 
 } // namespace
 
-TrialResult tryOut(SystemState &system, const std::function<void()> &routine)
+TrialResult tryOut(SystemState &system, const std::function<void()> &routine, bool *ofUser)
 {
     Findings findings(system);
     auto owned = std::make_unique<TrialPlatform>(takePlatform(), system, findings);
@@ -268,5 +271,7 @@ TrialResult tryOut(SystemState &system, const std::function<void()> &routine)
         throw;
     }
     giveBack();
+    if (ofUser != nullptr)
+        *ofUser = findings.isOfUser();
     return findings.result();
 }

@@ -18,5 +18,6 @@ enum class TrialResult {
  * Runs a routine that changes something on the platform in force, and lets it change nothing: no value is written, no
  * key is made, no tool is started but to list the services, no file is touched, and no pause is made. The routine must
  * not need what it has written itself, or what a tool prints.
+ * @param ofUser gets whether it sets something of the current user's; may be null
  */
-TrialResult tryOut(SystemState &system, const std::function<void()> &routine);
+TrialResult tryOut(SystemState &system, const std::function<void()> &routine, bool *ofUser = nullptr);

@@ -213,6 +213,7 @@ private Q_SLOTS:
     void namesAreSwitchedOffBesides();
     void whatIsRefusedSaysWhy();
     void filesOfASession();
+    void theSystemChangesNothingOfAUser();
     void verifyTellsByItsExitCode();
     void whyFindsServicesByWords();
     void profilesAreMadeAndChecked();
@@ -414,6 +415,31 @@ void TestCli::filesOfASession()
     const QJsonObject result = QJsonDocument::fromJson(readFile(folder + u"result.json"_s)).object();
     QCOMPARE(result.value("session"_L1), QJsonValue(1));
     QCOMPARE(result.value("restartWanted"_L1), QJsonValue(true));
+}
+
+void TestCli::theSystemChangesNothingOfAUser()
+{
+    Pc pc(u"windows11"_s);
+    {
+        const auto machine = Machine::open(pc.folder());
+        QMap<QString, QString> variables = machine->environment();
+        variables.insert(u"USERNAME"_s, u"SYSTEM"_s);
+        machine->setEnvironment(variables);
+    }
+    pc.keep();
+    const Ended refused = pc.run({u"apply"_s});
+    QCOMPARE(refused.exitCode, badArguments);
+    QVERIFY2(refused.errors.contains("belongs to a user"), refused.errors.constData());
+    QCOMPARE(pc.differences().join(u'\n'), QString());
+
+    const QString file = pc.profile({{u"user"_s, u"skip"_s}});
+    QVERIFY(pc.run({u"apply"_s, u"--profile"_s, file}).exitCode != notAsWished);
+    QStringList differences = pc.differences();
+    QVERIFY(!differences.isEmpty());
+    differences.removeIf([](const QString &text) { return !text.contains("HKEY_CURRENT_USER"_L1); });
+    QCOMPARE(differences.join(u'\n'), QString());
+    QVERIFY(pc.run({u"apply"_s, u"--profile"_s, file}).output.contains("nothing was changed"));
+    QVERIFY(pc.run({u"status"_s}).output.contains("run as the system"));
 }
 
 void TestCli::verifyTellsByItsExitCode()
