@@ -7,6 +7,7 @@ packages_for() {
     window) echo "fonts-open-sans fonts-dejavu-core" ;;
     browser) echo "chromium chromium-driver" ;;
     trace) echo "strace" ;;
+    schemas) echo "python3 python3-jsonschema" ;;
     bench) echo "libbenchmark-dev" ;;
     coverage) echo "gcovr" ;;
     fuzz) echo "clang libclang-rt-dev" ;;
@@ -22,6 +23,7 @@ reason_for() {
     window) echo "to draw its window" ;;
     browser) echo "to try its web pages" ;;
     trace) echo "to see which files its processes open" ;;
+    schemas) echo "to hold its JSON against its schemas" ;;
     bench) echo "to measure its speed" ;;
     fuzz) echo "to try its readers with any input" ;;
     coverage) echo "to measure what the tests reach" ;;
