@@ -12,6 +12,7 @@ rehearse_make() {
     in_root --caller inside_capture
     for version in win10 win11; do
         rehearse_on "$program" "$captured/$version"
+        compare_status "${program%/*}/kestrune-cli" "$captured/$version"
         "$program" preview "$captured/$version-neutral" >/dev/null || fail "rehearse: the neutral capture gives no preview"
     done
 }
@@ -29,6 +30,14 @@ rehearse_on() {
     say "rehearse: $version: $services services and $applications packages captured, $found findings, taken back"
 }
 
+# compare_status PROGRAM MACHINE: what the console program reads of the PC itself is what it reads of the captured one
+compare_status() {
+    "$1" status --machine "$2" --not-elevated --json "$2-status-here.json" >/dev/null || fail "rehearse: no status of $2"
+    diff "$2-status.json" "$2-status-here.json" >&2 ||
+        fail "rehearse: the status of the PC isn't that of the captured one"
+    say "rehearse: ${2##*/}: $(grep -c '"wish"' "$2-status.json") things have the same state on the PC and on its copy"
+}
+
 # capture_into FOLDER [OPTION…]
 capture_into() {
     quietly "capture-$1" 120 wine "$inside_build/bin/kestrune-rehearse.exe" capture "Z:$inside_build/captured/$1" "${@:2}"
@@ -44,6 +53,8 @@ inside_capture() {
         lay_pc "$version"
         capture_into "$version" --with-names # a way back needs them
         capture_into "$version-neutral"
+        quietly "status-$version" 120 wine "$inside_build/bin/kestrune-cli.exe" status \
+            --json "Z:$inside_build/captured/$version-status.json"
         desk_end
         ! grep -rqaiE '[\\/]users[\\/]+'"$USER" "$inside_build/captured/$version-neutral" ||
             fail "rehearse: the name of the user stands in the captured machine"
