@@ -278,8 +278,8 @@ void TestCli::statusChangesNothing()
 void TestCli::planIsWhatApplyDoesAndDiffFinds_data()
 {
     addColumns<QString, quint32>("builtIn", "seed");
-    const quint32 seeds = isThorough() ? 25 : 1;
     for (const QString &builtIn : {u"windows10"_s, u"windows11"_s}) {
+        const quint32 seeds = isThorough() ? 25 : builtIn == "windows11"_L1 ? 1 : 0;
         for (quint32 seed = 0; seed <= seeds; ++seed)
             QTest::addRow("%s, %u", qPrintable(builtIn), seed) << builtIn << seed;
     }
