@@ -489,6 +489,10 @@ Onlineversion: %2</translation>
 <translation>Indizierungsattribut der Windows-Partition %1 wird hinzugefügt</translation>
 </message>
 <message>
+<source>Apply a profile</source>
+<translation>Profil anwenden</translation>
+</message>
+<message>
 <source>Analyze</source>
 <translation>Analysieren</translation>
 </message>

@@ -489,6 +489,10 @@ Versión en línea: %2</translation>
 <translation>Añadiendo el atributo de indexación de la partición de Windows %1</translation>
 </message>
 <message>
+<source>Apply a profile</source>
+<translation>Aplicar un perfil</translation>
+</message>
+<message>
 <source>Analyze</source>
 <translation>Analizar</translation>
 </message>

@@ -489,6 +489,10 @@ Version en ligne : %2</translation>
 <translation>Ajout de l’attribut d’indexation de la partition Windows %1</translation>
 </message>
 <message>
+<source>Apply a profile</source>
+<translation>Appliquer un profil</translation>
+</message>
+<message>
 <source>Analyze</source>
 <translation>Analyser</translation>
 </message>

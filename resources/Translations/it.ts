@@ -489,6 +489,10 @@ Versione online: %2</translation>
 <translation>Aggiunta dell'attributo di indicizzazione della partizione di Windows %1</translation>
 </message>
 <message>
+<source>Apply a profile</source>
+<translation>Applica un profilo</translation>
+</message>
+<message>
 <source>Analyze</source>
 <translation>Analizza</translation>
 </message>

@@ -489,6 +489,10 @@ Web サイトを開いてダウンロードしますか?<byte value="xd"/>
 <translation>Windows パーティション %1 のインデックス属性を追加</translation>
 </message>
 <message>
+<source>Apply a profile</source>
+<translation>プロファイルの適用</translation>
+</message>
+<message>
 <source>Analyze</source>
 <translation>分析</translation>
 </message>

@@ -489,6 +489,10 @@ Onlineversie: %2</translation>
 <translation>Indexeringskenmerk van Windows-partitie %1 toevoegen</translation>
 </message>
 <message>
+<source>Apply a profile</source>
+<translation>Profiel toepassen</translation>
+</message>
+<message>
 <source>Analyze</source>
 <translation>Analyseren</translation>
 </message>

@@ -489,6 +489,10 @@ Wersja online: %2</translation>
 <translation>Dodawanie atrybutu indeksowania do partycji Windows %1</translation>
 </message>
 <message>
+<source>Apply a profile</source>
+<translation>Zastosuj profil</translation>
+</message>
+<message>
 <source>Analyze</source>
 <translation>Analizuj</translation>
 </message>

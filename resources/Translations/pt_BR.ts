@@ -489,6 +489,10 @@ Versão online: %2</translation>
 <translation>Adicionando o atributo de indexação da partição do Windows %1</translation>
 </message>
 <message>
+<source>Apply a profile</source>
+<translation>Aplicar um perfil</translation>
+</message>
+<message>
 <source>Analyze</source>
 <translation>Analisar</translation>
 </message>

@@ -489,6 +489,10 @@ Online version: %2</source>
 <translation>添加 Windows 分区 %1 的索引属性</translation>
 </message>
 <message>
+<source>Apply a profile</source>
+<translation>应用配置文件</translation>
+</message>
+<message>
 <source>Analyze</source>
 <translation>分析</translation>
 </message>

@@ -27,6 +27,7 @@ struct SessionRow
 // clang-format off
 constexpr SessionRow sessionRows[] = {
     {QT_TRANSLATE_NOOP("Kestrune", "Analyze"), "Optimizer"_L1},
+    {QT_TRANSLATE_NOOP("Kestrune", "Apply a profile"), {}},
     {QT_TRANSLATE_NOOP("Kestrune", "Apply features"), "Features"_L1},
     {QT_TRANSLATE_NOOP("Kestrune", "Before the journal, not exact"), {}},
     {QT_TRANSLATE_NOOP("Kestrune", "Clean-up of the WinSxS folder"), "Features"_L1},
