@@ -9,7 +9,6 @@
 #include "machine/machineerror.h"
 #include "rehearse/jobrunner.h"
 #include "rehearse/jobs.h"
-#include "report.h"
 #include "work/autorun/autorun.h"
 #include "work/packages/packages.h"
 #include "work/statusline.h"

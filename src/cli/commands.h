@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The subcommands of kestrune-cli.
+// The subcommands of kestrune-cli, and what they print and write of what is asked for.
 
 #pragma once
 
-#include "console/program.h"
+#include "aims.h"
 
 extern const Subcommand statusSubcommand;
 extern const Subcommand planSubcommand;
@@ -13,5 +13,26 @@ extern const Subcommand undoPcSubcommand;
 extern const Subcommand profileSubcommand;
 extern const Subcommand whySubcommand;
 
-/** The program, with all of them in the order in which the help lists them. */
-const Program &cliProgram();
+// What they share.
+
+inline constexpr OptionRow profileOption{QLatin1StringView("profile"), QLatin1StringView("FILE"),
+                                         QLatin1StringView("what is asked for (default: what Optimize does)")};
+inline constexpr OptionRow jsonOption{QLatin1StringView("json"), QLatin1StringView("FILE"),
+                                      QLatin1StringView("write JSON; \"-\" is standard output")};
+
+/** The profile of --profile, or one that asks for what Optimize does. A Failure that names every mistake. */
+Profile profileOf(const Arguments &arguments, const Pc &pc);
+/**
+ * Reads a profile. A Failure that names every mistake.
+ * @param system of the PC whose names are known, too; may be null
+ */
+Profile readProfile(const QString &name, SystemState *system);
+/** What was named in --profile; empty without one. */
+QString profileFile(const Arguments &arguments);
+
+/** The document that --json asks for: "formatVersion", "command", "profile", "counts" and "items". */
+QByteArray aimsDocument(const QString &command, const Arguments &arguments, const QList<Aim> &aims,
+                        QJsonObject more = {});
+/** Prints the lines, or nothing where JSON goes to standard output, and writes what --json asks for. */
+void reportAims(const QString &command, const Arguments &arguments, const QList<Aim> &aims, bool all,
+                const QJsonObject &more = {});

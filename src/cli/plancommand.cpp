@@ -10,7 +10,6 @@
 #include "platform/processground.h"
 #include "rehearse/progress.h"
 #include "rehearse/subcommands.h"
-#include "report.h"
 
 #include <QCoreApplication>
 #include <QFile>

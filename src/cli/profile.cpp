@@ -2,13 +2,13 @@
 
 #include "profile.h"
 
-#include "jsonplaces.h"
 #include "work/keepfeatures.h"
 #include "work/packages/packages.h"
 #include "work/services/services.h"
 #include "work/tasks/tasks.h"
 #include "work/tweaks/tweakcatalogue.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -20,6 +20,120 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int formatVersion = 1;
+
+/** "line:column" of a byte. */
+QString jsonPlace(const QByteArray &json, qsizetype offset)
+{
+    const QByteArray before = json.first(std::clamp<qsizetype>(offset, 0, json.size()));
+    return u"%1:%2"_s.arg(before.count('\n') + 1).arg(before.size() - before.lastIndexOf('\n'));
+}
+
+/** Where the parts of a document stand that is known to be JSON. */
+class JsonPlaces
+{
+public:
+    explicit JsonPlaces(const QByteArray &json);
+
+    /**
+     * "line:column" of a part, both from 1, columns in bytes; of the whole document where there is no such part.
+     * @param path "/tweaks/ssd1" of a key, "/never/0" of an element
+     */
+    QString of(const QString &path) const { return places_.value(path, QStringLiteral("1:1")); }
+    /** Paths of keys that stand in one object twice. */
+    QStringList twice() const { return twice_; }
+
+private:
+    void readValue(const QString &path);
+    void readObject(const QString &path);
+    void readArray(const QString &path);
+    QString readText();
+    void skipBlanks();
+    QString here() const;
+
+    const QByteArray json_;
+    qsizetype at_ = 0;
+    QHash<QString, QString> places_;
+    QStringList twice_;
+};
+
+JsonPlaces::JsonPlaces(const QByteArray &json)
+    : json_(json)
+{
+    readValue({});
+}
+
+QString JsonPlaces::here() const
+{
+    return jsonPlace(json_, at_);
+}
+
+void JsonPlaces::skipBlanks()
+{
+    while (at_ < json_.size() && QByteArrayView(" \t\r\n").contains(json_.at(at_)))
+        ++at_;
+}
+
+void JsonPlaces::readValue(const QString &path)
+{
+    skipBlanks();
+    if (!places_.contains(path))
+        places_.insert(path, here());
+    const char first = at_ < json_.size() ? json_.at(at_) : '\0';
+    if (first == '{') {
+        readObject(path);
+    } else if (first == '[') {
+        readArray(path);
+    } else if (first == '"') {
+        readText();
+    } else {
+        while (at_ < json_.size() && !QByteArrayView(",]} \t\r\n").contains(json_.at(at_)))
+            ++at_;
+    }
+}
+
+void JsonPlaces::readObject(const QString &path)
+{
+    ++at_;
+    for (skipBlanks(); at_ < json_.size() && json_.at(at_) != '}'; skipBlanks()) {
+        const QString place = here();
+        const QString key = path + u'/' + readText();
+        if (places_.contains(key))
+            twice_.append(key);
+        places_.insert(key, place);
+        skipBlanks();
+        ++at_; // the colon
+        readValue(key);
+        skipBlanks();
+        if (at_ < json_.size() && json_.at(at_) == ',')
+            ++at_;
+    }
+    ++at_;
+}
+
+void JsonPlaces::readArray(const QString &path)
+{
+    ++at_;
+    qsizetype index = 0;
+    for (skipBlanks(); at_ < json_.size() && json_.at(at_) != ']'; skipBlanks()) {
+        readValue(path + u'/' + QString::number(index));
+        ++index;
+        skipBlanks();
+        if (at_ < json_.size() && json_.at(at_) == ',')
+            ++at_;
+    }
+    ++at_;
+}
+
+QString JsonPlaces::readText()
+{
+    const qsizetype start = at_;
+    ++at_;
+    while (at_ < json_.size() && json_.at(at_) != '"')
+        at_ += json_.at(at_) == '\\' ? 2 : 1;
+    ++at_;
+    const QByteArray text = json_.sliced(start, std::min(at_, json_.size()) - start);
+    return QJsonDocument::fromJson('[' + text + ']').array().at(0).toString();
+}
 
 bool isIn(const QStringList &names, const QString &name)
 {

@@ -4,7 +4,6 @@
 #include "commands.h"
 #include "preview/previewwords.h"
 #include "rehearse/jobs.h"
-#include "report.h"
 #include "work/tweaks/tweakcatalogue.h"
 
 #include <QFileInfo>

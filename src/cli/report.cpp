@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "report.h"
+#include "commands.h"
 
 #include "console/printable.h"
 #include "work/packages/packages.h"

@@ -3,7 +3,6 @@
 
 #include "commands.h"
 #include "journal/takeback.h"
-#include "report.h"
 
 #include <QJsonObject>
 

@@ -200,6 +200,14 @@ public:
         findings_.change();
         return false;
     }
+    /** Where a tool is missing nobody knows what it would find. */
+    QString programFile(const QString &program) const override
+    {
+        QString file = inner().programFile(program);
+        if (file.isEmpty())
+            findings_.unknown();
+        return file;
+    }
     std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &arguments) const override
     {
         if (isListing(program, arguments))

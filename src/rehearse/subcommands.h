@@ -11,9 +11,6 @@ class Machine;
 class RegistryStore;
 /** All of them, in the order in which the help lists them. */
 std::span<const Subcommand *const> allSubcommands();
-/** What the help shows of them to copy and try. */
-std::span<const ExampleRow> allExamples();
-
 extern const Subcommand newSubcommand;
 extern const Subcommand listSubcommand;
 extern const Subcommand runSubcommand;

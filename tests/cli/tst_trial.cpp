@@ -157,6 +157,7 @@ void TestTrial::tools()
     QCOMPARE(tried(pc, boot(u"True"_s)), TrialResult::ChangesNothing);
     QCOMPARE(tried(pc, boot(u"No"_s)), TrialResult::Changes);
     QCOMPARE(tried(pc, [] { runTool(u"sc"_s, {u"stop"_s, u"Spooler"_s}); }), TrialResult::Changes);
+    QCOMPARE(tried(pc, [] { runTool(u"nothing"_s, {u"/set"_s}); }), TrialResult::Unknown);
     QCOMPARE(tried(pc, [] { runTool(u"taskkill"_s, {u"/im"_s, u"x.exe"_s}); }), TrialResult::ChangesNothing);
 }
 

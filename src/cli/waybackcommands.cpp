@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// kestrune-cli why
+// kestrune-cli undo and why: what is asked of the journal
 
 #include "commands.h"
 #include "console/printable.h"
 #include "journal/takeback.h"
 #include "machine/machineerror.h"
 #include "pc.h"
-#include "report.h"
+#include "rehearse/subcommands.h"
 #include "work/keepfeatures.h"
 #include "work/tweaks/tweakcatalogue.h"
 
@@ -19,6 +19,23 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+int runUndo(const Arguments &arguments)
+{
+    // The journal is for administrators alone, also to look at.
+    const Pc pc(arguments, PcUse::Change);
+    return undoBy(*journalInForce(), arguments);
+}
+
+QString undoHelp()
+{
+    return u"Needs administrator rights. Every change that this program and Kestrune's window make is noted in the\n"
+           "journal, with what was there before. Without --since, --session or --item everything is taken back.\n"
+           "What something else has changed since is left alone and said so. Taking back is a session too, and can\n"
+           "be taken back.\n\n"
+           "Columns: number, verdict, what it is, how it was before, how it is now, and why where it isn't back.\n"
+           "Exit status: 0 everything is as it was; 1 something isn't.\n"_s;
+}
 
 /** What people call a thing, and parts of the names that have to do with it. */
 struct SymptomRow
@@ -134,9 +151,9 @@ int runWhy(const Arguments &arguments)
     return json.isEmpty() ? ExitJobFailed : ExitDone;
 }
 
-constexpr OptionRow options[] = {jsonOption};
+constexpr OptionRow whyOptions[] = {jsonOption};
 
-QString moreHelp()
+QString whyHelp()
 {
     constexpr qsizetype width = 90;
 
@@ -155,5 +172,9 @@ QString moreHelp()
 } // namespace
 
 const Subcommand whySubcommand{
-    "why"_L1, "WORD..."_L1, "show which changes may have caused a symptom"_L1, options, 1, -1, runWhy, moreHelp,
+    "why"_L1, "WORD..."_L1, "show which changes may have caused a symptom"_L1, whyOptions, 1, -1, runWhy, whyHelp,
+};
+
+const Subcommand undoPcSubcommand{
+    "undo"_L1, {}, "take changes back, exactly, by the journal"_L1, undoOptions(), 0, 0, runUndo, undoHelp,
 };
