@@ -77,6 +77,8 @@ public:
         applyTweaks();
     }
 
+    /** Whether it has walked over all files, of which nothing is read again. */
+    bool hasWalked() const { return hasWalked_; }
     bool wantsRestart() const { return worker_.needReboot == 1; }
 
 private:
@@ -174,6 +176,7 @@ private:
                 || (isOptimized_ && !isNamed))
                 continue;
             log_.add(u"Feature: "_s + aim.title);
+            hasWalked_ = hasWalked_ || box->apply == When::AsJob;
             if (box->apply == When::AsJob)
                 runToEnd(worker_, JobTweakApply, log_);
             else
@@ -189,6 +192,7 @@ private:
     const QList<Aim> &aims_;
     LineLog &log_;
     bool isOptimized_ = false;
+    bool hasWalked_ = false;
 };
 
 void checkFiles(const Arguments &arguments)
@@ -249,7 +253,12 @@ int runApply(const Arguments &arguments)
     progress.clear();
     const bool wantsRestart = run.wantsRestart();
     const qint64 newest = newestSession(journal);
-    const QList<Aim> after = judgedAims(before, aimsOf(worker, pc.system(), profile), listener.answers());
+    QList<Aim> after = judgedAims(before, aimsOf(worker, pc.system(), profile), listener.answers());
+    for (Aim &aim : after) {
+        const TweakBox *box = boxOf(aim);
+        if (run.hasWalked() && box != nullptr && box->apply == When::AsJob)
+            aim.why = u"the walk over all files came to its end; "_s + aim.why;
+    }
 
     // A session of nothing but the program's own records has none.
     const QString folder = newest == former ? QString() : wayBackFolder(journal, newest);

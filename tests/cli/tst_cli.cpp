@@ -211,6 +211,7 @@ private Q_SLOTS:
     void applyWithoutRightsIsRefused();
     void neverAndOffAreLeftAlone();
     void namesAreSwitchedOffBesides();
+    void theWalkWantsAYes();
     void whatIsRefusedSaysWhy();
     void filesOfASession();
     void theSystemChangesNothingOfAUser();
@@ -385,6 +386,26 @@ void TestCli::namesAreSwitchedOffBesides()
     const QJsonObject applied = pc.json({u"apply"_s, u"--profile"_s, pc.profile(profile)});
     QVERIFY(changedItems(applied).contains(u"services/themes"_s));
     QVERIFY(!pc.differences().filter(u"Themes"_s, Qt::CaseInsensitive).isEmpty());
+}
+
+void TestCli::theWalkWantsAYes()
+{
+    Pc pc(u"windows11"_s);
+    const QString file = pc.profile({{u"never"_s, QJsonArray{u"gaming*"_s, u"windows*"_s, u"*\\*"_s}},
+                                     {u"tweaks"_s, QJsonObject{{u"ssd8"_s, true}}},
+                                     {u"programs"_s, false}});
+    const Ended refused = pc.run({u"apply"_s, u"--profile"_s, file});
+    QCOMPARE(refused.exitCode, badArguments);
+    QVERIFY(refused.errors.contains("say --yes to that"));
+    QCOMPARE(pc.differences().join(u'\n'), QString());
+    const QJsonObject applied = pc.json({u"apply"_s, u"--yes"_s, u"--profile"_s, file});
+    bool isTold = false;
+    for (const QJsonValue &item : applied.value("items"_L1).toArray())
+        isTold = isTold || item["why"_L1].toString().startsWith("the walk over all files came to its end"_L1);
+    QVERIFY(isTold);
+    QVERIFY(!pc.differences().filter(u"attribute C:"_s).isEmpty());
+    QCOMPARE(pc.run({u"undo"_s}).exitCode, done);
+    QCOMPARE(pc.differences().join(u'\n'), QString());
 }
 
 void TestCli::whatIsRefusedSaysWhy()
