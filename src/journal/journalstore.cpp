@@ -12,6 +12,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -79,14 +81,21 @@ bool isSound(Database &database, qint64 size)
     return check.next() && check.text(0) == "ok"_L1;
 }
 
+/** Of each path only what isn't as in the one before it: files of a folder come one after another. */
 QByteArray packed(const QList<WordNote> &words)
 {
     QByteArray bytes;
-    bytes.reserve(words.size() * 100);
+    bytes.reserve(words.size() * 40);
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_6_0);
-    for (const WordNote &word : words)
-        stream << word.file.toUtf8() << word.before << word.after;
+    QByteArray last;
+    for (const WordNote &word : words) {
+        const QByteArray file = word.file.toUtf8();
+        const auto differs = std::mismatch(file.cbegin(), file.cend(), last.cbegin(), last.cend());
+        const auto common = static_cast<quint32>(differs.first - file.cbegin());
+        stream << common << file.sliced(common) << word.before << word.after;
+        last = file;
+    }
     return bytes;
 }
 
@@ -98,11 +107,14 @@ QList<Note> unpacked(const Database::Query &row)
     stream.setVersion(QDataStream::Qt_6_0);
     const qint64 count = row.integer(7);
     QList<Note> notes;
+    QByteArray file;
     while (stream.status() == QDataStream::Ok && !stream.atEnd()) {
-        QByteArray file;
+        quint32 common = 0;
+        QByteArray rest;
         quint32 before = 0;
         quint32 after = 0;
-        stream >> file >> before >> after;
+        stream >> common >> rest >> before >> after;
+        file = file.first(std::min<qsizetype>(common, file.size())) + rest;
         Note note;
         note.id = row.integer(0) - count + notes.size() + 1;
         note.session = row.integer(1);
