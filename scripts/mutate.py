@@ -114,11 +114,11 @@ def mutants_of_file(file):
 
 
 def listed_survivors():
-    """The list's entries: file and change."""
+    """The list's entries: file, which the list names below src, and change."""
     entries, file = [], ""
     for line in LIST.read_text().split("\n") if LIST.exists() else []:
         if line.startswith("## "):
-            file = line[3:].strip()
+            file = "src/" + line[3:].strip()
         elif line.startswith("    "):
             entries.append((file, line.strip()))
     return entries

@@ -4,6 +4,7 @@
 
 #include "journal/item.h"
 #include "journal/journalkey.h"
+#include "machine/machinekey.h"
 #include "platform/forwardingplatform.h"
 #include "platform/registryplace.h"
 #include "platform/systemstate.h"
@@ -16,23 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/** Type and bytes of what a routine writes, as the registry will hold it. */
-RegistryValue written(const QString &name, const QVariant &value)
-{
-    switch (value.typeId()) {
-    case QMetaType::Int:
-    case QMetaType::UInt:
-        return {name, RegistryType::DWord, registryDWord(value.toUInt())};
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-        return {name, RegistryType::QWord, registryQWord(value.toULongLong())};
-    case QMetaType::QStringList:
-        return {name, RegistryType::MultiString, registryTexts(value.toStringList())};
-    default:
-        return {name, RegistryType::String, registryText(value.toString())};
-    }
-}
 
 /** What has been asked for so far. */
 class Findings
@@ -114,7 +98,7 @@ public:
     void setValue(const QString &name, const QVariant &value) override
     {
         const RegistryPlace place = placeOf(name);
-        findings_.wantValue(keyOf(place), place.name, written(place.name, value));
+        findings_.wantValue(keyOf(place), place.name, registryValueOf(place.name, value));
     }
     void remove(const QString &name) override
     {
@@ -126,7 +110,7 @@ public:
     QVariant ownValue(const QString &name) const override { return key_ ? key_->ownValue(name) : QVariant(); }
     void setOwnValue(const QString &name, const QString &text) override
     {
-        findings_.wantValue(ownKey(), swapSlashes(name), written(name, text));
+        findings_.wantValue(ownKey(), swapSlashes(name), registryValueOf(name, text));
     }
     void removeOwnValue(const QString &name) override
     {

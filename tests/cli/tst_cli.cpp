@@ -253,7 +253,7 @@ void TestCli::refusals_data()
 #endif
     QTest::newRow("profile that isn't there")
         << QStringList{u"profile"_s, u"check"_s, u"/nowhere.json"_s} << badArguments << QByteArray("/nowhere.json: ");
-    QTest::newRow("verb") << QStringList{u"profile"_s, u"mend"_s} << badArguments << QByteArray("'mend' is neither");
+    QTest::newRow("verb") << QStringList{u"profile"_s, u"fix"_s} << badArguments << QByteArray("'fix' is neither");
 }
 
 void TestCli::refusals()
