@@ -196,7 +196,8 @@ void TestRehearseAutomatizer::anInstanceThatWasKilledKeepsNobodyOut()
     QVERIFY(!machine.platform().lockOthersOut());
     process.kill();
     QVERIFY(process.waitForFinished(patience));
-    QVERIFY(machine.platform().lockOthersOut());
+    // A tool that it was just starting is a copy of it, with the lock, until the tool's own program is loaded.
+    QTRY_VERIFY_WITH_TIMEOUT(machine.platform().lockOthersOut(), patience);
 }
 
 void TestRehearseAutomatizer::nothingFoundIsAFailure()
