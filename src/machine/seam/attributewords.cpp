@@ -10,6 +10,8 @@
 namespace {
 
 constexpr qsizetype atOnce = 5000;
+/** More than whoever gathers what a walk writes keeps back. */
+constexpr qsizetype mostPresent = 2 * atOnce;
 // INVALID_FILE_ATTRIBUTES, which no file takes.
 constexpr quint32 noWord = 0xffffffff;
 
@@ -21,16 +23,18 @@ std::optional<quint32> AttributeWords::read(const QString &file)
     if (waiting_.contains(file))
         store();
     const std::optional<quint32> word = machine_.attributesOfFile(file);
-    present_ = word ? file : QString();
+    if (walks_ == 0 || present_.size() >= mostPresent)
+        present_.clear();
+    if (word)
+        present_.insert(file);
     return word;
 }
 
 void AttributeWords::write(const QString &file, quint32 word)
 {
     const std::lock_guard lock(lock_);
-    if (word == noWord || (file != present_ && !QFileInfo::exists(file)))
+    if (word == noWord || (!present_.remove(file) && !QFileInfo::exists(file)))
         return;
-    present_.clear();
     waiting_.insert(file, word);
     if (walks_ == 0 || waiting_.size() >= atOnce)
         store();
@@ -61,6 +65,7 @@ AttributeWords::Walk::Walk(AttributeWords &words)
 AttributeWords::Walk::~Walk()
 {
     const std::lock_guard lock(words_.lock_);
-    --words_.walks_;
     words_.store();
+    if (--words_.walks_ == 0)
+        words_.present_.clear();
 }

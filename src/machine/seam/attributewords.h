@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 
 #include <mutex>
@@ -46,6 +47,6 @@ private:
     Machine &machine_;
     std::mutex lock_;
     QHash<QString, quint32> waiting_;
-    QString present_; ///< the file that was read last: what is read is mostly written next
+    QSet<QString> present_; ///< what a walk has read and not yet written, else the file read last
     int walks_ = 0;
 };
