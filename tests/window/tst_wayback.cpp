@@ -212,6 +212,8 @@ private Q_SLOTS:
     void theSearchHidesTheOthers();
     void takingBackCanBeBrokenOff();
     void theFilesAreWrittenWhereOneSays();
+    void aBoxShowsTwentyThingsThatFilesCannotBringBack_data();
+    void aBoxShowsTwentyThingsThatFilesCannotBringBack();
     void nothingIsTakenBackBesideAnotherInstance();
     void withoutChangesItSaysSo();
     void allOfItCanBeAskedFor();
@@ -434,6 +436,45 @@ void TestWayBack::theFilesAreWrittenWhereOneSays()
     QVERIFY(text.contains(u"Services\\Alpha]"_s));
     QVERIFY(!text.contains(u"Services\\Beta]"_s));
     QCOMPARE(startOf(pc, u"Alpha"_s), int(StartDisabled)); // nothing is taken back
+}
+
+void TestWayBack::aBoxShowsTwentyThingsThatFilesCannotBringBack_data()
+{
+    QTest::addColumn<int>("things");
+    QTest::newRow("20") << 20;
+    QTest::newRow("21") << 21;
+}
+
+void TestWayBack::aBoxShowsTwentyThingsThatFilesCannotBringBack()
+{
+    QFETCH(const int, things);
+    const TestMachine machine;
+    const Journaled pc(machine);
+    JournalStore &store = pc.journal().store();
+    const qint64 session = store.beginSession({.what = u"Disable services"_s});
+    QList<Note> notes;
+    for (int i = 0; i < things; ++i) {
+        Note note;
+        note.item = {ItemKind::Key, u"HKEY_CURRENT_USER\\Software\\two\nlines %1"_s.arg(i)};
+        note.before.there = true;
+        note.after = ItemState();
+        notes.append(note);
+    }
+    store.add(session, notes);
+    store.endSession(session, SessionState::Finished);
+    const WindowDriver driver;
+    const Dialog dialog(driver);
+    dialog.choose(u"Disable services"_s);
+    const QTemporaryDir folder;
+    const FolderChoice choice(folder.path());
+    Boxes boxes({QMessageBox::NoButton});
+    dialog.click(u"btnSaveFiles"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(boxes.shown().size(), 1, patience);
+    const QStringList lines = boxes.shown().first().text.split(u'\n');
+    QCOMPARE(lines.mid(0, 2), QStringList({u"The files can't bring back:"_s, QString()}));
+    QCOMPARE(lines.filter(u"two"_s).size(), 20);
+    QCOMPARE(lines.last() == u"…"_s, things > 20);
+    QCOMPARE(lines.size(), things > 20 ? 23 : 22);
 }
 
 void TestWayBack::nothingIsTakenBackBesideAnotherInstance()
