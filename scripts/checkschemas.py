@@ -55,6 +55,7 @@ def check_rehearse(check):
     check.run("kestrune-rehearse", "new", "before", "--from", "windows11")
     check.run("kestrune-rehearse", "new", "pc", "--from", "windows11")
     printed("preview", "preview", "pc", "--json", "-")
+    printed("preview-all", "preview", "--all", ".", "--json", "-")
     for job in (["optimize"], ["sysinfo"]):
         for line in check.run("kestrune-rehearse", "run", "pc", *job, "--json").splitlines():
             check.hold("run", json.loads(line))

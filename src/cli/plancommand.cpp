@@ -4,10 +4,12 @@
 #include "commands.h"
 #include "console/printable.h"
 #include "console/programinterruption.h"
+#include "journal/machinejournal.h"
 #include "machine/machine.h"
 #include "machine/machineerror.h"
 #include "machine/workfolder.h"
 #include "platform/processground.h"
+#include "preview/preview.h"
 #include "rehearse/progress.h"
 #include "rehearse/subcommands.h"
 
@@ -18,7 +20,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -43,23 +44,18 @@ QByteArray runOnCopy(const QStringList &words, const QString &copy, const QStrin
                   errors.section(u": "_s, 1)};
 }
 
+/** With its journal: 'undo' goes by that, as on the PC itself. */
 std::unique_ptr<Machine> copyOf(const Machine &machine, const QString &folder)
 {
     copyMachine(machine, folder);
+    copyMachineJournal(machine.folder(), folder);
     return Machine::open(folder);
-}
-
-/** The program that captures lies beside this one, or in a folder of its own. */
-QString captureProgram()
-{
-    const QString place = QCoreApplication::applicationDirPath();
-    return QStandardPaths::findExecutable(u"kestrune-rehearse"_s, {place, place + u"/rehearse"_s});
 }
 
 /** A copy of the PC that this runs on, as far as its user may read it. */
 QString captured(const WorkFolder &work)
 {
-    const QString program = captureProgram();
+    const QString program = siblingProgram(u"kestrune-rehearse"_s);
     if (program.isEmpty())
         throw Failure{ExitJobFailed, u"the program kestrune-rehearse is missing, which makes the copy of this PC"_s};
     const QString folder = work.filePath(u"captured"_s);
@@ -94,11 +90,15 @@ QJsonArray plannedItems(const QByteArray &applied, QJsonObject &counts)
     return planned;
 }
 
-/** What 'undo' couldn't bring back on the copy. */
-QJsonArray lostItems(const QByteArray &undone)
+/** Takes back on the copy what an apply has done there, and nothing older; what couldn't be brought back. */
+QJsonArray lostItems(const QByteArray &applied, const QString &copy, const QString &report)
 {
+    const auto session = QJsonDocument::fromJson(applied).object().value("session"_L1).toInteger();
+    if (session == 0)
+        return {};
+    const QByteArray undone = runOnCopy({u"undo"_s, u"--session"_s, QString::number(session)}, copy, report);
     QJsonArray lost;
-    for (const QJsonValue &each : QJsonDocument::fromJson(undone).array()) {
+    for (const QJsonValue &each : QJsonDocument::fromJson(undone).object().value("items"_L1).toArray()) {
         const QJsonObject item = each.toObject();
         if (item.value("verdict"_L1) != "as it was"_L1)
             lost.append(QJsonObject{{u"what"_s, item.value("what"_L1)}, {u"why"_s, item.value("why"_L1)}});
@@ -133,13 +133,24 @@ QString planText(const QJsonArray &items, const QJsonObject &counts, const QJson
                              : u"'undo' would bring back all but %1\n"_s.arg(lost.size()));
 }
 
+/** The PC, and what was asked for. */
+QString describedPc(const Machine &machine, const Arguments &arguments)
+{
+    return arguments.has(profileOption.name) ? u"%1, profile %2"_s.arg(machine.name(), profileFile(arguments))
+                                             : machine.name();
+}
+
+constexpr OptionRow htmlOption{"html"_L1, "FILE"_L1, "write a web page that has every single value"_L1};
+
 int runPlan(const Arguments &arguments)
 {
     // Nothing that lies in a machine, which may come from anybody, is handled with an administrator's rights.
     if (const auto code = runWithoutRights())
         return *code;
-    if (arguments.has(jsonOption.name))
-        checkReportFile(arguments.value(jsonOption.name));
+    for (const QLatin1StringView report : {htmlOption.name, jsonOption.name}) {
+        if (arguments.has(report))
+            checkReportFile(arguments.value(report));
+    }
     QStringList words{u"apply"_s, u"--quiet"_s, u"--yes"_s};
     if (arguments.has(profileOption.name))
         words << u"--profile"_s << absolutePath(profileFile(arguments));
@@ -151,20 +162,25 @@ int runPlan(const Arguments &arguments)
         throw Failure{ExitJobFailed, work.errorString()};
     progress.show(u"copying the PC"_s, 0, steps);
     const QString pc = arguments.has("machine"_L1) ? arguments.value("machine"_L1) : captured(work);
-    const auto applied = copyOf(*openMachine(pc), work.filePath(u"applied"_s));
+    const auto before = copyOf(*openMachine(pc), work.filePath(u"before"_s));
+    const auto applied = copyOf(*before, work.filePath(u"applied"_s));
     progress.show(u"apply"_s, 1, steps);
     const QByteArray result = runOnCopy(words, applied->folder(), work.filePath(u"applied.json"_s));
     progress.show(u"copying the PC"_s, 2, steps);
     const auto undone = copyOf(*applied, work.filePath(u"undone"_s));
     progress.show(u"undo"_s, 3, steps);
-    const QByteArray back = runOnCopy({u"undo"_s}, undone->folder(), work.filePath(u"undone.json"_s));
+    const QJsonArray lost = lostItems(result, undone->folder(), work.filePath(u"undone.json"_s));
     progress.clear();
 
     QJsonObject counts;
     const QJsonArray items = plannedItems(result, counts);
-    const QJsonArray lost = lostItems(back);
-    if (arguments.value(jsonOption.name) != "-"_L1)
+    if (arguments.value(jsonOption.name) != "-"_L1 && arguments.value(htmlOption.name) != "-"_L1)
         print(planText(items, counts, lost));
+    if (arguments.has(htmlOption.name)) {
+        const QString page = previewHtml(previewItems(*before, *applied, *undone), describedPc(*before, arguments),
+                                         PreviewWay::ApplyAndUndo);
+        writeReportFile(arguments.value(htmlOption.name), page.toUtf8());
+    }
     if (arguments.has(jsonOption.name)) {
         const QJsonObject document{
             {u"formatVersion"_s, 1}, {u"command"_s, u"plan"_s}, {u"profile"_s, profileFile(arguments)},
@@ -174,7 +190,7 @@ int runPlan(const Arguments &arguments)
     return ExitDone;
 }
 
-constexpr OptionRow options[] = {profileOption, jsonOption};
+constexpr OptionRow options[] = {profileOption, htmlOption, jsonOption};
 
 QString moreHelp()
 {

@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QSaveFile>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <cstdio>
@@ -209,6 +210,12 @@ QString examplesOf(const Program &program, QLatin1StringView subcommand)
 QString absoluteFolder(const QString &folder)
 {
     return QDir::cleanPath(absolutePath(folder));
+}
+
+QString siblingProgram(const QString &name)
+{
+    const QString place = QCoreApplication::applicationDirPath();
+    return QStandardPaths::findExecutable(name, {place, place + u"/rehearse"_s, place + u"/.."_s});
 }
 
 bool isSteered(const Arguments &arguments)

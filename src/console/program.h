@@ -74,6 +74,9 @@ bool isSteered(const Arguments &arguments);
 /** The folder as an absolute path, since other processes are told of it. */
 QString absoluteFolder(const QString &folder);
 
+/** Another program of ours, which lies beside this one, or in the folder "rehearse"; empty where it is missing. */
+QString siblingProgram(const QString &name);
+
 /** Writes to standard output. */
 void print(const QString &text);
 void print(const QByteArray &utf8);

@@ -2,17 +2,38 @@
 
 #include "machinejournal.h"
 
+#include "machine/database.h"
+#include "machine/machineerror.h"
 #include "machine/seam/machinesystem.h"
 #include "programrecords.h"
 #include "takeback.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 QString journalFile(const QString &machineFolder)
 {
     return machineFolder + u"/journal/changes.sqlite"_s;
+}
+
+void copyMachineJournal(const QString &machineFolder, const QString &copyFolder)
+{
+    const QString file = journalFile(machineFolder);
+    const QString copy = journalFile(copyFolder);
+    if (!QFileInfo(file).isFile())
+        return;
+    if (!QDir().mkpath(QFileInfo(copy).path()))
+        throw MachineError{u"%1: the folder can't be made"_s.arg(QDir::toNativeSeparators(QFileInfo(copy).path()))};
+    try {
+        Database(file).query("VACUUM INTO ?").bind(copy).run();
+    } catch (const MachineError &error) {
+        if (!error.damaged)
+            throw;
+        QFile::remove(copy);
+    }
 }
 
 std::unique_ptr<Journal> openMachineJournal(const QString &machineFolder, MachineOptions options)

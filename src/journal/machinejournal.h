@@ -10,6 +10,12 @@
 QString journalFile(const QString &machineFolder);
 
 /**
+ * Gives a copy of a machine the journal that the machine has, as it is at this moment; one that is damaged is left out,
+ * as it is where a machine is opened. Folders of machines. Throws MachineError.
+ */
+void copyMachineJournal(const QString &machineFolder, const QString &copyFolder);
+
+/**
  * Opens a machine, with its journal where the options are for an elevated process; the others keep none. Throws
  * MachineError.
  */

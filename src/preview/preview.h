@@ -18,6 +18,12 @@ enum class Restorability {
     Unasked,   ///< the optimization left it alone, and the restoration changes it
 };
 
+/** What was run on the copies. */
+enum class PreviewWay {
+    OptimizeAndRestore, ///< the window's Automatizer
+    ApplyAndUndo,       ///< the console program, by a profile; its journal takes it back
+};
+
 /** Parts of a PC in the order in which they are listed. */
 enum class PreviewGroup { Services, Tasks, Packages, Autorun, Tweaks, Files, Registry, Records };
 
@@ -40,7 +46,7 @@ struct PreviewItem
     QString about; ///< what it is there for; often empty
     QString name;  ///< what the system calls it; empty where the title says it
     QList<PreviewDetail> details;
-    QString after{}; ///< what is known of what Restore leaves; often empty
+    QString after{}; ///< what is known of what Restore leaves, not the journal; often empty
 
     /** The least favourable of its details. */
     Restorability comesBack() const;
@@ -84,7 +90,8 @@ QByteArray previewJson(const QList<PreviewItem> &items);
  * verdict and by group, a search field, each item in one line that opens to its values. Prints with everything open.
  * @param machine what is told of the PC below the title
  */
-QString previewHtml(const QList<PreviewItem> &items, const QString &machine);
+QString previewHtml(const QList<PreviewItem> &items, const QString &machine,
+                    PreviewWay way = PreviewWay::OptimizeAndRestore);
 
 // An exact way back from what a machine has become, with nothing but the system's own tools.
 

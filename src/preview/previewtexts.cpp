@@ -11,37 +11,58 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // clang-format off
+/** Those of Optimize and Restore, then as many of apply and undo. */
 constexpr RestorabilityTexts restorabilityRows[] = {
-    {Restorability::Exactly,   "exactly"_L1,    "comes back exactly"_L1,     "come back exactly"_L1,
+    {Restorability::Exactly,   "exactly"_L1,
+     "comes back exactly"_L1, "come back exactly"_L1,
      "After Restore they are as they were, to the last value."_L1},
-    {Restorability::Otherwise, "otherwise"_L1,  "comes back differently"_L1, "come back differently"_L1,
+    {Restorability::Otherwise, "otherwise"_L1,
+     "comes back differently"_L1, "come back differently"_L1,
      "Restore undoes these changes, but sets a fixed value, not the one you had."_L1},
-    {Restorability::NotAtAll,  "not-at-all"_L1, "doesn't come back"_L1,      "don't come back"_L1,
+    {Restorability::NotAtAll,  "not-at-all"_L1,
+     "doesn't come back"_L1, "don't come back"_L1,
      "Restore leaves these changes, or some of them, as Optimize made them."_L1},
-    {Restorability::Unasked,   "unasked"_L1,    "changed by Restore only"_L1, "are changed by Restore only"_L1,
+    {Restorability::Unasked,   "unasked"_L1,
+     "changed by Restore only"_L1, "are changed by Restore only"_L1,
      "Optimize doesn't touch these, but Restore sets them to a default anyway."_L1},
+    {Restorability::Exactly,   "exactly"_L1,
+     "comes back exactly"_L1, "come back exactly"_L1,
+     "After Undo they are as they were, to the last value."_L1},
+    {Restorability::Otherwise, "otherwise"_L1,
+     "comes back differently"_L1, "come back differently"_L1,
+     "Undo changes these, but not to what they were."_L1},
+    {Restorability::NotAtAll,  "not-at-all"_L1,
+     "doesn't come back"_L1, "don't come back"_L1,
+     "Undo leaves these changes, or some of them, as Apply made them."_L1},
+    {Restorability::Unasked,   "unasked"_L1,
+     "changed by Undo only"_L1, "are changed by Undo only"_L1,
+     "Apply doesn't touch these, but Undo changes them."_L1},
 };
 
 constexpr GroupTexts groupRows[] = {
     {PreviewGroup::Services, "services"_L1, "Services"_L1,
-     "Programs that work in the background. Optimize stops and disables those that a home PC can do without, and sets "
-     "some others to start only when something needs them."_L1},
+     "Programs that work in the background."_L1,
+     "%1 stops and disables those that a home PC can do without, and sets some others to start only when something "
+     "needs them."_L1},
     {PreviewGroup::Tasks,    "tasks"_L1,    "Scheduled tasks"_L1,
-     "What Windows or a program does at set times. Optimize disables them; they are not removed."_L1},
+     "What Windows or a program does at set times."_L1,
+     "%1 disables them; they are not removed."_L1},
     {PreviewGroup::Packages, "packages"_L1, "Windows applications"_L1,
-     "Applications that came with Windows or from its store. Optimize uninstalls them. What they have stored (accounts, "
-     "settings, their own documents) isn't part of this preview and may be lost."_L1},
+     "Applications that came with Windows or from its store."_L1,
+     "%1 uninstalls them. What they have stored (accounts, settings, their own documents) isn't part of this preview "
+     "and may be lost."_L1},
     {PreviewGroup::Autorun,  "autorun"_L1,  "Programs started at logon"_L1,
-     "What starts when you sign in. Optimize takes it off the list; the program itself stays."_L1},
+     "What starts when you sign in."_L1,
+     "%1 takes it off the list; the program itself stays."_L1},
     {PreviewGroup::Tweaks,   "options"_L1,  "System options"_L1,
-     "Settings of Windows, by their names on the Features page, with all values that belong to them."_L1},
+     "Settings of Windows, by their names on the Features page, with all values that belong to them."_L1, {}},
     {PreviewGroup::Files,    "files"_L1,    "Files"_L1,
-     "Files and folders that come, go or change."_L1},
+     "Files and folders that come, go or change."_L1, {}},
     {PreviewGroup::Registry, "registry"_L1, "Other registry values"_L1,
-     "Registry values not covered above, by their names in the registry, where Windows keeps its settings."_L1},
+     "Registry values not covered above, by their names in the registry, where Windows keeps its settings."_L1, {}},
     {PreviewGroup::Records,  "records"_L1,  "Kestrune's own records"_L1,
      "What Kestrune writes for itself: the records that Restore works from, its log and its backups. They change "
-     "nothing in Windows and aren't counted above."_L1},
+     "nothing in Windows and aren't counted above."_L1, {}},
 };
 
 struct WhyRow
@@ -161,10 +182,11 @@ PreviewSides countedSides(const PreviewItem &item)
 }
 
 /** The values of a tweak are for those who look them up; in short it is applied or not. */
-PreviewSides tweakSides(const PreviewItem &item)
+PreviewSides tweakSides(const PreviewItem &item, PreviewWay way)
 {
     const bool untouched = countOf(item, Restorability::Unasked) == item.details.size();
-    PreviewSides sides{u"your setting"_s, untouched ? u"your setting"_s : u"applied"_s, u"a default"_s};
+    PreviewSides sides{u"your setting"_s, untouched ? u"your setting"_s : u"applied"_s,
+                       way == PreviewWay::OptimizeAndRestore ? u"a default"_s : u"another setting"_s};
     if (item.comesBack() == Restorability::Exactly)
         sides.restored = sides.before;
     else if (item.comesBack() == Restorability::NotAtAll)
@@ -184,14 +206,17 @@ PreviewSides sidesBy(QString (*text)(const PreviewItem &, Side), const PreviewIt
 
 } // namespace
 
-std::span<const RestorabilityTexts> allRestorabilities()
+std::span<const RestorabilityTexts> allRestorabilities(PreviewWay way)
 {
-    return restorabilityRows;
+    const std::span rows(restorabilityRows);
+    const std::size_t ofOneWay = rows.size() / 2;
+    return way == PreviewWay::OptimizeAndRestore ? rows.first(ofOneWay) : rows.last(ofOneWay);
 }
 
-const RestorabilityTexts &textsOf(Restorability value)
+const RestorabilityTexts &textsOf(Restorability value, PreviewWay way)
 {
-    return *std::find_if(std::begin(restorabilityRows), std::end(restorabilityRows),
+    const auto rows = allRestorabilities(way);
+    return *std::find_if(rows.begin(), rows.end(),
                          [value](const RestorabilityTexts &row) { return row.value == value; });
 }
 
@@ -206,9 +231,26 @@ const GroupTexts &textsOf(PreviewGroup group)
                          [group](const GroupTexts &row) { return row.group == group; });
 }
 
-QString whyOf(const PreviewItem &item)
+QString aboutGroup(const GroupTexts &group, PreviewWay way)
+{
+    return joinedWords(group.about, QString(group.done).replace("%1"_L1, stepNames(way).change));
+}
+
+StepNames stepNames(PreviewWay way)
+{
+    return way == PreviewWay::OptimizeAndRestore ? StepNames{"Optimize"_L1, "Restore"_L1}
+                                                 : StepNames{"Apply"_L1, "Undo"_L1};
+}
+
+QString whyOf(const PreviewItem &item, PreviewWay way)
 {
     const Restorability value = item.comesBack();
+    if (way == PreviewWay::ApplyAndUndo) {
+        const bool isLost = item.group == PreviewGroup::Packages && value != Restorability::Exactly;
+        return isLost ? u"The journal can register an app again from its files, and nobody else on this PC has "
+                        "these; it is in the Store."_s
+                      : QString();
+    }
     QString why;
     for (const WhyRow &row : whyRows) {
         if (row.group == item.group && row.value == value)
@@ -230,7 +272,7 @@ int countOf(const QList<PreviewItem> &items, Restorability value)
     }));
 }
 
-PreviewSides sidesOf(const PreviewItem &item)
+PreviewSides sidesOf(const PreviewItem &item, PreviewWay way)
 {
     if (item.group == PreviewGroup::Services)
         return sidesBy(serviceSide, item);
@@ -239,7 +281,7 @@ PreviewSides sidesOf(const PreviewItem &item)
     if (item.group == PreviewGroup::Autorun && item.details.size() == 1)
         return sidesBy(autorunSide, item);
     if (item.group == PreviewGroup::Tweaks)
-        return tweakSides(item);
+        return tweakSides(item, way);
     if (item.details.size() > 1)
         return countedSides(item);
     const PreviewDetail &detail = item.details.first();

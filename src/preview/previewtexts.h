@@ -19,23 +19,35 @@ struct RestorabilityTexts
 };
 
 /** All verdicts, in the order in which they are counted. */
-std::span<const RestorabilityTexts> allRestorabilities();
-const RestorabilityTexts &textsOf(Restorability value);
+std::span<const RestorabilityTexts> allRestorabilities(PreviewWay way = PreviewWay::OptimizeAndRestore);
+const RestorabilityTexts &textsOf(Restorability value, PreviewWay way = PreviewWay::OptimizeAndRestore);
 
 struct GroupTexts
 {
     PreviewGroup group;
     QLatin1StringView word;  ///< in the page, as the name of a filter
     QLatin1StringView title; ///< "Services"
-    QLatin1StringView about; ///< what these are and what Optimize does with them
+    QLatin1StringView about; ///< what these are
+    QLatin1StringView done;  ///< what becomes of them, with "%1" for what does it; empty where that isn't one thing
 };
 
 /** All groups, in the order in which they are listed. */
 std::span<const GroupTexts> allGroups();
 const GroupTexts &textsOf(PreviewGroup group);
 
+/** What these are, and what becomes of them. */
+QString aboutGroup(const GroupTexts &group, PreviewWay way);
+
+/** The two steps as a page names them: "Optimize" and "Restore". */
+struct StepNames
+{
+    QLatin1StringView change;
+    QLatin1StringView back;
+};
+StepNames stepNames(PreviewWay way);
+
 /** Why an item comes back so, and what is known of that; empty where the verdict says it all. */
-QString whyOf(const PreviewItem &item);
+QString whyOf(const PreviewItem &item, PreviewWay way = PreviewWay::OptimizeAndRestore);
 
 /** Kestrune's own records are no change of the PC and count for nothing. */
 bool countsAsChange(const PreviewItem &item);
@@ -50,6 +62,6 @@ struct PreviewSides
 };
 
 /** The item as a whole, each side in a few words: "automatic, running". */
-PreviewSides sidesOf(const PreviewItem &item);
+PreviewSides sidesOf(const PreviewItem &item, PreviewWay way = PreviewWay::OptimizeAndRestore);
 /** A side of a detail, "not there" where it is empty. */
 QString shownSide(const QString &side);

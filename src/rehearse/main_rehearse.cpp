@@ -41,6 +41,8 @@ constexpr ExampleRow examples[] = {
                    "print what Optimize would change, and what would come back"_L1},
     {"preview"_L1, "preview before --html preview.html --undo undo.reg"_L1,
                    "a web page of it, and an exact way back"_L1},
+    {"preview"_L1, "preview --all . --html pcs.html"_L1,
+                   "of each machine in this folder: how much would change, and what wouldn't come back"_L1},
     {"verify"_L1,  "verify before after"_L1,
                    "after a change: print what of it is in force"_L1},
     {"diff"_L1,    "diff before after"_L1,

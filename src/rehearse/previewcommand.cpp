@@ -119,6 +119,10 @@ int runPreview(const Arguments &arguments)
     // Nothing that lies in a machine, which may come from anybody, is handled with an administrator's rights.
     if (const auto code = runWithoutRights())
         return *code;
+    if (arguments.has("profile"_L1) || arguments.has("all"_L1))
+        return previewProfile(arguments);
+    if (arguments.operands().isEmpty())
+        throw UsageError{u"missing operand: the folder of a rehearsal machine"_s};
     const QStringList choice = automatizerOptions(arguments);
     for (const QLatin1StringView report : {"html"_L1, "json"_L1}) {
         if (arguments.has(report))
@@ -153,6 +157,13 @@ constexpr OptionRow options[] = {
      "Keeps features or gives them up, as\n.B run\ndoes."_L1},
     {"no-programs"_L1, {},                     "let the Automatizer leave packages and programs at logon alone"_L1},
     {"no-features"_L1, {},                     "let the Automatizer leave the tweaks alone"_L1},
+    {"profile"_L1,     "FILE"_L1,              "try 'kestrune-cli apply' and 'undo' with a profile instead"_L1,
+     "Tries the profile\n.I FILE\non a copy instead, as\n.B kestrune\\-cli apply\nand\n.B undo\nwould, and reports as\n"
+     ".B kestrune\\-cli plan\ndoes."_L1},
+    {"all"_L1,         "FOLDER"_L1,            "try it on each machine in FOLDER: a table, a line for each"_L1,
+     "Tries it on each rehearsal machine in\n.IR FOLDER ,\nand prints a table with a line for each: how many things of each "
+     "kind would change, how many would be refused, and what\nwouldn't come back. Without\n.B \\-\\-profile\nit is what "
+     "Optimize does."_L1},
     {"html"_L1,        "FILE"_L1,              "write a web page"_L1,
      "Writes a web page: one file, without anything from outside, that can be searched and printed."_L1},
     {"json"_L1,        "FILE"_L1,              "write JSON"_L1},
@@ -174,6 +185,6 @@ constexpr OptionRow options[] = {
 } // namespace
 
 const Subcommand previewSubcommand{
-    "preview"_L1, "DIR"_L1, "show what Optimize would change, and what Restore would bring back"_L1, options, 1, 1,
+    "preview"_L1, "[DIR]"_L1, "show what Optimize would change, and what Restore would bring back"_L1, options, 0, 1,
     runPreview,
 };

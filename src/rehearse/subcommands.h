@@ -30,6 +30,8 @@ std::unique_ptr<Machine> openMachine(const QString &folder);
 std::unique_ptr<Machine> openMachineToChange(const QString &folder);
 /** The key of that path; a Failure of code 2 where there is none, or the path names no root. */
 qint64 requireKey(const RegistryStore &store, const QString &path);
+/** 'preview' with --profile or --all. The exit code. */
+int previewProfile(const Arguments &arguments);
 class Journal;
 /** Takes changes back, or lists them, or writes the way back as files, as the options say. The exit code. */
 int undoBy(const Journal &journal, const Arguments &arguments);

@@ -154,12 +154,13 @@ QJsonArray itemsJson(const QList<TakenItem> &items)
     return array;
 }
 
-void report(const Arguments &arguments, const QString &text, const QJsonArray &json)
+void report(const Arguments &arguments, const QString &text, const QString &key, const QJsonArray &json)
 {
     if (!arguments.has("json"_L1))
         print(text);
     else
-        writeReportFile(arguments.value("json"_L1), printableJson(QJsonDocument(json)));
+        writeReportFile(arguments.value("json"_L1),
+                        printableJson(QJsonDocument(QJsonObject{{u"formatVersion"_s, 1}, {key, json}})));
 }
 
 bool isBack(const QList<TakenItem> &items)
@@ -231,9 +232,9 @@ int undoBy(const Journal &journal, const Arguments &arguments)
     if (arguments.has("list"_L1)) {
         if (request.session || request.since || !request.items.isEmpty()) {
             const QList<TakenItem> items = planWayBack(journal, selection);
-            report(arguments, itemsText(items), itemsJson(items));
+            report(arguments, itemsText(items), u"items"_s, itemsJson(items));
         } else {
-            report(arguments, sessionsText(sessions), sessionsJson(sessions));
+            report(arguments, sessionsText(sessions), u"sessions"_s, sessionsJson(sessions));
         }
         return ExitDone;
     }
@@ -243,7 +244,7 @@ int undoBy(const Journal &journal, const Arguments &arguments)
         return written.leftOut.isEmpty() ? ExitDone : ExitJobFailed;
     }
     const QList<TakenItem> items = takeBackToEnd(journal, selection);
-    report(arguments, itemsText(items), itemsJson(items));
+    report(arguments, itemsText(items), u"items"_s, itemsJson(items));
     if (const QString failure = journal.takeFailure(); !failure.isEmpty())
         throw Failure{ExitJobFailed, u"not everything was taken back: "_s + failure};
     return isBack(items) ? ExitDone : ExitJobFailed;

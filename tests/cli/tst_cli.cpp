@@ -3,7 +3,7 @@
 
 #include "machine/compare/machinediff.h"
 #include "preview/preview.h"
-#include "support/processes.h"
+#include "support/rehearsing.h"
 #include "support/smallmachine.h"
 #include "support/suite.h"
 
@@ -17,9 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int done = 0;
 constexpr int notAsWished = 1;
-constexpr int badArguments = 2;
 constexpr int unreadable = 3;
 constexpr int noRights = 5;
 #ifdef Q_OS_WIN
@@ -206,6 +204,10 @@ private Q_SLOTS:
     void statusChangesNothing();
     void planIsWhatApplyDoesAndDiffFinds_data();
     void planIsWhatApplyDoesAndDiffFinds();
+    void planTakesBackByTheJournal();
+    void planLeavesWhatWasDoneBefore();
+    void manyPcsAreTriedInOneTable();
+    void aProfileIsTriedOnACapturedPc();
     void anEndInTheMiddleIsTakenBack_data();
     void anEndInTheMiddleIsTakenBack();
     void applyWithoutRightsIsRefused();
@@ -316,6 +318,109 @@ void TestCli::planIsWhatApplyDoesAndDiffFinds()
     QCOMPARE(pc.run(QStringList{u"verify"_s, u"--quiet"_s} + profile).exitCode, done);
     QCOMPARE(pc.run({u"undo"_s}).exitCode, done);
     QCOMPARE(pc.differences(), QStringList());
+}
+
+/** What a page counts as coming back in some way: "exactly", "otherwise". */
+int countOnPage(const QByteArray &page, const QByteArray &verdict)
+{
+    const QByteArray mark = "data-count=\"" + verdict + "\">";
+    const qsizetype at = page.indexOf(mark);
+    return at < 0 ? -1 : page.sliced(at + mark.size()).split('<').constFirst().toInt();
+}
+
+/** Not by the records of the program, which know no service that was started by hand. */
+void TestCli::planTakesBackByTheJournal()
+{
+    Pc pc(u"windows11"_s);
+    const QString file = pc.profile({{u"services"_s, QJsonArray{u"TabletInputService"_s}}});
+    const QString page = pc.beside(u"plan.html"_s);
+    const QJsonObject plan = pc.json({u"plan"_s, u"--profile"_s, file, u"--html"_s, page});
+    QVERIFY(changedItems(plan).contains(u"services/tabletinputservice"_s));
+    QCOMPARE(plan.value("notBack"_L1).toArray(), QJsonArray());
+    const QByteArray html = readFile(page);
+    QVERIFY(html.contains("What Apply would change"));
+    QVERIFY(html.contains("After Undo"));
+    QVERIFY(countOnPage(html, "exactly") > 100);
+    QCOMPARE(countOnPage(html, "otherwise"), 0);
+    QCOMPARE(countOnPage(html, "not-at-all"), 1); // the list of tasks that the program leaves in the Temp folder
+    QCOMPARE(countOnPage(html, "unasked"), 0);
+    QCOMPARE(pc.allDifferences(), QStringList());
+}
+
+void TestCli::planLeavesWhatWasDoneBefore()
+{
+    Pc pc(u"windows11"_s);
+    const QString careful = QStringLiteral(KESTRUNE_PROFILES "/careful.json");
+    QVERIFY(pc.run({u"apply"_s, u"--profile"_s, careful}).exitCode != notAsWished);
+    pc.keep();
+    const QString page = pc.beside(u"plan.html"_s);
+    const QJsonObject plan = pc.json({u"plan"_s, u"--html"_s, page});
+    QVERIFY(!changedItems(plan).contains(u"services/tabletinputservice"_s));
+    QVERIFY(!changedItems(plan).isEmpty());
+    const QByteArray html = readFile(page);
+    QCOMPARE(countOnPage(html, "unasked"), 0);
+    QCOMPARE(countOnPage(html, "otherwise"), 0);
+    QCOMPARE(pc.allDifferences(), QStringList());
+}
+
+void TestCli::manyPcsAreTriedInOneTable()
+{
+    const QTemporaryDir place;
+    const QString machines = QCoreApplication::applicationDirPath() + u"/machines/"_s;
+    const QStringList names{u"first"_s, u"second"_s};
+    makeMachine(place.filePath(names.first()), machines + u"windows10"_s, Existing::Keep);
+    makeMachine(place.filePath(names.last()), machines + u"windows11"_s, Existing::Keep);
+    writeFile(place.filePath(u"third/machine.sqlite"_s), "none");
+    QVERIFY(QDir(place.path()).mkpath(u"no machine"_s));
+
+    const QString profile = QStringLiteral(KESTRUNE_PROFILES "/office.json");
+    const QString json = place.filePath(u"all.json"_s);
+    const QString page = place.filePath(u"all.html"_s);
+    const Ended ended = rehearse(
+        {u"preview"_s, u"--all"_s, place.path(), u"--profile"_s, profile, u"--json"_s, json, u"--html"_s, page});
+    QCOMPARE(ended.exitCode, notAsWished); // the third one
+    const QList<QByteArray> lines = ended.output.trimmed().split('\n');
+    QCOMPARE(lines.size(), 4);
+    QVERIFY(lines.at(0).startsWith("PC "));
+    QVERIFY2(lines.at(3).startsWith("third   not tried: ") && lines.at(3).endsWith("damaged"), lines.at(3).constData());
+    const QJsonArray pcs = QJsonDocument::fromJson(readFile(json))[u"pcs"_s].toArray();
+    QCOMPARE(pcs.size(), 3);
+    for (int i = 0; i < names.size(); ++i) {
+        const Ended plan =
+            cli({u"plan"_s, u"--machine"_s, place.filePath(names.at(i)), u"--profile"_s, profile, u"--json"_s, u"-"_s});
+        QCOMPARE(pcs.at(i)[u"pc"_s].toString(), names.at(i));
+        QCOMPARE(pcs.at(i)[u"plan"_s].toObject(), QJsonDocument::fromJson(plan.output).object());
+        const int changes = static_cast<int>(changedItems(pcs.at(i)[u"plan"_s].toObject()).size());
+        int sum = 0;
+        const QList<QByteArray> cells = lines.at(i + 1).simplified().split(' ');
+        QCOMPARE(cells.constFirst(), names.at(i).toUtf8());
+        for (int cell = 1; cell <= 5; ++cell)
+            sum += cells.at(cell).toInt();
+        QCOMPARE(sum, changes);
+    }
+    QVERIFY(pcs.at(2)[u"plan"_s].isNull());
+    QVERIFY(readFile(page).contains("<td>second</td>"));
+    QVERIFY(readFile(page).contains("<td colspan=\"8\">not tried: "));
+    const Ended none = rehearse({u"preview"_s, u"--all"_s, place.filePath(u"no machine"_s)});
+    QCOMPARE(none.exitCode, badArguments);
+}
+
+void TestCli::aProfileIsTriedOnACapturedPc()
+{
+    Pc pc(u"windows10"_s);
+    const QString file = pc.profile({{u"programs"_s, false}});
+    const Ended here = pc.run({u"plan"_s, u"--profile"_s, file});
+    const Ended there = rehearse({u"preview"_s, pc.folder(), u"--profile"_s, file});
+    QCOMPARE(there.exitCode, done);
+    QCOMPARE(there.output, here.output);
+    QVERIFY(there.output.contains("would change"));
+    const Ended keep = rehearse({u"preview"_s, pc.folder(), u"--profile"_s, file, u"--keep"_s, u"nfc=0"_s});
+    QCOMPARE(keep.exitCode, badArguments);
+    writeFile(file, "{\"formatVersion\": 1, \"servces\": []}");
+    const Ended bad = rehearse({u"preview"_s, pc.folder(), u"--profile"_s, file});
+    QCOMPARE(bad.exitCode, badArguments);
+    QVERIFY2(bad.errors.startsWith("kestrune-rehearse: ") && bad.errors.contains("unknown key 'servces'"),
+             bad.errors.constData());
 }
 
 void TestCli::anEndInTheMiddleIsTakenBack_data()

@@ -171,12 +171,12 @@ void TestRehearseUndo::writesJson()
     Changed machine;
     const QString file = machine.beside(u"undo.json"_s);
     QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--list"_s, u"--json"_s, file}).output, QByteArray());
-    const QJsonArray sessions = QJsonDocument::fromJson(readFile(file)).array();
+    const QJsonArray sessions = QJsonDocument::fromJson(readFile(file))[u"sessions"_s].toArray();
     QVERIFY(!sessions.isEmpty());
     QCOMPARE(sessions.last()[u"what"_s].toString(), u"Tweaks"_s);
     QCOMPARE(sessions.last()[u"page"_s].toString(), u"Features"_s);
     QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--json"_s, file}).exitCode, done);
-    const QJsonArray items = QJsonDocument::fromJson(readFile(file)).array();
+    const QJsonArray items = QJsonDocument::fromJson(readFile(file))[u"items"_s].toArray();
     QVERIFY(!items.isEmpty());
     for (const QJsonValue &item : items)
         QCOMPARE(item[u"verdict"_s].toString(), u"as it was"_s);
