@@ -10,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QPainter>
 #include <QStandardItemModel>
 #include <QTest>
 #include <QWheelEvent>
@@ -109,6 +110,21 @@ bool clickInPopup(QComboBox *box, int row, int left, Qt::MouseButton button = Qt
     return open;
 }
 
+/** A row as the list draws it in that state. */
+QImage drawnRow(const QComboBox *box, int row, QStyle::State state)
+{
+    QImage image(200, 24, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QStyleOptionViewItem option;
+    option.initFrom(box->view());
+    option.widget = box->view();
+    option.rect = image.rect();
+    option.state = QStyle::State_Enabled | state;
+    box->itemDelegate()->paint(&painter, option, box->model()->index(row, 0));
+    return image;
+}
+
 void addRows()
 {
     QTest::addColumn<int>("row");
@@ -140,6 +156,7 @@ private Q_SLOTS:
     void clickAnywhereInARowTogglesItsFeature();
     void otherMouseButtonsToggleNothing();
     void titleRowCannotBeCheckedByAClick();
+    void titleRowIsDrawnAsNoChoice();
     void wheelAndKeysLeaveTheTitle_data();
     void wheelAndKeysLeaveTheTitle();
     void changeOfTheTitleRowStoresItsStateAndTouchesNoMember();
@@ -309,6 +326,16 @@ void TestKeepList::titleRowCannotBeCheckedByAClick()
     QVERIFY(!keepModel->item(0)->data(Qt::CheckStateRole).isValid());
     QVERIFY(!stored(machine, 0).isValid());
     QCOMPARE(servicesBox(driver)->currentText(), u"Keep features"_s);
+}
+
+/** It is the list's current row all the time. */
+void TestKeepList::titleRowIsDrawnAsNoChoice()
+{
+    const WindowOnPc driver;
+    for (const QComboBox *box : {servicesBox(driver), homeBox(driver)}) {
+        QCOMPARE(drawnRow(box, 0, QStyle::State_Selected | QStyle::State_HasFocus), drawnRow(box, 0, {}));
+        QVERIFY(drawnRow(box, 1, QStyle::State_Selected) != drawnRow(box, 1, {}));
+    }
 }
 
 void TestKeepList::wheelAndKeysLeaveTheTitle_data()

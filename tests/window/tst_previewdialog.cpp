@@ -11,11 +11,15 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTreeWidget>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -117,6 +121,8 @@ class TestPreviewDialog : public QObject
 private Q_SLOTS:
     void whatAPreviewIsMadeOfIsTranslated();
     void changesAreListedAndNothingIsChanged();
+    void everyTextHasItsRoom();
+    void whatWasLookedAtWithoutRightsIsTold();
     void noWordOfItStaysEnglish();
     void searchShowsWhatHasTheText();
     void whatTheAutomatizerLeavesOutIsLeftOut();
@@ -169,6 +175,38 @@ void TestPreviewDialog::changesAreListedAndNothingIsChanged()
     QVERIFY(machine.commands().isEmpty());
     preview.close();
     QVERIFY(!preview.isOpen());
+}
+
+void TestPreviewDialog::everyTextHasItsRoom()
+{
+    const PreviewedPc machine;
+    const WindowDriver driver;
+    const Preview preview(driver, placeOf(machine));
+    for (const QString &label : {u"lblCounts"_s, u"lblExplanation"_s, u"lblPreview"_s})
+        QVERIFY(preview.get<QLabel>(label)->wordWrap());
+    // The list stays where it is when the counts come, and when a row is explained.
+    const int line = (*preview).fontMetrics().lineSpacing();
+    QCOMPARE(preview.get<QLabel>(u"lblCounts"_s)->minimumHeight(), 2 * line);
+    QCOMPARE(preview.get<QLabel>(u"lblExplanation"_s)->minimumHeight(), 4 * line);
+    QCOMPARE(preview.items()->accessibleName(), u"Changes"_s);
+    QCOMPARE(textsOf(preview.items()->headerItem()),
+             (QStringList{u"What"_s, u"Now"_s, u"After Optimize"_s, u"After Restore"_s, u"Comes back"_s}));
+    const QHeaderView *header = preview.items()->header();
+    for (const auto &[column, width] : {std::pair(0, 300), std::pair(1, 190), std::pair(2, 170), std::pair(3, 190)})
+        QCOMPARE(header->sectionSize(column), std::max(width, header->sectionSizeHint(column)));
+}
+
+void TestPreviewDialog::whatWasLookedAtWithoutRightsIsTold()
+{
+    const PreviewedPc machine;
+    const WindowDriver driver;
+    PreviewPlace place = placeOf(machine);
+    place.isWhole = false;
+    const Preview preview(driver, place);
+    QVERIFY(preview.isIdle());
+    QCOMPARE(preview.text(u"lblPreview"_s),
+             u"“Way back…” brings back more than Restore: what was noted before each change. "
+             "This PC was looked at without Admin rights: what needs them is missing here."_s);
 }
 
 /** What the preview says of a thing in words of its own is looked up one by one. */

@@ -225,6 +225,7 @@ void TestServicesPage::toolTipIsNoMarkup_data()
     row("name", u"A & <img src=x>"_s, u"d"_s, u"<span>A &amp; &lt;img src=x&gt;</span>:<br><br>d"_s);
     row("name with an entity alone", u"A&lt;B & C"_s, u"d"_s, u"A&lt;B & C:<br><br>d"_s);
     row("name with both", u"A&lt;<B"_s, u"d"_s, u"<span>A&amp;lt;&lt;B</span>:<br><br>d"_s);
+    row("name with quotes", u"A <\"B\">"_s, u"d"_s, u"<span>A &lt;&quot;B&quot;&gt;</span>:<br><br>d"_s);
 }
 
 void TestServicesPage::toolTipIsNoMarkup()

@@ -16,11 +16,16 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTranslator>
 #include <QTreeView>
 #include <QTreeWidget>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -249,10 +254,17 @@ void TestWayBack::aTweakIsListedAndTakenBack()
         buttons.append(dialog.get<QPushButton>(QString::fromLatin1(name))->text());
     QCOMPARE(buttons,
              (QStringList{u"Check all"_s, u"Uncheck all"_s, u"&Take back"_s, u"Sa&ve as files…"_s, u"Close"_s}));
+    const QHeaderView *header = dialog.changes()->header();
+    for (const auto &[column, width] : {std::pair(0, 250), std::pair(1, 100), std::pair(2, 100)})
+        QCOMPARE(header->sectionSize(column), std::max(width, header->sectionSizeHint(column)));
     dialog.choose(u"Apply features"_s);
     QVERIFY(dialog.rowCount() > 0);
     QVERIFY(dialog.takeButton()->isEnabled());
+    const QSignalSpy changed(dialog.changes()->model(), &QAbstractItemModel::dataChanged);
     QVERIFY(dialog.take());
+    QCOMPARE(changed.last().at(0).toModelIndex(), dialog.changes()->model()->index(0, 0));
+    QCOMPARE(changed.last().at(1).toModelIndex(),
+             dialog.changes()->model()->index(dialog.rowCount() - 1, WayBackModel::ColumnCount - 1));
     for (int row = 0; row < dialog.rowCount(); ++row) {
         const QModelIndex first = dialog.changes()->model()->index(row, 0);
         QCOMPARE(first.siblingAtColumn(WayBackModel::Verdict).data().toString(), u"as it was"_s);
@@ -620,6 +632,7 @@ void TestWayBack::aBrokenOffSessionHasAButtonUntilItWasSeen()
     const QPushButton *button = driver.button(u"btnBrokenOff"_s);
     QVERIFY(button->isVisible());
     QVERIFY(button->isFlat());
+    QCOMPARE(button->minimumWidth(), button->fontMetrics().horizontalAdvance(button->text()) + 24);
     QCOMPARE(driver.status(), QString());
     QCOMPARE(button->mapTo(&driver.window(), QPoint(button->width(), 0)).x(),
              driver.get<QWidget>(u"wgtStatus"_s)->mapTo(&driver.window(), QPoint()).x()
@@ -630,6 +643,8 @@ void TestWayBack::aBrokenOffSessionHasAButtonUntilItWasSeen()
         QCOMPARE(dialog.sessions()->currentItem()->text(3), u"broken off"_s);
         QCOMPARE(dialog.state(alphaStart), u"changed"_s);
         dialog.click(u"btnClose"_s);
+        const QDateTime begun = pc.journal().store().sessions().first().begun;
+        QCOMPARE(openSettings()->value(u"BrokenOffSeen"_s).toLongLong(), begun.toMSecsSinceEpoch());
     }
     QVERIFY(button->isHidden());
     const WindowDriver next;
