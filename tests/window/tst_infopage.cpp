@@ -168,6 +168,8 @@ void TestInfoPage::showingThePageHidesTheReportAndStartsTheJob()
     QCOMPARE(driver.worker().job, int(JobGetSystemInfo));
     QVERIFY(driver.worker().wait(patience));
     QCOMPARE(starts, 1);
+    // The page after it is left as it is.
+    QVERIFY(driver.get<QTextBrowser>(u"txtAbout"_s)->toPlainText().contains(u"%version"_s));
     QVERIFY(driver.button(u"btnMenuInfo"_s)->font().bold());
     QVERIFY(driver.button(u"btnMenuInfo"_s)->styleSheet().contains(u"margin-left: 12px; color: "_s + linkColor()));
 }

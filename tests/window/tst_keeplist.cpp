@@ -6,6 +6,7 @@
 #include "support/windowdriver.h"
 
 #include "window/kestrune.h"
+#include "work/keepfeatures.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -141,6 +142,7 @@ class TestKeepList : public QObject
 private Q_SLOTS:
     void everyFeatureIsCheckedOnAFirstRun();
     void rowsHaveTheirTextsAndToolTips();
+    void theyAreTheFeaturesOfTheCommandLine();
     void titleRowIsDisabledAndBelongsToNoMember();
     void featuresCanBeCheckedAndNothingElse();
     void bothBoxesShareOneModelAndShowItsTitle();
@@ -197,6 +199,16 @@ void TestKeepList::rowsHaveTheirTextsAndToolTips()
     }
     for (int row = 0; row <= 9; ++row)
         QCOMPARE(keepModel->item(row)->textAlignment(), Qt::AlignCenter);
+}
+
+void TestKeepList::theyAreTheFeaturesOfTheCommandLine()
+{
+    const char *const names[] = {"printer", "bluetooth-audio", "files-sharing", "xbox-app", "upnp", "proxy-vpn",
+                                 "nfc",     "xbox-game-bar",   "codecs"};
+    for (std::size_t i = 0; i < keepFeatures.size(); ++i) {
+        QCOMPARE(keepFeatures.at(i).name, QLatin1String(names[i]));
+        QCOMPARE(keepFeatures.at(i).keep, features.at(qsizetype(i)).member);
+    }
 }
 
 void TestKeepList::titleRowIsDisabledAndBelongsToNoMember()
