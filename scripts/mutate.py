@@ -5,12 +5,15 @@
 A fault, or mutant, is one change of the text by one of the rules below. Each is compiled to one object, linked in front
 of the libraries of a built preset into a test program of its own, and meets the suites that run the changed line, one
 after another, until one fails. What no suite notices has survived: it shows a gap in the tests, or stands in
-tests/mutants.md with the reason why it can't be noticed. The same seed draws the same mutants.
+tests/mutants.md with the reason why it can't be noticed. One of which the compiler makes the same code is no fault,
+and isn't counted. The same seed draws the same mutants.
 """
 
 import argparse
+import collections
 import concurrent.futures
 import contextlib
+import functools
 import json
 import os
 import pathlib
@@ -91,22 +94,31 @@ def mutants_of_line(line, code):
 
 
 class Mutant:
-    def __init__(self, file, number, rule, line, change):
+    def __init__(self, file, number, rule, line, change, turn):
         self.file, self.number, self.rule, self.line, self.change = file, number, rule, line, change
+        self.turn = turn  # among the equal lines of the file; 0 where there is only one
 
     def __str__(self):
         return f"{self.file}:{self.number} {self.rule}: {self.line.strip()} -> {self.change.strip()}"
 
     def entry(self):
         """How the list names it: without the line's number, which other changes move."""
-        return f"{self.line.strip()} -> {self.change.strip()}"
+        which = f" (number {self.turn} of such lines)" if self.turn else ""
+        return f"{self.line.strip()} -> {self.change.strip()}{which}"
+
+    def key(self):
+        return self.file, self.entry()
 
 
 def mutants_of_text(file, text):
     lines, code = text.split("\n"), masked(text).split("\n")
-    return [Mutant(file, number, rule, lines[number - 1], change)
-            for number in range(1, len(lines) + 1)
-            for rule, change in mutants_of_line(lines[number - 1], code[number - 1])]
+    repeated, seen, mutants = collections.Counter(map(str.strip, lines)), collections.Counter(), []
+    for number, line in enumerate(lines, 1):
+        seen[line.strip()] += 1
+        turn = seen[line.strip()] if repeated[line.strip()] > 1 else 0
+        mutants += [Mutant(file, number, rule, line, change, turn)
+                    for rule, change in mutants_of_line(line, code[number - 1])]
+    return mutants
 
 
 def mutants_of_file(file):
@@ -114,13 +126,16 @@ def mutants_of_file(file):
 
 
 def listed_survivors():
-    """The list's entries: file, which the list names below src, and change."""
-    entries, file = [], ""
-    for line in LIST.read_text().split("\n") if LIST.exists() else []:
+    """The list's entries, by file, which it names below src, and change: whether the reason calls them equivalent."""
+    entries, group, file = {}, [], ""
+    for line in LIST.read_text().split("\n"):
         if line.startswith("## "):
             file = "src/" + line[3:].strip()
         elif line.startswith("    "):
-            entries.append((file, line.strip()))
+            group.append((file, line.strip()))
+        elif line and group:
+            entries |= dict.fromkeys(group, line.startswith("Equivalent: "))
+            group = []
     return entries
 
 
@@ -134,7 +149,18 @@ def compile_command(file, source, target, *more):
     for flag, operands in (("-MF", 1), ("-MT", 1), ("-MD", 0), ("-o", 1), ("-c", 1)):
         if flag in words:
             del words[words.index(flag):words.index(flag) + 1 + operands]
-    return words + ["-w", "-iquote", str((ROOT / file).parent), *more, "-o", str(target), "-c", str(source)]
+    # Equal code makes equal objects, wherever its source lies and whatever its column.
+    same = ["-gno-column-info", f"-ffile-prefix-map={source}={file}"]
+    return words + ["-w", "-iquote", str((ROOT / file).parent), *same, *more, "-o", str(target), "-c", str(source)]
+
+
+@functools.cache
+def unchanged_object(file, place):
+    """What the compiler makes of a file without a mutant."""
+    source, target = place / "mutant.cpp", place / "unchanged.o"
+    shutil.copyfile(ROOT / file, source)
+    subprocess.run(compile_command(file, source, target), cwd=BUILD, check=True)
+    return target.read_bytes()
 
 
 def link_command(program):
@@ -270,13 +296,16 @@ def suites_for(mutant, measured):
 # ---- Trying
 
 def attempt(mutant, place, measured, programs, commands):
-    """What became of a mutant: the suite that fails, "survived", or "doesn't compile"."""
+    """What became of a mutant: the suite that fails, "survived", "doesn't compile" or "same code"."""
     source, target = place / "mutant.cpp", place / "mutant.o"
+    unchanged = unchanged_object(mutant.file, place)
     lines = (ROOT / mutant.file).read_text().split("\n")
     lines[mutant.number - 1] = mutant.change
     source.write_text("\n".join(lines))
     if subprocess.run(compile_command(mutant.file, source, target), cwd=BUILD, capture_output=True).returncode != 0:
         return "doesn't compile"
+    if target.read_bytes() == unchanged:
+        return "same code"
     linked = set()
     for suite in suites_for(mutant, measured):
         program = programs[suite]
@@ -292,17 +321,20 @@ def attempt(mutant, place, measured, programs, commands):
     return "survived"
 
 
-def run(files, count, seed, jobs):
+def percent(part, whole):
+    return f"{100 * part / whole:.1f} %" if whole else "none"
+
+
+def run(drawn, count, jobs):
+    """Tries as many of the mutants as are asked for, in their order. The exit code."""
     measured = measure(jobs)
     programs = {suite: program for program, suites in tests().items() for suite in suites}
     commands = {program: link_command(program) for program in {name for names in PROGRAMS.values() for name in names}}
-    drawn = [mutant for file in files for mutant in mutants_of_file(file)]
-    random.Random(seed).shuffle(drawn)
     places = queue.Queue()
     for number in range(jobs):
         place_for_programs(WORK / str(number) / "bin")
         places.put(WORK / str(number))
-    survivors, killed, broken = [], 0, 0
+    ends, survivors, uncounted = collections.Counter(), [], ("doesn't compile", "same code")
 
     def one(mutant):
         place = places.get()
@@ -312,21 +344,25 @@ def run(files, count, seed, jobs):
             places.put(place)
 
     with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
-        # As many more as don't compile are drawn, in the same order.
-        while drawn and killed + len(survivors) < count:
-            batch = [drawn.pop(0) for _ in range(min(len(drawn), count - killed - len(survivors)))]
+        # As many more as aren't counted are drawn, in the same order.
+        while drawn and (missing := count - ends["killed"] - ends["survived"]) > 0:
+            batch, drawn = drawn[:missing], drawn[missing:]
             for mutant, end in pool.map(one, batch):
                 print(f"{end}\t{mutant}", flush=True)
                 survivors += [mutant] if end == "survived" else []
-                broken += end == "doesn't compile"
-                killed += end not in ("survived", "doesn't compile")
-    known = listed_survivors()
-    unknown = [mutant for mutant in survivors if (mutant.file, mutant.entry()) not in known]
-    print(f"\n{killed + len(survivors)} mutants, {killed} killed, {len(survivors)} survived, {len(unknown)} of them not "
-          f"in tests/mutants.md; {broken} more didn't compile. Seed {seed}.")
-    for mutant in unknown:
-        print(mutant)
-    return 1 if unknown else 0
+                ends[end if end in ("survived", *uncounted) else "killed"] += 1
+    listed = listed_survivors()
+    known = [listed[mutant.key()] for mutant in survivors if mutant.key() in listed]
+    tried, killed = ends["killed"] + ends["survived"], ends["killed"]
+    faults = tried - sum(known)
+    print(f"\n{tried} mutants, {killed} killed ({percent(killed, tried)}). {len(survivors)} survived; tests/mutants.md "
+          f"calls {sum(known)} of them equivalent (without them {percent(killed, faults)} killed), lists "
+          f"{len(known) - sum(known)} more, and not the other {len(survivors) - len(known)}. Not counted: "
+          f"{ends['same code']} of the same code, {ends[uncounted[0]]} that don't compile.")
+    for mutant in survivors:
+        if mutant.key() not in listed:
+            print(mutant)
+    return 1 if len(known) < len(survivors) else 0
 
 
 # ---- The check of this program itself
@@ -372,6 +408,7 @@ def main():
     parser.add_argument("files", nargs="*", metavar="FILE", help="sources; by default all of src/work and src/window")
     parser.add_argument("--count", type=int, default=500, help="how many mutants (500)")
     parser.add_argument("--seed", type=int, default=1, help="draws others by another number (1)")
+    parser.add_argument("--again", metavar="LOG", help="only what survived in a run whose output this is")
     parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="how many at a time")
     parser.add_argument("--self-check", action="store_true", help="only checks the rules and the list")
     options = parser.parse_args()
@@ -379,7 +416,12 @@ def main():
         return self_check()
     files = options.files or [str(path.relative_to(ROOT)) for where in FOLDERS
                               for path in sorted((ROOT / where).rglob("*.cpp"))]
-    return run(files, options.count, options.seed, options.jobs)
+    drawn = [mutant for file in files for mutant in mutants_of_file(file)]
+    random.Random(options.seed).shuffle(drawn)
+    if options.again:
+        lines = set(pathlib.Path(options.again).read_text().split("\n"))
+        drawn = [mutant for mutant in drawn if f"survived\t{mutant}" in lines]
+    return run(drawn, options.count, options.jobs)
 
 
 if __name__ == "__main__":
