@@ -4,6 +4,7 @@
 
 #include "machine/registrystore.h"
 #include "platform/windowsfacts.h"
+#include "wayback/waybackscript.h"
 #include "work/command.h"
 #include "work/interruption.h"
 #include "work/settings.h"
@@ -245,8 +246,10 @@ private:
     void setPackage(const QString &name, bool installed)
     {
         if (name == oneDriveName) {
-            const QString setup = qEnvironmentVariable("WINDIR") + u"\\SysWOW64\\OneDriveSetup.exe"_s;
-            run(u'"' + setup + u'"', {installed ? u"/silent"_s : u"/uninstall"_s});
+            const QString windows = qEnvironmentVariable("WINDIR");
+            const QString setup = oneDriveSetup(
+                [&windows](const QString &path) { return QFileInfo::exists(platform().hostPath(windows + path)); });
+            run(u'"' + windows + setup + u'"', {installed ? u"/silent"_s : u"/uninstall"_s});
             return;
         }
         const QString program = qEnvironmentVariable("windir") + u"/system32/WindowsPowerShell/v1.0/powershell.exe"_s;

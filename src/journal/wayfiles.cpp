@@ -3,6 +3,7 @@
 #include "takeback.h"
 
 #include "machine/machineerror.h"
+#include "platform/platform.h"
 #include "platform/windowsfacts.h"
 
 #include <QDir>
@@ -118,8 +119,12 @@ private:
 
     void addPackage(const QString &name, bool installed)
     {
-        if (name == oneDriveName)
-            return installed ? script_.installOneDrive() : script_.removeOneDrive();
+        if (name == oneDriveName) {
+            const QString setup = oneDriveSetup([](const QString &path) {
+                return QFileInfo::exists(platform().hostPath(qEnvironmentVariable("WINDIR") + path));
+            });
+            return installed ? script_.installOneDrive(setup) : script_.removeOneDrive(setup);
+        }
         return installed ? script_.installPackage(name) : script_.removePackage(name);
     }
 

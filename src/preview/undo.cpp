@@ -141,7 +141,8 @@ private:
             return row.kind == DiffKind::File && row.after.isEmpty() && isOfOneDrive(row.path);
         });
         if (oneDrive)
-            script_.installOneDrive();
+            script_.installOneDrive(oneDriveSetup(
+                [this](const QString &path) { return QFileInfo::exists(before_.hostPath(u"C:\\Windows"_s + path)); }));
     }
 
     void setSecurity(const DiffRow &row)

@@ -25,7 +25,6 @@ namespace {
 const QString system32 = u"%SystemRoot%\\System32\\"_s;
 const QString prompt = u"cmd.exe /d /c "_s;
 const QString powerShell = u"WindowsPowerShell\\v1.0\\powershell.exe -Command "_s;
-const QString oneDriveSetup = u"%SystemRoot%\\SysWOW64\\OneDriveSetup.exe"_s;
 
 QString quoted(const QString &text)
 {
@@ -241,14 +240,20 @@ void WayBackScript::removePackage(const QString &name)
     givePackage(name, u"Get-AppxPackage %1 \" | Remove-AppxPackage\""_s);
 }
 
-void WayBackScript::installOneDrive()
+QString oneDriveSetup(const std::function<bool(const QString &path)> &exists)
 {
-    commands_.append(oneDriveSetup + u" /silent"_s);
+    const QString of32Bits = u"\\SysWOW64\\OneDriveSetup.exe"_s;
+    return exists(of32Bits) ? of32Bits : u"\\System32\\OneDriveSetup.exe"_s;
 }
 
-void WayBackScript::removeOneDrive()
+void WayBackScript::installOneDrive(const QString &setup)
 {
-    commands_.append(oneDriveSetup + u" /uninstall"_s);
+    commands_.append(u"%SystemRoot%"_s + setup + u" /silent"_s);
+}
+
+void WayBackScript::removeOneDrive(const QString &setup)
+{
+    commands_.append(u"%SystemRoot%"_s + setup + u" /uninstall"_s);
 }
 
 void WayBackScript::setBootOption(const QString &name, const std::optional<QString> &value)

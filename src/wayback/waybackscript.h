@@ -6,6 +6,7 @@
 #include "machine/compare/diffrow.h"
 #include "machine/source/regfile.h"
 
+#include <functional>
 #include <optional>
 
 /** What has to be put where, because a command can't say it. */
@@ -20,6 +21,13 @@ struct WrittenWayBack
     QStringList files;
     QStringList leftOut; ///< as in WayBackScript
 };
+
+/**
+ * OneDrive's installer, by its path below the folder of Windows: one of 32 bits or, alone since Windows 11 24H2, one of
+ * 64.
+ * @param exists whether there is a file, by its path below that folder
+ */
+QString oneDriveSetup(const std::function<bool(const QString &path)> &exists);
 
 /** The steps of a way back, in the order in which they are told. Paths are Windows paths. */
 class WayBackScript
@@ -59,8 +67,9 @@ public:
     void switchHibernation(bool on);
     void installPackage(const QString &name);
     void removePackage(const QString &name);
-    void installOneDrive();
-    void removeOneDrive();
+    /** @param setup by oneDriveSetup() */
+    void installOneDrive(const QString &setup);
+    void removeOneDrive(const QString &setup);
     /** @param value nothing: the option goes */
     void setBootOption(const QString &name, const std::optional<QString> &value);
     void enableTask(const QString &path, bool enabled);
