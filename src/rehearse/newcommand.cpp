@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kestrune-rehearse new
 
+#include "machine/source/machinejson.h"
 #include "machine/source/machinesource.h"
 #include "platform/processground.h"
 #include "progress.h"
@@ -8,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -41,17 +43,29 @@ int runNew(const Arguments &arguments)
     return ExitDone;
 }
 
+/** Each with its name and where its facts come from. */
 QString builtInMachines()
 {
-    const QStringList names = QDir(builtInFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
-    return names.isEmpty() ? QString() : u"Built-in machines: %1.\n"_s.arg(names.join(", "_L1));
+    QString text;
+    for (const QString &name : QDir(builtInFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+        const QString path = builtInFolder() + u'/' + name + u"/machine.json"_s;
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        const MachineDescription machine = parseMachineJson(file.readAll(), path);
+        text += u"  "_s + name + u'\n';
+        for (const QString &line : QStringList(machine.name.value_or(QString())) + machine.facts)
+            text += u"      "_s + line + u'\n';
+    }
+    return text.isEmpty() ? QString() : u"Built-in machines:\n"_s + text;
 }
 
 // clang-format off
 constexpr OptionRow options[] = {
     {"from"_L1,  "SOURCE"_L1, "fill it from a built-in machine, or from a folder of .reg files, tasks.xml and machine.json"_L1,
-     "Fills it from a built-in machine,\n.B windows10\nor\n.BR windows11 ,\n"
-     "or from a folder of sources: all its\n.I .reg\nfiles in the order of their names, then its\n"
+     "Fills it from a built-in machine:\n.B windows11\nand\n.B windows10\nare PCs that were upgraded,\n"
+     ".B windows11\\-25h2\nis one that was installed anew.\nThe help of this command tells where their facts come from.\n"
+     "Or fills it from a folder of sources: all its\n.I .reg\nfiles in the order of their names, then its\n"
      ".I tasks.xml\nand its\n.IR machine.json ."_L1},
     {"force"_L1, {},          "replace the machine that is there"_L1,
      "Replaces the machine that is there.\nOnly a rehearsal machine is ever replaced."_L1},

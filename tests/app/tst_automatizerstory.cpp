@@ -92,20 +92,22 @@ void TestAutomatizerStory::verifyWhatStaysChanged(MachinePair &pair, const QStri
     const QStringList differences = pair.differences();
     // All services run as before, all tasks are on again.
     QCOMPARE(withBeginning(differences, u"service "_s) + withBeginning(differences, u"task "_s), QStringList());
-    // The encoder stays off, and the backups stay.
+    // The encoder stays off, the backups stay, and OneDrive's installer of 32 bits isn't there to bring it back.
     QStringList files = backups;
+    files.append(u"file "_s + qEnvironmentVariable("LOCALAPPDATA") + u"\\Microsoft\\OneDrive\\OneDrive.exe"_s);
     files.append(u"file program\\backup_autorun\\Run.reg"_s);
     files.append(u"file C:\\Program Files (x86)\\RivaTuner Statistics Server\\Profiles\\config"_s);
     files.sort();
     QCOMPARE(withBeginning(differences, u"file "_s), files);
     // Programs without quotes in their command, or without their file.
-    QCOMPARE(withBeginning(differences, u"registry "_s + userRunKey + u" | "_s)
-                 + withBeginning(differences, u"registry "_s + machineRunKey32 + u" | "_s)
-                 + withBeginning(differences, u"registry "_s + machineRunKey + u" | "_s),
-             (QStringList{u"registry "_s + userRunKey + u" | LogiOptionsPlus"_s,
-                          u"registry "_s + userRunKey + u" | Old Player"_s,
-                          u"registry "_s + machineRunKey32 + u" | ArmouryCrate Helper"_s,
-                          u"registry "_s + machineRunKey32 + u" | RTSS"_s}));
+    QCOMPARE(
+        withBeginning(differences, u"registry "_s + userRunKey + u" | "_s)
+            + withBeginning(differences, u"registry "_s + machineRunKey32 + u" | "_s)
+            + withBeginning(differences, u"registry "_s + machineRunKey + u" | "_s),
+        (QStringList{u"registry "_s + userRunKey + u" | LogiOptionsPlus"_s,
+                     u"registry "_s + userRunKey + u" | Old Player"_s, u"registry "_s + userRunKey + u" | OneDrive"_s,
+                     u"registry "_s + machineRunKey32 + u" | ArmouryCrate Helper"_s,
+                     u"registry "_s + machineRunKey32 + u" | RTSS"_s}));
     // Services come back as automatic ones; those set to manual stay that.
     for (const QString &service : needless)
         QCOMPARE(pair.machine.read(servicesKey + u'\\' + service, u"Start"_s), QVariant(2));

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the built-in machines have of scheduled tasks, packaged applications and programs started at logon.
+// What the built-in machines have of services, scheduled tasks, packaged applications and programs started at logon.
 
 #include "support/smallmachine.h"
 #include "support/suite.h"
 
 #include "machine/registrydisplay.h"
+#include "machine/source/machinejson.h"
 #include "platform/taskdocument.h"
+#include "platform/windowsfacts.h"
 
 #include <QJsonArray>
 #include <QSet>
@@ -18,6 +20,56 @@ namespace {
 const QString userVersion = u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion"_s;
 const QString appModel = u"HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\"
                          "CurrentVersion\\AppModel"_s;
+
+// What a stock Windows 11 24H2 and lists of the defaults of Windows 11 agree on; Windows 10 has the first three too.
+// clang-format off
+constexpr char automaticServices[] =
+    "BFE BrokerInfrastructure CDPSvc CDPUserSvc CoreMessagingRegistrar CryptSvc DcomLaunch Dhcp DiagTrack "
+    "DispBrokerDesktopSvc Dnscache DoSvc DPS DusmSvc edgeupdate EventLog EventSystem FontCache gpsvc "
+    "iphlpsvc LanmanServer LanmanWorkstation LSM MapsBroker nsi OneSyncSvc PcaSvc Power ProfSvc "
+    "RpcEptMapper RpcSs SamSs Schedule SENS ShellHWDetection Spooler sppsvc SysMain SystemEventsBroker "
+    "Themes TrkWks UserManager Wcmsvc WinDefend Winmgmt WpnService";
+constexpr char manualServices[] =
+    "AarSvc ALG AppIDSvc Appinfo AppMgmt AppReadiness AppXSvc AssignedAccessManagerSvc autotimesvc "
+    "AxInstSV BcastDVRUserService BDESVC BluetoothUserService BTAGService BthAvctpSvc bthserv "
+    "CaptureService CertPropSvc ClipSVC COMSysApp ConsentUxUserSvc CredentialEnrollmentManagerUserSvc "
+    "defragsvc DeviceInstall DevicePickerUserSvc DevicesFlowUserSvc DevQueryBroker diagsvc "
+    "DisplayEnhancementService DmEnrollmentSvc dmwappushservice dot3svc DsmSvc DsSvc EapHost edgeupdatem "
+    "EFS embeddedmode EntAppSvc fdPHost FDResPub fhsvc FrameServer GraphicsPerfSvc hidserv HvHost icssvc "
+    "IKEEXT InstallService IpxlatCfgSvc KtmRm lfsvc LicenseManager lltdsvc lmhosts LxpSvc "
+    "MessagingService MSiSCSI msiserver NaturalAuthentication NcaSvc NcbService NcdAutoSetup Netlogon "
+    "Netman netprofm NetSetupSvc NgcCtnrSvc NgcSvc PeerDistSvc perceptionsimulation PerfHost PhoneSvc "
+    "PimIndexMaintenanceSvc pla PlugPlay PolicyAgent PrintNotify PrintWorkflowUserSvc PushToInstall QWAVE "
+    "RasAuto RmSvc RpcLocator SCardSvr ScDeviceEnum SCPolicySvc SDRSVC seclogon SEMgrSvc Sense "
+    "SensorDataService SensorService SensrSvc SessionEnv SharedAccess smphost SmsRouter SNMPTrap SSDPSRV "
+    "SstpSvc svsvc swprv TapiSrv TermService TieringEngineService TimeBrokerSvc TokenBroker "
+    "TroubleshootingSvc TrustedInstaller UdkUserSvc UmRdpService UnistoreSvc upnphost UserDataSvc "
+    "VaultSvc vds vmicguestinterface vmicheartbeat vmickvpexchange vmicrdv vmicshutdown vmictimesync "
+    "vmicvmsession vmicvss VSS WaaSMedicSvc WalletService WarpJITSvc wbengine WbioSrvc WdiSystemHost "
+    "WdNisSvc WebClient Wecsvc WEPHOSTSVC wercplsupport WerSvc WFDSConMgrSvc WiaRpc WinHttpAutoProxySvc "
+    "wisvc wlidsvc WManSvc wmiApSrv WpcMonSvc WPDBusEnum wuauserv WwanSvc XblAuthManager XblGameSave "
+    "XboxGipSvc XboxNetApiSvc";
+constexpr char disabledServices[] =
+    "AppVClient DialogBlockingService NetTcpPortSharing RemoteAccess ssh-agent tzautoupdate "
+    "UevAgentService";
+constexpr char automaticServicesOf11[] =
+    "camsvc StateRepository StorSvc whesvc WSAIFabricSvc";
+constexpr char manualServicesOf11[] =
+    "ADPSvc ApxSvc BITS CloudBackupRestoreSvc DeviceAssociationService GameInputSvc hpatchmon KeyIso "
+    "LocalKdc McmSvc midisrv NlaSvc NPSMSvc P9RdrService PenService PrintDeviceConfigurationService "
+    "PrintScanBrokerService RasMan WMPNetworkSvc wuqisvc";
+
+// Tasks below \Microsoft\Windows whose definitions switch them on or off.
+constexpr char enabledTasks[] =
+    "Management\\Provisioning\\Logon|Work Folders\\Work Folders Logon Synchronization";
+constexpr char disabledTasks[] =
+    "Clip\\License Validation|DeviceDirectoryClient\\RegisterDevicePeriodic24";
+constexpr char enabledTasksOf11[] = "PushToInstall\\Registration";
+constexpr char disabledTasksOf11[] =
+    "Management\\Provisioning\\Retry|Management\\Provisioning\\RunOnReboot|Clip\\LicenseImdsIntegration|"
+    "Management\\Provisioning\\MdmDiagnosticsCleanup|MemoryDiagnostic\\RunFullMemoryDiagnostic|"
+    "SoftwareProtectionPlatform\\SvcRestartTaskNetwork|WaaSMedic\\PerformRemediation";
+// clang-format on
 
 /** The machine of the running row. */
 class BuiltIn
@@ -41,6 +93,13 @@ public:
         const auto id = machine_->registry().find(key);
         return id ? QStringList(machine_->registry().subkeys(*id)) : QStringList();
     }
+    /** How a service starts; 0 where there is none. */
+    int startOf(const QString &service)
+    {
+        const auto id = machine_->registry().find(WindowsKey::services + u'\\' + service);
+        const auto start = id ? machine_->registry().value(*id, u"Start"_s) : std::nullopt;
+        return start ? start->data.at(0) : 0;
+    }
     bool exists(const QString &windowsPath) { return QFile::exists(machine_->hostPath(windowsPath)); }
 
 private:
@@ -55,6 +114,16 @@ class TestBuiltInMachines : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void theySayWhereTheirFactsComeFrom_data() { machines(); }
+    void theySayWhereTheirFactsComeFrom();
+    void startTypes_data();
+    void startTypes();
+    void servicesOfWindows11_data();
+    void servicesOfWindows11();
+    void everyServiceHasWhatItNeeds_data() { machines(); }
+    void everyServiceHasWhatItNeeds();
+    void taskStates_data();
+    void taskStates();
     void tasks_data();
     void tasks();
     void theAutomatizerFindsTasksOfFeaturesAndAnEncoder_data() { machines(); }
@@ -77,14 +146,116 @@ private:
     static void machines()
     {
         QTest::addColumn<QString>("name");
-        for (const char *name : {"windows11", "windows10"})
+        for (const char *name : {"windows11-25h2", "windows11", "windows10"})
             QTest::newRow(name) << QString::fromLatin1(name);
     }
 };
 
+void TestBuiltInMachines::theySayWhereTheirFactsComeFrom()
+{
+    QFETCH(const QString, name);
+    const QString path = builtProgram(u"machines/"_s + name) + u"/machine.json"_s;
+    const QStringList facts = parseMachineJson(readFile(path), path).facts;
+    QVERIFY(facts.size() >= 3);
+    // Which PC it is, and where its services and tasks are from.
+    QVERIFY(facts.filter(u"uild "_s).size() > 0 && facts.filter(u"ervices"_s).size() > 0);
+    QVERIFY(facts.filter(u"upgraded PC"_s).isEmpty() == (name == "windows11-25h2"_L1));
+}
+
+void TestBuiltInMachines::startTypes_data()
+{
+    addColumns<QString, QString, int>("name", "services", "start");
+    for (const char *name : {"windows11-25h2", "windows11", "windows10"}) {
+        const auto row = [name](const char *kind, const char *services, int start) {
+            QTest::addRow("%s, %s", name, kind) << QString::fromLatin1(name) << QString::fromLatin1(services) << start;
+        };
+        row("automatic", automaticServices, StartAutomatic);
+        row("manual", manualServices, StartOnDemand);
+        row("disabled", disabledServices, StartDisabled);
+        if (qstrcmp(name, "windows10") != 0) {
+            row("automatic on 11", automaticServicesOf11, StartAutomatic);
+            row("manual on 11", manualServicesOf11, StartOnDemand);
+        }
+    }
+}
+
+void TestBuiltInMachines::startTypes()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, services);
+    QFETCH(const int, start);
+    BuiltIn machine(name);
+    for (const QString &service : services.split(u' '))
+        QVERIFY2(machine.startOf(service) == start, qUtf8Printable(service));
+}
+
+void TestBuiltInMachines::servicesOfWindows11_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"windows11-25h2", "windows11"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TestBuiltInMachines::servicesOfWindows11()
+{
+    QFETCH(const QString, name);
+    BuiltIn machine(name);
+    for (const auto &[service, group] : {std::pair{u"gpsvc"_s, u"GPSvcGroup"_s},
+                                         {u"ProfSvc"_s, u"UserProfileService -p"_s},
+                                         {u"NlaSvc"_s, u"netprofm -p"_s},
+                                         {u"WinHttpAutoProxySvc"_s, u"LocalServiceHttp -p"_s}})
+        QCOMPARE(machine.text(WindowsKey::services + u'\\' + service, u"ImagePath"_s),
+                 u"%SystemRoot%\\system32\\svchost.exe -k "_s + group);
+    const auto key = machine->registry().find(WindowsKey::services + u"\\NlaSvc"_s);
+    QVERIFY(key && !machine->registry().value(*key, u"DependOnService"_s));
+    QVERIFY(!machine->registry().find(WindowsKey::services + u"\\P9RdrSvc"_s));
+}
+
+void TestBuiltInMachines::everyServiceHasWhatItNeeds()
+{
+    QFETCH(const QString, name);
+    BuiltIn machine(name);
+    for (const QString &service : machine.subkeys(WindowsKey::services)) {
+        const auto key = machine->registry().find(WindowsKey::services + u'\\' + service);
+        const auto needed = machine->registry().value(*key, u"DependOnService"_s);
+        for (const QString &other : needed ? textsOf(needed->data) : QStringList())
+            QVERIFY2(machine->registry().find(WindowsKey::services + u'\\' + other), qUtf8Printable(service));
+    }
+}
+
+void TestBuiltInMachines::taskStates_data()
+{
+    addColumns<QString, QString, bool>("name", "tasks", "enabled");
+    for (const char *name : {"windows11-25h2", "windows11", "windows10"}) {
+        const auto row = [name](const char *kind, const char *tasks, bool enabled) {
+            QTest::addRow("%s, %s", name, kind) << QString::fromLatin1(name) << QString::fromLatin1(tasks) << enabled;
+        };
+        row("on", enabledTasks, true);
+        row("off", disabledTasks, false);
+        if (qstrcmp(name, "windows10") != 0) {
+            row("on on 11", enabledTasksOf11, true);
+            row("off on 11", disabledTasksOf11, false);
+        }
+    }
+}
+
+void TestBuiltInMachines::taskStates()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, tasks);
+    QFETCH(const bool, enabled);
+    BuiltIn machine(name);
+    for (const QString &path : tasks.split(u'|')) {
+        const auto task = machine->task(u"\\Microsoft\\Windows\\"_s + path);
+        QVERIFY2(task && taskFacts(task->document).enabled == enabled, qUtf8Printable(path));
+    }
+}
+
 void TestBuiltInMachines::tasks_data()
 {
     addColumns<QString, qsizetype, QString>("name", "fewest", "ofTheVendor");
+    QTest::newRow("windows11-25h2") << u"windows11-25h2"_s << qsizetype(244)
+                                    << u"\\NvTmRep_{B2FE1952-0186-46C3-BAEC-A80AA35AC5B8}"_s;
     QTest::newRow("windows11") << u"windows11"_s << qsizetype(180)
                                << u"\\NvTmRep_{B2FE1952-0186-46C3-BAEC-A80AA35AC5B8}"_s;
     QTest::newRow("windows10") << u"windows10"_s << qsizetype(145) << u"\\AMDRyzenMasterSDKTask"_s;
@@ -127,9 +298,9 @@ void TestBuiltInMachines::theAutomatizerFindsTasksOfFeaturesAndAnEncoder()
     }
     QVERIFY(on > 0 && off > 0);
     QCOMPARE(taskFacts(machine->task(u"\\Microsoft\\Windows\\Ras\\MobilityManager"_s)->document).enabled,
-             name == u"windows11");
+             name != u"windows10");
     const QStringList encoders = machine->processes().filter(u"EncoderServer"_s);
-    QCOMPARE(encoders, QStringList{name == u"windows11" ? u"EncoderServer64.exe"_s : u"EncoderServer.exe"_s});
+    QCOMPARE(encoders, QStringList{name == u"windows10" ? u"EncoderServer.exe"_s : u"EncoderServer64.exe"_s});
     QVERIFY(machine->processes().contains(u"RTSS.exe"_s));
     QVERIFY(machine.exists(u"C:\\Program Files (x86)\\RivaTuner Statistics Server\\Profiles\\config"_s));
 }
@@ -153,7 +324,7 @@ void TestBuiltInMachines::packages()
     BuiltIn machine(name);
     const QString key = appModel + u"\\Repository\\Packages"_s;
     const QStringList fullNames = machine.subkeys(key);
-    QVERIFY(fullNames.size() >= 85);
+    QVERIFY(fullNames.size() >= (name == "windows11-25h2"_L1 ? 75 : 85));
     QSet<QString> families;
     int plain = 0, resources = 0, references = 0;
     for (const QString &fullName : fullNames) {
@@ -179,8 +350,9 @@ void TestBuiltInMachines::oneDrive()
     BuiltIn machine(name);
     const QString home = machine->environment().value(u"LOCALAPPDATA"_s);
     QVERIFY(machine.exists(home + u"\\Microsoft\\OneDrive\\OneDrive.exe"_s));
-    QVERIFY(machine.exists(u"C:\\Windows\\SysWOW64\\OneDriveSetup.exe"_s));
-    QCOMPARE(machine.exists(u"C:\\Windows\\System32\\OneDriveSetup.exe"_s), name == "windows11"_L1);
+    // Windows 11 24H2 has a setup of 64 bits alone, Windows 10 one of 32 bits alone.
+    QCOMPARE(machine.exists(u"C:\\Windows\\SysWOW64\\OneDriveSetup.exe"_s), name == "windows10"_L1);
+    QCOMPARE(machine.exists(u"C:\\Windows\\System32\\OneDriveSetup.exe"_s), name != "windows10"_L1);
     const QString command = machine.text(userVersion + u"\\Uninstall\\OneDriveSetup.exe"_s, u"UninstallString"_s);
     QVERIFY(command.startsWith(u'"') && command.endsWith("\"  /uninstall "_L1));
     QVERIFY(machine.exists(command.split(u'"').at(1)));
@@ -192,6 +364,9 @@ void TestBuiltInMachines::whatTweaksLookFor_data()
 {
     addColumns<QString, QString, QString, QString, QList<qsizetype>>("name", "search", "cloudService", "vendor",
                                                                      "hints");
+    QTest::newRow("windows11-25h2") << u"windows11-25h2"_s
+                                    << u"MicrosoftWindows.Client.CBS_cw5n1h2txyewy\\SearchHost.exe"_s
+                                    << u"CloudBackupRestoreSvc_4e5b1"_s << u"NVIDIA"_s << QList<qsizetype>{0, 0, 22};
     QTest::newRow("windows11") << u"windows11"_s << u"MicrosoftWindows.Client.CBS_cw5n1h2txyewy\\SearchHost.exe"_s
                                << u"CloudBackupRestoreSvc_5cbba"_s << u"NVIDIA"_s << QList<qsizetype>{0, 0, 22};
     QTest::newRow("windows10") << u"windows10"_s << u"Microsoft.Windows.Search_cw5n1h2txyewy\\SearchApp.exe"_s
@@ -229,7 +404,7 @@ void TestBuiltInMachines::whatTweaksLookFor()
     QVERIFY(machine->task(u"\\Microsoft\\Windows\\CloudRestore\\Restore"_s));
     const auto service = machine->registry().find(control + u"Services\\"_s + cloudService);
     QVERIFY(service);
-    // On one of them nothing sorts after Type, on the other something does.
+    // On one of them nothing sorts after Type, on the others something does.
     QCOMPARE(machine->registry().valueNames(*service).constLast(),
              name == u"windows11" ? u"Type"_s : u"UserServiceFlags"_s);
     QCOMPARE(machine->registry().find(control + u"Services\\Hpet"_s).has_value(), name == u"windows10");

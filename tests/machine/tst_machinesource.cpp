@@ -179,6 +179,7 @@ void TestMachineSource::malformedJsonIsToldWithItsPlace_data()
     QTest::newRow("running")         << json(R"("running": "RpcSs")") << u": running: must be an array"_s;
     QTest::newRow("process")         << json(R"("processes": ["a", ""])") << u": processes[1]: must not be empty"_s;
     QTest::newRow("wmi")             << json(R"("wmi": { "Win32_BIOS": [1] })") << u": wmi.Win32_BIOS[0]: must be an object"_s;
+    QTest::newRow("facts")           << json(R"("facts": "x")") << u": facts: must be an array"_s;
     QTest::newRow("hardware")        << json(R"("hardware": { "fans": 2 })") << u": hardware.fans: unknown key"_s;
     QTest::newRow("drive")           << json(R"("hardware": { "volumes": { "C": {} } })") << u": hardware.volumes.C: not a drive, such as C:"_s;
     QTest::newRow("seek penalty")    << json(R"("hardware": { "volumes": { "C:": { "seekPenalty": 0 } } })") << u": hardware.volumes.C:.seekPenalty: must be true or false"_s;

@@ -83,6 +83,7 @@ void TestRehearseAutomatizer::linesOfTheBuiltInMachines_data()
         QTest::addRow("%s, all kept", name) << builtIn << u"%1-kept"_s.arg(builtIn) << kept;
         QTest::addRow("%s, given up and kept again", name) << builtIn << u"%1-givenup"_s.arg(builtIn) << twice;
     }
+    QTest::newRow("windows11-25h2, all kept") << u"windows11-25h2"_s << u"windows11-25h2-kept"_s << kept;
 }
 
 void TestRehearseAutomatizer::linesOfTheBuiltInMachines()

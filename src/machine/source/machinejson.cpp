@@ -44,10 +44,11 @@ private:
         QLatin1StringView key;
         Section read;
     };
-    static const std::array<SectionRow, 11> sections;
+    static const std::array<SectionRow, 12> sections;
 
     void readFormatVersion(const QJsonValue &value, const QString &key);
     void readName(const QJsonValue &value, const QString &key);
+    void readFacts(const QJsonValue &value, const QString &key);
     void readEnvironment(const QJsonValue &value, const QString &key);
     void readRunning(const QJsonValue &value, const QString &key);
     void readProcesses(const QJsonValue &value, const QString &key);
@@ -68,9 +69,10 @@ private:
 };
 
 // clang-format off
-const std::array<MachineJsonParser::SectionRow, 11> MachineJsonParser::sections{{
+const std::array<MachineJsonParser::SectionRow, 12> MachineJsonParser::sections{{
     {"formatVersion"_L1, &MachineJsonParser::readFormatVersion},
     {"name"_L1,          &MachineJsonParser::readName},
+    {"facts"_L1,         &MachineJsonParser::readFacts},
     {"environment"_L1,   &MachineJsonParser::readEnvironment},
     {"running"_L1,       &MachineJsonParser::readRunning},
     {"processes"_L1,     &MachineJsonParser::readProcesses},
@@ -112,6 +114,11 @@ void MachineJsonParser::readName(const QJsonValue &value, const QString &key)
     result_.name = read_.name(value, key);
     if (result_.name->contains(u'\n'))
         read_.fail(key, u"must be one line"_s);
+}
+
+void MachineJsonParser::readFacts(const QJsonValue &value, const QString &key)
+{
+    result_.facts = read_.names(value, key);
 }
 
 void MachineJsonParser::readEnvironment(const QJsonValue &value, const QString &key)

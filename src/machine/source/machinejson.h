@@ -23,6 +23,7 @@ struct FileDescription
 struct MachineDescription
 {
     std::optional<QString> name;
+    QStringList facts{};        ///< what kind of PC it is, and where what it has comes from, a sentence or two each
     bool namesReplaced = false; ///< those of the PC and its users, by whoever made this
     QMap<QString, QString> environment;
     QStringList running;
