@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tests of how stock tools are run, with real processes.
 
+#include "fakeplatform.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/command.h"
@@ -53,6 +54,13 @@ int runningTools(const TestMachine &machine)
         return -1;
     return static_cast<int>(programsOf(machine.machine().toolsFolder()).size());
 }
+
+/** Every program is there when it is looked for. */
+class PromisingPlatform : public FakePlatform
+{
+public:
+    QString programFile(const QString &program) const override { return program; }
+};
 
 std::atomic<bool> nothingCanBeKilled = false;
 
@@ -110,6 +118,7 @@ private Q_SLOTS:
     void theTimeLimitIs30Seconds();
     void aProgramThatIsMissingIsKnownRightAfterTheStart_data();
     void aProgramThatIsMissingIsKnownRightAfterTheStart();
+    void aProgramThatGoesBeforeItsStartFailsToStart();
     void noProgramOfTheHostIsEverStarted_data();
     void noProgramOfTheHostIsEverStarted();
     void aProgramMayStandInQuotes_data();
@@ -175,6 +184,17 @@ void TestCommand::aProgramThatIsMissingIsKnownRightAfterTheStart()
     command.close();
     QCOMPARE(command.exitCode(), 0);
     QCOMPARE(machine.commands(), QList<LoggedCommand>());
+}
+
+void TestCommand::aProgramThatGoesBeforeItsStartFailsToStart()
+{
+    const PlatformInForce<PromisingPlatform> platform;
+    Command command;
+    command.start(QDir::tempPath() + u"/gone/sc.exe"_s, {u"query"_s});
+    QVERIFY(command.failedToStart());
+    QVERIFY(!command.errorString().isEmpty()); // in the system's words
+    command.waitForFinished();
+    QCOMPARE(command.exitCode(), 0);
 }
 
 void TestCommand::noProgramOfTheHostIsEverStarted_data()
