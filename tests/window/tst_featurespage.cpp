@@ -303,6 +303,7 @@ void TestFeaturesPage::hibernationShowsItsGain_data()
     QTest::newRow("cut, not rounded") << qint64(6400000000) << u"5.9"_s; // 5.96046
     QTest::newRow("one decimal") << 6 * gibibyte + gibibyte / 2 << u"6.5"_s;
     QTest::newRow("no decimals") << 3 * gibibyte << u"3"_s;
+    QTest::newRow("two digits without decimals") << 16 * gibibyte << u"16"_s;
     QTest::newRow("two digits") << qint64(13716160512) << u"12.7"_s;
     QTest::newRow("three digits") << 128 * gibibyte + gibibyte / 4 << u"128.2"_s;
     QTest::newRow("less than one") << gibibyte / 8 << u"0.1"_s;

@@ -132,6 +132,9 @@ private Q_SLOTS:
     void failuresAreTold();
     void whatStandsAgainstItIsTold();
     void aCaptureComesFirst();
+#ifndef Q_OS_WIN
+    void theCopyIsTriedWhenItIsThere();
+#endif
     void theFolderIsHeldUntilTheDialogIsClosed();
 };
 
@@ -365,6 +368,26 @@ void TestPreviewDialog::aCaptureComesFirst()
     QCOMPARE(preview.text(u"lblPreview"_s),
              u"There is no preview: capture reads the Windows that it runs on, and this is none"_s);
 }
+
+#ifndef Q_OS_WIN
+void TestPreviewDialog::theCopyIsTriedWhenItIsThere()
+{
+    const PreviewedPc machine;
+    const QTemporaryDir folder;
+    // Stands in for the program: a capture that makes its folder, and a preview of what was captured.
+    const QString program = folder.filePath(u"program"_s);
+    writeFile(program, "#!/bin/sh\n"
+                       "if [ \"$1\" = capture ]; then mkdir \"$2\"; exit; fi\n"
+                       "[ -d \"$2\" ] && echo '{\"counts\":{\"exactly\":3}}'\n");
+    QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+    const WindowDriver driver;
+    const Preview preview(driver, {.program = program, .machine = folder.filePath(u"copy"_s), .isCaptured = true});
+    QVERIFY(preview.isIdle());
+    QVERIFY(preview.isOpen());
+    QVERIFY2(preview.text(u"lblCounts"_s).contains(u"\n3 come back exactly"_s),
+             qPrintable(preview.text(u"lblCounts"_s)));
+}
+#endif
 
 void TestPreviewDialog::theFolderIsHeldUntilTheDialogIsClosed()
 {

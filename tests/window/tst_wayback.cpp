@@ -213,6 +213,7 @@ private Q_SLOTS:
     void aSingleChangeIsTakenBack();
     void whatSomethingElseHasChangedIsLeftAlone();
     void whatSomethingElseHasChangedIsTakenWhereItIsChecked();
+    void longNamesLeaveRoomForTheChanges();
     void laterSessionsAreTakenWithIt();
     void theSearchHidesTheOthers();
     void takingBackCanBeBrokenOff();
@@ -331,6 +332,20 @@ void TestWayBack::whatSomethingElseHasChangedIsTakenWhereItIsChecked()
     QVERIFY(dialog.take());
     QCOMPARE(startOf(pc, u"Alpha"_s), int(StartAutomatic));
     QCOMPARE(startOf(pc, u"Beta"_s), int(StartOnDemand));
+}
+
+void TestWayBack::longNamesLeaveRoomForTheChanges()
+{
+    const TestMachine machine;
+    const Journaled pc(machine);
+    JournalStore &store = pc.journal().store();
+    const qint64 session = store.beginSession({.what = QString(500, u'm')});
+    Note note;
+    note.item = {ItemKind::Key, u"HKEY_CURRENT_USER\\Software\\Made"_s};
+    store.add(session, {note});
+    store.endSession(session, SessionState::Finished);
+    const WindowDriver driver;
+    QCOMPARE(Dialog(driver).sessions()->minimumWidth(), 480);
 }
 
 void TestWayBack::laterSessionsAreTakenWithIt()
