@@ -26,7 +26,8 @@ class Check:
         self.failures = []
 
     def run(self, program, *words):
-        done = subprocess.run([self.programs / program, *words], cwd=self.place, capture_output=True, check=False)
+        done = subprocess.run([self.programs / program, *words], cwd=self.place, stdin=subprocess.DEVNULL,
+                              capture_output=True, check=False)
         return done.stdout.decode()
 
     def hold(self, schema, document):
@@ -80,12 +81,28 @@ def check_cli(check):
     printed("pc", "verify")
     printed("why", "why", "xbox")
     printed("undo-items", "undo")
+    check_dsc(check)
     check.hold("profile", json.loads(check.run("kestrune-cli", "profile", "new")))
     for example in sorted((SCHEMAS.parent / "profiles").glob("*.json")):
         check.hold("profile", json.loads(example.read_text()))
     schema = json.loads(check.run("kestrune-cli", "profile", "schema"))
     if schema != json.loads((SCHEMAS / "profile.schema.json").read_text()):
         check.failures.append("profile: 'kestrune-cli profile schema' prints another one")
+
+
+def check_dsc(check):
+    """What it gives fits its own schema; the manifest that is packed is the one it prints."""
+    rules = json.loads(check.run("kestrune-cli", "dsc", "schema"))
+    validator = jsonschema.Draft202012Validator
+    validator.check_schema(rules)
+    for verb in ("export", "get", "set", "test"):
+        instance = json.loads(check.run("kestrune-cli", "dsc", verb, "--machine", "before"))
+        for error in list(validator(rules).iter_errors(instance))[:3]:
+            check.failures.append(f"dsc {verb}: {error.json_path}: {error.message}")
+    printed = json.loads(check.run("kestrune-cli", "dsc", "manifest"))
+    packed = (SCHEMAS.parent / "dsc" / "kestrune.dsc.resource.json.in").read_text()
+    if json.loads(packed.replace("@PROJECT_VERSION@", printed["version"])) != printed:
+        check.failures.append("dsc: the manifest in resources/dsc is another one than 'kestrune-cli dsc manifest' prints")
 
 
 def main():

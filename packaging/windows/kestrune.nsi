@@ -2,8 +2,8 @@
 ; The installer: for one user without administrator rights, or for all users of the PC.
 ; makensis -DVERSION=… -DFILES=folder -DREMOVAL=file -DICON=file -DOUTPUT=file kestrune.nsi
 ; The file of REMOVAL has a Delete for each packed file, and an RMDir for each folder: nothing else that lies there goes.
-; Silent: setup.exe /S /CurrentUser or /AllUsers, with /NOREHEARSE to leave the rehearsal PCs out; uninstall.exe /S, with
-; /PURGE to take settings and backups too.
+; Silent: setup.exe /S /CurrentUser or /AllUsers, with /NOREHEARSE to leave the rehearsal PCs out, and /PATH to put the
+; folder on PATH; uninstall.exe /S, with /PURGE to take settings and backups too.
 
 Unicode true
 Target amd64-unicode
@@ -27,6 +27,10 @@ ManifestDPIAware true
 !include FileFunc.nsh
 !include LogicLib.nsh
 !include Sections.nsh
+!include StrFunc.nsh
+${StrStr}
+${UnStrStr}
+${UnStrRep}
 
 Name "Kestrune"
 OutFile "${OUTPUT}"
@@ -54,6 +58,49 @@ VIAddVersionKey "LegalCopyright" "GNU General Public License, version 3 or later
 !insertmacro MUI_LANGUAGE "English"
 !insertmacro MUI_LANGUAGE "French"
 
+!define HKEY_CURRENT_USER_NUMBER 0x80000001
+!define HKEY_LOCAL_MACHINE_NUMBER 0x80000002
+!define ENVIRONMENT_OF_PC "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"
+!define ENVIRONMENT_OF_USER "Environment"
+; Texts of this installer hold 1,023 characters; a PATH that is longer than this would be cut, and is left alone.
+!define MOST_BYTES_OF_PATH 1600
+!define STATUS_NOT_FOUND 2
+
+; $1 gets PATH as it stands in the registry, or the section ends: with nothing changed where it can't be read as a whole.
+!macro READ_PATH
+    ${If} $MultiUser.InstallMode == "AllUsers"
+        StrCpy $3 ${HKEY_LOCAL_MACHINE_NUMBER}
+        StrCpy $4 "${ENVIRONMENT_OF_PC}"
+    ${Else}
+        StrCpy $3 ${HKEY_CURRENT_USER_NUMBER}
+        StrCpy $4 "${ENVIRONMENT_OF_USER}"
+    ${EndIf}
+    ; RRF_RT_REG_SZ, RRF_RT_REG_EXPAND_SZ, RRF_NOEXPAND: only its size
+    System::Call 'advapi32::RegGetValueW(p r3, w r4, w "Path", i 0x10000006, p 0, p 0, *i .r5) i .r6'
+    StrCpy $1 ""
+    ${If} $6 <> ${STATUS_NOT_FOUND}
+        ${If} $6 <> 0
+        ${OrIf} $5 > ${MOST_BYTES_OF_PATH}
+            DetailPrint "PATH is too long for this program to change it, and is left alone."
+            Return
+        ${EndIf}
+        ${If} $3 == ${HKEY_LOCAL_MACHINE_NUMBER}
+            ReadRegStr $1 HKLM "${ENVIRONMENT_OF_PC}" "Path"
+        ${Else}
+            ReadRegStr $1 HKCU "${ENVIRONMENT_OF_USER}" "Path"
+        ${EndIf}
+    ${EndIf}
+!macroend
+
+!macro WRITE_PATH
+    ${If} $3 == ${HKEY_LOCAL_MACHINE_NUMBER}
+        WriteRegExpandStr HKLM "${ENVIRONMENT_OF_PC}" "Path" "$1"
+    ${Else}
+        WriteRegExpandStr HKCU "${ENVIRONMENT_OF_USER}" "Path" "$1"
+    ${EndIf}
+    SendMessage ${HWND_BROADCAST} ${WM_SETTINGCHANGE} 0 "STR:Environment" /TIMEOUT=5000
+!macroend
+
 Section "Kestrune"
     SectionIn RO
     SetOutPath "$INSTDIR"
@@ -61,6 +108,7 @@ Section "Kestrune"
     File "${FILES}\kestrune-cli.exe"
     File "${FILES}\LICENSE.txt"
     File "${FILES}\README.txt"
+    File "${FILES}\kestrune.dsc.resource.json"
     SetOutPath "$INSTDIR\profiles"
     File "${FILES}\profiles\*.json"
     SetOutPath "$INSTDIR\share\schemas"
@@ -92,6 +140,19 @@ Section "Rehearsal PCs" SECTION_REHEARSE
     File /r "${FILES}\rehearse\*"
 SectionEnd
 
+Section /o "kestrune-cli on PATH" SECTION_PATH
+    !insertmacro READ_PATH
+    ${StrStr} $2 ";$1;" ";$INSTDIR;"
+    ${If} $2 == ""
+        ${If} $1 == ""
+            StrCpy $1 "$INSTDIR"
+        ${Else}
+            StrCpy $1 "$1;$INSTDIR"
+        ${EndIf}
+        !insertmacro WRITE_PATH
+    ${EndIf}
+SectionEnd
+
 Section "-Size"
     ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
     WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "EstimatedSize" $0
@@ -99,6 +160,7 @@ SectionEnd
 
 !insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
     !insertmacro MUI_DESCRIPTION_TEXT ${SECTION_REHEARSE} "Tries every change on a simulated PC first."
+    !insertmacro MUI_DESCRIPTION_TEXT ${SECTION_PATH} "Lets consoles and Desired State Configuration find kestrune-cli."
 !insertmacro MUI_FUNCTION_DESCRIPTION_END
 
 Function .onInit
@@ -109,6 +171,11 @@ Function .onInit
     ${GetOptions} $0 "/NOREHEARSE" $1
     ${IfNot} ${Errors}
         !insertmacro UnselectSection ${SECTION_REHEARSE}
+    ${EndIf}
+    ClearErrors
+    ${GetOptions} $0 "/PATH" $1
+    ${IfNot} ${Errors}
+        !insertmacro SelectSection ${SECTION_PATH}
     ${EndIf}
 FunctionEnd
 
@@ -150,6 +217,24 @@ Section "un.Kestrune"
     Delete "$SMPROGRAMS\Kestrune.lnk"
     DeleteRegKey SHCTX "${UNINSTALL_KEY}"
     Delete "$INSTDIR\uninstall.exe"
+SectionEnd
+
+Section "-un.PATH"
+    !insertmacro READ_PATH
+    ${UnStrStr} $2 ";$1;" ";$INSTDIR;"
+    ${If} $2 != ""
+        ${UnStrRep} $1 ";$1;" ";$INSTDIR;" ";"
+        StrCpy $1 $1 -1 1
+        ${If} $1 == ";"
+            StrCpy $1 ""
+        ${EndIf}
+        ${If} $1 == ""
+        ${AndIf} $3 == ${HKEY_CURRENT_USER_NUMBER}
+            DeleteRegValue HKCU "${ENVIRONMENT_OF_USER}" "Path"
+        ${Else}
+            !insertmacro WRITE_PATH
+        ${EndIf}
+    ${EndIf}
 SectionEnd
 
 ; What was changed on this PC, and the way back, stays unless someone asks for its removal.

@@ -433,6 +433,14 @@
 <translation>Vor dem Journal, nicht genau</translation>
 </message>
 <message>
+<source>%1 (by the system)</source>
+<translation>%1 (durch das System)</translation>
+</message>
+<message>
+<source>%1 (by another account)</source>
+<translation>%1 (durch ein anderes Konto)</translation>
+</message>
+<message>
 <source>Page: %1</source>
 <translation>Seite: %1</translation>
 </message>

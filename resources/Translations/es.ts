@@ -433,6 +433,14 @@
 <translation>Antes del diario, no exacto</translation>
 </message>
 <message>
+<source>%1 (by the system)</source>
+<translation>%1 (por el sistema)</translation>
+</message>
+<message>
+<source>%1 (by another account)</source>
+<translation>%1 (por otra cuenta)</translation>
+</message>
+<message>
 <source>Page: %1</source>
 <translation>Página: %1</translation>
 </message>

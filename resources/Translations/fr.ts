@@ -433,6 +433,14 @@
 <translation>Avant le journal, pas exact</translation>
 </message>
 <message>
+<source>%1 (by the system)</source>
+<translation>%1 (par le système)</translation>
+</message>
+<message>
+<source>%1 (by another account)</source>
+<translation>%1 (par un autre compte)</translation>
+</message>
+<message>
 <source>Page: %1</source>
 <translation>Page : %1</translation>
 </message>

@@ -433,6 +433,14 @@
 <translation>Prima del registro, non esatto</translation>
 </message>
 <message>
+<source>%1 (by the system)</source>
+<translation>%1 (dal sistema)</translation>
+</message>
+<message>
+<source>%1 (by another account)</source>
+<translation>%1 (da un altro account)</translation>
+</message>
+<message>
 <source>Page: %1</source>
 <translation>Pagina: %1</translation>
 </message>

@@ -433,6 +433,14 @@
 <translation>記録を始める前 (正確ではない)</translation>
 </message>
 <message>
+<source>%1 (by the system)</source>
+<translation>%1（システムによる）</translation>
+</message>
+<message>
+<source>%1 (by another account)</source>
+<translation>%1（別のアカウントによる）</translation>
+</message>
+<message>
 <source>Page: %1</source>
 <translation>ページ: %1</translation>
 </message>

@@ -433,6 +433,14 @@
 <translation>Vóór het logboek, niet precies</translation>
 </message>
 <message>
+<source>%1 (by the system)</source>
+<translation>%1 (door het systeem)</translation>
+</message>
+<message>
+<source>%1 (by another account)</source>
+<translation>%1 (door een ander account)</translation>
+</message>
+<message>
 <source>Page: %1</source>
 <translation>Pagina: %1</translation>
 </message>

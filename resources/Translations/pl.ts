@@ -433,6 +433,14 @@
 <translation>Przed dziennikiem, niedokładnie</translation>
 </message>
 <message>
+<source>%1 (by the system)</source>
+<translation>%1 (przez system)</translation>
+</message>
+<message>
+<source>%1 (by another account)</source>
+<translation>%1 (przez inne konto)</translation>
+</message>
+<message>
 <source>Page: %1</source>
 <translation>Strona: %1</translation>
 </message>

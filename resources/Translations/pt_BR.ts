@@ -433,6 +433,14 @@
 <translation>Antes do diário, não exato</translation>
 </message>
 <message>
+<source>%1 (by the system)</source>
+<translation>%1 (pelo sistema)</translation>
+</message>
+<message>
+<source>%1 (by another account)</source>
+<translation>%1 (por outra conta)</translation>
+</message>
+<message>
 <source>Page: %1</source>
 <translation>Página: %1</translation>
 </message>

@@ -433,6 +433,14 @@
 <translation>日志开始之前，不精确</translation>
 </message>
 <message>
+<source>%1 (by the system)</source>
+<translation>%1（由系统执行）</translation>
+</message>
+<message>
+<source>%1 (by another account)</source>
+<translation>%1（由其他帐户执行）</translation>
+</message>
+<message>
 <source>Page: %1</source>
 <translation>页面：%1</translation>
 </message>

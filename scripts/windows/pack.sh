@@ -98,6 +98,8 @@ inside_install() {
     try_installer AllUsers HKLM
     purge_installation
     install_without_rehearsals
+    install_on_path CurrentUser HKCU 'HKCU\Environment'
+    install_on_path AllUsers HKLM 'HKLM\SYSTEM\CurrentControlSet\Control\Session Manager\Environment'
     desk_end
 }
 
@@ -222,4 +224,27 @@ install_without_rehearsals() {
     ln -sfn "$place" "$inside_making/installed"
     uninstall_program HKCU
     rm -rf "$inside_making/installed" "$inside_making/rehearsals"
+}
+
+# install_on_path MODE HIVE KEY: PATH gets the folder where that is asked for, and is as it was afterwards; one that is too
+# long for the installer's texts is left alone.
+install_on_path() {
+    local had='%SystemRoot%\system32;C:\tools' long place former
+    former=$(value "$3" Path)
+    long="$had;C:\$(printf 'x%.0s' {1..1200})"
+    for was in "$had" "$long"; do
+        set_value "$3" Path REG_EXPAND_SZ "$was"
+        quietly "install-path-$1" 120 wine "$(echo "$inside_packages_folder"/kestrune-*-setup.exe)" /S "/$1" /PATH
+        place=$(value "$2\\$uninstall_key" InstallLocation)
+        if [[ $was == "$had" ]]; then
+            expect "PATH with the program" "$(value "$3" Path)" "$was;$place"
+        else
+            expect "a long PATH" "$(value "$3" Path)" "$was"
+        fi
+        ln -sfn "$(winepath -u "$place" 2>/dev/null)" "$inside_making/installed"
+        uninstall_program "$2"
+        expect "PATH afterwards" "$(value "$3" Path)" "$was"
+        rm -rf "$inside_making/installed"
+    done
+    [[ -z $former ]] || set_value "$3" Path REG_EXPAND_SZ "$former"
 }

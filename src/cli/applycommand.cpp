@@ -203,15 +203,15 @@ void checkFiles(const Arguments &arguments)
     }
 }
 
-/** What belongs to a user isn't the system's to change. */
-void refuseUser(const QList<Aim> &aims)
+/** What belongs to a user isn't another account's to change. */
+void refuseUser(const QList<Aim> &aims, const QString &account)
 {
     const auto aim = std::find_if(aims.cbegin(), aims.cend(),
                                   [](const Aim &each) { return each.ofUser && each.state == AimState::Open; });
     if (aim != aims.cend()) {
         throw Failure{ExitBadArguments,
-                      u"%1 '%2' belongs to a user, and this runs as the system: run it as that user, or "
-                      "write \"user\": \"skip\" into the profile"_s.arg(thingText(aim->group), aim->name)};
+                      u"%1 '%2' belongs to a user, and this runs as %3: run it as that user, or write \"user\": "
+                      "\"skip\" into the profile"_s.arg(thingText(aim->group), aim->name, account)};
     }
 }
 
@@ -224,66 +224,36 @@ qint64 newestSession(const Journal &journal)
     return newest;
 }
 
+QJsonObject moreOf(const Applied &applied)
+{
+    return {{u"session"_s, applied.session},
+            {u"folder"_s, QDir::toNativeSeparators(applied.folder)},
+            {u"restartWanted"_s, applied.wantsRestart}};
+}
+
+QString wayBackText(const Applied &applied)
+{
+    if (applied.session == 0)
+        return u"nothing was changed\n"_s;
+    return u"session %1; 'kestrune-cli undo --session %1' takes it back; plan, result and log: %2\n"_s.arg(
+        QString::number(applied.session), QDir::toNativeSeparators(applied.folder));
+}
+
 int runApply(const Arguments &arguments)
 {
     checkFiles(arguments);
     const Pc pc(arguments, PcUse::Change);
-    const Profile profile = profileOf(arguments, pc);
-    const Journal &journal = *journalInForce();
-    WorkThread worker;
-    applyProfile(worker, profile);
-    const QList<Aim> before = aimsOf(worker, pc.system(), profile);
-    worker.needReboot = 0; // it was set by trying
-    if (pc.isOfSystem())
-        refuseUser(before);
-    if (!arguments.has("yes"_L1) && std::any_of(before.cbegin(), before.cend(), [&](const Aim &aim) {
-            return aim.state == AimState::Unknown && profile.tweaks.value(aim.name);
-        }))
-        throw UsageError{u"'ssd8' walks over all files of the partition: say --yes to that"_s};
-
-    Progress progress;
-    LineLog log(progress);
-    const ToolListener listener;
-    const qint64 former = newestSession(journal);
-    ProfileRun run(worker, profile, before, log);
-    {
-        const ChangeSession session(appliedProfile);
-        run.run();
-    }
-    progress.clear();
-    const bool wantsRestart = run.wantsRestart();
-    const qint64 newest = newestSession(journal);
-    QList<Aim> after = judgedAims(before, aimsOf(worker, pc.system(), profile), listener.answers());
-    for (Aim &aim : after) {
-        const TweakBox *box = boxOf(aim);
-        if (run.hasWalked() && box != nullptr && box->apply == When::AsJob)
-            aim.why = u"the walk over all files came to its end; "_s + aim.why;
-    }
-
-    // A session of nothing but the program's own records has none.
-    const QString folder = newest == former ? QString() : wayBackFolder(journal, newest);
-    const qint64 session = folder.isEmpty() ? 0 : newest;
-    const QJsonObject more{
-        {u"session"_s, session}, {u"folder"_s, QDir::toNativeSeparators(folder)}, {u"restartWanted"_s, wantsRestart}};
-    if (!folder.isEmpty()) {
-        writeReportFile(folder + u"/plan.json"_s, aimsDocument(u"plan"_s, arguments, before));
-        writeReportFile(folder + u"/result.json"_s, aimsDocument(u"apply"_s, arguments, after, more));
-        writeReportFile(folder + u"/log.txt"_s, log.text());
-    }
+    const Applied applied = applyTo(pc, profileOf(arguments, pc), profileFile(arguments), arguments.has("yes"_L1));
     if (arguments.has("log"_L1))
-        writeReportFile(arguments.value("log"_L1), log.text());
-    reportAims(u"apply"_s, arguments, after, false, more);
-    const bool isSilent = arguments.has("quiet"_L1) || arguments.value(jsonOption.name) == "-"_L1;
-    if (!isSilent && session != 0)
-        print(u"session %1; 'kestrune-cli undo --session %1' takes it back; plan, result and log: %2\n"_s.arg(
-            QString::number(session), QDir::toNativeSeparators(folder)));
-    if (!isSilent && session == 0)
-        print(u"nothing was changed\n"_s);
-    if (const QString failure = platform().takeFailure(); !failure.isEmpty())
-        throw Failure{ExitJobFailed, u"not everything was done: "_s + failure};
-    if (!areInForce(after))
+        writeReportFile(arguments.value("log"_L1), applied.log);
+    reportAims(u"apply"_s, arguments, applied.aims, false, moreOf(applied));
+    if (!arguments.has("quiet"_L1) && arguments.value(jsonOption.name) != "-"_L1)
+        print(wayBackText(applied));
+    if (!applied.failure.isEmpty())
+        throw Failure{ExitJobFailed, u"not everything was done: "_s + applied.failure};
+    if (!areInForce(applied.aims))
         return ExitJobFailed;
-    return wantsRestart ? ExitRestartWanted : ExitDone;
+    return applied.wantsRestart ? ExitRestartWanted : ExitDone;
 }
 
 constexpr OptionRow options[] = {
@@ -303,6 +273,53 @@ QString moreHelp()
 }
 
 } // namespace
+
+Applied applyTo(const Pc &pc, const Profile &profile, const QString &profileName, bool mayWalk)
+{
+    const Journal &journal = *journalInForce();
+    WorkThread worker;
+    applyProfile(worker, profile);
+    const QList<Aim> before = aimsOf(worker, pc.system(), profile);
+    worker.needReboot = 0; // it was set by trying
+    if (!pc.otherAccount().isEmpty())
+        refuseUser(before, pc.otherAccount());
+    if (!mayWalk && std::any_of(before.cbegin(), before.cend(), [&](const Aim &aim) {
+            return aim.state == AimState::Unknown && profile.tweaks.value(aim.name);
+        }))
+        throw UsageError{u"'ssd8' walks over all files of the partition: say --yes to that"_s};
+
+    Progress progress;
+    LineLog log(progress);
+    const ToolListener listener;
+    const qint64 former = newestSession(journal);
+    ProfileRun run(worker, profile, before, log);
+    {
+        const ChangeSession session(appliedProfile);
+        run.run();
+    }
+    progress.clear();
+    // Before all is read again: trying an option says that it wants a restart, too.
+    Applied applied{.wantsRestart = run.wantsRestart(), .log = log.text()};
+    applied.aims = judgedAims(before, aimsOf(worker, pc.system(), profile), listener.answers());
+    for (Aim &aim : applied.aims) {
+        const TweakBox *box = boxOf(aim);
+        if (run.hasWalked() && box != nullptr && box->apply == When::AsJob)
+            aim.why = u"the walk over all files came to its end; "_s + aim.why;
+    }
+
+    // A session of nothing but the program's own records has no folder.
+    const qint64 newest = newestSession(journal);
+    applied.folder = newest == former ? QString() : wayBackFolder(journal, newest);
+    if (!applied.folder.isEmpty()) {
+        applied.session = newest;
+        writeReportFile(applied.folder + u"/plan.json"_s, aimsDocument(u"plan"_s, profileName, before));
+        writeReportFile(applied.folder + u"/result.json"_s,
+                        aimsDocument(u"apply"_s, profileName, applied.aims, moreOf(applied)));
+        writeReportFile(applied.folder + u"/log.txt"_s, applied.log);
+    }
+    applied.failure = platform().takeFailure();
+    return applied;
+}
 
 const Subcommand applySubcommand{
     "apply"_L1, {}, "do what Optimize does, or what a profile asks for"_L1, options, 0, 0, runApply, moreHelp,

@@ -13,7 +13,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral(KESTRUNE_VERSION));
     static const Subcommand *const subcommands[] = {
         &statusSubcommand, &planSubcommand,    &applySubcommand, &verifyPcSubcommand,
-        &undoPcSubcommand, &profileSubcommand, &whySubcommand,
+        &undoPcSubcommand, &profileSubcommand, &whySubcommand,   &dscSubcommand,
     };
     // clang-format off
     static constexpr ExampleRow examples[] = {
@@ -24,6 +24,7 @@ int main(int argc, char *argv[])
         {"apply"_L1,   "apply --profile office.json"_L1,             "carry it out"_L1},
         {"verify"_L1,  "verify --profile office.json"_L1,            "check whether all of it is in force; the exit status says so, too"_L1},
         {"why"_L1,     "why bluetooth"_L1,                           "which changes have to do with Bluetooth, and how to take each back"_L1},
+        {"dsc"_L1,     "dsc export"_L1,                              "what is in force here, as a resource for a configuration"_L1},
         {"undo"_L1,    "undo --list"_L1,                             "all that was done: when, what, how many changes"_L1},
         {"undo"_L1,    "undo"_L1,                                    "take all of it back, to the last value"_L1},
     };

@@ -21,6 +21,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QString otherAccountOf(bool isSystem, bool isSignedIn)
+{
+    return isSystem ? u"the system"_s : isSignedIn ? QString() : u"another account than who is signed in"_s;
+}
+
 constexpr OptionRow options[] = {
     {"machine"_L1, "DIR"_L1, "work on the rehearsal machine DIR in place of this PC"_L1},
     {"not-elevated"_L1, {}, "on a rehearsal machine: as a user without administrator rights"_L1},
@@ -69,13 +74,14 @@ void Pc::open(const Arguments &arguments)
         if (machine.elevated && !QFileInfo(folder + u"/machine.sqlite"_s).isWritable())
             throw Failure{ExitJobFailed, u"%1: the machine is read-only"_s.arg(folder)};
         setPlatform(openMachinePlatform(folder, machine));
-        isOfSystem_ = qEnvironmentVariable("USERNAME") == "SYSTEM"_L1;
+        const QString user = qEnvironmentVariable("USERNAME");
+        otherAccount_ = otherAccountOf(user == "SYSTEM"_L1, user == qEnvironmentVariable("KESTRUNE_SIGNED_IN", user));
     } else {
         if (arguments.has("not-elevated"_L1))
             throw UsageError{u"--not-elevated is for --machine"_s};
 #ifdef Q_OS_WIN
         setPlatform(openRealPlatform());
-        isOfSystem_ = sidOfUser() == "S-1-5-18"_L1;
+        otherAccount_ = otherAccountOf(sidOfUser() == "S-1-5-18"_L1, isUserOfSession());
 #else
         throw Failure{ExitBadArguments, u"this is no Windows; name a rehearsal machine with --machine"_s};
 #endif

@@ -28,14 +28,18 @@ public:
     Q_DISABLE_COPY_MOVE(Pc)
 
     SystemState &system() const { return *system_; }
-    /** Whether the program runs as the system, which has no packages, start-up and settings of a user's. */
-    bool isOfSystem() const { return isOfSystem_; }
+    /**
+     * Who this runs as where that isn't the user who is signed in, and so what belongs to the current user isn't his:
+     * "the system", which has no packages and no start-up of a user's, or "another account than who is signed in", as
+     * where somebody gave an administrator's password. Mostly empty.
+     */
+    QString otherAccount() const { return otherAccount_; }
 
 private:
     void open(const Arguments &arguments);
 
     std::unique_ptr<SystemState> ownSystem_; ///< where there is no journal that has one
     SystemState *system_ = nullptr;
-    bool isOfSystem_ = false;
+    QString otherAccount_;
     std::shared_ptr<void> lock_;
 };

@@ -8,7 +8,7 @@
 #include <QMap>
 #include <QStringList>
 
-/** What becomes of what belongs to the current user where the program runs as the system. */
+/** What becomes of what belongs to the current user where that isn't who is signed in. */
 enum class UserRule {
     Refuse,
     Skip,
@@ -27,7 +27,7 @@ struct Profile
     QStringList packages;
     QStringList startup;
     QStringList never;          ///< what is left alone; "*" stands for any letters, "?" for one
-    bool leavesOutUser = false; ///< it is applied as the system, and what belongs to a user is left alone
+    bool leavesOutUser = false; ///< it is applied as another account, and what belongs to a user is left alone
 
     /** Whether something is left out that Optimize would do: then the jobs of the pages are run and not Optimize. */
     bool leavesOut() const;

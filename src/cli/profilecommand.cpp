@@ -70,7 +70,9 @@ QString moreHelp()
            "  services, tasks, packages, startup\n"
            "             names to switch off beside what Optimize finds\n"
            "  never      names to leave alone, whatever else says; * and ? are wildcards\n"
-           "  user       run as the system: refuse, or skip what belongs to a user\n\n"
+           "  user       run as the system, or as another account than who is signed in: refuse, or skip what belongs "
+           "to a\n"
+           "             user\n\n"
            "Features:\n  %1\n\nOptions:\n%2"_s.arg(keepNames(), options);
 }
 

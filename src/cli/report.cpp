@@ -53,6 +53,11 @@ Profile readProfile(const QString &name, SystemState *system)
     const QByteArray json = file.read(largestProfile + 1);
     if (json.size() > largestProfile)
         throw Failure{ExitBadArguments, u"%1: larger than 1 MiB, which no profile is"_s.arg(name)};
+    return checkedProfile(json, name, system);
+}
+
+Profile checkedProfile(const QByteArray &json, const QString &name, SystemState *system)
+{
     ProfileMistakes mistakes;
     systemOfProfile = system;
     Profile profile = parseProfile(json, name, mistakes, isOnPc);
@@ -65,11 +70,11 @@ Profile readProfile(const QString &name, SystemState *system)
 Profile profileOf(const Arguments &arguments, const Pc &pc)
 {
     Profile profile = arguments.has(profileOption.name) ? readProfile(profileFile(arguments), &pc.system()) : Profile();
-    profile.leavesOutUser = pc.isOfSystem();
+    profile.leavesOutUser = !pc.otherAccount().isEmpty();
     return profile;
 }
 
-QByteArray aimsDocument(const QString &command, const Arguments &arguments, const QList<Aim> &aims, QJsonObject more)
+QByteArray aimsDocument(const QString &command, const QString &profile, const QList<Aim> &aims, QJsonObject more)
 {
     QJsonObject counts;
     for (const Aim &aim : aims) {
@@ -78,7 +83,7 @@ QByteArray aimsDocument(const QString &command, const Arguments &arguments, cons
     }
     more.insert(u"formatVersion"_s, 1);
     more.insert(u"command"_s, command);
-    more.insert(u"profile"_s, profileFile(arguments));
+    more.insert(u"profile"_s, profile);
     more.insert(u"counts"_s, counts);
     more.insert(u"items"_s, aimsJson(aims));
     return printableJson(QJsonDocument(more));
@@ -91,5 +96,5 @@ void reportAims(const QString &command, const Arguments &arguments, const QList<
     if (!isJsonPrinted && !arguments.has("quiet"_L1))
         print(aimsText(aims, all));
     if (arguments.has(jsonOption.name))
-        writeReportFile(arguments.value(jsonOption.name), aimsDocument(command, arguments, aims, more));
+        writeReportFile(arguments.value(jsonOption.name), aimsDocument(command, profileFile(arguments), aims, more));
 }

@@ -24,8 +24,9 @@ int runStatus(const Arguments &arguments)
 {
     const Pc pc(arguments, PcUse::Look);
     reportAims(u"status"_s, arguments, presentAims(arguments, pc), true);
-    if (pc.isOfSystem() && arguments.value(jsonOption.name) != "-"_L1)
-        print(u"run as the system: what belongs to a user isn't its own, and the way back is the journal\n"_s);
+    if (!pc.otherAccount().isEmpty() && arguments.value(jsonOption.name) != "-"_L1)
+        print(u"this runs as %1: what belongs to a user is none of its own, and the way back is the journal\n"_s.arg(
+            pc.otherAccount()));
     return ExitDone;
 }
 

@@ -101,8 +101,9 @@ void printHelp(const Program &program)
     for (const Subcommand *subcommand : program.subcommands)
         print(u"  "_s + QString(subcommand->name).leftJustified(9) + subcommand->summary + u'\n');
     print(u"\nOptions:\n"
-          "  --help     display this help and exit\n"
-          "  --version  output version information and exit\n\n"
+          "  --help         display this help and exit\n"
+          "  --version      output version information and exit\n"
+          "  --completions  output a script for PowerShell that completes commands and options, and exit\n\n"
           "To begin with:\n"_s
           + QString(program.start).replace("%1"_L1, program.name)
           + u"\nExit status: %2'%1 COMMAND --help' explains a command, with examples.\n"_s.arg(program.name,
@@ -139,6 +140,10 @@ int run(const Program &program, const QStringList &words)
     }
     if (words.value(0) == "--version"_L1) {
         print(u"%1 (Kestrune) %2\n"_s.arg(program.name, QCoreApplication::applicationVersion()));
+        return ExitDone;
+    }
+    if (words.value(0) == "--completions"_L1) {
+        print(powershellCompletions(program));
         return ExitDone;
     }
     const Subcommand &subcommand = findSubcommand(program, words);
@@ -180,6 +185,24 @@ int runAndComplain(const Program &program, const QStringList &words)
     }
 }
 
+/** As PowerShell takes it between single quotation marks. */
+QString quoted(QString text)
+{
+    return u'\'' + text.replace(u'\'', "''"_L1) + u'\'';
+}
+
+QString completion(const QString &word, const QString &meaning)
+{
+    return u"        %1 = %2\n"_s.arg(quoted(word), quoted(meaning));
+}
+
+/** The words that an operand may be: "new|check|schema [FILE]" has three. */
+QStringList operandWords(const Subcommand &subcommand)
+{
+    const QStringList words = QString(subcommand.operands).section(u' ', 0, 0).split(u'|');
+    return words.size() > 1 ? words : QStringList();
+}
+
 } // namespace
 
 int runProgram(const Program &program, int argc, char *argv[])
@@ -205,6 +228,34 @@ QString examplesOf(const Program &program, QLatin1StringView subcommand)
             text += u"  %1 %2\n      %3\n"_s.arg(program.name, example.line, example.meaning);
     }
     return text.isEmpty() ? text : u"Examples:\n"_s + text;
+}
+
+QString powershellCompletions(const Program &program)
+{
+    QString commands;
+    QString words;
+    for (const Subcommand *subcommand : program.subcommands) {
+        commands += completion(subcommand->name, subcommand->summary);
+        words += u"    %1 = [ordered]@{\n"_s.arg(quoted(subcommand->name));
+        for (const QString &word : operandWords(*subcommand))
+            words += completion(word, subcommand->summary);
+        for (const OptionRow &option : optionsOf(program, *subcommand))
+            words += completion(u"--"_s + option.name, option.help);
+        words += completion(u"--help"_s, u"display this help and exit"_s) + u"    }\n"_s;
+    }
+    return u"# Completes commands and options of %1. To have it in each session of PowerShell:\n"
+           "#     %1 --completions >> $PROFILE\n"
+           "Register-ArgumentCompleter -Native -CommandName '%1', '%1.exe' -ScriptBlock {\n"
+           "    param($word, $line, $position)\n"
+           "    $commands = [ordered]@{\n%2    }\n"
+           "    $words = @{\n%3    }\n"
+           "    $typed = @($line.CommandElements | Select-Object -Skip 1 | ForEach-Object { $_.ToString() } |\n"
+           "        Where-Object { $_ -ne $word })\n"
+           "    $rows = if ($typed -and $words.ContainsKey($typed[0])) { $words[$typed[0]] } else { $commands }\n"
+           "    $rows.GetEnumerator() | Where-Object { $_.Key -like \"$word*\" } | ForEach-Object {\n"
+           "        [System.Management.Automation.CompletionResult]::new($_.Key, $_.Key, 'ParameterValue', $_.Value)\n"
+           "    }\n"
+           "}\n"_s.arg(program.name, commands, words);
 }
 
 QString absoluteFolder(const QString &folder)

@@ -57,6 +57,8 @@ struct Program
 
 /** What a main() is but for its tables: runs what the command line says, and tells what is wrong with it. */
 int runProgram(const Program &program, int argc, char *argv[]);
+/** A script for PowerShell, after which it completes the commands, operands and options of the program. */
+QString powershellCompletions(const Program &program);
 /** The examples of a command below a headline; empty where it has none. */
 QString examplesOf(const Program &program, QLatin1StringView subcommand);
 

@@ -57,6 +57,8 @@ public:
     /** What was put aside to open the journal, and where it is now: sentences in English. */
     QStringList putAside() const { return options_.putAside; }
     SystemState &system() const { return *system_; }
+    /** Who runs the program, as sessions have it. */
+    QString user() const { return options_.user; }
     /** A noted key as the programs of this user call it. */
     QString ownPath(const QString &key) const;
     /** A key of the programs of this user as it is noted: by the name of the user's keys that others see too. */

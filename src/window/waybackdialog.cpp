@@ -33,11 +33,21 @@ enum SessionColumn { When, What, Changes, State, SessionColumnCount };
 constexpr int idRole = Qt::UserRole;
 constexpr int windowsRole = Qt::UserRole + 1; // the build number
 
-QTreeWidgetItem *rowOf(const Session &session)
+/** What it was, and who ran it where that was somebody else: his records of it aren't the user's. */
+QString titleOf(const Session &session, const QString &user)
+{
+    const QString what = translatedText(session.what);
+    if (session.user.isEmpty() || session.user == user)
+        return what;
+    const bool isOfSystem = session.user == "S-1-5-18"_L1 || session.user == "SYSTEM"_L1;
+    return (isOfSystem ? Kestrune::tr("%1 (by the system)") : Kestrune::tr("%1 (by another account)")).arg(what);
+}
+
+QTreeWidgetItem *rowOf(const Session &session, const QString &user)
 {
     auto *row = new QTreeWidgetItem;
     row->setText(When, QLocale().toString(session.begun, QLocale::ShortFormat));
-    row->setText(What, translatedText(session.what));
+    row->setText(What, titleOf(session, user));
     if (const QString page = pageOfSession(session.what); !page.isEmpty())
         row->setToolTip(What, Kestrune::tr("Page: %1").arg(translatedText(page)));
     row->setText(Changes, QString::number(session.changes));
@@ -207,7 +217,7 @@ void WayBackDialog::listSessions(qint64 current)
         for (const Session &session : journal_.store().sessions()) {
             if (session.changes == 0) // of nothing but the program's own records
                 continue;
-            QTreeWidgetItem *row = rowOf(session);
+            QTreeWidgetItem *row = rowOf(session, journal_.user());
             sessions_->insertTopLevelItem(0, row);
             if (session.id == current)
                 sessions_->setCurrentItem(row);

@@ -216,9 +216,14 @@ private Q_SLOTS:
     void theWalkWantsAYes();
     void whatIsRefusedSaysWhy();
     void filesOfASession();
-    void theSystemChangesNothingOfAUser();
+    void anotherAccountChangesNothingOfAUser_data();
+    void anotherAccountChangesNothingOfAUser();
     void verifyTellsByItsExitCode();
     void whyFindsServicesByWords();
+    void completionsHaveEachCommandAndOption();
+    void aResourceOfDsc();
+    void whatDscExportsIsInForce();
+    void dscTellsWhatIsWrong();
     void profilesAreMadeAndChecked();
 };
 
@@ -226,7 +231,7 @@ void TestCli::help_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("program") << QStringList{u"--help"_s};
-    for (const char *command : {"status", "plan", "apply", "verify", "undo", "profile", "why"})
+    for (const char *command : {"status", "plan", "apply", "verify", "undo", "profile", "why", "dsc"})
         QTest::newRow(command) << QStringList{QString::fromLatin1(command), u"--help"_s};
 }
 
@@ -543,19 +548,32 @@ void TestCli::filesOfASession()
     QCOMPARE(result.value("restartWanted"_L1), QJsonValue(true));
 }
 
-void TestCli::theSystemChangesNothingOfAUser()
+void TestCli::anotherAccountChangesNothingOfAUser_data()
 {
+    addColumns<QString, QByteArray, QByteArray>("user", "signedIn", "account");
+    QTest::newRow("the system") << u"SYSTEM"_s << QByteArray("SYSTEM") << QByteArray("the system");
+    QTest::newRow("an administrator who gave a password")
+        << u"Alex"_s << QByteArray("Kim") << QByteArray("another account than who is signed in");
+}
+
+void TestCli::anotherAccountChangesNothingOfAUser()
+{
+    QFETCH(const QString, user);
+    QFETCH(const QByteArray, signedIn);
+    QFETCH(const QByteArray, account);
+    qputenv("KESTRUNE_SIGNED_IN", signedIn);
+    const auto forget = qScopeGuard([] { qunsetenv("KESTRUNE_SIGNED_IN"); });
     Pc pc(u"windows11"_s);
     {
         const auto machine = Machine::open(pc.folder());
         QMap<QString, QString> variables = machine->environment();
-        variables.insert(u"USERNAME"_s, u"SYSTEM"_s);
+        variables.insert(u"USERNAME"_s, user);
         machine->setEnvironment(variables);
     }
     pc.keep();
     const Ended refused = pc.run({u"apply"_s});
     QCOMPARE(refused.exitCode, badArguments);
-    QVERIFY2(refused.errors.contains("belongs to a user"), refused.errors.constData());
+    QVERIFY2(refused.errors.contains("belongs to a user, and this runs as " + account), refused.errors.constData());
     QCOMPARE(pc.differences().join(u'\n'), QString());
 
     const QString file = pc.profile({{u"user"_s, u"skip"_s}});
@@ -565,7 +583,7 @@ void TestCli::theSystemChangesNothingOfAUser()
     differences.removeIf([](const QString &text) { return !text.contains("HKEY_CURRENT_USER"_L1); });
     QCOMPARE(differences.join(u'\n'), QString());
     QVERIFY(pc.run({u"apply"_s, u"--profile"_s, file}).output.contains("nothing was changed"));
-    QVERIFY(pc.run({u"status"_s}).output.contains("run as the system"));
+    QVERIFY(pc.run({u"status"_s}).output.contains("this runs as " + account));
 }
 
 void TestCli::verifyTellsByItsExitCode()
@@ -594,6 +612,104 @@ void TestCli::whyFindsServicesByWords()
     QVERIFY(at > 0);
     const QByteArray number = why.output.sliced(at + mark.size()).split('\n').constFirst();
     QCOMPARE(pc.run({u"undo"_s, u"--item"_s, QString::fromUtf8(number)}).exitCode, done);
+}
+
+void TestCli::completionsHaveEachCommandAndOption()
+{
+    const QByteArray script = cli({u"--completions"_s}).output;
+    QCOMPARE(script.count('{'), script.count('}'));
+    QCOMPARE(script.count('\'') % 2, 0);
+    QVERIFY(script.contains("-CommandName 'kestrune-cli', 'kestrune-cli.exe'"));
+    const QByteArray help = cli({u"--help"_s}).output;
+    int commands = 0;
+    for (const QByteArray &line : help.mid(help.indexOf("Commands:")).split('\n').mid(1)) {
+        if (line.isEmpty())
+            break;
+        const QByteArray command = line.simplified().split(' ').constFirst();
+        const qsizetype at = script.indexOf("    '" + command + "' = [ordered]@{\n");
+        QVERIFY2(at > 0, command.constData());
+        const QByteArray words = script.mid(at, script.indexOf("\n    }", at) - at);
+        const QByteArray itsHelp = cli({QString::fromUtf8(command), u"--help"_s}).output;
+        for (const QByteArray &option : itsHelp.split('\n')) {
+            if (option.startsWith("  --"))
+                QVERIFY2(words.contains("'" + option.simplified().split(' ').constFirst() + "' = "),
+                         option.constData());
+        }
+        ++commands;
+    }
+    QCOMPARE(commands, 8);
+}
+
+QJsonObject instanceOf(const Ended &ended)
+{
+    return QJsonDocument::fromJson(ended.output).object();
+}
+
+void TestCli::aResourceOfDsc()
+{
+    Pc pc(u"windows11"_s);
+    const QByteArray desired = R"({"formatVersion": 1, "features": true, "programs": false, "never": ["edgeupdate"],
+        "services": ["SysMain", "Spooler"], "tweaks": {"ssd1": true, "ssd4": false}})";
+    const auto dsc = [&](const char *verb) {
+        return runProgram(builtProgram(u"kestrune-cli"_s),
+                          {u"dsc"_s, QString::fromLatin1(verb), u"--machine"_s, pc.folder()}, {}, desired);
+    };
+    const Ended before = dsc("test");
+    QCOMPARE(before.exitCode, done);
+    QCOMPARE(before.output.count('\n'), 1);
+    QCOMPARE(instanceOf(before)[u"_inDesiredState"_s], QJsonValue(false));
+    QCOMPARE(instanceOf(before)[u"services"_s], QJsonValue(QJsonArray()));
+    QCOMPARE(instanceOf(before)[u"tweaks"_s][u"ssd1"_s], QJsonValue(false));
+    QVERIFY(instanceOf(before)[u"_notInForce"_s].toArray().contains(u"services/Spooler"_s));
+    QCOMPARE(dsc("get").output, before.output);
+    QCOMPARE(pc.allDifferences(), QStringList());
+
+    const Ended set = dsc("set");
+    QCOMPARE(set.exitCode, done);
+    QCOMPARE(set.output.count('\n'), 1);
+    QCOMPARE(instanceOf(set)[u"_inDesiredState"_s], QJsonValue(true));
+    QVERIFY(!instanceOf(set)[u"_metadata"_s][u"_restartRequired"_s].toArray().isEmpty());
+    const Ended after = dsc("test");
+    QCOMPARE(instanceOf(after)[u"_inDesiredState"_s], QJsonValue(true));
+    QCOMPARE(instanceOf(after)[u"services"_s].toArray().size(), 2);
+    QCOMPARE(instanceOf(after)[u"tweaks"_s][u"ssd1"_s], QJsonValue(true));
+    // A second time there is nothing to do, and no restart is wanted.
+    QVERIFY(!dsc("set").output.contains("_restartRequired"));
+    QCOMPARE(pc.run({u"undo"_s}).exitCode, done);
+    QCOMPARE(pc.differences(), QStringList());
+}
+
+void TestCli::whatDscExportsIsInForce()
+{
+    Pc pc(u"windows10"_s);
+    const QString careful = QStringLiteral(KESTRUNE_PROFILES "/careful.json");
+    QVERIFY(pc.run({u"apply"_s, u"--profile"_s, careful}).exitCode != notAsWished);
+    pc.keep();
+    const Ended exported = pc.run({u"dsc"_s, u"export"_s});
+    QCOMPARE(exported.exitCode, done);
+    QVERIFY(!instanceOf(exported)[u"never"_s].toArray().isEmpty());
+    QCOMPARE(instanceOf(exported)[u"tweaks"_s].toObject().size(), 34);
+    const auto dsc = [&](const char *verb) {
+        return runProgram(builtProgram(u"kestrune-cli"_s),
+                          {u"dsc"_s, QString::fromLatin1(verb), u"--machine"_s, pc.folder()}, {}, exported.output);
+    };
+    QCOMPARE(instanceOf(dsc("test"))[u"_inDesiredState"_s], QJsonValue(true));
+    QCOMPARE(dsc("set").exitCode, done);
+    QCOMPARE(pc.differences(), QStringList());
+}
+
+void TestCli::dscTellsWhatIsWrong()
+{
+    const auto dsc = [](const QByteArray &input) {
+        return runProgram(builtProgram(u"kestrune-cli"_s), {u"dsc"_s, u"test"_s, u"--machine"_s, u"nowhere"_s}, {},
+                          input);
+    };
+    QVERIFY(dsc("[1]").errors.contains("no JSON object"));
+    QCOMPARE(dsc("[1]").exitCode, badArguments);
+    QCOMPARE(dsc("{\"formatVersion\": 1}").exitCode, unreadable);
+    QCOMPARE(cli({u"dsc"_s, u"tset"_s}).exitCode, badArguments);
+    QVERIFY(instanceOf(cli({u"dsc"_s, u"schema"_s}))[u"properties"_s].toObject().contains(u"_inDesiredState"_s));
+    QVERIFY(instanceOf(cli({u"dsc"_s, u"manifest"_s}))[u"type"_s] == u"Kestrune/Profile"_s);
 }
 
 void TestCli::profilesAreMadeAndChecked()

@@ -19,7 +19,8 @@ struct Ended
 
 using Variables = QMap<QString, QString>;
 
-inline Ended runProgram(const QString &program, const QStringList &arguments, const Variables &variables = {})
+inline Ended runProgram(const QString &program, const QStringList &arguments, const Variables &variables = {},
+                        const QByteArray &input = {})
 {
     constexpr int patience = 250000; // milliseconds
     QProcess process;
@@ -31,6 +32,10 @@ inline Ended runProgram(const QString &program, const QStringList &arguments, co
     Ended ended;
     if (process.waitForStarted())
         ended.processId = process.processId();
+    if (!input.isEmpty()) {
+        process.write(input);
+        process.closeWriteChannel();
+    }
     if (process.waitForFinished(patience) && process.exitStatus() == QProcess::NormalExit)
         ended.exitCode = process.exitCode();
     ended.output = process.readAllStandardOutput();

@@ -230,6 +230,7 @@ private Q_SLOTS:
     void whatCannotBeNotedIsToldOnce();
     void aBrokenOffSessionHasAButtonUntilItWasSeen();
     void lookingAroundIsNoBrokenOffJob();
+    void sessionsOfOthersSayWhose();
     void theKeyboardReachesEverything();
     void everyLanguageHasLettersOfItsOwn_data();
     void everyLanguageHasLettersOfItsOwn();
@@ -679,6 +680,28 @@ void TestWayBack::lookingAroundIsNoBrokenOffJob()
     breakOff(pc, lookingAround);
     const WindowDriver driver;
     QVERIFY(driver.button(u"btnBrokenOff"_s)->isHidden());
+}
+
+void TestWayBack::sessionsOfOthersSayWhose()
+{
+    const TestMachine machine;
+    platform().openKey(settingsKey)->setValue(u"GetWinSxsSize"_s, 0);
+    const Journaled pc(machine);
+    JournalStore &store = pc.journal().store();
+    for (const QString &user : {u"S-1-5-18"_s, u"S-1-5-21-1-2-3-1002"_s, pc.journal().user(), QString()}) {
+        const qint64 session = store.beginSession({.what = u"Apply a profile"_s, .user = user});
+        Note note;
+        note.item = {ItemKind::Value, u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Other"_s, u"value"_s};
+        store.add(session, {note});
+        store.endSession(session, SessionState::Finished);
+    }
+    const WindowDriver driver;
+    const Dialog dialog(driver);
+    QStringList listed = dialog.listedSessions();
+    listed.removeIf([](const QString &line) { return !line.startsWith("Apply a profile"_L1); });
+    QCOMPARE(listed, (QStringList{u"Apply a profile: finished"_s, u"Apply a profile: finished"_s,
+                                  u"Apply a profile (by another account): finished"_s,
+                                  u"Apply a profile (by the system): finished"_s}));
 }
 
 void TestWayBack::theKeyboardReachesEverything()

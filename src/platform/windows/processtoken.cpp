@@ -7,7 +7,9 @@
 #define SECURITY_WIN32
 #include <sddl.h>
 #include <security.h>
+#include <wtsapi32.h>
 
+#include <string>
 #include <vector>
 
 namespace {
@@ -35,6 +37,34 @@ std::vector<BYTE> tokenUser()
 PSID sidIn(const std::vector<BYTE> &user)
 {
     return reinterpret_cast<const TOKEN_USER *>(user.data())->User.Sid;
+}
+
+/** What the system says of who is signed in at the session of this process; empty where it says nothing. */
+QString wordOfSession(WTS_INFO_CLASS which)
+{
+    LPWSTR text = nullptr;
+    DWORD bytes = 0;
+    if (!WTSQuerySessionInformationW(WTS_CURRENT_SERVER_HANDLE, WTS_CURRENT_SESSION, which, &text, &bytes))
+        return {};
+    const QString word = QString::fromWCharArray(text);
+    WTSFreeMemory(text);
+    return word;
+}
+
+/** Empty where there is no such account. */
+std::vector<BYTE> sidOfAccount(const QString &account)
+{
+    const std::wstring name = account.toStdWString();
+    DWORD sidSize = 0;
+    DWORD domainLength = 0;
+    SID_NAME_USE use{};
+    LookupAccountNameW(nullptr, name.c_str(), nullptr, &sidSize, nullptr, &domainLength, &use);
+    std::vector<BYTE> sid(sidSize);
+    std::vector<wchar_t> domain(domainLength);
+    if (sid.empty()
+        || !LookupAccountNameW(nullptr, name.c_str(), sid.data(), &sidSize, domain.data(), &domainLength, &use))
+        return {};
+    return sid;
 }
 
 } // namespace
@@ -74,6 +104,17 @@ QString sidOfUser()
         return {};
     const LocalMemory memory(text);
     return QString::fromWCharArray(text);
+}
+
+bool isUserOfSession()
+{
+    const QString name = wordOfSession(WTSUserName);
+    const QString domain = wordOfSession(WTSDomainName);
+    if (name.isEmpty())
+        return true; // a service's session, or one of a remote console: nobody is signed in there
+    const std::vector<BYTE> user = tokenUser();
+    std::vector<BYTE> sid = sidOfAccount(domain.isEmpty() ? name : domain + u'\\' + name);
+    return user.empty() || sid.empty() || EqualSid(sidIn(user), sid.data());
 }
 
 QStringList shownNamesOfUser()

@@ -21,5 +21,8 @@ Account userOfProcess();
 /** The SID of the user of this process, as text; empty where the system doesn't know. */
 QString sidOfUser();
 
+/** Whether the user of this process is the one who is signed in at its session; true where the system doesn't know. */
+bool isUserOfSession();
+
 /** The full name of the user of this process, and the address of his account in a directory; those that there are. */
 QStringList shownNamesOfUser();
