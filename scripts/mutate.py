@@ -408,7 +408,8 @@ def main():
     parser.add_argument("files", nargs="*", metavar="FILE", help="sources; by default all of src/work and src/window")
     parser.add_argument("--count", type=int, default=500, help="how many mutants (500)")
     parser.add_argument("--seed", type=int, default=1, help="draws others by another number (1)")
-    parser.add_argument("--again", metavar="LOG", help="only what survived in a run whose output this is")
+    parser.add_argument("--again", metavar="LOG", 
+                        help="only what survived in a run whose output this is, and isn't in the list")
     parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="how many at a time")
     parser.add_argument("--self-check", action="store_true", help="only checks the rules and the list")
     options = parser.parse_args()
@@ -420,7 +421,8 @@ def main():
     random.Random(options.seed).shuffle(drawn)
     if options.again:
         lines = set(pathlib.Path(options.again).read_text().split("\n"))
-        drawn = [mutant for mutant in drawn if f"survived\t{mutant}" in lines]
+        listed = listed_survivors()
+        drawn = [mutant for mutant in drawn if f"survived\t{mutant}" in lines and mutant.key() not in listed]
     return run(drawn, options.count, options.jobs)
 
 

@@ -256,6 +256,7 @@ void TestWayBack::aTweakIsListedAndTakenBack()
         buttons.append(dialog.get<QPushButton>(QString::fromLatin1(name))->text());
     QCOMPARE(buttons,
              (QStringList{u"Check all"_s, u"Uncheck all"_s, u"&Take back"_s, u"Sa&ve as files…"_s, u"Close"_s}));
+    QCOMPARE(dialog.get<QCheckBox>(u"chkLater"_s)->text(), u"With all &later changes"_s);
     const QHeaderView *header = dialog.changes()->header();
     for (const auto &[column, width] : {std::pair(0, 250), std::pair(1, 100), std::pair(2, 100)})
         QCOMPARE(header->sectionSize(column), std::max(width, header->sectionSizeHint(column)));
