@@ -282,13 +282,22 @@ def lines_run(counters):
     return lines
 
 
+@functools.cache
+def including_suites(name):
+    """The suites that include the header of that name."""
+    return {path.stem for path in (ROOT / "tests").rglob("tst_*.cpp") if f'/{name}.h"\n' in path.read_text()}
+
+
 def suites_for(mutant, measured):
     """
     The suites that run the line: those of its file's name first, then the quickest. A line that holds no code, as of a
-    table, belongs to its file.
+    table, is of all that run something of its file, and of those that include its header.
     """
     lines = measured["lines"].get(mutant.file, {})
-    suites = lines.get(str(mutant.number)) or {suite for names in lines.values() for suite in names}
+    suites = lines.get(str(mutant.number))
+    if not suites:
+        suites = {suite for names in lines.values() for suite in names}
+        suites |= including_suites(pathlib.Path(mutant.file).stem) & measured["seconds"].keys()
     name = pathlib.Path(mutant.file).stem
     return sorted(suites, key=lambda suite: (name not in suite and suite[4:] not in name, measured["seconds"][suite]))
 
