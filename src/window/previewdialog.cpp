@@ -204,7 +204,6 @@ void PreviewDialog::layOut()
     constexpr int linesOfExplanation = 4;
     const int line = fontMetrics().lineSpacing();
 
-    setObjectName(u"previewDialog"_s);
     setWindowTitle(Kestrune::tr("Preview of Optimize"));
     auto *searchLabel = new QLabel(Kestrune::tr("S&earch:"));
     searchLabel->setBuddy(search_);

@@ -147,7 +147,6 @@ void WayBackDialog::makeWidgets()
 
 void WayBackDialog::layOut()
 {
-    setObjectName(u"wayBackDialog"_s);
     setWindowTitle(Kestrune::tr("Way back"));
     auto *sessionsLabel = new QLabel(Kestrune::tr("&Sessions:"));
     sessionsLabel->setBuddy(sessions_);
