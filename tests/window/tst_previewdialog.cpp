@@ -161,6 +161,11 @@ void TestPreviewDialog::changesAreListedAndNothingIsChanged()
     QCOMPARE((*preview).windowTitle(), u"Preview of Optimize"_s);
     QCOMPARE(preview.get<QProgressBar>(u"pgrPreview"_s)->accessibleName(), u"Trying it on a copy…"_s);
     QVERIFY(preview.groups().contains(u"Services"_s));
+    for (int i = 0; i < preview.items()->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem *group = preview.items()->topLevelItem(i);
+        QCOMPARE(group->text(1), QString::number(group->childCount()));
+        QVERIFY(group->isExpanded());
+    }
     const QTreeWidgetItem *fonts = preview.row(u"Fonts of this PC"_s);
     QVERIFY(fonts != nullptr);
     QCOMPARE(textsOf(fonts), (QStringList{u"Fonts of this PC"_s, u"automatic, running"_s, u"disabled, stopped"_s,

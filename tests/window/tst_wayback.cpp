@@ -213,6 +213,7 @@ private Q_SLOTS:
     void aSingleChangeIsTakenBack();
     void whatSomethingElseHasChangedIsLeftAlone();
     void whatSomethingElseHasChangedIsTakenWhereItIsChecked();
+    void programsSwitchedByHandAreSessions();
     void longNamesLeaveRoomForTheChanges();
     void laterSessionsAreTakenWithIt();
     void theSearchHidesTheOthers();
@@ -256,6 +257,9 @@ void TestWayBack::aTweakIsListedAndTakenBack()
         buttons.append(dialog.get<QPushButton>(QString::fromLatin1(name))->text());
     QCOMPARE(buttons,
              (QStringList{u"Check all"_s, u"Uncheck all"_s, u"&Take back"_s, u"Sa&ve as files…"_s, u"Close"_s}));
+    // Enter in the search is none of theirs.
+    for (const QPushButton *button : (*dialog).findChildren<QPushButton *>())
+        QVERIFY(!button->autoDefault());
     QCOMPARE(dialog.get<QCheckBox>(u"chkLater"_s)->text(), u"With all &later changes"_s);
     const QHeaderView *header = dialog.changes()->header();
     for (const auto &[column, width] : {std::pair(0, 250), std::pair(1, 100), std::pair(2, 100)})
@@ -334,6 +338,23 @@ void TestWayBack::whatSomethingElseHasChangedIsTakenWhereItIsChecked()
     QVERIFY(dialog.take());
     QCOMPARE(startOf(pc, u"Alpha"_s), int(StartAutomatic));
     QCOMPARE(startOf(pc, u"Beta"_s), int(StartOnDemand));
+}
+
+void TestWayBack::programsSwitchedByHandAreSessions()
+{
+    TestMachine machine;
+    machine.write(u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s, u"Tool"_s,
+                  u"\"C:\\Tools\\tool.exe\""_s);
+    machine.addFile(u"C:\\Tools\\tool.exe"_s);
+    const Journaled pc(machine);
+    const WindowDriver driver;
+    driver.window().showPage(3);
+    driver.click(u"btnAutorun"_s);
+    driver.click(u"btnAutorunViewDisabled"_s);
+    driver.table(u"tblAutorun"_s)->item(0, 0)->setCheckState(Qt::Checked);
+    driver.click(u"btnAutorun"_s);
+    QCOMPARE(Dialog(driver).listedSessions(),
+             QStringList({u"Enable programs: finished"_s, u"Disable programs: finished"_s}));
 }
 
 void TestWayBack::longNamesLeaveRoomForTheChanges()
