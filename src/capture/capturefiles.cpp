@@ -73,7 +73,7 @@ std::optional<FileDescription> describe(const QString &path)
     file.path = path;
     file.folder = info.isDir();
     if (!file.folder)
-        file.size = info.size();
+        file.size = platform().fileSize(host);
     if (const quint32 word = platform().fileAttributes(host); word != invalidAttributes)
         file.attributes = word;
     return file;

@@ -113,7 +113,7 @@ private:
         }
     }
 
-    /** What a machine's file holds stands at its start; the rest is a hole. */
+    /** What a machine's file holds stands at its start. */
     void searchFile(const QString &path, const QString &place)
     {
         constexpr qint64 most = qint64{1024} * 1024;

@@ -204,9 +204,12 @@ void checkSizes(Database &database, const QString &path)
                                 "length(CAST(output AS BLOB)) * repeat > ?1");
     if (fault.bind(ToolFault::mostPrinted).next())
         failAsDamaged(path, u"the fault '%1' prints more than 256 MB"_s.arg(fault.text(0)));
-    auto file = database.query("SELECT 1 FROM meta WHERE name = 'hiberfile' AND value > ?");
-    if (file.bind(Machine::largestFile).next())
+    auto hiberfile = database.query("SELECT 1 FROM meta WHERE name = 'hiberfile' AND value > ?");
+    if (hiberfile.bind(Machine::largestFile).next())
         failAsDamaged(path, u"its hiberfil.sys had more than 1 TB"_s);
+    auto file = database.query("SELECT name FROM meta WHERE name GLOB 'size *' AND value NOT BETWEEN 1 AND ?");
+    if (file.bind(Machine::largestFile).next())
+        failAsDamaged(path, u"a file of it has no size that can be: "_s + file.text(0));
 }
 
 /** Looks through a database that may be anybody's. */

@@ -6,6 +6,7 @@
 #include "machineerror.h"
 #include "registrystore.h"
 
+#include <QHash>
 #include <QJsonObject>
 #include <QMap>
 #include <QStringList>
@@ -59,7 +60,7 @@ enum class Origin {
  *
  *     machine.sqlite   registry, run states, processes, tasks, attributes, owners, boot options, WMI, hardware,
  *                      DLL strings, environment, faults
- *     drive_c/         the files the program can see
+ *     drive_c/         the files the program can see; the database has the size of those that nobody reads
  *     program/         the program folder: log.txt, backup_svc, backup_tasks, backup_autorun
  *     tools/           sc, schtasks, ... all of them kestrune-stocktool
  *     commands.log     one JSON line for each tool run: program, arguments, exitCode
@@ -141,6 +142,20 @@ public:
     void setAttributes(const QString &windowsPath, quint32 word);
     /** The same of a file by its host path, in no time; nothing where there is no such file. */
     std::optional<quint32> attributesOfFile(const QString &hostPath) const;
+    /**
+     * A file's size in bytes. What nobody reads of a file isn't on the disk: such a file is shorter there, mostly
+     * empty, and the database has its size, so that a machine's folder is small however it is copied.
+     */
+    qint64 fileSize(const QString &path) const;
+    /** Sets the size of a file that is in place; what is beyond its content isn't there to be read. */
+    void setFileSize(const QString &path, qint64 size);
+    /** What a file was given stays with it under a new name; both are host paths. */
+    void copyFileSize(const QString &from, const QString &to);
+    /** The sizes that the database has, by the key of a file's path; for a walk over many. */
+    QHash<QString, qint64> givenSizes() const;
+    /** One text for each file, whichever way its path is written. */
+    QString pathKey(const QString &path) const;
+
     /** Owners and rights of files by their Windows path, where they aren't those of the installation. */
     FileSecurity security(const QString &windowsPath) const;
     void setSecurity(const QString &windowsPath, const FileSecurity &security);
@@ -203,7 +218,6 @@ private:
     Location locate(const QString &path) const;
     QString placeOf(const QString &windowsPath) const;
     QStringList unsignedPrograms() const;
-    QString pathKey(const QString &path) const;
     QStringView belowDriveC(const QString &hostPath) const;
     quint32 attributeWord(const QString &path, bool isFolder) const;
 

@@ -4,7 +4,6 @@
 
 #include "console/programinterruption.h"
 #include "database.h"
-#include "filehole.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -33,7 +32,7 @@ void makeFolder(const QString &folder)
         throw MachineError{u"%1: the folder can't be made"_s.arg(QDir::toNativeSeparators(folder))};
 }
 
-/** Copies a file's content; what is a hole, or reads as one, becomes a hole. */
+/** Copies a file; where it is empty for long, as on a machine made earlier, nothing is written. */
 void copyFile(const QString &from, const QString &to)
 {
     constexpr qint64 blockSize = qint64{64} * 1024;
@@ -45,19 +44,16 @@ void copyFile(const QString &from, const QString &to)
             return; // another process has removed it meanwhile
         fail(source);
     }
-    if (!copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !resizeWithHole(copy, source.size()))
+    if (!copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !copy.resize(source.size()))
         fail(copy);
     const QByteArray zeros(blockSize, 0);
-    for (qint64 offset = nextData(source, 0); offset < source.size(); offset = nextData(source, offset)) {
-        if (!source.seek(offset))
-            fail(source);
+    for (qint64 offset = 0; offset < source.size(); offset = source.pos()) {
         stopIfInterrupted();
         const QByteArray block = source.read(blockSize);
         if (block.isEmpty())
             fail(source);
         if (block != zeros.first(block.size()) && (!copy.seek(offset) || copy.write(block) != block.size()))
             fail(copy);
-        offset += block.size();
     }
 }
 

@@ -22,6 +22,10 @@ constexpr Qt::CaseSensitivity hostCase = Qt::CaseSensitive;
 // Where it doesn't, that a file is there doesn't mean that it is spelled so.
 constexpr bool hostTellsCase = hostCase == Qt::CaseSensitive;
 
+// Before the key of a path, in the table of what is known of the machine: one made earlier has no table of its own for
+// it.
+const QString givenSize = u"size "_s;
+
 bool isSeparator(QChar unit)
 {
     return unit == u'\\' || unit == u'/';
@@ -169,7 +173,6 @@ QString Machine::windowsPath(const QString &hostPath) const
     return drive.toUpper() + u":\\"_s + location.names.join(u'\\');
 }
 
-/** One text for each file, whichever way its path is written. */
 QString Machine::pathKey(const QString &path) const
 {
     return foldName(windowsPath(path));
@@ -207,6 +210,39 @@ void Machine::setAttributes(const QString &windowsPath, quint32 word)
         .bind(path)
         .bind(word)
         .run();
+}
+
+qint64 Machine::fileSize(const QString &path) const
+{
+    auto query = database_->query("SELECT value FROM meta WHERE name = ?");
+    const qint64 given = query.bind(givenSize + pathKey(path)).next() ? query.integer(0) : 0;
+    return std::max(given, QFileInfo(hostPath(path)).size());
+}
+
+void Machine::setFileSize(const QString &path, qint64 size)
+{
+    const QString name = givenSize + pathKey(path);
+    if (size > QFileInfo(hostPath(path)).size())
+        database_->query("INSERT OR REPLACE INTO meta VALUES (?, ?)").bind(name).bind(size).run();
+    else
+        database_->query("DELETE FROM meta WHERE name = ?").bind(name).run();
+}
+
+void Machine::copyFileSize(const QString &from, const QString &to)
+{
+    database_->query("INSERT OR REPLACE INTO meta SELECT ?, value FROM meta WHERE name = ?")
+        .bind(givenSize + pathKey(to))
+        .bind(givenSize + pathKey(from))
+        .run();
+}
+
+QHash<QString, qint64> Machine::givenSizes() const
+{
+    QHash<QString, qint64> sizes;
+    auto query = database_->query("SELECT name, value FROM meta WHERE name GLOB 'size *'");
+    while (query.next())
+        sizes.insert(query.text(0).sliced(givenSize.size()), query.integer(1));
+    return sizes;
 }
 
 QStringList Machine::pathsWithAttribute(quint32 bits) const

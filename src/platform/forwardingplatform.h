@@ -41,6 +41,7 @@ public:
     {
         inner_->setAllFileAttributes(files);
     }
+    qint64 fileSize(const QString &file) const override { return inner_->fileSize(file); }
     bool renameFile(const QString &from, const QString &to) const override { return inner_->renameFile(from, to); }
     bool removeFile(const QString &file) const override { return inner_->removeFile(file); }
     QString programFile(const QString &program) const override { return inner_->programFile(program); }

@@ -3,6 +3,7 @@
 #include "platform.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <exception>
 
@@ -48,6 +49,11 @@ void Platform::setAllFileAttributes(const QList<FileAttributes> &files) const
 {
     for (const FileAttributes &each : files)
         setFileAttributes(each.file, each.word);
+}
+
+qint64 Platform::fileSize(const QString &file) const
+{
+    return QFileInfo(file).size();
 }
 
 bool Platform::renameFile(const QString &from, const QString &to) const

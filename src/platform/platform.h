@@ -156,6 +156,9 @@ public:
     /** Changes those of many files together, where that is quicker. */
     virtual void setAllFileAttributes(const QList<FileAttributes> &files) const;
 
+    /** A file's size in bytes, by its host path; what of it can be read may be less. 0 where there is no such file. */
+    virtual qint64 fileSize(const QString &file) const;
+
     // What is changed of files that aren't the program's own, by their host paths. False where it wasn't done.
 
     /** Gives a file another path, at which nothing may be. */

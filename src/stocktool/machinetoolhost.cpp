@@ -3,10 +3,10 @@
 #include "machinetoolhost.h"
 
 #include "machine/database.h"
-#include "machine/filehole.h"
 #include "machine/machinekey.h"
 #include "machine/registrydisplay.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -45,6 +45,15 @@ QString MachineToolHost::resolveText(const QString &text) const
 QString MachineToolHost::hostPath(const QString &windowsPath) const
 {
     return machine_.hostPath(windowsPath);
+}
+
+bool MachineToolHost::makeFile(const QString &path, qint64 size)
+{
+    QFile file(machine_.hostPath(path));
+    if (!QDir().mkpath(QFileInfo(file).path()) || !file.open(QIODevice::WriteOnly))
+        return false;
+    machine_.setFileSize(path, size);
+    return true;
 }
 
 std::optional<bool> MachineToolHost::isRunning(const QString &service) const
@@ -121,10 +130,10 @@ bool MachineToolHost::setHiberfile(bool present)
         return true;
     QFile file(path);
     if (!present) {
-        machine_.setFormerHiberfileSize(file.size());
+        machine_.setFormerHiberfileSize(machine_.fileSize(hiberfile));
         return file.remove();
     }
-    if (!file.open(QIODevice::WriteOnly) || !resizeWithHole(file, hiberfileSize()))
+    if (!makeFile(hiberfile, hiberfileSize()))
         return false;
     machine_.setAttributes(hiberfile, hiddenSystemArchive);
     return true;

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // OneDriveSetup: installs OneDrive for the user, and removes it.
 
-#include "machine/filehole.h"
 #include "platform/windowsfacts.h"
 #include "tools.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -27,20 +25,13 @@ QString home()
     return qEnvironmentVariable("LOCALAPPDATA") + u"\\Microsoft\\OneDrive\\"_s;
 }
 
-bool makeFile(const QString &path, qint64 size)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    return file.open(QIODevice::ReadWrite) && resizeWithHole(file, size);
-}
-
 ToolResult install(ToolHost &host)
 {
     const QString program = home() + u"OneDrive.exe"_s;
     const QString setup = home() + version + u'\\' + setupName;
     const auto missing = [&host](const QString &path) { return !QFileInfo::exists(host.hostPath(path)); };
-    if ((missing(program) && !makeFile(host.hostPath(program), programSize))
-        || (missing(setup) && !makeFile(host.hostPath(setup), setupSize)))
+    if ((missing(program) && !host.makeFile(program, programSize))
+        || (missing(setup) && !host.makeFile(setup, setupSize)))
         return {exitFailed};
     host.openKey(WindowsKey::userRun)->setValue(u"OneDrive"_s, u"\"%1\" /background"_s.arg(program));
     const auto key = host.openKey(uninstallKey + u'\\' + setupName);

@@ -29,6 +29,9 @@ public:
     /** The file on this computer behind a Windows path. */
     virtual QString hostPath(const QString &windowsPath) const = 0;
 
+    /** Makes a file of that size, with its folder, that nobody reads; by its Windows path. False where it can't be. */
+    virtual bool makeFile(const QString &path, qint64 size) = 0;
+
     /** Whether a service runs; empty for one that was never started. */
     virtual std::optional<bool> isRunning(const QString &service) const = 0;
     virtual void setRunning(const QString &service, bool running) = 0;

@@ -62,10 +62,10 @@ void Kestrune::showHibernationGain()
 {
     constexpr double gibibytesPerByte = 1.0 / (1024.0 * 1024.0 * 1024.0);
 
-    const QFileInfo file(platform().hostPath(qEnvironmentVariable("systemdrive") + u"\\hiberfil.sys"_s));
-    if (!file.exists())
+    const QString file = platform().hostPath(qEnvironmentVariable("systemdrive") + u"\\hiberfil.sys"_s);
+    if (!QFileInfo::exists(file))
         return;
-    const QString gain = QString::number(static_cast<double>(file.size()) * gibibytesPerByte, 'g', 6);
+    const QString gain = QString::number(static_cast<double>(platform().fileSize(file)) * gibibytesPerByte, 'g', 6);
     ui.chkSsd7->setText(tr("Disable hibernation mode  (gain %1 GB of storage space)").arg(withOneDecimal(gain)));
 }
 

@@ -138,7 +138,8 @@ QStringList foundMissing(Machine &pc, Machine &captured, const Questions &questi
     for (const QString &path : questions.files) {
         const QFileInfo file(pc.hostPath(path));
         const QFileInfo taken(captured.hostPath(path));
-        if (isWindowsFile(path) && (file.exists() != taken.exists() || (file.isFile() && file.size() != taken.size())))
+        if (isWindowsFile(path)
+            && (file.exists() != taken.exists() || (file.isFile() && pc.fileSize(path) != captured.fileSize(path))))
             missing.append(u"file "_s + path);
         else if (isWindowsFile(path) && pc.attributes(path) != captured.attributes(path))
             missing.append(u"attributes of "_s + path);
@@ -327,7 +328,7 @@ void TestCapture::namesAreReplacedAndPathsStillFindTheirFiles()
     const auto run = store.find(u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s);
     QCOMPARE(store.value(*run, u"Notes of User"_s), (RegistryValue{u"Notes of User"_s, RegistryType::ExpandString,
                                                                    registryText(u"\"C:\\Users\\User\\notes.exe\""_s)}));
-    QCOMPARE(QFileInfo(machine->hostPath(u"C:\\Users\\User\\notes.exe"_s)).size(), 5);
+    QCOMPARE(machine->fileSize(u"C:\\Users\\User\\notes.exe"_s), 5);
     QVERIFY(QFileInfo::exists(machine->hostPath(u"C:\\Users\\User\\AppData\\Local\\Discord\\Update.exe"_s)));
     QCOMPARE(readFile(machine->hostPath(encoderConfig)),
              QByteArray("[RTSS]\r\nLog=C:\\Users\\User\\log \xe9\r\nEnableEncoderServer=1\r\n"));

@@ -171,6 +171,7 @@ void TestForeignMachine::openRefuses_data()
     row("an output without end", "INSERT INTO fault VALUES ('SC', 0, 0, NULL, 'x', 2147483647)", u"'SC'"_s);
     row("a long output again and again", "INSERT INTO fault VALUES ('SC', 0, 0, NULL, hex(zeroblob(1000000)), 1000)",
         u"'SC'"_s);
+    row("a file of 10 TB", "INSERT INTO meta VALUES ('size C:\\X', 10995116277760)", u"C:\\X"_s);
     row("a file of 10 TB to be made", "INSERT INTO meta VALUES ('hiberfile', 10995116277760)", u"hiberfil.sys"_s);
 }
 

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void walkOfWhatIsntThereGivesNothing();
     void walkOfADeepTree();
 
+    void sizesOfFiles();
     void attributesOfFilesAndFolders();
     void attributesOfALinkAreItsOwn();
     void attributesSetDuringAWalkLastWhenItIsOver();
@@ -243,6 +244,14 @@ void TestPlatform::walkOfADeepTree()
     const QMap<QString, qint64> entries = walked(u"C:"_s);
     QCOMPARE(entries.size(), 250);
     QVERIFY(entries.contains(drive() + deep));
+}
+
+void TestPlatform::sizesOfFiles()
+{
+    const QString file = drive() + u"/Folder/file.txt"_s;
+    writeFile(file, "three");
+    QCOMPARE(platform().fileSize(file), 5);
+    QCOMPARE(platform().fileSize(drive() + u"/missing"_s), 0);
 }
 
 void TestPlatform::attributesOfFilesAndFolders()

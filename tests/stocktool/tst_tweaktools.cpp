@@ -21,8 +21,7 @@ const Variables user{{u"KESTRUNE_ELEVATED"_s, u"1"_s}, {u"USERDOMAIN"_s, u"PC"_s
 
 qint64 sizeOf(SmallMachine &machine, const QString &file)
 {
-    const QFileInfo info(machine->hostPath(file));
-    return info.exists() ? info.size() : -1;
+    return QFileInfo::exists(machine->hostPath(file)) ? machine->fileSize(file) : -1;
 }
 
 QByteArray hibernateEnabled(SmallMachine &machine)

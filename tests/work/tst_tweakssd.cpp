@@ -23,7 +23,8 @@ void prepare(TestMachine &machine)
 {
     machine.write(memoryKey, limitName, u"before"_s);
     machine.write(powerKey, u"HibernateEnabled"_s, 1);
-    machine.addFile(u"C:\\hiberfil.sys"_s, QByteArray(5000, '\0'));
+    machine.addFile(u"C:\\hiberfil.sys"_s);
+    machine.machine().setFileSize(u"C:\\hiberfil.sys"_s, 5000);
     machine.machine().setAttributes(u"C:\\hiberfil.sys"_s, 0x26);
     machine.addFile(u"C:\\Data\\file.txt"_s);
     machine.addFile(u"C:\\Data\\left out before.txt"_s);
@@ -122,7 +123,7 @@ void TestTweakSsd::hibernationComesBackAtItsSize()
     trial.run(&WorkThread::TweakSSD, 7, applyAlone);
     QVERIFY(!QFile::exists(file));
     trial.run(&WorkThread::TweakSSD, 7, resetAlone);
-    QCOMPARE(QFileInfo(file).size(), 5000);
+    QCOMPARE(trial.machine.machine().fileSize(file), 5000);
     QCOMPARE(trial.machine.machine().attributes(file), 0x26u);
 }
 

@@ -36,8 +36,10 @@ QString searchProgram(TestMachine::Windows windows)
 /** Both search programs, a disabled one of which is there, and the service with its tasks. */
 void prepare(TestMachine &machine)
 {
-    for (const QString &file : {searchHost, searchApp})
-        machine.addFile(file, QByteArray(700, 's'));
+    for (const QString &file : {searchHost, searchApp}) {
+        machine.addFile(file);
+        machine.machine().setFileSize(file, 700);
+    }
     machine.machine().setProcesses({u"SearchHost.exe"_s, u"SearchApp.exe"_s});
     machine.write(servicesKey + u'\\' + cloudService, u"Start"_s, u"before"_s);
     machine.write(servicesKey + u'\\' + cloudService, u"Type"_s, 0xe0);
@@ -194,7 +196,7 @@ void TestTweakWindows::formerDisabledSearchIsDeletedFirst()
     prepare(trial.machine);
     const QString former = trial.machine.addFile(disabledName(searchHost), "an older one");
     trial.run(&WorkThread::TweakWindows, 10, applyAlone);
-    QCOMPARE(QFileInfo(former).size(), 700);
+    QCOMPARE(trial.machine.machine().fileSize(former), 700);
     QVERIFY(!QFile::exists(trial.machine.machine().hostPath(searchHost)));
     QCOMPARE(trial.machine.machine().processes(), QStringList(u"SearchApp.exe"_s));
 }

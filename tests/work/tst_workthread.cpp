@@ -28,10 +28,10 @@ const QStringList winSxsTail{u"page: Status: Getting WinSxS folder size finished
 const MachineOptions pausesWithoutEnd{.pace = 1e6};
 
 /** A file of a size that it doesn't take on the disk. */
-void addSparseFile(TestMachine &machine, const QString &windowsPath, qint64 size)
+void addLargeFile(TestMachine &machine, const QString &windowsPath, qint64 size)
 {
-    const QString path = machine.addFile(windowsPath);
-    QVERIFY(QFile::resize(path, size));
+    machine.addFile(windowsPath);
+    machine.machine().setFileSize(windowsPath, size);
 }
 
 /** A folder that never ends. */
@@ -233,7 +233,7 @@ void TestWorkThread::servicesToChangeMayBeRebuiltWhileTheJobRuns()
 void TestWorkThread::job5SendsItsLinesInOrderAndPauses3Seconds()
 {
     TestMachine machine;
-    addSparseFile(machine, u"C:\\Windows\\WinSxS\\a.bin"_s, gibibyte / 2);
+    addLargeFile(machine, u"C:\\Windows\\WinSxS\\a.bin"_s, gibibyte / 2);
     WorkThread worker;
     JobLines lines(worker);
     QVERIFY(runJob(worker, 5));
@@ -259,7 +259,7 @@ void TestWorkThread::job5WritesGibibytesWithSixDigits()
     QFETCH(const qint64, bytes);
     QFETCH(const QString, text);
     TestMachine machine;
-    addSparseFile(machine, u"C:\\Windows\\WinSxS\\a.bin"_s, bytes);
+    addLargeFile(machine, u"C:\\Windows\\WinSxS\\a.bin"_s, bytes);
     WorkThread worker;
     JobLines lines(worker);
     QVERIFY(runJob(worker, 5));
@@ -269,12 +269,12 @@ void TestWorkThread::job5WritesGibibytesWithSixDigits()
 void TestWorkThread::job5SumsAllLevelsAndLeavesHiddenEntriesOut()
 {
     TestMachine machine;
-    addSparseFile(machine, u"C:\\Windows\\WinSxS\\a.bin"_s, gibibyte);
-    addSparseFile(machine, u"C:\\Windows\\WinSxS\\one\\b.bin"_s, gibibyte);
-    addSparseFile(machine, u"C:\\Windows\\WinSxS\\one\\two\\three\\.c.bin"_s, gibibyte);
-    addSparseFile(machine, u"C:\\Windows\\WinSxS\\hidden.bin"_s, gibibyte);
+    addLargeFile(machine, u"C:\\Windows\\WinSxS\\a.bin"_s, gibibyte);
+    addLargeFile(machine, u"C:\\Windows\\WinSxS\\one\\b.bin"_s, gibibyte);
+    addLargeFile(machine, u"C:\\Windows\\WinSxS\\one\\two\\three\\.c.bin"_s, gibibyte);
+    addLargeFile(machine, u"C:\\Windows\\WinSxS\\hidden.bin"_s, gibibyte);
     machine.machine().setAttributes(u"C:\\Windows\\WinSxS\\hidden.bin"_s, 0x22);
-    addSparseFile(machine, u"C:\\Windows\\elsewhere.bin"_s, gibibyte);
+    addLargeFile(machine, u"C:\\Windows\\elsewhere.bin"_s, gibibyte);
     WorkThread worker;
     JobLines lines(worker);
     QVERIFY(runJob(worker, 5));
@@ -304,8 +304,8 @@ void TestWorkThread::job5OfAFolderThatCantBeReadGives0()
 void TestWorkThread::job5WithoutWindirWalksWinSxsOnTheDrivesRoot()
 {
     TestMachine machine;
-    addSparseFile(machine, u"C:\\WinSxS\\a.bin"_s, 2 * gibibyte);
-    addSparseFile(machine, u"C:\\Windows\\WinSxS\\b.bin"_s, 5 * gibibyte);
+    addLargeFile(machine, u"C:\\WinSxS\\a.bin"_s, 2 * gibibyte);
+    addLargeFile(machine, u"C:\\Windows\\WinSxS\\b.bin"_s, 5 * gibibyte);
     qunsetenv("windir");
     WorkThread worker;
     JobLines lines(worker);

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/** Contents are compared up to this size; what is larger is mostly a hole. */
+/** Contents are compared up to this size; of what is larger there is mostly nothing to be read. */
 constexpr qint64 largestContent = qint64{1024} * 1024;
 
 struct Entry
@@ -39,11 +39,12 @@ QString targetOf(const QFileInfo &link, const QString &machine)
 }
 
 /** Everything below a folder of a machine. @p shown is the folder's own name in what is shown. */
-Tree treeOf(const QString &machine, const QString &name, const QString &shown)
+Tree treeOf(const Machine &machine, const QString &name, const QString &shown)
 {
     constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
-    const QString folder = machine + u'/' + name;
+    const QString folder = machine.folder() + u'/' + name;
+    const QHash<QString, qint64> sizes = machine.givenSizes();
     Tree tree;
     QDirIterator walk(folder, everything, QDirIterator::Subdirectories);
     while (walk.hasNext()) {
@@ -57,9 +58,9 @@ Tree treeOf(const QString &machine, const QString &name, const QString &shown)
         entry.folder = info.isDir() && !isLink;
         entry.emptyFolder = entry.folder && QDir(entry.hostPath).isEmpty(everything);
         if (isLink)
-            entry.target = targetOf(info, machine);
-        else
-            entry.size = entry.folder ? 0 : info.size();
+            entry.target = targetOf(info, machine.folder());
+        else if (!entry.folder)
+            entry.size = std::max(info.size(), sizes.value(machine.pathKey(entry.hostPath)));
         tree.insert(foldName(entry.shownPath), entry);
     }
     return tree;
@@ -208,9 +209,9 @@ void compareFiles(const Machine &before, const Machine &after, QList<DiffRow> &r
 {
     for (const QString &drive : drivesOf({before.folder(), after.folder()})) {
         const QString shown = drive.mid(6).toUpper() + u':';
-        compareTrees(treeOf(before.folder(), drive, shown), treeOf(after.folder(), drive, shown), rows);
+        compareTrees(treeOf(before, drive, shown), treeOf(after, drive, shown), rows);
     }
     const QString program = u"program"_s;
-    compareTrees(treeOf(before.folder(), program, program), treeOf(after.folder(), program, program), rows);
+    compareTrees(treeOf(before, program, program), treeOf(after, program, program), rows);
     compareAttributes(before, after, rows);
 }

@@ -142,7 +142,16 @@ QString MachinePlatform::resourceFolder() const
 bool MachinePlatform::writeFile(const QString &folder, const QString &name, const QByteArray &content,
                                 IfThere ifThere) const
 {
-    return !isReadOnly(folder + u'/' + name) && writeFileBelow(folder, name, content, ifThere);
+    const QString file = folder + u'/' + name;
+    if (isReadOnly(file) || !writeFileBelow(folder, name, content, ifThere))
+        return false;
+    // What is written is all that there is.
+    if (!content.isEmpty())
+        guarded(false, [&] {
+            machine_->setFileSize(file, content.size());
+            return true;
+        });
+    return true;
 }
 
 bool MachinePlatform::appendLine(const QString &folder, const QString &name, const QString &line) const
@@ -160,9 +169,14 @@ void MachinePlatform::walk(const QString &windowsPath, const std::function<bool(
 {
     const AttributeWords::Walk together(attributes_);
     const QStringList hidden = guarded(QStringList(), [this] { return machine_->pathsWithAttribute(AttributeHidden); });
+    const QHash<QString, qint64> sizes = guarded(QHash<QString, qint64>(), [this] { return machine_->givenSizes(); });
     walkFolder(
         hostPath(windowsPath), QSet<QString>(hidden.cbegin(), hidden.cend()),
-        [this](const QString &link) { return machine_->leadsOut(link); }, visit);
+        [this](const QString &link) { return machine_->leadsOut(link); },
+        [&](const WalkEntry &entry) {
+            const qint64 given = sizes.isEmpty() ? 0 : sizes.value(machine_->pathKey(entry.path));
+            return visit({entry.path, std::max(entry.size, given)});
+        });
 }
 
 quint32 MachinePlatform::fileAttributes(const QString &file) const
@@ -181,6 +195,11 @@ void MachinePlatform::setAllFileAttributes(const QList<FileAttributes> &files) c
     Platform::setAllFileAttributes(files);
 }
 
+qint64 MachinePlatform::fileSize(const QString &file) const
+{
+    return guarded(Platform::fileSize(file), [&] { return machine_->fileSize(file); });
+}
+
 bool MachinePlatform::renameFile(const QString &from, const QString &to) const
 {
     // What was granted stays with a file of the system, and is noted by the name that it was granted under.
@@ -190,7 +209,13 @@ bool MachinePlatform::renameFile(const QString &from, const QString &to) const
             return !machine_->security(name).rights.isEmpty();
         });
     });
-    return isGranted && Platform::renameFile(from, to);
+    if (!isGranted || !Platform::renameFile(from, to))
+        return false;
+    guarded(false, [&] {
+        machine_->copyFileSize(from, to);
+        return true;
+    });
+    return true;
 }
 
 QString MachinePlatform::programFile(const QString &program) const

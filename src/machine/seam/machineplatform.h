@@ -52,6 +52,7 @@ public:
     quint32 fileAttributes(const QString &file) const override;
     void setFileAttributes(const QString &file, quint32 word) const override;
     void setAllFileAttributes(const QList<FileAttributes> &files) const override;
+    qint64 fileSize(const QString &file) const override;
     bool renameFile(const QString &from, const QString &to) const override;
     QString programFile(const QString &program) const override;
     QString takeFailure() const override { return MachineFailures::take(); }

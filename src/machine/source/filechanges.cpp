@@ -2,7 +2,6 @@
 
 #include "filechanges.h"
 
-#include "machine/filehole.h"
 #include "machine/machineerror.h"
 
 #include <QDir>
@@ -43,7 +42,7 @@ void FileChanges::makeFolder(const QString &folder)
     }
 }
 
-void FileChanges::write(const QString &file, const QByteArray &content, qint64 size)
+void FileChanges::write(const QString &file, const QByteArray &content)
 {
     makeFolder(QFileInfo(file).path());
     if (QFileInfo(file).isDir())
@@ -57,8 +56,7 @@ void FileChanges::write(const QString &file, const QByteArray &content, qint64 s
     }
     made_.append(file);
     QFile output(file);
-    if (!output.open(QIODevice::WriteOnly) || output.write(content) != content.size() || !resizeWithHole(output, size)
-        || !output.flush())
+    if (!output.open(QIODevice::WriteOnly) || output.write(content) != content.size() || !output.flush())
         throw MachineError{u"%1: %2"_s.arg(file, output.errorString())};
 }
 

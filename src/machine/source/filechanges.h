@@ -17,8 +17,8 @@ public:
 
     /** Makes a folder and those above it. Throws MachineError. */
     void makeFolder(const QString &folder);
-    /** Writes a file of that size, with a hole after its content. Throws MachineError. */
-    void write(const QString &file, const QByteArray &content, qint64 size);
+    /** Throws MachineError. */
+    void write(const QString &file, const QByteArray &content);
     void commit();
 
 private:

@@ -12,7 +12,7 @@ struct FileDescription
 {
     QString path;               ///< Windows path with a drive, without a backslash at its end
     bool folder = false;        ///< written with a backslash at its end
-    std::optional<qint64> size; ///< bytes; what the content doesn't fill is a hole
+    std::optional<qint64> size; ///< bytes; see Machine::setFileSize
     std::optional<QByteArray> content;
     std::optional<quint32> attributes; ///< the whole attribute word
     std::optional<FileSecurity> security{};

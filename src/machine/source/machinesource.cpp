@@ -163,7 +163,8 @@ void Import::apply(const QList<FileDescription> &files)
             files_.makeFolder(host);
         } else {
             const QByteArray content = file.content.value_or(QByteArray());
-            files_.write(host, content, file.size.value_or(content.size()));
+            files_.write(host, content);
+            machine_.setFileSize(file.path, file.size.value_or(content.size()));
         }
         if (file.attributes)
             machine_.setAttributes(file.path, *file.attributes);
@@ -218,7 +219,7 @@ void Import::addDll(const QString &path, const QMap<uint, QString> &strings)
 {
     machine_.setDllStrings(path, strings);
     if (const QString host = machine_.hostPath(path); !QFileInfo::exists(host))
-        files_.write(host, QByteArray(), 0);
+        files_.write(host, QByteArray());
 }
 
 QStringList sourceFiles(const QString &sources)

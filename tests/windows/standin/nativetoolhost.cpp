@@ -6,6 +6,10 @@
 
 #include "platform/windows/nativekey.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
 #include <windows.h>
 
 using namespace Qt::StringLiterals;
@@ -27,6 +31,12 @@ void NativeToolHost::writeText(const QString &path, const QString &name, const Q
 std::unique_ptr<RegistryKey> NativeToolHost::states() const
 {
     return openKey(standInStates);
+}
+
+bool NativeToolHost::makeFile(const QString &path, qint64 size)
+{
+    QFile file(path);
+    return QDir().mkpath(QFileInfo(file).path()) && file.open(QIODevice::WriteOnly) && file.resize(size);
 }
 
 std::optional<bool> NativeToolHost::isRunning(const QString &service) const

@@ -17,6 +17,7 @@ public:
     void writeText(const QString &path, const QString &name, const QString &text) override;
     QString resolveText(const QString &text) const override { return text; }
     QString hostPath(const QString &windowsPath) const override { return windowsPath; }
+    bool makeFile(const QString &path, qint64 size) override;
     std::optional<bool> isRunning(const QString &service) const override;
     void setRunning(const QString &service, bool running) override;
     QStringList runningServices() const override;
