@@ -64,7 +64,8 @@ QString builtInMachines()
 constexpr OptionRow options[] = {
     {"from"_L1,  "SOURCE"_L1, "fill it from a built-in machine, or from a folder of .reg files, tasks.xml and machine.json"_L1,
      "Fills it from a built-in machine:\n.B windows11\nand\n.B windows10\nare PCs that were upgraded,\n"
-     ".B windows11\\-25h2\nis one that was installed anew.\nThe help of this command tells where their facts come from.\n"
+     ".B windows11\\-25h2\nis one that was installed anew, and\n.B windows11\\-pro\\-laptop\n"
+     "a company's laptop, on which what Windows protects is refused.\nThe help of this command tells where their facts come from.\n"
      "Or fills it from a folder of sources: all its\n.I .reg\nfiles in the order of their names, then its\n"
      ".I tasks.xml\nand its\n.IR machine.json ."_L1},
     {"force"_L1, {},          "replace the machine that is there"_L1,

@@ -9,6 +9,7 @@
 #include "platform/taskdocument.h"
 #include "platform/windowsfacts.h"
 
+#include <QDirIterator>
 #include <QJsonArray>
 #include <QSet>
 #include <QTest>
@@ -100,6 +101,8 @@ public:
         const auto start = id ? machine_->registry().value(*id, u"Start"_s) : std::nullopt;
         return start ? start->data.at(0) : 0;
     }
+    QString folder() const { return machine_->folder(); }
+    QHash<QString, qint64> sizes() const { return machine_->givenSizes(); }
     bool exists(const QString &windowsPath) { return QFile::exists(machine_->hostPath(windowsPath)); }
 
 private:
@@ -122,6 +125,8 @@ private Q_SLOTS:
     void servicesOfWindows11();
     void everyServiceHasWhatItNeeds_data() { machines(); }
     void everyServiceHasWhatItNeeds();
+    void theLaptopRefusesWhatWindowsProtects_data() { machines(); }
+    void theLaptopRefusesWhatWindowsProtects();
     void taskStates_data();
     void taskStates();
     void tasks_data();
@@ -141,12 +146,14 @@ private Q_SLOTS:
     void hardware_data() { machines(); }
     void hardware();
     void hardwareDiffersBetweenThem();
+    void theirFoldersAreSmall_data() { machines(); }
+    void theirFoldersAreSmall();
 
 private:
     static void machines()
     {
         QTest::addColumn<QString>("name");
-        for (const char *name : {"windows11-25h2", "windows11", "windows10"})
+        for (const char *name : {"windows11-pro-laptop", "windows11-25h2", "windows11", "windows10"})
             QTest::newRow(name) << QString::fromLatin1(name);
     }
 };
@@ -159,7 +166,7 @@ void TestBuiltInMachines::theySayWhereTheirFactsComeFrom()
     QVERIFY(facts.size() >= 3);
     // Which PC it is, and where its services and tasks are from.
     QVERIFY(facts.filter(u"uild "_s).size() > 0 && facts.filter(u"ervices"_s).size() > 0);
-    QVERIFY(facts.filter(u"upgraded PC"_s).isEmpty() == (name == "windows11-25h2"_L1));
+    QVERIFY(facts.filter(u"upgraded PC"_s).isEmpty() == name.startsWith("windows11-"_L1));
 }
 
 void TestBuiltInMachines::startTypes_data()
@@ -223,6 +230,26 @@ void TestBuiltInMachines::everyServiceHasWhatItNeeds()
     }
 }
 
+void TestBuiltInMachines::theLaptopRefusesWhatWindowsProtects()
+{
+    QFETCH(const QString, name);
+    BuiltIn machine(name);
+    const auto service = machine->fault(u"sc"_s, {u"config"_s, u"WinDefend"_s, u"start=disabled"_s});
+    const QString guarded = u"Microsoft\\Windows\\UpdateOrchestrator\\Schedule Scan"_s;
+    const auto task = machine->fault(u"schtasks"_s, {u"/CHANGE"_s, u"/TN"_s, guarded, u"/DISABLE"_s});
+    const auto package = machine->fault(
+        u"powershell"_s, {u"-Command"_s, u"Get-AppxPackage"_s, u"Microsoft.LockApp"_s, u"| Remove-AppxPackage"_s});
+    if (name != "windows11-pro-laptop"_L1) {
+        QVERIFY(!service && !task && !package);
+        return;
+    }
+    QVERIFY(service && service->exitCode == 5);
+    QVERIFY(task && task->exitCode == 1);
+    QVERIFY(package && package->exitCode == 1);
+    // What isn't protected can be changed.
+    QVERIFY(!machine->fault(u"sc"_s, {u"config"_s, u"DiagTrack"_s, u"start=disabled"_s}));
+}
+
 void TestBuiltInMachines::taskStates_data()
 {
     addColumns<QString, QString, bool>("name", "tasks", "enabled");
@@ -254,6 +281,8 @@ void TestBuiltInMachines::taskStates()
 void TestBuiltInMachines::tasks_data()
 {
     addColumns<QString, qsizetype, QString>("name", "fewest", "ofTheVendor");
+    QTest::newRow("windows11-pro-laptop")
+        << u"windows11-pro-laptop"_s << qsizetype(244) << u"\\NvTmRep_{B2FE1952-0186-46C3-BAEC-A80AA35AC5B8}"_s;
     QTest::newRow("windows11-25h2") << u"windows11-25h2"_s << qsizetype(244)
                                     << u"\\NvTmRep_{B2FE1952-0186-46C3-BAEC-A80AA35AC5B8}"_s;
     QTest::newRow("windows11") << u"windows11"_s << qsizetype(180)
@@ -324,7 +353,7 @@ void TestBuiltInMachines::packages()
     BuiltIn machine(name);
     const QString key = appModel + u"\\Repository\\Packages"_s;
     const QStringList fullNames = machine.subkeys(key);
-    QVERIFY(fullNames.size() >= (name == "windows11-25h2"_L1 ? 75 : 85));
+    QVERIFY(fullNames.size() >= (name.startsWith("windows11-"_L1) ? 70 : 85));
     QSet<QString> families;
     int plain = 0, resources = 0, references = 0;
     for (const QString &fullName : fullNames) {
@@ -339,9 +368,13 @@ void TestBuiltInMachines::packages()
     QCOMPARE(plain + resources + references, int(fullNames.size()));
     QVERIFY(plain > 0 && resources > 0 && references > 0);
     QVERIFY(families.size() < fullNames.size());
+    QStringList staged = fullNames;
+    if (name == "windows11-pro-laptop"_L1) // an application that its user alone has doesn't come back
+        staged.removeIf([](const QString &fullName) { return fullName.startsWith("SpotifyAB."_L1); });
+    QCOMPARE(staged.size() < fullNames.size(), name == "windows11-pro-laptop"_L1);
     QCOMPARE(machine.subkeys(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Appx\\"
                              "AppxAllUserStore\\Applications"_s),
-             fullNames);
+             staged);
 }
 
 void TestBuiltInMachines::oneDrive()
@@ -364,6 +397,9 @@ void TestBuiltInMachines::whatTweaksLookFor_data()
 {
     addColumns<QString, QString, QString, QString, QList<qsizetype>>("name", "search", "cloudService", "vendor",
                                                                      "hints");
+    QTest::newRow("windows11-pro-laptop")
+        << u"windows11-pro-laptop"_s << u"MicrosoftWindows.Client.CBS_cw5n1h2txyewy\\SearchHost.exe"_s
+        << u"CloudBackupRestoreSvc_7a3c0"_s << u"NVIDIA"_s << QList<qsizetype>{0, 0, 22};
     QTest::newRow("windows11-25h2") << u"windows11-25h2"_s
                                     << u"MicrosoftWindows.Client.CBS_cw5n1h2txyewy\\SearchHost.exe"_s
                                     << u"CloudBackupRestoreSvc_4e5b1"_s << u"NVIDIA"_s << QList<qsizetype>{0, 0, 22};
@@ -476,6 +512,26 @@ void TestBuiltInMachines::hardwareDiffersBetweenThem()
     QVERIFY(!ten.text(radeon, u"RadeonSoftwareVersion"_s).isEmpty());
     QVERIFY(ten.exists(ten.text(radeon, u"InstallDir"_s) + u"\\Bin64\\AMDSoftwareInstaller.exe"_s));
     QVERIFY(!eleven->registry().find(radeon));
+}
+
+/** As whatever copies them finds them: no hole, no link. */
+void TestBuiltInMachines::theirFoldersAreSmall()
+{
+    constexpr qint64 mebibyte = qint64{1024} * 1024;
+
+    QFETCH(QString, name);
+    const BuiltIn machine(name);
+    qint64 onDisk = 0;
+    QDirIterator files(machine.folder(), QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        files.next();
+        onDisk += files.fileInfo().size();
+    }
+    qint64 told = 0;
+    for (const qint64 size : machine.sizes())
+        told += size;
+    QVERIFY2(onDisk < 5 * mebibyte, qPrintable(QString::number(onDisk)));
+    QVERIFY(told > 10000 * mebibyte);
 }
 
 KESTRUNE_SUITE(TestBuiltInMachines)
