@@ -25,8 +25,8 @@ class Check:
         self.left = {path.name.removesuffix(".schema.json") for path in SCHEMAS.glob("*.schema.json")}
         self.failures = []
 
-    def run(self, program, *words):
-        done = subprocess.run([self.programs / program, *words], cwd=self.place, stdin=subprocess.DEVNULL,
+    def run(self, program, *words, given=""):
+        done = subprocess.run([self.programs / program, *words], cwd=self.place, input=given.encode(),
                               capture_output=True, check=False)
         return done.stdout.decode()
 
@@ -96,7 +96,7 @@ def check_dsc(check):
     validator = jsonschema.Draft202012Validator
     validator.check_schema(rules)
     for verb in ("export", "get", "set", "test"):
-        instance = json.loads(check.run("kestrune-cli", "dsc", verb, "--machine", "before"))
+        instance = json.loads(check.run("kestrune-cli", "dsc", verb, "--machine", "before", given='{"formatVersion": 1}'))
         for error in list(validator(rules).iter_errors(instance))[:3]:
             check.failures.append(f"dsc {verb}: {error.json_path}: {error.message}")
     printed = json.loads(check.run("kestrune-cli", "dsc", "manifest"))

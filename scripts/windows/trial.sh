@@ -63,7 +63,7 @@ lay_trial_folder() {
     local folder=$inside_making/trial program
     rm -rf "$folder"
     mkdir -p "$folder"
-    for program in kestrune tests_program tests_trial marker started; do
+    for program in kestrune kestrune-cli tests_program tests_trial marker started; do
         cp -l "$inside_build/bin/$program.exe" "$folder/" 2>/dev/null || cp "$inside_build/bin/$program.exe" "$folder/"
     done
     cp -r "$inside_build"/bin/{img,machines,Translations} "$folder/"
@@ -108,6 +108,7 @@ run_window() {
     for test in "${page_tests[@]}"; do run_window_test "$test"; done
     expect_changes_of_pages
     run_window_test tst_realautomatizer
+    run_window_test tst_realcli
     say "trial: the window in $(took $((SECONDS - begin)))"
 }
 

@@ -55,6 +55,8 @@ constexpr GroupRow groupRows[] = {
     {PreviewGroup::Packages, "package"_L1,          "packages"_L1},
     {PreviewGroup::Autorun,  "program at logon"_L1, "startup"_L1},
     {PreviewGroup::Tweaks,   "option"_L1,           "tweaks"_L1},
+    {PreviewGroup::Files,    "file"_L1,             "files"_L1},
+    {PreviewGroup::Registry, "registry value"_L1,   "registry"_L1},
 };
 // clang-format on
 
@@ -101,8 +103,12 @@ public:
             addPackages();
             addAutoruns();
         }
+        if (byOptimize_)
+            addEncoder();
         if (profile_.features)
             addTweaks();
+        else if (byOptimize_)
+            addServiceTimeout();
         return aims_;
     }
 
@@ -160,7 +166,14 @@ private:
                 std::find_if(worker_.services.cbegin(), worker_.services.cend(), [&name](const ServiceRow &each) {
                     return each.name.compare(name, Qt::CaseInsensitive) == 0;
                 });
-            if (row != worker_.services.cend())
+            // One that is disabled needs no more; one that needn't be, since it doesn't run, still starts by itself.
+            aims_.removeIf([&name](const Aim &aim) {
+                return aim.state == AimState::NotNeeded && aim.name.compare(name, Qt::CaseInsensitive) == 0;
+            });
+            const bool isDisabled = std::any_of(aims_.cbegin(), aims_.cend(), [&name](const Aim &aim) {
+                return aim.name.compare(name, Qt::CaseInsensitive) == 0;
+            });
+            if (row != worker_.services.cend() && !isDisabled)
                 add(PreviewGroup::Services, name, row->displayName, u"started on demand"_s,
                     startsByItself(name) ? AimState::Open : AimState::InForce);
         }
@@ -309,6 +322,33 @@ private:
             return AimState::Unknown;
         }
         return AimState::Unknown;
+    }
+
+    void addEncoder()
+    {
+        if (const std::optional<bool> isOff = isEncoderOff()) {
+            add(PreviewGroup::Files, u"RivaTuner Statistics Server\\Profiles\\config"_s,
+                u"Video encoder of RivaTuner Statistics Server"_s, u"off"_s,
+                *isOff ? AimState::InForce : AimState::Open);
+        }
+    }
+
+    /** Optimize writes it where it disables services, also without the options, of which one writes it, too. */
+    void addServiceTimeout()
+    {
+        const QString name = u"WaitToKillServiceTimeout"_s;
+        const QString timeout = u"3000"_s;
+        const auto value = system_.value(WindowsKey::control, name);
+        const bool isSet = value && textOf(value->data) == timeout;
+        const bool isWritten = std::any_of(aims_.cbegin(), aims_.cend(), [](const Aim &aim) {
+            return aim.group == PreviewGroup::Services && aim.wish == disabled && aim.state == AimState::Open;
+        });
+        add(PreviewGroup::Registry, name, u"Milliseconds that services have to end at shutdown"_s, timeout,
+            isSet       ? AimState::InForce
+            : isWritten ? AimState::Open
+                        : AimState::NotNeeded);
+        if (aims_.constLast().state == AimState::NotNeeded)
+            aims_.last().why = u"no service is to be disabled"_s;
     }
 
     void addAbsent(PreviewGroup group, const QStringList &missing, const QString &wish)

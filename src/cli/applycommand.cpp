@@ -87,7 +87,8 @@ private:
     void optimize()
     {
         const bool isWorthIt = std::any_of(aims_.cbegin(), aims_.cend(), [this](const Aim &aim) {
-            return aim.state == AimState::Open && aim.group != PreviewGroup::Tweaks && !isNamed(aim);
+            return aim.state == AimState::Open && aim.group != PreviewGroup::Tweaks
+                   && aim.group != PreviewGroup::Registry && !isNamed(aim);
         });
         if (!isWorthIt)
             return;
@@ -235,8 +236,10 @@ QString wayBackText(const Applied &applied)
 {
     if (applied.session == 0)
         return u"nothing was changed\n"_s;
-    return u"session %1; 'kestrune-cli undo --session %1' takes it back; plan, result and log: %2\n"_s.arg(
-        QString::number(applied.session), QDir::toNativeSeparators(applied.folder));
+    const QString restart = applied.wantsRestart ? u"restart Windows: some of it is in force only then\n"_s : QString();
+    return restart
+           + u"session %1; 'kestrune-cli undo --session %1' takes it back; plan, result and log: %2\n"_s.arg(
+               QString::number(applied.session), QDir::toNativeSeparators(applied.folder));
 }
 
 int runApply(const Arguments &arguments)
@@ -259,15 +262,16 @@ int runApply(const Arguments &arguments)
 constexpr OptionRow options[] = {
     profileOption,
     jsonOption,
-    {"log"_L1, "FILE"_L1, "write what the jobs said, line by line"_L1},
+    {"log"_L1, "FILE"_L1, "write what each step reported, line by line"_L1},
     {"quiet"_L1, {}, "print nothing but errors"_L1},
-    {"yes"_L1, {}, "agree to a walk over all files, where the profile asks for 'ssd8'"_L1},
+    {"yes"_L1, {}, "agree to go through all files, where the profile asks for 'ssd8'"_L1},
 };
 
 QString moreHelp()
 {
     return u"Needs administrator rights. Everything is noted in the journal before it is changed, and 'undo' takes it\n"
-           "back. At the end all is read again. Columns: state, kind of thing, name, what was asked for, and why.\n"
+           "back. At the end everything is read again. Columns: state, kind of thing, name, what was asked for, and "
+           "why.\n"
            "Exit status: 0 done, or nothing to do; 1 something was refused; 2 bad arguments or profile;\n"
            "3 the PC can't be read; 5 administrator rights are needed; 3010 done, restart wanted.\n"_s;
 }

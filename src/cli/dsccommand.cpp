@@ -3,7 +3,9 @@
 
 #include "commands.h"
 #include "console/printable.h"
+#include "trial.h"
 #include "work/keepfeatures.h"
+#include "work/settings.h"
 #include "work/tweaks/tweakcatalogue.h"
 
 #include <QCoreApplication>
@@ -43,12 +45,12 @@ QByteArray readInput()
     return json;
 }
 
-/** What DSC asks for, without what isn't a profile's; nothing stands for what Optimize does. */
+/** What DSC asks for, without what isn't a profile's. */
 QJsonObject desiredInstance()
 {
     const QByteArray json = readInput();
     if (json.trimmed().isEmpty())
-        return {{u"formatVersion"_s, 1}};
+        throw Failure{ExitBadArguments, u"standard input: no instance, such as {\"formatVersion\": 1}"_s};
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (!document.isObject())
@@ -64,6 +66,9 @@ Profile profileOf(const QJsonObject &instance, const Pc &pc)
     Profile profile =
         checkedProfile(QJsonDocument(instance).toJson(QJsonDocument::Compact), u"instance"_s, &pc.system());
     profile.leavesOutUser = !pc.otherAccount().isEmpty();
+    // Nobody is there to agree to it, and afterwards nothing could tell that it is in force.
+    if (profile.tweaks.value(u"ssd8"_s))
+        throw Failure{ExitBadArguments, u"instance: 'ssd8' walks over all files, and is for 'apply --yes' alone"_s};
     return profile;
 }
 
@@ -142,7 +147,7 @@ int set(const Arguments &arguments)
 {
     const QJsonObject desired = desiredInstance();
     const Pc pc(arguments, PcUse::Change);
-    const Applied applied = applyTo(pc, profileOf(desired, pc), u"DSC"_s, true);
+    const Applied applied = applyTo(pc, profileOf(desired, pc), u"DSC"_s, false);
     QJsonObject actual = actualInstance(desired, applied.aims);
     if (applied.wantsRestart) {
         const QJsonArray restart{QJsonObject{{u"system"_s, QSysInfo::machineHostName()}}};
@@ -153,6 +158,12 @@ int set(const Arguments &arguments)
     if (!applied.failure.isEmpty())
         throw Failure{ExitJobFailed, u"not everything was done: "_s + applied.failure};
     return areInForce(applied.aims) ? ExitDone : ExitJobFailed;
+}
+
+bool isDisabled(const SystemState &system, const QString &service)
+{
+    const auto start = system.value(WindowsKey::services + u'\\' + service, u"Start"_s);
+    return start && !start->data.isEmpty() && start->data.front() == StartDisabled;
 }
 
 /** A profile that this PC is as it asks for: what Optimize does but for what isn't in force here. */
@@ -177,9 +188,13 @@ int exportState(const Arguments &arguments)
     }
     never.sort(Qt::CaseInsensitive);
     never.removeDuplicates();
+    QStringList services;
+    tryOut(pc.system(), [&] { services = recordedNames(u"SVC"_s); });
+    services.removeIf([&](const QString &name) { return !isDisabled(pc.system(), name) || never.contains(name); });
     printInstance({{u"formatVersion"_s, 1},
                    {u"keep"_s, keep},
                    {u"tweaks"_s, tweaks},
+                   {u"services"_s, QJsonArray::fromStringList(services)},
                    {u"never"_s, QJsonArray::fromStringList(never)}});
     return ExitDone;
 }
@@ -274,10 +289,10 @@ QString moreHelp()
     return u"For Microsoft Desired State Configuration 3, whose resource Kestrune/Profile this is; get, set and test "
            u"read\n"
            "an instance, which is a profile, from standard input.\n"
-           "  get       print the instance as it is: of what it names only what is in force, and \"_notInForce\"\n"
+           "  get       print the instance reduced to what is in force, with the rest in \"_notInForce\"\n"
            "  set       carry it out, as 'apply' does; needs administrator rights\n"
            "  test      the same as get; \"_inDesiredState\" tells whether all of it is in force\n"
-           "  export    print an instance that asks for what is in force here\n"
+           "  export    print an instance that asks for what is in force here, and leaves alone what isn't\n"
            "  schema    print the JSON Schema of instances\n"
            "  manifest  print the manifest, which DSC looks for in the folders of PATH\n"_s;
 }
@@ -287,7 +302,7 @@ QString moreHelp()
 const Subcommand dscSubcommand{
     "dsc"_L1,
     "get|set|test|export|schema|manifest"_L1,
-    "be a resource of Desired State Configuration"_L1,
+    "act as a resource of Desired State Configuration"_L1,
     {},
     1,
     1,

@@ -23,7 +23,7 @@ namespace {
 
 QString otherAccountOf(bool isSystem, bool isSignedIn)
 {
-    return isSystem ? u"the system"_s : isSignedIn ? QString() : u"another account than who is signed in"_s;
+    return isSystem ? u"the system"_s : isSignedIn ? QString() : u"an account other than the one signed in"_s;
 }
 
 constexpr OptionRow options[] = {

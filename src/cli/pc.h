@@ -30,7 +30,7 @@ public:
     SystemState &system() const { return *system_; }
     /**
      * Who this runs as where that isn't the user who is signed in, and so what belongs to the current user isn't his:
-     * "the system", which has no packages and no start-up of a user's, or "another account than who is signed in", as
+     * "the system", which has no packages and no start-up of a user's, or "an account other than the one signed in", as
      * where somebody gave an administrator's password. Mostly empty.
      */
     QString otherAccount() const { return otherAccount_; }

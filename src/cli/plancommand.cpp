@@ -10,6 +10,7 @@
 #include "machine/workfolder.h"
 #include "platform/processground.h"
 #include "preview/preview.h"
+#include "preview/previewtexts.h"
 #include "rehearse/progress.h"
 #include "rehearse/subcommands.h"
 
@@ -106,6 +107,14 @@ QJsonArray lostItems(const QByteArray &applied, const QString &copy, const QStri
     return lost;
 }
 
+/** "service" for the group "services". */
+QString thingOf(const QString &group)
+{
+    const auto found = std::find_if(allGroups().begin(), allGroups().end(),
+                                    [&group](const GroupTexts &each) { return groupWord(each.group) == group; });
+    return found == allGroups().end() ? group : thingText(found->group);
+}
+
 QString planText(const QJsonArray &items, const QJsonObject &counts, const QJsonArray &lost)
 {
     QString text;
@@ -113,8 +122,8 @@ QString planText(const QJsonArray &items, const QJsonObject &counts, const QJson
         const QString state = each["state"_L1].toString();
         if (!state.startsWith("would"_L1))
             continue;
-        QStringList columns{QString(state).replace(u'-', u' '), each["group"_L1].toString(), each["name"_L1].toString(),
-                            each["wish"_L1].toString()};
+        QStringList columns{QString(state).replace(u'-', u' '), thingOf(each["group"_L1].toString()),
+                            each["name"_L1].toString(), each["wish"_L1].toString()};
         if (const QString why = each["why"_L1].toString(); !why.isEmpty())
             columns.append(why);
         std::transform(columns.cbegin(), columns.cend(), columns.begin(), printable);
@@ -147,6 +156,8 @@ int runPlan(const Arguments &arguments)
     // Nothing that lies in a machine, which may come from anybody, is handled with an administrator's rights.
     if (const auto code = runWithoutRights())
         return *code;
+    if (arguments.has("not-elevated"_L1))
+        throw UsageError{u"--not-elevated isn't for plan, which shows what an administrator would change"_s};
     for (const QLatin1StringView report : {htmlOption.name, jsonOption.name}) {
         if (arguments.has(report))
             checkReportFile(arguments.value(report));
@@ -194,9 +205,10 @@ constexpr OptionRow options[] = {profileOption, htmlOption, jsonOption};
 
 QString moreHelp()
 {
-    return u"Does it all on a copy of this PC, or of --machine, and takes it back there. Nothing is changed. It gives\n"
-           "administrator rights up first, so what only an administrator may read is missing on a copy of this PC;\n"
-           "'kestrune-rehearse capture', run by one, makes a copy that has it.\n"
+    return u"Does it all on a copy of this PC, or of --machine, and takes it back there. Nothing is changed. It gives "
+           u"up\n"
+           "administrator rights first, so a copy of this PC lacks what only an administrator may read;\n"
+           "'kestrune-rehearse capture', run by an administrator, makes a copy that has it.\n"
            "Columns: what would become of it, kind of thing, name, what is asked for, and why.\n"_s;
 }
 

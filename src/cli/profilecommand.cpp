@@ -15,7 +15,7 @@ namespace {
 void makeProfile(const QString &file)
 {
     if (file != "-"_L1 && QFileInfo::exists(file))
-        throw Failure{ExitBadArguments, u"%1: is there already"_s.arg(file)};
+        throw Failure{ExitBadArguments, u"%1: already exists"_s.arg(file)};
     writeReportFile(file, profileTemplate());
 }
 
@@ -68,8 +68,8 @@ QString moreHelp()
            "  features   false leaves the options alone\n"
            "  tweaks     options: true puts in force, false leaves alone\n"
            "  services, tasks, packages, startup\n"
-           "             names to switch off beside what Optimize finds\n"
-           "  never      names to leave alone, whatever else says; * and ? are wildcards\n"
+           "             names to switch off in addition to what Optimize finds\n"
+           "  never      names to leave alone, whatever the other keys say; * and ? are wildcards\n"
            "  user       run as the system, or as another account than who is signed in: refuse, or skip what belongs "
            "to a\n"
            "             user\n\n"

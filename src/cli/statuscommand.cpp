@@ -48,7 +48,9 @@ constexpr OptionRow verifyOptions[] = {
 
 QString statusHelp()
 {
-    return u"Changes nothing and needs no administrator rights; what can't be read without them is unknown.\n"
+    return u"Changes nothing and needs no administrator rights; what can't be read without them is unknown, and "
+           u"scheduled\n"
+           "tasks that Windows shows to administrators alone are missing.\n"
            "Columns: state, kind of thing, name, what is asked for, and why.\n"_s;
 }
 

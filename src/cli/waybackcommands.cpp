@@ -31,7 +31,7 @@ QString undoHelp()
 {
     return u"Needs administrator rights. Every change that this program and Kestrune's window make is noted in the\n"
            "journal, with what was there before. Without --since, --session or --item everything is taken back.\n"
-           "What something else has changed since is left alone and said so. Taking back is a session too, and can\n"
+           "What something else has changed since is left alone, and reported. Taking back is a session too, and can\n"
            "be taken back.\n\n"
            "Columns: number, verdict, what it is, how it was before, how it is now, and why where it isn't back.\n"
            "Exit status: 0 everything is as it was; 1 something isn't.\n"_s;

@@ -65,7 +65,7 @@ struct TriedPc
 struct Column
 {
     QLatin1StringView title;
-    QLatin1StringView group; ///< as a plan has it
+    QLatin1StringView groups; ///< as a plan has them, with blanks between them
 };
 
 // clang-format off
@@ -75,6 +75,7 @@ constexpr std::array columns{
     Column{"applications"_L1, "packages"_L1},
     Column{"at logon"_L1,     "startup"_L1},
     Column{"options"_L1,      "tweaks"_L1},
+    Column{"others"_L1,       "files registry"_L1},
 };
 // clang-format on
 
@@ -102,11 +103,12 @@ TriedPc triedPc(const QString &folder, const QString &name, const Arguments &arg
     return pc;
 }
 
-qsizetype countOf(const QJsonObject &plan, QLatin1StringView state, QLatin1StringView group)
+qsizetype countOf(const QJsonObject &plan, QLatin1StringView state, QLatin1StringView groups)
 {
     const QJsonArray items = plan.value("items"_L1).toArray();
-    return std::count_if(items.begin(), items.end(), [state, group](const QJsonValue &item) {
-        return item["state"_L1] == state && (group.isEmpty() || item["group"_L1] == group);
+    const QStringList names = QString(groups).split(u' ', Qt::SkipEmptyParts);
+    return std::count_if(items.begin(), items.end(), [state, &names](const QJsonValue &item) {
+        return item["state"_L1] == state && (names.isEmpty() || names.contains(item["group"_L1].toString()));
     });
 }
 
@@ -130,7 +132,7 @@ QStringList cellsOf(const TriedPc &pc)
 {
     QStringList cells{pc.folder};
     for (const Column &column : columns)
-        cells.append(QString::number(countOf(pc.plan, "would-change"_L1, column.group)));
+        cells.append(QString::number(countOf(pc.plan, "would-change"_L1, column.groups)));
     const QStringList lost = notBack(pc);
     return cells << QString::number(countOf(pc.plan, "would-be-refused"_L1, {})) << QString::number(lost.size())
                  << lost.join(u", "_s);

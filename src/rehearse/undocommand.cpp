@@ -91,6 +91,18 @@ Selection selectionOf(const Request &request, const QList<Session> &sessions)
     return selection;
 }
 
+/** A Failure where one of the chosen changes isn't among those of the chosen sessions. */
+void checkItems(const Journal &journal, const Selection &selection)
+{
+    Selection all = selection;
+    all.items.clear();
+    const QList<TakenItem> known = selection.items.isEmpty() ? QList<TakenItem>() : planWayBack(journal, all);
+    for (const qint64 item : selection.items) {
+        if (std::none_of(known.cbegin(), known.cend(), [item](const TakenItem &each) { return each.id == item; }))
+            throw Failure{ExitBadArguments, u"there is no change %1"_s.arg(item)};
+    }
+}
+
 QString lineOf(QStringList columns)
 {
     std::transform(columns.cbegin(), columns.cend(), columns.begin(), printable);
@@ -214,7 +226,7 @@ QString moreHelp()
 {
     return u"Every change made by 'run' and 'gui' with administrator rights is noted in the machine's journal, with\n"
            "what was there before. Without --since, --session or --item everything is taken back. What something\n"
-           "else has changed since is left alone and said so. Taking back is a session too, and can be taken back.\n"
+           "else has changed since is left alone, and reported. Taking back is a session too, and can be taken back.\n"
            "\n"
            "Columns: number, verdict, what it is, how it was before, how it is now, and why where it isn't back.\n"
            "Exit status: 0 where everything is as it was, 1 where something isn't.\n"_s;
@@ -229,6 +241,7 @@ int undoBy(const Journal &journal, const Arguments &arguments)
         checkReportFile(arguments.value("json"_L1));
     const QList<Session> sessions = journal.store().sessions();
     const Selection selection = selectionOf(request, sessions);
+    checkItems(journal, selection);
     if (arguments.has("list"_L1)) {
         if (request.session || request.since || !request.items.isEmpty()) {
             const QList<TakenItem> items = planWayBack(journal, selection);

@@ -5,8 +5,13 @@
 
 #include "work/workthread.h"
 
+#include <optional>
+
 /** 1 when the last Analyze saw a process of a video encoder that can be switched off. */
 extern std::atomic<int> encoderServerFound;
+
+/** Whether that encoder is switched off already; nothing where Analyze would find none. Changes nothing. */
+std::optional<bool> isEncoderOff();
 
 /** A run of one of the three on a worker, whose members are its input and its results. Throws JobInterrupted. */
 class Automatizer

@@ -11,6 +11,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 std::atomic<int> encoderServerFound = 0;
@@ -45,6 +47,18 @@ QByteArray withEncoderOff(QByteArray config)
 }
 
 } // namespace
+
+std::optional<bool> isEncoderOff()
+{
+    const QStringList processes = platform().processNames();
+    QFile file(configFile());
+    if (std::none_of(processes.cbegin(), processes.cend(), isEncoder) || !file.exists())
+        return {};
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray config = file.readAll();
+    return withEncoderOff(config) == config;
+}
 
 void Automatizer::analyzeProcesses()
 {
