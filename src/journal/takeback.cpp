@@ -281,14 +281,17 @@ public:
 
     const QList<Note> &all() const { return moves_; }
 
-    /** The item, of the file where that is now. */
+    /** The item, of the file where that is now: it may be noted by the name before a move, or by the one after it. */
     Item followed(const Journal &journal, Item item) const
     {
+        if (item.kind != ItemKind::Attributes || QFileInfo::exists(journal.hostPath(item.subject)))
+            return item;
         for (const Note &each : moves_) {
-            const QString former = journal.hostPath(each.item.subject);
-            if (item.kind == ItemKind::Attributes && journal.hostPath(item.subject) == former
-                && !QFileInfo::exists(former))
+            const QString path = journal.hostPath(item.subject);
+            if (path == journal.hostPath(each.item.subject))
                 item.subject = each.item.name;
+            else if (path == journal.hostPath(each.item.name))
+                item.subject = each.item.subject;
         }
         return item;
     }
@@ -344,12 +347,12 @@ bool isWanted(const Selection &selection, const TakenItem &item)
 }
 
 /** The verdict once all has been tried. */
-void judgeAfterwards(const Journal &journal, const Selection &selection, TakenItem &item)
+void judgeAfterwards(const Journal &journal, const Selection &selection, const Moves &moves, TakenItem &item)
 {
     if (item.item.kind == ItemKind::OneWay)
         return;
     item.now = item.item.kind == ItemKind::Move ? ItemState{QFileInfo::exists(journal.hostPath(item.item.subject))}
-                                                : journal.stateOf(item.item);
+                                                : journal.stateOf(moves.followed(journal, item.item));
     if (item.now == item.before) {
         item.verdict = WayBack::AsItWas;
         item.why.clear();
@@ -461,7 +464,12 @@ QList<TakenItem> takeBack(const Journal &journal, const Selection &selection,
                 run.take(item);
         }
     }
+    Moves moves;
+    for (const TakenItem &item : std::as_const(plan)) {
+        if (item.item.kind == ItemKind::Move)
+            moves.add({.item = item.item});
+    }
     for (TakenItem &item : plan)
-        judgeAfterwards(journal, selection, item);
+        judgeAfterwards(journal, selection, moves, item);
     return plan;
 }

@@ -319,8 +319,29 @@ private Q_SLOTS:
     void whateverWasDoneComesBack_data();
     void whateverWasDoneComesBack();
     void anEarlierSessionComesBackOnceTheLaterOneIsBack();
+    void aFileThatWasMovedBeforeItsWordComesBack();
     void atWhateverMomentItEnds();
 };
+
+/** Its word is noted by the name that it has only for a while. */
+void TestTakeBack::aFileThatWasMovedBeforeItsWordComesBack()
+{
+    constexpr quint32 notIndexed = 0x2000;
+    TestMachine pc;
+    pc.addFile(u"C:\\Tools\\a.exe"_s);
+    const Journaled journaled(pc);
+    const QString file = platform().hostPath(u"C:\\Tools\\a.exe"_s);
+    const QString moved = platform().hostPath(u"C:\\Tools\\a_disable.exe"_s);
+    {
+        const ChangeSession session(u"Tweaks"_s);
+        QVERIFY(platform().renameFile(file, moved));
+        platform().setFileAttributes(moved, platform().fileAttributes(moved) | notIndexed);
+    }
+    QCOMPARE(journaled.takeAllBack().join(u'\n'), QString());
+    QCOMPARE(journaled.differences().join(u'\n'), QString());
+    for (const TakenItem &item : planWayBack(journaled.journal(), {.lastSession = 1}))
+        QVERIFY2(item.verdict == WayBack::AsItWas, qPrintable(foldedItem(item.item) + u' ' + item.why));
+}
 
 void TestTakeBack::everyTweakComesBack_data()
 {
