@@ -4,7 +4,7 @@
 
 #include "platform/platform.h"
 #include "support/files.h"
-#include "support/listpages.h"
+#include "support/packageplaces.h"
 #include "support/processes.h"
 #include "support/suite.h"
 #include "windows/standin/standinkeys.h"
@@ -132,7 +132,7 @@ void TestRealCli::appliesOnceAndTakesItBack()
 
 void TestRealCli::anEndInTheMiddleIsTakenBack()
 {
-    constexpr int patience = 60000;
+    constexpr int longPatience = 60000; // milliseconds
     const QStringList before = registryLines();
     QProcess process;
     process.start(builtProgram(u"kestrune-cli"_s), {u"apply"_s, u"--profile"_s, profile_});
@@ -143,7 +143,7 @@ void TestRealCli::anEndInTheMiddleIsTakenBack()
         query.waitForFinished();
         return query.readAllStandardOutput().contains("0x4");
     };
-    QVERIFY(QTest::qWaitFor(isBegun, patience));
+    QVERIFY(QTest::qWaitFor(isBegun, longPatience));
     process.kill();
     process.waitForFinished();
     QVERIFY(!differences(before, registryLines()).isEmpty());
