@@ -62,6 +62,17 @@ QStringList registryLines()
     return lines;
 }
 
+/** The lines of what didn't come back. */
+QByteArray notBack(const Ended &undone)
+{
+    QByteArray lines;
+    for (const QByteArray &line : undone.output.split('\n')) {
+        if (!line.contains("\tas it was\t"))
+            lines += line + '\n';
+    }
+    return lines;
+}
+
 /** What one list has and the other doesn't. */
 QStringList differences(const QStringList &left, const QStringList &right)
 {
@@ -94,14 +105,18 @@ private:
 
 void TestRealCli::initTestCase()
 {
-    const TrialPc pc; // only to lay what the program finds: it has the journal for itself while it is there
-    QVERIFY(platform().isElevated());
-    emptyKey(settingsKey);
-    pc.startServices(services);
-    pc.registerTasks(tasks);
-    for (const QString &key : {userRunKey, machineRunKey, machineRunKey32})
-        emptyKey(key);
-    platform().openKey(userRunKey)->setValue(u"Quoted"_s, u"\"C:\\windows\\system32\\notepad.exe\" -tray"_s);
+    {
+        const TrialPc pc; // it has the journal for itself while it is there
+        QVERIFY(platform().isElevated());
+        emptyKey(settingsKey);
+        pc.startServices(services);
+        pc.registerTasks(tasks);
+        for (const QString &key : {userRunKey, machineRunKey, machineRunKey32})
+            emptyKey(key);
+        platform().openKey(userRunKey)->setValue(u"Quoted"_s, u"\"C:\\windows\\system32\\notepad.exe\" -tray"_s);
+    }
+    // What was laid, and what other tests did here, is how the PC is.
+    QVERIFY(QDir(qEnvironmentVariable("ProgramData") + u"\\Kestrune"_s).removeRecursively());
     profile_ = place_.filePath(u"profile.json"_s);
     writeFile(profile_,
               R"({"formatVersion": 1, "keep": {"printer": false}, "tweaks": {"ssd7": false, "windows10": false},
@@ -126,7 +141,7 @@ void TestRealCli::appliesOnceAndTakesItBack()
     QCOMPARE(cli({u"verify"_s, u"--profile"_s, profile_}).exitCode, done);
 
     const Ended undone = cli({u"undo"_s});
-    QVERIFY2(undone.exitCode == done, (undone.errors + undone.output).constData());
+    QVERIFY2(undone.exitCode == done, (undone.errors + notBack(undone)).constData());
     QCOMPARE(differences(before, registryLines()).join(u'\n'), QString());
 }
 
@@ -149,7 +164,7 @@ void TestRealCli::anEndInTheMiddleIsTakenBack()
     QVERIFY(!differences(before, registryLines()).isEmpty());
 
     const Ended undone = cli({u"undo"_s});
-    QVERIFY2(undone.exitCode == done, (undone.errors + undone.output).constData());
+    QVERIFY2(undone.exitCode == done, (undone.errors + notBack(undone)).constData());
     QCOMPARE(differences(before, registryLines()).join(u'\n'), QString());
 }
 
