@@ -19,6 +19,9 @@ namespace {
 
 const QString currentUser = u"HKEY_CURRENT_USER"_s;
 
+const QString policies = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies"_s;
+const QString policiesOf32 = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Policies"_s;
+
 /** How many attribute words are noted together. */
 constexpr qsizetype mostWords = 5000;
 
@@ -190,6 +193,9 @@ ItemState Journal::stateOf(const Item &item) const
 
 QString Journal::commonPath(const QString &key) const
 {
+    // Noted by each of its names, one value would be taken back twice, to what it was before and to what was between.
+    if (options_.sharesPolicies && (key + u'\\').startsWith(policiesOf32 + u'\\', Qt::CaseInsensitive))
+        return policies + key.sliced(policiesOf32.size());
     const bool isUsers = key == currentUser || key.startsWith(currentUser + u'\\', Qt::CaseInsensitive);
     return isUsers && !options_.userKey.isEmpty() ? options_.userKey + key.sliced(currentUser.size()) : key;
 }

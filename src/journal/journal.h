@@ -24,10 +24,11 @@ struct JournalOptions
 {
     QString file{}; ///< host path of the journal
     Durability durability = Durability::PowerCut;
-    QString user{};    ///< who runs the program, for the list of sessions
-    QString version{}; ///< of the program
-    QString userKey{}; ///< what HKEY_CURRENT_USER is called where others see it too; empty: nothing else
-    QString shut{};    ///< why there can be no journal; nothing is changed then
+    QString user{};              ///< who runs the program, for the list of sessions
+    QString version{};           ///< of the program
+    QString userKey{};           ///< what HKEY_CURRENT_USER is called where others see it too; empty: nothing else
+    bool sharesPolicies = false; ///< the policies of 32-bit programs are those of all: one key by two names
+    QString shut{};              ///< why there can be no journal; nothing is changed then
     ForeignRule isForeign = nullptr;
     QStringList putAside{};       ///< sentences about what was put aside already
     std::shared_ptr<void> hold{}; ///< kept as long as the journal is open

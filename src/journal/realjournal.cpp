@@ -57,6 +57,7 @@ std::unique_ptr<Journal> openRealJournal(const QString &folder)
         if (folder.isEmpty())
             throw MachineError{u"Windows has no folder for the data of programs"_s};
         options.userKey = u"HKEY_USERS\\"_s + options.user;
+        options.sharesPolicies = arePoliciesShared();
         options.hold = holdJournalFolder(folder, options.putAside);
         options.file = folder + u"\\changes.sqlite"_s;
         return journalWith(options);

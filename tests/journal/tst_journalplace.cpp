@@ -66,6 +66,7 @@ private Q_SLOTS:
     void freeNamesAreTaken();
     void aMachineTellsWhatWasPutAside();
     void aShutJournalLetsNothingBeChanged();
+    void policiesOfTwoNamesAreNotedByOne();
     void usersKeysAreNotedByTheNameThatOthersKnow();
     void recordsAreKnownByThatNameToo();
     void aRecordGoesWithItsSingleChange();
@@ -279,12 +280,13 @@ QStringList notedValues(const Journal &journal, bool own)
 }
 
 /** A journal of a machine, for a user whose keys others know by their number. */
-Journal &openAsUser(const QString &folder)
+Journal &openAsUser(const QString &folder, bool sharesPolicies = false)
 {
     auto onMachine = std::make_unique<MachinePlatform>(folder, MachineOptions());
     Machine &machine = onMachine->machine();
     JournalOptions options = journalOptions(folder);
     options.userKey = users;
+    options.sharesPolicies = sharesPolicies;
     auto journal = std::make_unique<Journal>(std::move(onMachine), std::make_unique<MachineSystem>(machine), options);
     Journal &opened = *journal;
     setPlatform(std::move(journal));
@@ -292,6 +294,32 @@ Journal &openAsUser(const QString &folder)
 }
 
 } // namespace
+
+void TestJournalPlace::policiesOfTwoNamesAreNotedByOne()
+{
+    const TestMachine pc;
+    setPlatform(nullptr);
+    const Journal &journal = openAsUser(pc.folder(), true);
+    const QString policies = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Policies"_s;
+    const QString policiesOf32 = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Policies"_s;
+    QCOMPARE(journal.commonPath(policiesOf32), policies);
+    QCOMPARE(journal.commonPath(policiesOf32.toUpper() + u"\\Vendor"_s), policies + u"\\Vendor"_s);
+    QCOMPARE(journal.commonPath(policiesOf32 + u"Other"_s), policiesOf32 + u"Other"_s);
+    {
+        const ChangeSession session(u"Tweaks"_s);
+        for (const QString &key : {policiesOf32, policies})
+            platform().openKey(key + u"\\Vendor"_s)->setValue(u"value"_s, 1);
+    }
+    int values = 0;
+    for (const TakenItem &item : planWayBack(journal, {})) {
+        if (item.item.kind != ItemKind::Value)
+            continue;
+        QCOMPARE(item.item.subject, policies + u"\\Vendor"_s);
+        ++values;
+    }
+    QCOMPARE(values, 1);
+    setPlatform(nullptr);
+}
 
 void TestJournalPlace::usersKeysAreNotedByTheNameThatOthersKnow()
 {

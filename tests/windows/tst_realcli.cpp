@@ -149,6 +149,8 @@ void TestRealCli::anEndInTheMiddleIsTakenBack()
 {
     constexpr int longPatience = 60000; // milliseconds
     const QStringList before = registryLines();
+    const Ended status = cli({u"status"_s});
+    QVERIFY2(status.output.contains("not in force\tservice\tFontCache\tdisabled"), status.output.constData());
     QProcess process;
     process.start(builtProgram(u"kestrune-cli"_s), {u"apply"_s, u"--profile"_s, profile_});
     const auto isBegun = [] {

@@ -88,6 +88,31 @@ Key madeKey(const QString &path, REGSAM rights)
 
 } // namespace
 
+bool arePoliciesShared()
+{
+    using NtQueryKey = LONG(WINAPI *)(HANDLE, int, void *, ULONG, ULONG *);
+    constexpr int keyNameInformation = 3; // a KEY_NAME_INFORMATION: the length in bytes, and the name
+
+    struct
+    {
+        ULONG length;
+        wchar_t name[512];
+    } full{};
+    ULONG size = 0;
+    const auto query = reinterpret_cast<NtQueryKey>(
+        reinterpret_cast<void *>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryKey")));
+    HKEY key = nullptr;
+    if (query == nullptr
+        || RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Wow6432Node\\Policies", 0, KEY_QUERY_VALUE | KEY_WOW64_64KEY,
+                         &key)
+               != ERROR_SUCCESS)
+        return false;
+    const LONG status = query(key, keyNameInformation, &full, sizeof(full), &size);
+    RegCloseKey(key);
+    const QString name = QString::fromWCharArray(full.name, static_cast<qsizetype>(full.length / sizeof(wchar_t)));
+    return status == 0 && name.endsWith("\\SOFTWARE\\Policies"_L1, Qt::CaseInsensitive);
+}
+
 bool WindowsSystem::hasKey(const QString &path) const
 {
     const LSTATUS status = openExisting(path, KEY_QUERY_VALUE).second;

@@ -7,6 +7,12 @@
 #include "windowsplatform.h"
 
 /**
+ * Whether the policies of 32-bit programs, HKEY_LOCAL_MACHINE\SOFTWARE\Wow6432Node\Policies, are another name of those
+ * of all, as Windows has it since version 7; false where that can't be asked.
+ */
+bool arePoliciesShared();
+
+/**
  * What only an administrator may read or put back is unknown or refused without the rights of one. Owner and rights
  * come as a security descriptor in the form of SDDL.
  */
