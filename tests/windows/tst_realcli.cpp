@@ -7,7 +7,6 @@
 #include "support/packageplaces.h"
 #include "support/processes.h"
 #include "support/suite.h"
-#include "windows/standin/standinkeys.h"
 #include "windows/trialpc.h"
 #include "work/settings.h"
 
@@ -52,9 +51,9 @@ QStringList registryLines()
             const QString bare = line.trimmed();
             if (bare.startsWith(u'['))
                 key = bare;
-            const bool isOwn = key.contains("\\Kestrune"_L1) || key.contains("\\Wine"_L1)
-                               || key.contains(standInCommands.section(u'\\', -1))
-                               || key.contains(standInSurroundings.section(u'\\', -1));
+            // Wine names the computer's network adapters once somebody asks for them.
+            const bool isOwn =
+                key.contains("\\Kestrune"_L1) || key.contains("\\Wine"_L1) || key.contains("\\NetworkCards"_L1);
             if (!bare.isEmpty() && !isOwn)
                 lines.append(bare.startsWith(u'[') ? bare : key + u' ' + bare);
         }
@@ -142,12 +141,17 @@ void TestRealCli::appliesOnceAndTakesItBack()
 
     const Ended undone = cli({u"undo"_s});
     QVERIFY2(undone.exitCode == done, (undone.errors + notBack(undone)).constData());
-    QCOMPARE(differences(before, registryLines()).join(u'\n'), QString());
+    const QStringList left = differences(before, registryLines());
+    QVERIFY2(left.isEmpty(), qPrintable(left.join(u'\n')));
 }
 
 void TestRealCli::anEndInTheMiddleIsTakenBack()
 {
     constexpr int longPatience = 60000; // milliseconds
+    {
+        const TrialPc pc; // the stand-ins' services aren't those whose state the journal knows
+        pc.startServices(services);
+    }
     const QStringList before = registryLines();
     const Ended status = cli({u"status"_s});
     QVERIFY2(status.output.contains("not in force\tservice\tFontCache\tdisabled"), status.output.constData());
@@ -167,7 +171,8 @@ void TestRealCli::anEndInTheMiddleIsTakenBack()
 
     const Ended undone = cli({u"undo"_s});
     QVERIFY2(undone.exitCode == done, (undone.errors + notBack(undone)).constData());
-    QCOMPARE(differences(before, registryLines()).join(u'\n'), QString());
+    const QStringList left = differences(before, registryLines());
+    QVERIFY2(left.isEmpty(), qPrintable(left.join(u'\n')));
 }
 
 KESTRUNE_SUITE(TestRealCli)
