@@ -51,9 +51,10 @@ QStringList registryLines()
             const QString bare = line.trimmed();
             if (bare.startsWith(u'['))
                 key = bare;
-            // Wine names the computer's network adapters once somebody asks for them.
-            const bool isOwn =
-                key.contains("\\Kestrune"_L1) || key.contains("\\Wine"_L1) || key.contains("\\NetworkCards"_L1);
+            // The service manager counts its processes, and Wine names the network adapters once somebody asks for
+            // them.
+            const bool isOwn = key.contains("\\Kestrune"_L1) || key.contains("\\Wine"_L1)
+                               || key.contains("\\NetworkCards"_L1) || key.contains("\\ServiceCurrent"_L1);
             if (!bare.isEmpty() && !isOwn)
                 lines.append(bare.startsWith(u'[') ? bare : key + u' ' + bare);
         }
