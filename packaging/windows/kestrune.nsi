@@ -28,9 +28,9 @@ ManifestDPIAware true
 !include LogicLib.nsh
 !include Sections.nsh
 !include StrFunc.nsh
-${StrStr}
-${UnStrStr}
-${UnStrRep}
+${Using:StrFunc} StrStr
+${Using:StrFunc} UnStrStr
+${Using:StrFunc} UnStrRep
 
 Name "Kestrune"
 OutFile "${OUTPUT}"
