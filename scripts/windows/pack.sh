@@ -231,7 +231,7 @@ install_without_rehearsals() {
 install_on_path() {
     local had='%SystemRoot%\system32;C:\tools' long place former
     former=$(value "$3" Path)
-    long="$had;C:\$(printf 'x%.0s' {1..1200})"
+    long="$had;C:/$(printf 'x%.0s' {1..1200})"
     for was in "$had" "$long"; do
         set_value "$3" Path REG_EXPAND_SZ "$was"
         quietly "install-path-$1" 120 wine "$(echo "$inside_packages_folder"/kestrune-*-setup.exe)" /S "/$1" /PATH
