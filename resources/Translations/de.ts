@@ -1539,7 +1539,7 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 </message>
 <message>
 <source>Service %1: start mode</source>
-<translation>Dienst %1: Startart</translation>
+<translation>Dienst %1: Starttyp</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1653,7 +1653,7 @@ Dieser Prozess dient nur der Videoaufnahme des Bildschirms. Er hat keinen Einflu
 </message>
 <message>
 <source>stopped</source>
-<translation>angehalten</translation>
+<translation>beendet</translation>
 </message>
 <message>
 <source>stopped:</source>
@@ -1803,7 +1803,7 @@ info</translation>
 </message>
 <message>
 <source>What was changed on this PC isn't noted, so there is no way back by notes.</source>
-<translation>Was auf diesem PC geändert wurde, ist nicht notiert; deshalb gibt es keinen Weg zurück nach Notizen.</translation>
+<translation>Was auf diesem PC geändert wurde, ist nicht notiert; deshalb gibt es keinen Weg zurück.</translation>
 </message>
 <message>
 <source>When</source>

@@ -394,7 +394,7 @@
 </message>
 <message>
 <source>not installed</source>
-<translation>no instalada</translation>
+<translation>no instalado</translation>
 </message>
 <message>
 <source>starts</source>
@@ -706,7 +706,7 @@ Se restaurarán todas las funciones, aplicaciones, servicios y tareas.</translat
 </message>
 <message>
 <source>Content indexing on</source>
-<translation>Indexación de contenido activada</translation>
+<translation>Indexación de contenido habilitada</translation>
 </message>
 <message>
 <source>CPU</source>
@@ -1299,7 +1299,7 @@ Puede volver a instalarlos directamente haciendo clic en «Ver paquetes desinsta
 </message>
 <message>
 <source>on</source>
-<translation>activado</translation>
+<translation>habilitado</translation>
 </message>
 <message>
 <source>on drive</source>
@@ -1325,7 +1325,7 @@ Puede volver a instalarlos directamente haciendo clic en «Ver paquetes desinsta
 <source>Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Otro protocolo dedicado a la red local (p. ej., algunos reproductores de vídeo lo usan para conectarse a discos duros de red)<byte value="xd"/>
-(de forma predeterminada no se usa, pero está activado)</translation>
+(de forma predeterminada no se usa, pero está habilitado)</translation>
 </message>
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
@@ -1425,13 +1425,13 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 <source>Proxy or VPN functionality to improve the security of your network traffic<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Función de proxy o VPN para mejorar la seguridad del tráfico de red<byte value="xd"/>
-(de forma predeterminada no se usa, pero está activada)</translation>
+(de forma predeterminada no se usa, pero está habilitada)</translation>
 </message>
 <message>
 <source>Quick setup of some bluetooth headsets<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Configuración rápida de algunos auriculares Bluetooth<byte value="xd"/>
-(de forma predeterminada no se usa, pero está activada)</translation>
+(de forma predeterminada no se usa, pero está habilitada)</translation>
 </message>
 <message>
 <source>Reading what has become of it…</source>
@@ -1539,7 +1539,7 @@ Este proceso solo permite capturar vídeo de la pantalla. No afecta en absoluto 
 </message>
 <message>
 <source>Service %1: start mode</source>
-<translation>Servicio %1: modo de inicio</translation>
+<translation>Servicio %1: tipo de inicio</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1803,7 +1803,7 @@ del sistema</translation>
 </message>
 <message>
 <source>What was changed on this PC isn't noted, so there is no way back by notes.</source>
-<translation>Los cambios en este PC no se anotan, así que no hay vuelta atrás a partir de notas.</translation>
+<translation>Los cambios en este PC no se anotan, así que no hay vuelta atrás.</translation>
 </message>
 <message>
 <source>When</source>
@@ -1853,7 +1853,7 @@ del sistema</translation>
 <source>Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Uso compartido de Windows en una red local (protocolo SMB) (p. ej., conectar discos duros o impresoras en una red local)<byte value="xd"/>
-(de forma predeterminada no se usa, pero está activado)</translation>
+(de forma predeterminada no se usa, pero está habilitado)</translation>
 </message>
 <message>
 <source>With all &amp;later changes</source>
@@ -1921,7 +1921,7 @@ del sistema</translation>
 </message>
 <message>
 <source>Frees the space of hiberfil.sys. The PC can't hibernate any more, and fast startup goes too.</source>
-<translation>Libera el espacio de hiberfil.sys. El equipo ya no puede hibernar y se pierde el inicio rápido.</translation>
+<translation>Libera el espacio de hiberfil.sys. El PC ya no puede hibernar y se pierde el inicio rápido.</translation>
 </message>
 <message>
 <source>Takes all files out of the content index: search gets slower and finds less.</source>
@@ -1961,7 +1961,7 @@ del sistema</translation>
 </message>
 <message>
 <source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
-<translation>Muestra en HDR los juegos sin HDR. Restablece otros ajustes gráficos, como la frecuencia variable.</translation>
+<translation>Muestra en HDR los juegos sin HDR. Restablece otros ajustes gráficos, como la frecuencia de actualización variable.</translation>
 </message>
 <message>
 <source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>
@@ -2009,7 +2009,7 @@ del sistema</translation>
 </message>
 <message>
 <source>Updates are no longer exchanged with other PCs.</source>
-<translation>Las actualizaciones ya no se intercambian con otros equipos.</translation>
+<translation>Las actualizaciones ya no se intercambian con otros PC.</translation>
 </message>
 <message>
 <source>Less data goes to Microsoft. Clipboard history (Win+V), location and error reports stop working too.</source>

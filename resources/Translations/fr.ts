@@ -394,7 +394,7 @@
 </message>
 <message>
 <source>not installed</source>
-<translation>non installée</translation>
+<translation>non installé</translation>
 </message>
 <message>
 <source>starts</source>
@@ -1961,7 +1961,7 @@ système</translation>
 </message>
 <message>
 <source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
-<translation>Affiche en HDR les jeux sans HDR. Réinitialise d’autres réglages graphiques, dont la fréquence variable.</translation>
+<translation>Affiche en HDR les jeux sans HDR. Réinitialise d’autres réglages graphiques, dont la fréquence d’actualisation variable.</translation>
 </message>
 <message>
 <source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>

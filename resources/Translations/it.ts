@@ -208,7 +208,7 @@
 &lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ con Qt 6, con licenza GNU LGPL versione 3&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Sviluppato per Windows 10 e Windows 11&lt;/p&gt;
 &lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Scopo:&lt;/span&gt;&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Questa applicazione mira a migliorare le prestazioni generali senza snaturare Windows, aiutando a disabilitare funzionalità, programmi, servizi e attività pianificate che possono essere superflui e ridurre le prestazioni. Configura inoltre alcune funzionalità interne del sistema non accessibili da un'interfaccia, e altre opzioni consentono di ridurre lo spazio occupato da Windows sul disco rigido. (disinstallazione di applicazioni Windows non necessarie, pulizia della cartella WinSxS, ...)&lt;br /&gt;Il tutto in pochi clic e con la possibilità di ripristinare i valori originali. &lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Questa applicazione mira a migliorare le prestazioni generali senza snaturare Windows, aiutando a disabilitare funzionalità, programmi, servizi e attività pianificate che possono essere superflui e ridurre le prestazioni. Configura inoltre alcune funzionalità interne del sistema non accessibili da un’interfaccia, e altre opzioni consentono di ridurre lo spazio occupato da Windows sul disco rigido. (disinstallazione di applicazioni Windows non necessarie, pulizia della cartella WinSxS, ...)&lt;br /&gt;Il tutto in pochi clic e con la possibilità di ripristinare i valori originali. &lt;/p&gt;
 &lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Informazioni importanti:&lt;/span&gt;&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;Tutte le opzioni di questa applicazione sono reversibili.&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Fare attenzione alla sezione Servizi. Non disabilitare servizi se non si sa davvero cosa sono, le loro dipendenze ecc. USARE IL PULSANTE ASSISTENTE!!!&lt;/p&gt;
@@ -230,10 +230,10 @@
 <translation>&lt;html&gt;&lt;head&gt;&lt;style type=&quot;text/css&quot;&gt;p { white-space: pre-wrap; }&lt;/style&gt;&lt;/head&gt;&lt;body&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- Quanto FISSO: il tempo di processore è diviso equamente tra le applicazioni,&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;un quanto VARIABILE consente loro di tenere il processore più a lungo.&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- Quanto BREVE: il tempo di processore passa più rapidamente da un task all'altro,&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;un quanto LUNGO assegna invece più tempo di processore all'applicazione.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- Quanto BREVE: il tempo di processore passa più rapidamente da un task all’altro,&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;un quanto LUNGO assegna invece più tempo di processore all’applicazione.&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;- BOOST IN PRIMO PIANO X volte: il quanto è moltiplicato per X a favore&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;dell'applicazione in primo piano.&lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;dell’applicazione in primo piano.&lt;/p&gt;
 &lt;p style=&quot;-qt-paragraph-type:empty; margin-top:0px; margin-bottom:0px; font-size:4pt;&quot;&gt;&lt;br /&gt;&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;In un contesto di solo gioco, in base al valore, si favoriscono gli FPS (22, 21),&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:0px;&quot;&gt;FPS e reattività (38, 37) o latenza di tastiera/mouse o gamepad (36, 24, 40).&lt;/p&gt;
@@ -394,7 +394,7 @@
 </message>
 <message>
 <source>not installed</source>
-<translation>non installata</translation>
+<translation>non installato</translation>
 </message>
 <message>
 <source>starts</source>
@@ -406,7 +406,7 @@
 </message>
 <message>
 <source>your setting</source>
-<translation>la sua impostazione</translation>
+<translation>l’impostazione attuale</translation>
 </message>
 <message>
 <source>applied</source>
@@ -430,7 +430,7 @@
 </message>
 <message>
 <source>Before the journal, not exact</source>
-<translation>Prima del registro, non esatto</translation>
+<translation>Prima del diario, non esatto</translation>
 </message>
 <message>
 <source>%1 (by the system)</source>
@@ -490,11 +490,11 @@ Versione online: %2</translation>
 </message>
 <message>
 <source>Add indexing attribute of %1 finished</source>
-<translation>Aggiunta dell'attributo di indicizzazione di %1 completata</translation>
+<translation>Aggiunta dell’attributo di indicizzazione di %1 completata</translation>
 </message>
 <message>
 <source>Add indexing attribute of Windows partition %1</source>
-<translation>Aggiunta dell'attributo di indicizzazione della partizione di Windows %1</translation>
+<translation>Aggiunta dell’attributo di indicizzazione della partizione di Windows %1</translation>
 </message>
 <message>
 <source>Apply a profile</source>
@@ -507,7 +507,7 @@ Versione online: %2</translation>
 <message>
 <source>Analyze and optimize Windows to improve overall performance by disabling unnecessary features and configuring some that are inaccessible through an interface.
 Optimizations come from the Services, Scheduled Tasks, Programs, and Features pages.</source>
-<translation>Analizza e ottimizza Windows per migliorare le prestazioni generali disabilitando le funzionalità non necessarie e configurandone alcune non accessibili da un'interfaccia.
+<translation>Analizza e ottimizza Windows per migliorare le prestazioni generali disabilitando le funzionalità non necessarie e configurandone alcune non accessibili da un’interfaccia.
 Le ottimizzazioni provengono dalle pagine Servizi, Attività pianificate, Programmi e Funzionalità.</translation>
 </message>
 <message>
@@ -542,7 +542,7 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 </message>
 <message>
 <source>Are you sure you want to restore the startup of all scheduled tasks?</source>
-<translation>Ripristinare l'avvio di tutte le attività pianificate?</translation>
+<translation>Ripristinare l’avvio di tutte le attività pianificate?</translation>
 </message>
 <message>
 <source>as it was</source>
@@ -706,7 +706,7 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 </message>
 <message>
 <source>Content indexing on</source>
-<translation>Indicizzazione dei contenuti attivata</translation>
+<translation>Indicizzazione dei contenuti abilitata</translation>
 </message>
 <message>
 <source>CPU</source>
@@ -718,7 +718,7 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 </message>
 <message>
 <source>Date of the last execution</source>
-<translation>Data dell'ultima esecuzione</translation>
+<translation>Data dell’ultima esecuzione</translation>
 </message>
 <message>
 <source>Description</source>
@@ -734,7 +734,7 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 </message>
 <message>
 <source>Disable automatic boot disk optimization</source>
-<translation>Disabilita l'ottimizzazione automatica del disco di avvio</translation>
+<translation>Disabilita l’ottimizzazione automatica del disco di avvio</translation>
 </message>
 <message>
 <source>Disable checked programs</source>
@@ -772,7 +772,7 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 </message>
 <message>
 <source>Disable distribution optimization of Windows updates</source>
-<translation>Disabilita l'ottimizzazione recapito degli aggiornamenti di Windows</translation>
+<translation>Disabilita l’ottimizzazione recapito degli aggiornamenti di Windows</translation>
 </message>
 <message>
 <source>Disable dynamic tick of system timers
@@ -783,12 +783,12 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 <message>
 <source>Disable enhance pointer precision
 (to achieve precise mouse control and muscle memory)</source>
-<translation>Disabilita l'aumento della precisione del puntatore
+<translation>Disabilita l’aumento della precisione del puntatore
 (per un controllo preciso del mouse e la memoria muscolare)</translation>
 </message>
 <message>
 <source>Disable fast start-up  (Windows function designed for HDD and not SSD)</source>
-<translation>Disabilita l'avvio rapido  (funzione di Windows pensata per HDD e non per SSD)</translation>
+<translation>Disabilita l’avvio rapido  (funzione di Windows pensata per HDD e non per SSD)</translation>
 </message>
 <message>
 <source>Disable files history (even in explorer)</source>
@@ -820,7 +820,7 @@ Verranno ripristinati tutte le funzionalità, le applicazioni, i servizi e le at
 </message>
 <message>
 <source>Disable last access time stamps  (NTFS drive only)</source>
-<translation>Disabilita la data dell'ultimo accesso  (solo unità NTFS)</translation>
+<translation>Disabilita la data dell’ultimo accesso  (solo unità NTFS)</translation>
 </message>
 <message>
 <source>Disable LockApp.exe  (lockapp.exe allows additional information on the lock screen)</source>
@@ -837,7 +837,7 @@ a schermo intero, soprattutto nelle app di riproduzione video)</translation>
 <message>
 <source>Disable Nagle’s Algorithm
 (may improve the real-time responsiveness of your network connection, but may increase traffic)</source>
-<translation>Disabilita l'algoritmo di Nagle
+<translation>Disabilita l’algoritmo di Nagle
 (può migliorare la reattività della connessione di rete, ma aumentare il traffico)</translation>
 </message>
 <message>
@@ -925,7 +925,7 @@ then restore only the services you have disabled</source>
 <translation>Ripristinare il tipo di avvio di tutti i servizi?<byte value="xd"/>
 <byte value="xd"/>
 Se si fa clic su No (consigliato),<byte value="xd"/>
-verranno ripristinati solo i servizi disabilitati dall'utente</translation>
+verranno ripristinati solo i servizi disabilitati dall’utente</translation>
 </message>
 <message>
 <source>Do you want to start this app with Admin rights?</source>
@@ -1175,7 +1175,7 @@ Come i servizi e le attività pianificate, possono rallentare il sistema. Toglie
 <source>List of Windows packages can be uninstalled without problems.
 You can reinstall them directly by clicking on &quot;View uninstalled packages&quot; below the list.</source>
 <translation>Elenco dei pacchetti Windows che possono essere disinstallati senza problemi.
-È possibile reinstallarli direttamente facendo clic su &quot;Mostra pacchetti disinstallati&quot; sotto l'elenco.</translation>
+È possibile reinstallarli direttamente facendo clic su &quot;Mostra pacchetti disinstallati&quot; sotto l’elenco.</translation>
 </message>
 <message>
 <source>Load system info:</source>
@@ -1291,7 +1291,7 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>off</source>
-<translation>disattivo</translation>
+<translation>disabilitato</translation>
 </message>
 <message>
 <source>Old Xbox App, no longer supported!</source>
@@ -1299,11 +1299,11 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 </message>
 <message>
 <source>on</source>
-<translation>attivo</translation>
+<translation>abilitato</translation>
 </message>
 <message>
 <source>on drive</source>
-<translation>sull'unità</translation>
+<translation>sull’unità</translation>
 </message>
 <message>
 <source>Optimization finished</source>
@@ -1325,7 +1325,7 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <source>Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Altro protocollo dedicato alla rete locale (ad es. alcuni lettori video lo usano per collegarsi a dischi di rete)<byte value="xd"/>
-(per impostazione predefinita non è usato ma attivato!)</translation>
+(per impostazione predefinita non è usato ma abilitato!)</translation>
 </message>
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
@@ -1394,8 +1394,8 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <message>
 <source>Process: can be disable: %1 from Riva Tuner Statistic Server app!<byte value="xd"/>
 This process only allows screen video capture.Does not affect the monitoring display in any way</source>
-<translation>Processo: può essere disabilitato: %1 dell'app Riva Tuner Statistic Server!<byte value="xd"/>
-Questo processo consente solo l'acquisizione video dello schermo. Non influisce in alcun modo sulla visualizzazione del monitoraggio</translation>
+<translation>Processo: può essere disabilitato: %1 dell’app Riva Tuner Statistic Server!<byte value="xd"/>
+Questo processo consente solo l’acquisizione video dello schermo. Non influisce in alcun modo sulla visualizzazione del monitoraggio</translation>
 </message>
 <message>
 <source>Process: disable EncoderServer done</source>
@@ -1425,13 +1425,13 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 <source>Proxy or VPN functionality to improve the security of your network traffic<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Funzionalità proxy o VPN per migliorare la sicurezza del traffico di rete<byte value="xd"/>
-(per impostazione predefinita non è usata ma attivata!)</translation>
+(per impostazione predefinita non è usata ma abilitata!)</translation>
 </message>
 <message>
 <source>Quick setup of some bluetooth headsets<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Configurazione rapida di alcune cuffie Bluetooth<byte value="xd"/>
-(per impostazione predefinita non è usata ma attivata!)</translation>
+(per impostazione predefinita non è usata ma abilitata!)</translation>
 </message>
 <message>
 <source>Reading what has become of it…</source>
@@ -1457,20 +1457,20 @@ Questo processo consente solo l'acquisizione video dello schermo. Non influisce 
 </message>
 <message>
 <source>Remove indexing attribute of %1</source>
-<translation>Rimozione dell'attributo di indicizzazione di %1</translation>
+<translation>Rimozione dell’attributo di indicizzazione di %1</translation>
 </message>
 <message>
 <source>Remove indexing attribute of %1 finished</source>
-<translation>Rimozione dell'attributo di indicizzazione di %1 completata</translation>
+<translation>Rimozione dell’attributo di indicizzazione di %1 completata</translation>
 </message>
 <message>
 <source>Remove indexing attribute of Windows partition %1</source>
-<translation>Rimozione dell'attributo di indicizzazione della partizione di Windows %1</translation>
+<translation>Rimozione dell’attributo di indicizzazione della partizione di Windows %1</translation>
 </message>
 <message>
 <source>Remove the indexed attribute from all files in the Windows partition
 (this operation may take some time)</source>
-<translation>Rimuovi l'attributo di indicizzazione da tutti i file della partizione di Windows
+<translation>Rimuovi l’attributo di indicizzazione da tutti i file della partizione di Windows
 (questa operazione può richiedere tempo)</translation>
 </message>
 <message>
@@ -1827,7 +1827,7 @@ sul sistema</translation>
 </message>
 <message>
 <source>Windows application: ERROR install %1: </source>
-<translation>Applicazione Windows: ERRORE nell'installazione di %1: </translation>
+<translation>Applicazione Windows: ERRORE nell’installazione di %1: </translation>
 </message>
 <message>
 <source>Windows application: ERROR uninstall %1: </source>
@@ -1853,7 +1853,7 @@ sul sistema</translation>
 <source>Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Funzionalità di condivisione di Windows in una rete locale (protocollo SMB) (ad es. per collegare dischi rigidi o stampanti in rete locale)<byte value="xd"/>
-(per impostazione predefinita non è usata ma attivata!)</translation>
+(per impostazione predefinita non è usata ma abilitata!)</translation>
 </message>
 <message>
 <source>With all &amp;later changes</source>
@@ -1861,7 +1861,7 @@ sul sistema</translation>
 </message>
 <message>
 <source>Would you like to apply option for set indexing attributes of all files in Windows partition?</source>
-<translation>Disabilitare l'indicizzazione del contenuto di tutti i file della partizione di Windows? Può richiedere molto tempo.</translation>
+<translation>Disabilitare l’indicizzazione del contenuto di tutti i file della partizione di Windows? Può richiedere molto tempo.</translation>
 </message>
 <message>
 <source>Would you like to apply option to set indexing attributes of all files in Windows partition?</source>
@@ -1905,7 +1905,7 @@ sul sistema</translation>
 </message>
 <message>
 <source>Saves small writes: Windows no longer records when a file was last read. Needs a restart.</source>
-<translation>Evita piccole scritture: Windows non registra più l'ultima lettura di un file. Richiede un riavvio.</translation>
+<translation>Evita piccole scritture: Windows non registra più l’ultima lettura di un file. Richiede un riavvio.</translation>
 </message>
 <message>
 <source>Windows no longer preloads programs: they start more slowly at first, and an SSD gains nothing. Needs a restart.</source>
@@ -1921,11 +1921,11 @@ sul sistema</translation>
 </message>
 <message>
 <source>Frees the space of hiberfil.sys. The PC can't hibernate any more, and fast startup goes too.</source>
-<translation>Libera lo spazio di hiberfil.sys. Il PC non può più ibernarsi e si perde l'avvio rapido.</translation>
+<translation>Libera lo spazio di hiberfil.sys. Il PC non può più ibernarsi e si perde l’avvio rapido.</translation>
 </message>
 <message>
 <source>Takes all files out of the content index: search gets slower and finds less.</source>
-<translation>Toglie tutti i file dall'indice dei contenuti: la ricerca rallenta e trova meno.</translation>
+<translation>Toglie tutti i file dall’indice dei contenuti: la ricerca rallenta e trova meno.</translation>
 </message>
 <message>
 <source>No known effect since Windows XP.</source>
@@ -1933,7 +1933,7 @@ sul sistema</translation>
 </message>
 <message>
 <source>Small effect: only for games that register with Windows' multimedia scheduler.</source>
-<translation>Effetto limitato: solo per i giochi registrati nell'utilità di pianificazione multimediale di Windows.</translation>
+<translation>Effetto limitato: solo per i giochi registrati nell’utilità di pianificazione multimediale di Windows.</translation>
 </message>
 <message>
 <source>No known effect: Windows reads this setting elsewhere.</source>
@@ -1945,7 +1945,7 @@ sul sistema</translation>
 </message>
 <message>
 <source>Windows no longer records or broadcasts games. Settings shows this as managed by your organization.</source>
-<translation>Windows non registra né trasmette più i giochi. Impostazioni lo indica come gestito dall'organizzazione.</translation>
+<translation>Windows non registra né trasmette più i giochi. Impostazioni lo indica come gestito dall’organizzazione.</translation>
 </message>
 <message>
 <source>Windows 11: the default already, and taking it back forces the slower platform timer. Windows 10: no known effect.</source>
@@ -1961,7 +1961,7 @@ sul sistema</translation>
 </message>
 <message>
 <source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
-<translation>Mostra in HDR i giochi senza HDR. Reimposta altre impostazioni grafiche, come la frequenza variabile.</translation>
+<translation>Mostra in HDR i giochi senza HDR. Reimposta altre impostazioni grafiche, come la frequenza di aggiornamento variabile.</translation>
 </message>
 <message>
 <source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>
@@ -1985,7 +1985,7 @@ sul sistema</translation>
 </message>
 <message>
 <source>Of use with several AMD graphics cards only; its effect is uncertain. Needs a restart.</source>
-<translation>Utile solo con più schede AMD; l'effetto è incerto. Richiede un riavvio.</translation>
+<translation>Utile solo con più schede AMD; l’effetto è incerto. Richiede un riavvio.</translation>
 </message>
 <message>
 <source>Fewer svchost.exe processes, but services are less isolated from each other. Needs a restart.</source>
@@ -1997,7 +1997,7 @@ sul sistema</translation>
 </message>
 <message>
 <source>Hides the button for advanced options only; indexing goes on.</source>
-<translation>Nasconde solo il pulsante delle opzioni avanzate; l'indicizzazione continua.</translation>
+<translation>Nasconde solo il pulsante delle opzioni avanzate; l’indicizzazione continua.</translation>
 </message>
 <message>
 <source>File History keeps no older versions of files any more. Recent files are still listed.</source>
@@ -2021,7 +2021,7 @@ sul sistema</translation>
 </message>
 <message>
 <source>Windows 11: removes the whole lock screen; some editions ignore it. Windows 10: nothing changes.</source>
-<translation>Windows 11: rimuove l'intera schermata di blocco; alcune edizioni lo ignorano. Windows 10: non cambia nulla.</translation>
+<translation>Windows 11: rimuove l’intera schermata di blocco; alcune edizioni lo ignorano. Windows 10: non cambia nulla.</translation>
 </message>
 <message>
 <source>Search in Start and on the taskbar stops working. An update may bring it back while this box stays checked.</source>

@@ -434,11 +434,11 @@
 </message>
 <message>
 <source>%1 (by the system)</source>
-<translation>%1（システムによる）</translation>
+<translation>%1 (システムによる)</translation>
 </message>
 <message>
 <source>%1 (by another account)</source>
-<translation>%1（別のアカウントによる）</translation>
+<translation>%1 (別のアカウントによる)</translation>
 </message>
 <message>
 <source>Page: %1</source>
@@ -1519,7 +1519,7 @@ This process only allows screen video capture.Does not affect the monitoring dis
 </message>
 <message>
 <source>Scheduled task %1</source>
-<translation>スケジュールされたタスク %1</translation>
+<translation>スケジュール タスク %1</translation>
 </message>
 <message>
 <source>Scheduled tasks</source>
@@ -1539,7 +1539,7 @@ This process only allows screen video capture.Does not affect the monitoring dis
 </message>
 <message>
 <source>Service %1: start mode</source>
-<translation>サービス %1: 開始方法</translation>
+<translation>サービス %1: 開始の種類</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1933,7 +1933,7 @@ Information</source>
 </message>
 <message>
 <source>Small effect: only for games that register with Windows' multimedia scheduler.</source>
-<translation>効果はわずかです。Windows のマルチメディア スケジューラに登録するゲームだけに効きます。</translation>
+<translation>効果はわずかです。Windows のマルチメディア スケジューラーに登録するゲームだけに効きます。</translation>
 </message>
 <message>
 <source>No known effect: Windows reads this setting elsewhere.</source>
@@ -1961,7 +1961,7 @@ Information</source>
 </message>
 <message>
 <source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
-<translation>HDR 非対応のゲームを HDR で表示します。可変リフレッシュ レートなど他のグラフィック設定は初期化されます。</translation>
+<translation>HDR 非対応のゲームを HDR で表示します。可変リフレッシュ レートなど他のグラフィックス設定は初期化されます。</translation>
 </message>
 <message>
 <source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>

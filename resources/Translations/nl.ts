@@ -208,7 +208,7 @@
 &lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;C++ met Qt 6, gelicentieerd onder de GNU LGPL versie 3&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Ontwikkeld voor Windows 10 en Windows 11&lt;/p&gt;
 &lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Doel:&lt;/span&gt;&lt;/p&gt;
-&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Deze app is bedoeld om de algehele prestaties te verbeteren zonder Windows te ontwrichten, door u te helpen functies, programma's, services en geplande taken uit te schakelen die overbodig kunnen zijn en de prestaties schaden. De app configureert ook enkele interne systeemfuncties die via geen enkele interface bereikbaar zijn, en met andere opties verkleint u de ruimte die Windows op de harde schijf inneemt. (onnodige Windows-toepassingen verwijderen, de map WinSxS opschonen, ...)&lt;br /&gt;Dit alles met een paar klikken en met de mogelijkheid om de oorspronkelijke waarden te herstellen. &lt;/p&gt;
+&lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Deze app is bedoeld om de algehele prestaties te verbeteren zonder Windows te ontwrichten, door u te helpen functies, programma’s, services en geplande taken uit te schakelen die overbodig kunnen zijn en de prestaties schaden. De app configureert ook enkele interne systeemfuncties die via geen enkele interface bereikbaar zijn, en met andere opties verkleint u de ruimte die Windows op de harde schijf inneemt. (onnodige Windows-toepassingen verwijderen, de map WinSxS opschonen, ...)&lt;br /&gt;Dit alles met een paar klikken en met de mogelijkheid om de oorspronkelijke waarden te herstellen. &lt;/p&gt;
 &lt;p style=&quot;margin-top:16px; margin-bottom:8px;&quot;&gt;&lt;span style=&quot;font-weight:700; text-decoration: underline; color:#000000;&quot;&gt;Belangrijke informatie:&lt;/span&gt;&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:2px;&quot;&gt;Alle opties in deze app kunnen ongedaan worden gemaakt.&lt;/p&gt;
 &lt;p style=&quot;margin-top:0px; margin-bottom:8px;&quot;&gt;Wees voorzichtig met het gedeelte Services. Schakel geen services uit als u niet echt weet wat ze doen, welke afhankelijkheden ze hebben, enz. GEBRUIK DE KNOP ASSISTENT!!!&lt;/p&gt;
@@ -374,11 +374,11 @@
 </message>
 <message>
 <source>This PC was looked at without Admin rights: what needs them is missing here.</source>
-<translation>Deze pc is zonder beheerdersrechten bekeken: wat die nodig heeft, ontbreekt hier.</translation>
+<translation>Deze pc is zonder administratorrechten bekeken: wat die nodig heeft, ontbreekt hier.</translation>
 </message>
 <message>
 <source>With Admin rights a preview needs a copy of this app that nobody else can change, such as the installer makes in the folder for programs. Without Admin rights it works from any folder.</source>
-<translation>Met beheerdersrechten heeft een voorbeeld een kopie van deze app nodig die niemand anders kan wijzigen, zoals het installatieprogramma die in de programmamap zet. Zonder die rechten werkt het vanuit elke map.</translation>
+<translation>Met administratorrechten heeft een voorbeeld een kopie van deze app nodig die niemand anders kan wijzigen, zoals het installatieprogramma die in de programmamap zet. Zonder die rechten werkt het vanuit elke map.</translation>
 </message>
 <message>
 <source>A preview needs the folder “rehearse” of this app, which isn't there.</source>
@@ -508,7 +508,7 @@ Onlineversie: %2</translation>
 <source>Analyze and optimize Windows to improve overall performance by disabling unnecessary features and configuring some that are inaccessible through an interface.
 Optimizations come from the Services, Scheduled Tasks, Programs, and Features pages.</source>
 <translation>Analyseer en optimaliseer Windows om de algehele prestaties te verbeteren door onnodige functies uit te schakelen en functies te configureren die via geen enkele interface bereikbaar zijn.
-De optimalisaties komen van de pagina's Services, Geplande taken, Programma's en Functies.</translation>
+De optimalisaties komen van de pagina’s Services, Geplande taken, Programma’s en Functies.</translation>
 </message>
 <message>
 <source>Application to play PC games if you have a Gamepass account (paid)</source>
@@ -578,7 +578,7 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 </message>
 <message>
 <source>Auto started programs disabled:</source>
-<translation>Uitgeschakelde opstartprogramma's:</translation>
+<translation>Uitgeschakelde opstartprogramma’s:</translation>
 </message>
 <message>
 <source>automatic</source>
@@ -590,7 +590,7 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 </message>
 <message>
 <source>Automatically started programs</source>
-<translation>Automatisch gestarte programma's</translation>
+<translation>Automatisch gestarte programma’s</translation>
 </message>
 <message>
 <source>Autorun</source>
@@ -698,7 +698,7 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 </message>
 <message>
 <source>Configure auto started programs done!</source>
-<translation>Configuratie van opstartprogramma's voltooid!</translation>
+<translation>Configuratie van opstartprogramma’s voltooid!</translation>
 </message>
 <message>
 <source>Content indexing off</source>
@@ -738,7 +738,7 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 </message>
 <message>
 <source>Disable checked programs</source>
-<translation>Aangevinkte programma's uitschakelen</translation>
+<translation>Aangevinkte programma’s uitschakelen</translation>
 </message>
 <message>
 <source>DISABLE checked services</source>
@@ -788,7 +788,7 @@ Alle functies, toepassingen, services en taken worden hersteld.</translation>
 </message>
 <message>
 <source>Disable fast start-up  (Windows function designed for HDD and not SSD)</source>
-<translation>Snel opstarten uitschakelen  (Windows-functie voor HDD's, niet voor SSD's)</translation>
+<translation>Snel opstarten uitschakelen  (Windows-functie voor HDD’s, niet voor SSD’s)</translation>
 </message>
 <message>
 <source>Disable files history (even in explorer)</source>
@@ -850,7 +850,7 @@ volledig scherm, vooral in apps voor videoweergave)</translation>
 </message>
 <message>
 <source>Disable programs</source>
-<translation>Programma's uitschakelen</translation>
+<translation>Programma’s uitschakelen</translation>
 </message>
 <message>
 <source>Disable scheduled tasks</source>
@@ -941,7 +941,7 @@ worden alleen de door u uitgeschakelde services hersteld</translation>
 </message>
 <message>
 <source>Enable checked programs</source>
-<translation>Aangevinkte programma's inschakelen</translation>
+<translation>Aangevinkte programma’s inschakelen</translation>
 </message>
 <message>
 <source>ENABLE checked services</source>
@@ -957,7 +957,7 @@ worden alleen de door u uitgeschakelde services hersteld</translation>
 </message>
 <message>
 <source>Enable programs</source>
-<translation>Programma's inschakelen</translation>
+<translation>Programma’s inschakelen</translation>
 </message>
 <message>
 <source>Enable services</source>
@@ -1085,7 +1085,7 @@ worden alleen de door u uitgeschakelde services hersteld</translation>
 </message>
 <message>
 <source>Hibernation</source>
-<translation>Slaapstand</translation>
+<translation>Sluimerstand</translation>
 </message>
 <message>
 <source>If you do not have a headset or audio equipment connected via Bluetooth, you can uncheck this</source>
@@ -1157,19 +1157,19 @@ Vink ze aan om te optimaliseren of uit om de standaardwaarden te herstellen.</tr
 <source>List of currently started services.
 Services are programs that run in the background for various reasons and purposes. Some of them are essential, while others may be superfluous and consume CPU, memory and disk resources unnecessarily.</source>
 <translation>Lijst van momenteel gestarte services.
-Services zijn programma's die om allerlei redenen op de achtergrond worden uitgevoerd. Sommige zijn essentieel, andere kunnen overbodig zijn en onnodig processor, geheugen en schijf gebruiken.</translation>
+Services zijn programma’s die om allerlei redenen op de achtergrond worden uitgevoerd. Sommige zijn essentieel, andere kunnen overbodig zijn en onnodig processor, geheugen en schijf gebruiken.</translation>
 </message>
 <message>
 <source>List of enabled scheduled tasks.
 Scheduled tasks are programs that run in the background at a specific time (or event) for various reasons. Some of them may be unnecessary and consume CPU, memory, and disk resources unnecessarily.</source>
 <translation>Lijst van ingeschakelde geplande taken.
-Geplande taken zijn programma's die om allerlei redenen op een bepaald tijdstip (of bij een gebeurtenis) op de achtergrond worden uitgevoerd. Sommige kunnen overbodig zijn en onnodig processor, geheugen en schijf gebruiken.</translation>
+Geplande taken zijn programma’s die om allerlei redenen op een bepaald tijdstip (of bij een gebeurtenis) op de achtergrond worden uitgevoerd. Sommige kunnen overbodig zijn en onnodig processor, geheugen en schijf gebruiken.</translation>
 </message>
 <message>
 <source>List of programs started automatically each time Windows starts.
 Like services and scheduled tasks, automatically started programs can slow down your system. Uncheck those you don't use on every startup.</source>
-<translation>Lijst van programma's die bij elke start van Windows automatisch worden gestart.
-Net als services en geplande taken kunnen ze uw systeem vertragen. Vink de programma's uit die u niet bij elke start gebruikt.</translation>
+<translation>Lijst van programma’s die bij elke start van Windows automatisch worden gestart.
+Net als services en geplande taken kunnen ze uw systeem vertragen. Vink de programma’s uit die u niet bij elke start gebruikt.</translation>
 </message>
 <message>
 <source>List of Windows packages can be uninstalled without problems.
@@ -1203,7 +1203,7 @@ U kunt ze rechtstreeks opnieuw installeren door onder de lijst op &quot;Verwijde
 </message>
 <message>
 <source>Manage programs and packages  (included in the page &quot;Programs&quot;)</source>
-<translation>Programma's en pakketten beheren  (opgenomen op de pagina &quot;Programma's&quot;)</translation>
+<translation>Programma’s en pakketten beheren  (opgenomen op de pagina &quot;Programma’s&quot;)</translation>
 </message>
 <message>
 <source>Manual</source>
@@ -1231,7 +1231,7 @@ U kunt ze rechtstreeks opnieuw installeren door onder de lijst op &quot;Verwijde
 </message>
 <message>
 <source>Microsoft codecs for video encoding/decoding. If you are not using Windows internal features for streaming,encoding or playing videos, uncheck this box</source>
-<translation>Microsoft-codecs voor het coderen en decoderen van video. Vink dit vakje uit als u de interne functies van Windows voor het streamen, coderen of afspelen van video's niet gebruikt</translation>
+<translation>Microsoft-codecs voor het coderen en decoderen van video. Vink dit vakje uit als u de interne functies van Windows voor het streamen, coderen of afspelen van video’s niet gebruikt</translation>
 </message>
 <message>
 <source>Microsoft video editor</source>
@@ -1325,7 +1325,7 @@ U kunt ze rechtstreeks opnieuw installeren door onder de lijst op &quot;Verwijde
 <source>Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Ander protocol voor het lokale netwerk (sommige videospelers maken er bijv. verbinding met netwerkschijven mee)<byte value="xd"/>
-(standaard niet gebruikt, maar wel geactiveerd!)</translation>
+(standaard niet gebruikt, maar wel ingeschakeld!)</translation>
 </message>
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
@@ -1411,11 +1411,11 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 </message>
 <message>
 <source>Programs</source>
-<translation>Programma's</translation>
+<translation>Programma’s</translation>
 </message>
 <message>
 <source>Programs started automatically</source>
-<translation>Automatisch gestarte programma's</translation>
+<translation>Automatisch gestarte programma’s</translation>
 </message>
 <message>
 <source>Proxy and VPN</source>
@@ -1425,13 +1425,13 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 <source>Proxy or VPN functionality to improve the security of your network traffic<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Proxy- of VPN-functie om uw netwerkverkeer beter te beveiligen<byte value="xd"/>
-(standaard niet gebruikt, maar wel geactiveerd!)</translation>
+(standaard niet gebruikt, maar wel ingeschakeld!)</translation>
 </message>
 <message>
 <source>Quick setup of some bluetooth headsets<byte value="xd"/>
 (by default it is not used but activated!)</source>
-<translation>Snelle configuratie van sommige bluetooth-headsets<byte value="xd"/>
-(standaard niet gebruikt, maar wel geactiveerd!)</translation>
+<translation>Snelle configuratie van sommige Bluetooth-headsets<byte value="xd"/>
+(standaard niet gebruikt, maar wel ingeschakeld!)</translation>
 </message>
 <message>
 <source>Reading what has become of it…</source>
@@ -1441,7 +1441,7 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 <source>Reduces certain delays
 (menu show delay, wait to kill app/service timeout, auto end tasks, hung app timeout)</source>
 <translation>Bepaalde vertragingen verkorten
-(weergave van menu's, afsluiten van apps en services, vastgelopen toepassingen)</translation>
+(weergave van menu’s, afsluiten van apps en services, vastgelopen toepassingen)</translation>
 </message>
 <message>
 <source>Refresh</source>
@@ -1539,7 +1539,7 @@ Dit proces dient alleen voor video-opname van het scherm. Het heeft geen invloed
 </message>
 <message>
 <source>Service %1: start mode</source>
-<translation>Service %1: startwijze</translation>
+<translation>Service %1: opstarttype</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1767,7 +1767,7 @@ informatie</translation>
 </message>
 <message>
 <source>View auto started programs</source>
-<translation>Opstartprogramma's</translation>
+<translation>Opstartprogramma’s</translation>
 </message>
 <message>
 <source>View disabled services</source>
@@ -1779,7 +1779,7 @@ informatie</translation>
 </message>
 <message>
 <source>View programs disabled</source>
-<translation>Uitgeschakelde programma's</translation>
+<translation>Uitgeschakelde programma’s</translation>
 </message>
 <message>
 <source>View started services</source>
@@ -1853,7 +1853,7 @@ informatie</translation>
 <source>Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Deelfunctie van Windows in een lokaal netwerk (SMB-protocol) (bijv. harde schijven of printers in een lokaal netwerk verbinden)<byte value="xd"/>
-(standaard niet gebruikt, maar wel geactiveerd!)</translation>
+(standaard niet gebruikt, maar wel ingeschakeld!)</translation>
 </message>
 <message>
 <source>With all &amp;later changes</source>
@@ -1909,7 +1909,7 @@ informatie</translation>
 </message>
 <message>
 <source>Windows no longer preloads programs: they start more slowly at first, and an SSD gains nothing. Needs a restart.</source>
-<translation>Windows laadt programma's niet meer vooraf: ze starten eerst trager en een SSD wint niets. Vereist een herstart.</translation>
+<translation>Windows laadt programma’s niet meer vooraf: ze starten eerst trager en een SSD wint niets. Vereist een herstart.</translation>
 </message>
 <message>
 <source>Windows' default: nothing changes. Taking it back clears the page file at each shutdown, which takes minutes.</source>
@@ -1917,7 +1917,7 @@ informatie</translation>
 </message>
 <message>
 <source>Each start is a full one: it takes a little longer, and drivers start afresh.</source>
-<translation>Elke start is volledig: die duurt iets langer en stuurprogramma's beginnen opnieuw.</translation>
+<translation>Elke start is volledig: die duurt iets langer en stuurprogramma’s beginnen opnieuw.</translation>
 </message>
 <message>
 <source>Frees the space of hiberfil.sys. The PC can't hibernate any more, and fast startup goes too.</source>
@@ -1961,7 +1961,7 @@ informatie</translation>
 </message>
 <message>
 <source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
-<translation>Toont games zonder HDR in HDR. Zet andere grafische instellingen terug, zoals variabele verversing.</translation>
+<translation>Toont games zonder HDR in HDR. Zet andere grafische instellingen terug, zoals de variabele vernieuwingsfrequentie.</translation>
 </message>
 <message>
 <source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>
@@ -1977,11 +1977,11 @@ informatie</translation>
 </message>
 <message>
 <source>No known effect: neither Direct3D nor drivers read this value today.</source>
-<translation>Geen bekend effect: Direct3D noch stuurprogramma's lezen deze waarde nu.</translation>
+<translation>Geen bekend effect: Direct3D noch stuurprogramma’s lezen deze waarde nu.</translation>
 </message>
 <message>
 <source>May fix flickering and stutter; some videos may run worse. Said to have no effect since Windows 11 24H2. Needs a restart.</source>
-<translation>Kan flikkeren en haperen verhelpen; sommige video's worden slechter. Zou sinds Windows 11 24H2 niet werken. Vereist een herstart.</translation>
+<translation>Kan flikkeren en haperen verhelpen; sommige video’s worden slechter. Zou sinds Windows 11 24H2 niet werken. Vereist een herstart.</translation>
 </message>
 <message>
 <source>Of use with several AMD graphics cards only; its effect is uncertain. Needs a restart.</source>
@@ -2009,7 +2009,7 @@ informatie</translation>
 </message>
 <message>
 <source>Updates are no longer exchanged with other PCs.</source>
-<translation>Updates worden niet meer met andere pc's uitgewisseld.</translation>
+<translation>Updates worden niet meer met andere pc’s uitgewisseld.</translation>
 </message>
 <message>
 <source>Less data goes to Microsoft. Clipboard history (Win+V), location and error reports stop working too.</source>
@@ -2017,7 +2017,7 @@ informatie</translation>
 </message>
 <message>
 <source>Menus open faster. At sign-out programs may be closed with unsaved work. Takes effect at the next sign-in.</source>
-<translation>Menu's openen sneller. Bij afmelden kunnen programma's met niet-opgeslagen werk worden gesloten. Werkt vanaf de volgende aanmelding.</translation>
+<translation>Menu’s openen sneller. Bij afmelden kunnen programma’s met niet-opgeslagen werk worden gesloten. Werkt vanaf de volgende aanmelding.</translation>
 </message>
 <message>
 <source>Windows 11: removes the whole lock screen; some editions ignore it. Windows 10: nothing changes.</source>

@@ -374,11 +374,11 @@
 </message>
 <message>
 <source>This PC was looked at without Admin rights: what needs them is missing here.</source>
-<translation>Ten komputer sprawdzono bez praw administratora: brakuje tu tego, co ich wymaga.</translation>
+<translation>Ten komputer sprawdzono bez uprawnień administratora: brakuje tu tego, co ich wymaga.</translation>
 </message>
 <message>
 <source>With Admin rights a preview needs a copy of this app that nobody else can change, such as the installer makes in the folder for programs. Without Admin rights it works from any folder.</source>
-<translation>Z prawami administratora podgląd wymaga kopii tej aplikacji, której nikt inny nie może zmienić, takiej jak ta, którą instalator umieszcza w folderze programów. Bez nich działa z dowolnego folderu.</translation>
+<translation>Z uprawnieniami administratora podgląd wymaga kopii tej aplikacji, której nikt inny nie może zmienić, takiej jak ta, którą instalator umieszcza w folderze programów. Bez nich działa z dowolnego folderu.</translation>
 </message>
 <message>
 <source>A preview needs the folder “rehearse” of this app, which isn't there.</source>
@@ -394,7 +394,7 @@
 </message>
 <message>
 <source>not installed</source>
-<translation>nie zainstalowano</translation>
+<translation>nie zainstalowane</translation>
 </message>
 <message>
 <source>starts</source>
@@ -458,7 +458,7 @@
 </message>
 <message>
 <source>its files are gone from this PC; get it from the Store</source>
-<translation>jego plików nie ma już na tym komputerze; można go pobrać ze sklepu Store</translation>
+<translation>jego plików nie ma już na tym komputerze; można go pobrać ze sklepu Microsoft Store</translation>
 </message>
 <message>
 <source>Not everything was done.</source>
@@ -837,7 +837,7 @@ pełnego ekranu, zwłaszcza w aplikacjach do odtwarzania wideo)</translation>
 <message>
 <source>Disable Nagle’s Algorithm
 (may improve the real-time responsiveness of your network connection, but may increase traffic)</source>
-<translation>Wyłącz algorytm Nagle'a
+<translation>Wyłącz algorytm Nagle’a
 (może poprawić szybkość reakcji połączenia sieciowego, ale zwiększyć ruch)</translation>
 </message>
 <message>
@@ -1539,7 +1539,7 @@ Ten proces służy tylko do przechwytywania wideo z ekranu. Nie ma żadnego wpł
 </message>
 <message>
 <source>Service %1: start mode</source>
-<translation>Usługa %1: tryb uruchamiania</translation>
+<translation>Usługa %1: typ uruchomienia</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>

@@ -342,7 +342,7 @@
 </message>
 <message>
 <source>Other registry values</source>
-<translation>Outros valores do registro</translation>
+<translation>Outros valores do Registro</translation>
 </message>
 <message>
 <source>Kestrune's own records</source>
@@ -706,7 +706,7 @@ Todos os recursos, aplicativos, serviços e tarefas serão restaurados.</transla
 </message>
 <message>
 <source>Content indexing on</source>
-<translation>Indexação de conteúdo ativada</translation>
+<translation>Indexação de conteúdo habilitada</translation>
 </message>
 <message>
 <source>CPU</source>
@@ -1291,7 +1291,7 @@ Você pode reinstalá-los diretamente clicando em &quot;Ver pacotes desinstalado
 </message>
 <message>
 <source>off</source>
-<translation>desativado</translation>
+<translation>desabilitado</translation>
 </message>
 <message>
 <source>Old Xbox App, no longer supported!</source>
@@ -1299,7 +1299,7 @@ Você pode reinstalá-los diretamente clicando em &quot;Ver pacotes desinstalado
 </message>
 <message>
 <source>on</source>
-<translation>ativado</translation>
+<translation>habilitado</translation>
 </message>
 <message>
 <source>on drive</source>
@@ -1325,7 +1325,7 @@ Você pode reinstalá-los diretamente clicando em &quot;Ver pacotes desinstalado
 <source>Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Outro protocolo dedicado à rede local (ex.: alguns reprodutores de vídeo o usam para se conectar a discos de rede)<byte value="xd"/>
-(por padrão não é usado, mas está ativado!)</translation>
+(por padrão não é usado, mas está habilitado!)</translation>
 </message>
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
@@ -1407,7 +1407,7 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 </message>
 <message>
 <source>Program started at logon: %1</source>
-<translation>Programa ao entrar: %1</translation>
+<translation>Programa iniciado no logon: %1</translation>
 </message>
 <message>
 <source>Programs</source>
@@ -1425,13 +1425,13 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 <source>Proxy or VPN functionality to improve the security of your network traffic<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Recurso de proxy ou VPN para melhorar a segurança do tráfego de rede<byte value="xd"/>
-(por padrão não é usado, mas está ativado!)</translation>
+(por padrão não é usado, mas está habilitado!)</translation>
 </message>
 <message>
 <source>Quick setup of some bluetooth headsets<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Configuração rápida de alguns fones de ouvido Bluetooth<byte value="xd"/>
-(por padrão não é usado, mas está ativado!)</translation>
+(por padrão não é usado, mas está habilitado!)</translation>
 </message>
 <message>
 <source>Reading what has become of it…</source>
@@ -1539,7 +1539,7 @@ Este processo permite apenas a captura de vídeo da tela. Não afeta de forma al
 </message>
 <message>
 <source>Service %1: start mode</source>
-<translation>Serviço %1: modo de início</translation>
+<translation>Serviço %1: tipo de inicialização</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1853,7 +1853,7 @@ do sistema</translation>
 <source>Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>Compartilhamento do Windows em uma rede local (protocolo SMB) (ex.: conectar discos rígidos e impressoras em uma rede local)<byte value="xd"/>
-(por padrão não é usado, mas está ativado!)</translation>
+(por padrão não é usado, mas está habilitado!)</translation>
 </message>
 <message>
 <source>With all &amp;later changes</source>
@@ -1961,7 +1961,7 @@ do sistema</translation>
 </message>
 <message>
 <source>Shows games without HDR in HDR. Resets other graphics settings such as variable refresh rate.</source>
-<translation>Mostra em HDR jogos sem HDR. Redefine outras configurações gráficas, como a taxa variável.</translation>
+<translation>Mostra em HDR jogos sem HDR. Redefine outras configurações gráficas, como a taxa de atualização variável.</translation>
 </message>
 <message>
 <source>The pointer moves evenly with the mouse. Takes effect at the next sign-in.</source>

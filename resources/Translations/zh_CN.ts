@@ -406,7 +406,7 @@
 </message>
 <message>
 <source>your setting</source>
-<translation>您的设置</translation>
+<translation>你的设置</translation>
 </message>
 <message>
 <source>applied</source>
@@ -558,11 +558,11 @@ All features, applications, services and tasks will be restored.</source>
 </message>
 <message>
 <source>Assistant - no services to deactivate</source>
-<translation>助手 - 没有要停用的服务</translation>
+<translation>助手 - 没有要禁用的服务</translation>
 </message>
 <message>
 <source>Assistant - no tasks to deactivate</source>
-<translation>助手 - 没有要停用的任务</translation>
+<translation>助手 - 没有要禁用的任务</translation>
 </message>
 <message>
 <source>at boot</source>
@@ -1325,7 +1325,7 @@ You can reinstall them directly by clicking on &quot;View uninstalled packages&q
 <source>Other protocol dedicated to local network (eg: some video players use it to connect to network hard drives)<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>局域网专用的另一种协议（例如：某些视频播放器用它连接网络硬盘）<byte value="xd"/>
-（默认未使用但已激活！）</translation>
+（默认未使用但已启用！）</translation>
 </message>
 <message>
 <source>Otherwise some scheduled tasks will not be detected!</source>
@@ -1425,13 +1425,13 @@ This process only allows screen video capture.Does not affect the monitoring dis
 <source>Proxy or VPN functionality to improve the security of your network traffic<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>用于提高网络通信安全性的代理或 VPN 功能<byte value="xd"/>
-（默认未使用但已激活！）</translation>
+（默认未使用但已启用！）</translation>
 </message>
 <message>
 <source>Quick setup of some bluetooth headsets<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>快速设置某些蓝牙耳机<byte value="xd"/>
-（默认未使用但已激活！）</translation>
+（默认未使用但已启用！）</translation>
 </message>
 <message>
 <source>Reading what has become of it…</source>
@@ -1539,7 +1539,7 @@ This process only allows screen video capture.Does not affect the monitoring dis
 </message>
 <message>
 <source>Service %1: start mode</source>
-<translation>服务 %1：启动方式</translation>
+<translation>服务 %1：启动类型</translation>
 </message>
 <message>
 <source>Service: can be disable: </source>
@@ -1715,7 +1715,7 @@ Information</source>
 </message>
 <message>
 <source>The files can't bring back:</source>
-<translation>文件无法恢复：</translation>
+<translation>文件无法恢复的内容：</translation>
 </message>
 <message>
 <source>The way back needs Admin rights: only what was changed with them is noted.</source>
@@ -1853,7 +1853,7 @@ Information</source>
 <source>Windows sharing functionality on a local network (SMB protocol) (eg: connect hard drives, printers on a local network)<byte value="xd"/>
 (by default it is not used but activated!)</source>
 <translation>局域网中的 Windows 共享功能（SMB 协议）（例如：连接局域网中的硬盘、打印机）<byte value="xd"/>
-（默认未使用但已激活！）</translation>
+（默认未使用但已启用！）</translation>
 </message>
 <message>
 <source>With all &amp;later changes</source>
