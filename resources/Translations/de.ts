@@ -2031,5 +2031,13 @@ info</translation>
 <source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
 <translation>Wirkt zum Teil: Zwei Aufgaben bleiben aus, aber der Dienst kommt bei der nächsten Anmeldung zurück.</translation>
 </message>
+<message>
+<source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
+<translation>Ändert alles, was die Analyse gefunden hat; das dauert eine Weile. Wenn Sie das Fenster währenddessen schließen, hört es dort auf: Was bis dahin geändert ist, bleibt geändert.</translation>
+</message>
+<message>
+<source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
+<translation>Wirkt sofort auf alle angehakten Pakete, ohne nachzufragen. Die Liste bleibt, wie sie ist, bis die Seite erneut angezeigt wird.</translation>
+</message>
 </context>
 </TS>

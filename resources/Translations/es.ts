@@ -2031,5 +2031,13 @@ del sistema</translation>
 <source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
 <translation>Efecto parcial: dos tareas quedan deshabilitadas, pero el servicio vuelve en el próximo inicio de sesión.</translation>
 </message>
+<message>
+<source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
+<translation>Cambia todo lo que encontró el análisis, lo que tarda un rato. Si cierra la ventana mientras tanto, se detiene ahí: lo ya cambiado queda cambiado.</translation>
+</message>
+<message>
+<source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
+<translation>Actúa de inmediato sobre todos los paquetes marcados, sin preguntar. La lista queda como está hasta que se vuelva a mostrar la página.</translation>
+</message>
 </context>
 </TS>

@@ -2031,5 +2031,13 @@ système</translation>
 <source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
 <translation>Effet partiel : deux tâches restent désactivées, mais le service revient à la prochaine session.</translation>
 </message>
+<message>
+<source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
+<translation>Modifie tout ce que l’analyse a trouvé, ce qui prend un moment. Si vous fermez la fenêtre entre-temps, tout s’arrête là : ce qui est déjà modifié le reste.</translation>
+</message>
+<message>
+<source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
+<translation>Agit aussitôt sur tous les packages cochés, sans poser de question. La liste reste telle quelle jusqu’à ce que la page soit affichée à nouveau.</translation>
+</message>
 </context>
 </TS>

@@ -2031,5 +2031,13 @@ sul sistema</translation>
 <source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
 <translation>Effetto parziale: due attività restano disabilitate, ma il servizio torna al prossimo accesso.</translation>
 </message>
+<message>
+<source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
+<translation>Modifica tutto ciò che l’analisi ha trovato, il che richiede un po’ di tempo. Se nel frattempo si chiude la finestra, si ferma lì: ciò che è già modificato resta modificato.</translation>
+</message>
+<message>
+<source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
+<translation>Agisce subito su tutti i pacchetti spuntati, senza chiedere conferma. L’elenco resta com’è finché la pagina non viene mostrata di nuovo.</translation>
+</message>
 </context>
 </TS>

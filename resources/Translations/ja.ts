@@ -2031,5 +2031,13 @@ Information</source>
 <source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
 <translation>一部だけ有効です。2 つのタスクは無効のままですが、サービスは次回のサインインで戻ります。</translation>
 </message>
+<message>
+<source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
+<translation>分析で見つかったものをすべて変更します。しばらく時間がかかります。途中でウィンドウを閉じるとそこで止まり、それまでの変更はそのまま残ります。</translation>
+</message>
+<message>
+<source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
+<translation>チェックの付いたすべてのパッケージをすぐに処理し、確認はしません。一覧は、ページをもう一度表示するまで変わりません。</translation>
+</message>
 </context>
 </TS>

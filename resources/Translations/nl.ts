@@ -2031,5 +2031,13 @@ informatie</translation>
 <source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
 <translation>Werkt deels: twee taken blijven uit, maar de service komt bij de volgende aanmelding terug.</translation>
 </message>
+<message>
+<source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
+<translation>Wijzigt alles wat de analyse heeft gevonden, wat even duurt. Als u het venster intussen sluit, stopt het daar: wat dan al is gewijzigd, blijft gewijzigd.</translation>
+</message>
+<message>
+<source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
+<translation>Werkt meteen op alle aangevinkte pakketten, zonder te vragen. De lijst blijft zoals die is tot de pagina opnieuw wordt weergegeven.</translation>
+</message>
 </context>
 </TS>

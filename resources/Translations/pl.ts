@@ -2031,5 +2031,13 @@ o systemie</translation>
 <source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
 <translation>Działa częściowo: dwa zadania pozostają wyłączone, ale usługa wraca przy następnym logowaniu.</translation>
 </message>
+<message>
+<source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
+<translation>Zmienia wszystko, co znalazła analiza, co chwilę trwa. Jeśli w tym czasie zamkniesz okno, zmiany się zatrzymają: to, co już zmieniono, pozostanie zmienione.</translation>
+</message>
+<message>
+<source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
+<translation>Działa od razu na wszystkie zaznaczone pakiety, bez pytania. Lista pozostaje bez zmian, dopóki strona nie zostanie pokazana ponownie.</translation>
+</message>
 </context>
 </TS>

@@ -2031,5 +2031,13 @@ do sistema</translation>
 <source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
 <translation>Efeito parcial: duas tarefas ficam desabilitadas, mas o serviço volta no próximo logon.</translation>
 </message>
+<message>
+<source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
+<translation>Altera tudo o que a análise encontrou, o que demora um pouco. Se você fechar a janela nesse meio-tempo, para por aí: o que já foi alterado continua alterado.</translation>
+</message>
+<message>
+<source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
+<translation>Age imediatamente sobre todos os pacotes marcados, sem perguntar. A lista fica como está até a página ser exibida de novo.</translation>
+</message>
 </context>
 </TS>

@@ -2031,5 +2031,13 @@ Information</source>
 <source>Partly effective: two tasks stay off, but the service comes back at the next sign-in.</source>
 <translation>部分有效：两个任务保持禁用，但服务会在下次登录时恢复。</translation>
 </message>
+<message>
+<source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
+<translation>更改分析找到的所有内容，需要一些时间。如果中途关闭窗口，操作会就此停止：已更改的内容保持更改。</translation>
+</message>
+<message>
+<source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
+<translation>立即处理所有选中的程序包，不再询问。在再次显示该页面之前，列表保持不变。</translation>
+</message>
 </context>
 </TS>

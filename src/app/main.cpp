@@ -19,6 +19,7 @@
 #endif
 #ifndef Q_OS_WIN
 #include "standinfonts.h"
+#include "window/contrast.h"
 #endif
 
 #include <QApplication>
@@ -68,6 +69,7 @@ bool choosePlatform()
     }
 #ifndef Q_OS_WIN
     useStandInFonts();
+    QApplication::setStyle(new OutlineStyle);
 #endif
     return true;
 }
@@ -147,7 +149,11 @@ int main(int argc, char **argv)
     if (window.hasLeft())
         return 0;
     window.appVersion = QCoreApplication::applicationVersion();
+#ifdef KESTRUNE_REAL_MACHINE
     window.screenName = window.screen()->name();
+#else
+    window.screenName = rehearsalScreen;
+#endif
     window.previewPlace = previewPlace;
     window.show();
     if (QCoreApplication::arguments().contains("--way-back"_L1))

@@ -107,7 +107,7 @@ int takePictures(const QStringList &pairs)
     try {
         Kestrune window;
         window.setAttribute(Qt::WA_DontShowOnScreen);
-        window.screenName = u"\\\\.\\DISPLAY1"_s; // as Windows calls it; the screen may have no name
+        window.screenName = rehearsalScreen;
         window.show();
         settle(window);
         return savePictures(window, pairs);

@@ -3,11 +3,14 @@
 
 #include "kestrune.h"
 
+#include "contrast.h"
 #include "elevation.h"
 #include "work/settings.h"
 #include "work/windowsname.h"
 
 #include <QGuiApplication>
+#include <QScreen>
+#include <QScrollArea>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -17,6 +20,12 @@ Kestrune::Kestrune()
     setVisible(false);
     QTimer::singleShot(0, this, &Kestrune::StartAsAdmin);
     ui.setupUi(this);
+    fitToScreen(screen()->availableSize());
+    for (const Columns &columns : listColumns())
+        columns.table->viewport()->installEventFilter(this);
+    ui.tblSvc->setItemDelegate(new SelectedCellDelegate(this));
+    // The box's own delegate leaves a row's colour to the style sheet.
+    ui.cbOptionsTheme->setItemDelegate(new QStyledItemDelegate(this));
     makeWorkers();
     // A table's own default is descending.
     ui.tblTasks->horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
@@ -55,10 +64,42 @@ void Kestrune::makeWorkers()
     workThread = new WorkThread(this);
     connect(workThread, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueChanged);
     connect(workThread, &WorkThread::automatizerValueChanged, this, &Kestrune::onAutomatizerValueChanged);
+    connect(workThread, &QThread::started, this, &Kestrune::showWhetherBusy);
+    connect(workThread, &QThread::finished, this, &Kestrune::showWhetherBusy);
     connect(workThread, &QThread::finished, this, &Kestrune::tellFailure);
     makeWinSxsWorker();
     workThreadMonitor = new WorkThread(this);
     connect(workThreadMonitor, &WorkThread::valueChanged, this, &Kestrune::onWorkThreadValueMonitor);
+}
+
+void Kestrune::showWhetherBusy()
+{
+    // A job may have been started since the last one has said that it is over.
+    if (workThread->isRunning())
+        setCursor(Qt::BusyCursor);
+    else
+        unsetCursor();
+}
+
+void Kestrune::fitToScreen(const QSize &available)
+{
+    const QSize form = minimumSize();
+    const QSize room = available - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    if (room.width() >= form.width() && room.height() >= form.height())
+        return;
+    // The page keeps the size that it has in the form, and scrolls.
+    const QMargins margins = ui.gridLayout_2->contentsMargins();
+    const int besides = ui.wgtStatus->minimumHeight() + ui.gridLayout_2->verticalSpacing();
+    ui.tabWidget->setMinimumSize(form.shrunkBy(margins).shrunkBy({ui.wgtLeftMenu->minimumWidth(), besides, 0, 0}));
+    auto *area = new QScrollArea;
+    area->setObjectName(u"pageArea"_s);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    delete ui.gridLayout_2->replaceWidget(ui.tabWidget, area);
+    area->setWidget(ui.tabWidget);
+    setMinimumSize(form.boundedTo(room));
+    resize(minimumSize());
 }
 
 void Kestrune::makeWinSxsWorker()

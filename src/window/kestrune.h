@@ -50,6 +50,13 @@ public:
     /** Does both, and puts the stored theme in force. */
     void applyPalette();
 
+    /**
+     * Lets the page scroll where the screen is smaller than the form, so that nothing lies below it; elsewhere it does
+     * nothing. To be called once.
+     * @param available what the screen has for windows, with their frames
+     */
+    void fitToScreen(const QSize &available);
+
     /** Opens the dialog of the way back for all that was ever noted. */
     void showWayBack();
 
@@ -134,14 +141,27 @@ private Q_SLOTS:
     void showKeepTitle(int index);
     void onKeepModelChanged(const QModelIndex &first, const QModelIndex &last);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     /** A row of cbOptionsLang; Auto is the language of the system, as far as there is a file for it. */
     enum LanguageChoice : int { English = 0, French = 1, Auto = 2 };
     /** The theme in force; there is no 2. */
     enum Theme : int { DarkTheme = 0, LightTheme = 1, SystemTheme = 3 };
 
+    /** A list's columns as the form has them, and which of them takes the room that a wide window has. */
+    struct Columns
+    {
+        QTableWidget *table;
+        QList<int> widths;
+        int growing;
+    };
+
     // Start-up
     void makeWorkers();
+    /** A cursor says that a job runs. */
+    void showWhetherBusy();
     void makeWinSxsWorker();
     /** Ends the count of the WinSxS folder; one that doesn't answer is left alone, and the next has a new worker. */
     void endWinSxsCount();
@@ -150,6 +170,11 @@ private:
     void onKeepItemChanged(int firstRow, int lastRow);
 
     // Navigation
+    QList<Columns> listColumns() const;
+    /** Gives each list's growing column what the others leave of its width, but never less than the form. */
+    void growColumns();
+    /** Tool tips that say what can't be seen before a click. */
+    void explainButtons();
     void openPage(int page);
     void selectMenuButton(const QString &objectName);
     void styleMenuButton(const QString &objectName);

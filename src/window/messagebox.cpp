@@ -34,11 +34,15 @@ void widen(QMessageBox &box, int minimumWidth)
     grid->addItem(spacer, grid->rowCount(), 0, 1, grid->columnCount());
 }
 
+/** Without a title of its own a box would have the name of the file that the program is started by. */
+const QString title = QStringLiteral("Kestrune");
+
 } // namespace
 
 QMessageBox::StandardButton ask(const Question &question)
 {
     QMessageBox box;
+    box.setWindowTitle(title);
     box.setIcon(QMessageBox::Information);
     box.setText(question.text);
     box.setInformativeText(question.informativeText);
@@ -57,6 +61,7 @@ QMessageBox::StandardButton ask(const Question &question)
 void tell(const QString &text)
 {
     QMessageBox box;
+    box.setWindowTitle(title);
     box.setText(text);
     speakPlainly(box);
     box.exec();

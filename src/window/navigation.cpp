@@ -4,11 +4,16 @@
 #include "kestrune.h"
 
 #include "platform/platform.h"
+#include "rowtext.h"
 #include "themestyles.h"
 #include "webhost.h"
 
 #include <QCursor>
+#include <QEvent>
+#include <QHeaderView>
 #include <QMenu>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -140,28 +145,53 @@ void Kestrune::applyActiveMenuStyle(QPushButton *button, const QString &imageNam
     button->setStyleSheet(menuButtonStyle(imageName, QString(), QPalette::Link));
 }
 
+QList<Kestrune::Columns> Kestrune::listColumns() const
+{
+    return {
+        {ui.tblSvc, {240, 100, 1400}, 2},
+        {ui.tblTasks, {400, 400, 0}, 1},
+        {ui.tblPackages, {200, 200, 400}, 0},
+        {ui.tblAutorun, {200, 460}, 1},
+    };
+}
+
+void Kestrune::growColumns()
+{
+    for (const auto &[table, widths, growing] : listColumns()) {
+        const int others = table->horizontalHeader()->length() - table->columnWidth(growing);
+        table->setColumnWidth(growing, std::max(widths.at(growing), table->viewport()->width() - others));
+    }
+}
+
+bool Kestrune::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize) // of a list
+        growColumns();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void Kestrune::explainButtons()
+{
+    ui.btnAutomatize->setToolTip(
+        wrappedText(tr("Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it "
+                       "stops there: what is changed by then stays changed.")));
+    ui.btnPackagesUninst->setToolTip(
+        wrappedText(tr("Acts on all checked packages at once, without asking. The list stays as it is until the page "
+                       "is shown again.")));
+}
+
 void Kestrune::prepareForm()
 {
-    struct Widths
-    {
-        QTableWidget *table;
-        QList<int> columns;
-    };
-    const Widths tables[] = {
-        {ui.tblSvc, {240, 100, 1400}},
-        {ui.tblTasks, {400, 400, 0}},
-        {ui.tblPackages, {200, 200, 400}},
-        {ui.tblAutorun, {200, 460}},
-    };
-
     ui.tabWidget->tabBar()->hide();
     ui.pgrBar->hide();
     showBrokenOff();
     nameHost();
-    for (const Widths &widths : tables) {
-        for (int column = 0; column < widths.columns.size(); ++column)
-            widths.table->setColumnWidth(column, widths.columns.at(column));
+    explainButtons();
+    for (const Columns &columns : listColumns()) {
+        for (int column = 0; column < columns.widths.size(); ++column)
+            columns.table->setColumnWidth(column, columns.widths.at(column));
     }
+    growColumns();
     const QList<QWidget *> lists{ui.tblSvc, ui.tblTasks, ui.tblPackages, ui.tblAutorun, ui.scrollArea};
     for (QWidget *list : lists) {
         list->setContextMenuPolicy(Qt::CustomContextMenu);

@@ -66,9 +66,11 @@ void Kestrune::loadTheme()
         index = 1;
     else if (stored == "system"_L1)
         index = 2;
-    // Windows 10 has no dark theme.
-    if (onWindows10)
+    // Windows 10 has no dark theme. A style sheet draws the row like the others unless it has a colour of its own.
+    if (onWindows10) {
         ui.cbOptionsTheme->setItemData(0, 0, Qt::UserRole - 1);
+        ui.cbOptionsTheme->setItemData(0, QBrush(Qt::gray), Qt::ForegroundRole);
+    }
     loadComboBox(ui.cbOptionsTheme, index, &Kestrune::onCbOptionsThemeSelectionChanged);
 }
 

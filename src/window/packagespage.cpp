@@ -17,6 +17,7 @@ void Kestrune::showPackagesPage()
     // In the view of uninstalled packages these two are hidden.
     ui.tblPackages->setColumnWidth(1, 200);
     ui.tblPackages->setColumnWidth(2, 400);
+    growColumns();
     ui.btnPackagesUninst->setText(tr("Uninstall packages"));
     ui.btnPackagesViewDisabled->setText(tr("View uninstalled packages"));
     ui.tblPackages->setRowCount(0);
@@ -89,6 +90,7 @@ void Kestrune::on_btnPackagesViewDisabled_clicked()
     ui.btnPackagesUninst->setText(tr("Install packages"));
     ui.tblPackages->setColumnWidth(1, 0);
     ui.tblPackages->setColumnWidth(2, 0);
+    growColumns();
     for (const QString &name : trustedPackages())
         addPackageRow(name, QString(), QString());
     ui.lblStatus->setText(countText(tr("Packages uninstalled:"), ui.tblPackages->rowCount()) + u"  "_s);

@@ -13,7 +13,8 @@ constexpr int interval = 5; // milliseconds
 
 ShownBox read(const QMessageBox &box)
 {
-    ShownBox shown{.text = box.text(),
+    ShownBox shown{.title = box.windowTitle(),
+                   .text = box.text(),
                    .informativeText = box.informativeText(),
                    .buttons = box.standardButtons(),
                    .buttonTexts = {},

@@ -12,6 +12,7 @@
 /** What a box showed when it stood on the screen. */
 struct ShownBox
 {
+    QString title;
     QString text;
     QString informativeText;
     QMessageBox::StandardButtons buttons;

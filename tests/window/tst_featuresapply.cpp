@@ -178,6 +178,7 @@ void TestFeaturesApply::anotherInstanceKeepsThisOneOut()
     apply(driver);
     QCOMPARE(boxes.shown().constLast().text,
              u"Another instance of the program is changing this PC. Try again when it has finished."_s);
+    QCOMPARE(boxes.shown().constLast().title, u"Kestrune"_s);
     QCOMPARE(probes.ran(), QStringList());
     QVERIFY(!driver.status().startsWith(done));
     other.reset();

@@ -12,8 +12,11 @@
 #include <QScrollArea>
 #include <QSemaphore>
 #include <QSignalSpy>
+#include <QStyle>
 #include <QTabBar>
 #include <QTest>
+
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -130,6 +133,13 @@ private Q_SLOTS:
     // Guards
     void runningJobKeepsThePage_data();
     void runningJobKeepsThePage();
+    void cursorTellsOfAJob();
+    void buttonsTellWhatCantBeSeen();
+    void formStaysOnAScreenThatHasRoomForIt();
+    void pageScrollsOnASmallScreen_data();
+    void pageScrollsOnASmallScreen();
+    void wideWindowShowsWhatIsCutElsewhere_data();
+    void wideWindowShowsWhatIsCutElsewhere();
     void automatizerPhaseKeepsThePage_data();
     void automatizerPhaseKeepsThePage();
     void restoringDoesNotKeepThePage();
@@ -306,6 +316,110 @@ void TestNavigation::runningJobKeepsThePage()
     driver.click(button);
     QVERIFY(driver.worker().isRunning());
     QVERIFY(stateOf(driver) == before);
+}
+
+void TestNavigation::cursorTellsOfAJob()
+{
+    const WindowOnPc driver(endlessPauses());
+    QCOMPARE(driver.window().cursor().shape(), Qt::ArrowCursor);
+    QVERIFY(keepBusy(driver));
+    QTRY_COMPARE_WITH_TIMEOUT(driver.window().cursor().shape(), Qt::BusyCursor, patience);
+    QVERIFY(driver.endJob());
+    QTRY_COMPARE_WITH_TIMEOUT(driver.window().cursor().shape(), Qt::ArrowCursor, patience);
+}
+
+/** What the window doesn't ask first is said before the click, in the language of the moment. */
+void TestNavigation::buttonsTellWhatCantBeSeen()
+{
+    TestMachine machine;
+    machine.write(settingsKey, u"lang"_s, u"en"_s);
+    const WindowDriver driver;
+    QVERIFY(driver.button(u"btnAutomatize"_s)->toolTip().contains(u"close the window"_s));
+    QVERIFY(driver.button(u"btnPackagesUninst"_s)->toolTip().contains(u"without asking"_s));
+    driver.window().showPage(7);
+    driver.get<QComboBox>(u"cbOptionsLang"_s)->setCurrentIndex(1);
+    QVERIFY(driver.button(u"btnAutomatize"_s)->toolTip().contains(u"fermez la fenêtre"_s));
+    QVERIFY(driver.button(u"btnPackagesUninst"_s)->toolTip().contains(u"sans poser de question"_s));
+}
+
+void TestNavigation::formStaysOnAScreenThatHasRoomForIt()
+{
+    const WindowOnPc driver;
+    driver.window().fitToScreen({1366, 728});
+    QCOMPARE(driver.window().minimumSize(), QSize(800, 640));
+    QVERIFY(driver.window().findChild<QScrollArea *>(u"pageArea"_s) == nullptr);
+}
+
+/** 1366 x 768 at 125 %, and 1920 x 1080 at 200 %, without the taskbar. */
+void TestNavigation::pageScrollsOnASmallScreen_data()
+{
+    addColumns<QSize>("available");
+    QTest::newRow("125 %") << QSize(1093, 574);
+    QTest::newRow("200 %") << QSize(960, 500);
+    QTest::newRow("narrow, too") << QSize(700, 500);
+}
+
+void TestNavigation::pageScrollsOnASmallScreen()
+{
+    QFETCH(const QSize, available);
+    const WindowOnPc driver;
+    Kestrune &window = driver.window();
+    window.fitToScreen(available);
+    const int titleBar = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    QTRY_VERIFY(window.height() + titleBar <= available.height() && window.width() <= available.width());
+    auto *area = driver.get<QScrollArea>(u"pageArea"_s);
+    QVERIFY(area->widget() == driver.get<QTabWidget>(u"tabWidget"_s));
+    // Nothing is lower than the form has it.
+    const QSize form(800 - 180, 640 - 24);
+    QVERIFY(area->widget()->height() <= form.height() && area->widget()->height() > form.height() - 60);
+    for (const auto &[page, name] : {std::pair(0, u"btnAutomatize"_s), {7, u"chkOptionsMonitor"_s}}) {
+        window.showPage(page);
+        auto *last = driver.get<QWidget>(name);
+        // The layout may still be on its way.
+        const auto isSeen = [&] {
+            area->ensureWidgetVisible(last);
+            return last->visibleRegion().boundingRect().height() == last->height();
+        };
+        QVERIFY(QTest::qWaitFor(isSeen, patience));
+    }
+}
+
+void TestNavigation::wideWindowShowsWhatIsCutElsewhere_data()
+{
+    addColumns<QString, int, QList<int>>("table", "growing", "widths");
+    QTest::newRow("services") << u"tblSvc"_s << 2 << QList{240, 100, 1400};
+    QTest::newRow("tasks") << u"tblTasks"_s << 1 << QList{400, 400, 0};
+    QTest::newRow("packages") << u"tblPackages"_s << 0 << QList{200, 200, 400};
+    QTest::newRow("startup") << u"tblAutorun"_s << 1 << QList{200, 460};
+}
+
+void TestNavigation::wideWindowShowsWhatIsCutElsewhere()
+{
+    QFETCH(const QString, table);
+    QFETCH(const int, growing);
+    QFETCH(QList<int>, widths);
+    const WindowOnPc driver;
+    const QTableWidget *list = driver.table(table);
+    const auto columns = [list, &widths] {
+        QList<int> shown;
+        for (int column = 0; column < widths.size(); ++column)
+            shown.append(list->columnWidth(column));
+        return shown;
+    };
+    auto *pages = driver.get<QTabWidget>(u"tabWidget"_s);
+    for (int page = 0; page < pages->count(); ++page) {
+        if (pages->widget(page)->isAncestorOf(list))
+            pages->setCurrentIndex(page);
+    }
+    QCOMPARE(columns(), widths);
+    driver.window().resize(2400, 900);
+    QTRY_VERIFY(list->viewport()->width() > 2000);
+    const QList<int> form = widths;
+    const int others = std::accumulate(form.cbegin(), form.cend(), 0) - form.at(growing);
+    widths[growing] = list->viewport()->width() - others;
+    QCOMPARE(columns(), widths);
+    driver.window().resize(800, 640);
+    QTRY_COMPARE(columns(), form);
 }
 
 void TestNavigation::automatizerPhaseKeepsThePage_data()

@@ -66,6 +66,7 @@ private Q_SLOTS:
     void themeBoxShowsTheStoredTheme_data();
     void themeBoxShowsTheStoredTheme();
     void darkCantBeChosenOnWindows10();
+    void whatCantBeChosenLooksSo();
     void chosenThemeIsStoredAndPutInForce_data();
     void chosenThemeIsStoredAndPutInForce();
     void darkChosenOnWindows10StoresNothing();
@@ -238,6 +239,32 @@ void TestOptionsPage::darkCantBeChosenOnWindows10()
     const TestMachine pc;
     const OptionsDriver driver;
     QVERIFY(isEnabled(driver, Dark));
+}
+
+/** Style sheets draw the list of the box. */
+void TestOptionsPage::whatCantBeChosenLooksSo()
+{
+    const TestMachine pc(TestMachine::Windows::Ten);
+    const OptionsDriver driver;
+    driver.themes()->showPopup();
+    const QAbstractItemView *list = driver.themes()->view();
+    const QImage image = list->viewport()->grab().toImage();
+    const auto darkest = [&](int row) {
+        const QRect place = list->visualRect(list->model()->index(row, 0));
+        int lightness = 255;
+        for (int y = place.top(); y <= place.bottom(); ++y) {
+            for (int x = place.left(); x <= place.right(); ++x) {
+                if (image.valid(x, y))
+                    lightness = std::min(lightness, qGray(image.pixel(x, y)));
+            }
+        }
+        return lightness;
+    };
+    const int disabled = darkest(Dark);
+    const int enabled = darkest(System);
+    driver.themes()->hidePopup();
+    QVERIFY2(enabled < 60, qPrintable(QString::number(enabled)));
+    QVERIFY2(disabled > 120, qPrintable(QString::number(disabled)));
 }
 
 void TestOptionsPage::chosenThemeIsStoredAndPutInForce_data()

@@ -318,6 +318,7 @@ void TestStartup::offerTellsWhatIsNeeded()
     showAdminRequiredDialog(&driver.window());
     QCOMPARE(boxes.shown().size(), 1);
     const ShownBox box = boxes.shown().at(0);
+    QCOMPARE(box.title, u"Kestrune"_s);
     QCOMPARE(box.text, u"You must launch this app with Admin rights!"_s);
     QCOMPARE(box.informativeText, u"Do you want to start this app with Admin rights?"_s);
     QCOMPARE(box.buttons, QMessageBox::Yes | QMessageBox::No);

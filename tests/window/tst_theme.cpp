@@ -3,14 +3,20 @@
 
 #include "support/suite.h"
 #include "support/windowdriver.h"
+#include "window/contrast.h"
+#include "window/themestyles.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QScrollBar>
+#include <QStyleOptionButton>
 #include <QTest>
 #include <QTextBrowser>
+
+#include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -55,6 +61,25 @@ constexpr Cell cells[] = {
     {QPalette::Midlight,        "#323232", "#323232", "#e6e6e6", "#e6e6e6"},
 };
 // clang-format on
+
+/** Of the share that one channel has in a colour's light. */
+double lightOf(double channel)
+{
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double lightOf(const QColor &color)
+{
+    return 0.2126 * lightOf(color.redF()) + 0.7152 * lightOf(color.greenF()) + 0.0722 * lightOf(color.blueF());
+}
+
+/** From 1 to 21, as the guidelines for accessible content have it. */
+double contrastOf(const QColor &color, const QColor &behind)
+{
+    const double one = lightOf(color) + 0.05;
+    const double other = lightOf(behind) + 0.05;
+    return std::max(one, other) / std::min(one, other);
+}
 
 /** What each kind of widget wears in a theme. */
 struct Styles
@@ -173,6 +198,10 @@ private Q_SLOTS:
     void cellsOfThePalettes();
     void widgetsWearTheirTheme_data();
     void widgetsWearTheirTheme();
+    void boxesStandOutWithoutWindows_data();
+    void boxesStandOutWithoutWindows();
+    void selectedCellCanBeRead_data();
+    void selectedCellCanBeRead();
     void headingsAndTextsFollowThePalette_data();
     void headingsAndTextsFollowThePalette();
     void noThemeLeavesAllAsItIs_data();
@@ -273,6 +302,66 @@ void TestTheme::widgetsWearTheirTheme()
     for (const QTableWidget *table : ofPages<QTableWidget>(driver))
         QCOMPARE(table->styleSheet(), styles.table);
     QCOMPARE(driver.get<QWidget>(u"txtAutomatizer"_s)->styleSheet(), styles.log);
+}
+
+void TestTheme::boxesStandOutWithoutWindows_data()
+{
+    addColumns<QPalette, Qt::CheckState>("palette", "state");
+    for (const auto state : {Qt::Unchecked, Qt::Checked}) {
+        const char *name = state == Qt::Checked ? "checked" : "unchecked";
+        QTest::addRow("dark, %s", name) << darkPalette() << state;
+        QTest::addRow("light, %s", name) << lightPalette() << state;
+    }
+}
+
+void TestTheme::boxesStandOutWithoutWindows()
+{
+    QFETCH(const QPalette, palette);
+    QFETCH(const Qt::CheckState, state);
+    OutlineStyle style;
+    QCheckBox box;
+    box.setStyle(&style);
+    box.setPalette(palette);
+    box.setCheckState(state);
+    box.resize(box.sizeHint());
+    QStyleOptionButton option;
+    option.initFrom(&box);
+    const QRect place = style.subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
+    const QImage image = box.grab().toImage();
+    const QColor window = palette.color(QPalette::Window);
+    for (const QPoint &edge : {QPoint(place.left(), place.center().y()), QPoint(place.center().x(), place.top()),
+                               QPoint(place.right(), place.center().y()), QPoint(place.center().x(), place.bottom())}) {
+        const double contrast = contrastOf(image.pixelColor(edge), window);
+        QVERIFY2(contrast >= 3, qPrintable(QString::number(contrast)));
+    }
+}
+
+void TestTheme::selectedCellCanBeRead_data()
+{
+    addColumns<QString>("theme");
+    QTest::newRow("dark") << u"dark"_s;
+    QTest::newRow("light") << u"light"_s;
+}
+
+void TestTheme::selectedCellCanBeRead()
+{
+    QFETCH(const QString, theme);
+    TestMachine machine;
+    machine.write(settingsKey, u"palette"_s, theme);
+    const WindowDriver driver;
+    driver.get<QTabWidget>(u"tabWidget"_s)->setCurrentIndex(1);
+    QTableWidget *table = driver.services();
+    table->setRowCount(1);
+    auto *cell = new QTableWidgetItem(u"IIIIIIII"_s);
+    table->setItem(0, 0, cell);
+    cell->setSelected(true);
+    const QImage image = table->viewport()->grab(table->visualItemRect(cell)).toImage();
+    const QColor background = image.pixelColor(image.width() - 3, image.height() / 2);
+    QCOMPARE(background, theme == "dark"_L1 ? QColor(35, 35, 35) : QColor(u"lightgray"_s));
+    double best = 1;
+    for (int x = 0; x < image.width(); ++x)
+        best = std::max(best, contrastOf(image.pixelColor(x, image.height() / 2), background));
+    QVERIFY2(best >= 4.5, qPrintable(QString::number(best)));
 }
 
 void TestTheme::headingsAndTextsFollowThePalette_data()
