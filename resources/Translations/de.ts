@@ -301,8 +301,8 @@
 <translation>genau</translation>
 </message>
 <message>
-<source>as a default</source>
-<translation>als Standardwert</translation>
+<source>as a fixed value</source>
+<translation>mit festem Wert</translation>
 </message>
 <message>
 <source>not at all</source>
@@ -317,8 +317,8 @@
 <translation>%1 kommen genau zurück</translation>
 </message>
 <message>
-<source>%1 as a default</source>
-<translation>%1 als Standardwert</translation>
+<source>%1 as a fixed value</source>
+<translation>%1 mit festem Wert</translation>
 </message>
 <message>
 <source>%1 not at all</source>
@@ -417,8 +417,8 @@
 <translation>teilweise angewendet</translation>
 </message>
 <message>
-<source>a default</source>
-<translation>ein Standardwert</translation>
+<source>a fixed value</source>
+<translation>ein fester Wert</translation>
 </message>
 <message>
 <source>not there</source>
@@ -2032,12 +2032,252 @@ info</translation>
 <translation>Wirkt zum Teil: Zwei Aufgaben bleiben aus, aber der Dienst kommt bei der nächsten Anmeldung zurück.</translation>
 </message>
 <message>
+<source>none changed</source>
+<translation>nichts geändert</translation>
+</message>
+<message>
+<source>an empty key</source>
+<translation>ein leerer Schlüssel</translation>
+</message>
+<message>
+<source>yes</source>
+<translation>ja</translation>
+</message>
+<message>
+<source>no</source>
+<translation>nein</translation>
+</message>
+<message>
+<source>%1 values</source>
+<translation>%1 Werte</translation>
+</message>
+<message>
+<source>%1 changed</source>
+<translation>%1 geändert</translation>
+</message>
+<message>
+<source>%1 as before</source>
+<translation>%1 wie zuvor</translation>
+</message>
+<message>
+<source>%1 otherwise</source>
+<translation>%1 anders</translation>
+</message>
+<message>
+<source>%1 stay changed</source>
+<translation>%1 bleiben geändert</translation>
+</message>
+<message>
+<source>start mode</source>
+<translation>Starttyp</translation>
+</message>
+<message>
+<source>delayed start</source>
+<translation>verzögerter Start</translation>
+</message>
+<message>
+<source>state</source>
+<translation>Stand</translation>
+</message>
+<message>
+<source>the key itself</source>
+<translation>der Schlüssel selbst</translation>
+</message>
+<message>
+<source>the file</source>
+<translation>die Datei</translation>
+</message>
+<message>
+<source>its attributes</source>
+<translation>ihre Attribute</translation>
+</message>
+<message>
+<source>its owner and permissions</source>
+<translation>ihr Besitzer und ihre Rechte</translation>
+</message>
+<message>
+<source>in the boot configuration</source>
+<translation>in der Startkonfiguration</translation>
+</message>
+<message>
+<source>Records of what was done</source>
+<translation>Einträge über das, was getan wurde</translation>
+</message>
+<message>
+<source>Log and backups beside the program</source>
+<translation>Protokoll und Sicherungen beim Programm</translation>
+</message>
+<message>
+<source>Restore starts every service that Optimize has disabled and sets it to automatic: a service that used to start on demand or with a delay now starts automatically.</source>
+<translation>Das Wiederherstellen startet jeden Dienst, den das Optimieren deaktiviert hat, und setzt ihn auf automatisch: Ein Dienst, der zuvor bei Bedarf oder verzögert startete, startet nun automatisch.</translation>
+</message>
+<message>
+<source>Optimize does not record services that it sets to manual, so Restore doesn't know of them.</source>
+<translation>Das Optimieren notiert Dienste nicht, die es auf manuell setzt; das Wiederherstellen weiß daher nichts von ihnen.</translation>
+</message>
+<message>
+<source>Restore enables only the tasks that Optimize has recorded.</source>
+<translation>Das Wiederherstellen aktiviert nur die Aufgaben, die das Optimieren notiert hat.</translation>
+</message>
+<message>
+<source>Restore re-registers the app from its files, as Windows itself does for a new user.</source>
+<translation>Das Wiederherstellen registriert die App aus ihren Dateien neu, wie es Windows selbst für einen neuen Benutzer tut.</translation>
+</message>
+<message>
+<source>The app comes back as newly installed, without what it had stored.</source>
+<translation>Die App kommt wie neu installiert zurück, ohne das, was sie gespeichert hatte.</translation>
+</message>
+<message>
+<source>Restore re-registers an app from its files, which could not be found.</source>
+<translation>Das Wiederherstellen registriert eine App aus ihren Dateien neu, und diese wurden nicht gefunden.</translation>
+</message>
+<message>
+<source>The saved command is cut at its first "=", so the program starts without the rest of its arguments.</source>
+<translation>Der gespeicherte Befehl wird am ersten „=“ abgeschnitten; das Programm startet daher ohne den Rest seiner Argumente.</translation>
+</message>
+<message>
+<source>Restore brings back only a command whose program is in quotation marks and exists on the disk.</source>
+<translation>Das Wiederherstellen bringt nur einen Befehl zurück, dessen Programm in Anführungszeichen steht und auf dem Datenträger vorhanden ist.</translation>
+</message>
+<message>
+<source>Restore doesn't know what you had: it writes a fixed value, mostly Windows' default, or deletes it.</source>
+<translation>Das Wiederherstellen weiß nicht, was Sie hatten: Es schreibt einen festen Wert, meist den Standard von Windows, oder löscht ihn.</translation>
+</message>
+<message>
+<source>Restore doesn't reset this option, or not all of its values.</source>
+<translation>Das Wiederherstellen setzt diese Option nicht zurück, oder nicht alle ihre Werte.</translation>
+</message>
+<message>
+<source>The option was already as Optimize wants it, or isn't one that Optimize uses; Restore resets it anyway.</source>
+<translation>Die Option war schon so, wie das Optimieren sie will, oder gehört nicht dazu; das Wiederherstellen setzt sie trotzdem zurück.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this file.</source>
+<translation>Das Wiederherstellen rührt diese Datei nicht an.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this value.</source>
+<translation>Das Wiederherstellen rührt diesen Wert nicht an.</translation>
+</message>
+<message>
 <source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
 <translation>Ändert alles, was die Analyse gefunden hat; das dauert eine Weile. Wenn Sie das Fenster währenddessen schließen, hört es dort auf: Was bis dahin geändert ist, bleibt geändert.</translation>
 </message>
 <message>
 <source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
 <translation>Wirkt sofort auf alle angehakten Pakete, ohne nachzufragen. Die Liste bleibt, wie sie ist, bis die Seite erneut angezeigt wird.</translation>
+</message>
+<message>
+<source>Nothing changes either.</source>
+<translation>Auch dabei ändert sich nichts.</translation>
+</message>
+<message>
+<source>Last access times are recorded again, but Windows no longer decides about them by itself.</source>
+<translation>Letzte Zugriffe werden wieder vermerkt, aber Windows entscheidet darüber nicht mehr selbst.</translation>
+</message>
+<message>
+<source>The default is back.</source>
+<translation>Der Standard gilt wieder.</translation>
+</message>
+<message>
+<source>The defaults are back.</source>
+<translation>Die Standardwerte gelten wieder.</translation>
+</message>
+<message>
+<source>The page file is cleared at each shutdown, which isn't the default and takes minutes.</source>
+<translation>Die Auslagerungsdatei wird bei jedem Herunterfahren geleert; das ist nicht der Standard und dauert Minuten.</translation>
+</message>
+<message>
+<source>Hibernation is on, even if it was off before, and takes its space again.</source>
+<translation>Der Ruhezustand ist ein, auch wenn er vorher aus war, und belegt wieder seinen Platz.</translation>
+</message>
+<message>
+<source>The attribute is cleared, even where Windows or you had set it.</source>
+<translation>Das Attribut wird gelöscht, auch wo Windows oder Sie es gesetzt hatten.</translation>
+</message>
+<message>
+<source>Some priorities stay higher than the default.</source>
+<translation>Einige Prioritäten bleiben höher als der Standard.</translation>
+</message>
+<message>
+<source>Game mode is off, and the default is on.</source>
+<translation>Der Spielmodus ist aus, und der Standard ist ein.</translation>
+</message>
+<message>
+<source>Recording is allowed; Settings still shows it as managed.</source>
+<translation>Das Aufzeichnen ist erlaubt; die Einstellungen zeigen es weiterhin als verwaltet.</translation>
+</message>
+<message>
+<source>On Windows 11 the platform timer is forced on, which may slow down games; the default is no entry at all.</source>
+<translation>Unter Windows 11 wird der Plattformzeitgeber erzwungen, was Spiele verlangsamen kann; der Standard ist gar kein Eintrag.</translation>
+</message>
+<message>
+<source>The same effect as the default.</source>
+<translation>Dieselbe Wirkung wie der Standard.</translation>
+</message>
+<message>
+<source>Auto HDR is off.</source>
+<translation>Auto HDR ist aus.</translation>
+</message>
+<message>
+<source>The values are deleted, which is the default.</source>
+<translation>Die Werte werden gelöscht, was der Standard ist.</translation>
+</message>
+<message>
+<source>The value is deleted. It is there by default, and what Windows does without it is uncertain.</source>
+<translation>Der Wert wird gelöscht. Standardmäßig ist er da, und was Windows ohne ihn tut, ist ungewiss.</translation>
+</message>
+<message>
+<source>ULPS is switched on, even for adapters that never had it.</source>
+<translation>ULPS wird eingeschaltet, auch für Karten, die es nie hatten.</translation>
+</message>
+<message>
+<source>The same effect as the default on a PC with more than 3.5 GB of memory.</source>
+<translation>Dieselbe Wirkung wie der Standard auf einem PC mit mehr als 3,5 GB Arbeitsspeicher.</translation>
+</message>
+<message>
+<source>The backup is on, which isn't the default and does no harm.</source>
+<translation>Die Sicherung ist ein; das ist nicht der Standard und schadet nicht.</translation>
+</message>
+<message>
+<source>The button is back.</source>
+<translation>Die Schaltfläche ist wieder da.</translation>
+</message>
+<message>
+<source>File History is allowed again.</source>
+<translation>Der Dateiversionsverlauf ist wieder erlaubt.</translation>
+</message>
+<message>
+<source>The old menu stays: key and empty value are left.</source>
+<translation>Das alte Menü bleibt: Schlüssel und leerer Wert sind noch da.</translation>
+</message>
+<message>
+<source>Some values are less private than before: diagnostic data in full, suggestions on, synchronization on.</source>
+<translation>Einige Werte sind weniger privat als zuvor: vollständige Diagnosedaten, Vorschläge ein, Synchronisierung ein.</translation>
+</message>
+<message>
+<source>The lock screen is back.</source>
+<translation>Der Sperrbildschirm ist wieder da.</translation>
+</message>
+<message>
+<source>The program is back; its owner and rights stay changed.</source>
+<translation>Das Programm ist wieder da; Besitzer und Rechte bleiben geändert.</translation>
+</message>
+<message>
+<source>as now</source>
+<translation>wie jetzt</translation>
+</message>
+<message>
+<source>written</source>
+<translation>geschrieben</translation>
+</message>
+<message>
+<source>kept</source>
+<translation>behalten</translation>
+</message>
+<message>
+<source>as before</source>
+<translation>wie zuvor</translation>
 </message>
 </context>
 </TS>

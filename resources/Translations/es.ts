@@ -301,8 +301,8 @@
 <translation>exactamente</translation>
 </message>
 <message>
-<source>as a default</source>
-<translation>como valor predeterminado</translation>
+<source>as a fixed value</source>
+<translation>con un valor fijo</translation>
 </message>
 <message>
 <source>not at all</source>
@@ -317,8 +317,8 @@
 <translation>%1 vuelven exactamente</translation>
 </message>
 <message>
-<source>%1 as a default</source>
-<translation>%1 con un valor predeterminado</translation>
+<source>%1 as a fixed value</source>
+<translation>%1 con un valor fijo</translation>
 </message>
 <message>
 <source>%1 not at all</source>
@@ -417,8 +417,8 @@
 <translation>aplicada en parte</translation>
 </message>
 <message>
-<source>a default</source>
-<translation>un valor predeterminado</translation>
+<source>a fixed value</source>
+<translation>un valor fijo</translation>
 </message>
 <message>
 <source>not there</source>
@@ -2032,12 +2032,252 @@ del sistema</translation>
 <translation>Efecto parcial: dos tareas quedan deshabilitadas, pero el servicio vuelve en el próximo inicio de sesión.</translation>
 </message>
 <message>
+<source>none changed</source>
+<translation>ninguno cambiado</translation>
+</message>
+<message>
+<source>an empty key</source>
+<translation>una clave vacía</translation>
+</message>
+<message>
+<source>yes</source>
+<translation>sí</translation>
+</message>
+<message>
+<source>no</source>
+<translation>no</translation>
+</message>
+<message>
+<source>%1 values</source>
+<translation>%1 valores</translation>
+</message>
+<message>
+<source>%1 changed</source>
+<translation>%1 cambiados</translation>
+</message>
+<message>
+<source>%1 as before</source>
+<translation>%1 como antes</translation>
+</message>
+<message>
+<source>%1 otherwise</source>
+<translation>%1 de otro modo</translation>
+</message>
+<message>
+<source>%1 stay changed</source>
+<translation>%1 siguen cambiados</translation>
+</message>
+<message>
+<source>start mode</source>
+<translation>tipo de inicio</translation>
+</message>
+<message>
+<source>delayed start</source>
+<translation>inicio retrasado</translation>
+</message>
+<message>
+<source>state</source>
+<translation>estado</translation>
+</message>
+<message>
+<source>the key itself</source>
+<translation>la propia clave</translation>
+</message>
+<message>
+<source>the file</source>
+<translation>el archivo</translation>
+</message>
+<message>
+<source>its attributes</source>
+<translation>sus atributos</translation>
+</message>
+<message>
+<source>its owner and permissions</source>
+<translation>su propietario y sus permisos</translation>
+</message>
+<message>
+<source>in the boot configuration</source>
+<translation>en la configuración de arranque</translation>
+</message>
+<message>
+<source>Records of what was done</source>
+<translation>Registros de lo que se hizo</translation>
+</message>
+<message>
+<source>Log and backups beside the program</source>
+<translation>Registro y copias junto al programa</translation>
+</message>
+<message>
+<source>Restore starts every service that Optimize has disabled and sets it to automatic: a service that used to start on demand or with a delay now starts automatically.</source>
+<translation>Restaurar inicia cada servicio que la optimización deshabilitó y lo pone en automático: un servicio que se iniciaba bajo demanda o con retraso se inicia ahora automáticamente.</translation>
+</message>
+<message>
+<source>Optimize does not record services that it sets to manual, so Restore doesn't know of them.</source>
+<translation>La optimización no anota los servicios que pone en manual, así que restaurar no los conoce.</translation>
+</message>
+<message>
+<source>Restore enables only the tasks that Optimize has recorded.</source>
+<translation>Restaurar solo habilita las tareas que la optimización anotó.</translation>
+</message>
+<message>
+<source>Restore re-registers the app from its files, as Windows itself does for a new user.</source>
+<translation>Restaurar vuelve a registrar la aplicación desde sus archivos, como hace Windows para un usuario nuevo.</translation>
+</message>
+<message>
+<source>The app comes back as newly installed, without what it had stored.</source>
+<translation>La aplicación vuelve como recién instalada, sin lo que había guardado.</translation>
+</message>
+<message>
+<source>Restore re-registers an app from its files, which could not be found.</source>
+<translation>Restaurar vuelve a registrar una aplicación desde sus archivos, y estos no se encontraron.</translation>
+</message>
+<message>
+<source>The saved command is cut at its first "=", so the program starts without the rest of its arguments.</source>
+<translation>El comando guardado se corta en el primer «=», así que el programa se inicia sin el resto de sus argumentos.</translation>
+</message>
+<message>
+<source>Restore brings back only a command whose program is in quotation marks and exists on the disk.</source>
+<translation>Restaurar solo recupera un comando cuyo programa está entre comillas y existe en el disco.</translation>
+</message>
+<message>
+<source>Restore doesn't know what you had: it writes a fixed value, mostly Windows' default, or deletes it.</source>
+<translation>Restaurar no sabe lo que tenía: escribe un valor fijo, casi siempre el predeterminado de Windows, o lo borra.</translation>
+</message>
+<message>
+<source>Restore doesn't reset this option, or not all of its values.</source>
+<translation>Restaurar no restablece esta opción, o no todos sus valores.</translation>
+</message>
+<message>
+<source>The option was already as Optimize wants it, or isn't one that Optimize uses; Restore resets it anyway.</source>
+<translation>La opción ya estaba como la quiere la optimización, o no forma parte de ella; restaurar la restablece de todos modos.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this file.</source>
+<translation>Restaurar no toca este archivo.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this value.</source>
+<translation>Restaurar no toca este valor.</translation>
+</message>
+<message>
 <source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
 <translation>Cambia todo lo que encontró el análisis, lo que tarda un rato. Si cierra la ventana mientras tanto, se detiene ahí: lo ya cambiado queda cambiado.</translation>
 </message>
 <message>
 <source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
 <translation>Actúa de inmediato sobre todos los paquetes marcados, sin preguntar. La lista queda como está hasta que se vuelva a mostrar la página.</translation>
+</message>
+<message>
+<source>Nothing changes either.</source>
+<translation>Tampoco cambia nada.</translation>
+</message>
+<message>
+<source>Last access times are recorded again, but Windows no longer decides about them by itself.</source>
+<translation>Los últimos accesos se anotan de nuevo, pero Windows ya no lo decide por sí mismo.</translation>
+</message>
+<message>
+<source>The default is back.</source>
+<translation>Vuelve el valor predeterminado.</translation>
+</message>
+<message>
+<source>The defaults are back.</source>
+<translation>Vuelven los valores predeterminados.</translation>
+</message>
+<message>
+<source>The page file is cleared at each shutdown, which isn't the default and takes minutes.</source>
+<translation>El archivo de paginación se borra en cada apagado, lo que no es lo predeterminado y tarda minutos.</translation>
+</message>
+<message>
+<source>Hibernation is on, even if it was off before, and takes its space again.</source>
+<translation>La hibernación queda habilitada, aunque antes no lo estuviera, y vuelve a ocupar su espacio.</translation>
+</message>
+<message>
+<source>The attribute is cleared, even where Windows or you had set it.</source>
+<translation>El atributo se borra, incluso donde Windows o usted lo habían puesto.</translation>
+</message>
+<message>
+<source>Some priorities stay higher than the default.</source>
+<translation>Algunas prioridades siguen más altas que lo predeterminado.</translation>
+</message>
+<message>
+<source>Game mode is off, and the default is on.</source>
+<translation>El modo de juego queda deshabilitado, y lo predeterminado es habilitado.</translation>
+</message>
+<message>
+<source>Recording is allowed; Settings still shows it as managed.</source>
+<translation>Se permite grabar; Configuración lo sigue mostrando como administrado.</translation>
+</message>
+<message>
+<source>On Windows 11 the platform timer is forced on, which may slow down games; the default is no entry at all.</source>
+<translation>En Windows 11 se fuerza el temporizador de plataforma, lo que puede ralentizar los juegos; lo predeterminado es que no haya entrada.</translation>
+</message>
+<message>
+<source>The same effect as the default.</source>
+<translation>El mismo efecto que lo predeterminado.</translation>
+</message>
+<message>
+<source>Auto HDR is off.</source>
+<translation>Auto HDR queda deshabilitado.</translation>
+</message>
+<message>
+<source>The values are deleted, which is the default.</source>
+<translation>Los valores se borran, que es lo predeterminado.</translation>
+</message>
+<message>
+<source>The value is deleted. It is there by default, and what Windows does without it is uncertain.</source>
+<translation>El valor se borra. De forma predeterminada existe, y lo que hace Windows sin él es incierto.</translation>
+</message>
+<message>
+<source>ULPS is switched on, even for adapters that never had it.</source>
+<translation>Se habilita ULPS, incluso en tarjetas que nunca lo tuvieron.</translation>
+</message>
+<message>
+<source>The same effect as the default on a PC with more than 3.5 GB of memory.</source>
+<translation>El mismo efecto que lo predeterminado en un PC con más de 3,5 GB de memoria.</translation>
+</message>
+<message>
+<source>The backup is on, which isn't the default and does no harm.</source>
+<translation>La copia queda habilitada, que no es lo predeterminado y no hace daño.</translation>
+</message>
+<message>
+<source>The button is back.</source>
+<translation>El botón vuelve.</translation>
+</message>
+<message>
+<source>File History is allowed again.</source>
+<translation>El historial de archivos se permite de nuevo.</translation>
+</message>
+<message>
+<source>The old menu stays: key and empty value are left.</source>
+<translation>El menú antiguo sigue: quedan la clave y el valor vacío.</translation>
+</message>
+<message>
+<source>Some values are less private than before: diagnostic data in full, suggestions on, synchronization on.</source>
+<translation>Algunos valores son menos privados que antes: datos de diagnóstico completos, sugerencias y sincronización habilitadas.</translation>
+</message>
+<message>
+<source>The lock screen is back.</source>
+<translation>Vuelve la pantalla de bloqueo.</translation>
+</message>
+<message>
+<source>The program is back; its owner and rights stay changed.</source>
+<translation>El programa vuelve; su propietario y sus permisos siguen cambiados.</translation>
+</message>
+<message>
+<source>as now</source>
+<translation>como ahora</translation>
+</message>
+<message>
+<source>written</source>
+<translation>escrito</translation>
+</message>
+<message>
+<source>kept</source>
+<translation>conservado</translation>
+</message>
+<message>
+<source>as before</source>
+<translation>como antes</translation>
 </message>
 </context>
 </TS>

@@ -301,8 +301,8 @@
 <translation>exactement</translation>
 </message>
 <message>
-<source>as a default</source>
-<translation>par défaut</translation>
+<source>as a fixed value</source>
+<translation>avec une valeur fixe</translation>
 </message>
 <message>
 <source>not at all</source>
@@ -317,8 +317,8 @@
 <translation>%1 reviennent exactement</translation>
 </message>
 <message>
-<source>%1 as a default</source>
-<translation>%1 avec une valeur par défaut</translation>
+<source>%1 as a fixed value</source>
+<translation>%1 avec une valeur fixe</translation>
 </message>
 <message>
 <source>%1 not at all</source>
@@ -417,8 +417,8 @@
 <translation>appliquée en partie</translation>
 </message>
 <message>
-<source>a default</source>
-<translation>une valeur par défaut</translation>
+<source>a fixed value</source>
+<translation>une valeur fixe</translation>
 </message>
 <message>
 <source>not there</source>
@@ -2032,12 +2032,252 @@ système</translation>
 <translation>Effet partiel : deux tâches restent désactivées, mais le service revient à la prochaine session.</translation>
 </message>
 <message>
+<source>none changed</source>
+<translation>aucune modifiée</translation>
+</message>
+<message>
+<source>an empty key</source>
+<translation>une clé vide</translation>
+</message>
+<message>
+<source>yes</source>
+<translation>oui</translation>
+</message>
+<message>
+<source>no</source>
+<translation>non</translation>
+</message>
+<message>
+<source>%1 values</source>
+<translation>%1 valeurs</translation>
+</message>
+<message>
+<source>%1 changed</source>
+<translation>%1 modifiées</translation>
+</message>
+<message>
+<source>%1 as before</source>
+<translation>%1 comme avant</translation>
+</message>
+<message>
+<source>%1 otherwise</source>
+<translation>%1 autrement</translation>
+</message>
+<message>
+<source>%1 stay changed</source>
+<translation>%1 restent modifiées</translation>
+</message>
+<message>
+<source>start mode</source>
+<translation>mode de démarrage</translation>
+</message>
+<message>
+<source>delayed start</source>
+<translation>démarrage différé</translation>
+</message>
+<message>
+<source>state</source>
+<translation>état</translation>
+</message>
+<message>
+<source>the key itself</source>
+<translation>la clé elle-même</translation>
+</message>
+<message>
+<source>the file</source>
+<translation>le fichier</translation>
+</message>
+<message>
+<source>its attributes</source>
+<translation>ses attributs</translation>
+</message>
+<message>
+<source>its owner and permissions</source>
+<translation>son propriétaire et ses droits</translation>
+</message>
+<message>
+<source>in the boot configuration</source>
+<translation>dans la configuration de démarrage</translation>
+</message>
+<message>
+<source>Records of what was done</source>
+<translation>Enregistrements de ce qui a été fait</translation>
+</message>
+<message>
+<source>Log and backups beside the program</source>
+<translation>Journal et sauvegardes près du programme</translation>
+</message>
+<message>
+<source>Restore starts every service that Optimize has disabled and sets it to automatic: a service that used to start on demand or with a delay now starts automatically.</source>
+<translation>La restauration démarre chaque service que l’optimisation a désactivé et le règle sur automatique : un service qui démarrait à la demande ou en différé démarre désormais automatiquement.</translation>
+</message>
+<message>
+<source>Optimize does not record services that it sets to manual, so Restore doesn't know of them.</source>
+<translation>L’optimisation ne note pas les services qu’elle passe en manuel ; la restauration ne les connaît donc pas.</translation>
+</message>
+<message>
+<source>Restore enables only the tasks that Optimize has recorded.</source>
+<translation>La restauration n’active que les tâches que l’optimisation a notées.</translation>
+</message>
+<message>
+<source>Restore re-registers the app from its files, as Windows itself does for a new user.</source>
+<translation>La restauration réenregistre l’application à partir de ses fichiers, comme le fait Windows pour un nouvel utilisateur.</translation>
+</message>
+<message>
+<source>The app comes back as newly installed, without what it had stored.</source>
+<translation>L’application revient comme neuve, sans ce qu’elle avait enregistré.</translation>
+</message>
+<message>
+<source>Restore re-registers an app from its files, which could not be found.</source>
+<translation>La restauration réenregistre une application à partir de ses fichiers, qui n’ont pas été trouvés.</translation>
+</message>
+<message>
+<source>The saved command is cut at its first "=", so the program starts without the rest of its arguments.</source>
+<translation>La commande enregistrée est coupée à son premier « = » : le programme démarre donc sans la suite de ses arguments.</translation>
+</message>
+<message>
+<source>Restore brings back only a command whose program is in quotation marks and exists on the disk.</source>
+<translation>La restauration ne rétablit qu’une commande dont le programme est entre guillemets et existe sur le disque.</translation>
+</message>
+<message>
+<source>Restore doesn't know what you had: it writes a fixed value, mostly Windows' default, or deletes it.</source>
+<translation>La restauration ne sait pas ce que vous aviez : elle écrit une valeur fixe, le plus souvent celle par défaut de Windows, ou la supprime.</translation>
+</message>
+<message>
+<source>Restore doesn't reset this option, or not all of its values.</source>
+<translation>La restauration ne réinitialise pas cette option, ou pas toutes ses valeurs.</translation>
+</message>
+<message>
+<source>The option was already as Optimize wants it, or isn't one that Optimize uses; Restore resets it anyway.</source>
+<translation>L’option était déjà telle que l’optimisation la veut, ou n’en fait pas partie ; la restauration la réinitialise quand même.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this file.</source>
+<translation>La restauration ne touche pas à ce fichier.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this value.</source>
+<translation>La restauration ne touche pas à cette valeur.</translation>
+</message>
+<message>
 <source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
 <translation>Modifie tout ce que l’analyse a trouvé, ce qui prend un moment. Si vous fermez la fenêtre entre-temps, tout s’arrête là : ce qui est déjà modifié le reste.</translation>
 </message>
 <message>
 <source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
 <translation>Agit aussitôt sur tous les packages cochés, sans poser de question. La liste reste telle quelle jusqu’à ce que la page soit affichée à nouveau.</translation>
+</message>
+<message>
+<source>Nothing changes either.</source>
+<translation>Là non plus, rien ne change.</translation>
+</message>
+<message>
+<source>Last access times are recorded again, but Windows no longer decides about them by itself.</source>
+<translation>Les derniers accès sont à nouveau notés, mais Windows n’en décide plus lui-même.</translation>
+</message>
+<message>
+<source>The default is back.</source>
+<translation>La valeur par défaut est rétablie.</translation>
+</message>
+<message>
+<source>The defaults are back.</source>
+<translation>Les valeurs par défaut sont rétablies.</translation>
+</message>
+<message>
+<source>The page file is cleared at each shutdown, which isn't the default and takes minutes.</source>
+<translation>Le fichier d’échange est vidé à chaque arrêt, ce qui n’est pas le réglage par défaut et prend des minutes.</translation>
+</message>
+<message>
+<source>Hibernation is on, even if it was off before, and takes its space again.</source>
+<translation>La veille prolongée est activée, même si elle ne l’était pas, et reprend sa place sur le disque.</translation>
+</message>
+<message>
+<source>The attribute is cleared, even where Windows or you had set it.</source>
+<translation>L’attribut est effacé, même là où Windows ou vous l’aviez posé.</translation>
+</message>
+<message>
+<source>Some priorities stay higher than the default.</source>
+<translation>Certaines priorités restent plus hautes que par défaut.</translation>
+</message>
+<message>
+<source>Game mode is off, and the default is on.</source>
+<translation>Le mode Jeu est désactivé, alors qu’il est activé par défaut.</translation>
+</message>
+<message>
+<source>Recording is allowed; Settings still shows it as managed.</source>
+<translation>L’enregistrement est permis ; Paramètres l’indique toujours comme géré.</translation>
+</message>
+<message>
+<source>On Windows 11 the platform timer is forced on, which may slow down games; the default is no entry at all.</source>
+<translation>Sur Windows 11, l’horloge de plateforme est imposée, ce qui peut ralentir les jeux ; par défaut, il n’y a aucune entrée.</translation>
+</message>
+<message>
+<source>The same effect as the default.</source>
+<translation>Le même effet que par défaut.</translation>
+</message>
+<message>
+<source>Auto HDR is off.</source>
+<translation>Auto HDR est désactivé.</translation>
+</message>
+<message>
+<source>The values are deleted, which is the default.</source>
+<translation>Les valeurs sont supprimées, comme par défaut.</translation>
+</message>
+<message>
+<source>The value is deleted. It is there by default, and what Windows does without it is uncertain.</source>
+<translation>La valeur est supprimée. Elle existe par défaut, et ce que fait Windows sans elle est incertain.</translation>
+</message>
+<message>
+<source>ULPS is switched on, even for adapters that never had it.</source>
+<translation>ULPS est activé, même pour les cartes qui ne l’ont jamais eu.</translation>
+</message>
+<message>
+<source>The same effect as the default on a PC with more than 3.5 GB of memory.</source>
+<translation>Le même effet que par défaut sur un PC de plus de 3,5 Go de mémoire.</translation>
+</message>
+<message>
+<source>The backup is on, which isn't the default and does no harm.</source>
+<translation>La sauvegarde est activée, ce qui n’est pas le réglage par défaut et ne nuit pas.</translation>
+</message>
+<message>
+<source>The button is back.</source>
+<translation>Le bouton est de retour.</translation>
+</message>
+<message>
+<source>File History is allowed again.</source>
+<translation>L’historique des fichiers est à nouveau permis.</translation>
+</message>
+<message>
+<source>The old menu stays: key and empty value are left.</source>
+<translation>L’ancien menu reste : la clé et la valeur vide subsistent.</translation>
+</message>
+<message>
+<source>Some values are less private than before: diagnostic data in full, suggestions on, synchronization on.</source>
+<translation>Certaines valeurs protègent moins qu’avant : données de diagnostic complètes, suggestions et synchronisation activées.</translation>
+</message>
+<message>
+<source>The lock screen is back.</source>
+<translation>L’écran de verrouillage est de retour.</translation>
+</message>
+<message>
+<source>The program is back; its owner and rights stay changed.</source>
+<translation>Le programme est de retour ; son propriétaire et ses droits restent modifiés.</translation>
+</message>
+<message>
+<source>as now</source>
+<translation>comme maintenant</translation>
+</message>
+<message>
+<source>written</source>
+<translation>écrit</translation>
+</message>
+<message>
+<source>kept</source>
+<translation>conservé</translation>
+</message>
+<message>
+<source>as before</source>
+<translation>comme avant</translation>
 </message>
 </context>
 </TS>

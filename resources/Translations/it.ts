@@ -301,8 +301,8 @@
 <translation>esattamente</translation>
 </message>
 <message>
-<source>as a default</source>
-<translation>come valore predefinito</translation>
+<source>as a fixed value</source>
+<translation>con un valore fisso</translation>
 </message>
 <message>
 <source>not at all</source>
@@ -317,8 +317,8 @@
 <translation>%1 tornano esattamente</translation>
 </message>
 <message>
-<source>%1 as a default</source>
-<translation>%1 con un valore predefinito</translation>
+<source>%1 as a fixed value</source>
+<translation>%1 con un valore fisso</translation>
 </message>
 <message>
 <source>%1 not at all</source>
@@ -417,8 +417,8 @@
 <translation>applicata in parte</translation>
 </message>
 <message>
-<source>a default</source>
-<translation>un valore predefinito</translation>
+<source>a fixed value</source>
+<translation>un valore fisso</translation>
 </message>
 <message>
 <source>not there</source>
@@ -2032,12 +2032,252 @@ sul sistema</translation>
 <translation>Effetto parziale: due attività restano disabilitate, ma il servizio torna al prossimo accesso.</translation>
 </message>
 <message>
+<source>none changed</source>
+<translation>nessuno modificato</translation>
+</message>
+<message>
+<source>an empty key</source>
+<translation>una chiave vuota</translation>
+</message>
+<message>
+<source>yes</source>
+<translation>sì</translation>
+</message>
+<message>
+<source>no</source>
+<translation>no</translation>
+</message>
+<message>
+<source>%1 values</source>
+<translation>%1 valori</translation>
+</message>
+<message>
+<source>%1 changed</source>
+<translation>%1 modificati</translation>
+</message>
+<message>
+<source>%1 as before</source>
+<translation>%1 come prima</translation>
+</message>
+<message>
+<source>%1 otherwise</source>
+<translation>%1 diversi</translation>
+</message>
+<message>
+<source>%1 stay changed</source>
+<translation>%1 restano modificati</translation>
+</message>
+<message>
+<source>start mode</source>
+<translation>tipo di avvio</translation>
+</message>
+<message>
+<source>delayed start</source>
+<translation>avvio ritardato</translation>
+</message>
+<message>
+<source>state</source>
+<translation>stato</translation>
+</message>
+<message>
+<source>the key itself</source>
+<translation>la chiave stessa</translation>
+</message>
+<message>
+<source>the file</source>
+<translation>il file</translation>
+</message>
+<message>
+<source>its attributes</source>
+<translation>i suoi attributi</translation>
+</message>
+<message>
+<source>its owner and permissions</source>
+<translation>il proprietario e i diritti</translation>
+</message>
+<message>
+<source>in the boot configuration</source>
+<translation>nella configurazione di avvio</translation>
+</message>
+<message>
+<source>Records of what was done</source>
+<translation>Registrazioni di ciò che è stato fatto</translation>
+</message>
+<message>
+<source>Log and backups beside the program</source>
+<translation>Log e backup accanto al programma</translation>
+</message>
+<message>
+<source>Restore starts every service that Optimize has disabled and sets it to automatic: a service that used to start on demand or with a delay now starts automatically.</source>
+<translation>Il ripristino avvia ogni servizio che l’ottimizzazione ha disabilitato e lo imposta su automatico: un servizio che si avviava su richiesta o in ritardo ora si avvia automaticamente.</translation>
+</message>
+<message>
+<source>Optimize does not record services that it sets to manual, so Restore doesn't know of them.</source>
+<translation>L’ottimizzazione non annota i servizi che imposta su manuale, quindi il ripristino non li conosce.</translation>
+</message>
+<message>
+<source>Restore enables only the tasks that Optimize has recorded.</source>
+<translation>Il ripristino abilita solo le attività annotate dall’ottimizzazione.</translation>
+</message>
+<message>
+<source>Restore re-registers the app from its files, as Windows itself does for a new user.</source>
+<translation>Il ripristino registra di nuovo l’app dai suoi file, come fa Windows per un nuovo utente.</translation>
+</message>
+<message>
+<source>The app comes back as newly installed, without what it had stored.</source>
+<translation>L’app torna come appena installata, senza ciò che aveva salvato.</translation>
+</message>
+<message>
+<source>Restore re-registers an app from its files, which could not be found.</source>
+<translation>Il ripristino registra di nuovo un’app dai suoi file, che non sono stati trovati.</translation>
+</message>
+<message>
+<source>The saved command is cut at its first "=", so the program starts without the rest of its arguments.</source>
+<translation>Il comando salvato viene tagliato al primo «=», quindi il programma si avvia senza il resto degli argomenti.</translation>
+</message>
+<message>
+<source>Restore brings back only a command whose program is in quotation marks and exists on the disk.</source>
+<translation>Il ripristino riporta solo un comando il cui programma è tra virgolette ed esiste sul disco.</translation>
+</message>
+<message>
+<source>Restore doesn't know what you had: it writes a fixed value, mostly Windows' default, or deletes it.</source>
+<translation>Il ripristino non sa che cosa c’era: scrive un valore fisso, per lo più quello predefinito di Windows, o lo elimina.</translation>
+</message>
+<message>
+<source>Restore doesn't reset this option, or not all of its values.</source>
+<translation>Il ripristino non reimposta questa opzione, o non tutti i suoi valori.</translation>
+</message>
+<message>
+<source>The option was already as Optimize wants it, or isn't one that Optimize uses; Restore resets it anyway.</source>
+<translation>L’opzione era già come la vuole l’ottimizzazione, o non ne fa parte; il ripristino la reimposta comunque.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this file.</source>
+<translation>Il ripristino non tocca questo file.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this value.</source>
+<translation>Il ripristino non tocca questo valore.</translation>
+</message>
+<message>
 <source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
 <translation>Modifica tutto ciò che l’analisi ha trovato, il che richiede un po’ di tempo. Se nel frattempo si chiude la finestra, si ferma lì: ciò che è già modificato resta modificato.</translation>
 </message>
 <message>
 <source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
 <translation>Agisce subito su tutti i pacchetti spuntati, senza chiedere conferma. L’elenco resta com’è finché la pagina non viene mostrata di nuovo.</translation>
+</message>
+<message>
+<source>Nothing changes either.</source>
+<translation>Anche così non cambia nulla.</translation>
+</message>
+<message>
+<source>Last access times are recorded again, but Windows no longer decides about them by itself.</source>
+<translation>Gli ultimi accessi vengono di nuovo annotati, ma Windows non decide più da solo.</translation>
+</message>
+<message>
+<source>The default is back.</source>
+<translation>Torna il valore predefinito.</translation>
+</message>
+<message>
+<source>The defaults are back.</source>
+<translation>Tornano i valori predefiniti.</translation>
+</message>
+<message>
+<source>The page file is cleared at each shutdown, which isn't the default and takes minutes.</source>
+<translation>Il file di paging viene svuotato a ogni arresto: non è l’impostazione predefinita e richiede minuti.</translation>
+</message>
+<message>
+<source>Hibernation is on, even if it was off before, and takes its space again.</source>
+<translation>L’ibernazione è abilitata, anche se prima non lo era, e occupa di nuovo il suo spazio.</translation>
+</message>
+<message>
+<source>The attribute is cleared, even where Windows or you had set it.</source>
+<translation>L’attributo viene tolto, anche dove l’aveva impostato Windows o l’utente.</translation>
+</message>
+<message>
+<source>Some priorities stay higher than the default.</source>
+<translation>Alcune priorità restano più alte del valore predefinito.</translation>
+</message>
+<message>
+<source>Game mode is off, and the default is on.</source>
+<translation>La modalità gioco è disabilitata, mentre è abilitata per impostazione predefinita.</translation>
+</message>
+<message>
+<source>Recording is allowed; Settings still shows it as managed.</source>
+<translation>La registrazione è consentita; Impostazioni la indica ancora come gestita.</translation>
+</message>
+<message>
+<source>On Windows 11 the platform timer is forced on, which may slow down games; the default is no entry at all.</source>
+<translation>Su Windows 11 viene imposto il timer di piattaforma, che può rallentare i giochi; per impostazione predefinita non c’è alcuna voce.</translation>
+</message>
+<message>
+<source>The same effect as the default.</source>
+<translation>Lo stesso effetto del valore predefinito.</translation>
+</message>
+<message>
+<source>Auto HDR is off.</source>
+<translation>Auto HDR è disabilitato.</translation>
+</message>
+<message>
+<source>The values are deleted, which is the default.</source>
+<translation>I valori vengono eliminati, come per impostazione predefinita.</translation>
+</message>
+<message>
+<source>The value is deleted. It is there by default, and what Windows does without it is uncertain.</source>
+<translation>Il valore viene eliminato. Per impostazione predefinita esiste, e che cosa faccia Windows senza è incerto.</translation>
+</message>
+<message>
+<source>ULPS is switched on, even for adapters that never had it.</source>
+<translation>ULPS viene abilitato, anche per schede che non l’hanno mai avuto.</translation>
+</message>
+<message>
+<source>The same effect as the default on a PC with more than 3.5 GB of memory.</source>
+<translation>Lo stesso effetto del valore predefinito su un PC con più di 3,5 GB di memoria.</translation>
+</message>
+<message>
+<source>The backup is on, which isn't the default and does no harm.</source>
+<translation>Il backup è abilitato: non è l’impostazione predefinita e non fa danni.</translation>
+</message>
+<message>
+<source>The button is back.</source>
+<translation>Il pulsante torna.</translation>
+</message>
+<message>
+<source>File History is allowed again.</source>
+<translation>Cronologia file è di nuovo consentita.</translation>
+</message>
+<message>
+<source>The old menu stays: key and empty value are left.</source>
+<translation>Resta il vecchio menu: la chiave e il valore vuoto rimangono.</translation>
+</message>
+<message>
+<source>Some values are less private than before: diagnostic data in full, suggestions on, synchronization on.</source>
+<translation>Alcuni valori sono meno riservati di prima: dati di diagnostica completi, suggerimenti e sincronizzazione abilitati.</translation>
+</message>
+<message>
+<source>The lock screen is back.</source>
+<translation>La schermata di blocco torna.</translation>
+</message>
+<message>
+<source>The program is back; its owner and rights stay changed.</source>
+<translation>Il programma torna; proprietario e diritti restano modificati.</translation>
+</message>
+<message>
+<source>as now</source>
+<translation>come adesso</translation>
+</message>
+<message>
+<source>written</source>
+<translation>scritto</translation>
+</message>
+<message>
+<source>kept</source>
+<translation>conservato</translation>
+</message>
+<message>
+<source>as before</source>
+<translation>come prima</translation>
 </message>
 </context>
 </TS>

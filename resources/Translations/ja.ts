@@ -301,8 +301,8 @@
 <translation>完全に戻る</translation>
 </message>
 <message>
-<source>as a default</source>
-<translation>既定値に戻る</translation>
+<source>as a fixed value</source>
+<translation>決まった値に戻る</translation>
 </message>
 <message>
 <source>not at all</source>
@@ -317,8 +317,8 @@
 <translation>%1 件は完全に戻る</translation>
 </message>
 <message>
-<source>%1 as a default</source>
-<translation>%1 件は既定値に戻る</translation>
+<source>%1 as a fixed value</source>
+<translation>%1 件は決まった値に戻る</translation>
 </message>
 <message>
 <source>%1 not at all</source>
@@ -417,8 +417,8 @@
 <translation>一部適用</translation>
 </message>
 <message>
-<source>a default</source>
-<translation>既定値</translation>
+<source>a fixed value</source>
+<translation>決まった値</translation>
 </message>
 <message>
 <source>not there</source>
@@ -2032,12 +2032,252 @@ Information</source>
 <translation>一部だけ有効です。2 つのタスクは無効のままですが、サービスは次回のサインインで戻ります。</translation>
 </message>
 <message>
+<source>none changed</source>
+<translation>変更なし</translation>
+</message>
+<message>
+<source>an empty key</source>
+<translation>空のキー</translation>
+</message>
+<message>
+<source>yes</source>
+<translation>はい</translation>
+</message>
+<message>
+<source>no</source>
+<translation>いいえ</translation>
+</message>
+<message>
+<source>%1 values</source>
+<translation>%1 個の値</translation>
+</message>
+<message>
+<source>%1 changed</source>
+<translation>%1 個を変更</translation>
+</message>
+<message>
+<source>%1 as before</source>
+<translation>%1 個は元どおり</translation>
+</message>
+<message>
+<source>%1 otherwise</source>
+<translation>%1 個は別の値</translation>
+</message>
+<message>
+<source>%1 stay changed</source>
+<translation>%1 個は変更のまま</translation>
+</message>
+<message>
+<source>start mode</source>
+<translation>開始の種類</translation>
+</message>
+<message>
+<source>delayed start</source>
+<translation>遅延開始</translation>
+</message>
+<message>
+<source>state</source>
+<translation>状態</translation>
+</message>
+<message>
+<source>the key itself</source>
+<translation>キーそのもの</translation>
+</message>
+<message>
+<source>the file</source>
+<translation>ファイル</translation>
+</message>
+<message>
+<source>its attributes</source>
+<translation>その属性</translation>
+</message>
+<message>
+<source>its owner and permissions</source>
+<translation>その所有者と権限</translation>
+</message>
+<message>
+<source>in the boot configuration</source>
+<translation>ブート構成</translation>
+</message>
+<message>
+<source>Records of what was done</source>
+<translation>実行内容の記録</translation>
+</message>
+<message>
+<source>Log and backups beside the program</source>
+<translation>プログラムのログとバックアップ</translation>
+</message>
+<message>
+<source>Restore starts every service that Optimize has disabled and sets it to automatic: a service that used to start on demand or with a delay now starts automatically.</source>
+<translation>復元では、最適化で無効にしたサービスをすべて開始し、自動に設定します。必要なときや遅れて開始していたサービスも、自動で開始するようになります。</translation>
+</message>
+<message>
+<source>Optimize does not record services that it sets to manual, so Restore doesn't know of them.</source>
+<translation>最適化は手動に設定したサービスを記録しないため、復元の対象になりません。</translation>
+</message>
+<message>
+<source>Restore enables only the tasks that Optimize has recorded.</source>
+<translation>復元で有効になるのは、最適化が記録したタスクだけです。</translation>
+</message>
+<message>
+<source>Restore re-registers the app from its files, as Windows itself does for a new user.</source>
+<translation>復元では、Windows が新しいユーザーに対して行うのと同じように、ファイルからアプリを登録し直します。</translation>
+</message>
+<message>
+<source>The app comes back as newly installed, without what it had stored.</source>
+<translation>アプリは新しくインストールした状態で戻り、保存されていた内容は戻りません。</translation>
+</message>
+<message>
+<source>Restore re-registers an app from its files, which could not be found.</source>
+<translation>復元ではファイルからアプリを登録し直しますが、そのファイルが見つかりませんでした。</translation>
+</message>
+<message>
+<source>The saved command is cut at its first "=", so the program starts without the rest of its arguments.</source>
+<translation>保存されたコマンドは最初の「=」で切れるため、プログラムは残りの引数なしで起動します。</translation>
+</message>
+<message>
+<source>Restore brings back only a command whose program is in quotation marks and exists on the disk.</source>
+<translation>復元で戻るのは、プログラムが引用符で囲まれ、ディスク上に存在するコマンドだけです。</translation>
+</message>
+<message>
+<source>Restore doesn't know what you had: it writes a fixed value, mostly Windows' default, or deletes it.</source>
+<translation>復元では以前の設定は分かりません。決まった値 (多くは Windows の既定値) を書き込むか、値を削除します。</translation>
+</message>
+<message>
+<source>Restore doesn't reset this option, or not all of its values.</source>
+<translation>復元では、このオプションまたはその値の一部が元に戻りません。</translation>
+</message>
+<message>
+<source>The option was already as Optimize wants it, or isn't one that Optimize uses; Restore resets it anyway.</source>
+<translation>このオプションはすでに最適化後の状態か、最適化の対象外ですが、復元ではリセットされます。</translation>
+</message>
+<message>
+<source>Restore doesn't touch this file.</source>
+<translation>復元では、このファイルは変わりません。</translation>
+</message>
+<message>
+<source>Restore doesn't touch this value.</source>
+<translation>復元では、この値は変わりません。</translation>
+</message>
+<message>
 <source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
 <translation>分析で見つかったものをすべて変更します。しばらく時間がかかります。途中でウィンドウを閉じるとそこで止まり、それまでの変更はそのまま残ります。</translation>
 </message>
 <message>
 <source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
 <translation>チェックの付いたすべてのパッケージをすぐに処理し、確認はしません。一覧は、ページをもう一度表示するまで変わりません。</translation>
+</message>
+<message>
+<source>Nothing changes either.</source>
+<translation>元に戻しても何も変わりません。</translation>
+</message>
+<message>
+<source>Last access times are recorded again, but Windows no longer decides about them by itself.</source>
+<translation>最終アクセス日時が再び記録されますが、Windows が自動で判断することはなくなります。</translation>
+</message>
+<message>
+<source>The default is back.</source>
+<translation>既定値に戻ります。</translation>
+</message>
+<message>
+<source>The defaults are back.</source>
+<translation>すべて既定値に戻ります。</translation>
+</message>
+<message>
+<source>The page file is cleared at each shutdown, which isn't the default and takes minutes.</source>
+<translation>シャットダウンのたびにページ ファイルが消去されます。これは既定の動作ではなく、数分かかります。</translation>
+</message>
+<message>
+<source>Hibernation is on, even if it was off before, and takes its space again.</source>
+<translation>以前オフだった場合でも休止状態が有効になり、再び領域を使います。</translation>
+</message>
+<message>
+<source>The attribute is cleared, even where Windows or you had set it.</source>
+<translation>Windows やユーザーが設定していた場合も含めて、属性が消去されます。</translation>
+</message>
+<message>
+<source>Some priorities stay higher than the default.</source>
+<translation>一部の優先度は既定値より高いままです。</translation>
+</message>
+<message>
+<source>Game mode is off, and the default is on.</source>
+<translation>ゲーム モードは無効になりますが、既定では有効です。</translation>
+</message>
+<message>
+<source>Recording is allowed; Settings still shows it as managed.</source>
+<translation>録画は許可されますが、設定では引き続き管理対象と表示されます。</translation>
+</message>
+<message>
+<source>On Windows 11 the platform timer is forced on, which may slow down games; the default is no entry at all.</source>
+<translation>Windows 11 ではプラットフォーム タイマーが強制され、ゲームが遅くなることがあります。既定では設定がありません。</translation>
+</message>
+<message>
+<source>The same effect as the default.</source>
+<translation>既定値と同じ動作です。</translation>
+</message>
+<message>
+<source>Auto HDR is off.</source>
+<translation>自動 HDR はオフになります。</translation>
+</message>
+<message>
+<source>The values are deleted, which is the default.</source>
+<translation>値は削除され、既定の状態になります。</translation>
+</message>
+<message>
+<source>The value is deleted. It is there by default, and what Windows does without it is uncertain.</source>
+<translation>値は削除されます。既定では存在する値で、ない場合の Windows の動作は不確かです。</translation>
+</message>
+<message>
+<source>ULPS is switched on, even for adapters that never had it.</source>
+<translation>ULPS を使ったことのないカードでも ULPS が有効になります。</translation>
+</message>
+<message>
+<source>The same effect as the default on a PC with more than 3.5 GB of memory.</source>
+<translation>メモリが 3.5 GB を超える PC では既定値と同じ動作です。</translation>
+</message>
+<message>
+<source>The backup is on, which isn't the default and does no harm.</source>
+<translation>バックアップが有効になります。既定ではありませんが、害はありません。</translation>
+</message>
+<message>
+<source>The button is back.</source>
+<translation>ボタンが再び表示されます。</translation>
+</message>
+<message>
+<source>File History is allowed again.</source>
+<translation>ファイル履歴が再び許可されます。</translation>
+</message>
+<message>
+<source>The old menu stays: key and empty value are left.</source>
+<translation>古いメニューのままです。キーと空の値が残ります。</translation>
+</message>
+<message>
+<source>Some values are less private than before: diagnostic data in full, suggestions on, synchronization on.</source>
+<translation>一部の値は以前よりプライバシーが下がります。診断データは完全、候補と同期はオンになります。</translation>
+</message>
+<message>
+<source>The lock screen is back.</source>
+<translation>ロック画面が再び表示されます。</translation>
+</message>
+<message>
+<source>The program is back; its owner and rights stay changed.</source>
+<translation>プログラムは戻りますが、所有者と権限は変更されたままです。</translation>
+</message>
+<message>
+<source>as now</source>
+<translation>現在のまま</translation>
+</message>
+<message>
+<source>written</source>
+<translation>書き込み済み</translation>
+</message>
+<message>
+<source>kept</source>
+<translation>保持</translation>
+</message>
+<message>
+<source>as before</source>
+<translation>元どおり</translation>
 </message>
 </context>
 </TS>

@@ -301,8 +301,8 @@
 <translation>precies</translation>
 </message>
 <message>
-<source>as a default</source>
-<translation>als standaardwaarde</translation>
+<source>as a fixed value</source>
+<translation>met een vaste waarde</translation>
 </message>
 <message>
 <source>not at all</source>
@@ -317,8 +317,8 @@
 <translation>%1 komen precies terug</translation>
 </message>
 <message>
-<source>%1 as a default</source>
-<translation>%1 als standaardwaarde</translation>
+<source>%1 as a fixed value</source>
+<translation>%1 met een vaste waarde</translation>
 </message>
 <message>
 <source>%1 not at all</source>
@@ -417,8 +417,8 @@
 <translation>deels toegepast</translation>
 </message>
 <message>
-<source>a default</source>
-<translation>een standaardwaarde</translation>
+<source>a fixed value</source>
+<translation>een vaste waarde</translation>
 </message>
 <message>
 <source>not there</source>
@@ -2032,12 +2032,252 @@ informatie</translation>
 <translation>Werkt deels: twee taken blijven uit, maar de service komt bij de volgende aanmelding terug.</translation>
 </message>
 <message>
+<source>none changed</source>
+<translation>geen gewijzigd</translation>
+</message>
+<message>
+<source>an empty key</source>
+<translation>een lege sleutel</translation>
+</message>
+<message>
+<source>yes</source>
+<translation>ja</translation>
+</message>
+<message>
+<source>no</source>
+<translation>nee</translation>
+</message>
+<message>
+<source>%1 values</source>
+<translation>%1 waarden</translation>
+</message>
+<message>
+<source>%1 changed</source>
+<translation>%1 gewijzigd</translation>
+</message>
+<message>
+<source>%1 as before</source>
+<translation>%1 zoals eerst</translation>
+</message>
+<message>
+<source>%1 otherwise</source>
+<translation>%1 anders</translation>
+</message>
+<message>
+<source>%1 stay changed</source>
+<translation>%1 blijven gewijzigd</translation>
+</message>
+<message>
+<source>start mode</source>
+<translation>opstarttype</translation>
+</message>
+<message>
+<source>delayed start</source>
+<translation>uitgestelde start</translation>
+</message>
+<message>
+<source>state</source>
+<translation>stand</translation>
+</message>
+<message>
+<source>the key itself</source>
+<translation>de sleutel zelf</translation>
+</message>
+<message>
+<source>the file</source>
+<translation>het bestand</translation>
+</message>
+<message>
+<source>its attributes</source>
+<translation>de kenmerken ervan</translation>
+</message>
+<message>
+<source>its owner and permissions</source>
+<translation>de eigenaar en de rechten</translation>
+</message>
+<message>
+<source>in the boot configuration</source>
+<translation>in de opstartconfiguratie</translation>
+</message>
+<message>
+<source>Records of what was done</source>
+<translation>Aantekeningen van wat is gedaan</translation>
+</message>
+<message>
+<source>Log and backups beside the program</source>
+<translation>Logbestand en back-ups bij het programma</translation>
+</message>
+<message>
+<source>Restore starts every service that Optimize has disabled and sets it to automatic: a service that used to start on demand or with a delay now starts automatically.</source>
+<translation>Herstellen start elke service die door het optimaliseren is uitgeschakeld en stelt die in op automatisch: een service die op verzoek of uitgesteld startte, start nu automatisch.</translation>
+</message>
+<message>
+<source>Optimize does not record services that it sets to manual, so Restore doesn't know of them.</source>
+<translation>Het optimaliseren noteert services die het op handmatig zet niet, dus herstellen weet er niets van.</translation>
+</message>
+<message>
+<source>Restore enables only the tasks that Optimize has recorded.</source>
+<translation>Herstellen schakelt alleen de taken in die het optimaliseren heeft genoteerd.</translation>
+</message>
+<message>
+<source>Restore re-registers the app from its files, as Windows itself does for a new user.</source>
+<translation>Herstellen registreert de app opnieuw vanuit de bestanden, zoals Windows zelf voor een nieuwe gebruiker doet.</translation>
+</message>
+<message>
+<source>The app comes back as newly installed, without what it had stored.</source>
+<translation>De app komt terug als pas geïnstalleerd, zonder wat die had opgeslagen.</translation>
+</message>
+<message>
+<source>Restore re-registers an app from its files, which could not be found.</source>
+<translation>Herstellen registreert een app opnieuw vanuit de bestanden, en die zijn niet gevonden.</translation>
+</message>
+<message>
+<source>The saved command is cut at its first "=", so the program starts without the rest of its arguments.</source>
+<translation>De opgeslagen opdracht wordt bij de eerste “=” afgebroken, dus het programma start zonder de rest van de argumenten.</translation>
+</message>
+<message>
+<source>Restore brings back only a command whose program is in quotation marks and exists on the disk.</source>
+<translation>Herstellen brengt alleen een opdracht terug waarvan het programma tussen aanhalingstekens staat en op de schijf aanwezig is.</translation>
+</message>
+<message>
+<source>Restore doesn't know what you had: it writes a fixed value, mostly Windows' default, or deletes it.</source>
+<translation>Herstellen weet niet wat u had: het schrijft een vaste waarde, meestal de standaard van Windows, of verwijdert die.</translation>
+</message>
+<message>
+<source>Restore doesn't reset this option, or not all of its values.</source>
+<translation>Herstellen zet deze optie niet terug, of niet alle waarden ervan.</translation>
+</message>
+<message>
+<source>The option was already as Optimize wants it, or isn't one that Optimize uses; Restore resets it anyway.</source>
+<translation>De optie stond al zoals het optimaliseren die wil, of hoort er niet bij; herstellen zet die toch terug.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this file.</source>
+<translation>Herstellen raakt dit bestand niet aan.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this value.</source>
+<translation>Herstellen raakt deze waarde niet aan.</translation>
+</message>
+<message>
 <source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
 <translation>Wijzigt alles wat de analyse heeft gevonden, wat even duurt. Als u het venster intussen sluit, stopt het daar: wat dan al is gewijzigd, blijft gewijzigd.</translation>
 </message>
 <message>
 <source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
 <translation>Werkt meteen op alle aangevinkte pakketten, zonder te vragen. De lijst blijft zoals die is tot de pagina opnieuw wordt weergegeven.</translation>
+</message>
+<message>
+<source>Nothing changes either.</source>
+<translation>Ook dan verandert er niets.</translation>
+</message>
+<message>
+<source>Last access times are recorded again, but Windows no longer decides about them by itself.</source>
+<translation>Laatste toegang wordt weer genoteerd, maar Windows beslist daar niet meer zelf over.</translation>
+</message>
+<message>
+<source>The default is back.</source>
+<translation>De standaard geldt weer.</translation>
+</message>
+<message>
+<source>The defaults are back.</source>
+<translation>De standaardwaarden gelden weer.</translation>
+</message>
+<message>
+<source>The page file is cleared at each shutdown, which isn't the default and takes minutes.</source>
+<translation>Het wisselbestand wordt bij elke afsluiting gewist; dat is niet de standaard en duurt minuten.</translation>
+</message>
+<message>
+<source>Hibernation is on, even if it was off before, and takes its space again.</source>
+<translation>De sluimerstand staat aan, ook als die eerst uit was, en neemt weer ruimte in.</translation>
+</message>
+<message>
+<source>The attribute is cleared, even where Windows or you had set it.</source>
+<translation>Het kenmerk wordt gewist, ook waar Windows of u het had ingesteld.</translation>
+</message>
+<message>
+<source>Some priorities stay higher than the default.</source>
+<translation>Sommige prioriteiten blijven hoger dan de standaard.</translation>
+</message>
+<message>
+<source>Game mode is off, and the default is on.</source>
+<translation>De gamemodus staat uit, terwijl die standaard aan staat.</translation>
+</message>
+<message>
+<source>Recording is allowed; Settings still shows it as managed.</source>
+<translation>Opnemen is toegestaan; Instellingen toont het nog als beheerd.</translation>
+</message>
+<message>
+<source>On Windows 11 the platform timer is forced on, which may slow down games; the default is no entry at all.</source>
+<translation>Op Windows 11 wordt de platformtimer afgedwongen, wat games kan vertragen; standaard is er geen vermelding.</translation>
+</message>
+<message>
+<source>The same effect as the default.</source>
+<translation>Hetzelfde effect als de standaard.</translation>
+</message>
+<message>
+<source>Auto HDR is off.</source>
+<translation>Auto HDR staat uit.</translation>
+</message>
+<message>
+<source>The values are deleted, which is the default.</source>
+<translation>De waarden worden verwijderd, wat de standaard is.</translation>
+</message>
+<message>
+<source>The value is deleted. It is there by default, and what Windows does without it is uncertain.</source>
+<translation>De waarde wordt verwijderd. Standaard is die er, en wat Windows zonder doet, is onzeker.</translation>
+</message>
+<message>
+<source>ULPS is switched on, even for adapters that never had it.</source>
+<translation>ULPS wordt ingeschakeld, ook voor kaarten die het nooit hadden.</translation>
+</message>
+<message>
+<source>The same effect as the default on a PC with more than 3.5 GB of memory.</source>
+<translation>Hetzelfde effect als de standaard op een pc met meer dan 3,5 GB geheugen.</translation>
+</message>
+<message>
+<source>The backup is on, which isn't the default and does no harm.</source>
+<translation>De back-up staat aan; dat is niet de standaard en kan geen kwaad.</translation>
+</message>
+<message>
+<source>The button is back.</source>
+<translation>De knop is terug.</translation>
+</message>
+<message>
+<source>File History is allowed again.</source>
+<translation>Bestandsgeschiedenis is weer toegestaan.</translation>
+</message>
+<message>
+<source>The old menu stays: key and empty value are left.</source>
+<translation>Het oude menu blijft: sleutel en lege waarde zijn er nog.</translation>
+</message>
+<message>
+<source>Some values are less private than before: diagnostic data in full, suggestions on, synchronization on.</source>
+<translation>Sommige waarden zijn minder privé dan eerst: volledige diagnostische gegevens, suggesties en synchronisatie aan.</translation>
+</message>
+<message>
+<source>The lock screen is back.</source>
+<translation>Het vergrendelingsscherm is terug.</translation>
+</message>
+<message>
+<source>The program is back; its owner and rights stay changed.</source>
+<translation>Het programma is terug; eigenaar en rechten blijven gewijzigd.</translation>
+</message>
+<message>
+<source>as now</source>
+<translation>zoals nu</translation>
+</message>
+<message>
+<source>written</source>
+<translation>geschreven</translation>
+</message>
+<message>
+<source>kept</source>
+<translation>behouden</translation>
+</message>
+<message>
+<source>as before</source>
+<translation>zoals eerst</translation>
 </message>
 </context>
 </TS>

@@ -301,8 +301,8 @@
 <translation>dokładnie</translation>
 </message>
 <message>
-<source>as a default</source>
-<translation>jako wartość domyślna</translation>
+<source>as a fixed value</source>
+<translation>ze stałą wartością</translation>
 </message>
 <message>
 <source>not at all</source>
@@ -317,8 +317,8 @@
 <translation>%1 wraca dokładnie</translation>
 </message>
 <message>
-<source>%1 as a default</source>
-<translation>%1 jako wartość domyślna</translation>
+<source>%1 as a fixed value</source>
+<translation>%1 ze stałą wartością</translation>
 </message>
 <message>
 <source>%1 not at all</source>
@@ -417,8 +417,8 @@
 <translation>zastosowano częściowo</translation>
 </message>
 <message>
-<source>a default</source>
-<translation>wartość domyślna</translation>
+<source>a fixed value</source>
+<translation>stała wartość</translation>
 </message>
 <message>
 <source>not there</source>
@@ -2032,12 +2032,252 @@ o systemie</translation>
 <translation>Działa częściowo: dwa zadania pozostają wyłączone, ale usługa wraca przy następnym logowaniu.</translation>
 </message>
 <message>
+<source>none changed</source>
+<translation>żadna nie zmieniona</translation>
+</message>
+<message>
+<source>an empty key</source>
+<translation>pusty klucz</translation>
+</message>
+<message>
+<source>yes</source>
+<translation>tak</translation>
+</message>
+<message>
+<source>no</source>
+<translation>nie</translation>
+</message>
+<message>
+<source>%1 values</source>
+<translation>wartości: %1</translation>
+</message>
+<message>
+<source>%1 changed</source>
+<translation>zmienione: %1</translation>
+</message>
+<message>
+<source>%1 as before</source>
+<translation>jak przedtem: %1</translation>
+</message>
+<message>
+<source>%1 otherwise</source>
+<translation>inaczej: %1</translation>
+</message>
+<message>
+<source>%1 stay changed</source>
+<translation>pozostają zmienione: %1</translation>
+</message>
+<message>
+<source>start mode</source>
+<translation>typ uruchomienia</translation>
+</message>
+<message>
+<source>delayed start</source>
+<translation>opóźnione uruchamianie</translation>
+</message>
+<message>
+<source>state</source>
+<translation>stan</translation>
+</message>
+<message>
+<source>the key itself</source>
+<translation>sam klucz</translation>
+</message>
+<message>
+<source>the file</source>
+<translation>plik</translation>
+</message>
+<message>
+<source>its attributes</source>
+<translation>jego atrybuty</translation>
+</message>
+<message>
+<source>its owner and permissions</source>
+<translation>jego właściciel i uprawnienia</translation>
+</message>
+<message>
+<source>in the boot configuration</source>
+<translation>w konfiguracji rozruchu</translation>
+</message>
+<message>
+<source>Records of what was done</source>
+<translation>Wpisy o tym, co zrobiono</translation>
+</message>
+<message>
+<source>Log and backups beside the program</source>
+<translation>Dziennik i kopie zapasowe przy programie</translation>
+</message>
+<message>
+<source>Restore starts every service that Optimize has disabled and sets it to automatic: a service that used to start on demand or with a delay now starts automatically.</source>
+<translation>Przywracanie uruchamia każdą usługę wyłączoną przez optymalizację i ustawia ją na automatyczną: usługa, która uruchamiała się na żądanie lub z opóźnieniem, uruchamia się teraz automatycznie.</translation>
+</message>
+<message>
+<source>Optimize does not record services that it sets to manual, so Restore doesn't know of them.</source>
+<translation>Optymalizacja nie zapisuje usług, które ustawia na ręczne, więc przywracanie o nich nie wie.</translation>
+</message>
+<message>
+<source>Restore enables only the tasks that Optimize has recorded.</source>
+<translation>Przywracanie włącza tylko zadania zapisane przez optymalizację.</translation>
+</message>
+<message>
+<source>Restore re-registers the app from its files, as Windows itself does for a new user.</source>
+<translation>Przywracanie ponownie rejestruje aplikację z jej plików, tak jak Windows robi to dla nowego użytkownika.</translation>
+</message>
+<message>
+<source>The app comes back as newly installed, without what it had stored.</source>
+<translation>Aplikacja wraca jak świeżo zainstalowana, bez tego, co zapisała.</translation>
+</message>
+<message>
+<source>Restore re-registers an app from its files, which could not be found.</source>
+<translation>Przywracanie ponownie rejestruje aplikację z jej plików, a tych nie znaleziono.</translation>
+</message>
+<message>
+<source>The saved command is cut at its first "=", so the program starts without the rest of its arguments.</source>
+<translation>Zapisane polecenie jest ucinane przy pierwszym „=”, więc program uruchamia się bez reszty argumentów.</translation>
+</message>
+<message>
+<source>Restore brings back only a command whose program is in quotation marks and exists on the disk.</source>
+<translation>Przywracanie cofa tylko polecenie, którego program jest w cudzysłowie i istnieje na dysku.</translation>
+</message>
+<message>
+<source>Restore doesn't know what you had: it writes a fixed value, mostly Windows' default, or deletes it.</source>
+<translation>Przywracanie nie wie, co było wcześniej: zapisuje stałą wartość, zwykle domyślną dla Windows, albo ją usuwa.</translation>
+</message>
+<message>
+<source>Restore doesn't reset this option, or not all of its values.</source>
+<translation>Przywracanie nie resetuje tej opcji albo nie wszystkich jej wartości.</translation>
+</message>
+<message>
+<source>The option was already as Optimize wants it, or isn't one that Optimize uses; Restore resets it anyway.</source>
+<translation>Opcja była już taka, jakiej chce optymalizacja, albo do niej nie należy; przywracanie i tak ją resetuje.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this file.</source>
+<translation>Przywracanie nie rusza tego pliku.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this value.</source>
+<translation>Przywracanie nie rusza tej wartości.</translation>
+</message>
+<message>
 <source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
 <translation>Zmienia wszystko, co znalazła analiza, co chwilę trwa. Jeśli w tym czasie zamkniesz okno, zmiany się zatrzymają: to, co już zmieniono, pozostanie zmienione.</translation>
 </message>
 <message>
 <source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
 <translation>Działa od razu na wszystkie zaznaczone pakiety, bez pytania. Lista pozostaje bez zmian, dopóki strona nie zostanie pokazana ponownie.</translation>
+</message>
+<message>
+<source>Nothing changes either.</source>
+<translation>Wtedy też nic się nie zmienia.</translation>
+</message>
+<message>
+<source>Last access times are recorded again, but Windows no longer decides about them by itself.</source>
+<translation>Czasy ostatniego dostępu są znów zapisywane, ale Windows nie decyduje już o tym sam.</translation>
+</message>
+<message>
+<source>The default is back.</source>
+<translation>Wraca ustawienie domyślne.</translation>
+</message>
+<message>
+<source>The defaults are back.</source>
+<translation>Wracają ustawienia domyślne.</translation>
+</message>
+<message>
+<source>The page file is cleared at each shutdown, which isn't the default and takes minutes.</source>
+<translation>Plik stronicowania jest czyszczony przy każdym zamknięciu, co nie jest domyślne i trwa minuty.</translation>
+</message>
+<message>
+<source>Hibernation is on, even if it was off before, and takes its space again.</source>
+<translation>Hibernacja jest włączona, nawet jeśli wcześniej nie była, i znów zajmuje miejsce.</translation>
+</message>
+<message>
+<source>The attribute is cleared, even where Windows or you had set it.</source>
+<translation>Atrybut jest usuwany, także tam, gdzie ustawił go Windows lub użytkownik.</translation>
+</message>
+<message>
+<source>Some priorities stay higher than the default.</source>
+<translation>Niektóre priorytety pozostają wyższe niż domyślne.</translation>
+</message>
+<message>
+<source>Game mode is off, and the default is on.</source>
+<translation>Tryb gry jest wyłączony, a domyślnie jest włączony.</translation>
+</message>
+<message>
+<source>Recording is allowed; Settings still shows it as managed.</source>
+<translation>Nagrywanie jest dozwolone; Ustawienia nadal pokazują to jako zarządzane.</translation>
+</message>
+<message>
+<source>On Windows 11 the platform timer is forced on, which may slow down games; the default is no entry at all.</source>
+<translation>W Windows 11 wymuszany jest zegar platformy, co może spowalniać gry; domyślnie nie ma żadnego wpisu.</translation>
+</message>
+<message>
+<source>The same effect as the default.</source>
+<translation>Działa tak samo jak ustawienie domyślne.</translation>
+</message>
+<message>
+<source>Auto HDR is off.</source>
+<translation>Auto HDR jest wyłączone.</translation>
+</message>
+<message>
+<source>The values are deleted, which is the default.</source>
+<translation>Wartości są usuwane, co jest stanem domyślnym.</translation>
+</message>
+<message>
+<source>The value is deleted. It is there by default, and what Windows does without it is uncertain.</source>
+<translation>Wartość jest usuwana. Domyślnie istnieje, a co Windows robi bez niej, nie jest pewne.</translation>
+</message>
+<message>
+<source>ULPS is switched on, even for adapters that never had it.</source>
+<translation>ULPS jest włączane, także dla kart, które go nigdy nie miały.</translation>
+</message>
+<message>
+<source>The same effect as the default on a PC with more than 3.5 GB of memory.</source>
+<translation>Działa tak samo jak ustawienie domyślne na komputerze z ponad 3,5 GB pamięci.</translation>
+</message>
+<message>
+<source>The backup is on, which isn't the default and does no harm.</source>
+<translation>Kopia zapasowa jest włączona, co nie jest domyślne i nie szkodzi.</translation>
+</message>
+<message>
+<source>The button is back.</source>
+<translation>Przycisk wraca.</translation>
+</message>
+<message>
+<source>File History is allowed again.</source>
+<translation>Historia plików jest znów dozwolona.</translation>
+</message>
+<message>
+<source>The old menu stays: key and empty value are left.</source>
+<translation>Stare menu zostaje: klucz i pusta wartość pozostają.</translation>
+</message>
+<message>
+<source>Some values are less private than before: diagnostic data in full, suggestions on, synchronization on.</source>
+<translation>Niektóre wartości są mniej prywatne niż przedtem: pełne dane diagnostyczne, sugestie i synchronizacja włączone.</translation>
+</message>
+<message>
+<source>The lock screen is back.</source>
+<translation>Ekran blokady wraca.</translation>
+</message>
+<message>
+<source>The program is back; its owner and rights stay changed.</source>
+<translation>Program wraca; jego właściciel i uprawnienia pozostają zmienione.</translation>
+</message>
+<message>
+<source>as now</source>
+<translation>jak teraz</translation>
+</message>
+<message>
+<source>written</source>
+<translation>zapisane</translation>
+</message>
+<message>
+<source>kept</source>
+<translation>zachowane</translation>
+</message>
+<message>
+<source>as before</source>
+<translation>jak przedtem</translation>
 </message>
 </context>
 </TS>

@@ -301,8 +301,8 @@
 <translation>exatamente</translation>
 </message>
 <message>
-<source>as a default</source>
-<translation>como valor padrão</translation>
+<source>as a fixed value</source>
+<translation>com um valor fixo</translation>
 </message>
 <message>
 <source>not at all</source>
@@ -317,8 +317,8 @@
 <translation>%1 voltam exatamente</translation>
 </message>
 <message>
-<source>%1 as a default</source>
-<translation>%1 com um valor padrão</translation>
+<source>%1 as a fixed value</source>
+<translation>%1 com um valor fixo</translation>
 </message>
 <message>
 <source>%1 not at all</source>
@@ -417,8 +417,8 @@
 <translation>aplicada em parte</translation>
 </message>
 <message>
-<source>a default</source>
-<translation>um valor padrão</translation>
+<source>a fixed value</source>
+<translation>um valor fixo</translation>
 </message>
 <message>
 <source>not there</source>
@@ -2032,12 +2032,252 @@ do sistema</translation>
 <translation>Efeito parcial: duas tarefas ficam desabilitadas, mas o serviço volta no próximo logon.</translation>
 </message>
 <message>
+<source>none changed</source>
+<translation>nenhum alterado</translation>
+</message>
+<message>
+<source>an empty key</source>
+<translation>uma chave vazia</translation>
+</message>
+<message>
+<source>yes</source>
+<translation>sim</translation>
+</message>
+<message>
+<source>no</source>
+<translation>não</translation>
+</message>
+<message>
+<source>%1 values</source>
+<translation>%1 valores</translation>
+</message>
+<message>
+<source>%1 changed</source>
+<translation>%1 alterados</translation>
+</message>
+<message>
+<source>%1 as before</source>
+<translation>%1 como antes</translation>
+</message>
+<message>
+<source>%1 otherwise</source>
+<translation>%1 de outro modo</translation>
+</message>
+<message>
+<source>%1 stay changed</source>
+<translation>%1 continuam alterados</translation>
+</message>
+<message>
+<source>start mode</source>
+<translation>tipo de inicialização</translation>
+</message>
+<message>
+<source>delayed start</source>
+<translation>início atrasado</translation>
+</message>
+<message>
+<source>state</source>
+<translation>estado</translation>
+</message>
+<message>
+<source>the key itself</source>
+<translation>a própria chave</translation>
+</message>
+<message>
+<source>the file</source>
+<translation>o arquivo</translation>
+</message>
+<message>
+<source>its attributes</source>
+<translation>seus atributos</translation>
+</message>
+<message>
+<source>its owner and permissions</source>
+<translation>seu proprietário e suas permissões</translation>
+</message>
+<message>
+<source>in the boot configuration</source>
+<translation>na configuração de inicialização</translation>
+</message>
+<message>
+<source>Records of what was done</source>
+<translation>Registros do que foi feito</translation>
+</message>
+<message>
+<source>Log and backups beside the program</source>
+<translation>Log e backups ao lado do programa</translation>
+</message>
+<message>
+<source>Restore starts every service that Optimize has disabled and sets it to automatic: a service that used to start on demand or with a delay now starts automatically.</source>
+<translation>Restaurar inicia cada serviço que a otimização desabilitou e o define como automático: um serviço que iniciava sob demanda ou com atraso agora inicia automaticamente.</translation>
+</message>
+<message>
+<source>Optimize does not record services that it sets to manual, so Restore doesn't know of them.</source>
+<translation>A otimização não anota os serviços que define como manuais, portanto restaurar não os conhece.</translation>
+</message>
+<message>
+<source>Restore enables only the tasks that Optimize has recorded.</source>
+<translation>Restaurar habilita só as tarefas que a otimização anotou.</translation>
+</message>
+<message>
+<source>Restore re-registers the app from its files, as Windows itself does for a new user.</source>
+<translation>Restaurar registra de novo o aplicativo a partir dos seus arquivos, como o Windows faz para um novo usuário.</translation>
+</message>
+<message>
+<source>The app comes back as newly installed, without what it had stored.</source>
+<translation>O aplicativo volta como recém-instalado, sem o que havia guardado.</translation>
+</message>
+<message>
+<source>Restore re-registers an app from its files, which could not be found.</source>
+<translation>Restaurar registra de novo um aplicativo a partir dos seus arquivos, que não foram encontrados.</translation>
+</message>
+<message>
+<source>The saved command is cut at its first "=", so the program starts without the rest of its arguments.</source>
+<translation>O comando salvo é cortado no primeiro “=”, portanto o programa inicia sem o resto dos argumentos.</translation>
+</message>
+<message>
+<source>Restore brings back only a command whose program is in quotation marks and exists on the disk.</source>
+<translation>Restaurar traz de volta só um comando cujo programa está entre aspas e existe no disco.</translation>
+</message>
+<message>
+<source>Restore doesn't know what you had: it writes a fixed value, mostly Windows' default, or deletes it.</source>
+<translation>Restaurar não sabe o que você tinha: grava um valor fixo, quase sempre o padrão do Windows, ou o exclui.</translation>
+</message>
+<message>
+<source>Restore doesn't reset this option, or not all of its values.</source>
+<translation>Restaurar não redefine esta opção, ou não todos os seus valores.</translation>
+</message>
+<message>
+<source>The option was already as Optimize wants it, or isn't one that Optimize uses; Restore resets it anyway.</source>
+<translation>A opção já estava como a otimização quer, ou não faz parte dela; restaurar a redefine mesmo assim.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this file.</source>
+<translation>Restaurar não mexe neste arquivo.</translation>
+</message>
+<message>
+<source>Restore doesn't touch this value.</source>
+<translation>Restaurar não mexe neste valor.</translation>
+</message>
+<message>
 <source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
 <translation>Altera tudo o que a análise encontrou, o que demora um pouco. Se você fechar a janela nesse meio-tempo, para por aí: o que já foi alterado continua alterado.</translation>
 </message>
 <message>
 <source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
 <translation>Age imediatamente sobre todos os pacotes marcados, sem perguntar. A lista fica como está até a página ser exibida de novo.</translation>
+</message>
+<message>
+<source>Nothing changes either.</source>
+<translation>Também não muda nada.</translation>
+</message>
+<message>
+<source>Last access times are recorded again, but Windows no longer decides about them by itself.</source>
+<translation>Os últimos acessos voltam a ser registrados, mas o Windows não decide mais isso sozinho.</translation>
+</message>
+<message>
+<source>The default is back.</source>
+<translation>O padrão volta a valer.</translation>
+</message>
+<message>
+<source>The defaults are back.</source>
+<translation>Os padrões voltam a valer.</translation>
+</message>
+<message>
+<source>The page file is cleared at each shutdown, which isn't the default and takes minutes.</source>
+<translation>O arquivo de paginação é limpo a cada desligamento, o que não é o padrão e leva minutos.</translation>
+</message>
+<message>
+<source>Hibernation is on, even if it was off before, and takes its space again.</source>
+<translation>A hibernação fica habilitada, mesmo que antes não estivesse, e volta a ocupar espaço.</translation>
+</message>
+<message>
+<source>The attribute is cleared, even where Windows or you had set it.</source>
+<translation>O atributo é removido, mesmo onde o Windows ou você o havia definido.</translation>
+</message>
+<message>
+<source>Some priorities stay higher than the default.</source>
+<translation>Algumas prioridades continuam acima do padrão.</translation>
+</message>
+<message>
+<source>Game mode is off, and the default is on.</source>
+<translation>O modo de jogo fica desabilitado, e o padrão é habilitado.</translation>
+</message>
+<message>
+<source>Recording is allowed; Settings still shows it as managed.</source>
+<translation>A gravação é permitida; Configurações ainda a mostra como gerenciada.</translation>
+</message>
+<message>
+<source>On Windows 11 the platform timer is forced on, which may slow down games; the default is no entry at all.</source>
+<translation>No Windows 11 o temporizador da plataforma é forçado, o que pode deixar os jogos mais lentos; o padrão é não haver entrada.</translation>
+</message>
+<message>
+<source>The same effect as the default.</source>
+<translation>O mesmo efeito do padrão.</translation>
+</message>
+<message>
+<source>Auto HDR is off.</source>
+<translation>O Auto HDR fica desabilitado.</translation>
+</message>
+<message>
+<source>The values are deleted, which is the default.</source>
+<translation>Os valores são excluídos, o que é o padrão.</translation>
+</message>
+<message>
+<source>The value is deleted. It is there by default, and what Windows does without it is uncertain.</source>
+<translation>O valor é excluído. Por padrão ele existe, e o que o Windows faz sem ele é incerto.</translation>
+</message>
+<message>
+<source>ULPS is switched on, even for adapters that never had it.</source>
+<translation>O ULPS é habilitado, mesmo em placas que nunca o tiveram.</translation>
+</message>
+<message>
+<source>The same effect as the default on a PC with more than 3.5 GB of memory.</source>
+<translation>O mesmo efeito do padrão em um PC com mais de 3,5 GB de memória.</translation>
+</message>
+<message>
+<source>The backup is on, which isn't the default and does no harm.</source>
+<translation>O backup fica habilitado, o que não é o padrão e não faz mal.</translation>
+</message>
+<message>
+<source>The button is back.</source>
+<translation>O botão volta.</translation>
+</message>
+<message>
+<source>File History is allowed again.</source>
+<translation>O Histórico de Arquivos volta a ser permitido.</translation>
+</message>
+<message>
+<source>The old menu stays: key and empty value are left.</source>
+<translation>O menu antigo permanece: a chave e o valor vazio continuam.</translation>
+</message>
+<message>
+<source>Some values are less private than before: diagnostic data in full, suggestions on, synchronization on.</source>
+<translation>Alguns valores são menos privados que antes: dados de diagnóstico completos, sugestões e sincronização habilitadas.</translation>
+</message>
+<message>
+<source>The lock screen is back.</source>
+<translation>A tela de bloqueio volta.</translation>
+</message>
+<message>
+<source>The program is back; its owner and rights stay changed.</source>
+<translation>O programa volta; seu proprietário e suas permissões continuam alterados.</translation>
+</message>
+<message>
+<source>as now</source>
+<translation>como agora</translation>
+</message>
+<message>
+<source>written</source>
+<translation>gravado</translation>
+</message>
+<message>
+<source>kept</source>
+<translation>mantido</translation>
+</message>
+<message>
+<source>as before</source>
+<translation>como antes</translation>
 </message>
 </context>
 </TS>

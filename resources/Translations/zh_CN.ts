@@ -301,8 +301,8 @@
 <translation>完全还原</translation>
 </message>
 <message>
-<source>as a default</source>
-<translation>还原为默认值</translation>
+<source>as a fixed value</source>
+<translation>还原为固定值</translation>
 </message>
 <message>
 <source>not at all</source>
@@ -317,8 +317,8 @@
 <translation>%1 项完全还原</translation>
 </message>
 <message>
-<source>%1 as a default</source>
-<translation>%1 项还原为默认值</translation>
+<source>%1 as a fixed value</source>
+<translation>%1 项还原为固定值</translation>
 </message>
 <message>
 <source>%1 not at all</source>
@@ -417,8 +417,8 @@
 <translation>部分应用</translation>
 </message>
 <message>
-<source>a default</source>
-<translation>默认值</translation>
+<source>a fixed value</source>
+<translation>固定值</translation>
 </message>
 <message>
 <source>not there</source>
@@ -2032,12 +2032,252 @@ Information</source>
 <translation>部分有效：两个任务保持禁用，但服务会在下次登录时恢复。</translation>
 </message>
 <message>
+<source>none changed</source>
+<translation>未更改</translation>
+</message>
+<message>
+<source>an empty key</source>
+<translation>空项</translation>
+</message>
+<message>
+<source>yes</source>
+<translation>是</translation>
+</message>
+<message>
+<source>no</source>
+<translation>否</translation>
+</message>
+<message>
+<source>%1 values</source>
+<translation>%1 个值</translation>
+</message>
+<message>
+<source>%1 changed</source>
+<translation>%1 个已更改</translation>
+</message>
+<message>
+<source>%1 as before</source>
+<translation>%1 个与之前相同</translation>
+</message>
+<message>
+<source>%1 otherwise</source>
+<translation>%1 个不同</translation>
+</message>
+<message>
+<source>%1 stay changed</source>
+<translation>%1 个保持更改</translation>
+</message>
+<message>
+<source>start mode</source>
+<translation>启动类型</translation>
+</message>
+<message>
+<source>delayed start</source>
+<translation>延迟启动</translation>
+</message>
+<message>
+<source>state</source>
+<translation>状态</translation>
+</message>
+<message>
+<source>the key itself</source>
+<translation>项本身</translation>
+</message>
+<message>
+<source>the file</source>
+<translation>文件</translation>
+</message>
+<message>
+<source>its attributes</source>
+<translation>其属性</translation>
+</message>
+<message>
+<source>its owner and permissions</source>
+<translation>其所有者和权限</translation>
+</message>
+<message>
+<source>in the boot configuration</source>
+<translation>在引导配置中</translation>
+</message>
+<message>
+<source>Records of what was done</source>
+<translation>已执行操作的记录</translation>
+</message>
+<message>
+<source>Log and backups beside the program</source>
+<translation>程序旁的日志和备份</translation>
+</message>
+<message>
+<source>Restore starts every service that Optimize has disabled and sets it to automatic: a service that used to start on demand or with a delay now starts automatically.</source>
+<translation>还原会启动优化禁用的每个服务，并将其设为自动：原来按需启动或延迟启动的服务现在会自动启动。</translation>
+</message>
+<message>
+<source>Optimize does not record services that it sets to manual, so Restore doesn't know of them.</source>
+<translation>优化不会记录设为手动的服务，因此还原不知道它们。</translation>
+</message>
+<message>
+<source>Restore enables only the tasks that Optimize has recorded.</source>
+<translation>还原只启用优化记录过的任务。</translation>
+</message>
+<message>
+<source>Restore re-registers the app from its files, as Windows itself does for a new user.</source>
+<translation>还原会用其文件重新注册应用，就像 Windows 为新用户所做的那样。</translation>
+</message>
+<message>
+<source>The app comes back as newly installed, without what it had stored.</source>
+<translation>应用会像新安装一样恢复，但没有其保存的内容。</translation>
+</message>
+<message>
+<source>Restore re-registers an app from its files, which could not be found.</source>
+<translation>还原要用其文件重新注册应用，但找不到这些文件。</translation>
+</message>
+<message>
+<source>The saved command is cut at its first "=", so the program starts without the rest of its arguments.</source>
+<translation>保存的命令在第一个“=”处被截断，因此程序启动时缺少其余参数。</translation>
+</message>
+<message>
+<source>Restore brings back only a command whose program is in quotation marks and exists on the disk.</source>
+<translation>还原只恢复程序带引号且存在于磁盘上的命令。</translation>
+</message>
+<message>
+<source>Restore doesn't know what you had: it writes a fixed value, mostly Windows' default, or deletes it.</source>
+<translation>还原不知道你原来的设置：它会写入固定的值（多为 Windows 的默认值）或将其删除。</translation>
+</message>
+<message>
+<source>Restore doesn't reset this option, or not all of its values.</source>
+<translation>还原不会重置此选项，或不会重置其所有值。</translation>
+</message>
+<message>
+<source>The option was already as Optimize wants it, or isn't one that Optimize uses; Restore resets it anyway.</source>
+<translation>此选项原本就符合优化的要求，或不属于优化的内容；还原仍会重置它。</translation>
+</message>
+<message>
+<source>Restore doesn't touch this file.</source>
+<translation>还原不会触及此文件。</translation>
+</message>
+<message>
+<source>Restore doesn't touch this value.</source>
+<translation>还原不会触及此值。</translation>
+</message>
+<message>
 <source>Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it stops there: what is changed by then stays changed.</source>
 <translation>更改分析找到的所有内容，需要一些时间。如果中途关闭窗口，操作会就此停止：已更改的内容保持更改。</translation>
 </message>
 <message>
 <source>Acts on all checked packages at once, without asking. The list stays as it is until the page is shown again.</source>
 <translation>立即处理所有选中的程序包，不再询问。在再次显示该页面之前，列表保持不变。</translation>
+</message>
+<message>
+<source>Nothing changes either.</source>
+<translation>同样没有变化。</translation>
+</message>
+<message>
+<source>Last access times are recorded again, but Windows no longer decides about them by itself.</source>
+<translation>会重新记录上次访问时间，但 Windows 不再自行决定。</translation>
+</message>
+<message>
+<source>The default is back.</source>
+<translation>恢复默认值。</translation>
+</message>
+<message>
+<source>The defaults are back.</source>
+<translation>恢复各默认值。</translation>
+</message>
+<message>
+<source>The page file is cleared at each shutdown, which isn't the default and takes minutes.</source>
+<translation>每次关机都会清除页面文件，这不是默认设置，且需要数分钟。</translation>
+</message>
+<message>
+<source>Hibernation is on, even if it was off before, and takes its space again.</source>
+<translation>休眠会开启（即使之前是关闭的），并重新占用空间。</translation>
+</message>
+<message>
+<source>The attribute is cleared, even where Windows or you had set it.</source>
+<translation>该属性会被清除，即使是 Windows 或你自己设置的。</translation>
+</message>
+<message>
+<source>Some priorities stay higher than the default.</source>
+<translation>部分优先级仍高于默认值。</translation>
+</message>
+<message>
+<source>Game mode is off, and the default is on.</source>
+<translation>游戏模式会关闭，而默认是开启。</translation>
+</message>
+<message>
+<source>Recording is allowed; Settings still shows it as managed.</source>
+<translation>允许录制；“设置”仍显示为受管理。</translation>
+</message>
+<message>
+<source>On Windows 11 the platform timer is forced on, which may slow down games; the default is no entry at all.</source>
+<translation>在 Windows 11 上会强制使用平台计时器，可能降低游戏速度；默认没有此项。</translation>
+</message>
+<message>
+<source>The same effect as the default.</source>
+<translation>与默认值效果相同。</translation>
+</message>
+<message>
+<source>Auto HDR is off.</source>
+<translation>自动 HDR 会关闭。</translation>
+</message>
+<message>
+<source>The values are deleted, which is the default.</source>
+<translation>这些值会被删除，即默认状态。</translation>
+</message>
+<message>
+<source>The value is deleted. It is there by default, and what Windows does without it is uncertain.</source>
+<translation>该值会被删除。默认存在此值，缺少它时 Windows 的行为不确定。</translation>
+</message>
+<message>
+<source>ULPS is switched on, even for adapters that never had it.</source>
+<translation>会开启 ULPS，即使显卡从未使用过它。</translation>
+</message>
+<message>
+<source>The same effect as the default on a PC with more than 3.5 GB of memory.</source>
+<translation>在内存超过 3.5 GB 的电脑上与默认值效果相同。</translation>
+</message>
+<message>
+<source>The backup is on, which isn't the default and does no harm.</source>
+<translation>备份会开启，这不是默认设置，但没有害处。</translation>
+</message>
+<message>
+<source>The button is back.</source>
+<translation>按钮会恢复。</translation>
+</message>
+<message>
+<source>File History is allowed again.</source>
+<translation>重新允许文件历史记录。</translation>
+</message>
+<message>
+<source>The old menu stays: key and empty value are left.</source>
+<translation>旧菜单仍保留：项和空值还在。</translation>
+</message>
+<message>
+<source>Some values are less private than before: diagnostic data in full, suggestions on, synchronization on.</source>
+<translation>部分值的隐私性低于之前：完整诊断数据、建议和同步都会开启。</translation>
+</message>
+<message>
+<source>The lock screen is back.</source>
+<translation>锁屏界面会恢复。</translation>
+</message>
+<message>
+<source>The program is back; its owner and rights stay changed.</source>
+<translation>程序会恢复；其所有者和权限保持更改。</translation>
+</message>
+<message>
+<source>as now</source>
+<translation>与现在相同</translation>
+</message>
+<message>
+<source>written</source>
+<translation>已写入</translation>
+</message>
+<message>
+<source>kept</source>
+<translation>保留</translation>
+</message>
+<message>
+<source>as before</source>
+<translation>与之前相同</translation>
 </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 #include "aims.h"
 
 #include "console/printable.h"
+#include "preview/previewtexts.h"
 #include "preview/previewwords.h"
 #include "rehearse/jobs.h"
 #include "trial.h"
@@ -116,7 +117,8 @@ private:
     void add(PreviewGroup group, const QString &name, const QString &title, const QString &wish, AimState state,
              bool ofUser = false)
     {
-        aims_.append({group, name, title, wish, state, false, ofUser, {}});
+        const bool isLoss = wish == disabled || wish == removed;
+        aims_.append({group, name, title, wish, state, false, ofUser, {}, isLoss ? withoutOf(group, name) : QString()});
         Aim &aim = aims_.last();
         if (profile_.isLeftAlone(name))
             leave(aim, u"the profile says so"_s);
@@ -487,6 +489,8 @@ QString aimsText(const QList<Aim> &aims, bool all)
         QStringList columns{aimStateText(aim.state), thingText(aim.group), aim.name, aim.wish};
         if (!aim.why.isEmpty())
             columns.append(aim.why);
+        if (!aim.without.isEmpty() && (aim.state == AimState::InForce || aim.state == AimState::Open))
+            columns.append(withoutText(aim.without));
         std::transform(columns.cbegin(), columns.cend(), columns.begin(), printable);
         text += columns.join(u'\t') + u'\n';
     }
@@ -506,7 +510,8 @@ QJsonArray aimsJson(const QList<Aim> &aims)
                                  {u"wish"_s, aim.wish},
                                  {u"state"_s, aimStateWord(aim.state)},
                                  {u"changed"_s, aim.changed},
-                                 {u"why"_s, aim.why}});
+                                 {u"why"_s, aim.why},
+                                 {u"without"_s, aim.without}});
     }
     return array;
 }

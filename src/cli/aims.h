@@ -36,6 +36,7 @@ struct Aim
     bool changed = false; ///< by this run
     bool ofUser = false;  ///< it belongs to the current user
     QString why{};        ///< the reason, in a sentence without its full stop; often empty
+    QString without{};    ///< what stops working without it, where that is what is asked for; often empty
 };
 
 /** What "Services" and so on are called for programs. */

@@ -270,8 +270,9 @@ constexpr OptionRow options[] = {
 QString moreHelp()
 {
     return u"Needs administrator rights. Everything is noted in the journal before it is changed, and 'undo' takes it\n"
-           "back. At the end everything is read again. Columns: state, kind of thing, name, what was asked for, and "
-           "why.\n"
+           "back. At the end everything is read again. Columns: state, kind of thing, name, what was asked for, "
+           "why,\n"
+           "and what stops working without it.\n"
            "Exit status: 0 done, or nothing to do; 1 something was refused; 2 bad arguments or profile;\n"
            "3 the PC can't be read; 5 administrator rights are needed; 3010 done, restart wanted.\n"_s;
 }

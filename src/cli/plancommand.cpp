@@ -126,6 +126,8 @@ QString planText(const QJsonArray &items, const QJsonObject &counts, const QJson
                             each["name"_L1].toString(), each["wish"_L1].toString()};
         if (const QString why = each["why"_L1].toString(); !why.isEmpty())
             columns.append(why);
+        if (const QString without = each["without"_L1].toString(); !without.isEmpty() && state == "would-change"_L1)
+            columns.append(withoutText(without));
         std::transform(columns.cbegin(), columns.cend(), columns.begin(), printable);
         text += columns.join(u'\t') + u'\n';
     }
@@ -190,7 +192,7 @@ int runPlan(const Arguments &arguments)
     if (arguments.has(htmlOption.name)) {
         const QString page = previewHtml(previewItems(*before, *applied, *undone), describedPc(*before, arguments),
                                          PreviewWay::ApplyAndUndo);
-        writeReportFile(arguments.value(htmlOption.name), page.toUtf8());
+        writePage(arguments, page);
     }
     if (arguments.has(jsonOption.name)) {
         const QJsonObject document{
@@ -209,7 +211,8 @@ QString moreHelp()
            u"up\n"
            "administrator rights first, so a copy of this PC lacks what only an administrator may read;\n"
            "'kestrune-rehearse capture', run by an administrator, makes a copy that has it.\n"
-           "Columns: what would become of it, kind of thing, name, what is asked for, and why.\n"_s;
+           "Columns: what would become of it, kind of thing, name, what is asked for, why, and what stops working\n"
+           "without it.\n"_s;
 }
 
 } // namespace

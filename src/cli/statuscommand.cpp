@@ -51,7 +51,8 @@ QString statusHelp()
     return u"Changes nothing and needs no administrator rights; what can't be read without them is unknown, and "
            u"scheduled\n"
            "tasks that Windows shows to administrators alone are missing.\n"
-           "Columns: state, kind of thing, name, what is asked for, and why.\n"_s;
+           "Columns: state, kind of thing, name, what is asked for, why, and what stops working\n"
+           "without it.\n"_s;
 }
 
 QString verifyHelp()

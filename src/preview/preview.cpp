@@ -91,6 +91,7 @@ QList<PreviewItem> previewItems(Machine &before, Machine &optimized, Machine &re
         item.about = words.about;
         item.after = words.after;
         item.name = words.name;
+        item.without = withoutOf(words.group, words.name);
         item.details.append({words.detail, words.place, sideInWords(words, three.row.before),
                              sideInWords(words, three.row.after), sideInWords(words, three.restored),
                              restorabilityOf(three)});

@@ -46,7 +46,8 @@ struct PreviewItem
     QString about; ///< what it is there for; often empty
     QString name;  ///< what the system calls it; empty where the title says it
     QList<PreviewDetail> details;
-    QString after{}; ///< what is known of what Restore leaves, not the journal; often empty
+    QString after{};   ///< what is known of what Restore leaves, not the journal; often empty
+    QString without{}; ///< what stops working without it; empty where nothing is known of it
 
     /** The least favourable of its details. */
     Restorability comesBack() const;
@@ -73,6 +74,7 @@ QString previewText(const QList<PreviewItem> &items);
  *         "group"      "Services", "Scheduled tasks" and so on
  *         "title"      what it is in words
  *         "about"      what it is there for; often empty
+ *         "without"    what stops working without it, in a sentence or two; often empty
  *         "name"       what the system calls it; empty where the title says it
  *         "before", "optimized", "restored"   the item as a whole, in a few words
  *         "comesBack"  the verdict, the least favourable of the details' ones: a word of "counts"
@@ -87,11 +89,13 @@ QByteArray previewJson(const QList<PreviewItem> &items);
 
 /**
  * One page that needs nothing besides itself, and by its own policy can't ask for anything: counts on top, filters by
- * verdict and by group, a search field, each item in one line that opens to its values. Prints with everything open.
+ * verdict and by group, a search field, each item in one line that opens to its values. Prints all items, shut, with
+ * the columns' heads on each page.
  * @param machine what is told of the PC below the title
+ * @param offersUndo whether to tell of --undo where Restore doesn't bring back everything
  */
 QString previewHtml(const QList<PreviewItem> &items, const QString &machine,
-                    PreviewWay way = PreviewWay::OptimizeAndRestore);
+                    PreviewWay way = PreviewWay::OptimizeAndRestore, bool offersUndo = false);
 
 // An exact way back from what a machine has become, with nothing but the system's own tools.
 

@@ -36,9 +36,10 @@ QString button(QLatin1StringView filter, QLatin1StringView value, const QString 
 class Page
 {
 public:
-    Page(const QList<PreviewItem> &items, PreviewWay way)
+    Page(const QList<PreviewItem> &items, PreviewWay way, bool offersUndo)
         : items_(items)
         , way_(way)
+        , offersUndo_(offersUndo)
         , steps_(stepNames(way))
         , afterChange_(u"After %1"_s.arg(steps_.change))
         , afterBack_(u"After %1"_s.arg(steps_.back))
@@ -54,10 +55,12 @@ private:
     QString sectionHtml(const GroupTexts &group) const;
     QString itemHtml(const PreviewItem &item) const;
     QString detailHtml(const PreviewDetail &detail, bool counted) const;
+    QString sizeText() const;
     qsizetype sizeOf(PreviewGroup group) const;
 
     const QList<PreviewItem> &items_;
     const PreviewWay way_;
+    const bool offersUndo_;
     const StepNames steps_;
     const QString afterChange_;
     const QString afterBack_;
@@ -73,6 +76,8 @@ QString titleHtml(const PreviewItem &item)
     QString html = u"<span class=\"title\"><b>%1</b>"_s.arg(item.title.toHtmlEscaped());
     if (!item.about.isEmpty())
         html += u" <small class=\"about\">%1</small>"_s.arg(item.about.toHtmlEscaped());
+    if (!item.without.isEmpty())
+        html += u" <small class=\"without\">%1</small>"_s.arg(withoutText(item.without).toHtmlEscaped());
     if (!item.name.isEmpty() && item.name != item.title)
         html += u" <small>%1</small>"_s.arg(item.name.toHtmlEscaped());
     return html + u"</span>\n"_s;
@@ -101,7 +106,11 @@ QString Page::introductionHtml() const
 {
     QString html = introduction;
     html.replace("%1"_L1, steps_.change).replace("%2"_L1, steps_.back);
-    if (way_ == PreviewWay::OptimizeAndRestore)
+    // Where Restore brings back everything, nobody needs more.
+    const bool isAnyLeft = std::any_of(items_.begin(), items_.end(), [](const PreviewItem &item) {
+        return countsAsChange(item) && item.comesBack() != Restorability::Exactly;
+    });
+    if (offersUndo_ && isAnyLeft)
         html += aboutUndoFile;
     return html + u"</p>\n"_s;
 }
@@ -127,11 +136,23 @@ QString Page::findHtml() const
         if (const qsizetype size = sizeOf(group.group); size > 0)
             html += button("group"_L1, group.word, u"%1 %2"_s.arg(group.title).arg(size)) + u'\n';
     }
-    return html
-           + u"</div>\n<div class=\"state\"><p id=\"found\" role=\"status\">%1 items</p>"
+    return html + u"</div>\n<div class=\"state\"><p id=\"found\" role=\"status\">"_s + sizeText()
+           + u"</p>"
              "<button type=\"button\" id=\"open\">Open all</button></div>\n</div>\n"
              "<div class=\"nothing\" id=\"nothing\" hidden><p>Nothing found.</p>"
-             "<button type=\"button\" id=\"again\">Show everything</button></div>\n"_s.arg(items_.size());
+             "<button type=\"button\" id=\"again\">Show everything</button></div>\n"_s;
+}
+
+/** How many items there are, and why that is more than the counts say. */
+QString Page::sizeText() const
+{
+    const QString all = u"%1 items"_s.arg(items_.size());
+    const qsizetype records = sizeOf(PreviewGroup::Records);
+    return records == 0 ? all
+                        : all
+                              + u": %1 changes, and %2 of Kestrune's own records, which the counts above leave out"_s
+                                    .arg(items_.size() - records)
+                                    .arg(records);
 }
 
 QString Page::sectionHtml(const GroupTexts &group) const
@@ -140,15 +161,17 @@ QString Page::sectionHtml(const GroupTexts &group) const
     if (size == 0)
         return QString();
     QString html = u"<section data-group=\"%1\"><h2>%2 <span class=\"none\">%3</span></h2>\n<p>%4</p>\n"
+                   "<table class=\"list\" role=\"presentation\"><thead><tr><th>"
                    "<div class=\"row columns\" aria-hidden=\"true\"><span></span><span>Before</span>"
-                   "<span>%5</span><span>%6</span><span>Verdict</span></div>\n"_s.arg(group.word, group.title)
+                   "<span>%5</span><span>%6</span><span>Verdict</span></div></th></tr></thead><tbody><tr><td>\n"_s
+                       .arg(group.word, group.title)
                        .arg(size)
                        .arg(aboutGroup(group, way_), afterChange_, afterBack_);
     for (const PreviewItem &item : items_) {
         if (item.group == group.group)
             html += itemHtml(item);
     }
-    return html + u"</section>\n"_s;
+    return html + u"</td></tr></tbody></table></section>\n"_s;
 }
 
 QString Page::itemHtml(const PreviewItem &item) const
@@ -188,7 +211,7 @@ qsizetype Page::sizeOf(PreviewGroup group) const
 
 } // namespace
 
-QString previewHtml(const QList<PreviewItem> &items, const QString &machine, PreviewWay way)
+QString previewHtml(const QList<PreviewItem> &items, const QString &machine, PreviewWay way, bool offersUndo)
 {
-    return Page(items, way).html(machine);
+    return Page(items, way, offersUndo).html(machine);
 }

@@ -10,6 +10,7 @@ const sections = all('section').map(element => ({
     element: item, verdict: item.dataset.verdict, text: null }))
 }));
 const total = all('details').length;
+const whole = found?.textContent;
 const chosen = { verdict: '', group: '' };
 
 // Read at the first search only: a page may have thousands of items.
@@ -30,7 +31,7 @@ function show() {
     }
     section.element.hidden = !any;
   }
-  found.textContent = count === total ? total + ' items' : count + ' of ' + total + ' items';
+  found.textContent = count === total ? whole : count + ' of ' + total + ' items';
   nothing.hidden = count > 0;
   for (const button of all('button[data-filter]'))
     button.setAttribute('aria-pressed', String(chosen[button.dataset.filter] === button.dataset.value));
@@ -58,15 +59,5 @@ open.addEventListener('click', () => {
   open.textContent = opening ? 'Close all' : 'Open all';
 });
 
-let closed = [];
-addEventListener('beforeprint', () => {
-  closed = all('details:not([open])');
-  for (const item of closed)
-    item.open = true;
-});
-addEventListener('afterprint', () => {
-  for (const item of closed)
-    item.open = false;
-});
 if (total)
   show();

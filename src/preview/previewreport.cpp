@@ -28,6 +28,8 @@ QString itemText(const PreviewItem &item)
     if (countsAsChange(item))
         text += u": "_s + QString(textsOf(item.comesBack()).one);
     text += u'\n';
+    if (!item.without.isEmpty())
+        text += u"      "_s + withoutText(item.without) + u'\n';
     for (const PreviewDetail &detail : item.details) {
         const QString place = detail.place.isEmpty() ? QString() : u" ("_s + detail.place + u')';
         text += printable(u"        "_s + detail.what + place + u": "_s
@@ -61,6 +63,7 @@ QJsonObject itemJson(const PreviewItem &item)
     return {{u"group"_s, textsOf(item.group).title},
             {u"title"_s, item.title},
             {u"about"_s, item.about},
+            {u"without"_s, item.without},
             {u"name"_s, item.name},
             {u"before"_s, sides.before},
             {u"optimized"_s, sides.optimized},

@@ -186,13 +186,20 @@ PreviewSides tweakSides(const PreviewItem &item, PreviewWay way)
 {
     const bool untouched = countOf(item, Restorability::Unasked) == item.details.size();
     PreviewSides sides{u"your setting"_s, untouched ? u"your setting"_s : u"applied"_s,
-                       way == PreviewWay::OptimizeAndRestore ? u"a default"_s : u"another setting"_s};
+                       way == PreviewWay::OptimizeAndRestore ? u"a fixed value"_s : u"another setting"_s};
     if (item.comesBack() == Restorability::Exactly)
         sides.restored = sides.before;
     else if (item.comesBack() == Restorability::NotAtAll)
         sides.restored =
             countOf(item, Restorability::NotAtAll) == item.details.size() ? u"applied"_s : u"applied in part"_s;
     return sides;
+}
+
+/** What the program writes for itself is written or kept; its values are for those who look them up. */
+PreviewSides recordSides(const PreviewItem &item)
+{
+    const bool isBack = item.comesBack() == Restorability::Exactly;
+    return {u"as now"_s, u"written"_s, isBack ? u"as before"_s : u"kept"_s};
 }
 
 PreviewSides sidesBy(QString (*text)(const PreviewItem &, Side), const PreviewItem &item)
@@ -260,6 +267,11 @@ QString whyOf(const PreviewItem &item, PreviewWay way)
     return value == Restorability::Exactly ? why : joinedWords(why, item.after);
 }
 
+QString withoutText(const QString &sentence)
+{
+    return u"Without it: "_s + sentence;
+}
+
 bool countsAsChange(const PreviewItem &item)
 {
     return item.group != PreviewGroup::Records;
@@ -282,6 +294,8 @@ PreviewSides sidesOf(const PreviewItem &item, PreviewWay way)
         return sidesBy(autorunSide, item);
     if (item.group == PreviewGroup::Tweaks)
         return tweakSides(item, way);
+    if (item.group == PreviewGroup::Records)
+        return recordSides(item);
     if (item.details.size() > 1)
         return countedSides(item);
     const PreviewDetail &detail = item.details.first();

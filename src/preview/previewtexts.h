@@ -49,6 +49,9 @@ StepNames stepNames(PreviewWay way);
 /** Why an item comes back so, and what is known of that; empty where the verdict says it all. */
 QString whyOf(const PreviewItem &item, PreviewWay way = PreviewWay::OptimizeAndRestore);
 
+/** "Without it: no printing." */
+QString withoutText(const QString &sentence);
+
 /** Kestrune's own records are no change of the PC and count for nothing. */
 bool countsAsChange(const PreviewItem &item);
 int countOf(const QList<PreviewItem> &items, Restorability value);

@@ -7,6 +7,7 @@
 #include "machine/registrydisplay.h"
 #include "platform/taskdocument.h"
 #include "platform/windowsfacts.h"
+#include "work/knowledge.h"
 #include "work/settings.h"
 
 using namespace Qt::StringLiterals;
@@ -238,6 +239,20 @@ PreviewWords tweakValueWords(const TweakWords &tweak, const DiffRow &row)
 QString serviceTitle(Machine &machine, const QString &service)
 {
     return orElse(registryTextAt(machine, machine.registry(), servicePrefix + service, u"DisplayName"_s), service);
+}
+
+QString withoutOf(PreviewGroup group, const QString &name)
+{
+    switch (group) {
+    case PreviewGroup::Services:
+        return withoutService(name);
+    case PreviewGroup::Tasks:
+        return withoutTask(name);
+    case PreviewGroup::Packages:
+        return withoutPackage(name == oneDrive ? oneDriveName : name);
+    default:
+        return {};
+    }
 }
 
 QString startModeInWords(const QString &value)

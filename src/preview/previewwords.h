@@ -32,6 +32,8 @@ QString sideInWords(const PreviewWords &words, const QString &side);
 
 /** What a service is called; its name where the machine has no other, or none that can be read. */
 QString serviceTitle(Machine &machine, const QString &service);
+/** What stops working without a service, task or package that has that name in the system; empty for all else. */
+QString withoutOf(PreviewGroup group, const QString &name);
 /** "automatic" for the text of a value Start, "dword 2"; any other text stays as it is. */
 QString startModeInWords(const QString &value);
 

@@ -4,7 +4,7 @@
 
 #include "machine/compare/diffrow.h"
 #include "machine/registrystore.h"
-#include "work/tweaks/tweakcatalogue.h"
+#include "work/knowledge.h"
 #include "work/tweaks/tweakvalues.h"
 
 #include <algorithm>

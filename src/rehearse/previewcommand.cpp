@@ -142,8 +142,11 @@ int runPreview(const Arguments &arguments)
     if (arguments.has("undo"_L1)) {
         printWritten(writeUndo(*copies.before, *copies.optimized, absoluteFolder(arguments.value("undo"_L1))));
     }
-    if (arguments.has("html"_L1))
-        writeReportFile(arguments.value("html"_L1), previewHtml(items, describedPc(*copies.before, choice)).toUtf8());
+    if (arguments.has("html"_L1)) {
+        const bool offersUndo = !arguments.has("undo"_L1) && !copies.before->hasReplacedNames();
+        writePage(arguments,
+                  previewHtml(items, describedPc(*copies.before, choice), PreviewWay::OptimizeAndRestore, offersUndo));
+    }
     if (arguments.has("json"_L1))
         writeReportFile(arguments.value("json"_L1), previewJson(items));
     if (!arguments.has("html"_L1) && !arguments.has("json"_L1) && !arguments.has("undo"_L1))

@@ -223,7 +223,7 @@ int previewAll(const Arguments &arguments)
     const QList<QStringList> table = tableOf(pcs);
     const QString profile = arguments.value("profile"_L1);
     if (arguments.has("html"_L1))
-        writeReportFile(arguments.value("html"_L1), tableHtml(table, profile).toUtf8());
+        writePage(arguments, tableHtml(table, profile));
     if (arguments.has("json"_L1))
         writeReportFile(arguments.value("json"_L1), tableJson(pcs, profile));
     if (arguments.value("html"_L1) != "-"_L1 && arguments.value("json"_L1) != "-"_L1)

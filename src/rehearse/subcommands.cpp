@@ -5,6 +5,7 @@
 
 #include "machine/machine.h"
 #include "machine/workfolder.h"
+#include "platform/processground.h"
 #include "wayback/waybackscript.h"
 
 #include <QDir>
@@ -56,6 +57,14 @@ qint64 requireKey(const RegistryStore &store, const QString &path)
     if (!key)
         throw Failure{ExitBadArguments, u"there is no key '%1'"_s.arg(path)};
     return *key;
+}
+
+void writePage(const Arguments &arguments, const QString &page)
+{
+    const QString file = arguments.value("html"_L1);
+    writeReportFile(file, page.toUtf8());
+    if (file != "-"_L1 && arguments.value("json"_L1) != "-"_L1)
+        print(absolutePath(file) + u'\n');
 }
 
 void printWritten(const WrittenWayBack &wayBack)

@@ -37,6 +37,9 @@ class Journal;
 int undoBy(const Journal &journal, const Arguments &arguments);
 std::span<const OptionRow> undoOptions();
 
+/** Writes the page that --html asks for, and prints where it is, unless a report is printed in its place. */
+void writePage(const Arguments &arguments, const QString &page);
+
 struct WrittenWayBack;
 /** Prints the files, and what was left out. */
 void printWritten(const WrittenWayBack &wayBack);

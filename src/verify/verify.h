@@ -49,6 +49,7 @@ struct VerifiedItem
     Verdict verdict = Verdict::InForce;
     QString why{}; ///< what the verdict goes by, as a sentence without its full stop; empty where it speaks for itself
     QList<VerifiedDetail> details{};
+    QString without{}; ///< what stops working where the record is in force; often empty
 };
 
 /**

@@ -65,6 +65,8 @@ QString itemText(const VerifiedItem &item)
     if (!item.why.isEmpty())
         text += u" -- "_s + item.why;
     text = printable(text) + u'\n';
+    if (item.verdict == Verdict::InForce && !item.without.isEmpty())
+        text += u"      "_s + withoutText(item.without) + u'\n';
     for (const VerifiedDetail &detail : item.details.first(std::min(item.details.size(), mostDetails)))
         text += detailText(detail);
     if (item.details.size() > mostDetails)
@@ -122,6 +124,7 @@ QByteArray verifyJson(const QList<VerifiedItem> &items)
                                  {u"title"_s, item.title},
                                  {u"verdict"_s, rowOf(item.verdict).word},
                                  {u"why"_s, item.why},
+                                 {u"without"_s, item.without},
                                  {u"details"_s, details}});
     }
     return printableJson(QJsonDocument(QJsonObject{{u"counts"_s, counts}, {u"items"_s, array}}));

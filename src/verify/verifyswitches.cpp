@@ -154,6 +154,7 @@ private:
                 pastOf({ItemKind::Value, WindowsKey::services + u'\\' + name, u"Start"_s}, [](const ItemState &state) {
                     return !state.data.isEmpty() && state.data.front() == StartDisabled;
                 }));
+            item.without = withoutOf(item.group, name);
             if (item.verdict == Verdict::InForce && now_.isRunning(name).value_or(false))
                 item.why = u"runs until Windows starts the next time"_s;
             return item;
@@ -193,8 +194,10 @@ private:
                 item.verdict = Verdict::Gone;
                 return item;
             }
-            return judged(item, {u"state"_s, taskState(before_, path), state, states.value(path, u"disabled"_s)},
-                          lastOf(last_.tasks, path),
+            const QString recordedState = states.value(path, u"disabled"_s);
+            if (recordedState == "disabled"_L1)
+                item.without = withoutOf(item.group, path);
+            return judged(item, {u"state"_s, taskState(before_, path), state, recordedState}, lastOf(last_.tasks, path),
                           pastOf({ItemKind::Task, path}, [enabled = states.value(path) == "enabled"_L1](
                                                              const ItemState &was) { return was.there == enabled; }));
         });
@@ -231,8 +234,9 @@ private:
     {
         each(recorded("Packages"_L1), last_.packages, [this](const QString &record) {
             const QString name = recordedPackage(record);
-            return judged({PreviewGroup::Packages, name, name},
-                          {u"installed"_s, installed(before_, name), installed(now_, name), QString()},
+            VerifiedItem item{PreviewGroup::Packages, name, name};
+            item.without = withoutOf(item.group, name);
+            return judged(item, {u"installed"_s, installed(before_, name), installed(now_, name), QString()},
                           lastOf(last_.packages, name),
                           pastOf({ItemKind::Package, name}, [](const ItemState &state) { return !state.there; }));
         });

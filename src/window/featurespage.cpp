@@ -7,6 +7,7 @@
 #include "messagebox.h"
 #include "platform/platform.h"
 #include "rowtext.h"
+#include "work/knowledge.h"
 #include "work/settings.h"
 #include "work/tweaks/tweakcatalogue.h"
 #include "work/windowsname.h"

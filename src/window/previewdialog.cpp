@@ -5,6 +5,8 @@
 #include "journal/takeback.h"
 #include "kestrune.h"
 #include "messagebox.h"
+#include "work/knowledge.h"
+#include "work/tweaks/tweakcatalogue.h"
 
 #include <QHeaderView>
 #include <QJsonArray>
@@ -14,6 +16,7 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -36,7 +39,7 @@ struct VerdictRow
 // clang-format off
 constexpr VerdictRow verdictRows[] = {
     {"exactly"_L1,    QT_TRANSLATE_NOOP("Kestrune", "exactly"),        QT_TRANSLATE_NOOP("Kestrune", "%1 come back exactly")},
-    {"otherwise"_L1,  QT_TRANSLATE_NOOP("Kestrune", "as a default"),   QT_TRANSLATE_NOOP("Kestrune", "%1 as a default")},
+    {"otherwise"_L1,  QT_TRANSLATE_NOOP("Kestrune", "as a fixed value"), QT_TRANSLATE_NOOP("Kestrune", "%1 as a fixed value")},
     {"not-at-all"_L1, QT_TRANSLATE_NOOP("Kestrune", "not at all"),     QT_TRANSLATE_NOOP("Kestrune", "%1 not at all")},
     {"unasked"_L1,    QT_TRANSLATE_NOOP("Kestrune", "by Restore only"), QT_TRANSLATE_NOOP("Kestrune", "%1 are changed by Restore only")},
 };
@@ -69,9 +72,58 @@ constexpr const char *sideWords[] = {
     QT_TRANSLATE_NOOP("Kestrune", "your setting"),
     QT_TRANSLATE_NOOP("Kestrune", "applied"),
     QT_TRANSLATE_NOOP("Kestrune", "applied in part"),
-    QT_TRANSLATE_NOOP("Kestrune", "a default"),
+    QT_TRANSLATE_NOOP("Kestrune", "a fixed value"),
+    QT_TRANSLATE_NOOP("Kestrune", "as now"),
+    QT_TRANSLATE_NOOP("Kestrune", "written"),
+    QT_TRANSLATE_NOOP("Kestrune", "kept"),
+    QT_TRANSLATE_NOOP("Kestrune", "as before"),
     QT_TRANSLATE_NOOP("Kestrune", "not there"),
     QT_TRANSLATE_NOOP("Kestrune", "but not as before"),
+    QT_TRANSLATE_NOOP("Kestrune", "none changed"),
+    QT_TRANSLATE_NOOP("Kestrune", "an empty key"),
+    QT_TRANSLATE_NOOP("Kestrune", "yes"),
+    QT_TRANSLATE_NOOP("Kestrune", "no"),
+};
+
+// The same with a number for %1.
+constexpr const char *countWords[] = {
+    QT_TRANSLATE_NOOP("Kestrune", "%1 values"),
+    QT_TRANSLATE_NOOP("Kestrune", "%1 changed"),
+    QT_TRANSLATE_NOOP("Kestrune", "%1 as before"),
+    QT_TRANSLATE_NOOP("Kestrune", "%1 otherwise"),
+    QT_TRANSLATE_NOOP("Kestrune", "%1 stay changed"),
+};
+
+// What it calls the details that aren't named by the system, and the items that aren't.
+constexpr const char *titleWords[] = {
+    QT_TRANSLATE_NOOP("Kestrune", "start mode"),
+    QT_TRANSLATE_NOOP("Kestrune", "delayed start"),
+    QT_TRANSLATE_NOOP("Kestrune", "state"),
+    QT_TRANSLATE_NOOP("Kestrune", "installed"),
+    QT_TRANSLATE_NOOP("Kestrune", "the key itself"),
+    QT_TRANSLATE_NOOP("Kestrune", "the file"),
+    QT_TRANSLATE_NOOP("Kestrune", "its attributes"),
+    QT_TRANSLATE_NOOP("Kestrune", "its owner and permissions"),
+    QT_TRANSLATE_NOOP("Kestrune", "in the boot configuration"),
+    QT_TRANSLATE_NOOP("Kestrune", "Records of what was done"),
+    QT_TRANSLATE_NOOP("Kestrune", "Log and backups beside the program"),
+};
+
+// Why something comes back as it does; the preview may say more after it.
+constexpr const char *reasons[] = {
+    QT_TRANSLATE_NOOP("Kestrune", "Restore starts every service that Optimize has disabled and sets it to automatic: a service that used to start on demand or with a delay now starts automatically."),
+    QT_TRANSLATE_NOOP("Kestrune", "Optimize does not record services that it sets to manual, so Restore doesn't know of them."),
+    QT_TRANSLATE_NOOP("Kestrune", "Restore enables only the tasks that Optimize has recorded."),
+    QT_TRANSLATE_NOOP("Kestrune", "Restore re-registers the app from its files, as Windows itself does for a new user."),
+    QT_TRANSLATE_NOOP("Kestrune", "The app comes back as newly installed, without what it had stored."),
+    QT_TRANSLATE_NOOP("Kestrune", "Restore re-registers an app from its files, which could not be found."),
+    QT_TRANSLATE_NOOP("Kestrune", "The saved command is cut at its first \"=\", so the program starts without the rest of its arguments."),
+    QT_TRANSLATE_NOOP("Kestrune", "Restore brings back only a command whose program is in quotation marks and exists on the disk."),
+    QT_TRANSLATE_NOOP("Kestrune", "Restore doesn't know what you had: it writes a fixed value, mostly Windows' default, or deletes it."),
+    QT_TRANSLATE_NOOP("Kestrune", "Restore doesn't reset this option, or not all of its values."),
+    QT_TRANSLATE_NOOP("Kestrune", "The option was already as Optimize wants it, or isn't one that Optimize uses; Restore resets it anyway."),
+    QT_TRANSLATE_NOOP("Kestrune", "Restore doesn't touch this file."),
+    QT_TRANSLATE_NOOP("Kestrune", "Restore doesn't touch this value."),
 };
 // clang-format on
 
@@ -100,9 +152,43 @@ QString sideText(const QJsonValue &side)
     if (!side.isString())
         return Kestrune::tr("not there");
     QStringList words = side.toString().split(", "_L1);
-    for (QString &word : words)
-        word = knownText(word, sideWords);
+    for (QString &word : words) {
+        const QString number = word.section(u' ', 0, 0);
+        bool isCount = false;
+        number.toInt(&isCount);
+        word = isCount ? knownText(u"%1"_s + word.sliced(number.size()), countWords).replace("%1"_L1, number)
+                       : knownText(word, sideWords);
+    }
     return words.join(", "_L1);
+}
+
+/** What an item or a detail is called; a boot option by its name. */
+QString titleText(const QString &title)
+{
+    constexpr QLatin1StringView bootOption("boot option ");
+    return title.startsWith(bootOption, Qt::CaseInsensitive)
+               ? Kestrune::tr("Boot option %1").arg(title.sliced(bootOption.size()))
+               : knownText(title, titleWords);
+}
+
+/** Why something comes back as it does, and what is known of that. */
+QString reasonText(const QString &why)
+{
+    for (const char *each : reasons) {
+        const QLatin1StringView reason(each);
+        if (why.startsWith(reason)) {
+            const QString more = why.sliced(reason.size()).trimmed();
+            return more.isEmpty() ? Kestrune::tr(each) : Kestrune::tr(each) + u' ' + translatedText(more);
+        }
+    }
+    return translatedText(why);
+}
+
+/** The text of a box without its second line, and without what stands in brackets. */
+QString shortened(const QString &text)
+{
+    static const QRegularExpression brackets(u"\\s*[(（].*"_s, QRegularExpression::DotMatchesEverythingOption);
+    return text.section(u'\n', 0, 0).remove(brackets);
 }
 
 void setSides(QTreeWidgetItem *row, const QJsonObject &sides)
@@ -115,15 +201,18 @@ void setSides(QTreeWidgetItem *row, const QJsonObject &sides)
         row->setToolTip(column, row->text(column).toHtmlEscaped());
 }
 
-/** Its name, what it is there for, and why it comes back as it does. */
-QString explanationOf(const QJsonObject &item)
+/** Its name, what it is there for, what stops working without it, and why it comes back as it does. */
+QString explanationOf(const QJsonObject &item, bool isEnglish)
 {
     QStringList lines;
-    for (const QLatin1StringView part : {"name"_L1, "about"_L1, "why"_L1}) {
-        if (const QString text = item.value(part).toString();
-            !text.isEmpty() && text != item.value("title"_L1).toString())
-            lines.append(translatedText(text)); // what is known of an option is the tool tip of its box
-    }
+    if (const QString name = item.value("name"_L1).toString(); name != item.value("title"_L1).toString())
+        lines.append(name);
+    lines.append(translatedText(item.value("about"_L1).toString())); // of an option: the tool tip of its box
+    // There are hundreds of these, and in English only.
+    if (const QString without = item.value("without"_L1).toString(); isEnglish && !without.isEmpty())
+        lines.append(u"Without it: "_s + without);
+    lines.append(reasonText(item.value("why"_L1).toString()));
+    lines.removeAll(QString());
     return lines.join(u'\n');
 }
 
@@ -145,8 +234,9 @@ bool showMatching(QTreeWidgetItem *row, const QString &text)
 
 } // namespace
 
-PreviewDialog::PreviewDialog(const PreviewPlace &place, const QStringList &options, QWidget *parent)
-    : QDialog(parent)
+PreviewDialog::PreviewDialog(const PreviewPlace &place, const QStringList &options, Kestrune *window)
+    : QDialog(window)
+    , window_(window)
     , run_(new PreviewRun(place, this))
     , isWhole_(place.isWhole)
 {
@@ -282,13 +372,22 @@ QTreeWidgetItem *PreviewDialog::groupOf(const QString &title)
     return group;
 }
 
+QString PreviewDialog::itemTitle(const QJsonObject &item) const
+{
+    for (const TweakBox &box : tweakBoxes()) {
+        if (knowledgeOf(box.name).tip == item.value("about"_L1).toString())
+            return shortened(window_->findChild<QCheckBox *>(box.name)->text());
+    }
+    return titleText(item.value("title"_L1).toString());
+}
+
 void PreviewDialog::addItem(QTreeWidgetItem *group, const QJsonObject &item)
 {
-    auto *row = new QTreeWidgetItem(group, {translatedText(item.value("title"_L1).toString())});
-    row->setData(What, explanationRole, explanationOf(item));
+    auto *row = new QTreeWidgetItem(group, {itemTitle(item)});
+    row->setData(What, explanationRole, explanationOf(item, window_->currentLang.startsWith("en"_L1)));
     setSides(row, item);
     for (const QJsonValue &each : item.value("details"_L1).toArray()) {
-        auto *detail = new QTreeWidgetItem(row, {each["what"_L1].toString()});
+        auto *detail = new QTreeWidgetItem(row, {titleText(each["what"_L1].toString())});
         detail->setData(What, explanationRole, each["place"_L1].toString());
         setSides(detail, each.toObject());
     }

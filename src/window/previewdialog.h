@@ -7,6 +7,7 @@
 
 #include <QDialog>
 
+class Kestrune;
 class QJsonObject;
 class QLabel;
 class QLineEdit;
@@ -24,7 +25,7 @@ public:
      * Begins to look.
      * @param options of Optimize, as `kestrune-rehearse preview` takes them
      */
-    PreviewDialog(const PreviewPlace &place, const QStringList &options, QWidget *parent);
+    PreviewDialog(const PreviewPlace &place, const QStringList &options, Kestrune *window);
 
     /** Cancels what is under way; closes where nothing is. */
     void reject() override;
@@ -35,12 +36,15 @@ private:
     void onFinished();
     /** Lists what previewJson() has told. */
     void show(const QJsonObject &preview);
+    /** What a person calls it; an option by its box. */
+    QString itemTitle(const QJsonObject &item) const;
     void addItem(QTreeWidgetItem *group, const QJsonObject &item);
     QTreeWidgetItem *groupOf(const QString &title);
     /** Shows the rows with the text in any column, and those above them. */
     void search(const QString &text);
     void explainCurrent();
 
+    Kestrune *window_;
     PreviewRun *run_;
     const bool isWhole_;
     bool isRunning_ = true;

@@ -206,6 +206,7 @@ private Q_SLOTS:
     void planIsWhatApplyDoesAndDiffFinds_data();
     void planIsWhatApplyDoesAndDiffFinds();
     void planTakesBackByTheJournal();
+    void reportsTellWhatStopsWorking();
     void planLeavesWhatWasDoneBefore();
     void manyPcsAreTriedInOneTable();
     void aProfileIsTriedOnACapturedPc();
@@ -357,6 +358,32 @@ void TestCli::planTakesBackByTheJournal()
     QCOMPARE(pc.allDifferences(), QStringList());
 }
 
+void TestCli::reportsTellWhatStopsWorking()
+{
+    Pc pc(u"windows11"_s);
+    const QString file = pc.profile({{u"services"_s, QJsonArray{u"Spooler"_s}}});
+    const auto toldOf = [](const QJsonObject &document, const QString &name) {
+        for (const QJsonValue item : document[u"items"_s].toArray()) {
+            if (item[u"name"_s] == name)
+                return item[u"without"_s].toString();
+        }
+        return u"there is no such item"_s;
+    };
+    const QJsonObject plan = pc.json({u"plan"_s, u"--profile"_s, file});
+    QCOMPARE(toldOf(plan, u"Spooler"_s), u"No printing, not even to PDF."_s);
+    // What stays, but doesn't start by itself, isn't switched off.
+    QCOMPARE(toldOf(plan, u"Wcmsvc"_s), QString());
+    QCOMPARE(toldOf(plan, u"ssd1"_s), QString());
+    const QByteArray line = "\tSpooler\tdisabled\tWithout it: No printing, not even to PDF.\n";
+    for (const auto &[command, state] : {std::pair{u"plan"_s, "would change"},
+                                         {u"status"_s, "not in force"},
+                                         {u"apply"_s, "in force"},
+                                         {u"status"_s, "in force"}}) {
+        const QByteArray text = pc.run({command, u"--profile"_s, file}).output;
+        QVERIFY2(text.contains(QByteArray(state) + "\tservice" + line), text.constData());
+    }
+}
+
 void TestCli::planLeavesWhatWasDoneBefore()
 {
     Pc pc(u"windows11"_s);
@@ -390,9 +417,10 @@ void TestCli::manyPcsAreTriedInOneTable()
         {u"preview"_s, u"--all"_s, place.path(), u"--profile"_s, profile, u"--json"_s, json, u"--html"_s, page});
     QCOMPARE(ended.exitCode, notAsWished); // the third one
     const QList<QByteArray> lines = ended.output.trimmed().split('\n');
-    QCOMPARE(lines.size(), 4);
-    QVERIFY(lines.at(0).startsWith("PC "));
-    QVERIFY2(lines.at(3).startsWith("third   not tried: ") && lines.at(3).endsWith("damaged"), lines.at(3).constData());
+    QCOMPARE(lines.size(), 5);
+    QCOMPARE(QString::fromUtf8(lines.at(0)), page);
+    QVERIFY(lines.at(1).startsWith("PC "));
+    QVERIFY2(lines.at(4).startsWith("third   not tried: ") && lines.at(4).endsWith("damaged"), lines.at(4).constData());
     const QJsonArray pcs = QJsonDocument::fromJson(readFile(json))[u"pcs"_s].toArray();
     QCOMPARE(pcs.size(), 3);
     for (int i = 0; i < names.size(); ++i) {
@@ -402,7 +430,7 @@ void TestCli::manyPcsAreTriedInOneTable()
         QCOMPARE(pcs.at(i)[u"plan"_s].toObject(), QJsonDocument::fromJson(plan.output).object());
         const int changes = static_cast<int>(changedItems(pcs.at(i)[u"plan"_s].toObject()).size());
         int sum = 0;
-        const QList<QByteArray> cells = lines.at(i + 1).simplified().split(' ');
+        const QList<QByteArray> cells = lines.at(i + 2).simplified().split(' ');
         QCOMPARE(cells.constFirst(), names.at(i).toUtf8());
         for (int cell = 1; cell <= 6; ++cell)
             sum += cells.at(cell).toInt();

@@ -69,6 +69,8 @@ private Q_SLOTS:
     void sortedByGroupAndTitle();
     void textTellsCountsAndSides();
     void jsonHoldsEverything();
+    void reportsTellWhatStopsWorking();
+    void undoIsToldOfWhereItIsOfUse();
     void pageIsEscapedAndNeedsNothingElse();
 };
 
@@ -229,9 +231,9 @@ void TestPreview::optionAsAWholeIsAppliedOrNot_data()
 
     const QString own = u"your setting"_s;
     QTest::newRow("back") << 1U << 0U << QStringList{own, u"applied"_s, own};
-    QTest::newRow("a default") << 1U << 7U << QStringList{own, u"applied"_s, u"a default"_s};
+    QTest::newRow("a default") << 1U << 7U << QStringList{own, u"applied"_s, u"a fixed value"_s};
     QTest::newRow("stays") << 1U << 1U << QStringList{own, u"applied"_s, u"applied"_s};
-    QTest::newRow("only restored") << 0U << 7U << QStringList{own, own, u"a default"_s};
+    QTest::newRow("only restored") << 0U << 7U << QStringList{own, own, u"a fixed value"_s};
 }
 
 void TestPreview::optionAsAWholeIsAppliedOrNot()
@@ -331,6 +333,7 @@ void TestPreview::ownRecordsStandApartAndDoNotCount()
 
     const QList<PreviewItem> items = three.items();
     QCOMPARE(onlyItem(items).group, PreviewGroup::Records);
+    QVERIFY(previewText(items).contains(u"as now -> written -> as before\n"_s));
     QVERIFY(previewText(items).startsWith(u"    0 come back exactly\n"_s));
 }
 
@@ -372,6 +375,55 @@ void TestPreview::jsonHoldsEverything()
     const QJsonObject detail = item[u"details"_s].toArray().at(0).toObject();
     QVERIFY(detail[u"before"_s].isNull());
     QCOMPARE(detail[u"optimized"_s].toString(), u"dword 2"_s);
+}
+
+void TestPreview::reportsTellWhatStopsWorking()
+{
+    const QString package = WindowsKey::userPackages + u"\\Microsoft.WindowsCamera_1_x64__8wekyb3d8bbwe"_s;
+    const QString document = u"<Task><Settings><Enabled>%1</Enabled></Settings></Task>"_s;
+    const QString task = u"\\Microsoft\\Windows\\Defrag\\ScheduledDefrag"_s;
+    Three three;
+    for (const QString &service : {u"Spooler"_s, u"Sample"_s}) {
+        three.everywhere([&](Machine &machine) { setNumber(machine, servicesKey + service, u"Start"_s, 2); });
+        setNumber(*three.optimized, servicesKey + service, u"Start"_s, 4);
+    }
+    three.everywhere([&](Machine &machine) { machine.setTask({task, document.arg(u"true"_s)}); });
+    three.optimized->setTask({task, document.arg(u"false"_s)});
+    setText(*three.before, package, u"DisplayName"_s, u"Camera"_s);
+
+    const QList<PreviewItem> items = three.items();
+    QMap<QString, QString> told;
+    for (const QJsonValue item : QJsonDocument::fromJson(previewJson(items))[u"items"_s].toArray())
+        told.insert(item[u"name"_s].toString(), item[u"without"_s].toString());
+    QCOMPARE(told.size(), 4);
+    QCOMPARE(told.value(u"Spooler"_s), u"No printing, not even to PDF."_s);
+    QVERIFY(told.contains(u"Sample"_s) && told.value(u"Sample"_s).isEmpty());
+    QVERIFY(told.value(task).contains(u"optimized"_s));
+    QVERIFY(told.value(u"Microsoft.WindowsCamera"_s).contains(u"camera"_s));
+    QVERIFY(previewText(items).contains(u"\n      Without it: No printing, not even to PDF.\n"_s));
+    const QString page = previewHtml(items, u"pc"_s);
+    QVERIFY(page.contains(u"<small class=\"without\">Without it: No printing, not even to PDF.</small>"_s));
+    QCOMPARE(page.count(u"Without it"_s), 3);
+}
+
+void TestPreview::undoIsToldOfWhereItIsOfUse()
+{
+    const auto tells = [](Three &three, PreviewWay way, bool offersUndo) {
+        return previewHtml(three.items(), u"pc"_s, way, offersUndo).contains(u"--undo"_s);
+    };
+    Three lost;
+    setNumber(*lost.optimized, otherKey, u"x"_s, 2);
+    setNumber(*lost.restored, otherKey, u"x"_s, 2);
+    QVERIFY(tells(lost, PreviewWay::OptimizeAndRestore, true));
+    QVERIFY(!tells(lost, PreviewWay::OptimizeAndRestore, false));
+    Three back;
+    setNumber(*back.optimized, otherKey, u"x"_s, 2);
+    // Keys are left by looks at them, as Kestrune's own records are.
+    setNumber(*back.optimized, u"HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale"_s, u"optimized"_s, 1);
+    setNumber(*back.restored, u"HKEY_CURRENT_USER\\Software\\Kestrune\\Ondrevale"_s, u"optimized"_s, 1);
+    back.restored->registry().make(otherKey);
+    back.before->registry().make(otherKey);
+    QVERIFY(!tells(back, PreviewWay::OptimizeAndRestore, true));
 }
 
 void TestPreview::pageIsEscapedAndNeedsNothingElse()

@@ -2,6 +2,7 @@
 // The texts of all languages against those of the sources, which lupdate reads out of them.
 
 #include "support/suite.h"
+#include "work/knowledge.h"
 #include "work/tweaks/tweakcatalogue.h"
 
 #include <QCoreApplication>
@@ -144,9 +145,11 @@ void TestTranslations::initTestCase()
             sources_.append(source);
     }
     QVERIFY(sources_.size() > 200);
-    // What the tool tips of the Features page say stands in a table of its own.
-    for (const TweakBox &box : tweakBoxes())
+    // What the tool tips of the Features page say, and the preview of the same options, stands in a table of its own.
+    for (const TweakBox &box : tweakBoxes()) {
         sources_.append({u"Kestrune"_s, knowledgeOf(box.name).tip});
+        sources_.append({u"Kestrune"_s, knowledgeOf(box.name).takingBack});
+    }
 }
 
 void TestTranslations::addLanguages()

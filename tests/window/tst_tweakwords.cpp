@@ -4,6 +4,7 @@
 #include "preview/previewwords.h"
 #include "support/suite.h"
 #include "ui_kestrune.h"
+#include "work/knowledge.h"
 #include "work/tweaks/tweakcatalogue.h"
 
 #include <QApplication>

@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Tests of what the program knows about services and tasks: each list stands here a second time, as one text.
+// Tests of what the program knows about services and tasks: each list stands here a second time, as one text. And of
+// what it knows to stop working without each of them, and without each package.
 
 #include "support/suite.h"
 #include "work/keepfeatures.h"
+#include "work/knowledge.h"
+#include "work/packages/packages.h"
 #include "work/services/services.h"
 #include "work/tasks/tasks.h"
 
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QSet>
 #include <QTest>
 
@@ -76,6 +82,10 @@ private Q_SLOTS:
     void allFeaturesAddTheirServicesInOrder();
     void addingAgainGrowsTheListWithDuplicates();
     void givingUpAFeatureAddsNothingByItself();
+    void eachNameIsKnownAndNoOther_data();
+    void eachNameIsKnownAndNoOther();
+    void taskIsKnownByItsPath();
+    void ofOthersNothingIsKnown();
 };
 
 void TestServiceCatalogue::eachListHasExactlyItsNames_data()
@@ -245,6 +255,67 @@ void TestServiceCatalogue::givingUpAFeatureAddsNothingByItself()
     WorkThread worker;
     worker.keepPrinter = 0;
     QVERIFY(!worker.nonVitalServices.contains(u"Spooler"_s));
+}
+
+void TestServiceCatalogue::eachNameIsKnownAndNoOther_data()
+{
+    addColumns<QString, QStringList>("part", "names");
+    QStringList services =
+        criticalServices + nonVitalServiceNames() + manualStartServiceNames() + startModeBackupExclusions();
+    QStringList tasks = nonVitalTaskNames();
+    for (const QString &prefix : nonVitalTaskPrefixes())
+        tasks.append(prefix + u'*');
+    QStringList packages = removablePackageNames() << oneDriveName;
+    for (QString &name : packages)
+        name.remove(u'!'); // people may still name one that the list leaves out
+    for (const KeepFeature &feature : keepFeatures) {
+        services += feature.services;
+        tasks += feature.tasks;
+        packages += feature.packages;
+    }
+    QTest::newRow("services") << u"services"_s << services;
+    QTest::newRow("tasks") << u"tasks"_s << tasks;
+    QTest::newRow("packages") << u"packages"_s << packages;
+}
+
+void TestServiceCatalogue::eachNameIsKnownAndNoOther()
+{
+    QFETCH(const QString, part);
+    QFETCH(const QStringList, names);
+    QFile file(QStringLiteral(KESTRUNE_KNOWLEDGE));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonObject known = QJsonDocument::fromJson(file.readAll())[part].toObject();
+    const QStringList knownNames = known.keys();
+    QCOMPARE(QSet(knownNames.cbegin(), knownNames.cend()), QSet(names.cbegin(), names.cend()));
+    QSet<QString> sentences;
+    for (const QString &name : names) {
+        const QString sentence = known.value(name).toString();
+        QVERIFY2(sentence.endsWith(u'.') && sentence == sentence.simplified(), qPrintable(name));
+        sentences.insert(sentence);
+        QCOMPARE(part == "services"_L1 ? withoutService(name)
+                 : part == "tasks"_L1  ? withoutTask(name)
+                                       : withoutPackage(name),
+                 sentence);
+    }
+    QCOMPARE(sentences.size(), known.size()); // one that stands for two things tells of neither
+}
+
+void TestServiceCatalogue::taskIsKnownByItsPath()
+{
+    QCOMPARE(withoutTask(u"\\Microsoft\\Windows\\Defrag\\SCHEDULEDDEFRAG"_s), withoutTask(u"ScheduledDefrag"_s));
+    const QString update = u"MicrosoftEdgeUpdateTaskMachine"_s;
+    QCOMPARE(withoutTask(u'\\' + update + u"Core"_s), withoutTask(update + u"Core"_s));
+    QCOMPARE(withoutTask(u'\\' + update + u"Core{5-1}"_s), withoutTask(update + u'*'));
+    QCOMPARE(withoutTask(u"\\OneDrive Startup Task-S-1-5-21"_s), withoutTask(u"OneDrive*"_s));
+}
+
+void TestServiceCatalogue::ofOthersNothingIsKnown()
+{
+    QCOMPARE(withoutService(u"ScheduledDefrag"_s), QString());
+    QCOMPARE(withoutService(QString()), QString());
+    QCOMPARE(withoutTask(u"\\Vendor\\My OneDrive"_s), QString());
+    QCOMPARE(withoutPackage(u"Microsoft.Paint"_s), QString());
+    QCOMPARE(withoutService(u"SPOOLER"_s), withoutService(u"Spooler"_s));
 }
 
 KESTRUNE_SUITE(TestServiceCatalogue)

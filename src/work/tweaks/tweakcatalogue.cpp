@@ -2,15 +2,9 @@
 
 #include "tweakcatalogue.h"
 
-#include "options.json.h"
 #include "work/interruption.h"
 #include "work/windowsname.h"
 #include "work/wmi.h"
-
-#include <QHash>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include <algorithm>
 
@@ -71,19 +65,6 @@ constexpr TweakBox boxes[] = {
 bool isFirstCardOfAmd()
 {
     return firstDisplayAdapter().value_or(QString()).contains("AMD"_L1, Qt::CaseInsensitive);
-}
-
-/** From resources/knowledge/options.json, which the program carries. */
-QHash<QString, TweakKnowledge> readKnowledge()
-{
-    const QByteArray text = QByteArray::fromRawData(optionsJson.data(), optionsJson.size());
-    const QJsonDocument document = QJsonDocument::fromJson(text);
-    QHash<QString, TweakKnowledge> knowledge;
-    for (const QJsonValue option : document[u"options"_s].toArray()) {
-        knowledge.insert(option[u"box"_s].toString(),
-                         {option[u"tip"_s].toString(), option[u"takingBack"_s].toString()});
-    }
-    return knowledge;
 }
 
 } // namespace
@@ -148,10 +129,4 @@ void restoreGroup(WorkThread &worker, TweakRoutine group, quint32 last)
             (worker.*group)(0, id);
         pauseFor(settleDelay);
     }
-}
-
-TweakKnowledge knowledgeOf(const QString &box)
-{
-    static const QHash<QString, TweakKnowledge> knowledge = readKnowledge();
-    return knowledge.value(box);
 }

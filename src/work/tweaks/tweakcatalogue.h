@@ -50,16 +50,6 @@ const TweakBox *findTweak(TweakRoutine group, quint32 id);
 /** Whether it takes effect at a restart only. */
 bool needsReboot(TweakRoutine group, quint32 id, const WorkThread &worker);
 
-/** What is known of a tweak, in English: the window translates what it shows of it. */
-struct TweakKnowledge
-{
-    QString tip;        ///< what it does on today's Windows, and what it costs, in a few short sentences
-    QString takingBack; ///< what taking it back leaves, in a sentence
-};
-
-/** Empty texts for a name that no box has. */
-TweakKnowledge knowledgeOf(const QString &box);
-
 /**
  * A run of the Automatizer through one group: by one column, the numbers 1 to @p last in their order, with a pause
  * after each, also after one that doesn't run or isn't there. Throws JobInterrupted.
