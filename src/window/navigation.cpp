@@ -172,12 +172,12 @@ bool Kestrune::eventFilter(QObject *watched, QEvent *event)
 
 void Kestrune::explainButtons()
 {
-    ui.btnAutomatize->setToolTip(
-        wrappedText(tr("Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it "
-                       "stops there: what is changed by then stays changed.")));
-    ui.btnPackagesUninst->setToolTip(
-        wrappedText(tr("Acts on all checked packages at once, without asking. The list stays as it is until the page "
-                       "is shown again.")));
+    ui.btnAutomatize->setToolTip(wrappingToolTip(
+        tr("Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it "
+           "stops there: what is changed by then stays changed.")));
+    ui.btnPackagesUninst->setToolTip(wrappingToolTip(
+        tr("Acts on all checked packages at once, without asking. The list stays as it is until the page "
+           "is shown again.")));
 }
 
 void Kestrune::prepareForm()

@@ -41,6 +41,12 @@ QString wrappedText(const QString &text)
     return text.size() > longText ? u"<span>"_s + shown + u"</span>"_s : shown;
 }
 
+QString wrappingToolTip(const QString &text)
+{
+    constexpr int longText = 50; // of letters that may be twice as wide as others
+    return text.size() > longText ? escaped(text) : text;
+}
+
 QString plainToolTip(const QString &text)
 {
     return Qt::mightBeRichText(text) ? escaped(text) : text;

@@ -15,6 +15,10 @@ class QTableWidgetItem;
  */
 QString wrappedText(const QString &text);
 
+/** A text of our own as a tool tip: as rich text where it is long, so that it wraps, also in a script of wide letters.
+ */
+QString wrappingToolTip(const QString &text);
+
 /** A text as a tool tip that shows it as it is, whatever it looks like. */
 QString plainToolTip(const QString &text);
 

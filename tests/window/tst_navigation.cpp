@@ -335,6 +335,8 @@ void TestNavigation::buttonsTellWhatCantBeSeen()
     machine.write(settingsKey, u"lang"_s, u"en"_s);
     const WindowDriver driver;
     QVERIFY(driver.button(u"btnAutomatize"_s)->toolTip().contains(u"close the window"_s));
+    for (const QString &name : {u"btnAutomatize"_s, u"btnPackagesUninst"_s})
+        QVERIFY(Qt::mightBeRichText(driver.button(name)->toolTip())); // which wraps
     QVERIFY(driver.button(u"btnPackagesUninst"_s)->toolTip().contains(u"without asking"_s));
     driver.window().showPage(7);
     driver.get<QComboBox>(u"cbOptionsLang"_s)->setCurrentIndex(1);
