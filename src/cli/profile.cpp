@@ -2,6 +2,7 @@
 
 #include "profile.h"
 
+#include "console/printable.h"
 #include "work/keepfeatures.h"
 #include "work/packages/packages.h"
 #include "work/services/services.h"
@@ -11,7 +12,6 @@
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -20,6 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int formatVersion = 1;
+constexpr qsizetype mostTexts = 1000; ///< in one array, all of which are compared with each other
 
 /** "line:column" of a byte. */
 QString jsonPlace(const QByteArray &json, qsizetype offset)
@@ -28,7 +29,7 @@ QString jsonPlace(const QByteArray &json, qsizetype offset)
     return u"%1:%2"_s.arg(before.count('\n') + 1).arg(before.size() - before.lastIndexOf('\n'));
 }
 
-/** Where the parts of a document stand that is known to be JSON. */
+/** Where the parts of a document stand that is known to be JSON, down to the deepest ones of a profile. */
 class JsonPlaces
 {
 public:
@@ -43,15 +44,21 @@ public:
     QStringList twice() const { return twice_; }
 
 private:
-    void readValue(const QString &path);
-    void readObject(const QString &path);
-    void readArray(const QString &path);
+    static constexpr int deepest = 2; ///< levels of a path
+
+    void readValue(const QString &path, int level);
+    void readObject(const QString &path, int level);
+    void readArray(const QString &path, int level);
     QString readText();
     void skipBlanks();
-    QString here() const;
+    QString here();
 
     const QByteArray json_;
     qsizetype at_ = 0;
+    // Of what has been counted so far: the place moves on and never back.
+    qsizetype counted_ = 0;
+    qsizetype line_ = 1;
+    qsizetype lineStart_ = 0;
     QHash<QString, QString> places_;
     QStringList twice_;
 };
@@ -59,12 +66,18 @@ private:
 JsonPlaces::JsonPlaces(const QByteArray &json)
     : json_(json)
 {
-    readValue({});
+    readValue({}, 0);
 }
 
-QString JsonPlaces::here() const
+QString JsonPlaces::here()
 {
-    return jsonPlace(json_, at_);
+    for (; counted_ < std::min(at_, json_.size()); ++counted_) {
+        if (json_.at(counted_) == '\n') {
+            ++line_;
+            lineStart_ = counted_ + 1;
+        }
+    }
+    return u"%1:%2"_s.arg(line_).arg(at_ - lineStart_ + 1);
 }
 
 void JsonPlaces::skipBlanks()
@@ -73,16 +86,16 @@ void JsonPlaces::skipBlanks()
         ++at_;
 }
 
-void JsonPlaces::readValue(const QString &path)
+void JsonPlaces::readValue(const QString &path, int level)
 {
     skipBlanks();
-    if (!places_.contains(path))
+    if (level <= deepest && !places_.contains(path))
         places_.insert(path, here());
     const char first = at_ < json_.size() ? json_.at(at_) : '\0';
     if (first == '{') {
-        readObject(path);
+        readObject(path, level);
     } else if (first == '[') {
-        readArray(path);
+        readArray(path, level);
     } else if (first == '"') {
         readText();
     } else {
@@ -91,18 +104,22 @@ void JsonPlaces::readValue(const QString &path)
     }
 }
 
-void JsonPlaces::readObject(const QString &path)
+void JsonPlaces::readObject(const QString &path, int level)
 {
     ++at_;
     for (skipBlanks(); at_ < json_.size() && json_.at(at_) != '}'; skipBlanks()) {
         const QString place = here();
-        const QString key = path + u'/' + readText();
-        if (places_.contains(key))
-            twice_.append(key);
-        places_.insert(key, place);
+        const QString name = readText();
+        QString key;
+        if (level < deepest) {
+            key = path + u'/' + name;
+            if (places_.contains(key))
+                twice_.append(key);
+            places_.insert(key, place);
+        }
         skipBlanks();
         ++at_; // the colon
-        readValue(key);
+        readValue(key, level + 1);
         skipBlanks();
         if (at_ < json_.size() && json_.at(at_) == ',')
             ++at_;
@@ -110,12 +127,12 @@ void JsonPlaces::readObject(const QString &path)
     ++at_;
 }
 
-void JsonPlaces::readArray(const QString &path)
+void JsonPlaces::readArray(const QString &path, int level)
 {
     ++at_;
     qsizetype index = 0;
     for (skipBlanks(); at_ < json_.size() && json_.at(at_) != ']'; skipBlanks()) {
-        readValue(path + u'/' + QString::number(index));
+        readValue(level < deepest ? path + u'/' + QString::number(index) : QString(), level + 1);
         ++index;
         skipBlanks();
         if (at_ < json_.size() && json_.at(at_) == ',')
@@ -181,6 +198,39 @@ bool isKnownStartup(const QString &)
 QString withoutBackslash(const QString &path)
 {
     return path.startsWith(u'\\') ? path.sliced(1) : path;
+}
+
+/** Letters as names are compared, without regard to case; each stays one. */
+QList<uint> foldedLetters(const QString &text)
+{
+    QList<uint> letters = text.toUcs4();
+    for (uint &letter : letters)
+        letter = QChar::toCaseFolded(letter);
+    return letters;
+}
+
+/** Whether a pattern means a name: "*" stands for any letters, "?" for one. A backslash is a letter like any other. */
+bool meansName(const QList<uint> &pattern, const QList<uint> &name)
+{
+    qsizetype at = 0;
+    qsizetype done = 0;  // of the name
+    qsizetype star = -1; // the last one, and
+    qsizetype end = 0;   // where what it stands for ends so far: an earlier one needn't take more
+    while (done < name.size()) {
+        if (at < pattern.size() && pattern.at(at) == u'*') {
+            star = at++;
+            end = done;
+        } else if (at < pattern.size() && (pattern.at(at) == u'?' || pattern.at(at) == name.at(done))) {
+            ++at;
+            ++done;
+        } else if (star >= 0) {
+            at = star + 1;
+            done = ++end;
+        } else {
+            return false;
+        }
+    }
+    return std::all_of(pattern.cbegin() + at, pattern.cend(), [](uint letter) { return letter == u'*'; });
 }
 
 struct NamesRow
@@ -258,7 +308,10 @@ public:
     }
 
 private:
-    void add(const QString &place, const QString &what) { mistakes_.append(fileName_ + u':' + place + u": "_s + what); }
+    void add(const QString &place, const QString &what)
+    {
+        mistakes_.append(fileName_ + u':' + place + u": "_s + printable(what));
+    }
     void complain(const QString &path, const QString &what) { add(places_->of(path), what); }
 
     void checkKeys()
@@ -326,6 +379,13 @@ private:
         return switches;
     }
 
+    /** An array of the document; empty where there is none, or one that is too long. */
+    QJsonArray arrayOf(const QString &key) const
+    {
+        const QJsonArray array = root_.value(key).toArray();
+        return array.size() > mostTexts ? QJsonArray() : array;
+    }
+
     QStringList readTexts(const QString &key)
     {
         QStringList texts;
@@ -334,7 +394,9 @@ private:
             return texts;
         if (!value.isArray())
             complain(u'/' + key, u"must be an array of texts"_s);
-        const QJsonArray array = value.toArray();
+        if (value.toArray().size() > mostTexts)
+            complain(u'/' + key, u"must have at most %1 texts"_s.arg(mostTexts));
+        const QJsonArray array = arrayOf(key);
         for (qsizetype i = 0; i < array.size(); ++i) {
             const QString path = u"/%1/%2"_s.arg(key).arg(i);
             const QString text = array.at(i).toString();
@@ -352,7 +414,6 @@ private:
     {
         for (const NamesRow &row : namesRows) {
             const QStringList names = readTexts(row.key);
-            const QJsonArray array = root_.value(row.key).toArray();
             for (const QString &name : names) {
                 const bool isKnown = row.isKnown(name) || (isOnPc_ != nullptr && isOnPc_(row.key, name));
                 if (!isKnown)
@@ -367,7 +428,7 @@ private:
     /** The place of a name in an array. */
     QString pathOf(const QString &key, const QString &name) const
     {
-        const QJsonArray array = root_.value(key).toArray();
+        const QJsonArray array = arrayOf(key);
         qsizetype index = 0;
         while (index < array.size() && array.at(index).toString() != name)
             ++index;
@@ -377,7 +438,7 @@ private:
     void checkContradictions()
     {
         for (const NamesRow &row : namesRows) {
-            const QJsonArray array = root_.value(row.key).toArray();
+            const QJsonArray array = arrayOf(row.key);
             for (qsizetype i = 0; i < array.size(); ++i) {
                 const QString name = array.at(i).toString();
                 if (!name.isEmpty() && profile_.isLeftAlone(name))
@@ -437,6 +498,7 @@ QJsonObject textsSchema(const QString &description)
     return {{u"description"_s, description},
             {u"type"_s, u"array"_s},
             {u"uniqueItems"_s, true},
+            {u"maxItems"_s, int(mostTexts)},
             {u"items"_s, QJsonObject{{u"type"_s, u"string"_s}, {u"minLength"_s, 1}}}};
 }
 
@@ -466,15 +528,9 @@ bool Profile::leavesOut() const
 
 bool Profile::isLeftAlone(const QString &name) const
 {
-    return std::any_of(never.cbegin(), never.cend(), [&name](const QString &pattern) {
-        // A backslash parts nothing here: it is a letter like any other.
-        QString expression = QRegularExpression::escape(withoutBackslash(pattern));
-        expression.replace(u"\\*"_s, u".*"_s).replace(u"\\?"_s, u"."_s);
-        static constexpr auto options =
-            QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption;
-        return QRegularExpression(QRegularExpression::anchoredPattern(expression), options)
-            .match(withoutBackslash(name))
-            .hasMatch();
+    const QList<uint> letters = foldedLetters(withoutBackslash(name));
+    return std::any_of(never.cbegin(), never.cend(), [&letters](const QString &pattern) {
+        return meansName(foldedLetters(withoutBackslash(pattern)), letters);
     });
 }
 

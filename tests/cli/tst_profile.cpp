@@ -31,7 +31,9 @@ private Q_SLOTS:
     void namesMistakes_data();
     void namesMistakes();
     void allMistakesAreTold();
+    void longListsAreRefused();
     void neverTakesWildcards();
+    void manyWildcardsHideNothing();
     void whatLeavesSomethingOut();
     void theTemplateHasNoMistake();
     void theSchemaKnowsTheKeysOfTheTemplate();
@@ -102,6 +104,8 @@ void TestProfile::namesMistakes_data()
         "{\"formatVersion\": 1, \"keep\": {\"printer\": true}, \"services\": [\"Spooler\"]}",
         u"p.json:1:62: 'Spooler' belongs to 'printer', which is kept"_s);
     row("user", "{\"formatVersion\": 1, \"user\": \"me\"}", u"p.json:1:22: must be \"refuse\" or \"skip\""_s);
+    row("line break in a name", "{\"formatVersion\": 1, \"services\": [\"a\\nb\"]}",
+        u"p.json:1:35: no catalogue knows the service 'a\\nb'"_s);
     row("escaped key", "{\"formatVersion\": 1, \"a\\\"b\": 1}", u"p.json:1:22: unknown key 'a\"b'"_s);
 }
 
@@ -122,15 +126,40 @@ void TestProfile::allMistakesAreTold()
     QCOMPARE(mistakes.size(), 5);
 }
 
+void TestProfile::longListsAreRefused()
+{
+    const auto mistakesOf = [](int count) {
+        QStringList names;
+        for (int i = 0; i < count; ++i)
+            names.append(u"\"a%1\""_s.arg(i));
+        ProfileMistakes mistakes;
+        parsed("{\"formatVersion\": 1, \"startup\": [" + names.join(u',').toUtf8() + "]}", mistakes);
+        return mistakes;
+    };
+    QCOMPARE(mistakesOf(1000), ProfileMistakes());
+    QCOMPARE(mistakesOf(1001), ProfileMistakes{u"p.json:1:22: must have at most 1000 texts"_s});
+}
+
 void TestProfile::neverTakesWildcards()
 {
     Profile profile;
-    profile.never = {u"Xbl*"_s, u"\\Microsoft\\Windows\\Printing\\*"_s, u"ssd?"_s, u"a.b"_s};
+    profile.never = {u"Xbl*"_s,           u"\\Microsoft\\Windows\\Printing\\*"_s, u"ssd?"_s, u"a.b"_s, u"*.old"_s,
+                     u"one \U0001F600?"_s};
     for (const QString &name : {u"XblAuthManager"_s, u"xblgamesave"_s, u"Microsoft\\Windows\\Printing\\EduPrintProv"_s,
-                                u"\\Microsoft\\Windows\\Printing\\EduPrintProv"_s, u"ssd1"_s, u"A.B"_s})
+                                u"\\Microsoft\\Windows\\Printing\\EduPrintProv"_s, u"ssd1"_s, u"A.B"_s,
+                                u"a.older.OLD"_s, u"one \U0001F600\U0001F601"_s})
         QVERIFY2(profile.isLeftAlone(name), qPrintable(name));
     for (const QString &name : {u"MyXblAuthManager"_s, u"ssd10"_s, u"ssd"_s, u"axb"_s, u"Microsoft\\Windows\\Other"_s})
         QVERIFY2(!profile.isLeftAlone(name), qPrintable(name));
+}
+
+void TestProfile::manyWildcardsHideNothing()
+{
+    const QString letters(40, u'a');
+    Profile profile;
+    profile.never = {u"*"_s + u"a*"_s.repeated(10) + u"ac*"_s};
+    QVERIFY(profile.isLeftAlone(letters + u'c' + letters));
+    QVERIFY(!profile.isLeftAlone(letters + letters));
 }
 
 void TestProfile::whatLeavesSomethingOut()

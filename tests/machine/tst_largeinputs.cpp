@@ -5,6 +5,7 @@
 #include "support/allocations.h"
 #include "support/suite.h"
 
+#include "cli/profile.h"
 #include "machine/source/regfile.h"
 #include "machine/source/toolreport.h"
 #include "platform/registrykey.h"
@@ -60,6 +61,23 @@ QByteArray scriptOfKeys(qsizetype count)
     return "Windows Registry Editor Version 5.00\n" + QByteArray("[HKEY_CURRENT_USER\\a\\b\\c]\n").repeated(count);
 }
 
+QByteArray profileOfValues(qsizetype count)
+{
+    return "{\"$comment\": [" + QByteArray("1,").repeated(count) + "1]}";
+}
+
+QByteArray nestedProfile(qsizetype levels)
+{
+    return "{\"$comment\": " + QByteArray("{\"a\":").repeated(levels) + '1' + QByteArray(levels, '}') + '}';
+}
+
+qsizetype mistakesIn(const QByteArray &profile)
+{
+    ProfileMistakes mistakes;
+    parseProfile(profile, u"f"_s, mistakes);
+    return mistakes.size();
+}
+
 } // namespace
 
 class TestLargeInputs : public QObject
@@ -87,6 +105,8 @@ void TestLargeInputs::twiceTheInputTakesTwiceTheSteps_data()
     QTest::newRow("tasks within a task")   << Read([](qsizetype n) { QCOMPARE(parseTaskExport(taskWithTasks(n), u"f"_s).size(), 1); });
     QTest::newRow("list of tasks")         << Read([](qsizetype n) { QCOMPARE(parseTaskExport(listOfTasks(n), u"f"_s).size(), n); });
     QTest::newRow("keys of a script")      << Read([](qsizetype n) { QCOMPARE(parseRegistryScript(scriptOfKeys(n), u"f"_s).size(), n); });
+    QTest::newRow("values of a profile")   << Read([](qsizetype n) { QCOMPARE(mistakesIn(profileOfValues(n)), 2); });
+    QTest::newRow("levels of a profile")   << Read([](qsizetype n) { QCOMPARE(mistakesIn(nestedProfile(n / 4)), 2); });
     // clang-format on
 }
 
