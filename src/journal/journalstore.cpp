@@ -13,6 +13,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -259,8 +260,13 @@ void JournalStore::keepDays(int days)
         return;
     Database::Transaction together(*database_);
     const qint64 moment = QDateTime::currentDateTimeUtc().addDays(-days).toMSecsSinceEpoch();
-    database_->query("DELETE FROM note WHERE session IN (SELECT id FROM session WHERE begun < ?)").bind(moment).run();
-    database_->query("DELETE FROM session WHERE begun < ?").bind(moment).run();
+    // One that began after a younger one isn't older than that, whatever the clock said at the time.
+    auto young = database_->query("SELECT min(id) FROM session WHERE begun >= ?");
+    young.bind(moment).next();
+    const qint64 first = young.isNull(0) ? std::numeric_limits<qint64>::max() : young.integer(0);
+    young.run(); // to its end
+    database_->query("DELETE FROM note WHERE session < ?").bind(first).run();
+    database_->query("DELETE FROM session WHERE id < ?").bind(first).run();
     together.commit();
 }
 

@@ -89,6 +89,7 @@ private Q_SLOTS:
     void aCleanUpIsNamed();
     void sessionsAreKeptAsLongAsTheUserWants_data();
     void sessionsAreKeptAsLongAsTheUserWants();
+    void aClockThatWasWrongRemovesNoSession();
 };
 
 void TestSettle::aMissingRecordIsMade_data()
@@ -339,6 +340,32 @@ void TestSettle::sessionsAreKeptAsLongAsTheUserWants()
     store.keepDays(keptDays(system));
     QCOMPARE(store.sessions().size(), kept ? 1 : 0);
     QCOMPARE(store.notesSince(0).size(), kept ? 1 : 0);
+}
+
+void TestSettle::aClockThatWasWrongRemovesNoSession()
+{
+    const TestMachine machine;
+    const QString file = machine.folder() + u"/journal/changes.sqlite"_s;
+    // Days ago; the clock of the second session was set back by years, and put right before the third one.
+    constexpr std::array ages{200, 10, 9000, 5};
+    {
+        JournalStore store(file, Durability::ProcessEnd);
+        for (const int age : ages) {
+            const qint64 session = store.beginSession({.what = u"%1"_s.arg(age)});
+            store.endSession(session, SessionState::Finished);
+            Database(file)
+                .query("UPDATE session SET begun = ? WHERE id = ?")
+                .bind(QDateTime::currentDateTimeUtc().addDays(-age).toMSecsSinceEpoch())
+                .bind(session)
+                .run();
+        }
+    }
+    JournalStore store(file, Durability::ProcessEnd);
+    store.keepDays(90);
+    QStringList kept;
+    for (const Session &session : store.sessions())
+        kept.append(session.what);
+    QCOMPARE(kept, (QStringList{u"10"_s, u"9000"_s, u"5"_s})); // in the order in which they were
 }
 
 KESTRUNE_SUITE(TestSettle)

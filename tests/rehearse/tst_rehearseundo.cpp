@@ -74,6 +74,7 @@ private Q_SLOTS:
     void takesOneSessionBack();
     void takesOneItemBack();
     void takesBackSinceAMoment();
+    void aClockThatWasSetBackHidesNothing();
     void writesJson();
     void namesOfNeighboursAreShownAsTheyAreAndComeBack();
     void filesBringEverythingBack_data();
@@ -163,6 +164,28 @@ void TestRehearseUndo::takesBackSinceAMoment()
     QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--since"_s, u"2100-01-01 00:00"_s}).output, QByteArray());
     QVERIFY(!machine.differences().isEmpty());
     QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--since"_s, u"2000-01-01T00:00"_s}).exitCode, done);
+    QCOMPARE(machine.differences(), QStringList());
+}
+
+void TestRehearseUndo::aClockThatWasSetBackHidesNothing()
+{
+    Changed machine;
+    const QStringList inOrder = linesOf(rehearse({u"undo"_s, machine.folder(), u"--list"_s}));
+    QVERIFY(inOrder.size() >= 2);
+    // The clock was ahead by years at the first session, and was put right before the second one.
+    Database(machine.folder() + u"/journal/changes.sqlite"_s)
+        .query("UPDATE session SET begun = ? WHERE id = (SELECT min(id) FROM session)")
+        .bind(QDateTime(QDate(2100, 1, 1), QTime(12, 0)).toMSecsSinceEpoch())
+        .run();
+    const auto idOf = [](const QString &line) { return line.simplified().section(u' ', 0, 0); };
+    QStringList ids, idsBefore;
+    for (const QString &line : linesOf(rehearse({u"undo"_s, machine.folder(), u"--list"_s})))
+        ids.append(idOf(line));
+    for (const QString &line : inOrder)
+        idsBefore.append(idOf(line));
+    QCOMPARE(ids, idsBefore);
+    // What came after that is meant, too, though its clock says otherwise.
+    QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--since"_s, u"2099-01-01T00:00"_s}).exitCode, done);
     QCOMPARE(machine.differences(), QStringList());
 }
 
