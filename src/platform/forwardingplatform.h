@@ -49,6 +49,10 @@ public:
     {
         return inner_->admitProgram(program, arguments);
     }
+    void startFailed(const QString &program, const QString &reason) const override
+    {
+        inner_->startFailed(program, reason);
+    }
     int exitCode(qint64 processId, int reported) const override { return inner_->exitCode(processId, reported); }
     bool isElevated() const override { return inner_->isElevated(); }
     std::shared_ptr<void> lockOthersOut() const override { return inner_->lockOthersOut(); }

@@ -66,6 +66,8 @@ bool Platform::removeFile(const QString &file) const
     return QFile::remove(file);
 }
 
+void Platform::startFailed(const QString &, const QString &) const {}
+
 void Platform::beginChanges(const QString &) const {}
 
 void Platform::endChanges(bool) const {}

@@ -176,6 +176,12 @@ public:
      */
     virtual std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &arguments) const = 0;
     /**
+     * Is told where a program that was admitted couldn't be started all the same, such as for want of memory. Whoever
+     * asked for it goes on without.
+     * @param reason in English
+     */
+    virtual void startFailed(const QString &program, const QString &reason) const;
+    /**
      * The 32-bit exit code of a process of this program that has ended by itself.
      * @param reported what QProcess says of it, which some systems cut to 8 bits
      */

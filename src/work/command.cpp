@@ -85,6 +85,8 @@ void Command::start(const QString &program, const QStringList &arguments)
     // Elsewhere than on Windows a failed start shows only now.
     failedToStart_ = !process_->waitForStarted();
     startError_ = process_->errorString();
+    if (failedToStart_)
+        platform().startFailed(program, startError_);
     processId_ = process_->processId();
 }
 

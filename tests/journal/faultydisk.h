@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A disk below SQLite that fails when a test says so: at the n-th write, flush or opening of a file by this process.
+// A disk below SQLite that fails when a test says so: at the n-th write, flush or opening of a file by this process; or
+// on which somebody else is writing all the time, by a clock that goes on only where one waits for that.
 
 #pragma once
 
@@ -28,6 +29,7 @@ public:
         faulty.zName = "faulty";
         faulty.pAppData = real;
         faulty.xOpen = open;
+        faulty.xSleep = sleep;
         if (sqlite3_vfs_register(&faulty, 1) != SQLITE_OK)
             qFatal("SQLite takes no other disk");
     }
@@ -45,6 +47,15 @@ public:
         first_ = INT_MAX;
         return done_;
     }
+
+    /** Keeps writers out for so long from now on, in milliseconds. */
+    static void lockFor(int milliseconds)
+    {
+        waited_ = 0;
+        locked_ = milliseconds;
+    }
+    /** Milliseconds that were waited since, of which none has passed. */
+    static int waited() { return waited_; }
 
 private:
     struct File
@@ -86,6 +97,30 @@ private:
         return fails() ? SQLITE_IOERR_FSYNC : realOf(file)->pMethods->xSync(realOf(file), flags);
     }
 
+    static bool isLocked() { return waited_ < locked_; }
+    static int sleep(sqlite3_vfs *vfs, int microseconds)
+    {
+        if (!isLocked()) {
+            auto *real = static_cast<sqlite3_vfs *>(vfs->pAppData);
+            return real->xSleep(real, microseconds);
+        }
+        waited_ += microseconds / 1000;
+        return microseconds;
+    }
+    static int lockShared(sqlite3_file *file, int offset, int count, int flags)
+    {
+        constexpr int writers = SQLITE_SHM_LOCK | SQLITE_SHM_EXCLUSIVE;
+        if (isLocked() && flags == writers)
+            return SQLITE_BUSY;
+        return realOf(file)->pMethods->xShmLock(realOf(file), offset, count, flags);
+    }
+    static int lock(sqlite3_file *file, int level)
+    {
+        if (isLocked() && level >= SQLITE_LOCK_RESERVED)
+            return SQLITE_BUSY;
+        return realOf(file)->pMethods->xLock(realOf(file), level);
+    }
+
     static const sqlite3_io_methods *methods()
     {
         // What can't fail goes on to the real file.
@@ -99,8 +134,9 @@ private:
             .xSync = sync,
             .xFileSize = [](sqlite3_file *file,
                             sqlite3_int64 *size) { return realOf(file)->pMethods->xFileSize(realOf(file), size); },
-            .xLock = [](sqlite3_file *file, int lock) { return realOf(file)->pMethods->xLock(realOf(file), lock); },
-            .xUnlock = [](sqlite3_file *file, int lock) { return realOf(file)->pMethods->xUnlock(realOf(file), lock); },
+            .xLock = lock,
+            .xUnlock = [](sqlite3_file *file,
+                          int level) { return realOf(file)->pMethods->xUnlock(realOf(file), level); },
             .xCheckReservedLock =
                 [](sqlite3_file *file, int *held) {
                     return realOf(file)->pMethods->xCheckReservedLock(realOf(file), held);
@@ -118,8 +154,7 @@ private:
                                ? SQLITE_IOERR_SHMSIZE
                                : realOf(file)->pMethods->xShmMap(realOf(file), page, size, extend, memory);
                 },
-            .xShmLock = [](sqlite3_file *file, int offset, int count,
-                           int flags) { return realOf(file)->pMethods->xShmLock(realOf(file), offset, count, flags); },
+            .xShmLock = lockShared,
             .xShmBarrier = [](sqlite3_file *file) { realOf(file)->pMethods->xShmBarrier(realOf(file)); },
             .xShmUnmap = [](sqlite3_file *file,
                             int remove) { return realOf(file)->pMethods->xShmUnmap(realOf(file), remove); },
@@ -134,4 +169,6 @@ private:
     static inline std::atomic<int> done_ = 0;
     static inline std::atomic<int> first_ = INT_MAX;
     static inline std::atomic<Fault> fault_ = Fault::Once;
+    static inline std::atomic<int> waited_ = 0;
+    static inline std::atomic<int> locked_ = 0;
 };

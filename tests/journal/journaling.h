@@ -24,8 +24,12 @@ inline JournalOptions journalOptions(const QString &folder)
 class Journaled
 {
 public:
-    explicit Journaled(const TestMachine &machine)
+    /** A platform that is to stand between the journal and the machine. */
+    using Between = std::unique_ptr<Platform> (*)(std::unique_ptr<Platform> machine);
+
+    explicit Journaled(const TestMachine &machine, Between between = nullptr)
         : folder_(machine.folder())
+        , between_(between)
     {
         copyMachine(machine.machine(), beside_.filePath(QStringLiteral("before")));
         before_ = Machine::open(beside_.filePath(QStringLiteral("before")));
@@ -40,7 +44,10 @@ public:
         close(); // one at a time
         auto onMachine = std::make_unique<MachinePlatform>(folder_, MachineOptions());
         machine_ = &onMachine->machine();
-        auto journal = std::make_unique<Journal>(std::move(onMachine), std::make_unique<MachineSystem>(*machine_),
+        std::unique_ptr<Platform> below = std::move(onMachine);
+        if (between_ != nullptr)
+            below = between_(std::move(below));
+        auto journal = std::make_unique<Journal>(std::move(below), std::make_unique<MachineSystem>(*machine_),
                                                  journalOptions(folder_));
         journal_ = journal.get();
         setPlatform(std::move(journal));
@@ -84,6 +91,7 @@ public:
 
 private:
     QString folder_;
+    Between between_;
     QTemporaryDir beside_;
     std::unique_ptr<Machine> before_;
     Machine *machine_ = nullptr;

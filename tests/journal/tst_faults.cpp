@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A disk that fails at any moment of an Optimize: the program says so or does all of it, and what was done comes back.
+// A disk that fails at any moment of an Optimize, or on which somebody else is writing: the program says so or does all
+// of it, and what was done comes back.
 
 #include "faultydisk.h"
 #include "journaling.h"
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void initTestCase();
     void anOptimizeOnAFailingDisk_data();
     void anOptimizeOnAFailingDisk();
+    void anOptimizeOnALockedDisk_data();
+    void anOptimizeOnALockedDisk();
 
 private:
     QStringList whole_; ///< what an Optimize changes on a good disk
@@ -81,6 +84,36 @@ void TestFaults::anOptimizeOnAFailingDisk()
     const QString failure = platform().takeFailure();
     if (failure.isEmpty())
         QCOMPARE(journaled.differences().join(u'\n'), whole_.join(u'\n'));
+    journaled.open();
+    QCOMPARE(journaled.takeAllBack().join(u'\n'), QString());
+    QCOMPARE(journaled.differences().join(u'\n'), QString());
+}
+
+void TestFaults::anOptimizeOnALockedDisk_data()
+{
+    addColumns<int, bool>("seconds", "isLeftOut");
+    // A change waits ten seconds for its turn.
+    QTest::newRow("5 seconds") << 5 << false;
+    QTest::newRow("30 seconds") << 30 << true;
+    QTest::newRow("90 seconds") << 90 << true;
+}
+
+void TestFaults::anOptimizeOnALockedDisk()
+{
+    QFETCH(const int, seconds);
+    QFETCH(const bool, isLeftOut);
+    const AutomatizerMachine pc;
+    Journaled journaled(pc);
+    WorkerOn worker(onEleven);
+    FaultyDisk::lockFor(seconds * 1000);
+    optimizeAll(worker);
+    QVERIFY(FaultyDisk::waited() >= seconds * 1000);
+
+    const QString failure = platform().takeFailure();
+    QCOMPARE(failure.contains("database is locked"_L1), isLeftOut);
+    if (!isLeftOut)
+        QCOMPARE(journaled.differences().join(u'\n'), whole_.join(u'\n'));
+    QCOMPARE(unaccounted(journaled.machine()), QStringList());
     journaled.open();
     QCOMPARE(journaled.takeAllBack().join(u'\n'), QString());
     QCOMPARE(journaled.differences().join(u'\n'), QString());

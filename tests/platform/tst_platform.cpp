@@ -66,6 +66,7 @@ private Q_SLOTS:
     void unsignedProgramsAreNotForElevatedProcesses();
     void programsNeverComeFromTheHost();
     void exitCodesHave32Bits();
+    void whatTheMachineCouldNotDoIsSaid();
     void foldersOfTheProgram();
 
     void launcherIsAskedInstead();
@@ -419,6 +420,17 @@ void TestPlatform::exitCodesHave32Bits()
     QCOMPARE(platform().exitCode(4711, 32), 32); // taken
     contract_->machine().leaveExitCode(4711, -1);
     QCOMPARE(platform().exitCode(4711, 255), -1);
+}
+
+void TestPlatform::whatTheMachineCouldNotDoIsSaid()
+{
+    platform().takeFailure();
+    platform().startFailed(u"sc"_s, u"no memory"_s);
+    QCOMPARE(platform().takeFailure(), u"sc can't be started: no memory"_s);
+    // It ended without leaving its exit code.
+    QCOMPARE(platform().exitCode(4712, 3), 3);
+    QCOMPARE(platform().takeFailure(), u"a tool ended without having done its work"_s);
+    QCOMPARE(platform().takeFailure(), QString());
 }
 
 void TestPlatform::foldersOfTheProgram()

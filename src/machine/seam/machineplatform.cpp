@@ -237,7 +237,9 @@ QString MachinePlatform::resolvedProgram(const QString &program) const
             return {};
     }
     const QString file = machine_->toolsFolder() + u'/' + tool + executableSuffix;
-    return QFileInfo(file).isFile() ? file : QString();
+    if (!QFileInfo(file).isFile())
+        throw MachineError{u"%1: the tool is missing"_s.arg(QDir::toNativeSeparators(file))};
+    return file;
 }
 
 std::optional<AdmittedProgram> MachinePlatform::admitProgram(const QString &program, const QStringList &) const
@@ -248,9 +250,30 @@ std::optional<AdmittedProgram> MachinePlatform::admitProgram(const QString &prog
     return AdmittedProgram{programFile(program), {}};
 }
 
+void MachinePlatform::startFailed(const QString &program, const QString &reason) const
+{
+    MachineFailures::say({u"%1 can't be started: %2"_s.arg(program, reason)});
+}
+
 int MachinePlatform::exitCode(qint64 processId, int reported) const
 {
-    return guarded(reported, [&] { return machine_->takeExitCode(processId).value_or(reported); });
+    return guarded(reported, [&] {
+        const std::optional<int> code = machine_->takeExitCode(processId);
+        // A tool leaves it as its last change.
+        if (!code)
+            throw MachineError{u"a tool ended without having done its work"_s};
+        return *code;
+    });
+}
+
+QString MachinePlatform::takeFailure() const
+{
+    const QString failure = MachineFailures::take();
+    // A database that has been removed can be written to all the same, but nobody reads it any more.
+    const QString folder = machine_->folder();
+    if (!QFileInfo::exists(folder + u"/machine.sqlite"_s))
+        return u"%1: the machine has been removed"_s.arg(QDir::toNativeSeparators(folder));
+    return failure;
 }
 
 bool MachinePlatform::isElevated() const

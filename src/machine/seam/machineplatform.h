@@ -55,8 +55,9 @@ public:
     qint64 fileSize(const QString &file) const override;
     bool renameFile(const QString &from, const QString &to) const override;
     QString programFile(const QString &program) const override;
-    QString takeFailure() const override { return MachineFailures::take(); }
+    QString takeFailure() const override;
     std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &arguments) const override;
+    void startFailed(const QString &program, const QString &reason) const override;
     int exitCode(qint64 processId, int reported) const override;
     bool isElevated() const override;
     std::shared_ptr<void> lockOthersOut() const override;
