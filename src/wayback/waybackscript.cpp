@@ -70,13 +70,6 @@ QString calledEdit(const RegistryEdit &edit)
     return called(DiffKind::Registry, edit.key + (ofKey ? QString() : u": "_s + valueName(edit.value)));
 }
 
-/** The registry editor takes a script of version 5 only in UTF-16 for sure. */
-QByteArray scriptBytes(const QList<RegistryEdit> &edits)
-{
-    QStringEncoder encoder(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
-    return encoder(writeRegistryEdits(edits).replace(u'\n', u"\r\n"_s));
-}
-
 QByteArray commandText(const QStringList &commands, const QString &script, const QString &purpose)
 {
     QString text = u"rem "_s + purpose + u"\nrem\nrem 1. Import "_s + script + u" (a double click, or: reg import \""_s
@@ -277,12 +270,19 @@ void WayBackScript::startService(const QString &name, bool running)
     give(called(DiffKind::Service, name), running ? u"sc.exe start %1"_s : u"sc.exe stop %1"_s, {name});
 }
 
+QByteArray WayBackScript::registryScript() const
+{
+    // The registry editor takes a script of version 5 only in UTF-16 for sure.
+    QStringEncoder encoder(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
+    return encoder(writeRegistryEdits(registry_).replace(u'\n', u"\r\n"_s));
+}
+
 WrittenWayBack WayBackScript::write(const QString &file, const QString &purpose) const
 {
     const QFileInfo place(file);
     const QString stem = place.path() + u'/' + place.completeBaseName();
     QStringList written{file, stem + u"-commands.txt"_s};
-    writeFile(written.at(0), scriptBytes(registry_));
+    writeFile(written.at(0), registryScript());
     writeFile(written.at(1), commandText(commands_, place.fileName(), purpose));
     const QString folder = place.path() + u'/' + filesFolder_;
     for (const WayBackFile &content : files_) {

@@ -37,6 +37,8 @@ public:
     explicit WayBackScript(QString filesFolder);
 
     const QList<RegistryEdit> &registry() const { return registry_; }
+    /** These as a file of the registry editor. */
+    QByteArray registryScript() const;
     /** For the command prompt. */
     const QStringList &commands() const { return commands_; }
     const QList<WayBackFile> &files() const { return files_; }

@@ -16,19 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Bytes of an answer: a version is some ten, and a long text would only fill the screen.
-constexpr qint64 longestShown = 4096;
-constexpr qint64 longestAnswer = 64 * 1024; ///< what is longer is no answer
-
-/** The start of a text that is too long to be shown. */
-QString startOf(const QString &text)
-{
-    constexpr qsizetype most = 200; // characters, of which none is cut in two
-
-    const QList<uint> characters = text.toUcs4();
-    return QString::fromUcs4(reinterpret_cast<const char32_t *>(characters.constData()), most) + u'…';
-}
-
 QUrl pageOfHost(const QString &path)
 {
     return QUrl(u"http://"_s + webHost() + path);
@@ -58,16 +45,12 @@ void Kestrune::onCheckUpdateResult(QNetworkReply *reply)
 {
     if (reply->error() != QNetworkReply::NoError)
         return;
-    const QByteArray body = reply->readAll();
-    if (body.size() > longestAnswer)
-        return;
-    const QString online = QString::fromUtf8(body);
-    // What is online counts, be it newer or older, and to the last line break.
-    if (online == appVersion)
+    const std::optional<QString> online = otherVersion(reply->readAll(), appVersion);
+    if (!online)
         return;
     const auto answer = ask({.text = tr("A newer version of Kestrune is available!\r\nWould you like to visit the "
                                         "website for download?\r\n\r\nCurrent version: %1\r\nOnline version: %2")
-                                         .arg(appVersion, body.size() > longestShown ? startOf(online) : online)});
+                                         .arg(appVersion, *online)});
     if (answer != QMessageBox::Yes)
         return;
     // Only who has never chosen a language gets the English page.

@@ -58,6 +58,19 @@ std::optional<QString> wmiField(const QString &answer, const QString &property, 
     return value;
 }
 
+QString wmiDate(const QString &value)
+{
+    constexpr qsizetype shortestDate = 21;
+
+    if (value.size() < shortestDate)
+        return value;
+    QString date = value;
+    date.remove(u' ');
+    for (const qsizetype position : {4, 7, 10})
+        date.insert(position, u'/');
+    return date.split(u'/').first(3).join(u'/');
+}
+
 std::optional<QString> firstDisplayAdapter()
 {
     const QString name = u"Caption"_s;

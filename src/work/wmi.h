@@ -29,5 +29,8 @@ enum class FieldEnd {
  */
 std::optional<QString> wmiField(const QString &answer, const QString &property, FieldEnd end = FieldEnd::Line);
 
+/** "2023/06/13" of a date in such a value, "20230613000000.000000-000"; what is too short for one stays as it is. */
+QString wmiDate(const QString &value);
+
 /** The name of the first display adapter, as WMI lists them; nothing where there is none. Any thread. */
 std::optional<QString> firstDisplayAdapter();

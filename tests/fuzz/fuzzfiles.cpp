@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Files that may come from anybody: a machine's database, a journal, and paths that a machine names.
+// Files that may come from anybody: a machine's database, a journal, a profile, and paths that a machine names.
 
+#include "cli/profile.h"
 #include "fuzztarget.h"
 #include "journal/journalstore.h"
 #include "machine/compare/machinediff.h"
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -120,7 +122,57 @@ FUZZ_TARGET(journalfile)
     }
 }
 
-/** No path leads out of a machine, whatever links and zeros are in it. */
+/** A profile is told its mistakes, each with its place in a line of its own, or can be gone by. */
+FUZZ_TARGET(profile)
+{
+    static const QRegularExpression told(uR"(^input:[1-9][0-9]*:[1-9][0-9]*: [^\n]+$)"_s);
+    ProfileMistakes mistakes;
+    const Profile profile = parseProfile(input, u"input"_s, mistakes);
+    for (const QString &mistake : std::as_const(mistakes))
+        FUZZ_VERIFY(told.match(mistake).hasMatch());
+    if (!mistakes.isEmpty())
+        return;
+    for (const QStringList &names : {profile.services, profile.tasks, profile.packages, profile.startup}) {
+        for (const QString &name : names)
+            FUZZ_VERIFY(!profile.isLeftAlone(name));
+    }
+    for (const QString &name : profile.never)
+        FUZZ_VERIFY(profile.isLeftAlone(name));
+    for (auto each = profile.tweaks.cbegin(); each != profile.tweaks.cend(); ++each)
+        FUZZ_VERIFY(!boxOfTweak(each.key()).isEmpty());
+}
+
+namespace {
+
+/** Makes the links that an input asks for, two lines each: its name, and what it leads to, where "H" is outside. */
+void makeLinks(const QString &folder, const QString &outside, const QStringList &lines)
+{
+    QDir(folder).removeRecursively();
+    QDir().mkpath(folder);
+    for (qsizetype i = 0; i + 1 < lines.size(); i += 2) {
+        QString target = lines.at(i + 1);
+        if (target.startsWith(u'H'))
+            target.replace(0, 1, outside);
+        if (!lines.at(i).contains(u'/'))
+            QFile::link(target, folder + u'/' + lines.at(i));
+    }
+}
+
+/** Reads a file as the program does, and adds nothing to it; one that wasn't there is gone again. */
+QByteArray readAndWrite(const QString &path)
+{
+    const bool isNew = !QFileInfo::exists(path);
+    QFile file(path);
+    const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    file.close();
+    if (file.open(QIODevice::Append) && isNew)
+        file.remove();
+    return content;
+}
+
+} // namespace
+
+/** No path leads out of a machine, whatever links and zeros are in it. The last line of the input is the path. */
 FUZZ_TARGET(paths)
 {
     static const Pc pc;
@@ -140,7 +192,9 @@ FUZZ_TARGET(paths)
     static const auto machine = Machine::open(pc.folder());
     static const QString home = QFileInfo(pc.folder()).canonicalFilePath() + u'/';
 
-    const QString asked = QString::fromUtf8(input);
+    QStringList lines = QString::fromUtf8(input).split(u'\n');
+    const QString asked = lines.takeLast();
+    makeLinks(pc.folder() + u"/drive_c/t"_s, pc.beside(u"host"_s), lines);
     for (const QString &path : {asked, u"C:\\"_s + asked, pc.folder() + u'/' + asked}) {
         const QString host = machine->hostPath(path);
         FUZZ_VERIFY(!host.contains(QChar(0)));
@@ -151,5 +205,8 @@ FUZZ_TARGET(paths)
             there = QFileInfo(there).path();
         FUZZ_VERIFY((QFileInfo(there).canonicalFilePath() + u'/').startsWith(home));
         machine->windowsPath(host);
+        FUZZ_VERIFY(!readAndWrite(host).contains("of the host"));
+        FUZZ_VERIFY(QDir(pc.beside(u"host"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot)
+                    == QStringList{u"file"_s});
     }
 }

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What tools print and machines are described by, in both readers where there are two.
+// What tools print, machines are described by and the program's host answers, in both readers where there are two.
 
 #include "fuzztarget.h"
 #include "machine/source/machinesource.h"
 #include "platform/taskdocument.h"
+#include "window/webhost.h"
+#include "work/services/services.h"
 #include "work/tasks/tasks.h"
 #include "work/wmi.h"
 
@@ -44,6 +46,8 @@ FUZZ_TARGET(servicereport)
         for (const ServiceReport &service : services)
             FUZZ_VERIFY(!service.name.isEmpty() && !service.name.contains(u'\n'));
     });
+    for (const QString &name : runningServices(text))
+        FUZZ_VERIFY(text.contains(name) && !name.contains("SERVICE_NAME: "_L1));
 }
 
 FUZZ_TARGET(taskexport)
@@ -92,4 +96,21 @@ FUZZ_TARGET(wmifields)
         wmiField(answer, property, FieldEnd::Line);
         wmiField(answer, property, FieldEnd::Text);
     }
+    const QString date = wmiDate(answer);
+    FUZZ_VERIFY(date == answer || date.count(u'/') == 2);
+}
+
+/** Of an answer no more is shown than fits on a screen, and no character of it is cut in two. */
+FUZZ_TARGET(updateanswer)
+{
+    const QString present = u"0.3.14"_s;
+    const std::optional<QString> shown = otherVersion(input, present);
+    FUZZ_VERIFY(!otherVersion(present.toUtf8(), present));
+    // As much as libFuzzer gives, and more than it does
+    for (const QByteArray &answer : {input, input.repeated(5000 / std::max<qsizetype>(input.size(), 1) + 1)}) {
+        const std::optional<QString> each = otherVersion(answer, present);
+        FUZZ_VERIFY(!each || (each->size() <= 4096 && each->isValidUtf16()));
+    }
+    FUZZ_VERIFY(!otherVersion(input.leftJustified(longestAnswer + 1), present));
+    FUZZ_VERIFY(shown || QString::fromUtf8(input) == present || input.size() > longestAnswer);
 }

@@ -9,6 +9,7 @@
 #include "machine/source/regfile.h"
 #include "platform/registryscript.h"
 #include "platform/windowsfacts.h"
+#include "wayback/waybackscript.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +40,38 @@ QList<RegistryEdit> said(const QList<RegistryEdit> &all)
             result.append(edit);
     }
     return result;
+}
+
+/** The edits that any bytes stand for: kind, type, and how long key, name and data are; then these. */
+QList<RegistryEdit> editsOf(const QByteArray &bytes)
+{
+    qsizetype at = 0;
+    const auto number = [&] { return at < bytes.size() ? quint8(bytes.at(at++)) : quint8(0); };
+    const auto take = [&](qsizetype size) {
+        const QByteArray part = bytes.mid(at, size);
+        at += part.size();
+        return part;
+    };
+    // In pieces of UTF-16, which needn't be valid in the registry
+    const auto takeText = [&](qsizetype units) {
+        const QByteArray part = take(units * 2);
+        return QString(reinterpret_cast<const QChar *>(part.constData()), part.size() / 2);
+    };
+    QList<RegistryEdit> all;
+    while (at < bytes.size()) {
+        const auto kind = RegistryEdit::Kind(number() % 4);
+        const auto type = RegistryType(quint32(number() % 13));
+        const qsizetype ofKey = number(), ofName = number(), ofData = number();
+        const QStringList levels = takeText(ofKey).split(u'\\', Qt::SkipEmptyParts);
+        RegistryEdit edit{kind, (QStringList(u"HKEY_CURRENT_USER\\a"_s) + levels).join(u'\\'), {}};
+        const RegistryValue value{takeText(ofName), type, take(ofData)};
+        if (kind == RegistryEdit::Kind::SetValue)
+            edit.value = value;
+        else if (kind == RegistryEdit::Kind::RemoveValue)
+            edit.value.name = value.name;
+        all.append(edit);
+    }
+    return all;
 }
 
 } // namespace
@@ -93,6 +126,26 @@ FUZZ_TARGET(registryexport)
         again += *part;
     }
     FUZZ_VERIFY(exported(again) == once);
+}
+
+/** The way back's script does what was to be brought back, and nothing else. */
+FUZZ_TARGET(wayback)
+{
+    WayBackScript script(u"files"_s);
+    for (const RegistryEdit &edit : editsOf(input))
+        script.edit(edit);
+    const auto read = edits(script.registryScript());
+    FUZZ_VERIFY(read);
+    const QList<RegistryEdit> wanted = said(script.registry());
+    const QList<RegistryEdit> got = said(*read);
+    FUZZ_VERIFY(got.size() == wanted.size());
+    for (qsizetype i = 0; i < got.size(); ++i)
+        FUZZ_VERIFY(areSame(got.at(i), wanted.at(i)));
+    // A key that is made was to be made, or to hold what is put into it.
+    for (const RegistryEdit &edit : *read) {
+        FUZZ_VERIFY(std::any_of(script.registry().cbegin(), script.registry().cend(),
+                                [&edit](const RegistryEdit &each) { return each.key == edit.key; }));
+    }
 }
 
 /** A script that is opened with the program's rights does nothing but set start modes. */

@@ -9,6 +9,7 @@
 #include "work/autorun/autorun.h"
 #include "work/packages/packages.h"
 #include "work/services/services.h"
+#include "work/workthread.h"
 
 #include <QTemporaryDir>
 
@@ -77,6 +78,24 @@ FUZZ_TARGET(packagename)
     packageNameOf(name);
     packageComment(name);
     FUZZ_VERIFY(name.startsWith(recordedPackage(name)));
+}
+
+/** Of the keys of packages, whatever their names, those are listed that can be removed. */
+FUZZ_TARGET(packagelist)
+{
+    RegistryStore &registry = machineInForce().registry();
+    if (const auto key = registry.find(WindowsKey::userPackages))
+        registry.removeKey(*key);
+    for (const QString &name : QString::fromUtf8(input).split(u'\n'))
+        registry.make(WindowsKey::userPackages + u'\\' + name);
+    WorkThread worker;
+    worker.analyzeRunning = 1; // nobody takes its lines
+    worker.PackageGetList();
+    const QStringList removable = worker.nonVitalPackages;
+    for (const PackageRow &row : std::as_const(worker.packages)) {
+        FUZZ_VERIFY(removable.contains(row.name));
+        FUZZ_VERIFY(isPackageInstalled(row.name));
+    }
 }
 
 /** No name of the PC or its users is left in what was captured. */

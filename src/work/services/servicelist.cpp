@@ -9,8 +9,6 @@
 #include "work/statusline.h"
 #include "work/workthread.h"
 
-#include <QSet>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -31,6 +29,8 @@ bool saysRunning(QStringView record)
     return cutThrough(record, u"STATE ") && cutThrough(record, u": ") && record.startsWith(u'4');
 }
 
+} // namespace
+
 QSet<QString> runningServices(const QString &report)
 {
     const QString mark = u"SERVICE_NAME: "_s;
@@ -44,8 +44,6 @@ QSet<QString> runningServices(const QString &report)
     }
     return names;
 }
-
-} // namespace
 
 bool isListedServiceType(const QString &type)
 {

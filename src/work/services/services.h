@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -34,6 +35,9 @@ QString startModeBackupFile();
  * @return 0 written; -1 there already, or can't be written; 1 and 2 an exception of the runtime, or of a file
  */
 int WriteStartModeBackup();
+
+/** The names of the services that run, in what "sc query" prints. */
+QSet<QString> runningServices(const QString &report);
 
 /** Whether the service is there and set to start in another way than on demand or not at all. */
 bool startsByItself(const QString &service);

@@ -96,20 +96,6 @@ void collectMotherboard(WorkThread &worker)
     worker.mbBiosDate = textOrUnknown(*key, u"BIOSReleaseDate"_s);
 }
 
-/** "2023/06/13" of a CIM date, "20230613000000.000000-000"; what is too short for one stays as it is. */
-QString dateOf(const QString &cimDate)
-{
-    constexpr qsizetype shortestDate = 21;
-
-    if (cimDate.size() < shortestDate)
-        return cimDate;
-    QString date = cimDate;
-    date.remove(u' ');
-    for (const qsizetype position : {4, 7, 10})
-        date.insert(position, u'/');
-    return date.split(u'/').first(3).join(u'/');
-}
-
 void collectCard(WorkThread &worker)
 {
     const QString answer =
@@ -125,7 +111,7 @@ void collectCard(WorkThread &worker)
     if (const auto height = wmiField(answer, u"CurrentVerticalResolution"_s))
         worker.gpuDesktopMaxSize += u" x "_s + *height;
     if (const auto date = wmiField(answer, u"DriverDate"_s))
-        worker.gpuDriverDate = dateOf(*date);
+        worker.gpuDriverDate = wmiDate(*date);
     if (const auto version = wmiField(answer, u"DriverVersion"_s))
         worker.gpuDriverVersion = *version;
     // With a second card this one is followed by all that is known of that.
