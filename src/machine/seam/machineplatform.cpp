@@ -3,6 +3,7 @@
 
 #include "machineplatform.h"
 
+#include "console/programinterruption.h"
 #include "folderwalk.h"
 #include "machine/environment.h"
 #include "machine/folderlock.h"
@@ -259,10 +260,10 @@ int MachinePlatform::exitCode(qint64 processId, int reported) const
 {
     return guarded(reported, [&] {
         const std::optional<int> code = machine_->takeExitCode(processId);
-        // A tool leaves it as its last change.
-        if (!code)
+        // A tool leaves it as its last change. Whoever ends this program may end its tools, too.
+        if (!code && !isInterrupted())
             throw MachineError{u"a tool ended without having done its work"_s};
-        return *code;
+        return code.value_or(reported);
     });
 }
 
