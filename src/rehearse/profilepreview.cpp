@@ -5,8 +5,7 @@
 #include "console/programinterruption.h"
 #include "machine/compare/webpage.h"
 #include "machine/machine.h"
-#include "machine/workfolder.h"
-#include "preview/previewtexts.h"
+#include "platform/processground.h"
 #include "progress.h"
 #include "subcommands.h"
 
@@ -24,6 +23,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/** A file as another process finds it, whose current folder isn't the one that this program was started in. */
+QString fileForAnother(const QString &path)
+{
+    return path == "-"_L1 ? path : absolutePath(path);
+}
+
 /** Runs 'kestrune-cli plan' and gives what it prints. Throws what it says where it fails. */
 QByteArray runPlan(const QString &folder, const Arguments &arguments, const QStringList &reports)
 {
@@ -32,7 +37,7 @@ QByteArray runPlan(const QString &folder, const Arguments &arguments, const QStr
         throw Failure{ExitJobFailed, u"the program kestrune-cli is missing, which carries a profile out"_s};
     QStringList words{u"plan"_s, u"--machine"_s, folder};
     if (arguments.has("profile"_L1))
-        words << u"--profile"_s << arguments.value("profile"_L1);
+        words << u"--profile"_s << fileForAnother(arguments.value("profile"_L1));
     QProcess process;
     process.start(program, words + reports);
     if (!waitForEnd(process))
@@ -244,11 +249,11 @@ int previewProfile(const Arguments &arguments)
     QStringList reports;
     for (const QLatin1StringView report : {"html"_L1, "json"_L1}) {
         if (arguments.has(report))
-            reports << u"--"_s + report << arguments.value(report);
+            reports << u"--"_s + report << fileForAnother(arguments.value(report));
     }
     Progress progress(isSteered(arguments));
     progress.show(u"trying the profile"_s, 0, 1);
-    const QByteArray printed = runPlan(arguments.operand(0), arguments, reports);
+    const QByteArray printed = runPlan(absoluteFolder(arguments.operand(0)), arguments, reports);
     progress.clear();
     print(printed);
     return ExitDone;

@@ -678,15 +678,19 @@ QJsonObject instanceOf(const Ended &ended)
     return QJsonDocument::fromJson(ended.output).object();
 }
 
+/** What the resource answers for a machine when it is given an instance. */
+Ended dscOf(const char *verb, const QString &machine, const QByteArray &instance)
+{
+    return runProgram(builtProgram(u"kestrune-cli"_s), {u"dsc"_s, QString::fromLatin1(verb), u"--machine"_s, machine},
+                      {}, instance);
+}
+
 void TestCli::aResourceOfDsc()
 {
     Pc pc(u"windows11"_s);
     const QByteArray desired = R"({"formatVersion": 1, "features": true, "programs": false, "never": ["edgeupdate"],
         "services": ["SysMain", "Spooler"], "tweaks": {"ssd1": true, "ssd4": false}})";
-    const auto dsc = [&](const char *verb) {
-        return runProgram(builtProgram(u"kestrune-cli"_s),
-                          {u"dsc"_s, QString::fromLatin1(verb), u"--machine"_s, pc.folder()}, {}, desired);
-    };
+    const auto dsc = [&](const char *verb) { return dscOf(verb, pc.folder(), desired); };
     const Ended before = dsc("test");
     QCOMPARE(before.exitCode, done);
     QCOMPARE(before.output.count('\n'), 1);
@@ -722,10 +726,7 @@ void TestCli::whatDscExportsIsInForce()
     QCOMPARE(exported.exitCode, done);
     QVERIFY(!instanceOf(exported)[u"never"_s].toArray().isEmpty());
     QCOMPARE(instanceOf(exported)[u"tweaks"_s].toObject().size(), 34);
-    const auto dsc = [&](const char *verb) {
-        return runProgram(builtProgram(u"kestrune-cli"_s),
-                          {u"dsc"_s, QString::fromLatin1(verb), u"--machine"_s, pc.folder()}, {}, exported.output);
-    };
+    const auto dsc = [&](const char *verb) { return dscOf(verb, pc.folder(), exported.output); };
     QCOMPARE(instanceOf(dsc("test"))[u"_inDesiredState"_s], QJsonValue(true));
     QCOMPARE(dsc("set").exitCode, done);
     QCOMPARE(pc.differences(), QStringList());
@@ -733,10 +734,7 @@ void TestCli::whatDscExportsIsInForce()
 
 void TestCli::dscTellsWhatIsWrong()
 {
-    const auto dsc = [](const QByteArray &input) {
-        return runProgram(builtProgram(u"kestrune-cli"_s), {u"dsc"_s, u"test"_s, u"--machine"_s, u"nowhere"_s}, {},
-                          input);
-    };
+    const auto dsc = [](const QByteArray &input) { return dscOf("test", u"nowhere"_s, input); };
     QVERIFY(dsc("[1]").errors.contains("no JSON object"));
     QCOMPARE(dsc("[1]").exitCode, badArguments);
     QCOMPARE(dsc("{\"formatVersion\": 1}").exitCode, unreadable);
