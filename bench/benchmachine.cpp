@@ -4,16 +4,14 @@
 
 #include "machine/database.h"
 
-#include <QFile>
-
 using namespace Qt::StringLiterals;
 
-BenchMachine::BenchMachine()
+BenchMachine::BenchMachine(MachineOptions options)
 {
     const QString folder = folder_.path() + u"/machine"_s;
     Machine::create(folder)->setEnvironment(
         {{u"SystemRoot"_s, u"C:\\Windows"_s}, {u"windir"_s, u"C:\\Windows"_s}, {u"homedrive"_s, u"C:"_s}});
-    auto platform = std::make_unique<MachinePlatform>(folder, MachineOptions{});
+    auto platform = std::make_unique<MachinePlatform>(folder, std::move(options));
     platform_ = platform.get();
     setPlatform(std::move(platform));
 }
@@ -63,13 +61,6 @@ void BenchMachine::addAutoruns(int count)
     for (int i = 0; i < count; ++i)
         registry.setValue(key, {u"Program %1"_s.arg(i), RegistryType::String, registryText(u"\"C:\\a.exe\" -x"_s)});
     transaction.commit();
-}
-
-void BenchMachine::silenceTools()
-{
-    const QString sc = machine().toolsFolder() + u"/sc"_s;
-    QFile::remove(sc);
-    QFile::link(u"/bin/true"_s, sc);
 }
 
 QString vendorsTask(const QString &path)

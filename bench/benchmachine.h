@@ -11,7 +11,7 @@
 class BenchMachine
 {
 public:
-    BenchMachine();
+    explicit BenchMachine(MachineOptions options = {});
     ~BenchMachine();
     Q_DISABLE_COPY_MOVE(BenchMachine)
 
@@ -22,8 +22,6 @@ public:
     void addPackages(int count);
     /** Adds programs that start at logon. */
     void addAutoruns(int count);
-    /** Lets sc do nothing, so that only the program's own work is measured. */
-    void silenceTools();
 
 private:
     QTemporaryDir folder_;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A rehearsal machine: making and opening one, and its tools.
+// A rehearsal machine: making and opening one.
 
 #include "machine.h"
 
@@ -16,21 +16,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <filesystem>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView tools[] = {u"sc",  u"schtasks", u"powershell", u"taskkill", u"onedrivesetup",
-                                 u"cmd", u"powercfg", u"bcdedit",    u"takeown",  u"icacls"};
 constexpr qint64 smallestDatabase = 512; // bytes; the least page there is
-const char *const stateFolders[] = {"drive_c", "program", "tools"};
-#ifdef Q_OS_WIN
-constexpr QLatin1StringView toolSuffix(".exe");
-#else
-constexpr QLatin1StringView toolSuffix("");
-#endif
+const char *const stateFolders[] = {"drive_c", "program"};
 
 [[noreturn]] void fail(const QString &path, const QString &reason)
 {
@@ -86,7 +77,7 @@ void checkVersion(Database &database, const QString &path)
         fail(path, u"damaged"_s);
 }
 
-/** What the machine has of its own is no link, which could lead out of it. The tools are made anew. */
+/** What the machine has of its own is no link, which could lead out of it. */
 void checkOwnFiles(const QString &folder)
 {
     constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
@@ -227,36 +218,6 @@ QByteArray jsonText(const QString &text)
     return QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact).sliced(1).chopped(1);
 }
 
-/** Whether a file of the machine's is the stock tool, and no other program. */
-bool isStockTool(const QFileInfo &file, const QFileInfo &stockTool)
-{
-#ifdef Q_OS_WIN
-    std::error_code error;
-    if (std::filesystem::equivalent(file.filesystemFilePath(), stockTool.filesystemFilePath(), error))
-        return true;
-    if (file.size() != stockTool.size())
-        return false;
-    QFile placed(file.filePath());
-    QFile original(stockTool.filePath());
-    return placed.open(QIODevice::ReadOnly) && original.open(QIODevice::ReadOnly)
-           && placed.readAll() == original.readAll();
-#else
-    return file.symLinkTarget() == stockTool.absoluteFilePath();
-#endif
-}
-
-bool placeTool(const QFileInfo &stockTool, const QString &place)
-{
-#ifdef Q_OS_WIN
-    // A second name takes no room, but needs rights to the file and the same volume.
-    std::error_code error;
-    std::filesystem::create_hard_link(stockTool.filesystemFilePath(), QFileInfo(place).filesystemFilePath(), error);
-    return !error || QFile::copy(stockTool.absoluteFilePath(), place);
-#else
-    return QFile::link(stockTool.absoluteFilePath(), place);
-#endif
-}
-
 } // namespace
 
 Machine::Machine(const QString &folder, std::unique_ptr<Database> database)
@@ -310,36 +271,4 @@ void Machine::logCommand(const QString &program, const QStringList &arguments, i
     QFile log(folder_ + u"/commands.log"_s);
     if (!log.open(QIODevice::Append | QIODevice::Unbuffered) || log.write(line) != line.size())
         fail(log.fileName(), log.errorString());
-}
-
-QStringList Machine::toolNames()
-{
-    QStringList names;
-    for (const QStringView tool : tools)
-        names << tool.toString();
-    return names;
-}
-
-void Machine::placeTools(const QString &stockTool) const
-{
-    constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-
-    const QFileInfo source(stockTool);
-    QStringList missing;
-    for (const QString &name : toolNames())
-        missing << name + toolSuffix;
-    // Anything else there would be started for a tool, or loaded by one.
-    for (const QFileInfo &entry : QDir(toolsFolder()).entryInfoList(everything)) {
-        const bool isFolder = entry.isDir() && !entry.isSymLink();
-        if (missing.contains(entry.fileName()) && !isFolder && isStockTool(entry, source))
-            missing.removeAll(entry.fileName());
-        else if (!(isFolder ? QDir(entry.filePath()).removeRecursively() : QFile::remove(entry.filePath())))
-            fail(entry.filePath(), u"not a tool of a rehearsal machine, and it can't be removed"_s);
-    }
-    for (const QString &name : std::as_const(missing)) {
-        const QString place = toolsFolder() + u'/' + name;
-        // Another process may have been quicker.
-        if (!placeTool(source, place) && !isStockTool(QFileInfo(place), source))
-            fail(place, u"can't be written"_s);
-    }
 }

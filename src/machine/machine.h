@@ -62,7 +62,6 @@ enum class Origin {
  *                      DLL strings, environment, faults
  *     drive_c/         the files the program can see; the database has the size of those that nobody reads
  *     program/         the program folder: log.txt, backup_svc, backup_tasks, backup_autorun
- *     tools/           sc, schtasks, ... all of them kestrune-stocktool
  *     commands.log     one JSON line for each tool run: program, arguments, exitCode
  *
  * Several processes may hold one machine open at a time, and several threads one object.
@@ -86,7 +85,6 @@ public:
     QString folder() const { return folder_; }
     QString driveFolder() const { return folder_ + QStringLiteral("/drive_c"); }
     QString programFolder() const { return folder_ + QStringLiteral("/program"); }
-    QString toolsFolder() const { return folder_ + QStringLiteral("/tools"); }
 
     Database &database() const { return *database_; }
     RegistryStore &registry() { return registry_; }
@@ -202,10 +200,6 @@ public:
     /** Whether a link, or a link on the way to a file, leads out of the machine, given by its host path. */
     bool leadsOut(const QString &hostPath) const;
 
-    /** Puts the stock tools into tools/, each a link to or a copy of the given program; nothing else stays there. */
-    void placeTools(const QString &stockTool) const;
-    static QStringList toolNames();
-
 private:
     /** A file by its folder in the machine ("drive_c") and the names below it. */
     struct Location
@@ -229,7 +223,7 @@ private:
 
 /**
  * Copies a machine as it is at this moment into a folder that isn't there yet; other processes may go on working on it.
- * Its log of commands is not copied, and the tools are placed by whoever works on the copy. Changes nothing in the
- * source. Throws MachineError and Interrupted, with a part of the copy left.
+ * Its log of commands is not copied. Changes nothing in the source. Throws MachineError and Interrupted, with a part
+ * of the copy left.
  */
 void copyMachine(const Machine &source, const QString &folder);

@@ -82,6 +82,7 @@ struct AdmittedProgram
 {
     QString file;                 ///< what to start: where it lies, whatever links led there
     std::shared_ptr<void> hold{}; ///< nobody changes the file as long as this is there: keep it until the program ends
+    QStringList leading{};        ///< arguments that it gets before those that it is to be started with
 };
 
 /** What becomes of a file that is there already where one is to be written. */

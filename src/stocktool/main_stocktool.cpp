@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One program behind all stock tools of a rehearsal machine: it answers as the tool by whose name it is started.
+// One program behind all stock tools of a rehearsal machine: it is told the machine and the tool, and answers as that.
+// No file has the name of one of Windows' own tools, which is how malware hides.
 
 #include "console/console.h"
 #include "machine/environment.h"
@@ -10,7 +11,6 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QFileInfo>
 #include <QThread>
 
 #include <cstdio>
@@ -20,6 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int exitNoMachineNamed = 2;
 constexpr int exitMachineUnreadable = 3;
 
 void print(const QByteArray &bytes, std::FILE *stream = stdout)
@@ -54,27 +55,15 @@ ToolResult runFault(const ToolFault &fault, const std::function<bool()> &isOver)
     return {fault.exitCode.value_or(0)};
 }
 
-/** The machine in whose tools folder the program lies, else the one that the environment names. */
-QString machineFolder(const QString &program)
+int runOnMachine(const QString &folder, const QString &name, const QStringList &arguments)
 {
-    if (program.contains(u'/') || program.contains(u'\\')) {
-        const QString folder = QFileInfo(QFileInfo(absolutePath(program)).path()).path();
-        if (QFileInfo::exists(folder + u"/machine.sqlite"_s))
-            return folder;
-    }
-    return qEnvironmentVariable("KESTRUNE_MACHINE");
-}
-
-int runOnMachine(const QString &program, const QStringList &arguments)
-{
-    const std::unique_ptr<Machine> machine = Machine::open(machineFolder(program), Origin::Checked);
+    const std::unique_ptr<Machine> machine = Machine::open(folder, Origin::Checked);
     // In place of those that an elevated process has set for itself
     enterEnvironment(machine->environment());
     const qint64 self = QCoreApplication::applicationPid();
     // A number that an earlier process had must not answer for this one.
     machine->dropExitCode(self);
 
-    const QString name = toolName(program);
     const std::optional<ToolFault> fault = machine->fault(name, arguments);
     MachineToolHost host(*machine, qEnvironmentVariable("KESTRUNE_ELEVATED") != "0"_L1);
     const auto faultIsOver = [&] { return !machine->fault(name, arguments).value_or(ToolFault()).hang; };
@@ -95,13 +84,18 @@ int main(int argc, char *argv[])
     prepareProcess();
     const QCoreApplication application(argc, argv);
     useBinaryOutput();
-    QStringList arguments = QCoreApplication::arguments();
-    const QString program = arguments.takeFirst();
+    const QStringList words = QCoreApplication::arguments();
+    if (words.size() < 3) {
+        std::fprintf(stderr,
+                     "kestrune-stocktool: give it a rehearsal machine, the name of a tool, and its arguments\n");
+        return exitNoMachineNamed;
+    }
+    const QString &name = words.at(2);
     try {
         // Systems with exit codes of 8 bits cut it; the whole one lies in the machine.
-        return runOnMachine(program, arguments);
+        return runOnMachine(words.at(1), name, words.sliced(3));
     } catch (const MachineError &error) {
-        std::fprintf(stderr, "%s: %s\n", qPrintable(QFileInfo(program).fileName()), qPrintable(error.message));
+        std::fprintf(stderr, "%s: %s\n", qPrintable(name), qPrintable(error.message));
         return exitMachineUnreadable;
     }
 }

@@ -2,8 +2,6 @@
 
 #include "tools.h"
 
-#include <QFileInfo>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -30,14 +28,6 @@ constexpr Tool tools[] = {
 // clang-format on
 
 } // namespace
-
-QString toolName(const QString &program)
-{
-    QString name = QFileInfo(program).fileName().toLower();
-    if (name.endsWith(".exe"_L1))
-        name.chop(4);
-    return name;
-}
 
 ToolResult runTool(const QString &name, ToolHost &host, const QStringList &arguments)
 {

@@ -16,8 +16,6 @@ struct ToolResult
 /** The exit code of a program that the command interpreter doesn't find. */
 constexpr int exitNoSuchProgram = 9009;
 
-/** The tool's name in the path of a program: "sc" of "C:\Windows\System32\SC.EXE". */
-QString toolName(const QString &program);
 /** Answers as the tool of that name; a name that no tool has is no program. */
 ToolResult runTool(const QString &name, ToolHost &host, const QStringList &arguments);
 

@@ -81,7 +81,7 @@ void Command::start(const QString &program, const QStringList &arguments)
     if (refused_)
         return;
     hold_ = admitted->hold;
-    process_->start(admitted->file, arguments, QIODevice::ReadWrite);
+    process_->start(admitted->file, admitted->leading + arguments, QIODevice::ReadWrite);
     // Elsewhere than on Windows a failed start shows only now.
     failedToStart_ = !process_->waitForStarted();
     startError_ = process_->errorString();

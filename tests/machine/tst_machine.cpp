@@ -102,8 +102,6 @@ private Q_SLOTS:
     void faultsOfToolsAndOfTheirArguments();
     void exitCodesAreTakenOnce();
     void logsOneLineForEachCommand();
-    void placesTools();
-    void whatIsNoToolIsRemoved();
 
     void controlSetsAreOneKey();
     void aHiveCanOnlyBeEmptied();
@@ -126,7 +124,7 @@ void TestMachine::createsTheFolders()
 {
     const auto machine = Machine::create(folder() + u"/deep/er/"_s);
     QCOMPARE(machine->folder(), folder() + u"/deep/er"_s);
-    for (const QString &each : {machine->driveFolder(), machine->programFolder(), machine->toolsFolder()})
+    for (const QString &each : {machine->driveFolder(), machine->programFolder()})
         QVERIFY2(QFileInfo(each).isDir(), qUtf8Printable(each));
     QVERIFY(QFileInfo(machine->folder() + u"/machine.sqlite"_s).isFile());
     QVERIFY(machine->processes().isEmpty() && machine->environment().isEmpty() && machine->name().isEmpty());
@@ -212,7 +210,7 @@ void TestMachine::openRefuses()
     QCOMPARE(file.write(bytes), bytes.size());
     QVERIFY(size < 0 || file.resize(size));
     file.close();
-    QVERIFY(QDir(folder()).rmdir(u"tools"_s));
+    QVERIFY(QDir(folder()).rmdir(u"program"_s));
 
     const QMap<QString, QByteArray> before = contents(folder());
     const QString problem = problemOfOpening(folder());
@@ -395,9 +393,9 @@ void TestMachine::linksWithinAreFollowed()
 void TestMachine::ownFilesAreNoLinks_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"drive_c", "drive_d", "program", "tools", "commands.log", "machine.sqlite",
-                             "machine.sqlite-wal", "program/log.txt", "program/backup_svc",
-                             "program/backup_tasks/tasks.xml", "journal", "journal/changes.sqlite"})
+    for (const char *name :
+         {"drive_c", "drive_d", "program", "commands.log", "machine.sqlite", "machine.sqlite-wal", "program/log.txt",
+          "program/backup_svc", "program/backup_tasks/tasks.xml", "journal", "journal/changes.sqlite"})
         QTest::newRow(name) << QString::fromLatin1(name);
 }
 
@@ -570,44 +568,6 @@ void TestMachine::logsOneLineForEachCommand()
              QByteArray("{\"program\":\"sc\",\"arguments\":[\"stop\",\"DiagTrack\"],\"exitCode\":0}\n"
                         "{\"program\":\"powershell\",\"arguments\":[\"a \\\"b\\\"\\n\\\\ü\"],\"exitCode\":-5}\n"
                         "{\"program\":\"cmd\",\"arguments\":[],\"exitCode\":1056}\n"));
-}
-
-void TestMachine::placesTools()
-{
-    const auto machine = Machine::create(folder());
-    const QString stockTool = temporary_->filePath(u"stock tool"_s);
-    writeFile(stockTool, "program");
-    machine->placeTools(stockTool);
-    machine->placeTools(stockTool);
-    QVERIFY(Machine::toolNames().contains(u"sc"_s) && Machine::toolNames().contains(u"cmd"_s));
-    QCOMPARE(QDir(machine->toolsFolder()).entryList(QDir::Files).size(), Machine::toolNames().size());
-    for (const QFileInfo &file : QDir(machine->toolsFolder()).entryInfoList(QDir::Files)) {
-        QVERIFY(Machine::toolNames().contains(file.completeBaseName()));
-        QCOMPARE(readFile(file.filePath()), QByteArray("program"));
-    }
-    const QString other = temporary_->filePath(u"other"_s);
-    writeFile(other, "another program");
-    machine->placeTools(other);
-    for (const QFileInfo &file : QDir(machine->toolsFolder()).entryInfoList(QDir::Files))
-        QCOMPARE(readFile(file.filePath()), QByteArray("another program"));
-}
-
-void TestMachine::whatIsNoToolIsRemoved()
-{
-    const auto machine = Machine::create(folder());
-    const QString stockTool = temporary_->filePath(u"stock tool"_s);
-    writeFile(stockTool, "program");
-    machine->placeTools(stockTool);
-    const QFileInfoList placed = QDir(machine->toolsFolder()).entryInfoList(QDir::Files);
-    // As long as the tool, and newer; a library that a tool would find beside it; and a folder.
-    QVERIFY(QFile::remove(placed.first().filePath()));
-    writeFile(placed.first().filePath(), "foreign");
-    writeFile(machine->toolsFolder() + u"/version.dll"_s, "foreign");
-    writeFile(machine->toolsFolder() + u"/folder/file"_s, "foreign");
-    machine->placeTools(stockTool);
-    QCOMPARE(QDir(machine->toolsFolder()).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot), placed);
-    QCOMPARE(readFile(placed.first().filePath()), QByteArray("program"));
-    QCOMPARE(readFile(stockTool), QByteArray("program"));
 }
 
 void TestMachine::controlSetsAreOneKey()

@@ -478,7 +478,7 @@ void TestMachineSource::scReportMakesTheServicesThatAreMissing()
     QCOMPARE(registry.valueNames(*registry.find(services + u"Later"_s)), QStringList{u"Type"_s});
     QVERIFY(!registry.find(services + u"No type"_s));
     QVERIFY(!registry.find(services + u".."_s));
-    const Ended ended = runProgram(machine->toolsFolder() + u"/sc"_s, {u"query"_s, u"New_1"_s});
+    const Ended ended = runProgram(stockTool(), {machine.folder(), u"sc"_s, u"query"_s, u"New_1"_s});
     QVERIFY2(ended.output.contains("STATE              : 4  RUNNING"), ended.output);
 }
 
@@ -513,7 +513,7 @@ void TestMachineSource::ownReportComesBack()
 {
     SmallMachine machine;
     const QMap<QString, bool> states = machine->runStates();
-    const Ended ended = runProgram(machine->toolsFolder() + u"/sc"_s, {u"query"_s, u"state="_s, u"all"_s});
+    const Ended ended = runProgram(stockTool(), {machine.folder(), u"sc"_s, u"query"_s, u"state="_s, u"all"_s});
     writeFile(machine.beside(u"report.txt"_s), ended.output);
     machine->setRunning(u"DiagTrack"_s, false);
     importFile(*machine, machine.beside(u"report.txt"_s));

@@ -74,7 +74,6 @@ private Q_SLOTS:
     void startsItselfElevated();
     void startsNothingOfTheHost();
 
-    void withoutTheStockToolNoToolIsStarted();
     void environmentInEverySpelling();
     void variablesThatNobodyAsksForStayOut();
     void environmentOfAFormerMachineGoes();
@@ -351,9 +350,11 @@ void TestPlatform::programFiles()
         QCOMPARE(file, QString());
         return;
     }
-    QCOMPARE(QFileInfo(file).path(), contract_->machine().toolsFolder());
-    QCOMPARE(QFileInfo(file).completeBaseName(), tool);
     QVERIFY(QFileInfo(file).isExecutable());
+    const std::optional<AdmittedProgram> admitted = platform().admitProgram(program, {});
+    QVERIFY(admitted);
+    QCOMPARE(admitted->file, file);
+    QCOMPARE(admitted->leading, QStringList({contract_->folder(), tool}));
 }
 
 void TestPlatform::aProgramThatIsMissingByAFault()
@@ -401,12 +402,14 @@ void TestPlatform::unsignedProgramsAreNotForElevatedProcesses()
 
 void TestPlatform::programsNeverComeFromTheHost()
 {
-    // Without its stand-ins the machine has no programs, even if the host has one of the name on its path.
+    // Without the stock tool the machine has no programs, even if the host has one of the name on its path.
     const QByteArray path = qgetenv("PATH");
     writeFile(temporary_->filePath(u"sc"_s), "#!/bin/sh\n");
     QVERIFY(QFile::setPermissions(temporary_->filePath(u"sc"_s), QFile::ReadOwner | QFile::ExeOwner));
     qputenv("PATH", temporary_->path().toLocal8Bit() + ':' + path);
-    QVERIFY(QDir(contract_->machine().toolsFolder()).removeRecursively());
+    MachineOptions options;
+    options.stockTool = temporary_->filePath(u"absent"_s);
+    contract_->restart(options);
     const QString file = platform().programFile(u"sc"_s);
     qputenv("PATH", path);
     QCOMPARE(file, QString());
@@ -471,7 +474,7 @@ void TestPlatform::startsToolsOfTheMachine()
     contract_->restart(options);
     qputenv(recordVariable, temporary_->filePath(u"record"_s).toLocal8Bit());
     platform().shellExecute({u"open"_s, u"cmd.exe"_s, u"/c start \"a b\" c"_s});
-    QTRY_COMPARE_WITH_TIMEOUT(recorded(), u"machine|0|/c|start|a b|c"_s, 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(recorded(), u"machine|0|%1|cmd|/c|start|a b|c"_s.arg(contract_->folder()), 20000);
 }
 
 void TestPlatform::startsItselfElevated()
@@ -494,20 +497,6 @@ void TestPlatform::startsNothingOfTheHost()
     platform().shellExecute({u"open"_s, u"touch"_s, temporary_->filePath(u"record"_s)});
     QTest::qWait(300);
     QVERIFY(!QFileInfo::exists(temporary_->filePath(u"record"_s)));
-}
-
-void TestPlatform::withoutTheStockToolNoToolIsStarted()
-{
-    MachineOptions options;
-    options.stockTool = temporary_->filePath(u"absent"_s);
-    contract_->restart(options);
-    const QString planted = contract_->machine().toolsFolder() + u"/sc"_s;
-    for (const QString &file : {planted, planted + u".exe"_s}) {
-        QFile::remove(file);
-        writeFile(file, "#!/bin/sh\n");
-        QVERIFY(QFile::setPermissions(file, QFile::ReadOwner | QFile::ExeOwner));
-    }
-    QCOMPARE(platform().programFile(u"sc"_s), QString());
 }
 
 void TestPlatform::environmentInEverySpelling()

@@ -315,7 +315,7 @@ void TestHostUntouched::noProgramOfTheHostIsStarted()
         writeFile(folder_.filePath(u"addition.json"_s), "{ \"formatVersion\": 1, " + addition.toUtf8() + " }");
         QCOMPARE(rehearse({u"import"_s, machine, folder_.filePath(u"addition.json"_s)}).exitCode, 0);
     }
-    for (const QString &place : {u"/tools"_s, u"/drive_c/Windows/System32"_s, u"/program"_s}) {
+    for (const QString &place : {u"/drive_c/Windows/System32"_s, u"/program"_s}) {
         QVERIFY(QDir().mkpath(machine + place));
         for (const QString &name : temptations)
             QFile::copy(builtProgram(u"marker"_s + programSuffix), machine + place + u'/' + name + programSuffix);
@@ -325,12 +325,13 @@ void TestHostUntouched::noProgramOfTheHostIsStarted()
     QCOMPARE(marks(), QStringList());
 }
 
-/** What lies in the machine's tools folder is no way round it. */
+/** What lies in the machine is no way round it. */
 void TestHostUntouched::withoutTheStockToolNothingIsStarted()
 {
     const QString machine = makeMachine(u"planted"_s, smallSources_);
     for (const QString &name : temptations)
-        QVERIFY(QFile::copy(builtProgram(u"marker"_s + programSuffix), machine + u"/tools/"_s + name + programSuffix));
+        QVERIFY(
+            QFile::copy(builtProgram(u"marker"_s + programSuffix), machine + u"/program/"_s + name + programSuffix));
     const QString stockTool = program(u"kestrune-stocktool"_s);
     QVERIFY(QFile::rename(stockTool, stockTool + u".away"_s));
     run(machine, {u"svc-disable"_s, u"DiagTrack"_s});
@@ -373,9 +374,10 @@ void TestHostUntouched::nothingOutsideIsReadOrWritten()
     const QStringList before = stateBelow(outside);
     runEverything(machine, false);
     runEverything(machine, true);
-    QCOMPARE(
-        start(machine + u"/tools/cmd"_s, {u"/k"_s, u"dism /online /Cleanup-Image /StartComponentCleanup"_s}).exitCode,
-        0);
+    QCOMPARE(start(program(u"kestrune-stocktool"_s),
+                   {machine, u"cmd"_s, u"/k"_s, u"dism /online /Cleanup-Image /StartComponentCleanup"_s})
+                 .exitCode,
+             0);
     QCOMPARE(openedBelow(outside), QStringList());
     QCOMPARE(stateBelow(outside), before);
     // A look by one of our processes is seen, through a link too; one by anybody else isn't.

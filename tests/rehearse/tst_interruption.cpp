@@ -181,7 +181,7 @@ QString leftByAKilledPreview(const QTemporaryDir &place, const QString &machine)
     while (folder.isEmpty() && !run.hasEnded(5)) {
         for (const QString &name : leftIn(temporaryFolder(place))) {
             const QString path = temporaryFolder(place) + u'/' + name;
-            if (QFileInfo::exists(path + u"/optimized/tools"_s))
+            if (QFileInfo::exists(path + u"/optimized/program"_s))
                 folder = path;
         }
     }

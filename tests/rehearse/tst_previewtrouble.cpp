@@ -198,8 +198,7 @@ void TestPreviewTrouble::damagedMachineIsTold()
 void TestPreviewTrouble::foldersThatHoldNothingOfThePcMayBeMissing()
 {
     const QString machine = copyOf(pc_, u"bare"_s);
-    for (const QString &name : {u"/tools"_s, u"/program"_s})
-        QDir(machine + name).removeRecursively();
+    QDir(machine + u"/program"_s).removeRecursively();
     const QString report = folder_.filePath(u"bare.json"_s);
     Preview preview(machine, quick + QStringList{u"--json"_s, report});
     QCOMPARE(preview.end(), 0);
@@ -231,10 +230,9 @@ void TestPreviewTrouble::leftOverLogOfTheDatabaseBelongsToTheMachine()
 void TestPreviewTrouble::machineThatCannotBeWrittenIsPreviewed()
 {
     const QString machine = copyOf(pc_, u"locked"_s);
-    QVERIFY(QDir(machine).mkpath(u"tools"_s));
     constexpr auto readable = QFileDevice::ReadOwner | QFileDevice::ReadUser;
     QVERIFY(QFile::setPermissions(machine + u"/machine.sqlite"_s, readable));
-    for (const QString &folder : {u"/program"_s, u"/tools"_s, u"/drive_c"_s, QString()})
+    for (const QString &folder : {u"/program"_s, u"/drive_c"_s, QString()})
         QVERIFY(QFile::setPermissions(machine + folder, readable | QFileDevice::ExeOwner | QFileDevice::ExeUser));
 
     const QString page = folder_.filePath(u"locked.html"_s);

@@ -382,17 +382,14 @@ public:
     Killer()
     {
         QFile::copy(builtProgram(u"kestrune-rehearse"_s), path("kestrune-rehearse"));
-        QDir(folder_.path()).mkdir(u"real"_s);
-        for (const QString &tool : Machine::toolNames())
-            QFile::link(builtProgram(u"kestrune-stocktool"_s), path("real/") + tool);
         writeFile(path("kestrune-stocktool"), "#!/bin/sh\n"
                                               "n=$(cat \"$COUNT\" 2>/dev/null)\n"
                                               "n=$((${n:-0} + 1))\n"
                                               "echo $n >\"$COUNT\"\n"
-                                              "[ $n -ne $KILL_AT ] && exec \"$REAL/${0##*/}\" \"$@\"\n"
+                                              "[ $n -ne $KILL_AT ] && exec \"$REAL\" \"$@\"\n"
                                               "[ $WHEN = before ] && kill -$SIGNAL $PPID\n"
                                               "[ $WHEN = before ] && [ $SIGNAL = KILL ] && exit\n"
-                                              "\"$REAL/${0##*/}\" \"$@\" >&2\n"
+                                              "\"$REAL\" \"$@\" >&2\n"
                                               "[ $WHEN = before ] || kill -$SIGNAL $PPID\n");
         QFile::setPermissions(path("kestrune-stocktool"), QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
     }
@@ -403,7 +400,7 @@ public:
                           {{u"KILL_AT"_s, QString::number(killAt)},
                            {u"WHEN"_s, when},
                            {u"SIGNAL"_s, signal},
-                           {u"REAL"_s, path("real")},
+                           {u"REAL"_s, stockTool()},
                            {u"COUNT"_s, machine.folder() + u"/calls"_s}});
     }
 

@@ -75,7 +75,7 @@ private Q_SLOTS:
     void hangingToolIsThereUntilItIsEnded();
     void hangingToolEndsWithItsStarter();
     void unknownToolIsNotFound();
-    void machineIsTakenFromTheEnvironment();
+    void aMachineAndAToolMustBeNamed();
     void unreadableMachineIsReported();
     void runsAreLoggedWithTheirWholeCode();
     void processesAtOnceLoseNothing();
@@ -144,7 +144,7 @@ void TestStockTool::failuresHaveTheirCodeAndTextAndChangeNothing()
 void TestStockTool::processExitCodeIsCutToWhatTheSystemCarries()
 {
     SmallMachine machine;
-    const Ended ended = runProgram(machine->toolsFolder() + u"/sc"_s, {u"start"_s, u"RpcSs"_s}, elevated);
+    const Ended ended = runProgram(stockTool(), {machine.folder(), u"sc"_s, u"start"_s, u"RpcSs"_s}, elevated);
 #ifdef Q_OS_WIN
     QCOMPARE(ended.exitCode, 1056);
 #else
@@ -393,7 +393,7 @@ void TestStockTool::hangingToolIsThereUntilItIsEnded()
     hanging.output = u"half a record"_s;
     machine->setFault(u"sc"_s, hanging);
     QProcess process;
-    process.start(machine->toolsFolder() + u"/sc"_s, {u"query"_s});
+    process.start(stockTool(), {machine.folder(), u"sc"_s, u"query"_s});
     QVERIFY(process.waitForReadyRead());
     QCOMPARE(process.readAll(), QByteArray("half a record"));
     QVERIFY(!process.waitForFinished(300));
@@ -413,7 +413,7 @@ void TestStockTool::hangingToolEndsWithItsStarter()
     QProcess starter;
     // The shell stays long enough to be known as the starter.
     starter.start(u"/bin/sh"_s,
-                  {u"-c"_s, u"\"$0\" query >&- 2>&- & echo $!; sleep 0.5"_s, machine->toolsFolder() + u"/sc"_s});
+                  {u"-c"_s, u"\"$0\" \"$1\" sc query >&- 2>&- & echo $!; sleep 0.5"_s, stockTool(), machine.folder()});
     QVERIFY(starter.waitForReadyRead());
     const qint64 processId = starter.readLine().trimmed().toLongLong();
     QVERIFY(processId > 0);
@@ -425,28 +425,27 @@ void TestStockTool::hangingToolEndsWithItsStarter()
 void TestStockTool::unknownToolIsNotFound()
 {
     SmallMachine machine;
-    QVERIFY(QFile::link(builtProgram(u"kestrune-stocktool"_s), machine->toolsFolder() + u"/frobnicate"_s));
     const Ended ended = runTool(machine, u"frobnicate"_s, {u"a"_s});
     QCOMPARE(ended.exitCode, 9009);
     QCOMPARE(ended.output, QByteArray());
 }
 
-void TestStockTool::machineIsTakenFromTheEnvironment()
+void TestStockTool::aMachineAndAToolMustBeNamed()
 {
     SmallMachine machine;
-    const QString elsewhere = machine.beside(u"SC.EXE"_s);
-    QVERIFY(QFile::link(builtProgram(u"kestrune-stocktool"_s), elsewhere));
-    const Ended ended = runProgram(elsewhere, {u"query"_s, u"RpcSs"_s}, {{u"KESTRUNE_MACHINE"_s, machine.folder()}});
-    QCOMPARE(ended.exitCode, 0);
-    QVERIFY(ended.output.startsWith("\r\nSERVICE_NAME: RpcSs"));
+    for (const QStringList &words : {QStringList(), {machine.folder()}}) {
+        const Ended ended = runProgram(stockTool(), words, {{u"KESTRUNE_MACHINE"_s, machine.folder()}});
+        QCOMPARE(ended.exitCode, 2);
+        QCOMPARE(ended.output, QByteArray());
+        QVERIFY(ended.errors.startsWith("kestrune-stocktool: give it a rehearsal machine"));
+    }
+    QVERIFY(!QFileInfo::exists(machine.folder() + u"/commands.log"_s));
 }
 
 void TestStockTool::unreadableMachineIsReported()
 {
     SmallMachine machine;
-    const QString elsewhere = machine.beside(u"sc"_s);
-    QVERIFY(QFile::link(builtProgram(u"kestrune-stocktool"_s), elsewhere));
-    const Ended ended = runProgram(elsewhere, {u"query"_s}, {{u"KESTRUNE_MACHINE"_s, machine.beside(u"none"_s)}});
+    const Ended ended = runProgram(stockTool(), {machine.beside(u"none"_s), u"sc"_s, u"query"_s});
     QCOMPARE(ended.exitCode, 3);
     QCOMPARE(ended.output, QByteArray());
     QVERIFY(ended.errors.startsWith("sc: "));
@@ -471,8 +470,8 @@ void TestStockTool::processesAtOnceLoseNothing()
     std::vector<std::unique_ptr<QProcess>> processes;
     for (int i = 0; i < count; ++i) {
         processes.push_back(std::make_unique<QProcess>());
-        processes.back()->start(machine->toolsFolder() + u"/sc"_s,
-                                {u"config"_s, i % 2 ? u"Off"_s : u"Appinfo"_s, u"start="_s, u"auto"_s});
+        processes.back()->start(stockTool(), {machine.folder(), u"sc"_s, u"config"_s, i % 2 ? u"Off"_s : u"Appinfo"_s,
+                                              u"start="_s, u"auto"_s});
     }
     for (const auto &process : processes) {
         QVERIFY(process->waitForFinished());

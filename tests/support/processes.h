@@ -55,6 +55,12 @@ inline QString builtProgram(const QString &name)
     return QCoreApplication::applicationDirPath() + u'/' + name;
 }
 
+/** What a tool of a machine is started with, by the one program behind all of them. */
+inline QString stockTool()
+{
+    return builtProgram(QStringLiteral("kestrune-stocktool"));
+}
+
 /** Copies a program of the project; gives the copy's path. */
 inline QString copyProgram(const QString &name, const QString &place)
 {

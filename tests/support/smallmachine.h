@@ -13,7 +13,7 @@ inline QString smallSources()
     return QStringLiteral(KESTRUNE_TEST_DATA "/small");
 }
 
-/** Has the services and files of data/small, and the stock tools of this build. */
+/** Has the services and files of data/small. */
 class SmallMachine
 {
 public:
@@ -22,7 +22,6 @@ public:
         try {
             makeMachine(folder(), smallSources(), Existing::Keep);
             machine_ = Machine::open(folder());
-            machine_->placeTools(builtProgram(QStringLiteral("kestrune-stocktool")));
         } catch (const MachineError &error) {
             qFatal("%s", qPrintable(error.message));
         }

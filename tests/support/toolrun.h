@@ -12,7 +12,7 @@ inline const Variables notElevated{{QStringLiteral("KESTRUNE_ELEVATED"), QString
 inline Ended runTool(SmallMachine &machine, const QString &tool, const QStringList &arguments,
                      const Variables &variables = elevated)
 {
-    Ended ended = runProgram(machine->toolsFolder() + u'/' + tool, arguments, variables);
+    Ended ended = runProgram(stockTool(), QStringList{machine.folder(), tool} + arguments, variables);
     ended.exitCode = machine->takeExitCode(ended.processId).value_or(-1);
     return ended;
 }

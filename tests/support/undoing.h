@@ -86,10 +86,9 @@ inline bool runBuiltIn(Machine &machine, const QStringList &words, const QString
 inline int runToolOf(const Machine &machine, const QStringList &words)
 {
     Variables variables = machine.environment();
-    variables[QStringLiteral("KESTRUNE_MACHINE")] = machine.folder();
     variables[QStringLiteral("KESTRUNE_ELEVATED")] = QStringLiteral("1");
     const QString name = words.first().section(u'\\', -1).section(u'.', 0, 0).toLower();
-    return runProgram(machine.toolsFolder() + u'/' + name, words.mid(1), variables).exitCode;
+    return runProgram(stockTool(), QStringList{machine.folder(), name} + words.mid(1), variables).exitCode;
 }
 
 /** Imports the script and gives the commands beside it. The first command that failed; empty where none did. */

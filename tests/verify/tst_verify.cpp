@@ -318,8 +318,7 @@ void TestVerify::taskEnabledAgainByHand()
 void TestVerify::taskEnabledAgainByTool()
 {
     Later later(*pc_);
-    later.now->placeTools(builtProgram(u"kestrune-stocktool"_s));
-    runProgram(later.now->toolsFolder() + u"/schtasks"_s, {u"/CHANGE"_s, u"/TN"_s, consolidator, u"/ENABLE"_s});
+    runProgram(stockTool(), {later.now->folder(), u"schtasks"_s, u"/CHANGE"_s, u"/TN"_s, consolidator, u"/ENABLE"_s});
 
     const VerifiedItem item = later.item(consolidator);
     QCOMPARE(item.verdict, Verdict::ChangedBack);

@@ -2,6 +2,7 @@
 // Tests of how stock tools are run, with real processes.
 
 #include "fakeplatform.h"
+#include "support/processes.h"
 #include "support/suite.h"
 #include "support/testmachine.h"
 #include "work/command.h"
@@ -35,24 +36,25 @@ int exitCodeOf(Command &command, const QString &program, const QStringList &argu
     return command.exitCode();
 }
 
-/** The programs that run out of a folder, by their ids. */
-QList<qint64> programsOf(const QString &folder)
+/** The tools of a machine that run, by their ids. */
+QList<qint64> toolsOf(const QString &machine)
 {
     QList<qint64> programs;
     for (const QString &process : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
         QFile file(u"/proc/"_s + process + u"/cmdline"_s);
-        if (file.open(QIODevice::ReadOnly) && file.readAll().startsWith(folder.toLocal8Bit()))
+        if (file.open(QIODevice::ReadOnly)
+            && file.readAll().startsWith(stockTool().toLocal8Bit() + '\0' + machine.toLocal8Bit() + '\0'))
             programs.append(process.toLongLong());
     }
     return programs;
 }
 
-/** How many programs run out of the machine's folder; -1 where that is unknown. */
+/** How many tools of the machine run; -1 where that is unknown. */
 int runningTools(const TestMachine &machine)
 {
     if (!QDir(u"/proc/self"_s).exists())
         return -1;
-    return static_cast<int>(programsOf(machine.machine().toolsFolder()).size());
+    return static_cast<int>(toolsOf(machine.folder()).size());
 }
 
 /** Every program is there when it is looked for. */
@@ -76,12 +78,12 @@ class Rescue
 {
 public:
     explicit Rescue(const TestMachine &machine)
-        : thread_([folder = machine.machine().toolsFolder()](const std::stop_token &stop) {
+        : thread_([folder = machine.folder()](const std::stop_token &stop) {
             for (const QDeadlineTimer deadline(20000); !deadline.hasExpired() && !stop.stop_requested();)
                 QThread::msleep(10);
             nothingCanBeKilled = false;
             if (!stop.stop_requested()) {
-                for (const qint64 tool : programsOf(folder))
+                for (const qint64 tool : toolsOf(folder))
                     forceToEnd(tool);
             }
         })
@@ -324,7 +326,7 @@ void TestCommand::aProgramThatSomebodyElseEndsSaysSo()
     Command command;
     command.start(u"sc"_s, {u"query"_s});
     QTRY_COMPARE(runningTools(machine), 1);
-    forceToEnd(programsOf(machine.machine().toolsFolder()).first());
+    forceToEnd(toolsOf(machine.folder()).first());
     command.waitForFinished();
     QVERIFY(!command.hasEndedByItself());
     QCOMPARE(command.errorString(), u"Process crashed"_s);

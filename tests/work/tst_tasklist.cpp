@@ -32,18 +32,23 @@ void print(const TestMachine &machine, const QString &text, int repeat = 1)
     machine.machine().setFault(u"schtasks"_s, {.output = text, .repeat = repeat});
 }
 
-/** Lets schtasks print these very bytes. */
-void printBytes(const TestMachine &machine, const QByteArray &bytes, const QByteArray &commandsAfter = {})
+/** A stock tool that prints these very bytes, whatever it is asked. */
+class PrintingTool
 {
-    const QString tool = machine.machine().toolsFolder() + u"/schtasks"_s;
-    QFile content(tool + u".txt"_s);
-    QVERIFY(content.open(QIODevice::WriteOnly) && content.write(bytes) == bytes.size());
-    QFile::remove(tool);
-    QFile script(tool);
-    QVERIFY(script.open(QIODevice::WriteOnly));
-    script.write("#!/bin/sh\ncat \"$0.txt\"\n" + commandsAfter);
-    QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-}
+public:
+    MachineOptions options() const { return {.stockTool = file_}; }
+
+    void print(const QByteArray &bytes, const QByteArray &commandsAfter = {}) const
+    {
+        writeFile(file_ + u".txt"_s, bytes);
+        writeFile(file_, "#!/bin/sh\ncat \"$0.txt\"\n" + commandsAfter);
+        QVERIFY(QFile::setPermissions(file_, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    }
+
+private:
+    QTemporaryDir folder_;
+    QString file_ = folder_.filePath(u"tool"_s);
+};
 
 QString exportFile(const TestMachine &machine)
 {
@@ -453,9 +458,10 @@ void TestTaskList::exportOf16BitsWithItsMarkIsRead_data()
 void TestTaskList::exportOf16BitsWithItsMarkIsRead()
 {
     QFETCH(const QStringConverter::Encoding, encoding);
-    const TaskMachine machine;
+    const PrintingTool tool;
+    const TaskMachine machine(tool.options());
     QStringEncoder encode(encoding, QStringConverter::Flag::WriteBom);
-    printBytes(machine, encode(listOfDocuments({{u"\\Folder\\A"_s, u"Hält"_s}, {u"\\B"_s}})));
+    tool.print(encode(listOfDocuments({{u"\\Folder\\A"_s, u"Hält"_s}, {u"\\B"_s}})));
     WorkThread worker;
     JobLines lines(worker);
     worker.TaskMakeList();
@@ -466,9 +472,10 @@ void TestTaskList::exportOf16BitsWithItsMarkIsRead()
 
 void TestTaskList::exportOf16BitsWithoutMarkGivesNoRow()
 {
-    const TaskMachine machine;
+    const PrintingTool tool;
+    const TaskMachine machine(tool.options());
     QStringEncoder encode(QStringConverter::Utf16LE);
-    printBytes(machine, encode(listOfDocuments({{u"\\A"_s}, {u"\\B"_s}})));
+    tool.print(encode(listOfDocuments({{u"\\A"_s}, {u"\\B"_s}})));
     WorkThread worker;
     JobLines lines(worker);
     worker.TaskMakeList();
@@ -478,10 +485,11 @@ void TestTaskList::exportOf16BitsWithoutMarkGivesNoRow()
 
 void TestTaskList::bytesThatAreNoTextAreRead()
 {
-    const TaskMachine machine;
-    printBytes(machine, "<Task><URI>\\A</URI><Description>H\x84lt" + QByteArray(1, '\0')
-                            + " an</Description></Task><Task><URI>\\\x81"
-                              "ber</URI></Task>");
+    const PrintingTool tool;
+    const TaskMachine machine(tool.options());
+    tool.print("<Task><URI>\\A</URI><Description>H\x84lt" + QByteArray(1, '\0')
+               + " an</Description></Task><Task><URI>\\\x81"
+                 "ber</URI></Task>");
     WorkThread worker;
     worker.TaskMakeList();
     QCOMPARE(worker.tasks.size(), 2);
@@ -559,11 +567,11 @@ void TestTaskList::exportFollowsNoLink()
 
 void TestTaskList::exportOfSomebodyElseIsNotRead()
 {
-    const TaskMachine machine;
+    const PrintingTool tool;
+    const TaskMachine machine(tool.options());
     const QByteArray text = listOfDocuments({{u"\\A"_s}}).toUtf8();
     // Whoever can write there puts another list in its place as soon as the tool has printed.
-    printBytes(machine, text,
-               "\nprintf '<Task><URI>\\\\Evil</URI></Task>' >'" + QFile::encodeName(exportFile(machine)) + "'\n");
+    tool.print(text, "\nprintf '<Task><URI>\\\\Evil</URI></Task>' >'" + QFile::encodeName(exportFile(machine)) + "'\n");
     WorkThread worker;
     worker.TaskMakeList();
     QCOMPARE(pathsOf(worker.tasks), QStringList{u"A"_s});
@@ -587,11 +595,12 @@ void TestTaskList::folderOfTheExportMayLieOnALink()
 
 void TestTaskList::backupFollowsNoLink()
 {
-    TaskMachine machine;
+    const PrintingTool tool;
+    TaskMachine machine(tool.options());
     const QString absent = machine.platform().hostPath(u"C:\\Windows\\absent"_s);
     QVERIFY(QDir().mkpath(backupFolder(machine)));
     QVERIFY(QFile::link(absent, backupFolder(machine) + u"/tasks.xml"_s));
-    printBytes(machine, listOfDocuments({{u"\\A"_s}}).toUtf8()); // the stock tool works on no machine with a link there
+    tool.print(listOfDocuments({{u"\\A"_s}}).toUtf8()); // the stock tool works on no machine with a link there
     WorkThread worker;
     worker.TaskMakeList();
     QCOMPARE(pathsOf(worker.tasks), QStringList{u"A"_s});
@@ -600,10 +609,11 @@ void TestTaskList::backupFollowsNoLink()
 
 void TestTaskList::backupInALinkedFolderIsLeftOut()
 {
-    TaskMachine machine;
+    const PrintingTool tool;
+    TaskMachine machine(tool.options());
     const QString some = machine.addFile(u"C:\\Windows\\some.txt"_s);
     QVERIFY(QFile::link(QFileInfo(some).path(), backupFolder(machine)));
-    printBytes(machine, listOfDocuments({{u"\\A"_s}}).toUtf8()); // the stock tool works on no machine with a link there
+    tool.print(listOfDocuments({{u"\\A"_s}}).toUtf8()); // the stock tool works on no machine with a link there
     WorkThread worker;
     JobLines lines(worker);
     worker.TaskMakeList();

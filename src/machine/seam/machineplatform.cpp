@@ -31,6 +31,8 @@ constexpr quint32 errorBadImage = 193;
 constexpr qint32 wmiInvalidClass = -2147217392; // WBEM_E_INVALID_CLASS
 constexpr int pauseSlice = 10;                  // milliseconds
 constexpr qsizetype mostProcesses = 1024;
+constexpr QStringView tools[] = {u"sc",  u"schtasks", u"powershell", u"taskkill", u"onedrivesetup",
+                                 u"cmd", u"powercfg", u"bcdedit",    u"takeown",  u"icacls"};
 
 #ifdef Q_OS_WIN
 constexpr QLatin1StringView executableSuffix(".exe");
@@ -45,9 +47,9 @@ QString toolOf(const QString &program)
     QString name = program.sliced(start);
     if (name.endsWith(u".exe", Qt::CaseInsensitive))
         name.chop(4);
-    for (const QString &tool : Machine::toolNames()) {
+    for (const QStringView tool : tools) {
         if (tool.compare(name, Qt::CaseInsensitive) == 0)
-            return tool;
+            return tool.toString();
     }
     return {};
 }
@@ -83,12 +85,8 @@ MachinePlatform::MachinePlatform(const QString &machineFolder, MachineOptions op
         options_.resourceFolder = QCoreApplication::applicationDirPath();
     if (options_.stockTool.isEmpty())
         options_.stockTool = QCoreApplication::applicationDirPath() + u"/kestrune-stocktool"_s + executableSuffix;
-    if (QFileInfo::exists(options_.stockTool))
-        machine_->placeTools(options_.stockTool);
-    else
-        options_.stockTool.clear(); // and what lies in the machine in its place isn't started
     enterEnvironment(machine_->environment());
-    // For the tools, and for this program when it is started anew.
+    // For this program when it is started anew; the second for the tools, too.
     qputenv("KESTRUNE_MACHINE", machine_->folder().toLocal8Bit());
     qputenv("KESTRUNE_ELEVATED", options_.elevated ? "1" : "0");
 }
@@ -227,7 +225,7 @@ QString MachinePlatform::programFile(const QString &program) const
 QString MachinePlatform::resolvedProgram(const QString &program) const
 {
     const QString tool = toolOf(program);
-    if (tool.isEmpty() || options_.stockTool.isEmpty())
+    if (tool.isEmpty())
         return {};
     const std::optional<ToolFault> fault = machine_->fault(tool);
     if (fault && fault->missing)
@@ -237,10 +235,15 @@ QString MachinePlatform::resolvedProgram(const QString &program) const
         if (!present)
             return {};
     }
-    const QString file = machine_->toolsFolder() + u'/' + tool + executableSuffix;
-    if (!QFileInfo(file).isFile())
-        throw MachineError{u"%1: the tool is missing"_s.arg(QDir::toNativeSeparators(file))};
-    return file;
+    if (!QFileInfo(options_.stockTool).isFile())
+        throw MachineError{u"%1: the program behind the tools is missing"_s.arg(
+            QDir::toNativeSeparators(options_.stockTool))};
+    return options_.stockTool;
+}
+
+QStringList MachinePlatform::wordsToStart(const QString &program) const
+{
+    return {machine_->folder(), toolOf(program)};
 }
 
 std::optional<AdmittedProgram> MachinePlatform::admitProgram(const QString &program, const QStringList &) const
@@ -248,7 +251,7 @@ std::optional<AdmittedProgram> MachinePlatform::admitProgram(const QString &prog
     const QString path = withoutQuotes(program);
     if (options_.elevated && !isBareName(path) && guarded(true, [&] { return machine_->isUnsigned(path); }))
         return {};
-    return AdmittedProgram{programFile(program), {}};
+    return AdmittedProgram{programFile(program), {}, wordsToStart(path)};
 }
 
 void MachinePlatform::startFailed(const QString &program, const QString &reason) const
@@ -299,7 +302,7 @@ void MachinePlatform::shellExecute(const ShellStart &start) const
     process.setProgram(isOwn ? own : programFile(start.file));
     if (process.program().isEmpty())
         return;
-    process.setArguments(QProcess::splitCommand(start.parameters));
+    process.setArguments((isOwn ? QStringList() : wordsToStart(start.file)) + QProcess::splitCommand(start.parameters));
     if (start.verb.compare(u"runas", Qt::CaseInsensitive) == 0) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"KESTRUNE_ELEVATED"_s, u"1"_s);

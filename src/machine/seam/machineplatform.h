@@ -16,8 +16,7 @@ struct MachineOptions
     bool elevated = true;
     double pace = 0;          ///< pauses are slept this many times their length
     QString resourceFolder{}; ///< host path; empty: the folder of the running program
-    QString
-        stockTool{}; ///< the program behind the machine's tools; empty: kestrune-stocktool beside the running program
+    QString stockTool{};      ///< the program behind all tools; empty: kestrune-stocktool beside the running program
     /** Starts what the shell is asked to start; by default a real process on the same machine. */
     std::function<void(const ShellStart &)> launcher{};
 };
@@ -77,6 +76,8 @@ public:
 
 private:
     bool isReadOnly(const QString &file) const;
+    /** What the one program behind the tools is told to begin with: the machine, and which tool it is. */
+    QStringList wordsToStart(const QString &program) const;
     QString resolvedProgram(const QString &program) const;
     QJsonObject hardware() const;
     /** What the machine says of the volume that a Windows path lies on. */

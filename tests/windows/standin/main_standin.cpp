@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QProcessEnvironment>
 
 #include <cstdio>
@@ -24,7 +25,7 @@ int main(int argc, char *argv[])
         return exitNoSuchProgram;
     useBinaryOutput();
     QStringList arguments = QCoreApplication::arguments();
-    const QString name = toolName(arguments.takeFirst());
+    const QString name = QFileInfo(arguments.takeFirst()).completeBaseName().toLower();
     NativeToolHost host;
     const ToolResult result = runTool(name, host, arguments);
 
