@@ -105,12 +105,6 @@ bool isHeld(const SystemState &system, const QString &name)
                        [&](const QString &user) { return user.startsWith("S-1-"_L1) && holds(store + u'\\' + user); });
 }
 
-/** The page of the Store on which a package can be had again, by its full name. */
-QString storeLink(const QString &fullName)
-{
-    return u"ms-windows-store://pdp/?PFN=%1_%2"_s.arg(packageNameOf(fullName), fullName.section(u'_', -1));
-}
-
 /** Why a thing can't come back, whatever is tried; empty where it may. */
 QString hindrance(const SystemState &system, const Note &note, const ItemState &now)
 {
@@ -327,7 +321,7 @@ TakenItem judged(const Journal &journal, const Thing &thing, const Moves &moves)
         item.verdict = WayBack::Impossible;
         item.why = std::move(why);
         if (note.item.kind == ItemKind::Package)
-            item.storeLink = storeLink(QString::fromUtf8(note.before.data));
+            item.storeLink = storePageOf(QString::fromUtf8(note.before.data));
     } else if (item.now == item.before) {
         item.verdict = WayBack::AsItWas;
     } else if (thing.changedLater && !isAsLeft) {

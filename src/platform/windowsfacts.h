@@ -72,5 +72,11 @@ inline QString packageNameOf(const QString &fullName)
     return fullName.section(u'_', 0, 0);
 }
 
+/** The page of the Store on which a package can be had again, by its full name. */
+inline QString storePageOf(const QString &fullName)
+{
+    return QStringLiteral("ms-windows-store://pdp/?PFN=%1_%2").arg(packageNameOf(fullName), fullName.section(u'_', -1));
+}
+
 /** OneDrive's installer is no package; this name stands for it among them. */
 inline const QString oneDriveName = QStringLiteral("MS OneDrive");

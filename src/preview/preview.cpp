@@ -90,6 +90,7 @@ QList<PreviewItem> previewItems(Machine &before, Machine &optimized, Machine &re
         item.title = words.title;
         item.about = words.about;
         item.after = words.after;
+        item.store = words.store;
         item.name = words.name;
         item.without = withoutOf(words.group, words.name);
         item.details.append({words.detail, words.place, sideInWords(words, three.row.before),

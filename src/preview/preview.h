@@ -48,6 +48,7 @@ struct PreviewItem
     QList<PreviewDetail> details;
     QString after{};   ///< what is known of what Restore leaves, not the journal; often empty
     QString without{}; ///< what stops working without it; empty where nothing is known of it
+    QString store{};   ///< where a Windows application can be had again; empty of all else
 
     /** The least favourable of its details. */
     Restorability comesBack() const;

@@ -249,13 +249,20 @@ StepNames stepNames(PreviewWay way)
                                                  : StepNames{"Apply"_L1, "Undo"_L1};
 }
 
+/** Where a lost application can be had again. */
+QString inTheStore(const PreviewItem &item)
+{
+    return item.store.isEmpty() ? QString() : u"It is in the Store: "_s + item.store;
+}
+
 QString whyOf(const PreviewItem &item, PreviewWay way)
 {
     const Restorability value = item.comesBack();
     if (way == PreviewWay::ApplyAndUndo) {
         const bool isLost = item.group == PreviewGroup::Packages && value != Restorability::Exactly;
-        return isLost ? u"The journal can register an app again from its files, and nobody else on this PC has "
-                        "these; it is in the Store."_s
+        return isLost ? joinedWords(u"The journal can register an app again from its files, and nobody else on this PC "
+                                    "has these."_s,
+                                    inTheStore(item))
                       : QString();
     }
     QString why;
@@ -263,6 +270,8 @@ QString whyOf(const PreviewItem &item, PreviewWay way)
         if (row.group == item.group && row.value == value)
             why = row.why;
     }
+    if (value == Restorability::NotAtAll)
+        why = joinedWords(why, inTheStore(item));
     // What comes back exactly has no more to say for itself.
     return value == Restorability::Exactly ? why : joinedWords(why, item.after);
 }

@@ -107,6 +107,7 @@ PreviewWords packageWords(Machine &machine, const DiffRow &row)
         registryTextAt(machine, machine.registry(), row.path.first(start) + fullName, u"DisplayName"_s);
     PreviewWords words{
         .group = PreviewGroup::Packages, .item = foldName(family), .title = orElse(title, family), .name = family};
+    words.store = storePageOf(fullName);
     putValue(words, row);
     return words;
 }

@@ -14,6 +14,7 @@ struct PreviewWords
     QString item{};   ///< tells items of a group apart
     QString title{};  ///< of the item
     QString about{};  ///< of the item: what it is there for
+    QString store{};  ///< of the item: its page in the Store
     QString after{};  ///< of the item: what is known of its state after Restore
     QString name{};   ///< of the item, as the system has it
     QString detail{}; ///< which of the item's values this is

@@ -56,6 +56,11 @@ bool MachineToolHost::makeFile(const QString &path, qint64 size)
     return true;
 }
 
+void MachineToolHost::removeFolder(const QString &path)
+{
+    QDir(machine_.hostPath(path)).removeRecursively();
+}
+
 std::optional<bool> MachineToolHost::isRunning(const QString &service) const
 {
     return machine_.isRunning(service);

@@ -16,6 +16,7 @@ public:
     QString resolveText(const QString &text) const override;
     QString hostPath(const QString &windowsPath) const override;
     bool makeFile(const QString &path, qint64 size) override;
+    void removeFolder(const QString &path) override;
     std::optional<bool> isRunning(const QString &service) const override;
     void setRunning(const QString &service, bool running) override;
     QStringList runningServices() const override;

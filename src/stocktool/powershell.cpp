@@ -77,11 +77,19 @@ NameInCommand readName(const QString &name)
     return {words.isEmpty() ? u"*"_s : words.first(), words.size() < 2};
 }
 
+/** Files of a package that nobody else has go with it: it can't be registered again then. */
 ToolResult removePackages(ToolHost &host, const QString &pattern)
 {
+    const QString storeFolder = u"\\WindowsApps\\"_s;
     PackageList packages(host, userRoot, WindowsKey::userPackages);
-    for (const QString &fullName : packages.find(pattern))
+    const PackageList machine(host, machineRoot, WindowsKey::machinePackages);
+    for (const QString &fullName : packages.find(pattern)) {
+        const QString folder = packages.key().value(fullName + u"/PackageRootFolder"_s).toString();
+        const bool isHeld = !machine.find(packageNameOf(fullName)).isEmpty();
+        if (!isHeld && folder.endsWith(storeFolder + fullName, Qt::CaseInsensitive))
+            host.removeFolder(folder);
         packages.key().remove(fullName);
+    }
     return {};
 }
 

@@ -31,6 +31,8 @@ public:
 
     /** Makes a file of that size, with its folder, that nobody reads; by its Windows path. False where it can't be. */
     virtual bool makeFile(const QString &path, qint64 size) = 0;
+    /** Removes a folder with all that is in it, by its Windows path; links go, and not what they lead to. */
+    virtual void removeFolder(const QString &path) = 0;
 
     /** Whether a service runs; empty for one that was never started. */
     virtual std::optional<bool> isRunning(const QString &service) const = 0;

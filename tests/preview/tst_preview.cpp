@@ -223,6 +223,12 @@ void TestPreview::packageAsAWholeIsInstalledOrNot()
     QCOMPARE(items.first().comesBack(), Restorability::NotAtAll);
     QCOMPARE(items.last().title, u"Vendor.Maps"_s);
     QCOMPARE(sidesOf(items.last()).restored, u"installed"_s);
+    // What is lost can be had again, and only that says so.
+    const QString store = u"It is in the Store: ms-windows-store://pdp/?PFN=Vendor.Chat_a"_s;
+    for (const PreviewWay way : {PreviewWay::OptimizeAndRestore, PreviewWay::ApplyAndUndo}) {
+        QVERIFY2(whyOf(items.first(), way).endsWith(store), qPrintable(whyOf(items.first(), way)));
+        QVERIFY(!whyOf(items.last(), way).contains(u"Store"_s));
+    }
 }
 
 void TestPreview::optionAsAWholeIsAppliedOrNot_data()

@@ -6,6 +6,7 @@
 
 #include "machine/compare/machinediff.h"
 
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -74,6 +75,7 @@ class TestPowerShellTool : public QObject
 private Q_SLOTS:
     void removesAPackage_data();
     void removesAPackage();
+    void filesGoWithWhatNobodyElseHas();
     void bringsBackWhatTheMachineHas();
     void bringsBackNothingThatTheUserAloneHad();
     void whatIsThereStaysAsItIs();
@@ -115,6 +117,30 @@ void TestPowerShellTool::removesAPackage()
     QCOMPARE(ended.output + ended.errors, QByteArray());
     QCOMPARE(installed(machine), left);
     QCOMPARE(machine->registry().subkeys(*machine->registry().find(allUsersKey)).size(), 3);
+}
+
+void TestPowerShellTool::filesGoWithWhatNobodyElseHas()
+{
+    SmallMachine machine;
+    addPackages(machine);
+    const QString apps = machine->driveFolder() + u"/Program Files/WindowsApps/"_s;
+    const QString elsewhere = machine->driveFolder() + u"/Users/kept.txt"_s;
+    QVERIFY(QDir().mkpath(machine->driveFolder() + u"/Users"_s));
+    writeFile(elsewhere, "kept");
+    for (const QString &fullName : {camera, alone}) {
+        QVERIFY(QDir().mkpath(apps + fullName + u"/Assets"_s));
+        writeFile(apps + fullName + u"/AppxManifest.xml"_s, "<Package/>");
+    }
+    // One whose folder isn't its own keeps it.
+    const QString odd = u"Microsoft.Odd_1.0_x64__8wekyb3d8bbwe"_s;
+    setText(machine, userKey + u'\\' + odd, u"PackageRootFolder"_s, u"C:\\Users"_s);
+    QCOMPARE(runTool(machine, u"powershell"_s, removal(u"*"_s)).exitCode, 0);
+    QCOMPARE(installed(machine), QStringList());
+    QVERIFY(QFileInfo::exists(apps + camera + u"/AppxManifest.xml"_s));
+    QVERIFY(!QFileInfo::exists(apps + alone));
+    QCOMPARE(readFile(elsewhere), QByteArray("kept"));
+    QCOMPARE(runTool(machine, u"powershell"_s, registration(u"Microsoft.Alone"_s)).exitCode, 0);
+    QCOMPARE(installed(machine), QStringList());
 }
 
 void TestPowerShellTool::bringsBackWhatTheMachineHas()

@@ -39,6 +39,11 @@ bool NativeToolHost::makeFile(const QString &path, qint64 size)
     return QDir().mkpath(QFileInfo(file).path()) && file.open(QIODevice::WriteOnly) && file.resize(size);
 }
 
+void NativeToolHost::removeFolder(const QString &path)
+{
+    QDir(path).removeRecursively();
+}
+
 std::optional<bool> NativeToolHost::isRunning(const QString &service) const
 {
     const QVariant state = states()->value(service);
