@@ -9,7 +9,8 @@ set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 
-set(KESTRUNE_MINGW_LIBRARIES "/opt/qt-mingw;/opt/sqlite-mingw" CACHE STRING "Folders of Qt and SQLite for Windows")
+set(KESTRUNE_MINGW_LIBRARIES "/opt/qt-mingw;/opt/sqlite-mingw;/opt/minizip-mingw" CACHE STRING
+    "Folders of Qt, SQLite and minizip for Windows")
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES KESTRUNE_MINGW_LIBRARIES)
 
 # Libraries are Windows', programs are this computer's. Packages are both: Qt's libraries are found there, moc, uic and

@@ -13,6 +13,7 @@
 #   KESTRUNE_WINDOWS_CACHE   where the root and the libraries are kept; below the user's cache folder without it
 #   KESTRUNE_DEBIAN_MIRROR   a Debian mirror; without it the one that this computer's apt uses
 #   KESTRUNE_QT_ARCHIVE      the archive of a finished Qt whose sum libraries.sh has, in place of the half hour's build
+#   KESTRUNE_WEB_HOST        the host of the links, the update check and the manifests; a placeholder without it
 #   KESTRUNE_JOBS            how many compilers run at once; all cores without it
 
 # shellcheck disable=SC2317  # stages and the functions that run inside the root are called by their names
@@ -27,7 +28,7 @@ readonly inside=/kestrune
 readonly inside_source=$inside/source
 readonly inside_making=$inside/making
 readonly inside_qt=/opt/qt-mingw
-readonly inside_sqlite=/opt/sqlite-mingw
+readonly inside_sqlite=/opt/sqlite-mingw inside_minizip=/opt/minizip-mingw
 readonly inside_build=$inside_source/build/windows
 
 # ---------------------------------------------------------------------------------------------------------------------
@@ -70,6 +71,7 @@ in_root() {
         DEBIAN_FRONTEND=noninteractive KESTRUNE_JOBS="$jobs"
         ${http_proxy:+http_proxy="$http_proxy"} ${https_proxy:+https_proxy="$https_proxy"}
         ${SOURCE_DATE_EPOCH:+SOURCE_DATE_EPOCH="$SOURCE_DATE_EPOCH"}
+        ${KESTRUNE_WEB_HOST:+KESTRUNE_WEB_HOST="$KESTRUNE_WEB_HOST"}
     )
     local command=(bash "$inside_source/scripts/windows.sh" --inside "$@")
     # 9 is the lock: a process that outlives its stage must not keep it.
@@ -84,15 +86,16 @@ bound_folders() {
         "rw:$2/build/windows:$inside_build" \
         "rw:$1/making:$inside_making" \
         "ro:$1/qt-mingw:$inside_qt" \
-        "ro:$1/sqlite-mingw:$inside_sqlite"
+        "ro:$1/sqlite-mingw:$inside_sqlite" \
+        "ro:$1/minizip-mingw:$inside_minizip"
 }
 
 make_folders() {
     local folder
-    for folder in "$source_folder"/build{,/windows} "$cache"/{making,making/home,qt-mingw,sqlite-mingw}; do
+    for folder in "$source_folder"/build{,/windows} "$cache"/{making,making/home,qt-mingw,sqlite-mingw,minizip-mingw}; do
         [[ -d $folder ]] || install -d -o "${caller%:*}" -g "${caller#*:}" "$folder"
     done
-    mkdir -p "$root"{"$inside_source","$inside_making","$inside_qt","$inside_sqlite"}
+    mkdir -p "$root"{"$inside_source","$inside_making","$inside_qt","$inside_sqlite","$inside_minizip"}
 }
 
 # mount_and_run ROOT CACHE SOURCES COMMAND…: runs as the first process of fresh namespaces
@@ -138,7 +141,7 @@ source "$scripts/windows/rehearse.sh"
 # shellcheck source=scripts/windows/pack.sh
 source "$scripts/windows/pack.sh"
 
-readonly stages=(root packages qt sqlite build bytes trial rehearse pack install)
+readonly stages=(root packages qt sqlite minizip build bytes trial rehearse pack install)
 stage_times=()
 
 run_stage() {
@@ -186,6 +189,7 @@ become_root() {
         ${KESTRUNE_QT_ARCHIVE:+KESTRUNE_QT_ARCHIVE="$(realpath "$KESTRUNE_QT_ARCHIVE")"} \
         ${http_proxy:+http_proxy="$http_proxy"} ${https_proxy:+https_proxy="$https_proxy"} \
         ${SOURCE_DATE_EPOCH:+SOURCE_DATE_EPOCH="$SOURCE_DATE_EPOCH"} \
+        ${KESTRUNE_WEB_HOST:+KESTRUNE_WEB_HOST="$KESTRUNE_WEB_HOST"} \
         bash "$source_folder/scripts/windows.sh" "$@"
 }
 

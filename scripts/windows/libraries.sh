@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Functions are called by their names, variables are those of the sourcing script, which has set -e:
 # shellcheck shell=bash disable=SC2317,SC2154,SC2034,SC2164
-# The stages "qt" and "sqlite": the libraries for Windows. Sourced by scripts/windows.sh.
+# The stages "qt", "sqlite" and "minizip": the libraries for Windows. Sourced by scripts/windows.sh.
 
 readonly qt_version=6.8.2
 # SHA-256 of the one archive of a finished Qt that is taken in place of the build: what is in it, people run.
@@ -140,5 +140,34 @@ inside_build_sqlite() {
         cd "$source"
         x86_64-w64-mingw32-gcc-posix -O2 -ffile-prefix-map="$source"=. "${sqlite_options[@]}" -c sqlite3.c -o sqlite3.obj
         x86_64-w64-mingw32-ar rcsD "$result/lib/libsqlite3.a" sqlite3.obj
+    )
+}
+
+# --- minizip ---------------------------------------------------------------------------------------------------------
+
+minizip_key() { echo 1 | digest; }
+minizip_stamp() { echo "$cache/minizip-mingw/.stamp"; }
+minizip_says() { echo "minizip with zlib for Windows, from Debian's sources; some seconds"; }
+
+minizip_make() {
+    in_root --caller inside_build_minizip
+    keep_result "$cache/making/minizip-install" "$cache/minizip-mingw" "$1"
+    rm -rf "$cache/making/zlib-source"
+}
+
+inside_build_minizip() {
+    local source=$inside_making/zlib-source result=$inside_making/minizip-install
+    inside_source_of zlib "$source"
+    rm -rf "$result"
+    mkdir -p "$result/include/minizip" "$result/lib"
+    cp "$source"/{zlib,zconf}.h "$result/include/"
+    cp "$source"/contrib/minizip/{ioapi,unzip,zip}.h "$result/include/minizip/"
+    (
+        cd "$source"
+        x86_64-w64-mingw32-gcc-posix -O2 -ffile-prefix-map="$source"=. -DUSE_FILE32API -DNOCRYPT -DNOUNCRYPT -I. -c \
+            adler32.c crc32.c deflate.c inffast.c inflate.c inftrees.c trees.c zutil.c \
+            contrib/minizip/{ioapi,unzip,zip}.c
+        x86_64-w64-mingw32-ar rcsD "$result/lib/libz.a" {adler32,crc32,deflate,inffast,inflate,inftrees,trees,zutil}.o
+        x86_64-w64-mingw32-ar rcsD "$result/lib/libminizip.a" {ioapi,unzip,zip}.o
     )
 }

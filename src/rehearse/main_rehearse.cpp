@@ -57,6 +57,10 @@ constexpr ExampleRow examples[] = {
                    "save what the program has recorded"_L1},
     {"import"_L1,  "import after records.reg"_L1,
                    "import what 'export' has saved"_L1},
+    {"pack"_L1,    "pack after after.zip"_L1,
+                   "one small file, to share it"_L1},
+    {"unpack"_L1,  "unpack after.zip again"_L1,
+                   "and a machine again, in the folder again"_L1},
 };
 // clang-format on
 

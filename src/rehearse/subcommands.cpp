@@ -16,8 +16,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr const Subcommand *subcommands[] = {
-    &newSubcommand,    &captureSubcommand, &listSubcommand, &runSubcommand,  &undoSubcommand,   &previewSubcommand,
-    &verifySubcommand, &diffSubcommand,    &guiSubcommand,  &tourSubcommand, &exportSubcommand, &importSubcommand,
+    &newSubcommand,     &captureSubcommand, &listSubcommand, &runSubcommand,    &undoSubcommand,
+    &previewSubcommand, &verifySubcommand,  &diffSubcommand, &guiSubcommand,    &tourSubcommand,
+    &exportSubcommand,  &importSubcommand,  &packSubcommand, &unpackSubcommand,
 };
 
 } // namespace

@@ -16,6 +16,8 @@ extern const Subcommand listSubcommand;
 extern const Subcommand runSubcommand;
 extern const Subcommand importSubcommand;
 extern const Subcommand exportSubcommand;
+extern const Subcommand packSubcommand;
+extern const Subcommand unpackSubcommand;
 extern const Subcommand diffSubcommand;
 extern const Subcommand guiSubcommand;
 extern const Subcommand previewSubcommand;

@@ -213,7 +213,10 @@ private:
     static void machines();
     QTemporaryDir folder_;
     QString make(const QString &builtIn);
-    QString place(const QString &name) const { return folder_.filePath(name); }
+    QString place(const QString &name) const
+    {
+        return folder_.filePath(name);
+    }
 };
 
 void TestCapture::machines()

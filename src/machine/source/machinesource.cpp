@@ -279,7 +279,7 @@ void moveIntoPlace(const QString &made, const QString &folder, const QString &st
 
 } // namespace
 
-void makeMachine(const QString &folder, Existing existing, const std::function<void(Machine &)> &fill)
+void placeMachine(const QString &folder, Existing existing, const std::function<void(const QString &made)> &make)
 {
     const QString place = QDir::cleanPath(absolutePath(folder));
     checkPlace(place, existing);
@@ -292,11 +292,13 @@ void makeMachine(const QString &folder, Existing existing, const std::function<v
     if (!staging.isValid())
         throw MachineError{u"%1: %2"_s.arg(parent, staging.errorString())};
     const QString made = staging.filePath(u"machine"_s);
-    {
-        const std::unique_ptr<Machine> machine = Machine::create(made);
-        fill(*machine);
-    }
+    make(made);
     moveIntoPlace(made, place, staging.path());
+}
+
+void makeMachine(const QString &folder, Existing existing, const std::function<void(Machine &)> &fill)
+{
+    placeMachine(folder, existing, [&fill](const QString &made) { fill(*Machine::create(made)); });
 }
 
 void makeMachine(const QString &folder, const QString &sources, Existing existing, const ProgressCallback &progress)

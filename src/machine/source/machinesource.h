@@ -24,8 +24,13 @@ struct MachineContents
 };
 
 /**
- * Makes a machine and lets @p fill fill it. A machine comes to be as a whole or not at all. Throws Interrupted,
- * and MachineError, also where @p folder holds something that may not be replaced: only a machine ever is.
+ * Lets @p make make the folder of a machine beside its place, under another name, and puts it there. A machine comes to
+ * be as a whole or not at all. Throws what @p make throws, and MachineError, also where @p folder holds something that
+ * may not be replaced: only a machine ever is.
+ */
+void placeMachine(const QString &folder, Existing existing, const std::function<void(const QString &made)> &make);
+/**
+ * The same of one that is made empty and filled by @p fill. Throws Interrupted and MachineError.
  */
 void makeMachine(const QString &folder, Existing existing, const std::function<void(Machine &)> &fill);
 /**
