@@ -9,8 +9,13 @@ if(CMAKE_SCRIPT_MODE_FILE)
         string(FIND "${text}" "\n" first_end)
         string(SUBSTRING "${text}" ${first_end} -1 text)
     endif()
+    # Byte by byte, since one of the compilers takes no literal of more than 16,380 bytes.
+    string(HEX "${text}" bytes)
+    string(REGEX REPLACE "(................................)" "\\1\n" bytes "${bytes}")
+    string(REGEX REPLACE "([0-9a-f][0-9a-f])" "'\\\\x\\1'," bytes "${bytes}")
     file(WRITE ${TO} "#include <QLatin1StringView>\n\n"
-        "inline constexpr QLatin1StringView ${NAME}(R\"file(${text})file\");\n")
+        "inline constexpr char ${NAME}Bytes[] = {${bytes}};\n"
+        "inline constexpr QLatin1StringView ${NAME}(${NAME}Bytes, sizeof ${NAME}Bytes);\n")
     return()
 endif()
 
