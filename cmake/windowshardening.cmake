@@ -13,7 +13,9 @@ function(kestrune_harden program)
         return()
     endif()
     target_sources(${program} PRIVATE ${CMAKE_SOURCE_DIR}/resources/windows/loadconfig.cpp)
-    target_link_options(${program} PRIVATE -Wl,--undefined=kestruneLoadConfiguration)
+    target_link_options(${program} PRIVATE -Wl,--undefined=kestruneLoadConfiguration
+        # What it is made of, for the list of it that is packed.
+        -Wl,-Map=${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${program}.map)
     # This linker leaves the load configuration out of the header's list.
     find_program(KESTRUNE_PERL perl)
     if(KESTRUNE_PERL)

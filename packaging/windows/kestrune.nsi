@@ -7,7 +7,8 @@
 
 Unicode true
 Target amd64-unicode
-SetCompressor /SOLID lzma
+; Not solid: scanners look into each file by itself, and what one of them has against a file says which.
+SetCompressor lzma
 ManifestDPIAware true
 
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Kestrune"

@@ -10,10 +10,10 @@ readonly inside_packages_folder=$inside_build/packages
 pack_key() { { bytes_key; echo "$SOURCE_DATE_EPOCH"; pack_inputs; } | digest; }
 pack_inputs() {
     cd "$source_folder"
-    cat LICENSE packaging/windows/* resources/img/*.png resources/machines/*/* resources/Translations/* scripts/windows/pack.sh
+    cat LICENSE packaging/windows/* resources/img/*.png resources/machines/*/* resources/Translations/* scripts/windows/{pack.sh,sbom.pl}
 }
 pack_stamp() { echo "$source_folder/build/windows/.packed"; }
-pack_says() { echo "the ZIP archive, the installer and the package managers' manifests; about 1 minute"; }
+pack_says() { echo "the ZIP archive, the installer, the package managers' manifests, and what is in it all; about 1 minute"; }
 pack_make() {
     in_root --caller inside_pack
     write_stamp "$(pack_stamp)" "$1"
@@ -35,6 +35,12 @@ inside_pack() {
         -DOUTPUT="$inside_packages_folder/kestrune-$version-setup.exe" "$inside_source/packaging/windows/kestrune.nsi"
     rm -rf "$files"
     write_manifests "$version"
+    perl "$inside_source/scripts/windows/sbom.pl" "$version" "$SOURCE_DATE_EPOCH" \
+        "${programs[@]/#/$inside_build/bin/}" >"$inside_packages_folder/kestrune-$version.cdx.json"
+    (cd "$inside_packages_folder" && LC_ALL=C sha256sum -- * >"$inside_making/SHA256SUMS")
+    mv "$inside_making/SHA256SUMS" "$inside_packages_folder/"
+    [[ $(web_host) != *.example ]] ||
+        say "warning: the links and manifests lead to $(web_host), which is nobody's; KESTRUNE_WEB_HOST names another"
 }
 
 # install_component NAME FOLDER: files all bear the commit's time
@@ -68,7 +74,7 @@ write_manifests() {
     setup_sum=$(sha256sum <"$inside_packages_folder/kestrune-$1-setup.exe" | cut -d' ' -f1)
     for template in "$inside_source"/packaging/windows/*.in; do
         target=$(basename "$template" .in)
-        sed -e "s/@VERSION@/$1/g" -e "s/@ZIP_SHA256@/$zip_sum/g" -e "s/@SETUP_SHA256@/${setup_sum^^}/g" \
+        sed -e "s/@VERSION@/$1/g" -e "s/@HOST@/$(web_host)/g" -e "s/@ZIP_SHA256@/$zip_sum/g" -e "s/@SETUP_SHA256@/${setup_sum^^}/g" \
             -e "s/@DATE@/$(date -u -d "@$SOURCE_DATE_EPOCH" +%F)/g" "$template" >"$inside_packages_folder/$target"
         ! grep -q '@[A-Z_]*@' "$inside_packages_folder/$target" || fail "$target lacks a value"
     done

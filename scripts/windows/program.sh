@@ -25,7 +25,8 @@ inside_build_programs() {
         configure "$inside_source" "$inside_build" --fresh
         cp "$inside_source/cmake/mingw-w64.cmake" "$inside_build/.toolchain"
     fi
-    [[ -e $inside_build/build.ninja ]] || configure "$inside_source" "$inside_build"
+    [[ -e $inside_build/build.ninja && ${KESTRUNE_WEB_HOST:-$(web_host)} == "$(web_host)" ]] ||
+        configure "$inside_source" "$inside_build"
     cmake --build "$inside_build" --parallel "$jobs" --target "${programs[@]}" wine_tests
     local program
     for program in "${programs[@]}"; do
@@ -36,9 +37,12 @@ inside_build_programs() {
 
 # configure SOURCES FOLDER [OPTION…]
 configure() {
-    (cd "$1" && cmake --preset windows -B "$2" "${@:3}") >"$inside_making/configure.log" 2>&1 ||
+    (cd "$1" && cmake --preset windows -B "$2" ${KESTRUNE_WEB_HOST:+"-DKESTRUNE_WEB_HOST=$KESTRUNE_WEB_HOST"} "${@:3}") >"$inside_making/configure.log" 2>&1 ||
         { tail -n 30 "$inside_making/configure.log" >&2; fail "could not be configured"; }
 }
+
+# web_host: the host that the programs were built with
+web_host() { sed -n 's/^KESTRUNE_WEB_HOST:STRING=//p' "$inside_build/CMakeCache.txt"; }
 
 # check_imports PROGRAM: it may need the DLLs of Windows, which Wine has too, and no others.
 check_imports() {
