@@ -218,8 +218,8 @@ void TestRehearse::badArgumentsAreToldInOneManner_data()
     addColumns<QString, QString>("arguments", "message");
     // clang-format off
     QTest::newRow("nothing")            << "" << "missing command";
-    QTest::newRow("command")            << "frobnicate" << "unknown command 'frobnicate'\nCommands: new, capture, list, run, undo, preview, verify, diff, gui, tour, export, import";
-    QTest::newRow("misspelt command")   << "preveiw" << "unknown command 'preveiw'\nDid you mean 'preview'?\nCommands: new, capture, list, run, undo, preview, verify, diff, gui, tour, export, import";
+    QTest::newRow("command")            << "frobnicate" << "unknown command 'frobnicate'\nCommands: new, capture, list, run, undo, preview, verify, diff, gui, tour, export, import, pack, unpack";
+    QTest::newRow("misspelt command")   << "preveiw" << "unknown command 'preveiw'\nDid you mean 'preview'?\nCommands: new, capture, list, run, undo, preview, verify, diff, gui, tour, export, import, pack, unpack";
     QTest::newRow("option first")       << "--frob" << "unrecognized option '--frob'";
     QTest::newRow("option")             << "new|m|--frob" << "unrecognized option '--frob'";
     QTest::newRow("short option")       << "new|m|-f" << "invalid option -- 'f'";
