@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Files that may come from anybody: a machine's database, a journal, a profile, and paths that a machine names.
+// Files that may come from anybody: a machine's database, an archive, a journal, a profile, and paths that a machine
+// names.
 
 #include "cli/profile.h"
 #include "fuzztarget.h"
@@ -7,8 +8,11 @@
 #include "machine/compare/machinediff.h"
 #include "machine/database.h"
 #include "machine/machine.h"
+#include "rehearse/ziparchive.h"
 
+#include <QBuffer>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -123,6 +127,32 @@ FUZZ_TARGET(journalfile)
 }
 
 /** A profile is told its mistakes, each with its place in a line of its own, or can be gone by. */
+FUZZ_TARGET(archive)
+{
+    constexpr qint64 most = 64 * 1024;
+
+    const QTemporaryDir place;
+    const QString folder = place.filePath(u"deep/machine"_s);
+    QByteArray bytes = input;
+    QBuffer archive(&bytes);
+    FUZZ_VERIFY(archive.open(QIODevice::ReadOnly));
+    try {
+        unpackFolder(archive, {folder, u"machine.sqlite"_s, {u"machine.sqlite"_s, u"drive_?"_s}, most, 50});
+    } catch (const MachineError &error) {
+        FUZZ_VERIFY(!error.message.isEmpty());
+    }
+    qint64 written = 0;
+    QDirIterator walk(place.path(), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                      QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        const QString path = walk.next();
+        FUZZ_VERIFY(!walk.fileInfo().isSymbolicLink());
+        FUZZ_VERIFY(path == place.filePath(u"deep"_s) || (path + u'/').startsWith(folder + u'/'));
+        written += walk.fileInfo().isFile() ? walk.fileInfo().size() : 0;
+    }
+    FUZZ_VERIFY(written <= most);
+}
+
 FUZZ_TARGET(profile)
 {
     static const QRegularExpression told(uR"(^input:[1-9][0-9]*:[1-9][0-9]*: [^\n]+$)"_s);

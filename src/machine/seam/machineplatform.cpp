@@ -236,8 +236,8 @@ QString MachinePlatform::resolvedProgram(const QString &program) const
             return {};
     }
     if (!QFileInfo(options_.stockTool).isFile())
-        throw MachineError{u"%1: the program behind the tools is missing"_s.arg(
-            QDir::toNativeSeparators(options_.stockTool))};
+        throw MachineError{
+            u"%1: the program behind the tools is missing"_s.arg(QDir::toNativeSeparators(options_.stockTool))};
     return options_.stockTool;
 }
 
