@@ -14,8 +14,8 @@ if(CMAKE_SCRIPT_MODE_FILE)
     string(REGEX REPLACE "(................................)" "\\1\n" bytes "${bytes}")
     string(REGEX REPLACE "([0-9a-f][0-9a-f])" "'\\\\x\\1'," bytes "${bytes}")
     file(WRITE ${TO} "#include <QLatin1StringView>\n\n"
-        "inline constexpr char ${NAME}Bytes[] = {${bytes}};\n"
-        "inline constexpr QLatin1StringView ${NAME}(${NAME}Bytes, sizeof ${NAME}Bytes);\n")
+        "inline constexpr char ${NAME}Bytes[] = {${bytes}'\\0'};\n"
+        "inline constexpr QLatin1StringView ${NAME}(${NAME}Bytes, sizeof ${NAME}Bytes - 1);\n")
     return()
 endif()
 

@@ -5,6 +5,7 @@
 # which nothing is said below is an error.
 use strict;
 use warnings;
+use Cwd qw(abs_path);
 use File::Basename qw(basename);
 use JSON::PP;
 use POSIX qw(strftime);
@@ -54,7 +55,7 @@ sub version_of {
     my ($component) = @_;
     my (undef, undef, $file, $pattern) = @{$components{$component}};
     if ($component eq 'GCC') {
-        chomp(my $version = `x86_64-w64-mingw32-gcc-posix -dumpfullversion`);
+        my ($version) = `x86_64-w64-mingw32-gcc-posix -dumpfullversion` =~ /^([\d.]+)/;
         return $version;
     }
     return undef unless $file;
@@ -73,7 +74,7 @@ sub libraries_of {
     my %found;
     for (split /\n/, slurp($map)) {
         last if /^Discarded input sections|^Memory Configuration/;
-        $found{$1} = 1 if m{^(/\S+\.a)\(};
+        $found{abs_path($1)} = 1 if m{^(/\S+\.a)\(};
     }
     return keys %found;
 }
