@@ -237,7 +237,7 @@ QString MachinePlatform::resolvedProgram(const QString &program) const
     }
     if (!QFileInfo(options_.stockTool).isFile())
         throw MachineError{
-            u"%1: the program behind the tools is missing"_s.arg(QDir::toNativeSeparators(options_.stockTool))};
+            u"%1: missing; it stands for all tools of a machine"_s.arg(QDir::toNativeSeparators(options_.stockTool))};
     return options_.stockTool;
 }
 
