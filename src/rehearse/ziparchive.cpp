@@ -45,10 +45,12 @@ zlib_filefunc64_def functionsOf(QIODevice &device)
     functions.opaque = &device;
     functions.zopen64_file = [](voidpf opaque, const void *, int) { return opaque; };
     functions.zread_file = [](voidpf, voidpf stream, void *bytes, uLong count) {
-        return static_cast<uLong>(qMax(qint64{0}, deviceOf(stream).read(static_cast<char *>(bytes), count)));
+        return static_cast<uLong>(
+            qMax(qint64{0}, deviceOf(stream).read(static_cast<char *>(bytes), static_cast<qint64>(count))));
     };
     functions.zwrite_file = [](voidpf, voidpf stream, const void *bytes, uLong count) {
-        return static_cast<uLong>(qMax(qint64{0}, deviceOf(stream).write(static_cast<const char *>(bytes), count)));
+        return static_cast<uLong>(
+            qMax(qint64{0}, deviceOf(stream).write(static_cast<const char *>(bytes), static_cast<qint64>(count))));
     };
     functions.ztell64_file = [](voidpf, voidpf stream) { return static_cast<ZPOS64_T>(deviceOf(stream).pos()); };
     functions.zseek64_file = [](voidpf, voidpf stream, ZPOS64_T offset, int origin) {
