@@ -3,7 +3,7 @@
 
 packages_for() {
     case $1 in
-    build) echo "g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-l10n-tools libsqlite3-dev libminizip-dev" ;;
+    build) echo "g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-l10n-tools libsqlite3-dev libminizip-dev zlib1g-dev" ;;
     window) echo "fonts-open-sans fonts-dejavu-core" ;;
     browser) echo "chromium chromium-driver" ;;
     trace) echo "strace" ;;
