@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One program behind all stock tools of a rehearsal machine: it is told the machine and the tool, and answers as that.
+// One program for all stock tools of a rehearsal machine: it is told the machine and the tool, and answers as that.
 // No file has the name of one of Windows' own tools, which is how malware hides.
 
 #include "console/console.h"

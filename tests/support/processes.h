@@ -55,7 +55,7 @@ inline QString builtProgram(const QString &name)
     return QCoreApplication::applicationDirPath() + u'/' + name;
 }
 
-/** What a tool of a machine is started with, by the one program behind all of them. */
+/** The one program that stands for all tools of a machine. */
 inline QString stockTool()
 {
     return builtProgram(QStringLiteral("kestrune-stocktool"));

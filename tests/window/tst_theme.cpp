@@ -74,10 +74,10 @@ double lightOf(const QColor &color)
 }
 
 /** From 1 to 21, as the guidelines for accessible content have it. */
-double contrastOf(const QColor &color, const QColor &behind)
+double contrastOf(const QColor &color, const QColor &background)
 {
     const double one = lightOf(color) + 0.05;
-    const double other = lightOf(behind) + 0.05;
+    const double other = lightOf(background) + 0.05;
     return std::max(one, other) / std::min(one, other);
 }
 

@@ -16,7 +16,7 @@ struct MachineOptions
     bool elevated = true;
     double pace = 0;          ///< pauses are slept this many times their length
     QString resourceFolder{}; ///< host path; empty: the folder of the running program
-    QString stockTool{};      ///< the program behind all tools; empty: kestrune-stocktool beside the running program
+    QString stockTool{};      ///< stands for all tools; empty: kestrune-stocktool beside the running program
     /** Starts what the shell is asked to start; by default a real process on the same machine. */
     std::function<void(const ShellStart &)> launcher{};
 };
@@ -76,7 +76,7 @@ public:
 
 private:
     bool isReadOnly(const QString &file) const;
-    /** What the one program behind the tools is told to begin with: the machine, and which tool it is. */
+    /** The first words that the stock tool gets: the machine, and which tool it is. */
     QStringList wordsToStart(const QString &program) const;
     QString resolvedProgram(const QString &program) const;
     QJsonObject hardware() const;
