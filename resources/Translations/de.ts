@@ -305,6 +305,10 @@
 <translation>mit festem Wert</translation>
 </message>
 <message>
+<source>It is in the Store: %1</source>
+<translation>Sie ist im Store: %1</translation>
+</message>
+<message>
 <source>not at all</source>
 <translation>gar nicht</translation>
 </message>

@@ -305,6 +305,10 @@
 <translation>con un valor fijo</translation>
 </message>
 <message>
+<source>It is in the Store: %1</source>
+<translation>Está en la Store: %1</translation>
+</message>
+<message>
 <source>not at all</source>
 <translation>de ningún modo</translation>
 </message>

@@ -305,6 +305,10 @@
 <translation>avec une valeur fixe</translation>
 </message>
 <message>
+<source>It is in the Store: %1</source>
+<translation>Il se trouve dans le Store : %1</translation>
+</message>
+<message>
 <source>not at all</source>
 <translation>pas du tout</translation>
 </message>

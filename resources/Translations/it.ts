@@ -305,6 +305,10 @@
 <translation>con un valore fisso</translation>
 </message>
 <message>
+<source>It is in the Store: %1</source>
+<translation>Si trova nello Store: %1</translation>
+</message>
+<message>
 <source>not at all</source>
 <translation>per niente</translation>
 </message>

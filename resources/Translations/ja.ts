@@ -305,6 +305,10 @@
 <translation>決まった値に戻る</translation>
 </message>
 <message>
+<source>It is in the Store: %1</source>
+<translation>Store にあります: %1</translation>
+</message>
+<message>
 <source>not at all</source>
 <translation>戻らない</translation>
 </message>

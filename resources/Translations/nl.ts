@@ -305,6 +305,10 @@
 <translation>met een vaste waarde</translation>
 </message>
 <message>
+<source>It is in the Store: %1</source>
+<translation>Hij staat in de Store: %1</translation>
+</message>
+<message>
 <source>not at all</source>
 <translation>helemaal niet</translation>
 </message>

@@ -305,6 +305,10 @@
 <translation>ze stałą wartością</translation>
 </message>
 <message>
+<source>It is in the Store: %1</source>
+<translation>Jest w sklepie Store: %1</translation>
+</message>
+<message>
 <source>not at all</source>
 <translation>wcale</translation>
 </message>

@@ -305,6 +305,10 @@
 <translation>com um valor fixo</translation>
 </message>
 <message>
+<source>It is in the Store: %1</source>
+<translation>Está na Store: %1</translation>
+</message>
+<message>
 <source>not at all</source>
 <translation>de modo algum</translation>
 </message>

@@ -305,6 +305,10 @@
 <translation>还原为固定值</translation>
 </message>
 <message>
+<source>It is in the Store: %1</source>
+<translation>可在 Store 中获取：%1</translation>
+</message>
+<message>
 <source>not at all</source>
 <translation>不能还原</translation>
 </message>

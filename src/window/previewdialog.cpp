@@ -174,11 +174,17 @@ QString titleText(const QString &title)
 /** Why something comes back as it does, and what is known of that. */
 QString reasonText(const QString &why)
 {
+    constexpr QLatin1StringView inTheStore("It is in the Store: ");
     for (const char *each : reasons) {
         const QLatin1StringView reason(each);
         if (why.startsWith(reason)) {
             const QString more = why.sliced(reason.size()).trimmed();
-            return more.isEmpty() ? Kestrune::tr(each) : Kestrune::tr(each) + u' ' + translatedText(more);
+            if (more.isEmpty())
+                return Kestrune::tr(each);
+            const QString told = more.startsWith(inTheStore)
+                                     ? Kestrune::tr("It is in the Store: %1").arg(more.sliced(inTheStore.size()))
+                                     : translatedText(more);
+            return Kestrune::tr(each) + u' ' + told;
         }
     }
     return translatedText(why);
