@@ -72,6 +72,9 @@ public:
     }
     std::optional<int> colorSpace() const override { return inner_->colorSpace(); }
     QSize screenSize() const override { return inner_->screenSize(); }
+    bool hasContrastTheme() const override { return inner_->hasContrastTheme(); }
+    int textScale() const override { return inner_->textScale(); }
+    void setTitleBarDark(quintptr window, bool dark) const override { inner_->setTitleBarDark(window, dark); }
     ProcessorTimes processorTimes() const override { return inner_->processorTimes(); }
     QList<quint32> processIds() const override { return inner_->processIds(); }
     int threadCount() const override { return inner_->threadCount(); }

@@ -2,9 +2,13 @@
 
 #include "platform.h"
 
+#include "windowsfacts.h"
+
 #include <QFile>
 #include <QFileInfo>
+#include <QtEndian>
 
+#include <algorithm>
 #include <exception>
 
 #ifdef Q_OS_WIN
@@ -12,6 +16,8 @@
 #else
 #include <cerrno>
 #endif
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -44,6 +50,22 @@ quint32 lastSystemError()
     return static_cast<quint32>(errno);
 #endif
 }
+
+bool Platform::hasContrastTheme() const
+{
+    return false;
+}
+
+int Platform::textScale() const
+{
+    for (const RegistryValue &value : registryValues(WindowsKey::userAccessibility)) {
+        if (value.name.compare("TextScaleFactor"_L1, Qt::CaseInsensitive) == 0 && value.data.size() == sizeof(qint32))
+            return std::clamp(qFromLittleEndian<qint32>(value.data.constData()), usualTextScale, largestTextScale);
+    }
+    return usualTextScale;
+}
+
+void Platform::setTitleBarDark(quintptr, bool) const {}
 
 void Platform::setAllFileAttributes(const QList<FileAttributes> &files) const
 {

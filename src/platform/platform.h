@@ -92,6 +92,10 @@ enum class IfThere {
     Keep,     ///< it stays, whatever it is
 };
 
+/** The least and the most that Platform::textScale() gives. */
+constexpr int usualTextScale = 100;
+constexpr int largestTextScale = 225;
+
 class Platform
 {
 public:
@@ -220,6 +224,18 @@ public:
     virtual std::optional<int> colorSpace() const = 0;
     /** Width and height of the main screen in pixels; 0 and 0 where there is none. */
     virtual QSize screenSize() const = 0;
+
+    // How the user wants windows to look, and how the system draws their frames.
+
+    /** Whether a contrast theme is on; false where that is unknown. */
+    virtual bool hasContrastTheme() const;
+    /** How large the user wants texts, in per cent of their usual size: 100 to 225. 100 where that is unknown. */
+    virtual int textScale() const;
+    /**
+     * Has the title bar of a window drawn dark or light. Nothing happens where the system can't.
+     * @param window its handle, as QWidget::winId() has it
+     */
+    virtual void setTitleBarDark(quintptr window, bool dark) const;
 
     /** The present reading; zeros where it fails. Readings never go back. */
     virtual ProcessorTimes processorTimes() const = 0;

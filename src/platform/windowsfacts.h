@@ -64,6 +64,12 @@ inline const QString machineRun = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE")
 inline const QString machineRun32 = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node") + runPart;
 inline const QStringList runKeys{userRun, machineRun, machineRun32};
 
+/** How large the user wants texts. */
+inline const QString userAccessibility = QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Accessibility");
+/** Whether the user has a contrast theme on: bit 0 of the text "Flags". */
+inline const QString userHighContrast =
+    QStringLiteral("HKEY_CURRENT_USER\\Control Panel\\Accessibility\\HighContrast");
+
 } // namespace WindowsKey
 
 /** The name of a package, which its full name begins with. */

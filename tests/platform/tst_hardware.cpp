@@ -25,6 +25,8 @@ private Q_SLOTS:
     void aPathWithoutVolumeHasNoSeekPenalty();
     void seekPenaltyBelongsToTheVolume();
     void thereIsAScreen();
+    void textsHaveTheirUsualSizeOrMore();
+    void titleBarOfNoWindowIsNoHarm();
     void processorTimesNeverGoBack();
     void processIdsAreSingle();
     void processNamesAreProgramsWithoutTheirFolder();
@@ -34,6 +36,8 @@ private Q_SLOTS:
     void anyThreadMayAsk();
 
 #ifndef KESTRUNE_REAL_MACHINE
+    void contrastThemeIsABitOfItsFlags_data();
+    void contrastThemeIsABitOfItsFlags();
     void aMachineWithoutHardwareKnowsNothing();
     void seekPenalties_data();
     void seekPenalties();
@@ -93,6 +97,32 @@ void TestHardware::thereIsAScreen()
     const auto space = platform().colorSpace();
     QVERIFY(space.value_or(0) >= 0);
     QCOMPARE(platform().colorSpace(), space);
+}
+
+void TestHardware::textsHaveTheirUsualSizeOrMore()
+{
+    const QString key = u"HKEY_CURRENT_USER\\Software\\Microsoft\\Accessibility"_s;
+    const QString name = u"TextScaleFactor"_s;
+    const auto before = contract_->readRaw(key, name);
+    const auto scaleOf = [&](const RegistryValue &value) {
+        contract_->writeRaw(key, value);
+        return platform().textScale();
+    };
+    if (!before)
+        QCOMPARE(platform().textScale(), 100);
+    QCOMPARE(scaleOf({name, RegistryType::DWord, registryDWord(150)}), 150);
+    QCOMPARE(scaleOf({name, RegistryType::DWord, registryDWord(99)}), 100);
+    QCOMPARE(scaleOf({name, RegistryType::DWord, registryDWord(226)}), 225);
+    QCOMPARE(scaleOf({name, RegistryType::DWord, registryDWord(0xffffffff)}), 100);
+    QCOMPARE(scaleOf({name, RegistryType::String, registryText(u"150"_s)}), 100);
+    scaleOf(before.value_or(RegistryValue{name, RegistryType::DWord, registryDWord(100)}));
+}
+
+void TestHardware::titleBarOfNoWindowIsNoHarm()
+{
+    // What it looks like can be seen on a real desktop only.
+    platform().setTitleBarDark(0, true);
+    platform().setTitleBarDark(0, false);
 }
 
 void TestHardware::processorTimesNeverGoBack()
@@ -222,6 +252,27 @@ void TestHardware::processNamesKeepTheirOrderAndEndAtTheRoom()
         names.append(u"p%1.exe"_s.arg(i));
     contract_->machine().setProcesses(names);
     QCOMPARE(platform().processNames(), names.first(1024));
+}
+
+void TestHardware::contrastThemeIsABitOfItsFlags_data()
+{
+    addColumns<QString, bool>("flags", "on");
+    QTest::newRow("on") << u"127"_s << true;
+    QTest::newRow("off") << u"126"_s << false;
+    QTest::newRow("only on") << u"1"_s << true;
+    QTest::newRow("no number") << u"yes"_s << false;
+    QTest::newRow("nothing") << QString() << false;
+}
+
+void TestHardware::contrastThemeIsABitOfItsFlags()
+{
+    QFETCH(const QString, flags);
+    QFETCH(const bool, on);
+    const QString key = u"HKEY_CURRENT_USER\\Control Panel\\Accessibility\\HighContrast"_s;
+    QVERIFY(!platform().hasContrastTheme());
+    QVERIFY(!contract_->hasKey(key)); // asking makes nothing
+    contract_->writeRaw(key, {u"Flags"_s, RegistryType::String, registryText(flags)});
+    QCOMPARE(platform().hasContrastTheme(), on);
 }
 
 void TestHardware::eachProcessHasItsId()

@@ -4,6 +4,7 @@
 #include "machineplatform.h"
 
 #include "machine/machineerror.h"
+#include "platform/windowsfacts.h"
 
 #include <QJsonArray>
 
@@ -53,6 +54,15 @@ QSize MachinePlatform::screenSize() const
 {
     const QJsonObject screen = hardware().value(u"screen"_s).toObject();
     return {screen.value(u"width"_s).toInt(), screen.value(u"height"_s).toInt()};
+}
+
+bool MachinePlatform::hasContrastTheme() const
+{
+    for (const RegistryValue &value : registryValues(WindowsKey::userHighContrast)) {
+        if (value.name.compare("Flags"_L1, Qt::CaseInsensitive) == 0)
+            return (textOf(value.data).toUInt() & 1U) != 0;
+    }
+    return false;
 }
 
 ProcessorTimes MachinePlatform::processorTimes() const

@@ -67,6 +67,7 @@ public:
     std::optional<bool> seekPenalty(const QString &windowsPath) const override;
     std::optional<int> colorSpace() const override;
     QSize screenSize() const override;
+    bool hasContrastTheme() const override;
     ProcessorTimes processorTimes() const override;
     QList<quint32> processIds() const override;
     int threadCount() const override;

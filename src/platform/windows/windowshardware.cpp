@@ -82,6 +82,30 @@ QSize WindowsPlatform::screenSize() const
     return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 }
 
+bool WindowsPlatform::hasContrastTheme() const
+{
+    HIGHCONTRASTW contrast{};
+    contrast.cbSize = sizeof(contrast);
+    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(contrast), &contrast, 0)
+           && (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+void WindowsPlatform::setTitleBarDark(quintptr window, bool dark) const
+{
+    using SetAttribute = HRESULT(WINAPI *)(HWND, DWORD, LPCVOID, DWORD);
+    constexpr DWORD darkMode = 20; // DWMWA_USE_IMMERSIVE_DARK_MODE, since version 2004 of Windows 10
+
+    // Never given back: the window manager works with the library as long as there are windows.
+    static const HMODULE library = LoadLibraryExW(L"dwmapi.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    static const auto setAttribute =
+        library != nullptr
+            ? reinterpret_cast<SetAttribute>(reinterpret_cast<void *>(GetProcAddress(library, "DwmSetWindowAttribute")))
+            : nullptr;
+    const BOOL value = dark ? TRUE : FALSE;
+    if (setAttribute != nullptr)
+        setAttribute(reinterpret_cast<HWND>(window), darkMode, &value, sizeof(value));
+}
+
 ProcessorTimes WindowsPlatform::processorTimes() const
 {
     FILETIME idle{};
