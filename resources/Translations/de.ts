@@ -277,6 +277,10 @@
 <translation>&amp;Sitzungen:</translation>
 </message>
 <message>
+<source>Clear the search</source>
+<translation>Suche leeren</translation>
+</message>
+<message>
 <source>Preview…</source>
 <translation>Vorschau …</translation>
 </message>
@@ -295,6 +299,10 @@
 <message>
 <source>Comes back</source>
 <translation>Kommt zurück</translation>
+</message>
+<message>
+<source>Progress</source>
+<translation>Fortschritt</translation>
 </message>
 <message>
 <source>exactly</source>

@@ -277,6 +277,10 @@
 <translation>&amp;Sesiones:</translation>
 </message>
 <message>
+<source>Clear the search</source>
+<translation>Borrar la búsqueda</translation>
+</message>
+<message>
 <source>Preview…</source>
 <translation>Vista previa…</translation>
 </message>
@@ -295,6 +299,10 @@
 <message>
 <source>Comes back</source>
 <translation>Vuelve</translation>
+</message>
+<message>
+<source>Progress</source>
+<translation>Progreso</translation>
 </message>
 <message>
 <source>exactly</source>

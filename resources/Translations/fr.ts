@@ -277,6 +277,10 @@
 <translation>&amp;Sessions :</translation>
 </message>
 <message>
+<source>Clear the search</source>
+<translation>Effacer la recherche</translation>
+</message>
+<message>
 <source>Preview…</source>
 <translation>Aperçu…</translation>
 </message>
@@ -295,6 +299,10 @@
 <message>
 <source>Comes back</source>
 <translation>Revient</translation>
+</message>
+<message>
+<source>Progress</source>
+<translation>Progression</translation>
 </message>
 <message>
 <source>exactly</source>

@@ -277,6 +277,10 @@
 <translation>&amp;Sessioni:</translation>
 </message>
 <message>
+<source>Clear the search</source>
+<translation>Cancella la ricerca</translation>
+</message>
+<message>
 <source>Preview…</source>
 <translation>Anteprima…</translation>
 </message>
@@ -295,6 +299,10 @@
 <message>
 <source>Comes back</source>
 <translation>Torna</translation>
+</message>
+<message>
+<source>Progress</source>
+<translation>Avanzamento</translation>
 </message>
 <message>
 <source>exactly</source>

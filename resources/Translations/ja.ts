@@ -277,6 +277,10 @@
 <translation>セッション(&amp;S):</translation>
 </message>
 <message>
+<source>Clear the search</source>
+<translation>検索を消去</translation>
+</message>
+<message>
 <source>Preview…</source>
 <translation>プレビュー…</translation>
 </message>
@@ -295,6 +299,10 @@
 <message>
 <source>Comes back</source>
 <translation>元に戻るか</translation>
+</message>
+<message>
+<source>Progress</source>
+<translation>進行状況</translation>
 </message>
 <message>
 <source>exactly</source>

@@ -277,6 +277,10 @@
 <translation>&amp;Sessies:</translation>
 </message>
 <message>
+<source>Clear the search</source>
+<translation>Zoekopdracht wissen</translation>
+</message>
+<message>
 <source>Preview…</source>
 <translation>Voorbeeld…</translation>
 </message>
@@ -295,6 +299,10 @@
 <message>
 <source>Comes back</source>
 <translation>Komt terug</translation>
+</message>
+<message>
+<source>Progress</source>
+<translation>Voortgang</translation>
 </message>
 <message>
 <source>exactly</source>

@@ -277,6 +277,10 @@
 <translation>&amp;Sesje:</translation>
 </message>
 <message>
+<source>Clear the search</source>
+<translation>Wyczyść wyszukiwanie</translation>
+</message>
+<message>
 <source>Preview…</source>
 <translation>Podgląd…</translation>
 </message>
@@ -295,6 +299,10 @@
 <message>
 <source>Comes back</source>
 <translation>Wraca</translation>
+</message>
+<message>
+<source>Progress</source>
+<translation>Postęp</translation>
 </message>
 <message>
 <source>exactly</source>

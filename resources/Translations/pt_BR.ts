@@ -277,6 +277,10 @@
 <translation>&amp;Sessões:</translation>
 </message>
 <message>
+<source>Clear the search</source>
+<translation>Limpar a busca</translation>
+</message>
+<message>
 <source>Preview…</source>
 <translation>Prévia…</translation>
 </message>
@@ -295,6 +299,10 @@
 <message>
 <source>Comes back</source>
 <translation>Volta</translation>
+</message>
+<message>
+<source>Progress</source>
+<translation>Progresso</translation>
 </message>
 <message>
 <source>exactly</source>

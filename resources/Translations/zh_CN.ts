@@ -277,6 +277,10 @@
 <translation>会话(&amp;S)：</translation>
 </message>
 <message>
+<source>Clear the search</source>
+<translation>清除搜索</translation>
+</message>
+<message>
 <source>Preview…</source>
 <translation>预览…</translation>
 </message>
@@ -295,6 +299,10 @@
 <message>
 <source>Comes back</source>
 <translation>能否还原</translation>
+</message>
+<message>
+<source>Progress</source>
+<translation>进度</translation>
 </message>
 <message>
 <source>exactly</source>

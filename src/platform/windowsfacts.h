@@ -67,8 +67,7 @@ inline const QStringList runKeys{userRun, machineRun, machineRun32};
 /** How large the user wants texts. */
 inline const QString userAccessibility = QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Accessibility");
 /** Whether the user has a contrast theme on: bit 0 of the text "Flags". */
-inline const QString userHighContrast =
-    QStringLiteral("HKEY_CURRENT_USER\\Control Panel\\Accessibility\\HighContrast");
+inline const QString userHighContrast = QStringLiteral("HKEY_CURRENT_USER\\Control Panel\\Accessibility\\HighContrast");
 
 } // namespace WindowsKey
 

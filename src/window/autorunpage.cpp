@@ -22,15 +22,13 @@ void addRow(QTableWidget *table, const AutorunEntry &entry, const QString &recor
 {
     const int index = table->rowCount();
     table->setRowCount(index + 1);
-    auto *first = new QTableWidgetItem(entry.name);
+    QTableWidgetItem *first = newCell(table, 0, entry.name);
     first->setToolTip(plainToolTip(entry.path));
     first->setData(Path, entry.path);
     first->setData(RecordName, recordName);
     first->setCheckState(Qt::Checked);
-    auto *second = new QTableWidgetItem(entry.command);
+    QTableWidgetItem *second = newCell(table, 1, entry.command);
     second->setToolTip(plainToolTip(entry.command));
-    for (QTableWidgetItem *item : {first, second})
-        item->setFlags(item->flags() & ~Qt::ItemIsEditable);
     table->setItem(index, 0, first);
     table->setItem(index, 1, second);
 }

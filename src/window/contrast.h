@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the dark theme's colours would leave hard to see.
+// What the themes would leave hard to see, and the frames of windows.
 
 #pragma once
 
@@ -20,10 +20,11 @@ public:
 };
 
 /**
- * Draws the text of a selected cell in the colour that it has otherwise, where a style sheet gives the background: the
- * sheet's own colour of the text is black also where the background is dark.
+ * Draws the cells of a list. The text of a selected cell keeps its colour where a style sheet gives the background: the
+ * sheet's own colour of the text is black also where the background is dark. Round the current row there is a frame as
+ * long as the list has the keyboard.
  */
-class SelectedCellDelegate final : public QStyledItemDelegate
+class ListDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT
 
@@ -31,3 +32,21 @@ public:
     using QStyledItemDelegate::QStyledItemDelegate;
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 };
+
+/** Lets the title bar of a window that is on the screen be as dark as the theme in force; other widgets have none. */
+void themeTitleBar(QWidget *window);
+
+/** Does so for each window that appears, as long as it filters the application's events. */
+class TitleBarTheme final : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+};
+
+/** Whether a palette is one of light texts on a dark ground. */
+bool isDark(const QPalette &palette);

@@ -56,7 +56,7 @@ void Kestrune::showFeaturesPage()
 void Kestrune::explainTweaks()
 {
     for (const TweakBox &box : tweakBoxes())
-        checkBoxOf(box)->setToolTip(wrappingToolTip(tr(knowledgeOf(box.name).tip.toUtf8().constData())));
+        explain(checkBoxOf(box), tr(knowledgeOf(box.name).tip.toUtf8().constData()));
 }
 
 void Kestrune::showHibernationGain()

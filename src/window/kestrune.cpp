@@ -20,10 +20,19 @@ Kestrune::Kestrune()
     setVisible(false);
     QTimer::singleShot(0, this, &Kestrune::StartAsAdmin);
     ui.setupUi(this);
+    growForm();
     fitToScreen(screen()->availableSize());
-    for (const Columns &columns : listColumns())
-        columns.table->viewport()->installEventFilter(this);
-    ui.tblSvc->setItemDelegate(new SelectedCellDelegate(this));
+    for (const Columns &columns : listColumns()) {
+        QTableWidget *table = columns.table;
+        table->viewport()->installEventFilter(this);
+        table->installEventFilter(this);
+        table->setItemDelegate(new ListDelegate(table));
+        // The whole row has the frame, and the list itself draws two cells anew.
+        connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, table->viewport(),
+                qOverload<>(&QWidget::update));
+    }
+    makeShortcuts();
+    QCoreApplication::instance()->installEventFilter(new TitleBarTheme(this));
     // The box's own delegate leaves a row's colour to the style sheet.
     ui.cbOptionsTheme->setItemDelegate(new QStyledItemDelegate(this));
     makeWorkers();

@@ -22,6 +22,12 @@ struct TweakBox;
 /** The check list of both Keep boxes: what the Automatizer leaves alone. Made before main() and never deleted. */
 extern QStandardItemModel *const keepModel;
 
+/** Pixels as they are at the usual size of texts, grown to the size that the user wants. */
+int grown(int pixels);
+QSize grown(const QSize &size);
+/** The size of a window, grown likewise, but not beyond the screen. */
+QSize grownWindow(const QSize &size);
+
 class Kestrune : public QMainWindow
 {
     Q_OBJECT
@@ -142,7 +148,9 @@ private Q_SLOTS:
     void onKeepModelChanged(const QModelIndex &first, const QModelIndex &last);
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     /** A row of cbOptionsLang; Auto is the language of the system, as far as there is a file for it. */
@@ -173,17 +181,52 @@ private:
     QList<Columns> listColumns() const;
     /** Gives each list's growing column what the others leave of its width, but never less than the form. */
     void growColumns();
-    /** Tool tips that say what can't be seen before a click. */
+    /** Tool tips that say what can't be seen before a click, and which keys do the same. */
     void explainButtons();
     void openPage(int page);
+    /** The object name of the menu's button for a page. */
+    static QString pageButton(int page);
+    /** The keys that lead to a page. */
+    static QList<QKeySequence> pageKeys(int page);
+    /** Makes the first row of a list its current one that can be; gives false where there is none. */
+    static bool beginAtFirstRow(QTableWidget *table);
     void selectMenuButton(const QString &objectName);
     void styleMenuButton(const QString &objectName);
     void applyActiveMenuStyle(QPushButton *button, const QString &imageName);
+    /** Marks the button of a page, whose image suits the theme. */
+    void markActiveMenuButton(int page);
+    /** Whether the menu's images are the white ones. */
+    bool hasWhiteImages() const;
+
+    // Keyboard and screen readers
+    void makeShortcuts();
+    /** The list of the page that is shown; null on pages without one. */
+    QTableWidget *pageTable() const;
+    /** What can be reached by the keyboard on the page that is shown: its list first, the rest as it lies there. */
+    QList<QWidget *> pageControls() const;
+    void giveKeyboardTo(QWidget *control);
+    /** Gives the keyboard to the page's next control, or the one before; to the first or last where none has it. */
+    void moveKeyboard(int step);
+    void clickMainButton();
+    /** Names for screen readers where a control doesn't say by itself what it is. */
+    void nameControls();
+
+    // Size of texts
+    /** Lets fonts and what they have to fit in grow as the user wants. To be called once. */
+    void growForm();
+    /** Lets the form's rich texts grow, after each time that they were set. */
+    void growRichTexts();
 
     // Theme
+    /** Puts the stored theme in force, or that of the system where the system's is one of contrast. */
+    void wearTheme();
+    /** The system has changed how it looks. */
+    void followSystem();
     void applyLightTheme();
     void applyDarkTheme();
     void applySystemTheme();
+    /** The system's palette, and no style sheet on the pages. */
+    void wearSystemLook();
     bool isViewButton(const QPushButton *button) const;
     void styleButtons(const QString &viewStyle, const QString &actionStyle, bool flat);
     void styleTables(const QString &style);
@@ -300,9 +343,10 @@ private:
     QString toldFailure;
     QNetworkAccessManager *updateManager = nullptr; ///< of the last check
     QString infoTemplate;                           ///< the report with its marks, once there has been one
-    QPalette startPalette;                          ///< the system's own palette
+    QPalette startPalette;                          ///< the system's own palette, as it was last seen
     QColor previousLinkColor;                       ///< of the theme before the present one
     Theme currentTheme = DarkTheme;
+    bool hasContrastTheme_ = false; ///< what the system had when the theme was last put in force
     int svcDisabledCount = 0;
     int svcStartedCount = 0;
     int svcStoppedCount = 0;

@@ -60,6 +60,7 @@ void Kestrune::onCbOptionsLangSelectionChanged(int index)
         speak(QLocale::system().name(), u"auto"_s);
 
     ui.retranslateUi(this);
+    growRichTexts();
     explainTweaks();
     applyPalette();
     if (currentPage() == 7)

@@ -19,8 +19,11 @@ void nameButton(QMessageBox &box, QMessageBox::StandardButton button, const QStr
 /** What a box says is text, whatever it looks like. */
 void speakPlainly(QMessageBox &box)
 {
-    for (QLabel *label : box.findChildren<QLabel *>())
+    for (QLabel *label : box.findChildren<QLabel *>()) {
         label->setTextFormat(Qt::PlainText);
+        if (!label->pixmap(Qt::ReturnByValue).isNull())
+            label->setAccessibleName(box.windowTitle());
+    }
 }
 
 /** A box works out its own size when it is shown, whatever it was told before; what stands in its grid holds. */
@@ -54,7 +57,7 @@ QMessageBox::StandardButton ask(const Question &question)
     if (question.defaultButton != QMessageBox::NoButton)
         box.setDefaultButton(question.defaultButton);
     if (question.minimumWidth > 0)
-        widen(box, question.minimumWidth);
+        widen(box, grown(question.minimumWidth));
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

@@ -3,6 +3,7 @@
 
 #include "kestrune.h"
 
+#include "contrast.h"
 #include "platform/platform.h"
 #include "rowtext.h"
 #include "themestyles.h"
@@ -41,6 +42,11 @@ constexpr Page pages[] = {
 constexpr int pageCount = std::size(pages);
 constexpr int lastRefreshablePage = 3;
 
+bool isFrom(const QWidget *widget, const QWidget *ancestor)
+{
+    return widget != nullptr && ancestor->isAncestorOf(widget);
+}
+
 QString imageFile(QLatin1StringView image, bool dark)
 {
     return image + (dark ? u"-w.png"_s : u".png"_s);
@@ -78,8 +84,10 @@ void Kestrune::showPage(int page)
 
 void Kestrune::openPage(int page)
 {
-    const QString button = pages[page].menuButton;
-    selectMenuButton(button);
+    selectMenuButton(pageButton(page));
+    // Else the next control that takes it, whatever it is, would get the keyboard.
+    if (page != currentPage() && isFrom(focusWidget(), ui.tabWidget))
+        focusWidget()->clearFocus();
     ui.tabWidget->setCurrentIndex(page);
     switch (page) {
     case 1:
@@ -107,11 +115,26 @@ void Kestrune::openPage(int page)
         break;
     }
     // Last: a page may have a question first.
-    applyActiveMenuStyle(ui.wgtLeftMenu->findChild<QPushButton *>(button),
-                         imageFile(pages[page].image, currentTheme == DarkTheme));
+    markActiveMenuButton(page);
     // A language that is put back while the page is loaded shows the page once more by itself.
     if (page == 7)
         showOptionsPage();
+}
+
+QString Kestrune::pageButton(int page)
+{
+    return pages[page].menuButton;
+}
+
+void Kestrune::markActiveMenuButton(int page)
+{
+    applyActiveMenuStyle(ui.wgtLeftMenu->findChild<QPushButton *>(pageButton(page)),
+                         imageFile(pages[page].image, hasWhiteImages()));
+}
+
+bool Kestrune::hasWhiteImages() const
+{
+    return hasContrastTheme_ ? isDark(QGuiApplication::palette()) : currentTheme == DarkTheme;
 }
 
 void Kestrune::refreshPage()
@@ -124,7 +147,7 @@ void Kestrune::selectMenuButton(const QString &objectName)
 {
     for (QPushButton *button : ui.wgtLeftMenu->findChildren<QPushButton *>()) {
         styleMenuButton(button->objectName());
-        button->setFont(QFont(u"Segoe UI"_s, 11, button->objectName() == objectName ? 700 : 400, false));
+        button->setFont(QFont(u"Segoe UI"_s, grown(11), button->objectName() == objectName ? 700 : 400, false));
     }
 }
 
@@ -134,8 +157,8 @@ void Kestrune::styleMenuButton(const QString &objectName)
         if (page.menuButton != objectName)
             continue;
         ui.wgtLeftMenu->findChild<QPushButton *>(objectName)
-            ->setStyleSheet(menuButtonStyle(imageFile(page.image, currentTheme == DarkTheme), u"text-align: center; "_s,
-                                            QPalette::Text));
+            ->setStyleSheet(
+                menuButtonStyle(imageFile(page.image, hasWhiteImages()), u"text-align: center; "_s, QPalette::Text));
         return;
     }
 }
@@ -159,25 +182,43 @@ void Kestrune::growColumns()
 {
     for (const auto &[table, widths, growing] : listColumns()) {
         const int others = table->horizontalHeader()->length() - table->columnWidth(growing);
-        table->setColumnWidth(growing, std::max(widths.at(growing), table->viewport()->width() - others));
+        table->setColumnWidth(growing, std::max(grown(widths.at(growing)), table->viewport()->width() - others));
     }
+}
+
+bool Kestrune::event(QEvent *event)
+{
+    if (event->type() == QEvent::ThemeChange)
+        followSystem();
+    return QMainWindow::event(event);
 }
 
 bool Kestrune::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Resize) // of a list
         growColumns();
+    auto *table = qobject_cast<QTableWidget *>(watched);
+    if (event->type() == QEvent::KeyPress && table != nullptr && !table->currentIndex().isValid())
+        return beginAtFirstRow(table);
     return QMainWindow::eventFilter(watched, event);
 }
 
 void Kestrune::explainButtons()
 {
-    ui.btnAutomatize->setToolTip(wrappingToolTip(
-        tr("Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it "
-           "stops there: what is changed by then stays changed.")));
-    ui.btnPackagesUninst->setToolTip(wrappingToolTip(
-        tr("Acts on all checked packages at once, without asking. The list stays as it is until the page "
-           "is shown again.")));
+    explain(ui.btnAutomatize,
+            tr("Changes all that Analyze has found, which takes a while. If you close the window meanwhile, it "
+               "stops there: what is changed by then stays changed."));
+    explain(ui.btnPackagesUninst,
+            tr("Acts on all checked packages at once, without asking. The list stays as it is until the page "
+               "is shown again."));
+    for (QPushButton *button : ui.wgtLeftMenu->findChildren<QPushButton *>()) {
+        QList<QKeySequence> keys;
+        for (int page = 0; page < pageCount; ++page) {
+            if (pages[page].menuButton == button->objectName())
+                keys += pageKeys(page);
+        }
+        button->setToolTip(QKeySequence::listToString(keys, QKeySequence::NativeText));
+    }
 }
 
 void Kestrune::prepareForm()
@@ -189,9 +230,10 @@ void Kestrune::prepareForm()
     explainButtons();
     for (const Columns &columns : listColumns()) {
         for (int column = 0; column < columns.widths.size(); ++column)
-            columns.table->setColumnWidth(column, columns.widths.at(column));
+            columns.table->setColumnWidth(column, grown(columns.widths.at(column)));
     }
     growColumns();
+    nameControls();
     const QList<QWidget *> lists{ui.tblSvc, ui.tblTasks, ui.tblPackages, ui.tblAutorun, ui.scrollArea};
     for (QWidget *list : lists) {
         list->setContextMenuPolicy(Qt::CustomContextMenu);

@@ -15,8 +15,8 @@ using namespace Qt::StringLiterals;
 void Kestrune::showPackagesPage()
 {
     // In the view of uninstalled packages these two are hidden.
-    ui.tblPackages->setColumnWidth(1, 200);
-    ui.tblPackages->setColumnWidth(2, 400);
+    ui.tblPackages->setColumnWidth(1, grown(200));
+    ui.tblPackages->setColumnWidth(2, grown(400));
     growColumns();
     ui.btnPackagesUninst->setText(tr("Uninstall packages"));
     ui.btnPackagesViewDisabled->setText(tr("View uninstalled packages"));
@@ -46,8 +46,7 @@ void Kestrune::addPackageRow(const QString &name, const QString &displayName, co
     ui.tblPackages->setRowCount(index + 1);
     ui.tblPackages->setRowHeight(index, 6);
     for (int column = 2; column >= 0; --column) {
-        auto *item = new QTableWidgetItem(texts[column]);
-        item->setFlags(item->flags() & ~Qt::ItemIsEditable);
+        QTableWidgetItem *item = newCell(ui.tblPackages, column, texts[column]);
         if (column == 0)
             item->setCheckState(uninstalledView ? Qt::Unchecked : Qt::Checked);
         ui.tblPackages->setItem(index, column, item);

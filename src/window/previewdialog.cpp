@@ -5,6 +5,7 @@
 #include "journal/takeback.h"
 #include "kestrune.h"
 #include "messagebox.h"
+#include "rowtext.h"
 #include "work/knowledge.h"
 #include "work/tweaks/tweakcatalogue.h"
 
@@ -17,6 +18,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -207,6 +209,13 @@ void setSides(QTreeWidgetItem *row, const QJsonObject &sides)
         row->setToolTip(column, row->text(column).toHtmlEscaped());
 }
 
+void nameEmptyCells(QTreeWidgetItem *row)
+{
+    const QTreeWidgetItem *titles = row->treeWidget()->headerItem();
+    for (int column = 0; column < ColumnCount; ++column)
+        row->setData(column, Qt::AccessibleTextRole, spokenText(row->text(column), titles->text(column)));
+}
+
 /** Its name, what it is there for, what stops working without it, and why it comes back as it does. */
 QString explanationOf(const QJsonObject &item, bool isEnglish)
 {
@@ -269,6 +278,7 @@ void PreviewDialog::makeWidgets()
     search_ = new QLineEdit;
     search_->setObjectName(u"edtSearch"_s);
     search_->setClearButtonEnabled(true);
+    search_->findChild<QToolButton *>()->setAccessibleName(Kestrune::tr("Clear the search"));
     search_->setEnabled(false);
     items_ = new QTreeWidget;
     items_->setObjectName(u"lstPreview"_s);
@@ -322,8 +332,9 @@ void PreviewDialog::layOut()
     setTabOrder(items_, close_);
     const int widths[] = {300, 190, 170, 190};
     for (int column = 0; column < static_cast<int>(std::size(widths)); ++column)
-        items_->header()->resizeSection(column, std::max(widths[column], items_->header()->sectionSizeHint(column)));
-    resize(1060, 640);
+        items_->header()->resizeSection(column,
+                                        std::max(grown(widths[column]), items_->header()->sectionSizeHint(column)));
+    resize(grownWindow({1060, 640}));
 }
 
 void PreviewDialog::onFinished()
@@ -356,6 +367,8 @@ void PreviewDialog::show(const QJsonObject &preview)
         group->setText(Now, QString::number(group->childCount()));
         group->setExpanded(true);
     }
+    for (QTreeWidgetItemIterator each(items_); *each != nullptr; ++each)
+        nameEmptyCells(*each);
     search_->setEnabled(true);
     QString more = Kestrune::tr("“Way back…” brings back more than Restore: what was noted before each change.");
     if (!isWhole_)

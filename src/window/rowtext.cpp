@@ -47,6 +47,12 @@ QString wrappingToolTip(const QString &text)
     return text.size() > longText ? escaped(text) : text;
 }
 
+void explain(QWidget *widget, const QString &text)
+{
+    widget->setToolTip(wrappingToolTip(text));
+    widget->setAccessibleDescription(text);
+}
+
 QString plainToolTip(const QString &text)
 {
     return Qt::mightBeRichText(text) ? escaped(text) : text;
@@ -61,6 +67,20 @@ QString nameFromToolTip(const QString &toolTip)
 {
     const QString name = toolTip.section(u':', 0, 0);
     return name.startsWith(escapedBegin) ? unescaped(name) : name;
+}
+
+QString spokenText(const QString &text, const QString &title)
+{
+    return text.isEmpty() ? title + u": \u2013"_s : text;
+}
+
+QTableWidgetItem *newCell(const QTableWidget *table, int column, const QString &text)
+{
+    auto *cell = new QTableWidgetItem(text);
+    cell->setFlags(cell->flags() & ~Qt::ItemIsEditable);
+    if (text.isEmpty())
+        cell->setData(Qt::AccessibleTextRole, spokenText(text, table->horizontalHeaderItem(column)->text()));
+    return cell;
 }
 
 QList<QTableWidgetItem *> firstCells(const QTableWidget *table)

@@ -8,6 +8,7 @@
 
 class QTableWidget;
 class QTableWidgetItem;
+class QWidget;
 
 /**
  * The text of a description, as rich text where it is long, so that a tool tip wraps it. It holds no markup: that could
@@ -18,6 +19,9 @@ QString wrappedText(const QString &text);
 /** A text of our own as a tool tip: as rich text where it is long, so that it wraps, also in a script of wide letters.
  */
 QString wrappingToolTip(const QString &text);
+
+/** Gives a widget a text of our own as its tool tip, and to screen readers, which would read the tool tip's markup. */
+void explain(QWidget *widget, const QString &text);
 
 /** A text as a tool tip that shows it as it is, whatever it looks like. */
 QString plainToolTip(const QString &text);
@@ -30,6 +34,12 @@ QString rowToolTip(const QString &name, const QString &description);
 
 /** The name that rowToolTip() put before its first colon. */
 QString nameFromToolTip(const QString &toolTip);
+
+/** What screen readers say of a cell: its text, or of an empty one the title of its column and a dash. */
+QString spokenText(const QString &text, const QString &title);
+
+/** A cell for a column of a list, which can't be edited. */
+QTableWidgetItem *newCell(const QTableWidget *table, int column, const QString &text);
 
 /** The first cells of all rows; rows may move while they are changed. */
 QList<QTableWidgetItem *> firstCells(const QTableWidget *table);

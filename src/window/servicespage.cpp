@@ -128,11 +128,13 @@ void Kestrune::addServiceRow(const ServiceRow &row, int greyed)
     ui.tblSvc->setRowHeight(index, 6);
     // The first cell comes last: where the table is sorted, it moves the row.
     for (int column = 2; column >= 0; --column) {
-        auto *item = new QTableWidgetItem(texts[column]);
+        QTableWidgetItem *item = newCell(ui.tblSvc, column, texts[column]);
         item->setToolTip(toolTip);
-        item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-        if (locked)
+        if (locked) {
             item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
+            // Which otherwise only its colour tells.
+            item->setData(Qt::AccessibleDescriptionRole, ui.label_3->text());
+        }
         if (column == 0)
             item->setCheckState(Qt::Unchecked);
         ui.tblSvc->setItem(index, column, item);

@@ -70,13 +70,11 @@ void Kestrune::addTaskRow(const TaskRow &row)
     ui.tblTasks->setRowCount(index + 1);
     ui.tblTasks->setRowHeight(index, 6);
 
-    auto *path = new QTableWidgetItem(row.path);
+    QTableWidgetItem *path = newCell(ui.tblTasks, 0, row.path);
     path->setToolTip(rowToolTip(row.path, row.description));
-    path->setFlags(path->flags() & ~Qt::ItemIsEditable);
     path->setCheckState(Qt::Unchecked);
-    auto *description = new QTableWidgetItem(row.description);
+    QTableWidgetItem *description = newCell(ui.tblTasks, 1, row.description);
     description->setToolTip(wrappedText(row.description));
-    description->setFlags(description->flags() & ~Qt::ItemIsEditable);
     // A sorted table moves the row as soon as its first cell is there.
     ui.tblTasks->setItem(index, 0, path);
     ui.tblTasks->setItem(path->row(), 1, description);

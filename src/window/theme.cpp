@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Putting a theme in force: palette, style sheets and the coloured texts.
 
+#include "contrast.h"
 #include "kestrune.h"
 
 #include "platform/platform.h"
@@ -26,13 +27,20 @@ void Kestrune::applyPalette()
 {
     prepareForm();
     buildKeepList();
+    wearTheme();
+}
 
+void Kestrune::wearTheme()
+{
     // With nothing stored, Windows 10 gets light and Windows 11 dark; Windows 10 has no dark theme at all.
     const bool onWindows10 = workThread->winName.contains("Windows 10"_L1, Qt::CaseInsensitive);
     const bool onWindows11 = workThread->winName.contains("Windows 11"_L1, Qt::CaseInsensitive);
     const QString stored = storedTheme();
     const bool nothingStored = !openSettings()->contains(u"palette"_s);
-    if (stored == "light"_L1 || (onWindows10 && nothingStored))
+    hasContrastTheme_ = platform().hasContrastTheme();
+    if (hasContrastTheme_)
+        wearSystemLook();
+    else if (stored == "light"_L1 || (onWindows10 && nothingStored))
         applyLightTheme();
     else if (onWindows11 && meansDark(stored))
         applyDarkTheme();
@@ -40,6 +48,8 @@ void Kestrune::applyPalette()
         applySystemTheme();
     widenKeepLists();
     colorTexts();
+    for (QWidget *window : QApplication::topLevelWidgets())
+        themeTitleBar(window);
 }
 
 bool Kestrune::isViewButton(const QPushButton *button) const
@@ -103,15 +113,31 @@ void Kestrune::applyDarkTheme()
     currentTheme = DarkTheme;
 }
 
-void Kestrune::applySystemTheme()
+void Kestrune::followSystem()
+{
+    previousLinkColor = QGuiApplication::palette().color(QPalette::Link);
+    // Without a palette of the program's own there is the system's.
+    QApplication::setPalette(QPalette());
+    startPalette = QGuiApplication::palette();
+    wearTheme();
+    selectMenuButton(pageButton(currentPage()));
+    markActiveMenuButton(currentPage());
+}
+
+void Kestrune::wearSystemLook()
 {
     QApplication::setPalette(startPalette);
     styleButtons(QString(), QString(), false);
-    styleAll<QComboBox>(QString());
+    styleComboBoxes({}, {});
     styleAll<QCheckBox>(QString());
     ui.txtAutomatizer->setStyleSheet(QString());
     ui.txtAutomatizer->verticalScrollBar()->setStyleSheet(QString());
     styleTables(QString());
+}
+
+void Kestrune::applySystemTheme()
+{
+    wearSystemLook();
     openSettings()->setValue(u"palette"_s, u"system"_s);
     currentTheme = SystemTheme;
 }

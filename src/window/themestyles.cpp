@@ -2,6 +2,7 @@
 
 #include "themestyles.h"
 
+#include "platform/platform.h"
 #include "work/settings.h"
 
 using namespace Qt::StringLiterals;
@@ -151,6 +152,8 @@ QString menuStyle(const MenuColors &colors)
 
 QString popupMenuStyle(PopupMenu menu)
 {
+    if (platform().hasContrastTheme())
+        return {};
     const QString stored = storedTheme();
     if (meansDark(stored))
         return menuStyle({{50, 50, 50}, {70, 70, 70}, {60, 60, 60}});

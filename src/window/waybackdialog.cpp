@@ -21,6 +21,7 @@
 #include <QSignalBlocker>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
+#include <QToolButton>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -127,6 +128,7 @@ void WayBackDialog::makeWidgets()
     search_ = new QLineEdit;
     search_->setObjectName(u"edtSearch"_s);
     search_->setClearButtonEnabled(true);
+    search_->findChild<QToolButton *>()->setAccessibleName(Kestrune::tr("Clear the search"));
     changes_ = new QTreeView;
     prepareList(changes_, u"lstChanges"_s);
     changes_->setModel(shown_);
@@ -173,7 +175,7 @@ void WayBackDialog::layOut()
     sides->addWidget(left);
     sides->addWidget(right);
     sides->setStretchFactor(1, 1);
-    sides->setSizes({360, 620});
+    sides->setSizes({grown(360), grown(620)});
     auto *buttons = line({status_, bar_, take_, save_, close_});
     buttons->setStretch(0, 1);
     auto *all = new QVBoxLayout(this);
@@ -186,8 +188,8 @@ void WayBackDialog::layOut()
     QHeaderView *header = changes_->header();
     const int widths[] = {250, 100, 100};
     for (int column = 0; column < static_cast<int>(std::size(widths)); ++column)
-        header->resizeSection(column, std::max(widths[column], header->sectionSizeHint(column)));
-    resize(1000, 560);
+        header->resizeSection(column, std::max(grown(widths[column]), header->sectionSizeHint(column)));
+    resize(grownWindow({1000, 560}));
 }
 
 void WayBackDialog::connectWidgets()
@@ -229,8 +231,8 @@ void WayBackDialog::listSessions(qint64 current)
     for (int column = 0; column < SessionColumnCount; ++column)
         sessions_->resizeColumnToContents(column);
     constexpr int widest = 480; // so that most of the dialog is left for the changes
-    sessions_->setMinimumWidth(std::min(widest, sessions_->header()->length() + 2 * sessions_->frameWidth()
-                                                    + sessions_->verticalScrollBar()->sizeHint().width()));
+    sessions_->setMinimumWidth(std::min(grown(widest), sessions_->header()->length() + 2 * sessions_->frameWidth()
+                                                           + sessions_->verticalScrollBar()->sizeHint().width()));
 }
 
 qint64 WayBackDialog::currentSession() const

@@ -100,6 +100,9 @@ QVariant WayBackModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return cellText(item, index.column());
+    case Qt::AccessibleTextRole:
+        return spokenText(cellText(item, index.column()),
+                          headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString());
     case Qt::ToolTipRole:
         return plainToolTip(cellText(item, index.column()));
     case Qt::CheckStateRole:

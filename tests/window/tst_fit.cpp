@@ -220,6 +220,11 @@ QStringList misfitsOf(const WindowDriver &driver)
     return fits ? QStringList() : misfits;
 }
 
+void setTextScale(TestMachine &machine, int scale)
+{
+    machine.write(u"HKEY_CURRENT_USER\\Software\\Microsoft\\Accessibility"_s, u"TextScaleFactor"_s, scale);
+}
+
 } // namespace
 
 class TestFit : public QObject
@@ -227,7 +232,7 @@ class TestFit : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { useStandInFonts(); }
+    void init() { useStandInFonts(); } // which the window lets grow
     void everyTextFits_data();
     void everyTextFits();
     void theWayBackFits_data() { languages(); }
@@ -241,11 +246,14 @@ private:
 
 void TestFit::everyTextFits_data()
 {
-    addColumns<QString, int>("file", "page");
+    addColumns<QString, int, int>("file", "page", "scale");
     const QDir folder(QCoreApplication::applicationDirPath() + u"/Translations"_s);
     for (const QString &file : folder.entryList({u"lang_*.qm"_s})) {
-        for (int page = 0; page < pageCount; ++page)
-            QTest::addRow("%s, page %d", qPrintable(file), page) << folder.filePath(file) << page;
+        for (int page = 0; page < pageCount; ++page) {
+            for (const int scale : {100, 225})
+                QTest::addRow("%s, page %d, %d %%", qPrintable(file), page, scale)
+                    << folder.filePath(file) << page << scale;
+        }
     }
 }
 
@@ -253,6 +261,7 @@ void TestFit::everyTextFits()
 {
     QFETCH(QString, file);
     QFETCH(int, page);
+    QFETCH(int, scale);
     WideTranslator translator;
     QVERIFY(translator.load(file));
     QCoreApplication::installTranslator(&translator);
@@ -260,12 +269,14 @@ void TestFit::everyTextFits()
     // The window itself leaves the language alone.
     pc.write(settingsKey, u"lang"_s, u"en"_s);
     pc.write(settingsKey, u"palette"_s, u"light"_s);
+    setTextScale(pc, scale);
     const WindowDriver driver;
-    driver.window().resize(driver.window().minimumSize());
+    // As large as the form, whatever the screen has.
+    driver.window().resize(grown(QSize(800, 640)));
     driver.window().showPage(page);
     QTRY_VERIFY_WITH_TIMEOUT(!driver.worker().isRunning(), patience);
     QStringList misfits = misfitsOf(driver);
-    QCOMPARE(driver.window().size(), QSize(800, 640));
+    QCOMPARE(driver.window().size(), QSize(8 * scale, 640 * scale / 100));
     showOtherTexts(driver, page);
     misfits += misfitsOf(driver);
     QVERIFY2(misfits.isEmpty(), qPrintable(misfits.join(u'\n')));

@@ -3,6 +3,7 @@
 
 #include "machine/source/regfile.h"
 #include "preview/previewtexts.h"
+#include "support/accessibletree.h"
 #include "support/boxes.h"
 #include "support/files.h"
 #include "support/suite.h"
@@ -151,6 +152,7 @@ class TestPreviewDialog : public QObject
 private Q_SLOTS:
     void whatAPreviewIsMadeOfIsTranslated();
     void changesAreListedAndNothingIsChanged();
+    void everythingHasAName();
     void everyTextHasItsRoom();
     void whatWasLookedAtWithoutRightsIsTold();
     void noWordOfItStaysEnglish();
@@ -213,6 +215,19 @@ void TestPreviewDialog::changesAreListedAndNothingIsChanged()
     QVERIFY(machine.commands().isEmpty());
     preview.close();
     QVERIFY(!preview.isOpen());
+}
+
+void TestPreviewDialog::everythingHasAName()
+{
+    const PreviewedPc machine;
+    const WindowDriver driver;
+    const Preview preview(driver, placeOf(machine));
+    QCOMPARE(unnamedIn(&*preview).join(u'\n'), QString());
+    QVERIFY(preview.isIdle());
+    preview.items()->expandAll();
+    QCOMPARE(unnamedIn(&*preview).join(u'\n'), QString());
+    preview.get<QLineEdit>(u"edtSearch"_s)->setText(u"Fonts"_s);
+    QCOMPARE(unnamedIn(&*preview).join(u'\n'), QString());
 }
 
 void TestPreviewDialog::everyTextHasItsRoom()

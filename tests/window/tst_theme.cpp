@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The themes: which one is chosen, the cells of its palette, and what each kind of widget wears.
 
+#include "platform/forwardingplatform.h"
 #include "support/suite.h"
 #include "support/windowdriver.h"
 #include "window/contrast.h"
@@ -10,6 +11,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
+#include <QProxyStyle>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QStyleOptionButton>
 #include <QTest>
@@ -182,6 +186,69 @@ QStringList lookOf(const WindowDriver &driver)
     return lines;
 }
 
+void setContrastTheme(TestMachine &machine, bool on)
+{
+    machine.write(u"HKEY_CURRENT_USER\\Control Panel\\Accessibility\\HighContrast"_s, u"Flags"_s,
+                  on ? u"127"_s : u"126"_s);
+}
+
+/** A system whose colours can be changed, as a user does in its settings. */
+class ChangingStyle : public QProxyStyle
+{
+public:
+    using QProxyStyle::polish;
+    using QProxyStyle::QProxyStyle;
+    void polish(QPalette &palette) override { palette = systemPalette; }
+
+    QPalette systemPalette;
+};
+
+/** One that stays as long as the object lives. */
+class ChangingSystem
+{
+public:
+    ChangingSystem()
+        : style_(new ChangingStyle(QApplication::style()->name()))
+    {
+        style_->systemPalette = lightPalette();
+        QApplication::setStyle(style_);
+    }
+    ~ChangingSystem() { QApplication::setStyle(style_->baseStyle()->name()); }
+    Q_DISABLE_COPY_MOVE(ChangingSystem)
+
+    /** The system tells its windows when it has changed. */
+    void change(const WindowDriver &driver, const QPalette &palette)
+    {
+        style_->systemPalette = palette;
+        tell(driver);
+    }
+    static void tell(const WindowDriver &driver)
+    {
+        QEvent changed(QEvent::ThemeChange);
+        QCoreApplication::sendEvent(&driver.window(), &changed);
+    }
+
+private:
+    ChangingStyle *style_;
+};
+
+/** Notes how title bars are to be drawn. */
+class TitleBarPlatform final : public ForwardingPlatform
+{
+public:
+    using ForwardingPlatform::ForwardingPlatform;
+    void setTitleBarDark(quintptr window, bool dark) const override { asked.insert(window, dark); }
+
+    mutable QMap<quintptr, bool> asked;
+};
+
+QPalette palette(const QColor &ground, const QColor &text)
+{
+    QPalette colors(text, ground, ground.lighter(), ground.darker(), ground, text, ground);
+    colors.setColor(QPalette::Link, Qt::yellow);
+    return colors;
+}
+
 } // namespace
 
 class TestTheme : public QObject
@@ -209,6 +276,19 @@ private Q_SLOTS:
     void themeInForceIsPutOnAgainUnchanged();
     void changedThemeLooksAsOnAFreshStart_data();
     void changedThemeLooksAsOnAFreshStart();
+
+    void contrastThemeWearsTheSystemsLook_data();
+    void contrastThemeWearsTheSystemsLook();
+    void storedThemeComesBackAfterContrast_data();
+    void storedThemeComesBackAfterContrast();
+    void contrastThemesHaveImagesThatCanBeSeen_data();
+    void contrastThemesHaveImagesThatCanBeSeen();
+    void choiceDuringContrastIsForLater();
+    void titleBarsAreAsDarkAsTheTheme_data();
+    void titleBarsAreAsDarkAsTheTheme();
+    void systemThemeFollowsTheSystem();
+    void otherThemesKeepTheSystemsChangeForLater();
+    void changeOfTheSystemLeavesAJobsBarAlone();
 
 private:
     QPalette systemPalette_; ///< before any theme
@@ -478,6 +558,215 @@ void TestTheme::changedThemeLooksAsOnAFreshStart()
         }
         QCOMPARE(lookOf(driver), expected);
     }
+}
+
+void TestTheme::contrastThemeWearsTheSystemsLook_data()
+{
+    addColumns<Windows, QString>("windows", "stored");
+    for (const QString &stored : {QString(), u"light"_s, u"dark"_s, u"system"_s, u"blue"_s}) {
+        QTest::addRow("11, %s", qPrintable(stored)) << Windows::Eleven << stored;
+        QTest::addRow("10, %s", qPrintable(stored)) << Windows::Ten << stored;
+    }
+}
+
+void TestTheme::contrastThemeWearsTheSystemsLook()
+{
+    QFETCH(const Windows, windows);
+    QFETCH(const QString, stored);
+    TestMachine machine(windows);
+    if (!stored.isNull())
+        machine.write(settingsKey, u"palette"_s, stored);
+    setContrastTheme(machine, true);
+    const WindowDriver driver;
+    QCOMPARE(machine.names(settingsKey).contains(u"palette"_s), !stored.isNull());
+    QCOMPARE(machine.read(settingsKey, u"palette"_s).toString(), stored);
+    QCOMPARE(QGuiApplication::palette().color(QPalette::Window), systemPalette_.color(QPalette::Window));
+    QCOMPARE(QGuiApplication::palette().color(QPalette::Highlight), systemPalette_.color(QPalette::Highlight));
+    for (const QPushButton *button : ofPages<QPushButton>(driver)) {
+        QCOMPARE(button->styleSheet(), QString());
+        QCOMPARE(button->isFlat(), isViewButton(button));
+    }
+    for (const QComboBox *box : ofPages<QComboBox>(driver)) {
+        QCOMPARE(box->styleSheet(), QString());
+        QCOMPARE(box->view()->styleSheet(), QString());
+    }
+    for (const QCheckBox *box : ofPages<QCheckBox>(driver))
+        QCOMPARE(box->styleSheet(), QString());
+    for (const QTableWidget *table : ofPages<QTableWidget>(driver))
+        QCOMPARE(table->styleSheet(), QString());
+    QCOMPARE(driver.get<QWidget>(u"txtAutomatizer"_s)->styleSheet(), QString());
+    QCOMPARE(popupMenuStyle(PopupMenu::Programs), QString());
+    QCOMPARE(popupMenuStyle(PopupMenu::Context), QString());
+    const QString link = systemPalette_.color(QPalette::Link).name();
+    QCOMPARE(driver.get<QLabel>(u"lblSvcTop"_s)->styleSheet(), u"color: "_s + link);
+    QVERIFY(driver.get<QTextBrowser>(u"txtAbout"_s)->toHtml().contains(u"color:"_s + link));
+}
+
+void TestTheme::storedThemeComesBackAfterContrast_data()
+{
+    addColumns<Windows, QString>("windows", "stored");
+    for (const QString &stored : {u"light"_s, u"system"_s, u"dark"_s}) {
+        QTest::addRow("11, %s", qPrintable(stored)) << Windows::Eleven << stored;
+        QTest::addRow("10, %s", qPrintable(stored)) << Windows::Ten << stored;
+    }
+}
+
+void TestTheme::storedThemeComesBackAfterContrast()
+{
+    QFETCH(const Windows, windows);
+    QFETCH(const QString, stored);
+    const ChangingSystem system;
+    const auto newMachine = [&] {
+        QApplication::setPalette(QPalette());
+        auto machine = std::make_unique<TestMachine>(windows);
+        machine->write(settingsKey, u"palette"_s, stored);
+        return machine;
+    };
+    QStringList fresh;
+    {
+        const auto machine = newMachine();
+        const WindowDriver driver;
+        fresh = lookOf(driver);
+    }
+    const auto machine = newMachine();
+    const WindowDriver driver;
+    QCOMPARE(lookOf(driver), fresh);
+    for (int round = 0; round < 2; ++round) {
+        setContrastTheme(*machine, true);
+        ChangingSystem::tell(driver);
+        QCOMPARE(driver.table(u"tblSvc"_s)->styleSheet(), QString());
+        QCOMPARE(driver.button(u"btnSvcDisable"_s)->styleSheet(), QString());
+        QCOMPARE(machine->read(settingsKey, u"palette"_s).toString(), stored);
+        setContrastTheme(*machine, false);
+        ChangingSystem::tell(driver);
+        QStringList look = lookOf(driver);
+        // No theme is what Windows 10 makes of dark: a form without style sheets, whose buttons a theme has made flat.
+        if (windows == Windows::Ten && stored == "dark"_L1) {
+            look.removeIf([](const QString &line) { return line.startsWith("btn"_L1); });
+            fresh.removeIf([](const QString &line) { return line.startsWith("btn"_L1); });
+        }
+        QCOMPARE(look, fresh);
+        QCOMPARE(machine->read(settingsKey, u"palette"_s).toString(), stored);
+    }
+}
+
+void TestTheme::contrastThemesHaveImagesThatCanBeSeen_data()
+{
+    addColumns<QColor, QColor, bool>("ground", "text", "white");
+    QTest::newRow("white on black") << QColor(Qt::black) << QColor(Qt::white) << true;
+    QTest::newRow("black on white") << QColor(Qt::white) << QColor(Qt::black) << false;
+}
+
+void TestTheme::contrastThemesHaveImagesThatCanBeSeen()
+{
+    QFETCH(const QColor, ground);
+    QFETCH(const QColor, text);
+    QFETCH(const bool, white);
+    for (const QString &stored : {u"light"_s, u"dark"_s}) {
+        ChangingSystem system;
+        TestMachine machine;
+        machine.write(settingsKey, u"palette"_s, stored);
+        const WindowDriver driver;
+        setContrastTheme(machine, true);
+        system.change(driver, palette(ground, text));
+        QCOMPARE(QGuiApplication::palette().color(QPalette::Window), ground);
+        // The page's own button, and one of another page
+        for (const QString &name : {u"btnMenuHome"_s, u"btnMenuTask"_s}) {
+            QCOMPARE(driver.button(name)->styleSheet().contains(u"-w.png"_s), white);
+            QVERIFY(!driver.button(name)->styleSheet().contains(themeLink));
+        }
+        QVERIFY(driver.button(u"btnMenuTask"_s)->styleSheet().contains(u" color: "_s + text.name()));
+    }
+}
+
+void TestTheme::choiceDuringContrastIsForLater()
+{
+    TestMachine machine;
+    machine.write(settingsKey, u"palette"_s, u"dark"_s);
+    setContrastTheme(machine, true);
+    const WindowDriver driver;
+    driver.window().showPage(7);
+    driver.get<QComboBox>(u"cbOptionsTheme"_s)->setCurrentIndex(1);
+    QCOMPARE(machine.read(settingsKey, u"palette"_s).toString(), u"light"_s);
+    QCOMPARE(driver.table(u"tblSvc"_s)->styleSheet(), QString());
+    setContrastTheme(machine, false);
+    ChangingSystem::tell(driver);
+    QCOMPARE(driver.table(u"tblSvc"_s)->styleSheet(), lightStyles(Windows::Eleven).table);
+}
+
+void TestTheme::titleBarsAreAsDarkAsTheTheme_data()
+{
+    addColumns<QString, bool>("theme", "dark");
+    QTest::newRow("dark") << u"dark"_s << true;
+    QTest::newRow("light") << u"light"_s << false;
+}
+
+/** What they look like can be seen on a real desktop only. */
+void TestTheme::titleBarsAreAsDarkAsTheTheme()
+{
+    QFETCH(const QString, theme);
+    QFETCH(const bool, dark);
+    TestMachine machine;
+    machine.write(settingsKey, u"palette"_s, theme);
+    auto noting = std::make_unique<TitleBarPlatform>(takePlatform());
+    const TitleBarPlatform &platform = *noting;
+    setPlatform(std::move(noting));
+    const WindowDriver driver;
+    const quintptr window = driver.window().winId();
+    QCOMPARE(platform.asked, (QMap<quintptr, bool>{{window, dark}}));
+    QDialog dialog(&driver.window());
+    dialog.show();
+    QCOMPARE(platform.asked, (QMap<quintptr, bool>{{window, dark}, {dialog.winId(), dark}}));
+    QLabel tip(&driver.window(), Qt::ToolTip);
+    tip.show();
+    QCOMPARE(platform.asked.size(), 2); // it has no title bar
+    driver.window().showPage(7);
+    driver.get<QComboBox>(u"cbOptionsTheme"_s)->setCurrentIndex(dark ? 1 : 0);
+    QCOMPARE(platform.asked, (QMap<quintptr, bool>{{window, !dark}, {dialog.winId(), !dark}}));
+}
+
+void TestTheme::systemThemeFollowsTheSystem()
+{
+    ChangingSystem system;
+    TestMachine machine;
+    machine.write(settingsKey, u"palette"_s, u"system"_s);
+    QApplication::setPalette(QPalette());
+    const WindowDriver driver;
+    const QPalette dark = palette(QColor(20, 20, 20), Qt::white);
+    system.change(driver, dark);
+    QCOMPARE(QGuiApplication::palette().color(QPalette::Window), QColor(20, 20, 20));
+    QCOMPARE(driver.get<QLabel>(u"lblSvcTop"_s)->styleSheet(), u"color: #ffff00"_s);
+    const QString about = driver.get<QTextBrowser>(u"txtAbout"_s)->toHtml();
+    QVERIFY(about.contains(u"color:#ffff00"_s));
+    QVERIFY(!about.contains(u"color:"_s + themeLink));
+    system.change(driver, lightPalette());
+    QCOMPARE(QGuiApplication::palette().color(QPalette::Window), QColor(230, 230, 230));
+    QCOMPARE(machine.read(settingsKey, u"palette"_s).toString(), u"system"_s);
+}
+
+void TestTheme::otherThemesKeepTheSystemsChangeForLater()
+{
+    ChangingSystem system;
+    TestMachine machine;
+    machine.write(settingsKey, u"palette"_s, u"dark"_s);
+    const WindowDriver driver;
+    system.change(driver, palette(Qt::blue, Qt::white));
+    QCOMPARE(QGuiApplication::palette().color(QPalette::Window), QColor(35, 35, 35));
+    QCOMPARE(driver.button(u"btnSvcDisable"_s)->styleSheet(), darkStyles().button);
+    driver.window().showPage(7);
+    driver.get<QComboBox>(u"cbOptionsTheme"_s)->setCurrentIndex(2);
+    QCOMPARE(QGuiApplication::palette().color(QPalette::Window), QColor(Qt::blue));
+}
+
+void TestTheme::changeOfTheSystemLeavesAJobsBarAlone()
+{
+    const WindowOnPc driver;
+    driver.bar()->show();
+    driver.get<QLabel>(u"lblStatus"_s)->setText(u"under way"_s);
+    ChangingSystem::tell(driver);
+    QVERIFY(driver.bar()->isVisible());
+    QCOMPARE(driver.status(), u"under way"_s);
+    QCOMPARE(driver.window().currentPage(), 0);
 }
 
 KESTRUNE_WINDOW_SUITE(TestTheme)

@@ -4,6 +4,7 @@
 #include "journal/journaling.h"
 #include "machine/database.h"
 #include "platform/windowsfacts.h"
+#include "support/accessibletree.h"
 #include "support/boxes.h"
 #include "support/featuresview.h"
 #include "support/registryvalues.h"
@@ -233,6 +234,7 @@ private Q_SLOTS:
     void lookingAroundIsNoBrokenOffJob();
     void sessionsOfOthersSayWhose();
     void theKeyboardReachesEverything();
+    void everythingHasAName();
     void everyLanguageHasLettersOfItsOwn_data();
     void everyLanguageHasLettersOfItsOwn();
 };
@@ -751,6 +753,19 @@ void TestWayBack::theKeyboardReachesEverything()
     dialog.changes()->setCurrentIndex(dialog.row(alphaStart));
     QTest::keyClick(dialog.changes(), Qt::Key_Space);
     QCOMPARE(dialog.isChecked(alphaStart).toInt(), int(Qt::Unchecked));
+}
+
+void TestWayBack::everythingHasAName()
+{
+    const ServicesPc machine;
+    const Journaled pc(machine);
+    const WindowDriver driver;
+    QVERIFY(disable(driver, {u"Alpha"_s}));
+    const Dialog dialog(driver);
+    dialog.get<QLineEdit>(u"edtSearch"_s)->setText(u"Alpha"_s);
+    dialog.get<QProgressBar>(u"pgrWayBack"_s)->show();
+    QVERIFY(dialog.changes()->model()->rowCount() > 0);
+    QCOMPARE(unnamedIn(&*dialog).join(u'\n'), QString());
 }
 
 void TestWayBack::everyLanguageHasLettersOfItsOwn_data()
