@@ -18,5 +18,6 @@ constexpr IMAGE_LOAD_CONFIG_DIRECTORY64 configuration()
 
 // Nothing refers to it: the linker is told to keep it by this name.
 extern "C" {
-[[gnu::section(".ldcfg")]] extern constexpr IMAGE_LOAD_CONFIG_DIRECTORY64 kestruneLoadConfiguration = configuration();
+extern const IMAGE_LOAD_CONFIG_DIRECTORY64 kestruneLoadConfiguration;
+[[gnu::section(".ldcfg")]] constexpr IMAGE_LOAD_CONFIG_DIRECTORY64 kestruneLoadConfiguration = configuration();
 }

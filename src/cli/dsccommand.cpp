@@ -96,7 +96,7 @@ QJsonObject actualInstance(const QJsonObject &desired, const QList<Aim> &aims)
         if (!desired.contains(group))
             continue;
         QJsonArray names;
-        for (const QJsonValue &name : desired.value(group).toArray()) {
+        for (const QJsonValue name : desired.value(group).toArray()) {
             if (isOff(aims, group, name.toString()))
                 names.append(name);
         }

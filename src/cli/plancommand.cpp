@@ -77,7 +77,7 @@ QJsonArray plannedItems(const QByteArray &applied, QJsonObject &counts)
 {
     QJsonArray planned;
     const QJsonArray items = QJsonDocument::fromJson(applied).object().value("items"_L1).toArray();
-    for (const QJsonValue &each : items) {
+    for (const QJsonValue each : items) {
         QJsonObject item = each.toObject();
         if (item.value("changed"_L1).toBool())
             item.insert(u"state"_s, u"would-change"_s);
@@ -99,7 +99,7 @@ QJsonArray lostItems(const QByteArray &applied, const QString &copy, const QStri
         return {};
     const QByteArray undone = runOnCopy({u"undo"_s, u"--session"_s, QString::number(session)}, copy, report);
     QJsonArray lost;
-    for (const QJsonValue &each : QJsonDocument::fromJson(undone).object().value("items"_L1).toArray()) {
+    for (const QJsonValue each : QJsonDocument::fromJson(undone).object().value("items"_L1).toArray()) {
         const QJsonObject item = each.toObject();
         if (item.value("verdict"_L1) != "as it was"_L1)
             lost.append(QJsonObject{{u"what"_s, item.value("what"_L1)}, {u"why"_s, item.value("why"_L1)}});
@@ -118,7 +118,7 @@ QString thingOf(const QString &group)
 QString planText(const QJsonArray &items, const QJsonObject &counts, const QJsonArray &lost)
 {
     QString text;
-    for (const QJsonValue &each : items) {
+    for (const QJsonValue each : items) {
         const QString state = each["state"_L1].toString();
         if (!state.startsWith("would"_L1))
             continue;
@@ -131,7 +131,7 @@ QString planText(const QJsonArray &items, const QJsonObject &counts, const QJson
         std::transform(columns.cbegin(), columns.cend(), columns.begin(), printable);
         text += columns.join(u'\t') + u'\n';
     }
-    for (const QJsonValue &each : lost) {
+    for (const QJsonValue each : lost) {
         text += u"wouldn't come back\t%1\t%2\n"_s.arg(printable(each["what"_L1].toString()),
                                                       printable(each["why"_L1].toString()));
     }

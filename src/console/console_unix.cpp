@@ -19,9 +19,11 @@ const pid_t starter = getppid();
 std::atomic<int> received = 0; // the number of the signal
 static_assert(std::atomic<int>::is_always_lock_free);
 
-extern "C" void noteSignal(int number)
+extern "C" {
+static void noteSignal(int number)
 {
     received = number;
+}
 }
 
 /** Past the C library, which may wait at the end of the process for whoever reads. */

@@ -35,7 +35,7 @@ class Database
 
     private:
         std::recursive_mutex &lock_;
-        int cancelState_ = 0;
+        [[maybe_unused]] int cancelState_ = 0; // of threads that can be cancelled, as Unix has them
     };
 
 public:

@@ -211,6 +211,12 @@ PreviewSides sidesBy(QString (*text)(const PreviewItem &, Side), const PreviewIt
     return sides;
 }
 
+/** Where a lost application can be had again. */
+QString inTheStore(const PreviewItem &item)
+{
+    return item.store.isEmpty() ? QString() : u"It is in the Store: "_s + item.store;
+}
+
 } // namespace
 
 std::span<const RestorabilityTexts> allRestorabilities(PreviewWay way)
@@ -247,12 +253,6 @@ StepNames stepNames(PreviewWay way)
 {
     return way == PreviewWay::OptimizeAndRestore ? StepNames{"Optimize"_L1, "Restore"_L1}
                                                  : StepNames{"Apply"_L1, "Undo"_L1};
-}
-
-/** Where a lost application can be had again. */
-QString inTheStore(const PreviewItem &item)
-{
-    return item.store.isEmpty() ? QString() : u"It is in the Store: "_s + item.store;
 }
 
 QString whyOf(const PreviewItem &item, PreviewWay way)

@@ -120,7 +120,7 @@ qsizetype countOf(const QJsonObject &plan, QLatin1StringView state, QLatin1Strin
 QStringList notBack(const TriedPc &pc)
 {
     QStringList names;
-    for (const QJsonValue &each : pc.plan.value("notBack"_L1).toArray())
+    for (const QJsonValue each : pc.plan.value("notBack"_L1).toArray())
         names.append(each["what"_L1].toString());
     return names;
 }

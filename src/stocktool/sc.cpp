@@ -156,7 +156,7 @@ QByteArray scFailure(ServiceError error, QLatin1StringView step)
 {
     return u"[SC] %1 FAILED %2:\r\n\r\n%3\r\n\r\n"_s.arg(step)
         .arg(static_cast<int>(error))
-        .arg(find(messages, error))
+        .arg(find(messages, static_cast<quint32>(error)))
         .toUtf8();
 }
 

@@ -63,7 +63,7 @@ public:
     /** @param rights as icacls grants them; empty: those that the folder hands down. */
     void setRights(const QString &path, const QString &rights);
     void setOwner(const QString &path, const QString &owner);
-    /** @param rights as a security descriptor in words */
+    /** @param descriptor as a security descriptor in words */
     void restoreRights(const QString &path, const QString &descriptor);
 
     void switchHibernation(bool on);

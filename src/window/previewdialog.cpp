@@ -360,7 +360,7 @@ void PreviewDialog::show(const QJsonObject &preview)
         told.append(Kestrune::tr(row.count).arg(counts.value(row.word).toInt()));
     counts_->setText(Kestrune::tr("What the next Optimize would change, and what the Restore button would bring back:")
                      + u'\n' + told.join(", "_L1) + u'.');
-    for (const QJsonValue &item : preview.value("items"_L1).toArray())
+    for (const QJsonValue item : preview.value("items"_L1).toArray())
         addItem(groupOf(item["group"_L1].toString()), item.toObject());
     for (int i = 0; i < items_->topLevelItemCount(); ++i) {
         QTreeWidgetItem *group = items_->topLevelItem(i);
@@ -405,7 +405,7 @@ void PreviewDialog::addItem(QTreeWidgetItem *group, const QJsonObject &item)
     auto *row = new QTreeWidgetItem(group, {itemTitle(item)});
     row->setData(What, explanationRole, explanationOf(item, window_->currentLang.startsWith("en"_L1)));
     setSides(row, item);
-    for (const QJsonValue &each : item.value("details"_L1).toArray()) {
+    for (const QJsonValue each : item.value("details"_L1).toArray()) {
         auto *detail = new QTreeWidgetItem(row, {titleText(each["what"_L1].toString())});
         detail->setData(What, explanationRole, each["place"_L1].toString());
         setSides(detail, each.toObject());

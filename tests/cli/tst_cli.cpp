@@ -99,7 +99,7 @@ private:
 QSet<QString> changedItems(const QJsonObject &document)
 {
     QSet<QString> names;
-    for (const QJsonValue &item : document.value("items"_L1).toArray()) {
+    for (const QJsonValue item : document.value("items"_L1).toArray()) {
         if (item["changed"_L1].toBool() || item["state"_L1] == "would-change"_L1)
             names.insert(item["group"_L1].toString() + u'/' + item["name"_L1].toString().toLower());
     }
@@ -134,7 +134,7 @@ QSet<QString> changedThings(Machine &before, Machine &now)
 QSet<QString> byTitles(const QJsonObject &document)
 {
     QSet<QString> names;
-    for (const QJsonValue &item : document.value("items"_L1).toArray()) {
+    for (const QJsonValue item : document.value("items"_L1).toArray()) {
         if (!item["changed"_L1].toBool())
             continue;
         const QString group = item["group"_L1].toString();
@@ -332,7 +332,7 @@ void TestCli::planIsWhatApplyDoesAndDiffFinds()
 }
 
 /** What a page counts as coming back in some way: "exactly", "otherwise". */
-int countOnPage(const QByteArray &page, const QByteArray &verdict)
+static int countOnPage(const QByteArray &page, const QByteArray &verdict)
 {
     const QByteArray mark = "data-count=\"" + verdict + "\">";
     const qsizetype at = page.indexOf(mark);
@@ -543,7 +543,7 @@ void TestCli::theWalkWantsAYes()
     QCOMPARE(pc.differences().join(u'\n'), QString());
     const QJsonObject applied = pc.json({u"apply"_s, u"--yes"_s, u"--profile"_s, file});
     bool isTold = false;
-    for (const QJsonValue &item : applied.value("items"_L1).toArray())
+    for (const QJsonValue item : applied.value("items"_L1).toArray())
         isTold = isTold || item["why"_L1].toString().startsWith("the walk over all files came to its end"_L1);
     QVERIFY(isTold);
     QVERIFY(!pc.differences().filter(u"attribute C:"_s).isEmpty());
@@ -673,13 +673,13 @@ void TestCli::completionsHaveEachCommandAndOption()
     QCOMPARE(commands, 8);
 }
 
-QJsonObject instanceOf(const Ended &ended)
+static QJsonObject instanceOf(const Ended &ended)
 {
     return QJsonDocument::fromJson(ended.output).object();
 }
 
 /** What the resource answers for a machine when it is given an instance. */
-Ended dscOf(const char *verb, const QString &machine, const QByteArray &instance)
+static Ended dscOf(const char *verb, const QString &machine, const QByteArray &instance)
 {
     return runProgram(builtProgram(u"kestrune-cli"_s), {u"dsc"_s, QString::fromLatin1(verb), u"--machine"_s, machine},
                       {}, instance);

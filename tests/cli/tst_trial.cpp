@@ -84,7 +84,7 @@ void TestTrial::nothingIsChanged()
     WorkThread worker;
     setWindowsName(worker);
     for (const TweakBox &box : tweakBoxes()) {
-        for (const quint8 apply : {0, 1})
+        for (const quint8 apply : {quint8(0), quint8(1)})
             tried(pc, [&] { (worker.*box.tweak)(apply, box.id); });
     }
     const auto before = Machine::open(place.filePath(u"before"_s));

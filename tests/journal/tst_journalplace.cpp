@@ -307,8 +307,8 @@ void TestJournalPlace::policiesOfTwoNamesAreNotedByOne()
     QCOMPARE(journal.commonPath(policiesOf32 + u"Other"_s), policiesOf32 + u"Other"_s);
     {
         const ChangeSession session(u"Tweaks"_s);
-        for (const QString &key : {policiesOf32, policies})
-            platform().openKey(key + u"\\Vendor"_s)->setValue(u"value"_s, 1);
+        for (const QString &each : {policiesOf32, policies})
+            platform().openKey(each + u"\\Vendor"_s)->setValue(u"value"_s, 1);
     }
     int values = 0;
     for (const TakenItem &item : planWayBack(journal, {})) {

@@ -185,16 +185,19 @@ void TestPreview::taskTellsWhatItIsFor()
 {
     const QString document = u"<Task><RegistrationInfo><Description>%1</Description></RegistrationInfo>"
                              "<Settings><Enabled>%2</Enabled></Settings></Task>"_s;
-    for (const auto &[description, about] :
-         {std::pair{u"Cleans up"_s, u"Cleans up"_s}, {u"$(@%SystemRoot%\\x.dll,-1)"_s, QString()}}) {
+    struct Case
+    {
+        QString description, about;
+    };
+    for (const Case &task : {Case{u"Cleans up"_s, u"Cleans up"_s}, {u"$(@%SystemRoot%\\x.dll,-1)"_s, QString()}}) {
         Three three;
         three.everywhere([&](Machine &machine) {
-            machine.setTask({u"\\Vendor\\Clean"_s, document.arg(description, u"true"_s)});
+            machine.setTask({u"\\Vendor\\Clean"_s, document.arg(task.description, u"true"_s)});
         });
-        three.optimized->setTask({u"\\Vendor\\Clean"_s, document.arg(description, u"false"_s)});
+        three.optimized->setTask({u"\\Vendor\\Clean"_s, document.arg(task.description, u"false"_s)});
         const PreviewItem item = onlyItem(three.items());
         QCOMPARE(item.title, u"Clean"_s);
-        QCOMPARE(item.about, about);
+        QCOMPARE(item.about, task.about);
         QCOMPARE(item.name, u"\\Vendor\\Clean"_s);
         QCOMPARE(sidesOf(item).optimized, u"disabled"_s);
     }

@@ -294,7 +294,7 @@ void TestPreviewTrouble::fullDiskWhileCopying()
 {
     copyOf(pc_, u"as it was"_s);
     const QString page = folder_.filePath(u"full.html"_s);
-    for (const rlim_t limit : {0, 4096, 65536, 400000, 1000000}) {
+    for (const rlim_t limit : std::initializer_list<rlim_t>{0, 4096, 65536, 400000, 1000000}) {
         Preview preview(pc_, {u"--html"_s, page}, [limit] { limitFiles(limit); });
         const int code = preview.end();
         // Without a byte to write not even the machine's own database opens, which needs a file beside it.

@@ -201,7 +201,7 @@ void TestRehearseUndo::writesJson()
     QCOMPARE(rehearse({u"undo"_s, machine.folder(), u"--json"_s, file}).exitCode, done);
     const QJsonArray items = QJsonDocument::fromJson(readFile(file))[u"items"_s].toArray();
     QVERIFY(!items.isEmpty());
-    for (const QJsonValue &item : items)
+    for (const QJsonValue item : items)
         QCOMPARE(item[u"verdict"_s].toString(), u"as it was"_s);
 }
 

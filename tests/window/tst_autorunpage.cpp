@@ -295,7 +295,7 @@ void TestAutorunPage::secondViewHasItsTexts()
 
 void TestAutorunPage::secondViewListsTheRecords_data()
 {
-    addColumns<QString, QString, QString>("value", "command", "path");
+    addColumns<QString, QString, QString>("value", "shown", "path");
     const auto row = [](const char *title, const QString &value, const QString &shown, const QString &path) {
         QTest::newRow(title) << value << shown << path;
     };
@@ -313,14 +313,14 @@ void TestAutorunPage::secondViewListsTheRecords_data()
 void TestAutorunPage::secondViewListsTheRecords()
 {
     QFETCH(const QString, value);
-    QFETCH(const QString, command);
+    QFETCH(const QString, shown);
     QFETCH(const QString, path);
     TestMachine machine;
     machine.write(autorunRecordsKey, u"My app"_s, value);
     machine.write(autorunRecordsKey, QString(), u"unnamed"_s);
     const AutorunPage driver;
     driver.click(viewButton);
-    QCOMPARE(rows(driver), (QList<QStringList>{{u"My app"_s, command, path, command}}));
+    QCOMPARE(rows(driver), (QList<QStringList>{{u"My app"_s, shown, path, shown}}));
     QCOMPARE(driver.checkedIn(table), QStringList{u"My app"_s});
     QCOMPARE(driver.status(), u"Auto started programs disabled: 1  "_s);
 }

@@ -78,7 +78,7 @@ public:
     explicit Look(const WindowDriver &driver)
         : driver_(driver)
     {
-        each<QLabel>([this](const QLabel *label) { return labelFits(label); });
+        each<QLabel>([](const QLabel *label) { return labelFits(label); });
         each<QCheckBox>([](const QCheckBox *box) { return fits(box->sizeHint(), box); });
         each<QPushButton>([](const QPushButton *button) { return buttonFits(button); });
         each<QComboBox>([](const QComboBox *box) { return boxFits(box); });

@@ -194,7 +194,7 @@ QStringList rowTexts(const char *texts)
 struct Place
 {
     int row = -1, column = -1, rows = 0, columns = 0;
-    friend bool operator==(const Place &, const Place &) = default;
+    bool operator==(const Place &) const = default;
 };
 
 Place placeOf(QGridLayout &grid, int index)

@@ -74,7 +74,8 @@ double lightOf(double channel)
 
 double lightOf(const QColor &color)
 {
-    return 0.2126 * lightOf(color.redF()) + 0.7152 * lightOf(color.greenF()) + 0.0722 * lightOf(color.blueF());
+    const auto light = [](float channel) { return lightOf(static_cast<double>(channel)); };
+    return 0.2126 * light(color.redF()) + 0.7152 * light(color.greenF()) + 0.0722 * light(color.blueF());
 }
 
 /** From 1 to 21, as the guidelines for accessible content have it. */
