@@ -19,6 +19,8 @@ target_compile_definitions(kestrune_options INTERFACE
 
 if(MSVC)
     target_compile_options(kestrune_options INTERFACE /W4 /WX /utf-8 /permissive-)
+    # It warns of the standard library's getenv() and the like, and knows others that nobody else has.
+    target_compile_definitions(kestrune_options INTERFACE _CRT_SECURE_NO_WARNINGS)
 else()
     target_compile_options(kestrune_options INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror

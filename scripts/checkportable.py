@@ -2,9 +2,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Looks through the sources for what another compiler on Windows doesn't take: checkportable.py [--self-check].
 
-What the compilers here refuse themselves isn't looked for: extensions of the language, designated initializers in another
-order, narrowing.
+What the compilers here refuse themselves isn't looked for: extensions of the language, narrowing, shadowed names,
+designated initializers in another order. What GCC's headers for Windows have and Microsoft's haven't is.
 """
+import os
 import pathlib
 import re
 import sys
@@ -13,18 +14,33 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 LONGEST_LITERAL = 16380  # bytes
 LONGEST_JOINED = 65535  # bytes, of literals that stand one after another
 LONGEST_OBJECT = 200  # characters of a path below the build folder; with that folder's they may be 250
+LONGEST_NAME = 160  # characters of a path below the folder of the sources; with that folder's they may be 259
+LONGEST_CHAIN = 100  # of "else if" in a function: each is a block in the one before, and 128 are taken
 
-# What only one family of compilers has, and why it is refused.
+# What only one family of compilers has, or only its headers, and why it is refused.
 REFUSED = [
-    (r"__attribute__\s*\(", "an attribute of its own: use [[...]]"),
-    (r"__builtin_\w+", "a built-in function of one compiler"),
+    (r"\b__(?!FILE__|LINE__|func__|VA_ARGS__|VA_OPT__|has_include|cpp_|uuidof|declspec)[A-Za-z]\w*",
+     "a compiler's own name: attributes are written [[...]], and features asked for by __cpp_..."),
     (r"#\s*pragma\s+(GCC|clang)\b", "a pragma of one compiler"),
-    (r"\bssize_t\b", "no type on Windows: use qsizetype or qint64"),
-    (r"#\s*include\s+<(unistd|strings|dlfcn|pwd|dirent|sys/(?!stat|types|timeb|utime)\w+)\.h>", "a header of Unix"),
-    (r"(?<![\w.:])(strcasecmp|strdup|snprintf_l|getline|usleep)\s*\(", "a function of Unix"),
+    (r"\b(ssize_t|pid_t|mode_t|u_int\d+_t)\b", "no type on Windows: use qsizetype or qint64"),
+    (r"\bM_[A-Z]\w+", "no constant on Windows: use std::numbers"),
+    (r"#\s*include\s+<(unistd|strings|dlfcn|pwd|dirent|pthread|getopt|libgen|sys/(?!stat|types|timeb|utime)\w+)\.h>",
+     "a header of Unix"),
+    (r"(?<![\w.:>])(strn?casecmp|strn?dup|snprintf_l|v?asprintf|getline|usleep|nanosleep|getpid|isatty|fileno|unlink"
+     r"|realpath|basename|gettimeofday|clock_gettime|(local|gm)time_r|strtok_r|(un)?setenv|mkstemp|ftruncate|fsync"
+     r"|alloca)\s*\(",
+     "a function of Unix"),
+    (r"\b(TCHAR|LPC?TSTR|_T\(|TEXT\()", "its characters are those of a macro: use wchar_t"),
+    (r"\b[A-Z]\w*[a-z]A\s*\(", "takes its text in a code page: use its twin that ends in W"),
+    (r"\b(if|while) \(\([a-z]\w* = .*\)\)( \{)?$", "an assignment for a condition, which is warned of"),
 ]
+# A library that isn't told to be static may become a DLL, and a class with signals isn't exported from one.
+OF_ANY_KIND = re.compile(r"\badd_library\(\s*[^\s)]+\s+(?!STATIC|OBJECT|INTERFACE|ALIAS|UNKNOWN)")
+# What no file on Windows may be called.
+NO_NAME = re.compile(r'[<>:"|?*\\\x00-\x1f]|[. ](/|$)|(^|/)(con|prn|aux|nul|com\d|lpt\d)(\.[^/]*)?(/|$)', re.I)
 # Files that are never compiled on Windows: by their ending, and those that only the lists for Linux have.
-OF_UNIX = re.compile(r"_(posix|unix|none)\.(cpp|h)$|^(tst_interruption|tst_previewtrouble|webdriver)\.cpp$")
+OF_UNIX = re.compile(r"_(posix|unix|none)\.(cpp|h)$"
+                     r"|^(allocations|tst_interruption|tst_previewtrouble|tst_program|webdriver)\.cpp$")
 
 
 def without_comments(text):
@@ -84,8 +100,33 @@ def problems_of(name, text):
         return
     code = without_literals(without_unix(text))
     for pattern, why in REFUSED:
-        for match in re.finditer(pattern, code):
+        for match in re.finditer(pattern, code, re.M):
             yield code.count("\n", 0, match.start()) + 1, f"{match.group(0).strip()}: {why}"
+    line = 1
+    for function in re.split(r"(?<=\n})", code):
+        if function.count("else if") > LONGEST_CHAIN:
+            yield line, f"more than {LONGEST_CHAIN} times \"else if\", and 128 blocks in each other are taken"
+        line += function.count("\n")
+
+
+def name_problems(names):
+    """Names of files, paths below the folder of the sources, and what is wrong with them."""
+    seen = {}
+    for name in names:
+        other = seen.setdefault(name.lower(), name)
+        if other != name:
+            yield name, f"is the same name as {other} on Windows"
+        if NO_NAME.search(name):
+            yield name, "is no name on Windows"
+        if len(name) > LONGEST_NAME:
+            yield name, f"has a path of {len(name)} characters, and {LONGEST_NAME} are taken"
+
+
+def files():
+    """All files of the project, but for what is built."""
+    for folder, folders, names in os.walk(ROOT):
+        folders[:] = sorted(f for f in folders if f not in (".git", "build"))
+        yield from (pathlib.Path(folder, name).relative_to(ROOT) for name in sorted(names))
 
 
 def sources():
@@ -99,6 +140,9 @@ def self_check():
     """Each rule finds what it is there for, and nothing in what stands beside it."""
     bad = {
         "int x __attribute__((unused));": 1, "ssize_t n;": 1, "#include <unistd.h>": 1, "int y = __builtin_ctz(x);": 1,
+        "long n = __cplusplus;": 1, "auto p = M_PI;": 1, "int n = isatty(1);": 1, "TCHAR c;": 1,
+        "MessageBoxA(nullptr);": 1, "if ((a = f(b))) {": 1,
+        "pid_t p;": 1, "void f()\n{\n" + "else if (x) g();\n" * 101 + "}\n": 1,
         'auto t = "' + "x" * 20000 + '";': 1,
         '"' + ('x' * 9000 + '" "') * 8 + '";': 1,
     }
@@ -106,10 +150,16 @@ def self_check():
         "// ssize_t\nint a; /* __attribute__((x)) */", 'auto s = "__builtin_x ssize_t";', "auto b = c ? d : e;",
         "#ifndef Q_OS_WIN\n#include <unistd.h>\n#endif", "#ifdef Q_OS_WIN\nint w;\n#else\nssize_t n;\n#endif",
         'auto t = "' + "x" * 9000 + '" "' + "x" * 9000 + '";', "f(A{.b = 1});",
+        "while ((n = read(b)) > 0) {", "file.unlink();", "auto a = __FILE__;", "MessageBoxW(nullptr);",
+        ("void f()\n{\n" + "else if (x) g();\n" * 60 + "}\n") * 2,
     ]
     failed = [text[:60] for text, count in bad.items() if len(list(problems_of("a.cpp", text))) != count]
     failed += [text[:60] for text in good if list(problems_of("a.cpp", text))]
     failed += ["a file of Unix"] if list(problems_of("a_posix.cpp", "ssize_t n;")) else []
+    names = ["a/b.cpp", "a/B.cpp", "a:b", "a/con.txt", "dots./a", "a" * 200, "context/a.con", ".ci/run"]
+    failed += [] if len(list(name_problems(names))) == 5 else ["names of files"]
+    failed += [] if OF_ANY_KIND.search("add_library(a\n    a.cpp)") else ["a library of any kind"]
+    failed += ["a static library"] if OF_ANY_KIND.search("add_library(a STATIC a.cpp)") else []
     for text in failed:
         print(f"checkportable: a rule is wrong about: {text}", file=sys.stderr)
     return not failed
@@ -128,6 +178,18 @@ def main():
         if len(str(name.parent)) + len("/CMakeFiles/.dir/.obj") + 30 + len(path.name) > LONGEST_OBJECT:
             print(f"{name}: its object would have too long a path", file=sys.stderr)
             wrong += 1
+    everything = list(files())
+    for name, why in name_problems(path.as_posix() for path in everything):
+        print(f"{name}: {why}", file=sys.stderr)
+        wrong += 1
+    for name in everything:
+        if (ROOT / name).is_symlink():
+            print(f"{name}: a link, which a checkout on Windows makes a text of", file=sys.stderr)
+            wrong += 1
+        if name.name == "CMakeLists.txt" or name.suffix == ".cmake":
+            for match in OF_ANY_KIND.finditer((ROOT / name).read_text(encoding="utf-8")):
+                print(f"{name}: {match.group(0).strip()}: say STATIC, or what it is", file=sys.stderr)
+                wrong += 1
     return 1 if wrong else 0
 
 
