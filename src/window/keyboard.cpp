@@ -100,8 +100,11 @@ void Kestrune::giveKeyboardTo(QWidget *control)
 {
     if (auto *table = qobject_cast<QTableWidget *>(control); table != nullptr && !table->currentIndex().isValid())
         beginAtFirstRow(table);
-    if (ui.scrollArea->isAncestorOf(control))
-        ui.scrollArea->ensureWidgetVisible(control);
+    // The page itself scrolls, too, where the screen is smaller than the form.
+    for (QWidget *above = control->parentWidget(); above != nullptr; above = above->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(above))
+            area->ensureWidgetVisible(control);
+    }
     control->setFocus(Qt::ShortcutFocusReason);
 }
 

@@ -71,7 +71,10 @@ void Kestrune::growForm()
     widgets.removeIf([](const QWidget *widget) {
         return widget->objectName().isEmpty() || widget->objectName().startsWith("qt_"_L1);
     });
-    for (const auto &[widget, size] : ownFontSizes(widgets)) {
+    const auto sizes = ownFontSizes(widgets);
+    // All others take that of the window, also where a style sheet keeps the application's from them.
+    setFont(QApplication::font());
+    for (const auto &[widget, size] : sizes) {
         QFont font = widget->font();
         font.setPointSizeF(size * textScale());
         widget->setFont(font);

@@ -22,6 +22,8 @@
 #include <QTextBrowser>
 #include <QTranslator>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -235,6 +237,8 @@ private Q_SLOTS:
     void init() { useStandInFonts(); } // which the window lets grow
     void everyTextFits_data();
     void everyTextFits();
+    void everyTextGrows_data();
+    void everyTextGrows();
     void theWayBackFits_data() { languages(); }
     void theWayBackFits();
     void theKeepListFits_data() { languages(); }
@@ -280,6 +284,51 @@ void TestFit::everyTextFits()
     showOtherTexts(driver, page);
     misfits += misfitsOf(driver);
     QVERIFY2(misfits.isEmpty(), qPrintable(misfits.join(u'\n')));
+}
+
+void TestFit::everyTextGrows_data()
+{
+    QTest::addColumn<QString>("theme");
+    for (const QString &theme : {u"light"_s, u"dark"_s, u"system"_s})
+        QTest::newRow(qPrintable(theme)) << theme;
+}
+
+/** A text that stays small fits as well. */
+void TestFit::everyTextGrows()
+{
+    QFETCH(const QString, theme);
+    const auto sizesAt = [&](int scale) {
+        useStandInFonts();
+        TestMachine pc;
+        pc.write(settingsKey, u"lang"_s, u"en"_s);
+        pc.write(settingsKey, u"palette"_s, theme);
+        setTextScale(pc, scale);
+        const WindowDriver driver;
+        QMap<QString, double> sizes;
+        for (int page = 0; page < pageCount; ++page) {
+            driver.window().showPage(page);
+            if (!QTest::qWaitFor([&] { return !driver.worker().isRunning(); }, patience))
+                qFatal("the page isn't listed");
+            for (const QWidget *widget : driver.window().findChildren<QWidget *>()) {
+                if (widget->isVisible() && !widget->objectName().isEmpty())
+                    sizes.insert(widget->objectName(), widget->font().pointSizeF());
+            }
+        }
+        return sizes;
+    };
+    const QMap<QString, double> usual = sizesAt(100);
+    const QMap<QString, double> large = sizesAt(200);
+    QStringList small;
+    int compared = 0;
+    for (auto each = usual.cbegin(); each != usual.cend(); ++each) {
+        if (!large.contains(each.key())) // the bar, and what waits for a job's last line
+            continue;
+        ++compared;
+        if (std::abs(large.value(each.key()) - 2 * each.value()) > 0.5)
+            small.append(u"%1: %2, %3"_s.arg(each.key()).arg(each.value()).arg(large.value(each.key())));
+    }
+    QCOMPARE(small.join(u'\n'), QString());
+    QVERIFY(compared > 100);
 }
 
 void TestFit::languages()
