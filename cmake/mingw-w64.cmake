@@ -5,8 +5,19 @@
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
-set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
-set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+option(KESTRUNE_MINGW_CLANG "Compile by clang, with the headers and libraries of GCC's" OFF)
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES KESTRUNE_MINGW_CLANG)
+if(KESTRUNE_MINGW_CLANG)
+    set(CMAKE_C_COMPILER clang)
+    set(CMAKE_CXX_COMPILER clang++)
+    set(CMAKE_C_COMPILER_TARGET x86_64-w64-mingw32)
+    set(CMAKE_CXX_COMPILER_TARGET x86_64-w64-mingw32)
+    # GCC links what threads need by itself, and its library keeps what is each thread's own by functions.
+    set(threads_as_gcc " -pthread -femulated-tls")
+else()
+    set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
+    set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+endif()
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 
 set(KESTRUNE_MINGW_LIBRARIES "/opt/qt-mingw;/opt/sqlite-mingw;/opt/minizip-mingw" CACHE STRING
@@ -28,8 +39,8 @@ set(QT_HOST_PATH_CMAKE_DIR /usr/lib/x86_64-linux-gnu/cmake CACHE PATH "Where the
 string(CONCAT same_bytes "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=./build "
     "-Werror=date-time")
 # Functions with buffers notice when they are written over.
-set(CMAKE_C_FLAGS_INIT "${same_bytes} -fstack-protector-strong")
-set(CMAKE_CXX_FLAGS_INIT "${same_bytes} -fstack-protector-strong")
+set(CMAKE_C_FLAGS_INIT "${same_bytes} -fstack-protector-strong${threads_as_gcc}")
+set(CMAKE_CXX_FLAGS_INIT "${same_bytes} -fstack-protector-strong${threads_as_gcc}")
 # Windows may put the program anywhere in memory, and runs nothing that isn't code.
 string(CONCAT linking "-static -fstack-protector-strong -Wl,--no-insert-timestamp "
     "-Wl,--dynamicbase,--high-entropy-va,--nxcompat")

@@ -17,10 +17,14 @@ target_compile_definitions(kestrune_options INTERFACE
     $<$<BOOL:${WIN32}>:NOMINMAX>
 )
 
+option(KESTRUNE_CLANG_WARNINGS "Have clang warn of all that it can but for a list; its version must be one that was asked" OFF)
 if(MSVC)
     target_compile_options(kestrune_options INTERFACE /W4 /WX /utf-8 /permissive-)
     # It warns of the standard library's getenv() and the like, and knows others that nobody else has.
     target_compile_definitions(kestrune_options INTERFACE _CRT_SECURE_NO_WARNINGS)
+elseif(KESTRUNE_CLANG_WARNINGS)
+    include(cmake/clangwarnings.cmake)
+    target_compile_options(kestrune_options INTERFACE ${kestrune_clang_warnings} -Werror)
 else()
     target_compile_options(kestrune_options INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror

@@ -11,6 +11,7 @@ packages_for() {
     bench) echo "libbenchmark-dev" ;;
     coverage) echo "gcovr" ;;
     fuzz) echo "clang libclang-rt-dev" ;;
+    clang) echo "clang" ;;
     format) echo "clang-format" ;;
     mutate) echo "python3" ;;
     tidy) echo "clang-tidy" ;;
@@ -26,6 +27,7 @@ reason_for() {
     schemas) echo "to hold its JSON against its schemas" ;;
     bench) echo "to measure its speed" ;;
     fuzz) echo "to try its readers with any input" ;;
+    clang) echo "to compile it by another compiler" ;;
     coverage) echo "to measure what the tests reach" ;;
     format) echo "to format the sources" ;;
     mutate) echo "to try the tests by small faults" ;;

@@ -142,6 +142,8 @@ source "$scripts/windows/rehearse.sh"
 source "$scripts/windows/pack.sh"
 
 readonly stages=(root packages qt sqlite minizip build bytes trial rehearse pack install)
+# Those that are run only where they are named
+readonly further_stages=(clang)
 stage_times=()
 
 run_stage() {
@@ -161,7 +163,7 @@ run_stage() {
 
 list_stages() {
     local stage stamp state
-    for stage in "${stages[@]}"; do
+    for stage in "${stages[@]}" "${further_stages[@]}"; do
         stamp=$("${stage}_stamp")
         state=missing
         [[ -n $stamp ]] || state='run each time'
@@ -229,7 +231,7 @@ main() {
     local stage wanted=("$@") begin=$SECONDS
     ((${#wanted[@]})) || wanted=("${stages[@]}")
     for stage in "${wanted[@]}"; do
-        [[ " ${stages[*]} " == *" $stage "* ]] || { usage >&2; fail "no such stage: $stage"; }
+        [[ " ${stages[*]} ${further_stages[*]} " == *" $stage "* ]] || { usage >&2; fail "no such stage: $stage"; }
     done
     find_epoch
     exec 9>"$cache/lock"

@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Functions are called by their names, variables are those of the sourcing script, which has set -e:
 # shellcheck shell=bash disable=SC2317,SC2154,SC2034,SC2164
-# The stages "build" and "bytes": the programs, and whether they come out the same again. Sourced by scripts/windows.sh.
+# The stages "build", "bytes" and "clang": the programs, whether they come out the same again, and what another compiler
+# says of their sources. Sourced by scripts/windows.sh.
 
 # What is packed; the tests are built beside them.
 readonly programs=(kestrune kestrune-cli kestrune-rehearsal kestrune-rehearse kestrune-stocktool)
@@ -20,13 +21,9 @@ build_make() {
 inside_build_programs() {
     export CCACHE_DIR=$inside_making/ccache CCACHE_MAXSIZE=2G
     export CCACHE_DEPEND=1 CCACHE_SLOPPINESS=pch_defines,time_macros # as in ./dev
-    # What the toolchain says of the compiler is taken in once, by a fresh start.
-    if ! cmp -s "$inside_source/cmake/mingw-w64.cmake" "$inside_build/.toolchain"; then
-        configure "$inside_source" "$inside_build" --fresh
-        cp "$inside_source/cmake/mingw-w64.cmake" "$inside_build/.toolchain"
-    fi
+    take_toolchain windows "$inside_build"
     [[ -e $inside_build/build.ninja && ${KESTRUNE_WEB_HOST:-$(web_host)} == "$(web_host)" ]] ||
-        configure "$inside_source" "$inside_build"
+        configure windows "$inside_source" "$inside_build"
     cmake --build "$inside_build" --parallel "$jobs" --target "${programs[@]}" wine_tests
     local program
     for program in "${programs[@]}"; do
@@ -35,9 +32,16 @@ inside_build_programs() {
     done
 }
 
-# configure SOURCES FOLDER [OPTION…]
+# take_toolchain PRESET FOLDER: what the toolchain says of the compiler is taken in once, by a fresh start.
+take_toolchain() {
+    ! cmp -s "$inside_source/cmake/mingw-w64.cmake" "$2/.toolchain" || return 0
+    configure "$1" "$inside_source" "$2" --fresh
+    cp "$inside_source/cmake/mingw-w64.cmake" "$2/.toolchain"
+}
+
+# configure PRESET SOURCES FOLDER [OPTION…]
 configure() {
-    (cd "$1" && cmake --preset windows -B "$2" ${KESTRUNE_WEB_HOST:+"-DKESTRUNE_WEB_HOST=$KESTRUNE_WEB_HOST"} "${@:3}") >"$inside_making/configure.log" 2>&1 ||
+    (cd "$2" && cmake --preset "$1" -B "$3" ${KESTRUNE_WEB_HOST:+"-DKESTRUNE_WEB_HOST=$KESTRUNE_WEB_HOST"} "${@:4}") >"$inside_making/configure.log" 2>&1 ||
         { tail -n 30 "$inside_making/configure.log" >&2; fail "could not be configured"; }
 }
 
@@ -98,7 +102,7 @@ inside_check_bytes() {
     mkdir -p "$again/sources-elsewhere"
     tar -C "$inside_source" --exclude=./build --exclude=./.git -cf - . | tar -C "$again/sources-elsewhere" -xf -
     export CCACHE_DISABLE=1
-    configure "$again/sources-elsewhere" "$again/out" -DKESTRUNE_TESTS=OFF
+    configure windows "$again/sources-elsewhere" "$again/out" -DKESTRUNE_TESTS=OFF
     cmake --build "$again/out" --parallel "$jobs" --target "${programs[@]}" >"$inside_making/again.log" 2>&1 ||
         { tail -n 30 "$inside_making/again.log" >&2; fail "could not be built again"; }
     for program in "${programs[@]}"; do
@@ -109,4 +113,33 @@ inside_check_bytes() {
         done
     done
     rm -rf "$again"
+}
+
+# --- clang -----------------------------------------------------------------------------------------------------------
+
+# ninja itself knows what is out of date.
+clang_key() { echo always; }
+clang_stamp() { :; }
+clang_says() { echo "all sources for Windows by clang, with all of its warnings; some 15 minutes on two cores from nothing"; }
+clang_make() {
+    in_root inside_clang_packages
+    in_root --caller inside_build_by_clang
+}
+
+# Nothing else needs clang, so it isn't among the root's packages.
+inside_clang_packages() {
+    ! command -v clang++ >/dev/null || return 0
+    say "installs clang in the root"
+    apt-get update -qq
+    apt-get install -qq -y --no-install-recommends clang >"$inside_making/packages.log" 2>&1 ||
+        { tail -n 20 "$inside_making/packages.log" >&2; fail "apt-get failed"; }
+    apt-get clean
+}
+
+inside_build_by_clang() {
+    local folder=$inside_build/clang
+    export CCACHE_DIR=$inside_making/ccache CCACHE_MAXSIZE=2G
+    take_toolchain windows-clang "$folder"
+    # One run tells of all warnings.
+    cmake --build "$folder" --parallel "$jobs" -- -k 0
 }
