@@ -9,6 +9,7 @@
 #include "machine/machineerror.h"
 #include "machine/seam/machineplatform.h"
 #include "machine/seam/machinesystem.h"
+#include "stocktool/machinetoolhost.h"
 #ifdef Q_OS_WIN
 #include "journal/realjournal.h"
 #include "platform/windows/processtoken.h"
@@ -69,6 +70,7 @@ void Pc::open(const Arguments &arguments)
         MachineOptions machine;
         machine.elevated = !arguments.has("not-elevated"_L1);
         machine.pace = 0;
+        machine.tools = toolsWithin();
         const QString folder = absoluteFolder(arguments.value("machine"_L1));
         Machine::open(folder); // throws where it is none; below it would be made
         if (machine.elevated && !QFileInfo(folder + u"/machine.sqlite"_s).isWritable())

@@ -13,6 +13,7 @@
 #include "preview/previewtexts.h"
 #include "rehearse/progress.h"
 #include "rehearse/subcommands.h"
+#include "stocktool/machinetoolhost.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -30,6 +31,7 @@ namespace {
 QByteArray runOnCopy(const QStringList &words, const QString &copy, const QString &report)
 {
     QProcess process;
+    carryToolsOutWithin(process);
     process.start(QCoreApplication::applicationFilePath(),
                   words + QStringList{u"--machine"_s, copy, u"--json"_s, report});
     if (!waitForEnd(process))

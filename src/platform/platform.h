@@ -77,12 +77,20 @@ struct FileAttributes
     quint32 word = 0;
 };
 
+/** What a program that has ended gave. */
+struct ProgramAnswer
+{
+    int exitCode = 0; ///< of 32 bits
+    QByteArray output{};
+};
+
 /** A program that this process may start. */
 struct AdmittedProgram
 {
     QString file;                 ///< what to start: where it lies, whatever links led there
     std::shared_ptr<void> hold{}; ///< nobody changes the file as long as this is there: keep it until the program ends
     QStringList leading{};        ///< arguments that it gets before those that it is to be started with
+    std::function<ProgramAnswer()> within{}; ///< where it is there, this is called in place of a start
 };
 
 /** What becomes of a file that is there already where one is to be written. */

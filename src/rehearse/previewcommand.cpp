@@ -8,6 +8,7 @@
 #include "preview/preview.h"
 #include "progress.h"
 #include "subcommands.h"
+#include "stocktool/machinetoolhost.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -24,6 +25,7 @@ namespace {
 bool runOnCopy(const QString &copy, const QString &job, const QStringList &options)
 {
     QProcess process;
+    carryToolsOutWithin(process);
     process.start(QCoreApplication::applicationFilePath(), QStringList{u"run"_s, copy, job} + options);
     if (!waitForEnd(process))
         throw Failure{ExitJobFailed, u"%1: %2"_s.arg(job, process.errorString())};

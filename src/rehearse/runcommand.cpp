@@ -9,6 +9,7 @@
 #include "subcommands.h"
 #include "verify/past.h"
 #include "work/windowsname.h"
+#include "stocktool/machinetoolhost.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -170,6 +171,7 @@ int runJob(const Arguments &arguments)
     MachineOptions machineOptions;
     machineOptions.elevated = !arguments.has("not-elevated"_L1);
     machineOptions.pace = parsePace(arguments);
+    machineOptions.tools = toolsWithin();
     const QList<KeepChoice> keep = parseKeep(arguments.value("keep"_L1));
 
     const QString folder = openMachineToChange(arguments.operand(0))->folder();

@@ -9,12 +9,14 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString processClass = u"Win32_Process"_s;
+constexpr const char *withinVariable = "KESTRUNE_TOOLS_WITHIN";
 const QString hiberfile = u"C:\\hiberfil.sys"_s;
 
 } // namespace
@@ -157,4 +159,29 @@ void MachineToolHost::setBootOption(const QString &name, const std::optional<QSt
 void MachineToolHost::setSecurity(const QString &file, const FileSecurity &security)
 {
     machine_.setSecurity(file, security);
+}
+
+ToolResult runToolOn(Machine &machine, const QString &name, const QStringList &arguments, bool elevated)
+{
+    MachineToolHost host(machine, elevated);
+    ToolResult result = runTool(name, host, arguments);
+    machine.logCommand(name, arguments, result.exitCode);
+    return result;
+}
+
+void carryToolsOutWithin(QProcess &process)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QString::fromLatin1(withinVariable), u"1"_s);
+    process.setProcessEnvironment(environment);
+}
+
+std::function<ProgramAnswer(Machine &, const QString &, const QStringList &, bool)> toolsWithin()
+{
+    if (!qEnvironmentVariableIsSet(withinVariable))
+        return {};
+    return [](Machine &machine, const QString &name, const QStringList &arguments, bool elevated) {
+        ToolResult result = runToolOn(machine, name, arguments, elevated);
+        return ProgramAnswer{result.exitCode, std::move(result.output)};
+    };
 }

@@ -3,7 +3,11 @@
 
 #pragma once
 
+#include "platform/platform.h"
 #include "toolhost.h"
+#include "tools.h"
+
+class QProcess;
 
 class MachineToolHost final : public ToolHost
 {
@@ -37,3 +41,15 @@ private:
     Machine &machine_;
     bool elevated_;
 };
+
+/** Answers as the tool of that name on the machine, whose log has the command then. Throws MachineError. */
+ToolResult runToolOn(Machine &machine, const QString &name, const QStringList &arguments, bool elevated);
+
+/**
+ * Has the programs that the process starts carry tools out themselves, for trials on a copy: a process for each tool
+ * takes most of the time of such a trial.
+ */
+void carryToolsOutWithin(QProcess &process);
+
+/** What carries tools out in this process; empty, unless it was started for a trial. See MachineOptions::tools. */
+std::function<ProgramAnswer(Machine &, const QString &, const QStringList &, bool)> toolsWithin();

@@ -65,12 +65,15 @@ int runOnMachine(const QString &folder, const QString &name, const QStringList &
     machine->dropExitCode(self);
 
     const std::optional<ToolFault> fault = machine->fault(name, arguments);
-    MachineToolHost host(*machine, qEnvironmentVariable("KESTRUNE_ELEVATED") != "0"_L1);
     const auto faultIsOver = [&] { return !machine->fault(name, arguments).value_or(ToolFault()).hang; };
-    const ToolResult result = fault ? runFault(*fault, faultIsOver) : runTool(name, host, arguments);
-
     // All is written down before anyone can know the end of the output.
-    machine->logCommand(name, arguments, result.exitCode);
+    ToolResult result;
+    if (fault) {
+        result = runFault(*fault, faultIsOver);
+        machine->logCommand(name, arguments, result.exitCode);
+    } else {
+        result = runToolOn(*machine, name, arguments, qEnvironmentVariable("KESTRUNE_ELEVATED") != "0"_L1);
+    }
     machine->leaveExitCode(self, result.exitCode);
     print(result.errors, stderr);
     print(result.output);

@@ -55,6 +55,7 @@ Command::~Command()
 
 void Command::discardOutput()
 {
+    discardsOutput_ = true;
     process_->setStandardOutputFile(QProcess::nullDevice());
     process_->setStandardErrorFile(QProcess::nullDevice());
 }
@@ -66,6 +67,8 @@ void Command::start(const QString &program, const QStringList &arguments)
     ended_ = false;
     timedOut_ = false;
     refused_ = false;
+    answer_.reset();
+    answered_ = false;
     exitCode_.reset();
     program_ = program;
     arguments_ = arguments;
@@ -80,6 +83,10 @@ void Command::start(const QString &program, const QStringList &arguments)
     refused_ = !admitted;
     if (refused_)
         return;
+    if (admitted->within) {
+        answer_ = admitted->within();
+        return;
+    }
     hold_ = admitted->hold;
     process_->start(admitted->file, admitted->leading + arguments, QIODevice::ReadWrite);
     // Elsewhere than on Windows a failed start shows only now.
@@ -96,37 +103,50 @@ QString Command::errorString() const
         return startError_;
     // A slice of a wait that passes is no error of the command; one that was refused is like one that refused its work.
     const bool sliceAlone = process_->error() == QProcess::Timedout && !timedOut_;
-    return sliceAlone || refused_ ? QIODevice::tr("Unknown error") : process_->errorString();
+    return sliceAlone || refused_ || answer_ ? QIODevice::tr("Unknown error") : process_->errorString();
+}
+
+bool Command::isRunning() const
+{
+    return answer_ ? !answered_ : process_->state() != QProcess::NotRunning;
 }
 
 template<typename Wait>
 void Command::waitInSlices(Wait wait)
 {
     const QDeadlineTimer deadline(timeLimit);
-    while (process_->state() != QProcess::NotRunning && !wait() && !deadline.hasExpired())
+    while (isRunning() && !wait() && !deadline.hasExpired())
         endIfInterrupted();
 }
 
 void Command::waitForFinished()
 {
+    answered_ = answer_.has_value();
     waitInSlices([this] { return process_->waitForFinished(slice); });
-    timedOut_ = process_->state() != QProcess::NotRunning;
+    timedOut_ = isRunning();
     ToolListener::hear({program_, arguments_, timedOut_ ? endedByForce : exitCode()});
 }
 
 void Command::waitForReadyRead()
 {
+    answered_ = answer_ && (answered_ || answer_->output.isEmpty());
+    if (answer_)
+        return;
     waitInSlices([this] { return process_->bytesAvailable() > 0 || process_->waitForReadyRead(slice); });
 }
 
 QByteArray Command::readAllStandardOutput()
 {
+    if (answer_)
+        return discardsOutput_ ? QByteArray() : std::exchange(answer_->output, {});
     // A command that never started has no open channel to read from.
     return process_->isOpen() ? process_->readAllStandardOutput() : QByteArray();
 }
 
 bool Command::hasEndedByItself() const
 {
+    if (answer_)
+        return answered_ && !ended_;
     return processId_ != 0 && !ended_ && process_->state() == QProcess::NotRunning
            && process_->exitStatus() == QProcess::NormalExit;
 }
@@ -137,6 +157,8 @@ int Command::exitCode() const
         return accessDenied;
     if (ended_)
         return endedByForce;
+    if (answer_)
+        return answered_ ? answer_->exitCode : 0;
     if (failedToStart_ || processId_ == 0 || process_->state() != QProcess::NotRunning)
         return 0;
     if (!exitCode_)
@@ -146,7 +168,10 @@ int Command::exitCode() const
 
 void Command::close()
 {
-    if (process_->state() != QProcess::NotRunning) {
+    if (answer_) {
+        ended_ = ended_ || !answered_;
+        answer_->output.clear();
+    } else if (isRunning()) {
         process_->kill();
         if (!process_->waitForFinished(killLimit))
             abandon();
@@ -158,9 +183,11 @@ void Command::close()
 
 bool Command::leaveRunning()
 {
-    if (process_->state() == QProcess::NotRunning)
+    if (!isRunning())
         return false;
-    abandon();
+    if (!answer_)
+        abandon();
+    answer_.reset();
     processId_ = 0;
     return true;
 }

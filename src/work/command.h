@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/platform.h"
+
 #include <QProcess>
 #include <QStringList>
 
@@ -59,6 +61,7 @@ public:
     bool leaveRunning();
 
 private:
+    bool isRunning() const;
     /** Lets go of the process without ending it. */
     void abandon();
 
@@ -70,6 +73,9 @@ private:
     QString program_;
     QStringList arguments_;
     qint64 processId_ = 0;
+    std::optional<ProgramAnswer> answer_; ///< of one that this process carries out itself, until it is left to itself
+    bool answered_ = false;               ///< whether it was waited for: until then it runs
+    bool discardsOutput_ = false;
     bool failedToStart_ = false;
     QString startError_; ///< why it failed to start
     bool ended_ = false;

@@ -40,6 +40,8 @@ constexpr QLatin1StringView executableSuffix(".exe");
 constexpr QLatin1StringView executableSuffix("");
 #endif
 
+constexpr int exitNotDone = 3; ///< of a tool that couldn't read the machine, or change it
+
 /** "sc" of "C:\Windows\System32\SC.EXE". */
 QString toolOf(const QString &program)
 {
@@ -246,12 +248,21 @@ QStringList MachinePlatform::wordsToStart(const QString &program) const
     return {machine_->folder(), toolOf(program)};
 }
 
-std::optional<AdmittedProgram> MachinePlatform::admitProgram(const QString &program, const QStringList &) const
+std::optional<AdmittedProgram> MachinePlatform::admitProgram(const QString &program,
+                                                             const QStringList &arguments) const
 {
     const QString path = withoutQuotes(program);
     if (options_.elevated && !isBareName(path) && guarded(true, [&] { return machine_->isUnsigned(path); }))
         return {};
-    return AdmittedProgram{programFile(program), {}, wordsToStart(path)};
+    AdmittedProgram admitted{programFile(program), {}, wordsToStart(path)};
+    const QString tool = toolOf(path);
+    if (options_.tools && !guarded(true, [&] { return machine_->fault(tool, arguments).has_value(); })) {
+        admitted.within = [this, tool, arguments] {
+            return guarded(ProgramAnswer{exitNotDone},
+                           [&] { return options_.tools(*machine_, tool, arguments, options_.elevated); });
+        };
+    }
+    return admitted;
 }
 
 void MachinePlatform::startFailed(const QString &program, const QString &reason) const

@@ -17,6 +17,11 @@ struct MachineOptions
     double pace = 0;          ///< pauses are slept this many times their length
     QString resourceFolder{}; ///< host path; empty: the folder of the running program
     QString stockTool{};      ///< stands for all tools; empty: kestrune-stocktool beside the running program
+    /**
+     * Carries a tool out on the machine in this process; by default each is a process of its own, as on the PC. One with
+     * a fault always is. Throws MachineError.
+     */
+    std::function<ProgramAnswer(Machine &, const QString &tool, const QStringList &arguments, bool elevated)> tools{};
     /** Starts what the shell is asked to start; by default a real process on the same machine. */
     std::function<void(const ShellStart &)> launcher{};
 };
