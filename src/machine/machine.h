@@ -6,6 +6,7 @@
 #include "machineerror.h"
 #include "registrystore.h"
 
+#include <QFileInfo>
 #include <QHash>
 #include <QJsonObject>
 #include <QMap>
@@ -199,6 +200,8 @@ public:
 
     /** Whether a link, or a link on the way to a file, leads out of the machine, given by its host path. */
     bool leadsOut(const QString &hostPath) const;
+    /** The links on the way to a file of the machine, and itself where it is one; by its host path. */
+    QFileInfoList linksOnTheWay(const QString &hostPath) const;
 
 private:
     /** A file by its folder in the machine ("drive_c") and the names below it. */

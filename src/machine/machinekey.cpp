@@ -80,10 +80,8 @@ std::optional<KeyId> MachineKey::currentGroup() const
 std::optional<RegistryValue> MachineKey::read(const QString &name) const
 {
     const RegistryPlace place = registryPlaceOf(prefix_ + normalisedName(name));
-    std::optional<KeyId> key = base();
-    if (key)
-        key = store_.find(*key, place.key);
-    return key ? store_.value(*key, place.name) : std::nullopt;
+    const std::optional<KeyId> key = base();
+    return key ? store_.value(*key, place.key, place.name) : std::nullopt;
 }
 
 QVariant MachineKey::value(const QString &name, const QVariant &fallback) const

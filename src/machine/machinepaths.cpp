@@ -10,6 +10,8 @@
 #include <QDirIterator>
 #include <QFileInfo>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -112,22 +114,25 @@ QString Machine::hostPath(const QString &windowsPath) const
     return leadsOut(path) ? outside : path;
 }
 
-bool Machine::leadsOut(const QString &hostPath) const
+QFileInfoList Machine::linksOnTheWay(const QString &hostPath) const
 {
+    QFileInfoList links;
     for (qsizetype end = folder_.size(); end >= 0;) {
         end = hostPath.indexOf(u'/', end + 1);
-        const QString path = end < 0 ? hostPath : hostPath.first(end);
-        const QFileInfo entry(path);
-        if (isLink(entry)) {
-            // One without a target might get one outside.
-            const QString target = entry.canonicalFilePath();
-            if (!target.startsWith(QFileInfo(folder_).canonicalFilePath() + u'/'))
-                return true;
-        } else if (!entry.exists()) {
-            return false;
-        }
+        // One look at each; below what isn't there, there is no link.
+        if (const QFileInfo entry(end < 0 ? hostPath : hostPath.first(end)); isLink(entry))
+            links << entry;
     }
-    return false;
+    return links;
+}
+
+bool Machine::leadsOut(const QString &hostPath) const
+{
+    const QFileInfoList links = linksOnTheWay(hostPath);
+    return std::any_of(links.begin(), links.end(), [this](const QFileInfo &link) {
+        // One without a target might get one outside.
+        return !link.canonicalFilePath().startsWith(QFileInfo(folder_).canonicalFilePath() + u'/');
+    });
 }
 
 /** Where a file lies, whatever links are on the way. */

@@ -153,12 +153,11 @@ void Machine::removeTask(const QString &path)
 std::optional<std::optional<QString>> Machine::dllString(const QString &windowsPath, uint id) const
 {
     const QString key = pathKey(windowsPath);
-    if (!database_->query("SELECT 1 FROM dll WHERE fold = ?").bind(key).next())
+    auto query = database_->query("SELECT text FROM dll LEFT JOIN dllstring "
+                                  "ON dllstring.fold = dll.fold AND dllstring.id = ? WHERE dll.fold = ?");
+    if (!query.bind(id).bind(key).next())
         return {};
-    auto query = database_->query("SELECT text FROM dllstring WHERE fold = ? AND id = ?");
-    if (!query.bind(key).bind(id).next())
-        return std::optional<QString>();
-    return query.text(0);
+    return query.isNull(0) ? std::optional<QString>() : query.text(0);
 }
 
 void Machine::setDllStrings(const QString &windowsPath, const QMap<uint, QString> &strings)

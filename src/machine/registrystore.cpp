@@ -262,10 +262,26 @@ std::optional<RegistryValue> RegistryStore::value(KeyId key, const QString &name
     return RegistryValue{query.text(0), RegistryType(quint32(query.integer(1))), query.bytes(2)};
 }
 
+std::optional<RegistryValue> RegistryStore::value(KeyId key, const QString &relativePath, const QString &name) const
+{
+    QStringList names = levels(relativePath);
+    if (names.isEmpty())
+        return value(key, name);
+    const QString last = names.takeLast();
+    const std::optional<KeyId> parent = find(key, names.join(u'\\'));
+    if (!parent)
+        return {};
+    auto query = database_.query("SELECT value.name, type, data FROM key JOIN value ON value.key = key.id "
+                                 "WHERE key.parent = ? AND key.fold = ? AND value.fold = ?");
+    if (!query.bind(*parent).bind(foldName(realName(*parent, last))).bind(foldName(name)).next())
+        return {};
+    return RegistryValue{query.text(0), RegistryType(quint32(query.integer(1))), query.bytes(2)};
+}
+
 std::optional<RegistryValue> RegistryStore::value(const QString &path, const QString &name) const
 {
-    const std::optional<KeyId> key = find(path);
-    return key ? value(*key, name) : std::nullopt;
+    const QStringList names = realLevels(path);
+    return names.isEmpty() ? std::nullopt : value(noParent, names.join(u'\\'), name);
 }
 
 void RegistryStore::setValue(KeyId key, const RegistryValue &value)

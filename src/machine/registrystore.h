@@ -65,6 +65,8 @@ public:
     /** All values at and below the key, each as its path below this key, backslashes between levels; unsorted. */
     QStringList valuePaths(KeyId key) const;
     std::optional<RegistryValue> value(KeyId key, const QString &name) const;
+    /** Of a key below another, by its path from there. */
+    std::optional<RegistryValue> value(KeyId key, const QString &relativePath, const QString &name) const;
     /** The same by the key's path; nothing where there is no such key. */
     std::optional<RegistryValue> value(const QString &path, const QString &name) const;
     /** Writes a value; where it exists it keeps the case of its name. A key that is gone takes nothing. */

@@ -205,6 +205,7 @@ private Q_SLOTS:
     void statusChangesNothing();
     void planIsWhatApplyDoesAndDiffFinds_data();
     void planIsWhatApplyDoesAndDiffFinds();
+    void toolsWithinChangeWhatToolsThatAreProcessesChange();
     void planTakesBackByTheJournal();
     void reportsTellWhatStopsWorking();
     void planLeavesWhatWasDoneBefore();
@@ -329,6 +330,29 @@ void TestCli::planIsWhatApplyDoesAndDiffFinds()
     QCOMPARE(pc.run(QStringList{u"verify"_s, u"--quiet"_s} + profile).exitCode, done);
     QCOMPARE(pc.run({u"undo"_s}).exitCode, done);
     QCOMPARE(pc.differences(), QStringList());
+}
+
+void TestCli::toolsWithinChangeWhatToolsThatAreProcessesChange()
+{
+    Pc processes(u"windows11"_s);
+    Pc within(u"windows11"_s);
+    for (Pc *pc : {&processes, &within}) {
+        if (pc == &within)
+            qputenv("KESTRUNE_TOOLS_WITHIN", "1");
+        const auto restore = qScopeGuard([] { qunsetenv("KESTRUNE_TOOLS_WITHIN"); });
+        QVERIFY(!changedItems(pc->json({u"apply"_s})).isEmpty());
+        QCOMPARE(pc->run({u"undo"_s}).exitCode, done);
+    }
+    const QByteArray commands = readFile(processes.folder() + u"/commands.log"_s);
+    QVERIFY(!commands.isEmpty());
+    QCOMPARE(readFile(within.folder() + u"/commands.log"_s), commands);
+    QCOMPARE(compareMachines(*Machine::open(processes.folder()), *Machine::open(within.folder())).size(), 0);
+    // A fault needs a process, which it may keep from ending.
+    Machine::open(within.folder())->setFault(u"sc"_s, {.exitCode = 5});
+    qputenv("KESTRUNE_TOOLS_WITHIN", "1");
+    const auto restore = qScopeGuard([] { qunsetenv("KESTRUNE_TOOLS_WITHIN"); });
+    within.run({u"apply"_s});
+    QVERIFY(readFile(within.folder() + u"/commands.log"_s).sliced(commands.size()).contains("\"exitCode\":5}"));
 }
 
 /** What a page counts as coming back in some way: "exactly", "otherwise". */

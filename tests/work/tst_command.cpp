@@ -64,6 +64,17 @@ public:
     QString programFile(const QString &program) const override { return program; }
 };
 
+/** Carries programs out itself. */
+class AnsweringPlatform : public PromisingPlatform
+{
+public:
+    std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &arguments) const override
+    {
+        return AdmittedProgram{
+            program, {}, {}, [arguments] { return ProgramAnswer{int(arguments.size()), arguments.join(u' ').toUtf8()}; }};
+    }
+};
+
 std::atomic<bool> nothingCanBeKilled = false;
 
 void forceToEnd([[maybe_unused]] qint64 process)
@@ -142,6 +153,8 @@ private Q_SLOTS:
     void aProgramThatIsLeftRunningReads0AndRunsOn();
     void aProgramThatHasEndedIsNotLeftRunning();
     void closingAProgramThatHasEndedKeepsItsExitCode();
+    void whatThePlatformCarriesOutItselfReadsLikeAProgram();
+    void whatThePlatformCarriesOutItselfIsOverWhenItWasWaitedFor();
     void theNextCommandRunsThoughTheFirstOneHangs();
     void theLastCommandsExitCodeCounts();
     void aMissingProgramAfterAFailureReads0();
@@ -429,6 +442,52 @@ void TestCommand::aProgramThatHasEndedIsNotLeftRunning()
     command.waitForFinished();
     QVERIFY(!command.leaveRunning());
     QCOMPARE(command.exitCode(), 7);
+}
+
+void TestCommand::whatThePlatformCarriesOutItselfReadsLikeAProgram()
+{
+    setPlatform(std::make_unique<AnsweringPlatform>());
+    const ToolListener listener;
+    Command command;
+    command.start(u"sc"_s, {u"query"_s, u"state="_s, u"all"_s});
+    QVERIFY(!command.failedToStart());
+    QCOMPARE(command.exitCode(), 0);
+    QVERIFY(!command.hasEndedByItself());
+    command.waitForReadyRead();
+    QCOMPARE(command.readAllStandardOutput(), QByteArray("query state= all"));
+    QCOMPARE(command.exitCode(), 0);
+    command.waitForFinished();
+    QCOMPARE(command.exitCode(), 3);
+    QVERIFY(command.hasEndedByItself());
+    QCOMPARE(command.errorString(), u"Unknown error"_s);
+    QCOMPARE(command.readAllStandardOutput(), QByteArray());
+    command.close();
+    QCOMPARE(command.exitCode(), 3);
+    QCOMPARE(listener.answers().size(), 1);
+    QCOMPARE(listener.answers().constFirst().exitCode, 3);
+
+    command.discardOutput();
+    command.start(u"sc"_s, {u"stop"_s});
+    command.waitForFinished();
+    QCOMPARE(command.readAllStandardOutput(), QByteArray());
+    QCOMPARE(command.exitCode(), 1);
+}
+
+void TestCommand::whatThePlatformCarriesOutItselfIsOverWhenItWasWaitedFor()
+{
+    setPlatform(std::make_unique<AnsweringPlatform>());
+    Command command;
+    command.start(u"sc"_s, {u"query"_s});
+    QVERIFY(command.leaveRunning());
+    QCOMPARE(command.exitCode(), 0);
+    QVERIFY(!command.leaveRunning());
+    command.start(u"sc"_s, {u"query"_s});
+    command.close();
+    QCOMPARE(command.exitCode(), Command::endedByForce);
+    QVERIFY(!command.hasEndedByItself());
+    command.start(u"sc"_s, {});
+    command.waitForReadyRead();
+    QVERIFY(command.hasEndedByItself());
 }
 
 void TestCommand::closingAProgramThatHasEndedKeepsItsExitCode()

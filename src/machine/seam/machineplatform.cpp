@@ -123,11 +123,7 @@ bool MachinePlatform::isOnFixedDrive(const QString &windowsPath) const
 {
     // All drives of a machine are built in. A file whose links are followed lies somewhere else than it says.
     const QString file = hostPath(windowsPath);
-    const QString folder = machine_->folder();
-    if (!isDrivePath(windowsPath) || !file.startsWith(folder))
-        return false;
-    const QString place = QFileInfo(folder).canonicalFilePath() + file.sliced(folder.size());
-    return QFileInfo(file).canonicalFilePath().compare(place, Qt::CaseInsensitive) == 0;
+    return isDrivePath(windowsPath) && QFileInfo::exists(file) && machine_->linksOnTheWay(file).isEmpty();
 }
 
 QString MachinePlatform::programFolder() const
