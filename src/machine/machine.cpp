@@ -47,17 +47,18 @@ void makeFolders(const QString &folder)
 }
 
 /** Looks before SQLite does, which takes an empty file for a new database. */
-void checkHeader(const QString &path)
+/**
+ * Looks at the file without opening it: closing it would take from this process what SQLite has locked of it for another
+ * machine of the same folder, and other processes would then take away what that one has still to read.
+ */
+void checkFile(const QString &path)
 {
-    QFile file(path);
-    const QString folder = QFileInfo(path).path();
-    if (!QFileInfo::exists(folder))
-        fail(folder, u"there is no such folder"_s);
+    const QFileInfo file(path);
+    if (!QFileInfo::exists(file.path()))
+        fail(file.path(), u"there is no such folder"_s);
     if (!file.exists())
-        fail(folder, u"not a rehearsal machine"_s);
-    if (!file.open(QIODevice::ReadOnly))
-        fail(path, file.errorString());
-    if (file.size() < smallestDatabase || !file.read(16).startsWith("SQLite format 3"))
+        fail(file.path(), u"not a rehearsal machine"_s);
+    if (!file.isFile() || file.size() < smallestDatabase)
         fail(path, u"damaged"_s);
 }
 
@@ -251,7 +252,7 @@ std::unique_ptr<Machine> Machine::open(const QString &folder, Origin origin)
 {
     const QString path = cleanFolder(folder);
     const QString file = databaseFile(path);
-    checkHeader(file);
+    checkFile(file);
     checkOwnFiles(path);
     auto database = std::make_unique<Database>(file);
     checkVersion(*database, file);

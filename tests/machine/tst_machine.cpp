@@ -4,6 +4,7 @@
 #include "machine/database.h"
 #include "platform/contractplatform.h"
 #include "support/files.h"
+#include "support/processes.h"
 #include "support/suite.h"
 
 #include <QDirIterator>
@@ -101,6 +102,7 @@ private Q_SLOTS:
     void keepsAttributes();
     void faultsOfToolsAndOfTheirArguments();
     void exitCodesAreTakenOnce();
+    void openingItTwiceKeepsItForOtherProcesses();
     void logsOneLineForEachCommand();
 
     void controlSetsAreOneKey();
@@ -556,6 +558,18 @@ void TestMachine::exitCodesAreTakenOnce()
     QVERIFY(!machine->takeExitCode(77));
     machine->dropExitCode(78);
     QVERIFY(!machine->takeExitCode(78));
+}
+
+/** A process lets go of all locks of a file when it closes that once, whoever in it has them. */
+void TestMachine::openingItTwiceKeepsItForOtherProcesses()
+{
+    const auto machine = Machine::create(folder());
+    QVERIFY(!machine->takeExitCode(1));
+    Machine::open(folder());
+    for (int i = 0; i < 2; ++i) {
+        const Ended tool = runProgram(stockTool(), {folder(), u"taskkill"_s, u"/im"_s, u"x.exe"_s});
+        QVERIFY(machine->takeExitCode(tool.processId));
+    }
 }
 
 void TestMachine::logsOneLineForEachCommand()
