@@ -15,6 +15,7 @@
 #else
 #include "journal/machinejournal.h"
 #include "journal/programrecords.h"
+#include "machine/seam/scriptopener.h"
 #include "pictures.h"
 #endif
 #ifndef Q_OS_WIN
@@ -61,6 +62,7 @@ bool choosePlatform()
         MachineOptions options;
         options.elevated = qEnvironmentVariable("KESTRUNE_ELEVATED", u"1"_s) != "0"_L1;
         options.pace = isForPictures() ? 0 : 1;
+        options.opener = ScriptOpener::make;
         setPlatform(openMachinePlatform(folder, options));
         settleBrokenOff();
     } catch (const MachineError &error) {

@@ -2,6 +2,8 @@
 // The rest of the seam on a rehearsal machine: walks, programs, exit codes, pauses, DLL strings and WMI.
 
 #include "contractplatform.h"
+
+#include "machine/seam/scriptopener.h"
 #include "support/files.h"
 #include "support/suite.h"
 
@@ -102,6 +104,7 @@ void TestPlatform::init()
 {
     MachineOptions options;
     options.stockTool = QCoreApplication::applicationFilePath();
+    options.opener = ScriptOpener::make;
     contract_ = std::make_unique<ContractPlatform>(options);
     temporary_ = std::make_unique<QTemporaryDir>();
     qunsetenv(recordVariable);
@@ -561,11 +564,13 @@ void TestPlatform::opensRegistryScripts()
                       "\"a\"=dword:00000004\r\r\n");
     const QString key = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Opened"_s;
     MachineOptions options;
+    options.opener = ScriptOpener::make;
     options.elevated = false;
     contract_->restart(options);
     QDesktopServices::openUrl(QUrl::fromLocalFile(script));
     QVERIFY(!contract_->hasKey(key));
-    contract_->restart({}); // the former handler goes after the new one has come
+    options.elevated = true;
+    contract_->restart(options); // the former handler goes after the new one has come
     QVERIFY(QDesktopServices::openUrl(QUrl::fromLocalFile(script)));
     QCOMPARE(contract_->readRaw(key, u"a"_s)->data, registryDWord(4));
 

@@ -4,6 +4,7 @@
 
 #include "files.h"
 
+#include "machine/seam/scriptopener.h"
 #include "machine/source/machinesource.h"
 
 #include <QCoreApplication>
@@ -59,6 +60,8 @@ void TestMachine::start(MachineOptions options)
 {
     if (!options.launcher)
         options.launcher = [starts = shellStarts_](const ShellStart &start) { starts->append(start); };
+    if (!options.opener)
+        options.opener = ScriptOpener::make;
     auto platform = std::make_unique<MachinePlatform>(folder(), std::move(options));
     platform_ = platform.get();
     setPlatform(std::move(platform));

@@ -12,7 +12,6 @@
 #include "platform/filebelow.h"
 #include "platform/programname.h"
 #include "platform/windowsfacts.h"
-#include "rehearsalprocess.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -81,7 +80,7 @@ MachinePlatform::MachinePlatform(const QString &machineFolder, MachineOptions op
     : machine_(Machine::open(machineFolder))
     , options_(std::move(options))
     , attributes_(*machine_)
-    , scriptOpener_(std::make_unique<ScriptOpener>(*machine_, options_.elevated))
+    , opener_(options_.opener ? options_.opener(*machine_, options_.elevated) : nullptr)
 {
     if (options_.resourceFolder.isEmpty())
         options_.resourceFolder = QCoreApplication::applicationDirPath();

@@ -22,19 +22,18 @@ struct MachineOptions
      * a fault always is. Throws MachineError.
      */
     std::function<ProgramAnswer(Machine &, const QString &tool, const QStringList &arguments, bool elevated)> tools{};
+    /** Makes what opens files and pages, which lives as long as the platform; by default they aren't opened in its way. */
+    std::function<std::shared_ptr<QObject>(Machine &, bool elevated)> opener{};
     /** Starts what the shell is asked to start; by default a real process on the same machine. */
     std::function<void(const ShellStart &)> launcher{};
 };
-
-class ScriptOpener;
 
 class MachinePlatform final : public Platform
 {
 public:
     /**
-     * Opens the machine, sets its environment variables in this process in every spelling that is read, and makes this
-     * program the handler of .reg files for QDesktopServices. To be made before the first thread; one for a process at
-     * a time. Throws MachineError.
+     * Opens the machine, and sets its environment variables in this process in every spelling that is read. To be made
+     * before the first thread; one for a process at a time. Throws MachineError.
      */
     MachinePlatform(const QString &machineFolder, MachineOptions options);
     ~MachinePlatform() override;
@@ -92,7 +91,7 @@ private:
     std::unique_ptr<Machine> machine_;
     MachineOptions options_;
     mutable AttributeWords attributes_;
-    std::unique_ptr<ScriptOpener> scriptOpener_;
+    std::shared_ptr<QObject> opener_;
     mutable std::mutex pausesLock_;
     mutable QList<int> pauses_;
     mutable std::mutex readingsLock_;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What opens files and pages for the window of a rehearsal.
 
-#include "rehearsalprocess.h"
+#include "scriptopener.h"
 
 #include "machine/machine.h"
 #include "machine/source/regfile.h"

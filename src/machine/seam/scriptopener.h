@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QUrl>
 
+#include <memory>
+
 class Machine;
 
 /**
@@ -21,6 +23,12 @@ public:
     ~ScriptOpener() override;
 
     /** Imports a .reg file, if elevated; all else is ignored, since no program of the host is to open it. */
+    /** For MachineOptions::opener. */
+    static std::shared_ptr<QObject> make(Machine &machine, bool elevated)
+    {
+        return std::make_shared<ScriptOpener>(machine, elevated);
+    }
+
     Q_INVOKABLE void open(const QUrl &address);
 
 private:
