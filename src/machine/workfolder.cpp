@@ -36,7 +36,11 @@ WorkFolder::WorkFolder(const QString &parent)
 
 WorkFolder::~WorkFolder()
 {
-    hold_.reset(); // before the folder goes: what is open stays on some systems
+    // While it is held: a program that starts now would take it for a leftover, and both would remove it. What is open
+    // stays on some systems until the hold is given up, and goes with the folder then.
+    if (isValid())
+        QDir(path()).removeRecursively();
+    hold_.reset();
 }
 
 /** The mark comes last: a folder with one is held, or its program is gone. One that can't be held gets none. */

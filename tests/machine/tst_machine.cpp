@@ -2,6 +2,7 @@
 // The folder of a rehearsal machine: making and opening it, its paths, what it keeps, and many writers at once.
 
 #include "machine/database.h"
+#include "machine/workfolder.h"
 #include "platform/contractplatform.h"
 #include "support/files.h"
 #include "support/processes.h"
@@ -115,6 +116,7 @@ private Q_SLOTS:
     void threadsLoseNothing();
     void tasksKeepTheirOrderAndAreFoundWithoutCase();
     void processesLoseNothing();
+    void aWorkFolderThatGoesIsNoLeftover();
 
 private:
     QString folder() const { return temporary_->filePath(u"m"_s); }
@@ -768,6 +770,24 @@ static const SuiteHelper writer([](int argc, char **argv) -> std::optional<int> 
     }
     return 0;
 });
+
+/** Two that remove the same folder are in each other's way, and what is left then nobody takes away. */
+void TestMachine::aWorkFolderThatGoesIsNoLeftover()
+{
+    const QString parent = temporary_->path();
+    std::jthread starts([&parent](const std::stop_token &stop) {
+        while (!stop.stop_requested())
+            removeLeftovers(parent);
+    });
+    for (int i = 0; i < 50; ++i) {
+        const WorkFolder work(parent);
+        QVERIFY(work.isValid());
+        for (int file = 0; file < 50; ++file)
+            writeFile(work.filePath(QString::number(file)), {});
+    }
+    starts = {};
+    QCOMPARE(QDir(parent).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
+}
 
 KESTRUNE_SUITE(TestMachine)
 #include "tst_machine.moc"
