@@ -48,8 +48,8 @@ void makeFolders(const QString &folder)
 
 /** Looks before SQLite does, which takes an empty file for a new database. */
 /**
- * Looks at the file without opening it: closing it would take from this process what SQLite has locked of it for another
- * machine of the same folder, and other processes would then take away what that one has still to read.
+ * Looks at the file without opening it: closing it would take from this process what SQLite has locked of it for
+ * another machine of the same folder, and other processes would then take away what that one has still to read.
  */
 void checkFile(const QString &path)
 {

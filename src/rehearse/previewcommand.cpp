@@ -7,8 +7,8 @@
 #include "platform/processground.h"
 #include "preview/preview.h"
 #include "progress.h"
-#include "subcommands.h"
 #include "stocktool/machinetoolhost.h"
+#include "subcommands.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -6,10 +6,10 @@
 #include "journal/machinejournal.h"
 #include "journal/programrecords.h"
 #include "progress.h"
+#include "stocktool/machinetoolhost.h"
 #include "subcommands.h"
 #include "verify/past.h"
 #include "work/windowsname.h"
-#include "stocktool/machinetoolhost.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -70,8 +70,9 @@ class AnsweringPlatform : public PromisingPlatform
 public:
     std::optional<AdmittedProgram> admitProgram(const QString &program, const QStringList &arguments) const override
     {
-        return AdmittedProgram{
-            program, {}, {}, [arguments] { return ProgramAnswer{int(arguments.size()), arguments.join(u' ').toUtf8()}; }};
+        return AdmittedProgram{program, {}, {}, [arguments] {
+                                   return ProgramAnswer{int(arguments.size()), arguments.join(u' ').toUtf8()};
+                               }};
     }
 };
 

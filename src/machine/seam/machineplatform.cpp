@@ -243,8 +243,7 @@ QStringList MachinePlatform::wordsToStart(const QString &program) const
     return {machine_->folder(), toolOf(program)};
 }
 
-std::optional<AdmittedProgram> MachinePlatform::admitProgram(const QString &program,
-                                                             const QStringList &arguments) const
+std::optional<AdmittedProgram> MachinePlatform::admitProgram(const QString &program, const QStringList &arguments) const
 {
     const QString path = withoutQuotes(program);
     if (options_.elevated && !isBareName(path) && guarded(true, [&] { return machine_->isUnsigned(path); }))

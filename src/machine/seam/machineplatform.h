@@ -18,11 +18,12 @@ struct MachineOptions
     QString resourceFolder{}; ///< host path; empty: the folder of the running program
     QString stockTool{};      ///< stands for all tools; empty: kestrune-stocktool beside the running program
     /**
-     * Carries a tool out on the machine in this process; by default each is a process of its own, as on the PC. One with
-     * a fault always is. Throws MachineError.
+     * Carries a tool out on the machine in this process; by default each is a process of its own, as on the PC. One
+     * with a fault always is. Throws MachineError.
      */
     std::function<ProgramAnswer(Machine &, const QString &tool, const QStringList &arguments, bool elevated)> tools{};
-    /** Makes what opens files and pages, which lives as long as the platform; by default they aren't opened in its way. */
+    /** Makes what opens files and pages, which lives as long as the platform; by default they aren't opened in its way.
+     */
     std::function<std::shared_ptr<QObject>(Machine &, bool elevated)> opener{};
     /** Starts what the shell is asked to start; by default a real process on the same machine. */
     std::function<void(const ShellStart &)> launcher{};
