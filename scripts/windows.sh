@@ -195,7 +195,7 @@ become_root() {
         bash "$source_folder/scripts/windows.sh" "$@"
 }
 
-# The time that packed files bear: that of the commit, whoever owns the sources
+# The time that packed files carry: that of the commit, whoever owns the sources
 find_epoch() {
     local time
     [[ -z ${SOURCE_DATE_EPOCH:-} ]] || return 0
@@ -224,7 +224,7 @@ main() {
     cache=$(cd "$cache" && pwd)
     if ((EUID != 0)) && [[ ${1:-} != list ]]; then become_root "$@"; fi
     case ${1:-} in
-        list) list_stages; return ;;
+        list) find_epoch; list_stages; return ;;
         shell) check_namespaces; in_root --caller inside_shell; return ;;
     esac
 
