@@ -17,10 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-double textScale()
-{
-    return platform().textScale() / static_cast<double>(usualTextScale);
-}
+/** As it was when the window was made: what is set in pixels later must suit what has grown then. */
+double textScale = 1;
 
 /** At least as large as that of Windows would be. */
 void growApplicationFont()
@@ -28,7 +26,7 @@ void growApplicationFont()
     constexpr double usualSize = 9; // points
 
     QFont font = QApplication::font();
-    font.setPointSizeF(std::max(font.pointSizeF(), usualSize * textScale()));
+    font.setPointSizeF(std::max(font.pointSizeF(), usualSize * textScale));
     QApplication::setFont(font);
 }
 
@@ -47,7 +45,7 @@ QList<std::pair<QWidget *, double>> ownFontSizes(const QList<QWidget *> &widgets
 
 int grown(int pixels)
 {
-    return std::min(qRound(pixels * textScale()), QWIDGETSIZE_MAX);
+    return std::min(qRound(pixels * textScale), QWIDGETSIZE_MAX);
 }
 
 QSize grown(const QSize &size)
@@ -63,7 +61,8 @@ QSize grownWindow(const QSize &size)
 
 void Kestrune::growForm()
 {
-    if (textScale() == 1.0)
+    textScale = platform().textScale() / static_cast<double>(usualTextScale);
+    if (textScale == 1.0)
         return;
     growApplicationFont();
     QList<QWidget *> widgets = findChildren<QWidget *>();
@@ -76,7 +75,7 @@ void Kestrune::growForm()
     setFont(QApplication::font());
     for (const auto &[widget, size] : sizes) {
         QFont font = widget->font();
-        font.setPointSizeF(size * textScale());
+        font.setPointSizeF(size * textScale);
         widget->setFont(font);
     }
     for (QWidget *widget : widgets) {
@@ -95,7 +94,7 @@ void Kestrune::growRichTexts()
 {
     static const QRegularExpression fontSize(u"font-size:([0-9.]+)pt"_s);
 
-    if (textScale() == 1.0)
+    if (textScale == 1.0)
         return;
     for (QTextBrowser *browser :
          {ui.txtAbout, ui.txtInfo, ui.txtGaming011, ui.txtGaming11, ui.txtGaming12, ui.txtSsd8}) {
@@ -107,7 +106,7 @@ void Kestrune::growRichTexts()
         for (auto matches = fontSize.globalMatch(html, body); matches.hasNext();) {
             const QRegularExpressionMatch match = matches.next();
             grownHtml += html.sliced(end, match.capturedStart(1) - end)
-                         + QString::number(match.capturedView(1).toDouble() * textScale());
+                         + QString::number(match.capturedView(1).toDouble() * textScale);
             end = match.capturedEnd(1);
         }
         browser->setHtml(grownHtml + html.sliced(end));

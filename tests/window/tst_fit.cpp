@@ -239,6 +239,7 @@ private Q_SLOTS:
     void everyTextFits();
     void everyTextGrows_data();
     void everyTextGrows();
+    void theSizeOfTextsIsThatOfTheStart();
     void theWayBackFits_data() { languages(); }
     void theWayBackFits();
     void theKeepListFits_data() { languages(); }
@@ -284,6 +285,17 @@ void TestFit::everyTextFits()
     showOtherTexts(driver, page);
     misfits += misfitsOf(driver);
     QVERIFY2(misfits.isEmpty(), qPrintable(misfits.join(u'\n')));
+}
+
+/** Half a window that has grown would fit nobody. */
+void TestFit::theSizeOfTextsIsThatOfTheStart()
+{
+    TestMachine pc;
+    setTextScale(pc, 150);
+    const WindowDriver driver;
+    QCOMPARE(grown(100), 150);
+    setTextScale(pc, 225);
+    QCOMPARE(grown(100), 150);
 }
 
 void TestFit::everyTextGrows_data()
