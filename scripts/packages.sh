@@ -6,6 +6,7 @@ packages_for() {
     build) echo "g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-l10n-tools libsqlite3-dev libminizip-dev zlib1g-dev" ;;
     window) echo "fonts-open-sans fonts-dejavu-core" ;;
     browser) echo "chromium chromium-driver" ;;
+    reader) echo "xvfb matchbox-window-manager dbus-daemon at-spi2-core" ;;
     trace) echo "strace" ;;
     schemas) echo "python3 python3-jsonschema" ;;
     bench) echo "libbenchmark-dev" ;;
@@ -23,6 +24,7 @@ reason_for() {
     build) echo "to build the program" ;;
     window) echo "to draw its window" ;;
     browser) echo "to try its web pages" ;;
+    reader) echo "to read its window as screen readers do" ;;
     trace) echo "to see which files its processes open" ;;
     schemas) echo "to hold its JSON against its schemas" ;;
     bench) echo "to measure its speed" ;;
