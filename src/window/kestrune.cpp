@@ -109,6 +109,12 @@ void Kestrune::fitToScreen(const QSize &available)
     area->setWidget(ui.tabWidget);
     setMinimumSize(form.boundedTo(room));
     resize(minimumSize());
+    if (room.width() >= form.width())
+        return;
+    // The status ends in dots, and the bar is as short as it can be.
+    ui.lblStatus->setMinimumWidth(0);
+    ui.pgrBar->setMinimumWidth(1);
+    ui.horizontalLayout->setSpacing(ui.gridLayout_2->verticalSpacing());
 }
 
 void Kestrune::makeWinSxsWorker()

@@ -2,8 +2,12 @@
 
 #include "rowtext.h"
 
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
 #include <QTableWidget>
 #include <QTextDocument>
+#include <QToolTip>
 
 using namespace Qt::StringLiterals;
 
@@ -44,7 +48,7 @@ QString wrappedText(const QString &text)
 QString wrappingToolTip(const QString &text)
 {
     constexpr int longText = 50; // of letters that may be twice as wide as others
-    return text.size() > longText ? escaped(text) : text;
+    return text.size() > longText || Qt::mightBeRichText(text) ? escaped(text) : text;
 }
 
 void explain(QWidget *widget, const QString &text)
@@ -94,4 +98,39 @@ QList<QTableWidgetItem *> firstCells(const QTableWidget *table)
 QString countText(const QString &label, qsizetype number)
 {
     return label + u' ' + QString::number(number);
+}
+
+QSize StatusLabel::minimumSizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(u'\u2026'), QLabel::minimumSizeHint().height()};
+}
+
+bool StatusLabel::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || shownText() == text())
+        return QLabel::event(event);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), wrappingToolTip(text()), this);
+    return true;
+}
+
+void StatusLabel::paintEvent(QPaintEvent *event)
+{
+    const QString shown = shownText();
+    if (shown == text()) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    const auto place = QStyle::visualAlignment(layoutDirection(), alignment());
+    style()->drawItemText(&painter, contentsRect(), int(place), palette(), isEnabled(), shown, foregroundRole());
+}
+
+QString StatusLabel::shownText() const
+{
+    const int room = contentsRect().width();
+    QString seen = text();
+    while (seen.endsWith(u' '))
+        seen.chop(1);
+    return fontMetrics().horizontalAdvance(seen) <= room ? text()
+                                                         : fontMetrics().elidedText(seen, Qt::ElideRight, room);
 }

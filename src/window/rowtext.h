@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the tables of the list pages share: tool tips, cells and summaries.
+// What the tables of the list pages share: tool tips, cells and summaries, with the label that has these.
 
 #pragma once
 
+#include <QLabel>
 #include <QList>
-#include <QString>
 
 class QTableWidget;
 class QTableWidgetItem;
-class QWidget;
 
 /**
  * The text of a description, as rich text where it is long, so that a tool tip wraps it. It holds no markup: that could
@@ -16,8 +15,7 @@ class QWidget;
  */
 QString wrappedText(const QString &text);
 
-/** A text of our own as a tool tip: as rich text where it is long, so that it wraps, also in a script of wide letters.
- */
+/** A text as a tool tip that shows it as it is, and wraps it where it is long, also in a script of wide letters. */
 QString wrappingToolTip(const QString &text);
 
 /** Gives a widget a text of our own as its tool tip, and to screen readers, which would read the tool tip's markup. */
@@ -47,3 +45,20 @@ QList<QTableWidgetItem *> firstCells(const QTableWidget *table);
 /** One number of a page's summary in the status, and what stands between two. */
 QString countText(const QString &label, qsizetype number);
 inline const QString summarySeparator = QStringLiteral("  |  ");
+
+/** One line, which ends in "…" where there is no room for all of it, and is whole in its tool tip then. */
+class StatusLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    /** What there is room for; the whole text where that fits, which the blanks at its end needn't. */
+    QString shownText() const;
+};

@@ -8,18 +8,22 @@
 #include "journal/journaling.h"
 #include "support/suite.h"
 #include "support/windowdriver.h"
+#include "window/rowtext.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBrowser>
+#include <QToolTip>
 #include <QTranslator>
 
 #include <cmath>
@@ -227,6 +231,30 @@ void setTextScale(TestMachine &machine, int scale)
     machine.write(u"HKEY_CURRENT_USER\\Software\\Microsoft\\Accessibility"_s, u"TextScaleFactor"_s, scale);
 }
 
+/** The toolkit's own label with a text, in another's place. */
+QImage pictureOfLabel(const QLabel *place, const QString &text)
+{
+    QLabel label(text, place->parentWidget());
+    label.setTextFormat(Qt::PlainText);
+    label.setGeometry(place->geometry());
+    return label.grab().toImage();
+}
+
+QString nameOf(QWidget *widget)
+{
+    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+}
+
+/** What a widget says where the mouse rests on it. */
+QString toolTipOf(QWidget *widget)
+{
+    QToolTip::hideText();
+    const QPoint middle = widget->rect().center();
+    QHelpEvent rests(QEvent::ToolTip, middle, widget->mapToGlobal(middle));
+    QCoreApplication::sendEvent(widget, &rests);
+    return QToolTip::text();
+}
+
 } // namespace
 
 class TestFit : public QObject
@@ -240,6 +268,9 @@ private Q_SLOTS:
     void everyTextGrows_data();
     void everyTextGrows();
     void theSizeOfTextsIsThatOfTheStart();
+    void statusEndsWithinTheWindow_data();
+    void statusEndsWithinTheWindow();
+    void statusThatFitsIsDrawnAsEver();
     void theWayBackFits_data() { languages(); }
     void theWayBackFits();
     void theKeepListFits_data() { languages(); }
@@ -341,6 +372,66 @@ void TestFit::everyTextGrows()
     }
     QCOMPARE(small.join(u'\n'), QString());
     QVERIFY(compared > 100);
+}
+
+void TestFit::statusEndsWithinTheWindow_data()
+{
+    addColumns<bool, bool>("isAtWork", "isBrokenOff");
+    QTest::newRow("alone") << false << false;
+    QTest::newRow("with the bar") << true << false;
+    QTest::newRow("with the button") << false << true;
+    QTest::newRow("with both") << true << true;
+}
+
+/** The screen is 800 pixels wide: what has no room there ends in dots, and is told as a whole. */
+void TestFit::statusEndsWithinTheWindow()
+{
+    QFETCH(const bool, isAtWork);
+    QFETCH(const bool, isBrokenOff);
+    TestMachine pc;
+    pc.write(settingsKey, u"lang"_s, u"en"_s);
+    setTextScale(pc, 225);
+    const WindowDriver driver;
+    QCOMPARE(driver.window().width(), 800);
+    auto *status = driver.get<QLabel>(u"lblStatus"_s);
+    QWidget *const button = driver.button(u"btnBrokenOff"_s);
+    const QString text = u"Task: <b>a</b> "_s + QString(200, u'x');
+    status->setText(text);
+    driver.bar()->setVisible(isAtWork);
+    button->setVisible(isBrokenOff);
+    for (QWidget *widget : {static_cast<QWidget *>(status), static_cast<QWidget *>(driver.bar()), button}) {
+        const auto isInside = [&] {
+            const QRect place(widget->mapTo(&driver.window(), QPoint()), widget->size());
+            return !widget->isVisible() || driver.window().rect().contains(place);
+        };
+        QTRY_VERIFY2(isInside(), qPrintable(widget->objectName()));
+    }
+    const QImage picture = status->grab().toImage(); // when it has its place
+    const QString elided = status->fontMetrics().elidedText(text, Qt::ElideRight, status->width());
+    QVERIFY(elided.endsWith(u'\u2026'));
+    QCOMPARE(picture, pictureOfLabel(status, elided));
+    QCOMPARE(toolTipOf(status), plainToolTip(text));
+    QCOMPARE(nameOf(status), text);
+}
+
+void TestFit::statusThatFitsIsDrawnAsEver()
+{
+    constexpr int width = 400;
+
+    const WindowOnPc driver;
+    auto *status = driver.get<QLabel>(u"lblStatus"_s);
+    status->setFixedWidth(width);
+    QString longest;
+    while (status->fontMetrics().horizontalAdvance(longest + u'i') <= width)
+        longest += u'i';
+    for (const QString &text : {u"Services: 313  |  started: 109  "_s, longest, QString(longest + u"  "_s)}) {
+        status->setText(text);
+        const QImage picture = status->grab().toImage(); // when it has its place
+        QCOMPARE(picture, pictureOfLabel(status, text));
+        QCOMPARE(toolTipOf(status), QString());
+    }
+    status->setText(longest + u'i');
+    QVERIFY(!toolTipOf(status).isEmpty());
 }
 
 void TestFit::languages()
