@@ -111,10 +111,9 @@ void Kestrune::fitToScreen(const QSize &available)
     resize(minimumSize());
     if (room.width() >= form.width())
         return;
-    // The status ends in dots, and the bar is as short as it can be.
+    // The status ends in dots, when the strip is as wide as the window.
     ui.lblStatus->setMinimumWidth(0);
-    ui.pgrBar->setMinimumWidth(1);
-    ui.horizontalLayout->setSpacing(ui.gridLayout_2->verticalSpacing());
+    ui.gridLayout_2->setColumnStretch(0, 1);
 }
 
 void Kestrune::makeWinSxsWorker()

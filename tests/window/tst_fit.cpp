@@ -270,6 +270,7 @@ private Q_SLOTS:
     void theSizeOfTextsIsThatOfTheStart();
     void statusEndsWithinTheWindow_data();
     void statusEndsWithinTheWindow();
+    void statusThatFitsASmallWindowIsWhole();
     void statusThatFitsIsDrawnAsEver();
     void theWayBackFits_data() { languages(); }
     void theWayBackFits();
@@ -380,7 +381,6 @@ void TestFit::statusEndsWithinTheWindow_data()
     QTest::newRow("alone") << false << false;
     QTest::newRow("with the bar") << true << false;
     QTest::newRow("with the button") << false << true;
-    QTest::newRow("with both") << true << true;
 }
 
 /** The screen is 800 pixels wide: what has no room there ends in dots, and is told as a whole. */
@@ -412,6 +412,21 @@ void TestFit::statusEndsWithinTheWindow()
     QCOMPARE(picture, pictureOfLabel(status, elided));
     QCOMPARE(toolTipOf(status), plainToolTip(text));
     QCOMPARE(nameOf(status), text);
+}
+
+/** It has the strip for itself there. */
+void TestFit::statusThatFitsASmallWindowIsWhole()
+{
+    TestMachine pc;
+    pc.write(settingsKey, u"lang"_s, u"en"_s);
+    setTextScale(pc, 225);
+    const WindowDriver driver;
+    auto *status = driver.get<QLabel>(u"lblStatus"_s);
+    for (const QString &text :
+         {u"Autorun: 12  |  disabled: 0  "_s, u"Autorun: 1"_s, u"Autorun: 12  |  disabled: 1  "_s}) {
+        status->setText(text);
+        QTRY_COMPARE(toolTipOf(status), QString());
+    }
 }
 
 void TestFit::statusThatFitsIsDrawnAsEver()
