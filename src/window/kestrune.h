@@ -261,7 +261,7 @@ private:
     void showServicesPage();
     void onServiceJobLine(QString &line);
     void fillServiceTable();
-    void addServiceRow(const ServiceRow &row, int greyed);
+    void setServiceRow(int index, const ServiceRow &row, int greyed);
     void setServiceView(bool disabledView);
     void restoreRecordedServices();
     void setServiceStart(const QString &argument);
@@ -270,7 +270,7 @@ private:
     void showTasksPage();
     void onTaskJobLine(const QString &line);
     void fillTaskTable();
-    void addTaskRow(const TaskRow &row);
+    void setTaskRow(int index, const TaskRow &row);
     void disableCheckedTasks();
 
     // Autorun page
@@ -282,7 +282,7 @@ private:
     void showPackagesPage();
     void onPackageJobLine(const QString &line);
     void fillPackageTable();
-    void addPackageRow(const QString &name, const QString &displayName, const QString &comments);
+    void addPackageRows(const QList<PackageRow> &packages);
 
     // System information page
     void showInfoPage();

@@ -26,8 +26,7 @@ void Kestrune::showPackagesPage()
 
 void Kestrune::fillPackageTable()
 {
-    for (const PackageRow &row : std::as_const(workThread->packages))
-        addPackageRow(row.name, row.displayName, row.comment);
+    addPackageRows(workThread->packages);
     ui.lblStatus->setText(countText(tr("Packages installed:"), ui.tblPackages->rowCount()) + summarySeparator
                           + countText(tr("uninstalled:"), recordedNames(u"Packages"_s).size()) + u"  "_s);
 }
@@ -38,18 +37,19 @@ void Kestrune::onPackageJobLine(const QString &line)
     ui.lblStatus->setText(line + u"  "_s);
 }
 
-void Kestrune::addPackageRow(const QString &name, const QString &displayName, const QString &comments)
+void Kestrune::addPackageRows(const QList<PackageRow> &packages)
 {
-    const QString texts[] = {name, displayName, comments};
     const bool uninstalledView = ui.btnPackagesViewDisabled->text() == tr("View installed packages");
-    const int index = ui.tblPackages->rowCount();
-    ui.tblPackages->setRowCount(index + 1);
-    ui.tblPackages->setRowHeight(index, 6);
-    for (int column = 2; column >= 0; --column) {
-        QTableWidgetItem *item = newCell(ui.tblPackages, column, texts[column]);
-        if (column == 0)
-            item->setCheckState(uninstalledView ? Qt::Unchecked : Qt::Checked);
-        ui.tblPackages->setItem(index, column, item);
+    int index = appendRows(ui.tblPackages, packages.size());
+    for (const PackageRow &row : packages) {
+        const QString texts[] = {row.name, row.displayName, row.comment};
+        for (int column = 2; column >= 0; --column) {
+            QTableWidgetItem *item = newCell(ui.tblPackages, column, texts[column]);
+            if (column == 0)
+                item->setCheckState(uninstalledView ? Qt::Unchecked : Qt::Checked);
+            ui.tblPackages->setItem(index, column, item);
+        }
+        ++index;
     }
 }
 
@@ -90,7 +90,9 @@ void Kestrune::on_btnPackagesViewDisabled_clicked()
     ui.tblPackages->setColumnWidth(1, 0);
     ui.tblPackages->setColumnWidth(2, 0);
     growColumns();
+    QList<PackageRow> uninstalled;
     for (const QString &name : trustedPackages())
-        addPackageRow(name, QString(), QString());
+        uninstalled.append({name, QString(), QString()});
+    addPackageRows(uninstalled);
     ui.lblStatus->setText(countText(tr("Packages uninstalled:"), ui.tblPackages->rowCount()) + u"  "_s);
 }

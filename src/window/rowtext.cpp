@@ -2,12 +2,15 @@
 
 #include "rowtext.h"
 
+#include <QHeaderView>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QTableWidget>
 #include <QTextDocument>
 #include <QToolTip>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -85,6 +88,17 @@ QTableWidgetItem *newCell(const QTableWidget *table, int column, const QString &
     if (text.isEmpty())
         cell->setData(Qt::AccessibleTextRole, spokenText(text, table->horizontalHeaderItem(column)->text()));
     return cell;
+}
+
+int appendRows(QTableWidget *table, qsizetype count)
+{
+    constexpr int asked = 6;
+    // A header that is told the height of one row adds up those of all before it.
+    QHeaderView *heights = table->verticalHeader();
+    heights->setDefaultSectionSize(std::max(asked, heights->minimumSectionSize()));
+    const int first = table->rowCount();
+    table->setRowCount(first + static_cast<int>(count));
+    return first;
 }
 
 QList<QTableWidgetItem *> firstCells(const QTableWidget *table)

@@ -39,6 +39,9 @@ QString spokenText(const QString &text, const QString &title);
 /** A cell for a column of a list, which can't be edited. */
 QTableWidgetItem *newCell(const QTableWidget *table, int column, const QString &text);
 
+/** Gives a list so many rows more, each as low as its font allows; the index of the first. */
+int appendRows(QTableWidget *table, qsizetype count);
+
 /** The first cells of all rows; rows may move while they are changed. */
 QList<QTableWidgetItem *> firstCells(const QTableWidget *table);
 

@@ -19,6 +19,8 @@
 #include <QSignalBlocker>
 #include <QUrl>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -99,14 +101,14 @@ void Kestrune::onServiceJobLine(QString &line)
 void Kestrune::fillServiceTable()
 {
     ui.tblSvc->setRowCount(0);
-    svcDisabledCount = svcStartedCount = svcStoppedCount = 0;
-    for (const ServiceRow &row : workThread->services) {
-        if (row.running) {
-            ++svcStartedCount;
-            addServiceRow(row, 0);
-        } else {
-            ++svcStoppedCount;
-        }
+    svcDisabledCount = 0;
+    const QList<ServiceRow> &services = workThread->services;
+    svcStartedCount = static_cast<int>(std::ranges::count(services, true, &ServiceRow::running));
+    svcStoppedCount = static_cast<int>(services.size()) - svcStartedCount;
+    int index = appendRows(ui.tblSvc, svcStartedCount);
+    for (const ServiceRow &row : services) {
+        if (row.running)
+            setServiceRow(index++, row, 0);
         if (row.startsAs(StartDisabled))
             ++svcDisabledCount;
     }
@@ -116,16 +118,13 @@ void Kestrune::fillServiceTable()
                           + countText(tr("disabled:"), svcDisabledCount) + u"  "_s);
 }
 
-void Kestrune::addServiceRow(const ServiceRow &row, int greyed)
+void Kestrune::setServiceRow(int index, const ServiceRow &row, int greyed)
 {
     const QString texts[] = {row.displayName.isEmpty() ? row.name : row.displayName, startModeText(row),
                              row.description};
     const QString toolTip = rowToolTip(row.name, row.description);
     const bool locked = greyed == 1 || isCriticalService(row);
 
-    const int index = ui.tblSvc->rowCount();
-    ui.tblSvc->setRowCount(index + 1);
-    ui.tblSvc->setRowHeight(index, 6);
     // The first cell comes last: where the table is sorted, it moves the row.
     for (int column = 2; column >= 0; --column) {
         QTableWidgetItem *item = newCell(ui.tblSvc, column, texts[column]);
@@ -239,9 +238,9 @@ void Kestrune::on_btnSvcViewDisabled_clicked()
     const auto records = openRecords(u"SVC"_s);
     for (const ServiceRow &row : workThread->services) {
         if (records->value(row.name, 0).toInt() == 1)
-            addServiceRow(row, 0);
+            setServiceRow(appendRows(ui.tblSvc, 1), row, 0);
         else if (row.startsAs(StartDisabled))
-            addServiceRow(row, 1);
+            setServiceRow(appendRows(ui.tblSvc, 1), row, 1);
     }
 }
 

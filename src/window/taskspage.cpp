@@ -10,6 +10,8 @@
 #include "work/statusline.h"
 #include "work/tasks/tasks.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -51,33 +53,30 @@ void Kestrune::fillTaskTable()
     const int section = header->sortIndicatorSection();
     const Qt::SortOrder order = header->sortIndicatorOrder();
     header->setSortIndicator(-1, order);
-    for (const TaskRow &row : std::as_const(workThread->tasks))
-        addTaskRow(row);
+    const QList<TaskRow> &tasks = workThread->tasks;
+    const qsizetype enabled = std::ranges::count(tasks, 0, &TaskRow::disabled);
+    taskEnabledCount += static_cast<int>(enabled);
+    taskDisabledCount += static_cast<int>(tasks.size() - enabled);
+    int index = appendRows(ui.tblTasks, enabled);
+    for (const TaskRow &row : tasks) {
+        if (row.disabled == 0)
+            setTaskRow(index++, row);
+    }
     header->setSortIndicator(section, order);
     ui.lblStatus->setText(countText(tr("Tasks:"), workThread->tasks.size()) + summarySeparator
                           + countText(tr("enabled:"), taskEnabledCount) + summarySeparator
                           + countText(tr("disabled:", "tasks"), taskDisabledCount) + u"  "_s);
 }
 
-void Kestrune::addTaskRow(const TaskRow &row)
+void Kestrune::setTaskRow(int index, const TaskRow &row)
 {
-    if (row.disabled != 0) {
-        ++taskDisabledCount;
-        return;
-    }
-    ++taskEnabledCount;
-    const int index = ui.tblTasks->rowCount();
-    ui.tblTasks->setRowCount(index + 1);
-    ui.tblTasks->setRowHeight(index, 6);
-
     QTableWidgetItem *path = newCell(ui.tblTasks, 0, row.path);
     path->setToolTip(rowToolTip(row.path, row.description));
     path->setCheckState(Qt::Unchecked);
     QTableWidgetItem *description = newCell(ui.tblTasks, 1, row.description);
     description->setToolTip(wrappedText(row.description));
-    // A sorted table moves the row as soon as its first cell is there.
     ui.tblTasks->setItem(index, 0, path);
-    ui.tblTasks->setItem(path->row(), 1, description);
+    ui.tblTasks->setItem(index, 1, description);
 }
 
 void Kestrune::onTaskJobLine(const QString &line)
