@@ -17,10 +17,14 @@ namespace {
 
 qint64 timeOf(const QStringList &arguments)
 {
+    QProcess program;
     QElapsedTimer timer;
     timer.start();
-    QProcess::execute(QCoreApplication::applicationDirPath() + u"/kestrune-bench-window"_s, arguments);
-    return timer.nsecsElapsed();
+    program.start(QCoreApplication::applicationDirPath() + u"/kestrune-bench-window"_s, arguments);
+    program.waitForReadyRead();
+    const qint64 time = timer.nsecsElapsed();
+    program.waitForFinished();
+    return time;
 }
 
 void start(benchmark::State &state)

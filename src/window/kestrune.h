@@ -314,6 +314,10 @@ private:
     void startLanguage();
     /** Installs the language's file; only if that can be read, the choice is stored. */
     void speak(const QString &tag, const QString &stored);
+    /** Speaks what the box's row stands for. */
+    void speakChosen(int index);
+    /** Sets all texts of the form in the language spoken, and all that goes by them. */
+    void sayAllAnew();
     void showOptionsPage();
     void loadTheme();
     void loadLanguage();

@@ -39,6 +39,12 @@ bool install(const QString &file)
     return loaded;
 }
 
+/** Whether texts may be other ones than the form's English. */
+bool isTranslated()
+{
+    return translator != nullptr && !translator->isEmpty();
+}
+
 } // namespace
 
 void Kestrune::speak(const QString &tag, const QString &stored)
@@ -49,7 +55,7 @@ void Kestrune::speak(const QString &tag, const QString &stored)
     currentLang = tag;
 }
 
-void Kestrune::onCbOptionsLangSelectionChanged(int index)
+void Kestrune::speakChosen(int index)
 {
     // Without its file a language that was chosen by name changes nothing; under Auto there is English then.
     if (index == English && QFile::exists(translationFile(u"en_US"_s)))
@@ -58,7 +64,16 @@ void Kestrune::onCbOptionsLangSelectionChanged(int index)
         speak(u"fr_FR"_s, u"fr"_s);
     else if (index == Auto)
         speak(QLocale::system().name(), u"auto"_s);
+}
 
+void Kestrune::onCbOptionsLangSelectionChanged(int index)
+{
+    speakChosen(index);
+    sayAllAnew();
+}
+
+void Kestrune::sayAllAnew()
+{
     ui.retranslateUi(this);
     growRichTexts();
     explainTweaks();
@@ -70,14 +85,21 @@ void Kestrune::onCbOptionsLangSelectionChanged(int index)
 void Kestrune::startLanguage()
 {
     const QString stored = openSettings()->value(u"lang"_s, u"auto"_s).toString();
-    if (stored == "en"_L1) {
-        // The form is English by itself.
-        ui.cbOptionsLang->setCurrentIndex(English);
-    } else if (stored == "fr"_L1) {
-        ui.cbOptionsLang->setCurrentIndex(French);
-        onCbOptionsLangSelectionChanged(French);
-    } else if (stored == "auto"_L1) {
-        ui.cbOptionsLang->setCurrentIndex(Auto);
-        onCbOptionsLangSelectionChanged(Auto);
+    const std::pair<QLatin1StringView, LanguageChoice> choices[] = {
+        {"en"_L1, English},
+        {"fr"_L1, French},
+        {"auto"_L1, Auto},
+    };
+    for (const auto &[name, language] : choices) {
+        if (stored != name)
+            continue;
+        ui.cbOptionsLang->setCurrentIndex(language);
+        // The form is English by itself, and all of it has just been made.
+        if (language == English)
+            continue;
+        const bool wasTranslated = isTranslated();
+        speakChosen(language);
+        if (wasTranslated || isTranslated())
+            sayAllAnew();
     }
 }

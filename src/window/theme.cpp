@@ -16,6 +16,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/** A style sheet that is set is worked through with all below the widget, also where nothing of it changes. */
+void wear(QWidget *widget, const QString &style)
+{
+    if (widget->styleSheet() != style)
+        widget->setStyleSheet(style);
+}
+
 QString linkColor()
 {
     return QGuiApplication::palette().color(QPalette::Link).name();
@@ -64,21 +71,21 @@ void Kestrune::styleButtons(const QString &viewStyle, const QString &actionStyle
         const bool view = isViewButton(button);
         if (!view)
             button->setFlat(flat);
-        button->setStyleSheet(view ? viewStyle : actionStyle);
+        wear(button, view ? viewStyle : actionStyle);
     }
 }
 
 void Kestrune::styleTables(const QString &style)
 {
     for (QTableWidget *table : {ui.tblSvc, ui.tblTasks, ui.tblAutorun, ui.tblPackages})
-        table->setStyleSheet(style);
+        wear(table, style);
 }
 
 template<typename Widget>
 void Kestrune::styleAll(const QString &style)
 {
     for (Widget *widget : ui.wgtMain->findChildren<Widget *>())
-        widget->setStyleSheet(style);
+        wear(widget, style);
 }
 
 void Kestrune::applyLightTheme()
@@ -91,8 +98,8 @@ void Kestrune::applyLightTheme()
     styleButtons(viewButtonStyle(buttons), actionButtonStyle(buttons), true);
     styleAll<QComboBox>(lightComboBoxStyle(platform().resourceFolder(), link));
     styleAll<QCheckBox>(lightCheckBoxStyle(workThread->winName.contains("Windows 10"_L1, Qt::CaseInsensitive), link));
-    ui.txtAutomatizer->setStyleSheet(u"border-radius: 6px; border: 1px solid "_s + QColor(220, 220, 220).name() + u';');
-    ui.txtAutomatizer->verticalScrollBar()->setStyleSheet(lightScrollBarStyle());
+    wear(ui.txtAutomatizer, u"border-radius: 6px; border: 1px solid "_s + QColor(220, 220, 220).name() + u';');
+    wear(ui.txtAutomatizer->verticalScrollBar(), lightScrollBarStyle());
     styleTables(tableSelectionStyle(u"lightGray"_s));
     openSettings()->setValue(u"palette"_s, u"light"_s);
     currentTheme = LightTheme;
@@ -106,8 +113,8 @@ void Kestrune::applyDarkTheme()
                                palette.color(QPalette::Link)};
     styleButtons(viewButtonStyle(buttons), actionButtonStyle(buttons), true);
     styleAll<QCheckBox>(QString());
-    ui.txtAutomatizer->setStyleSheet(QString());
-    ui.txtAutomatizer->verticalScrollBar()->setStyleSheet(QString());
+    wear(ui.txtAutomatizer, QString());
+    wear(ui.txtAutomatizer->verticalScrollBar(), QString());
     styleTables(tableSelectionStyle(QColor(35, 35, 35).name()));
     openSettings()->setValue(u"palette"_s, u"dark"_s);
     currentTheme = DarkTheme;
@@ -130,8 +137,8 @@ void Kestrune::wearSystemLook()
     styleButtons(QString(), QString(), false);
     styleComboBoxes({}, {});
     styleAll<QCheckBox>(QString());
-    ui.txtAutomatizer->setStyleSheet(QString());
-    ui.txtAutomatizer->verticalScrollBar()->setStyleSheet(QString());
+    wear(ui.txtAutomatizer, QString());
+    wear(ui.txtAutomatizer->verticalScrollBar(), QString());
     styleTables(QString());
 }
 
@@ -170,8 +177,8 @@ void Kestrune::onCbOptionsThemeSelectionChanged(int index)
 void Kestrune::styleComboBoxes(const QString &style, const QString &listStyle)
 {
     for (QComboBox *box : ui.wgtMain->findChildren<QComboBox *>()) {
-        box->setStyleSheet(style);
-        box->view()->setStyleSheet(listStyle);
+        wear(box, style);
+        wear(box->view(), listStyle);
     }
 }
 
@@ -184,9 +191,9 @@ void Kestrune::colorTexts()
     const QString window = QGuiApplication::palette().color(QPalette::Window).name();
     const QString link = linkColor();
     for (QTextBrowser *browser : browsers)
-        browser->setStyleSheet(u"background-color: "_s + window);
+        wear(browser, u"background-color: "_s + window);
     for (QLabel *heading : headings)
-        heading->setStyleSheet(u"color: "_s + link);
+        wear(heading, u"color: "_s + link);
     for (QTextBrowser *browser : browsers)
         colorText(browser);
 }
