@@ -95,6 +95,8 @@ void copyDatabase(const Machine &source, const QString &folder)
 {
     try {
         source.database().query("VACUUM INTO ?").bind(folder + u"/machine.sqlite"_s).run();
+        // Which gives a database that makes a file of its own at each change, and looks for one at each question.
+        Database(folder + u"/machine.sqlite"_s).execute("PRAGMA journal_mode = WAL");
     } catch (const MachineError &error) {
         if (error.damaged)
             throw;

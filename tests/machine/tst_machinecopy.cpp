@@ -5,6 +5,7 @@
 #include "support/suite.h"
 
 #include "machine/compare/machinediff.h"
+#include "machine/database.h"
 #include "machine/machine.h"
 
 #include <QDir>
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void copyDiffersInNothing();
     void copyIsAMachineOfItsOwn();
     void builtInMachine();
+    void aCopyMakesNoFileAtEachChange();
     void linksAndHiddenFilesComeToo();
     void linksWithinLeadToTheCopysOwnFiles();
     void largeFilesKeepTheirSize();
@@ -65,6 +67,18 @@ void TestMachineCopy::builtInMachine()
     const auto copy = Machine::open(folder.filePath(u"copy"_s));
     QCOMPARE(compareMachines(*source, *copy), QList<DiffRow>());
     QVERIFY(!copy->tasks().isEmpty());
+}
+
+void TestMachineCopy::aCopyMakesNoFileAtEachChange()
+{
+    SmallMachine source;
+
+    copyMachine(*source, source.beside(u"copy"_s));
+
+    const auto copy = Machine::open(source.beside(u"copy"_s));
+    auto mode = copy->database().query("PRAGMA journal_mode");
+    QVERIFY(mode.next());
+    QCOMPARE(mode.text(0), u"wal"_s);
 }
 
 void TestMachineCopy::linksAndHiddenFilesComeToo()
