@@ -44,6 +44,10 @@ set(CMAKE_CXX_FLAGS_INIT "${same_bytes} -fstack-protector-strong${threads_as_gcc
 # Windows may put the program anywhere in memory, and runs nothing that isn't code.
 string(CONCAT linking "-static -fstack-protector-strong -Wl,--no-insert-timestamp "
     "-Wl,--dynamicbase,--high-entropy-va,--nxcompat")
+if(KESTRUNE_MINGW_CLANG)
+    # What is there once of a template, GCC's libraries keep in sections of other kinds and sizes.
+    string(APPEND linking " -Wl,--allow-multiple-definition,--no-warnings")
+endif()
 set(CMAKE_EXE_LINKER_FLAGS_INIT "${linking}")
 # The linker leaves the symbols out: strip would do it too, but writes the time of day into the file.
 set(CMAKE_EXE_LINKER_FLAGS_RELEASE_INIT "-s")

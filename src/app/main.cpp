@@ -128,6 +128,9 @@ int changesInForce()
 
 } // namespace
 
+/** Qt's own entry point calls it on Windows, by another name. */
+int main(int argc, char **argv);
+
 int main(int argc, char **argv)
 {
     constexpr int noMachine = 3;

@@ -736,7 +736,8 @@ void TestWayBack::theKeyboardReachesEverything()
     QVERIFY(disable(driver, {u"Alpha"_s}));
     const Dialog dialog(driver);
     dialog.choose(u"Disable services"_s);
-    QApplication::setActiveWindow(&*dialog);
+    (*dialog).activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&*dialog));
     dialog.sessions()->setFocus();
     QStringList reached;
     for (int step = 0; step < 9; ++step) {

@@ -195,7 +195,7 @@ void TestRealLists::packagesGoAndComeBack()
     QCOMPARE(valuesOf(uninstallKey).isEmpty(), admitted);
     QCOMPARE(valuesOf(userRunKey).contains(u"OneDrive"_s), !admitted);
     QCOMPARE(QFile::exists(oneDriveHome() + u"OneDrive.exe"_s), !admitted);
-    for (const auto &[path, value] : valuesOf(repositoryKey).asKeyValueRange())
+    for (const auto [path, value] : valuesOf(repositoryKey).asKeyValueRange())
         QVERIFY2(!path.startsWith("Microsoft.BingNews_"_L1) && !path.startsWith("Microsoft.BingWeather_"_L1),
                  qPrintable(path));
     QVERIFY(driver_->openPackages());
@@ -232,7 +232,7 @@ void TestRealLists::programsAreSwitchedOffAndOn()
     const QString table = u"tblAutorun"_s;
     const QStringList uninstalled{u"Old Player"_s, u"Notes"_s}; // on one PC each
     for (const QString &key : {userRunKey, machineRunKey, machineRunKey32}) {
-        for (const auto &[name, command] : valuesOf(key).asKeyValueRange()) {
+        for (const auto [name, command] : valuesOf(key).asKeyValueRange()) {
             const QString program = command.toString().section(u'"', 1, 1);
             if (!program.isEmpty() && !uninstalled.contains(name))
                 layFile(program);
