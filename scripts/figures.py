@@ -49,8 +49,9 @@ def measured(results):
         parts = []
         if "each" in run:
             parts.append(duration(run["each"]) + " each")
-        if "ratio" in run:
-            parts.append("ratio " + shown(run["ratio"]))
+        for counter in ("ratio", "own share"):
+            if counter in run:
+                parts.append(f"{counter} {shown(run[counter])}")
         if "peakMB" in run:
             parts.append(shown(run["peakMB"]) + " MB")
         rows[name] = (run["real_time"] * UNITS[run["time_unit"]], ", ".join(parts))
