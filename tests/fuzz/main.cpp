@@ -42,8 +42,14 @@ FuzzTarget::FuzzTarget(const char *name, Take take)
 
 #ifdef KESTRUNE_LIBFUZZER
 
+// libFuzzer calls them, and has no header for it.
+extern "C" {
+int LLVMFuzzerInitialize(int *argc, char ***argv);
+int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size);
+}
+
 // What the readers say of bad input would only fill the terminal.
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     static const QCoreApplication application(*argc, *argv);
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
@@ -53,7 +59,7 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
     return 0;
 }
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
+int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
 {
     static const FuzzTarget::Take take = targetCalled(qgetenv("KESTRUNE_FUZZ_TARGET").toStdString());
     take(QByteArray(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size)));
