@@ -12,7 +12,9 @@
 #include <QJsonObject>
 #include <QTimer>
 
+#include <chrono>
 #include <cstdio>
+#include <future>
 
 using namespace Qt::StringLiterals;
 
@@ -69,17 +71,21 @@ std::optional<QString> runToEnd(WorkThread &worker, int job, LineTaker &lines, v
 
 void runToEnd(const std::function<void()> &work)
 {
-    const std::unique_ptr<QThread> thread(QThread::create([&work] {
+    std::packaged_task<void()> task([&work] {
         try {
             work();
         } catch (const JobInterrupted &) {
             // The one who asked for it waits below.
         }
-    }));
+    });
+    std::future<void> end = task.get_future();
+    const std::unique_ptr<QThread> thread(QThread::create([&task] { task(); }));
     thread->start();
-    while (!thread->wait(interruptionSlice)) {
+    while (end.wait_for(std::chrono::milliseconds(interruptionSlice)) != std::future_status::ready) {
         if (isInterrupted())
             thread->requestInterruption();
     }
+    thread->wait();
+    end.get();
     stopIfInterrupted();
 }
