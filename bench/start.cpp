@@ -21,7 +21,8 @@ qint64 timeOf(const QStringList &arguments)
     QElapsedTimer timer;
     timer.start();
     program.start(QCoreApplication::applicationDirPath() + u"/kestrune-bench-window"_s, arguments);
-    program.waitForReadyRead();
+    if (!program.waitForReadyRead())
+        qFatal("kestrune-bench-window doesn't say that it has painted");
     const qint64 time = timer.nsecsElapsed();
     program.waitForFinished();
     return time;
