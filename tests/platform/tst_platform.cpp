@@ -61,6 +61,7 @@ private Q_SLOTS:
     void attributesOfFilesAndFolders();
     void attributesOfALinkAreItsOwn();
     void attributesSetDuringAWalkLastWhenItIsOver();
+    void attributesSetForWhatAWalkHasYetToComeTo();
 
     void programFiles_data();
     void programFiles();
@@ -311,6 +312,30 @@ void TestPlatform::attributesSetDuringAWalkLastWhenItIsOver()
         return false;
     });
     QCOMPARE(Machine::open(contract_->folder())->attributes(file), 0x2020u);
+}
+
+void TestPlatform::attributesSetForWhatAWalkHasYetToComeTo()
+{
+    constexpr int count = 600; // more than a walk reads ahead
+    QHash<QString, quint32> expected;
+    QStringList files;
+    for (int i = 0; i < count; ++i) {
+        files << drive() + u"/file%1.txt"_s.arg(i);
+        writeFile(files.last(), "x");
+        expected.insert(files.last(), 0x20);
+    }
+    int visits = 0;
+    QStringList wrong;
+    platform().walk(u"C:"_s, [&](const WalkEntry &entry) {
+        if (platform().fileAttributes(entry.path) != expected.value(entry.path, 0x10))
+            wrong << entry.path;
+        const QString &other = files.at(visits++ * 7 % count);
+        platform().setFileAttributes(other, 0x2020);
+        expected[other] = 0x2020;
+        return true;
+    });
+    QCOMPARE(wrong, QStringList());
+    QVERIFY(visits >= count);
 }
 
 void TestPlatform::programFiles_data()

@@ -20,9 +20,8 @@ constexpr quint32 noWord = 0xffffffff;
 std::optional<quint32> AttributeWords::read(const QString &file)
 {
     const std::lock_guard lock(lock_);
-    if (waiting_.contains(file))
-        store();
-    const std::optional<quint32> word = machine_.attributesOfFile(file);
+    asked_ = walks_ > 0;
+    const std::optional<quint32> word = wordOf(file);
     if (walks_ == 0 || present_.size() >= mostPresent)
         present_.clear();
     if (word)
@@ -30,9 +29,35 @@ std::optional<quint32> AttributeWords::read(const QString &file)
     return word;
 }
 
+std::optional<quint32> AttributeWords::wordOf(const QString &file)
+{
+    if (const auto ahead = ahead_.constFind(file); ahead != ahead_.cend()) {
+        const std::optional<quint32> word = *ahead;
+        ahead_.erase(ahead);
+        return word;
+    }
+    if (waiting_.contains(file))
+        store();
+    return machine_.attributesOfFile(file);
+}
+
+void AttributeWords::readAhead(const QList<WalkEntry> &found)
+{
+    const std::lock_guard lock(lock_);
+    ahead_.clear();
+    if (!asked_)
+        return;
+    const Database::Snapshot together(machine_.database());
+    for (const WalkEntry &entry : found) {
+        if (!waiting_.contains(entry.path))
+            ahead_.insert(entry.path, machine_.attributesOfFile(entry.path));
+    }
+}
+
 void AttributeWords::write(const QString &file, quint32 word)
 {
     const std::lock_guard lock(lock_);
+    ahead_.remove(file);
     if (word == noWord || (!present_.remove(file) && !QFileInfo::exists(file)))
         return;
     waiting_.insert(file, word);
@@ -66,6 +91,9 @@ AttributeWords::Walk::~Walk()
 {
     const std::lock_guard lock(words_.lock_);
     words_.store();
-    if (--words_.walks_ == 0)
-        words_.present_.clear();
+    if (--words_.walks_ > 0)
+        return;
+    words_.asked_ = false;
+    words_.ahead_.clear();
+    words_.present_.clear();
 }

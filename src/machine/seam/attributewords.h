@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/platform.h"
+
 #include <QHash>
 #include <QSet>
 #include <QString>
@@ -26,6 +28,11 @@ public:
 
     /** By host path; nothing where there is no such file. Throws MachineError. */
     std::optional<quint32> read(const QString &file);
+    /**
+     * Has the words of what a walk has found ready before it asks for each: one lock of the database serves them all.
+     * Does nothing in a walk that hasn't asked for a word yet. Throws MachineError.
+     */
+    void readAhead(const QList<WalkEntry> &found);
     /** A file that isn't there is passed over. */
     void write(const QString &file, quint32 word);
 
@@ -42,11 +49,14 @@ public:
     };
 
 private:
+    std::optional<quint32> wordOf(const QString &file);
     void store();
 
     Machine &machine_;
     std::mutex lock_;
     QHash<QString, quint32> waiting_;
+    QHash<QString, std::optional<quint32>> ahead_;
     QSet<QString> present_; ///< what a walk has read and not yet written, else the file read last
     int walks_ = 0;
+    bool asked_ = false; ///< whether a walk has read a word
 };

@@ -30,6 +30,7 @@ constexpr quint32 errorBadImage = 193;
 constexpr qint32 wmiInvalidClass = -2147217392; // WBEM_E_INVALID_CLASS
 constexpr int pauseSlice = 10;                  // milliseconds
 constexpr qsizetype mostProcesses = 1024;
+constexpr qsizetype foundAtOnce = 250; // few enough for a walk to end at once when it is asked to
 constexpr QStringView tools[] = {u"sc",  u"schtasks", u"powershell", u"taskkill", u"onedrivesetup",
                                  u"cmd", u"powercfg", u"bcdedit",    u"takeown",  u"icacls"};
 
@@ -166,13 +167,24 @@ void MachinePlatform::walk(const QString &windowsPath, const std::function<bool(
     const AttributeWords::Walk together(attributes_);
     const QStringList hidden = guarded(QStringList(), [this] { return machine_->pathsWithAttribute(AttributeHidden); });
     const QHash<QString, qint64> sizes = guarded(QHash<QString, qint64>(), [this] { return machine_->givenSizes(); });
+    QList<WalkEntry> found;
+    const auto visitFound = [&] {
+        guarded(false, [&] {
+            attributes_.readAhead(found);
+            return true;
+        });
+        const QList<WalkEntry> entries = std::exchange(found, {});
+        return std::all_of(entries.cbegin(), entries.cend(), visit);
+    };
     walkFolder(
         hostPath(windowsPath), QSet<QString>(hidden.cbegin(), hidden.cend()),
         [this](const QString &link) { return machine_->leadsOut(link); },
         [&](const WalkEntry &entry) {
             const qint64 given = sizes.isEmpty() ? 0 : sizes.value(machine_->pathKey(entry.path));
-            return visit({entry.path, std::max(entry.size, given)});
+            found.append({entry.path, std::max(entry.size, given)});
+            return found.size() < foundAtOnce || visitFound();
         });
+    visitFound();
 }
 
 quint32 MachinePlatform::fileAttributes(const QString &file) const
