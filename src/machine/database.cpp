@@ -15,6 +15,8 @@
 
 #include <sqlite3.h>
 
+#include <cstring>
+
 #ifdef Q_OS_UNIX
 #include <pthread.h>
 #endif
@@ -267,6 +269,30 @@ QByteArray Database::Query::bytes(int column) const
 {
     const auto *bytes = static_cast<const char *>(sqlite3_column_blob(statement_, column));
     return QByteArray(bytes, sqlite3_column_bytes(statement_, column));
+}
+
+bool Database::Query::hasRowOf(const Query &other) const
+{
+    const int columns = sqlite3_data_count(statement_);
+    if (columns != sqlite3_data_count(other.statement_))
+        return false;
+    for (int column = 0; column < columns; ++column) {
+        const int type = sqlite3_column_type(statement_, column);
+        if (type != sqlite3_column_type(other.statement_, column))
+            return false;
+        if (type == SQLITE_INTEGER) {
+            if (integer(column) != other.integer(column))
+                return false;
+            continue;
+        }
+        const void *content = sqlite3_column_blob(statement_, column);
+        const void *otherContent = sqlite3_column_blob(other.statement_, column);
+        const int size = sqlite3_column_bytes(statement_, column);
+        if (size != sqlite3_column_bytes(other.statement_, column)
+            || (size > 0 && std::memcmp(content, otherContent, size_t(size)) != 0))
+            return false;
+    }
+    return true;
 }
 
 Database::Snapshot::Snapshot(Database &database)

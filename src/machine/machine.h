@@ -53,7 +53,7 @@ struct ToolFault
 /** Who has made a machine, as far as is known. */
 enum class Origin {
     Anybody, ///< it is looked through as a whole
-    Checked  ///< it was, by the process that has started this one to work on it
+    Checked  ///< it was, by this process before it was copied, or by the one that has started this one to work on it
 };
 
 /**

@@ -230,6 +230,20 @@ QList<RegistryValue> RegistryStore::values(KeyId key) const
     return result;
 }
 
+bool RegistryStore::hasSameValues(KeyId key, const RegistryStore &other, KeyId otherKey) const
+{
+    constexpr const char *sql = "SELECT name, type, data FROM value WHERE key = ? ORDER BY fold";
+    auto mine = database_.query(sql);
+    auto others = other.database_.query(sql);
+    mine.bind(key);
+    others.bind(otherKey);
+    while (mine.next()) {
+        if (!others.next() || !mine.hasRowOf(others))
+            return false;
+    }
+    return !others.next();
+}
+
 QStringList RegistryStore::valueNames(KeyId key) const
 {
     QStringList names;

@@ -60,6 +60,8 @@ public:
     QList<QString> subkeys(KeyId key) const;
     /** The key's own values, sorted by name by UTF-16 code unit. */
     QList<RegistryValue> values(KeyId key) const;
+    /** Whether a key has the same values as one of another store, by names, types and data; quicker than values(). */
+    bool hasSameValues(KeyId key, const RegistryStore &other, KeyId otherKey) const;
     /** The names of the key's own values, sorted by UTF-16 code unit. */
     QStringList valueNames(KeyId key) const;
     /** All values at and below the key, each as its path below this key, backslashes between levels; unsorted. */

@@ -91,7 +91,7 @@ void checkNames(const QString &folder)
 std::unique_ptr<Machine> copyOf(const Machine &machine, const QString &folder)
 {
     copyMachine(machine, folder);
-    return Machine::open(folder);
+    return Machine::open(folder, Origin::Checked);
 }
 
 void makeCopies(Copies &copies, const QString &folder, const QStringList &options, Progress &progress)

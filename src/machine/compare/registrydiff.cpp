@@ -35,8 +35,10 @@ public:
     void compare(const QString &path, std::optional<KeyId> before, std::optional<KeyId> after)
     {
         stopIfInterrupted();
-        const QList<RegistryValue> valuesBefore = before ? before_.values(*before) : QList<RegistryValue>();
-        const QList<RegistryValue> valuesAfter = after ? after_.values(*after) : QList<RegistryValue>();
+        // In most keys nothing differs.
+        const bool differs = !before || !after || !before_.hasSameValues(*before, after_, *after);
+        const QList<RegistryValue> valuesBefore = before && differs ? before_.values(*before) : QList<RegistryValue>();
+        const QList<RegistryValue> valuesAfter = after && differs ? after_.values(*after) : QList<RegistryValue>();
         const Subkeys keysBefore = before ? before_.subkeysByName(*before) : Subkeys();
         const Subkeys keysAfter = after ? after_.subkeysByName(*after) : Subkeys();
 
@@ -46,8 +48,7 @@ public:
                 valuesBefore.isEmpty() && valuesAfter.isEmpty() && keysBefore.isEmpty() && keysAfter.isEmpty();
             visit_(difference);
         }
-        // In most keys nothing differs.
-        if (valuesBefore != valuesAfter)
+        if (differs)
             compareValues(path, byName(valuesBefore), byName(valuesAfter));
 
         Subkeys all = keysAfter;
