@@ -85,16 +85,24 @@ keep_result() {
     mv "$1" "$2"
 }
 
-# inside_source_of PACKAGE FOLDER: a Debian source package with Debian's patches, unpacked
+# inside_source_of PACKAGE FOLDER: a Debian source package with Debian's patches, unpacked. A mirror that is being brought
+# up to date may list a version whose files it hasn't got; then the one before it is taken.
 inside_source_of() {
+    local version
     [[ -d $2 ]] && return
     say "fetches the sources of $1"
-    rm -rf "$2.new"
-    mkdir -p "$2.new"
-    (cd "$2.new" && apt-get source -qq "$1" >"$inside_making/source.log" 2>&1) ||
-        { tail -n 20 "$inside_making/source.log" >&2; fail "could not fetch the sources of $1"; }
-    mv "$2.new"/*/ "$2"
-    rm -rf "$2.new"
+    while read -r version; do
+        rm -rf "$2.new"
+        mkdir -p "$2.new"
+        if (cd "$2.new" && apt-get source -qq "$1=$version" >"$inside_making/source.log" 2>&1 </dev/null); then
+            mv "$2.new"/*/ "$2"
+            rm -rf "$2.new"
+            return
+        fi
+        say "the mirror doesn't have them as of version $version"
+    done < <(apt-cache showsrc --only-source "$1" | sed -n 's/^Version: //p' | sort --version-sort --reverse)
+    tail -n 20 "$inside_making/source.log" >&2 || true
+    fail "could not fetch the sources of $1"
 }
 
 # An interrupted build goes on where it stopped, as long as its settings are the same.
