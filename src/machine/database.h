@@ -66,8 +66,7 @@ public:
         qint64 integer(int column) const;
         QString text(int column) const;
         QByteArray bytes(int column) const;
-        /** Whether two queries stand at rows that are stored alike: the same columns with the same types and contents.
-         */
+        /** Whether two queries stand at rows that are stored alike, with the same types and contents. */
         bool hasRowOf(const Query &other) const;
 
     private:

@@ -15,8 +15,8 @@
 class Machine;
 
 /**
- * Words that are written during a walk go into the database some hundreds at a time, and the last ones when the walk is
- * over or broken off; all others at once. Any thread.
+ * Words that are written during a walk go into the database some thousands at a time, and the last ones when the walk
+ * is over or broken off; all others at once. Any thread.
  */
 class AttributeWords
 {
@@ -55,7 +55,7 @@ private:
     Machine &machine_;
     std::mutex lock_;
     QHash<QString, quint32> waiting_;
-    QHash<QString, std::optional<quint32>> ahead_;
+    QHash<QString, std::optional<quint32>> ahead_; ///< read and not yet asked for
     QSet<QString> present_; ///< what a walk has read and not yet written, else the file read last
     int walks_ = 0;
     bool asked_ = false; ///< whether a walk has read a word

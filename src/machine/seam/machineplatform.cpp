@@ -20,6 +20,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
