@@ -50,7 +50,7 @@ if(KESTRUNE_MINGW_CLANG)
 endif()
 set(CMAKE_EXE_LINKER_FLAGS_INIT "${linking}")
 # The linker leaves the symbols out: strip would do it too, but writes the time of day into the file.
-set(CMAKE_EXE_LINKER_FLAGS_RELEASE_INIT "-s")
+set(CMAKE_EXE_LINKER_FLAGS_MINSIZEREL_INIT "-s")
 
 # ctest starts the tests with it.
 find_program(KESTRUNE_WINE wine)
