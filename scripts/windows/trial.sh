@@ -52,7 +52,7 @@ run_test_suite() {
     local begin=$SECONDS labels='^native$'
     [[ $1 != win11 ]] || labels='^(native|wine)$'
     # One at a time, and once more where one hangs: under load Wine loses the end of a process now and then.
-    quietly tests 1500 ctest --test-dir "$inside_build" --label-regex "$labels" --no-tests=error \
+    quietly tests 3000 ctest --test-dir "$inside_build" --label-regex "$labels" --no-tests=error \
         --output-on-failure --repeat until-pass:2
     say "trial: $(sed -n \
         's/^\(.*tests passed\).*out of \(.*\)/\1 of \2/p' "$desk_log/tests.txt"), in $(took $((SECONDS - begin)))"
