@@ -10,10 +10,28 @@
 
 namespace {
 
+/** Learns when a window has been asked to paint itself, which all that is on it does with it. */
+class PaintSeen : public QObject
+{
+public:
+    bool isSeen = false;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        isSeen = isSeen || event->type() == QEvent::Paint;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 int showUntilPainted(QMainWindow &window)
 {
+    // A picture that is asked for needs the sizes of hidden widgets, too: here the window paints itself, as on a
+    // screen.
+    PaintSeen paint;
+    window.installEventFilter(&paint);
     window.show();
-    window.grab();
+    while (!paint.isSeen)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     // Who waits for the first page needn't wait for the end.
     std::puts("painted");
     std::fflush(stdout);

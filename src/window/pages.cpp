@@ -2,7 +2,7 @@
 
 #include "pages.h"
 
-#include <QResizeEvent>
+#include <QStackedWidget>
 #include <QTabBar>
 
 namespace {
@@ -21,7 +21,8 @@ PageStack::PageStack(QWidget *parent)
     : QTabWidget(parent)
 {
     setTabBar(new TabsOfNoSize);
-    connect(this, &QTabWidget::currentChanged, this, &QWidget::updateGeometry);
+    // What holds the pages would ask each of them, too, before it is shown.
+    findChild<QStackedWidget *>()->setAttribute(Qt::WA_Resized);
 }
 
 QSize PageStack::sizeHint() const
@@ -34,23 +35,7 @@ QSize PageStack::minimumSizeHint() const
     return currentWidget() == nullptr ? QTabWidget::minimumSizeHint() : currentWidget()->minimumSizeHint();
 }
 
-PageText::PageText(QWidget *parent)
-    : QTextBrowser(parent)
+int PageStack::heightForWidth(int width) const
 {
-}
-
-void PageText::resizeEvent(QResizeEvent *event)
-{
-    if (wasShown)
-        QTextBrowser::resizeEvent(event);
-}
-
-void PageText::showEvent(QShowEvent *event)
-{
-    if (!wasShown) {
-        wasShown = true;
-        QResizeEvent resized(viewport()->size(), {});
-        QTextBrowser::resizeEvent(&resized);
-    }
-    QTextBrowser::showEvent(event);
+    return currentWidget() == nullptr ? -1 : currentWidget()->heightForWidth(width);
 }

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the pages stand in, and their long texts: both do without all that is asked of a page before it is seen.
+// What the pages stand in: it asks nothing of a page before it is seen.
 
 #pragma once
 
 #include <QTabWidget>
-#include <QTextBrowser>
 
 /**
  * Pages of which one is seen, without tabs to choose them by. Only that one says what room there must be: what the
@@ -18,19 +17,5 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-};
-
-/** A text of a page, whose lines are broken when it is first shown. */
-class PageText : public QTextBrowser
-{
-public:
-    /** @param parent owns it */
-    explicit PageText(QWidget *parent);
-
-protected:
-    void resizeEvent(QResizeEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-
-private:
-    bool wasShown = false;
+    int heightForWidth(int width) const override;
 };
